@@ -1,0 +1,23 @@
+#include "app/fault_report.h"
+
+#include <new>
+
+namespace quorvin {
+
+namespace {
+
+QString whatHappened(const std::exception& fault) {
+  if (const auto* known = dynamic_cast<const RuntimeFault*>(&fault)) {
+    return QStringLiteral("Run-time error '%1': %2").arg(known->number()).arg(known->description());
+  }
+  if (dynamic_cast<const std::bad_alloc*>(&fault)) return QStringLiteral("Run-time error: Out of memory");
+  return QStringLiteral("Run-time error: ") + QString::fromUtf8(fault.what());
+}
+
+}  // namespace
+
+QString faultReport(const std::exception& fault, const QString& doing) {
+  return whatHappened(fault) + QStringLiteral("\r\n\r\nThis happened while ") + doing + QStringLiteral(".");
+}
+
+}  // namespace quorvin

@@ -1,0 +1,73 @@
+// The view of the hit list.
+#pragma once
+
+#include <QAbstractItemView>
+#include <QHeaderView>
+#include <QString>
+
+namespace quorvin {
+
+/// A list with columns for any number of rows, up to 2^31 - 1: all rows have the same height and nothing is
+/// kept or computed for a row that is not on the screen. (The toolkit's own tables and trees keep a record
+/// for every row.) One row can be selected. The vertical scroll bar counts in rows.
+class HitListView : public QAbstractItemView {
+  Q_OBJECT
+
+ public:
+  explicit HitListView(QWidget* parent = nullptr);
+
+  QHeaderView* header() const { return header_; }
+  int rowHeight() const { return rowHeight_; }
+  /// The first row on the screen.
+  int firstVisibleRow() const;
+  /// How many rows fit on the screen as a whole, at least 1.
+  int wholeVisibleRows() const;
+  /// Where `row` is drawn, in the viewport; empty when it is not on the screen.
+  QRect rowRect(int row) const;
+
+  /// Is shown in the middle, wrapped and in a quiet colour, as long as there are no rows; may be empty.
+  void setEmptyText(const QString& text);
+  const QString& emptyText() const { return emptyText_; }
+
+  void setModel(QAbstractItemModel* model) override;
+  QRect visualRect(const QModelIndex& index) const override;
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+  QModelIndex indexAt(const QPoint& point) const override;
+  void reset() override;
+  /// Does nothing: looking for a row that begins with a letter would make text of millions of rows.
+  void keyboardSearch(const QString& search) override;
+
+ protected:
+  void rowsInserted(const QModelIndex& parent, int start, int end) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void updateGeometries() override;
+  void scrollContentsBy(int dx, int dy) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+  int horizontalOffset() const override;
+  int verticalOffset() const override;
+  bool isIndexHidden(const QModelIndex& index) const override;
+  void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
+  QRegion visualRegionForSelection(const QItemSelection& selection) const override;
+  int sizeHintForColumn(int column) const override;
+  void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  int modelRows() const;
+  int pageRows() const;
+  /// The row after the last one that is at least partly on the screen.
+  int visibleRowsEnd() const;
+  void updateRowHeight();
+  void updateScrollBars();
+  void updateRow(int row);
+  void paintRow(QPainter& painter, const QStyleOptionViewItem& common, int row) const;
+  void paintEmptyText(QPainter& painter) const;
+  void fitColumn(int column);
+  void tellCurrentRow(int row);
+
+  QHeaderView* header_;
+  int rowHeight_ = 1;
+  QString emptyText_;
+};
+
+}  // namespace quorvin

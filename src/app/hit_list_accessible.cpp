@@ -1,0 +1,133 @@
+#include "app/hit_list_accessible.h"
+
+#include "app/hit_list.h"
+
+#include <QAccessible>
+#include <QAccessibleInterface>
+#include <QAccessibleWidget>
+#include <QHash>
+#include <QPointer>
+
+namespace quorvin {
+
+namespace {
+
+/// One row. It reads the model each time that it is asked and is told by its number, so it stays right when
+/// the rows are exchanged.
+class RowAccessible : public QAccessibleInterface {
+ public:
+  RowAccessible(HitListView* view, int row) : view_(view), row_(row) {}
+
+  bool isValid() const override { return view_ && view_->model() && row_ < view_->model()->rowCount(); }
+  QObject* object() const override { return nullptr; }
+  QWindow* window() const override { return view_ ? view_->window()->windowHandle() : nullptr; }
+  QAccessibleInterface* parent() const override {
+    return view_ ? QAccessible::queryAccessibleInterface(view_) : nullptr;
+  }
+  QAccessibleInterface* child(int) const override { return nullptr; }
+  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+  void setText(QAccessible::Text, const QString&) override {}
+  QAccessible::Role role() const override { return QAccessible::ListItem; }
+  int row() const { return row_; }
+
+  QString text(QAccessible::Text kind) const override {
+    if (!isValid()) return {};
+    if (kind == QAccessible::Name) return nameOfRow();
+    if (kind != QAccessible::Description) return {};
+    return cell(0).data(Qt::AccessibleDescriptionRole).toString();
+  }
+
+  QRect rect() const override {
+    if (!isValid()) return {};
+    const QRect inView = view_->rowRect(row_);
+    if (inView.isEmpty()) return {};
+    return {view_->viewport()->mapToGlobal(inView.topLeft()), inView.size()};
+  }
+
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    if (!isValid()) {
+      state.invalid = true;
+      return state;
+    }
+    state.selectable = true;
+    state.focusable = true;
+    state.selected = view_->selectionModel()->isSelected(cell(0));
+    state.focused = view_->hasFocus() && view_->currentIndex().row() == row_;
+    state.offscreen = view_->rowRect(row_).isEmpty();
+    return state;
+  }
+
+ private:
+  QModelIndex cell(int column) const { return view_->model()->index(row_, column); }
+
+  QString nameOfRow() const {
+    const QAbstractItemModel* model = view_->model();
+    QStringList parts;
+    for (int column = 0; column < model->columnCount(); ++column) {
+      const QString title = model->headerData(column, Qt::Horizontal).toString();
+      parts.append(title + QStringLiteral(" ") + cell(column).data().toString());
+    }
+    return parts.join(QStringLiteral(", "));
+  }
+
+  QPointer<HitListView> view_;
+  int row_;
+};
+
+/// The list. Rows get their interfaces when they are asked for.
+class ListAccessible : public QAccessibleWidget {
+ public:
+  explicit ListAccessible(HitListView* view) : QAccessibleWidget(view, QAccessible::List), view_(view) {}
+  ~ListAccessible() override {
+    for (const QAccessible::Id id : std::as_const(rows_)) QAccessible::deleteAccessibleInterface(id);
+  }
+  ListAccessible(const ListAccessible&) = delete;
+  ListAccessible& operator=(const ListAccessible&) = delete;
+
+  int childCount() const override { return view_->model() ? view_->model()->rowCount() : 0; }
+
+  QAccessibleInterface* child(int row) const override {
+    if (row < 0 || row >= childCount()) return nullptr;
+    const auto known = rows_.constFind(row);
+    if (known != rows_.constEnd()) return QAccessible::accessibleInterface(*known);
+    auto* made = new RowAccessible(view_, row);
+    rows_.insert(row, QAccessible::registerAccessibleInterface(made));
+    return made;
+  }
+
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    const auto* row = dynamic_cast<const RowAccessible*>(child);
+    return row ? row->row() : -1;
+  }
+
+  QAccessibleInterface* childAt(int x, int y) const override {
+    const QModelIndex index = view_->indexAt(view_->viewport()->mapFromGlobal(QPoint(x, y)));
+    return index.isValid() ? child(index.row()) : nullptr;
+  }
+
+  QAccessibleInterface* focusChild() const override {
+    return view_->hasFocus() && view_->currentIndex().isValid() ? child(view_->currentIndex().row())
+                                                                : nullptr;
+  }
+
+ private:
+  HitListView* view_;
+  mutable QHash<int, QAccessible::Id> rows_;
+};
+
+QAccessibleInterface* makeHitListAccessible(const QString&, QObject* object) {
+  auto* view = qobject_cast<HitListView*>(object);
+  return view ? new ListAccessible(view) : nullptr;
+}
+
+}  // namespace
+
+void installHitListAccessible() {
+  // The toolkit ignores a factory that it knows already.
+  QAccessible::installFactory(&makeHitListAccessible);
+}
+
+}  // namespace quorvin

@@ -1,0 +1,103 @@
+#include "app/hit_list_model.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+
+namespace quorvin {
+
+namespace {
+
+constexpr std::array<const char16_t*, kHitColumnCount> kColumnTitles = {u"Match", u"Volume", u"Folder",
+                                                                        u"Name",  u"Size",   u"Date"};
+
+/// Numbers that are compared down the column stand at its right side.
+Qt::Alignment columnAlignment(int column) {
+  const auto hitColumn = static_cast<HitColumn>(column);
+  const bool isNumber = hitColumn == HitColumn::Match || hitColumn == HitColumn::Size;
+  return (isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+}  // namespace
+
+QString sourceKindText(SourceKind kind) {
+  switch (kind) {
+    case SourceKind::Online:
+      return QStringLiteral("From the listing of an online source");
+    case SourceKind::MainDataFile:
+      return QStringLiteral("From the main data file");
+    case SourceKind::Offline:
+      return QStringLiteral("From an offline listing");
+  }
+  return {};
+}
+
+HitListModel::HitListModel(HitTable& table, const QLocale& locale, QObject* parent)
+    : QAbstractTableModel(parent), table_(table), locale_(locale) {}
+
+void HitListModel::hitsArrived() {
+  constexpr std::int64_t kMostRows = std::numeric_limits<int>::max();
+  const int rows = static_cast<int>(std::min(table_.rowCount(), kMostRows));
+  if (rows <= announcedRows_) return;
+  beginInsertRows({}, announcedRows_, rows - 1);
+  announcedRows_ = rows;
+  endInsertRows();
+}
+
+void HitListModel::clear() {
+  beginResetModel();
+  table_.clear();
+  announcedRows_ = 0;
+  readRowNumber_ = -1;
+  endResetModel();
+}
+
+int HitListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : announcedRows_;
+}
+
+int HitListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kHitColumnCount;
+}
+
+QVariant HitListModel::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) return {};
+  switch (role) {
+    case Qt::DisplayRole:
+      return hitText(hitRow(index.row()), static_cast<HitColumn>(index.column()), locale_);
+    case Qt::ForegroundRole:
+      return QColor(QRgb{rowColour(table_.kind(index.row()))});
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(columnAlignment(index.column()));
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+      return sourceKindText(table_.kind(index.row()));
+    default:
+      return {};
+  }
+}
+
+QVariant HitListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= kHitColumnCount) return {};
+  switch (role) {
+    case Qt::DisplayRole:
+      return QString::fromUtf16(kColumnTitles[static_cast<std::size_t>(section)]);
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(columnAlignment(section));
+    default:
+      return {};
+  }
+}
+
+const HitRow& HitListModel::hitRow(int row) const {
+  if (row != readRowNumber_) {
+    readRow_ = table_.row(row);
+    readRowNumber_ = row;
+  }
+  return readRow_;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,48 @@
+// The hit table as the hit list's model.
+#pragma once
+
+#include "search/hit_table.h"
+
+#include <QAbstractTableModel>
+#include <QLocale>
+#include <QString>
+
+namespace quorvin {
+
+/// What a row tells of its kind of source in words, for those who do not see or know the colours.
+QString sourceKindText(SourceKind kind);
+
+/// Shows the rows of a HitTable under the columns "Match", "Volume", "Folder", "Name", "Size" and "Date".
+/// Rows become visible only when they are announced, however many at a time, and nothing is kept for them: a
+/// row is made into text when somebody asks for it. At most 2^31 - 1 rows are shown.
+class HitListModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  /// `table` must outlive the model; `locale` is the one in which sizes and dates are written.
+  HitListModel(HitTable& table, const QLocale& locale, QObject* parent = nullptr);
+
+  /// Announces the rows that the table has got since the last call; does nothing when there are none.
+  void hitsArrived();
+  /// Empties the table and the model.
+  void clear();
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  /// Besides the texts: the exact colour of the kind of source (ForegroundRole), the alignment, and the kind
+  /// in words (ToolTipRole and AccessibleDescriptionRole).
+  QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+ private:
+  const HitRow& hitRow(int row) const;
+
+  HitTable& table_;
+  QLocale locale_;
+  int announcedRows_ = 0;
+  /// The row read last: the six columns of a row are asked for one after another.
+  mutable HitRow readRow_;
+  mutable int readRowNumber_ = -1;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,270 @@
+#include "app/search_form.h"
+
+#include "app/fault_report.h"
+#include "app/search_form_layout.h"
+#include "app/version.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quorvin {
+
+namespace {
+
+constexpr char16_t kIdleCaption[] = u"Find";
+
+/// Settings may hold anything; further out than this no window can be.
+constexpr float kFarthestPixel = 32767;
+
+int toPixels(float twips) {
+  const float pixels = twips / static_cast<float>(kTwipsPerPixel);
+  return static_cast<int>(std::lround(std::clamp(pixels, -kFarthestPixel, kFarthestPixel)));
+}
+
+float toTwips(int pixels) {
+  return static_cast<float>(pixels * kTwipsPerPixel);
+}
+
+}  // namespace
+
+SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale)
+    : state_(state),
+      messages_(messages),
+      rows_(hits_, locale),
+      controls_(makeControls(new QWidget(this))),
+      menus_(makeMenus(menuBar())),
+      display_(*controls_.lblFound, *controls_.lblSearched, rows_),
+      runMessages_(*this),
+      searchRun_(state, *this, runMessages_, hits_, locale) {
+  setObjectName(QStringLiteral("SearchForm"));
+  setWindowTitle(applicationTitle());
+  setCentralWidget(controls_.HitList->parentWidget());
+  centralWidget()->installEventFilter(this);
+  controls_.HitList->setModel(&rows_);
+  controls_.lblVer->setText(versionCaption());
+  placeControls(controls_);
+  setInitialColumnWidths(controls_, locale);
+  takeInitialPlace();
+  connectControls();
+  controls_.SearchStr->setFocus();
+  sourcesChanged();
+}
+
+/// In the middle of the screen, as large as the controls and a good number of rows ask for.
+void SearchForm::takeInitialPlace() {
+  limitSize();
+  const QRect available = screen()->availableGeometry();
+  const QSize wanted = initialInnerSize(controls_) + QSize(0, menuBar()->sizeHint().height());
+  resize(wanted.boundedTo(available.size()));
+  move(available.center() - rect().center());
+}
+
+void SearchForm::connectControls() {
+  connect(controls_.Find, &QPushButton::clicked, this, &SearchForm::Find_Click);
+  connect(controls_.SearchStr, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
+  connect(controls_.DesMatch, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
+  connect(controls_.WebUpdate, &QPushButton::clicked, this, &SearchForm::WebUpdate_Click);
+  connect(menus_.MenuQuit, &QAction::triggered, this, &SearchForm::close);
+
+  auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+  connect(stop, &QShortcut::activated, this, &SearchForm::stopRun);
+  auto* goToSearch = new QShortcut(QKeySequence(QKeySequence::Find), this);
+  connect(goToSearch, &QShortcut::activated, this, [this] {
+    controls_.SearchStr->setFocus(Qt::ShortcutFocusReason);
+    controls_.SearchStr->selectAll();
+  });
+}
+
+void SearchForm::sourcesChanged() {
+  const bool hasSources =
+      state_.OnlineSourceCount > 0 || state_.OfflineSourceCount > 0 || !state_.TextFile.isEmpty();
+  if (hasSources) {
+    controls_.HitList->setEmptyText({});
+    return;
+  }
+  controls_.HitList->setEmptyText(
+      QStringLiteral("There is nothing to search yet.\n\n"
+                     "Start the program with a listing file, as in \"quorvin my-disks.txt\",\n"
+                     "or name your listing files in %1.")
+          .arg(state_.LocalFolder + state_.OffLineFile));
+}
+
+void SearchForm::Find_Click() {
+  const QString searchText = controls_.SearchStr->text();
+  reportFaults(runMessages_, QStringLiteral("searching for \"%1\"").arg(searchText),
+               [&] { searchRun_.Find_Click(searchText, controls_.DesMatch->text()); });
+}
+
+void SearchForm::WebUpdate_Click() {
+  messages_.inform(QStringLiteral("The web update does not exist in this version yet."));
+}
+
+void SearchForm::stopRun() {
+  if (isRunning()) controls_.Find->click();
+}
+
+bool SearchForm::isRunning() const {
+  return findCaption() != QString::fromUtf16(kIdleCaption);
+}
+
+void SearchForm::setDesMatch(const QString& text) {
+  controls_.DesMatch->setText(text);
+}
+
+QString SearchForm::findCaption() const {
+  return controls_.Find->text();
+}
+
+void SearchForm::setFindCaption(const QString& caption) {
+  controls_.Find->setText(caption);
+  display_.show();
+}
+
+void SearchForm::showFound(std::int64_t count) {
+  display_.setFound(count);
+}
+
+void SearchForm::showSearched(std::int64_t count) {
+  display_.setSearched(count);
+}
+
+void SearchForm::clearHits() {
+  display_.dropRows();
+  rows_.clear();
+}
+
+void SearchForm::hitsArrived() {
+  display_.rowsArrived();
+}
+
+bool SearchForm::endRequested() const {
+  return endRequested_;
+}
+
+void SearchForm::processEvents() {
+  display_.showIfDue();
+  QCoreApplication::processEvents();
+}
+
+void SearchForm::setVersionCaption(const QString& caption) {
+  controls_.lblVer->setText(caption);
+}
+
+void SearchForm::setWebUpdateEnabled(bool enabled) {
+  controls_.WebUpdate->setEnabled(enabled);
+}
+
+float SearchForm::placement(PlacementKey key) const {
+  const QRect outer = frameGeometry();
+  switch (key) {
+    case PlacementKey::Top:
+      return toTwips(outer.top());
+    case PlacementKey::Left:
+      return toTwips(outer.left());
+    case PlacementKey::Width:
+      return toTwips(outer.width());
+    case PlacementKey::Height:
+      return toTwips(outer.height());
+  }
+  return 0;
+}
+
+void SearchForm::setPlacement(PlacementKey key, float twips) {
+  const int pixels = toPixels(twips);
+  const QSize frame = frameGeometry().size() - size();
+  switch (key) {
+    case PlacementKey::Top:
+      move(x(), pixels);
+      break;
+    case PlacementKey::Left:
+      move(pixels, y());
+      break;
+    case PlacementKey::Width:
+      resize(pixels - frame.width(), height());
+      break;
+    case PlacementKey::Height:
+      resize(width(), pixels - frame.height());
+      break;
+  }
+  if (!isVisible()) outerSizeWished_ = frameGeometry().size();
+}
+
+bool SearchForm::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != centralWidget()) return QMainWindow::eventFilter(watched, event);
+  if (event->type() == QEvent::Resize && !isMinimized()) layOut();
+  // The window system has given the window its frame by the time it is painted.
+  if (event->type() == QEvent::Paint && outerSizeWished_) {
+    QTimer::singleShot(0, this, &SearchForm::settleOuterSize);
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void SearchForm::layOut() {
+  limitSize();
+  stretchControls(controls_, centralWidget()->size());
+}
+
+/// The least size holds for the outer measures; it is kept as a limit, so that the window cannot be dragged
+/// smaller in the first place.
+void SearchForm::limitSize() {
+  const QSize frame = frameGeometry().size() - size();
+  setMinimumSize(QSize(kLeastOuterWidth, kLeastOuterHeight) / kTwipsPerPixel - frame);
+}
+
+/// A size set before the window had a frame was meant to include it; without this the window would grow by
+/// its frame at each start.
+void SearchForm::settleOuterSize() {
+  if (!outerSizeWished_) return;
+  const QSize wished = *outerSizeWished_;
+  outerSizeWished_.reset();
+  limitSize();
+  if (size() == wished) resize(wished - (frameGeometry().size() - size()));
+}
+
+/// A place that was saved on a screen which is gone would hide the window.
+void SearchForm::moveOntoScreen() {
+  const QRect outer = frameGeometry();
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  const bool canBeSeen = std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+    return screen->availableGeometry().intersects(outer);
+  });
+  if (canBeSeen || screens.isEmpty()) return;
+  move(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+}
+
+void SearchForm::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  if (!centralWidget()) return;
+  placeControls(controls_);
+  layOut();
+}
+
+void SearchForm::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (!event->spontaneous()) moveOntoScreen();
+}
+
+void SearchForm::closeEvent(QCloseEvent* event) {
+  endRequested_ = true;
+  event->accept();
+}
+
+void SearchForm::RunMessages::inform(const QString& text) {
+  form_.display_.show();
+  if (!form_.endRequested_) form_.messages_.inform(text);
+}
+
+bool SearchForm::RunMessages::askYesNo(const QString& text) {
+  form_.display_.show();
+  return !form_.endRequested_ && form_.messages_.askYesNo(text);
+}
+
+}  // namespace quorvin

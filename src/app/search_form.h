@@ -1,0 +1,98 @@
+// The main window.
+#pragma once
+
+#include "app/hit_list_model.h"
+#include "app/search_form_controls.h"
+#include "app/search_form_display.h"
+#include "app/search_form_menus.h"
+#include "app/start_up.h"
+#include "search/hit_table.h"
+#include "search/search_run.h"
+
+#include <QLocale>
+#include <QMainWindow>
+#include <QSize>
+
+#include <optional>
+
+namespace quorvin {
+
+/// The main window: it shows what the search run and start-up tell it, and hands over what the user does.
+/// Closing it during a run ends the run at its next yield; the window must live until the handler that
+/// started the run has returned.
+class SearchForm : public QMainWindow, public SearchRunView, public StartUpView {
+  Q_OBJECT
+
+ public:
+  /// `state` and `messages` must outlive the window.
+  SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale);
+
+  /// To be called after the sources of the state have changed: while there are none, the empty hit list says
+  /// what to do first.
+  void sourcesChanged();
+
+  const SearchFormControls& controls() const { return controls_; }
+  const SearchFormMenus& menus() const { return menus_; }
+
+  // For the search run.
+  void setDesMatch(const QString& text) override;
+  QString findCaption() const override;
+  void setFindCaption(const QString& caption) override;
+  void showFound(std::int64_t count) override;
+  void showSearched(std::int64_t count) override;
+  void clearHits() override;
+  void hitsArrived() override;
+  bool endRequested() const override;
+  /// For start-up too.
+  void processEvents() override;
+
+  // For start-up.
+  void setVersionCaption(const QString& caption) override;
+  void setWebUpdateEnabled(bool enabled) override;
+  float placement(PlacementKey key) const override;
+  void setPlacement(PlacementKey key, float twips) override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  /// The messages of a run: what the run has to show comes first, and a closed window shows none.
+  class RunMessages : public MessageBoxes {
+   public:
+    explicit RunMessages(SearchForm& form) : form_(form) {}
+    void inform(const QString& text) override;
+    bool askYesNo(const QString& text) override;
+
+   private:
+    SearchForm& form_;
+  };
+
+  void takeInitialPlace();
+  void connectControls();
+  void Find_Click();
+  void WebUpdate_Click();
+  void stopRun();
+  bool isRunning() const;
+  void layOut();
+  void limitSize();
+  void settleOuterSize();
+  void moveOntoScreen();
+
+  ProgramState& state_;
+  MessageBoxes& messages_;
+  HitTable hits_;
+  HitListModel rows_;
+  SearchFormControls controls_;
+  SearchFormMenus menus_;
+  RunDisplay display_;
+  RunMessages runMessages_;
+  SearchRun searchRun_;
+  bool endRequested_ = false;
+  /// The outer size asked for before the window had a frame.
+  std::optional<QSize> outerSizeWished_;
+};
+
+}  // namespace quorvin

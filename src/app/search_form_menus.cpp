@@ -1,0 +1,51 @@
+#include "app/search_form_menus.h"
+
+#include <QKeySequence>
+#include <QString>
+
+namespace quorvin {
+
+namespace {
+
+QMenu* addMenu(QMenuBar* bar, const QString& name, const QString& caption) {
+  QMenu* menu = bar->addMenu(caption);
+  menu->setObjectName(name);
+  return menu;
+}
+
+QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
+  QAction* item = menu->addAction(caption);
+  item->setObjectName(name);
+  return item;
+}
+
+QAction* addComingItem(QMenu* menu, const QString& name, const QString& caption) {
+  QAction* item = addItem(menu, name, caption);
+  item->setEnabled(false);
+  return item;
+}
+
+}  // namespace
+
+SearchFormMenus makeMenus(QMenuBar* bar) {
+  SearchFormMenus made{};
+  made.FileMenu = addMenu(bar, QStringLiteral("FileMenu"), QStringLiteral("&File"));
+  made.AddLocal = addComingItem(made.FileMenu, QStringLiteral("AddLocal"),
+                                QStringLiteral("&Add/Edit Local Folder To Search List"));
+  made.EditOffline = addComingItem(made.FileMenu, QStringLiteral("EditOffline"),
+                                   QStringLiteral("Add/Edit Offline List files"));
+  made.ReScan =
+      addComingItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
+  made.OptionsMenu = addComingItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
+  made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
+  made.MenuQuit->setShortcut(QKeySequence::Quit);
+
+  made.HlpMnu = addMenu(bar, QStringLiteral("HlpMnu"), QStringLiteral("&Help"));
+  made.HlpGen = addComingItem(made.HlpMnu, QStringLiteral("HlpGen"), QStringLiteral("Program &Usage"));
+  made.RelInfo =
+      addComingItem(made.HlpMnu, QStringLiteral("RelInfo"), QStringLiteral("&Release Information"));
+  made.AboutMenu = addComingItem(made.HlpMnu, QStringLiteral("AboutMenu"), QStringLiteral("&About"));
+  return made;
+}
+
+}  // namespace quorvin

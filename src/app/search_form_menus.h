@@ -1,0 +1,27 @@
+// The menu bar of the main window.
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace quorvin {
+
+/// The menus and their items; the menu bar owns them.
+struct SearchFormMenus {
+  QMenu* FileMenu;
+  QAction* AddLocal;
+  QAction* EditOffline;
+  QAction* ReScan;
+  QAction* OptionsMenu;
+  QAction* MenuQuit;
+  QMenu* HlpMnu;
+  QAction* HlpGen;
+  QAction* RelInfo;
+  QAction* AboutMenu;
+};
+
+/// Fills `bar`. Items whose function does not exist yet are disabled; nothing is connected.
+SearchFormMenus makeMenus(QMenuBar* bar);
+
+}  // namespace quorvin

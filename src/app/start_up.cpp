@@ -1,0 +1,78 @@
+#include "app/start_up.h"
+
+#include "app/version.h"
+#include "index/base_name.h"
+#include "platform/file_lookup.h"
+#include "platform/runtime_fault.h"
+#include "state/defaults_file.h"
+
+namespace quorvin {
+
+StartUp::StartUp(ProgramState& state, const SettingsStore& store, MessageBoxes& boxes, StartUpView& view,
+                 ArchiveExtraction* extraction)
+    : state_(state), store_(store), boxes_(boxes), view_(view), extraction_(extraction) {}
+
+void StartUp::Form_Load(const StartUpConditions& conditions) {
+  try {
+    runSteps(conditions);
+  } catch (const RuntimeFault& fault) {
+    boxes_.inform(QStringLiteral("Statup error: ") + QString::number(fault.number()) + u' ' +
+                  fault.description());
+  }
+}
+
+void StartUp::runSteps(const StartUpConditions& conditions) {
+  view_.setVersionCaption(versionCaption());
+  view_.setWebUpdateEnabled(false);
+  state_.resetFileNames();
+  if (conditions.commandLine.isEmpty()) {
+    takeDefaultsFile();
+  } else {
+    takeCommandLine(conditions.commandLine, conditions.pathStyle);
+  }
+
+  readPlacement(store_, state_, view_);
+  readSettings(store_, state_, conditions.now, conditions.locale);
+  if (!state_.WebServer.isEmpty() && !state_.ArchiveFile.isEmpty()) view_.setWebUpdateEnabled(true);
+  if (state_.LocalFolder.isEmpty()) {
+    completeLocalFolder(state_, withTrailingSeparator(conditions.programFolder(), conditions.pathStyle));
+  }
+
+  loadSourceLists(state_);
+  if (dataFileIsOnlyInArchive()) prepareDataFile();
+  view_.processEvents();
+}
+
+void StartUp::takeCommandLine(const QString& commandLine, PathStyle style) {
+  state_.TextFile = commandLine;
+  if (!ordinaryFileExists(commandLine)) {
+    boxes_.inform(QStringLiteral("Could not find file specified on command line. Using default file."));
+    return;
+  }
+  // A settings set and a list of online sources of the file's own.
+  state_.RegKey = commandLine;
+  state_.LocFile += u'_' + BaseNameOf(commandLine, style);
+}
+
+void StartUp::takeDefaultsFile() {
+  const QString path = QString::fromUtf16(kDefaultsFileName);
+  if (ordinaryFileExists(path)) readDefaultsFile(path, state_);
+}
+
+bool StartUp::dataFileIsOnlyInArchive() const {
+  if (state_.TextFile.isEmpty() || state_.ArchiveFile.isEmpty()) return false;
+  return !ordinaryFileExists(state_.LocalFolder + state_.TextFile) &&
+         ordinaryFileExists(state_.LocalFolder + state_.ArchiveFile);
+}
+
+void StartUp::prepareDataFile() {
+  if (extraction_ != nullptr) {
+    extraction_->extractArchive(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
+    return;
+  }
+  boxes_.inform(QStringLiteral("The archive \"%1\" is there, but this version cannot unpack it. "
+                               "Nothing was changed.")
+                    .arg(state_.ArchiveFile));
+}
+
+}  // namespace quorvin

@@ -1,0 +1,73 @@
+// Start-up: everything that happens between the making of the main window and the user's first action.
+#pragma once
+
+#include "app/archive_extraction.h"
+#include "platform/general_date.h"
+#include "platform/message_box.h"
+#include "platform/path_style.h"
+#include "platform/settings_store.h"
+#include "state/program_state.h"
+#include "state/settings.h"
+
+#include <QLocale>
+#include <QString>
+
+#include <functional>
+
+namespace quorvin {
+
+/// What start-up does with the main window, besides moving it.
+class StartUpView : public WindowPlacement {
+ public:
+  /// Sets the caption of `lblVer`.
+  virtual void setVersionCaption(const QString& caption) = 0;
+  /// Enables or disables the `WebUpdate` button.
+  virtual void setWebUpdateEnabled(bool enabled) = 0;
+  /// Lets the pending window events run once.
+  virtual void processEvents() = 0;
+};
+
+/// How this run of the program was started.
+struct StartUpConditions {
+  /// The command line without the program's name, as one text exactly as it was received: not split into
+  /// words, quotes not removed. Empty when there is none.
+  QString commandLine;
+  /// Gives the program's own folder, with or without a trailing separator; it is asked only when no data
+  /// folder is set. It may throw RuntimeFault.
+  std::function<QString()> programFolder;
+  /// The current date and time.
+  DateValue now = 0;
+  /// The locale in which dates are kept in the settings.
+  QLocale locale;
+  PathStyle pathStyle = nativePathStyle();
+};
+
+/// The load handler of the main window, `Form_Load`, without the window. Everything that is handed over must
+/// outlive the object.
+class StartUp {
+ public:
+  /// `extraction` may be null: then an archive that ought to be unpacked is only told of.
+  StartUp(ProgramState& state, const SettingsStore& store, MessageBoxes& boxes, StartUpView& view,
+          ArchiveExtraction* extraction);
+
+  /// Shows the version, takes the command line, gathers defaults, restores settings and placement, loads both
+  /// source lists, and has the main data file unpacked when only its archive is there. A fault on the way is
+  /// shown as "Statup error: NUMBER DESCRIPTION" and ends start-up; what was done before it stays, and the
+  /// program goes on with that. Starts no search, no indexing and no connection.
+  void Form_Load(const StartUpConditions& conditions);
+
+ private:
+  void runSteps(const StartUpConditions& conditions);
+  void takeCommandLine(const QString& commandLine, PathStyle style);
+  void takeDefaultsFile();
+  void prepareDataFile();
+  bool dataFileIsOnlyInArchive() const;
+
+  ProgramState& state_;
+  const SettingsStore& store_;
+  MessageBoxes& boxes_;
+  StartUpView& view_;
+  ArchiveExtraction* extraction_;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,33 @@
+#include "app/version.h"
+
+namespace quorvin {
+
+ProgramVersion programVersion() {
+  return {QUORVIN_VERSION_MAJOR, QUORVIN_VERSION_MINOR, QUORVIN_VERSION_REVISION};
+}
+
+QString versionCaption() {
+  const ProgramVersion version = programVersion();
+  return QStringLiteral("Ver:%1.%2(%3)")
+      .arg(version.majorNumber)
+      .arg(version.minorNumber)
+      .arg(version.revision);
+}
+
+QString versionText() {
+  const ProgramVersion version = programVersion();
+  return QStringLiteral("Version %1.%2.%3")
+      .arg(version.majorNumber)
+      .arg(version.minorNumber)
+      .arg(version.revision);
+}
+
+QString applicationTitle() {
+  return QStringLiteral("Quorvin Utility");
+}
+
+QString applicationDescription() {
+  return QStringLiteral(QUORVIN_DESCRIPTION);
+}
+
+}  // namespace quorvin

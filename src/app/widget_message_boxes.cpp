@@ -1,0 +1,33 @@
+#include "app/widget_message_boxes.h"
+
+#include "app/version.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace quorvin {
+
+namespace {
+
+QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
+                                 QMessageBox::StandardButtons buttons) {
+  QString lines = text;
+  lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  QMessageBox box(icon, applicationTitle(), lines, buttons, QApplication::activeWindow());
+  // Messages name files, and a file's name may look like markup.
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+}  // namespace
+
+void WidgetMessageBoxes::inform(const QString& text) {
+  show(QMessageBox::Information, text, QMessageBox::Ok);
+}
+
+bool WidgetMessageBoxes::askYesNo(const QString& text) {
+  return show(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,85 @@
+#include "console/find_command.h"
+
+#include "console/own_sources.h"
+#include "platform/ini_settings_store.h"
+#include "platform/runtime_fault.h"
+#include "platform/stop_signal.h"
+#include "search/search_run.h"
+
+#include <QLocale>
+
+#include <cstdio>
+
+namespace quorvin {
+
+namespace {
+
+void printError(const QString& text) {
+  const QByteArray line = QString(text).replace(QStringLiteral("\r\n"), QStringLiteral(" ")).toLocal8Bit();
+  std::fprintf(stderr, "quorvin-cli: %s\n", line.constData());
+}
+
+class ErrorLines : public MessageBoxes {
+ public:
+  void inform(const QString& text) override { printError(text); }
+  /// Nobody is there to ask.
+  bool askYesNo(const QString&) override { return false; }
+};
+
+/// The run's view without a window: only the request to stop comes through.
+class ConsoleView : public SearchRunView {
+ public:
+  void setDesMatch(const QString&) override {}
+  QString findCaption() const override { return caption_; }
+  void setFindCaption(const QString& caption) override { caption_ = caption; }
+  void showFound(std::int64_t) override {}
+  void showSearched(std::int64_t) override {}
+  void clearHits() override {}
+  void hitsArrived() override {}
+  void processEvents() override {}
+  bool endRequested() const override { return stopSignalled(); }
+
+ private:
+  QString caption_ = QStringLiteral("Find");
+};
+
+void search(const FindRequest& request, SearchRun& run) {
+  if (request.listings.empty()) {
+    run.Find_Click(request.searchText, request.desiredMatch);
+  } else {
+    run.searchListings(request.searchText, request.desiredMatch, request.listings);
+  }
+}
+
+}  // namespace
+
+int runFind(const FindRequest& request) {
+  if (request.searchText.isEmpty()) {
+    printError(QStringLiteral("the search text is empty"));
+    return 2;
+  }
+  const QLocale locale;
+  ProgramState state;
+  ErrorLines messages;
+  ConsoleView view;
+  HitWriter writer(stdout, request.format, request.countOnly, locale);
+  SearchRun run(state, view, messages, writer, locale);
+  bool failed = false;
+  try {
+    if (request.listings.empty()) loadOwnSources(state, locale);
+    watchStopSignal();
+    search(request, run);
+  } catch (const RuntimeFault& fault) {
+    failed = true;
+    printError(QStringLiteral("Run-time error '%1': %2").arg(fault.number()).arg(fault.description()));
+  }
+  if (request.countOnly) std::printf("%lld\n", static_cast<long long>(run.hitCount()));
+  writer.flush();
+  if (!writer.good()) printError(QStringLiteral("the hits could not all be written to standard output"));
+  std::fprintf(stderr, "%lld found, %lld searched\n", static_cast<long long>(run.hitCount()),
+               static_cast<long long>(run.searchedCount()));
+  if (failed || run.failedListings() > 0 || !writer.good()) return 2;
+  return run.hitCount() > 0 ? 0 : 1;
+}
+
+}  // namespace quorvin

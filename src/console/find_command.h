@@ -1,0 +1,28 @@
+// "quorvin-cli find": a search in the terminal.
+#pragma once
+
+#include "console/hit_writer.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace quorvin {
+
+/// What the command line asked for.
+struct FindRequest {
+  QString searchText;
+  /// As typed; corrected like the window's box.
+  QString desiredMatch = QStringLiteral("50");
+  HitFormat format = HitFormat::Tsv;
+  /// Only the number of hits is written.
+  bool countOnly = false;
+  /// The listings to search; empty for the user's own sources.
+  std::vector<QString> listings;
+};
+
+/// Runs the search; hits go to standard output, messages and the last line "F found, S searched" to standard
+/// error. The exit status: 0 with hits, 1 without, 2 when anything could not be done.
+int runFind(const FindRequest& request);
+
+}  // namespace quorvin

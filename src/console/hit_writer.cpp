@@ -1,0 +1,87 @@
+#include "console/hit_writer.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <array>
+
+namespace quorvin {
+
+namespace {
+
+constexpr std::size_t kBufferSize = std::size_t{1} << 16;
+
+QString tsvField(QString text) {
+  for (QChar& c : text) {
+    if (c.unicode() < 0x20 || c.unicode() == 0x7F) c = u' ';
+  }
+  return text;
+}
+
+QString csvField(const QString& text) {
+  const bool plain =
+      !text.contains(u',') && !text.contains(u'"') && !text.contains(u'\n') && !text.contains(u'\r');
+  if (plain) return text;
+  return u'"' + QString(text).replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+QString jsonLine(const HitRow& row, const QLocale& locale) {
+  const QJsonObject object{
+      {QStringLiteral("match"), hitText(row, HitColumn::Match, locale)},
+      {QStringLiteral("volume"), row.volume},
+      {QStringLiteral("folder"), row.folder},
+      {QStringLiteral("name"), row.name},
+      {QStringLiteral("size"), hitText(row, HitColumn::Size, locale)},
+      {QStringLiteral("date"), hitText(row, HitColumn::Date, locale)},
+  };
+  return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+}  // namespace
+
+QString hitLine(const HitRow& row, HitFormat format, const QLocale& locale) {
+  if (format == HitFormat::Json) return jsonLine(row, locale);
+  QString line;
+  for (int column = 0; column < kHitColumnCount; ++column) {
+    if (column > 0) line += format == HitFormat::Tsv ? u'\t' : u',';
+    const QString text = hitText(row, static_cast<HitColumn>(column), locale);
+    line += format == HitFormat::Tsv ? tsvField(text) : csvField(text);
+  }
+  return line;
+}
+
+HitWriter::HitWriter(std::FILE* output, HitFormat format, bool countOnly, const QLocale& locale)
+    : output_(output), format_(format), countOnly_(countOnly), locale_(locale) {}
+
+void HitWriter::beginListing(SourceKind kind) {
+  kind_ = kind;
+  values_ = {};
+}
+
+void HitWriter::addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) {
+  hitCount_ += static_cast<std::int64_t>(hits.size());
+  if (countOnly_) return;
+  for (const FoundEntry& hit : hits) {
+    if (image->valueState(hit.entry) == ValueState::Own) values_ = image->values(hit.entry);
+    const HitRow row{
+        hit.match,    kind_,       image->volume(hit.entry), image->folder(hit.entry), image->name(hit.entry),
+        values_.size, values_.date};
+    const QByteArray line = hitLine(row, format_, locale_).toLocal8Bit();
+    buffer_.append(line.constData(), static_cast<std::size_t>(line.size()));
+    buffer_ += '\n';
+    if (buffer_.size() >= kBufferSize) flush();
+  }
+}
+
+void HitWriter::endImage(const std::shared_ptr<const SearchImage>&) {
+  flush();
+}
+
+void HitWriter::flush() {
+  if (!buffer_.empty() && std::fwrite(buffer_.data(), 1, buffer_.size(), output_) != buffer_.size())
+    good_ = false;
+  buffer_.clear();
+  if (std::fflush(output_) != 0) good_ = false;
+}
+
+}  // namespace quorvin

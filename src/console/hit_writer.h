@@ -1,0 +1,52 @@
+// Hits as lines of text.
+#pragma once
+
+#include "search/hit_receiver.h"
+#include "search/hit_table.h"
+
+#include <QLocale>
+#include <QString>
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
+namespace quorvin {
+
+enum class HitFormat { Tsv, Csv, Json };
+
+/// One line for one hit, without the line end. Tsv: the six columns with tabs between, control characters in
+/// them turned into blanks. Csv: RFC 4180, fields quoted where needed. Json: one object with the keys match,
+/// volume, folder, name, size and date.
+QString hitLine(const HitRow& row, HitFormat format, const QLocale& locale);
+
+/// Writes each hit as soon as it comes and keeps none.
+class HitWriter : public HitReceiver {
+ public:
+  /// `output` must outlive the writer. With `countOnly` hits are counted and not written.
+  HitWriter(std::FILE* output, HitFormat format, bool countOnly, const QLocale& locale);
+
+  std::int64_t hitCount() const { return hitCount_; }
+  /// Whether all output so far has been taken; false once a write failed.
+  bool good() const { return good_; }
+  /// Hands what is still buffered to the output.
+  void flush();
+
+  void beginListing(SourceKind kind) override;
+  void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override;
+  void endImage(const std::shared_ptr<const SearchImage>& image) override;
+
+ private:
+  std::FILE* output_;
+  HitFormat format_;
+  bool countOnly_;
+  QLocale locale_;
+  SourceKind kind_ = SourceKind::Online;
+  /// Size and date last read in the current listing.
+  EntryValues values_;
+  std::int64_t hitCount_ = 0;
+  std::string buffer_;
+  bool good_ = true;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,71 @@
+#include "console/find_command.h"
+
+#include <CLI/CLI.hpp>
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+const std::map<std::string, quorvin::HitFormat> kFormats = {
+    {"tsv", quorvin::HitFormat::Tsv},
+    {"csv", quorvin::HitFormat::Csv},
+    {"json", quorvin::HitFormat::Json},
+};
+
+struct FindOptions {
+  std::string searchText;
+  std::string match = "50";
+  quorvin::HitFormat format = quorvin::HitFormat::Tsv;
+  bool countOnly = false;
+  std::vector<std::string> listings;
+};
+
+CLI::App* addFind(CLI::App& app, FindOptions& options) {
+  CLI::App* find = app.add_subcommand("find", "Find files in listings by words and a match percentage");
+  find->add_option("--match", options.match, "Hits must match more than this percentage (1 to 100)")
+      ->type_name("N")
+      ->capture_default_str();
+  find->add_option("--format", options.format, "How hits are written: tsv, csv or json")
+      ->type_name("FORMAT")
+      ->transform(CLI::CheckedTransformer(kFormats, CLI::ignore_case).description(""));
+  find->add_flag("--count", options.countOnly, "Write only the number of hits");
+  find->add_option("TEXT", options.searchText, "The words to find, in one argument")->required();
+  find->add_option("LISTING", options.listings, "Listing files to search instead of the user's own sources");
+  return find;
+}
+
+quorvin::FindRequest requestOf(const FindOptions& options) {
+  quorvin::FindRequest request;
+  request.searchText = QString::fromLocal8Bit(options.searchText.c_str());
+  request.desiredMatch = QString::fromLocal8Bit(options.match.c_str());
+  request.format = options.format;
+  request.countOnly = options.countOnly;
+  for (const std::string& listing : options.listings) {
+    request.listings.push_back(QString::fromLocal8Bit(listing.c_str()));
+  }
+  return request;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  CLI::App app("Quorvin Utility in the terminal: search catalogues of disks and folders.", "quorvin-cli");
+  app.set_version_flag("--version", "quorvin-cli " QUORVIN_VERSION);
+  app.require_subcommand(1);
+  FindOptions findOptions;
+  const CLI::App* find = addFind(app, findOptions);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == 0) return app.exit(error);
+    std::fprintf(stderr, "quorvin-cli: %s\nTry: quorvin-cli --help\n", error.what());
+    return 2;
+  }
+  if (find->parsed()) return quorvin::runFind(requestOf(findOptions));
+  return 2;
+}

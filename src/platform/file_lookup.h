@@ -1,0 +1,24 @@
+// Directory look-ups: which files fit a path whose last part may hold wildcards.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace quorvin {
+
+/// The name (without its folder) of the first ordinary file that fits `pattern`, or empty text when there is
+/// none. `pattern` is a path, relative to the current folder when it is relative; only "*" and "?" in its
+/// last part are wildcards, and "*.*" fits every name. Ordinary files are regular files, and links to such,
+/// that are not hidden (off Windows: no leading dot). Where several names fit, one that equals the pattern's
+/// last part exactly wins, then the first that the file system returns. A folder that is missing or
+/// unreadable counts as holding nothing. Never throws.
+QString findOrdinaryFile(const QString& pattern);
+
+/// Whether findOrdinaryFile(`path`) finds anything.
+bool ordinaryFileExists(const QString& path);
+
+/// Whether `name` fits `pattern`, in which "*" stands for any characters and "?" for any one; every other
+/// character stands for itself.
+bool fitsWildcards(QStringView name, QStringView pattern);
+
+}  // namespace quorvin

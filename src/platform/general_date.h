@@ -1,0 +1,49 @@
+// Dates as the program keeps them, and as people of a locale write and read them.
+#pragma once
+
+#include <QDateTime>
+#include <QLocale>
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+namespace quorvin {
+
+/// A point in time without a zone: days since 30 December 1899, the fraction being the time of day. The zero
+/// date is 30 December 1899, midnight. For dates before it the fraction still counts forward in the day's
+/// magnitude: -1.25 is 29 December 1899, 06:00. Times are kept to the second.
+using DateValue = double;
+
+/// The value of a calendar date and time; the time zone is ignored (wall clock as it stands), parts of a
+/// second are dropped. Dates run from 1 January 100 to 31 December 9999; a moment outside counts as the
+/// nearest one inside. An invalid moment is the zero date.
+DateValue dateValueOf(const QDateTime& moment);
+
+/// The wall-clock date and time of a value, rounded to the nearest second. It is given as UTC, whatever zone
+/// the value is from, since a local time may be missing from the calendar. A value outside the dates is taken
+/// as the nearest one inside, one that is not a number as the zero date.
+QDateTime dateTimeOf(DateValue value);
+
+/// The general date form: the locale's short date with a four-digit year, a blank, and the locale's long time
+/// without zone name, in the locale's digits, every no-break blank turned into a plain one. The time is left
+/// out when it is exactly midnight; the date is left out when the day is the zero date (so the zero date
+/// itself is the time alone). readGeneralDate reads it back to the second. For many dates: GeneralDateWriter.
+QString generalDateText(DateValue value, const QLocale& locale);
+
+/// Reads a date, a time, or both in either order, as people write them: the locale's own general form first,
+/// its other usual forms, then numeric dates with "/", "-", "." or blanks in the locale's order (day and
+/// month swapped when only that makes a date), ISO dates, month names (the locale's and English), 12- and
+/// 24-hour times. Years have two or four digits; those of two are 2000 to 2029 and 1930 to 1999. A date
+/// without a year is of this year; a month with a four-digit year alone is its first day. A time alone is on
+/// the zero date. Where the locale writes times with dots, two numbers with a dot are a time if they can be
+/// one. Blanks at both ends are ignored. Nothing when the text cannot be read so, or has more than 200
+/// characters. For many dates: GeneralDateReader.
+std::optional<DateValue> readGeneralDate(QStringView text, const QLocale& locale);
+
+/// A date as the hit list shows it: abbreviated month name, comma, blank, two-digit day, blank, two-digit
+/// year
+/// ("Jan, 15 04"), in the locale's words and digits.
+QString shortMonthDateText(DateValue value, const QLocale& locale);
+
+}  // namespace quorvin

@@ -1,0 +1,38 @@
+// Writing many dates of one locale.
+#pragma once
+
+#include "platform/date_pattern.h"
+#include "platform/day_and_second.h"
+#include "platform/general_date.h"
+
+#include <QLocale>
+#include <QString>
+
+#include <array>
+
+namespace quorvin {
+
+/// Writes dates as generalDateText does, with the locale's patterns and words looked up once.
+class GeneralDateWriter {
+ public:
+  explicit GeneralDateWriter(const QLocale& locale);
+
+  QString text(DateValue value) const;
+
+ private:
+  using MonthNames = std::array<QString, 12>;
+
+  void addFields(QString& text, const DatePattern& pattern, CalendarDate date, int second) const;
+  void addNumber(QString& text, int number, int width) const;
+  QString halfDay(const QString& casing, int hour) const;
+
+  DatePattern datePattern_;
+  DatePattern timePattern_;
+  MonthNames shortMonths_;
+  MonthNames longMonths_;
+  QString beforeNoon_;
+  QString afterNoon_;
+  std::array<QString, 10> digits_;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,32 @@
+// Numbers as people type them and as listings hold them.
+#pragma once
+
+#include <QLocale>
+#include <QString>
+#include <QStringView>
+
+#include <cstdint>
+#include <optional>
+
+namespace quorvin {
+
+/// The number at the front of `text`: leading blanks skipped, an optional sign, digits with an optional "."
+/// and fraction, an optional exponent; reading stops at the first character that does not belong. 0 when
+/// there is none, infinity when it is too large. Independent of the locale.
+double leadingNumber(QStringView text);
+
+/// `value` as a 16-bit whole number, halves rounded to the even neighbour. Throws fault 6 (overflow) when it
+/// does not fit or is no number.
+std::int16_t roundToInt16(double value);
+
+/// A size in bytes as it stands in a listing: an optional minus sign and digits, with any grouping sign
+/// (comma, dot, blank, no-break blanks, apostrophes) singly between them, blanks around. Digits may be those
+/// of any script. Nothing when there is no digit, anything else stands there, or the value does not fit.
+std::optional<std::int64_t> readByteCount(QStringView text);
+
+/// A size as the hit list shows it: mebibytes with two decimals, at least one digit before the locale's
+/// decimal sign, no grouping, ties rounded away from zero, followed by "mb" ("0.13mb" for 131,072 bytes).
+/// A size that rounds to zero carries no minus sign.
+QString mebibytesText(std::int64_t bytes, const QLocale& locale);
+
+}  // namespace quorvin

@@ -1,0 +1,21 @@
+// Asking and telling the user, without knowing how: the window shows boxes, the console writes lines, a test
+// records.
+#pragma once
+
+#include <QString>
+
+namespace quorvin {
+
+/// The message boxes of the program. All carry the application title.
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+
+  /// Shows `text` with an OK button only and returns when the user has confirmed it.
+  virtual void inform(const QString& text) = 0;
+
+  /// Shows `text` with a Yes and a No button; true for Yes.
+  virtual bool askYesNo(const QString& text) = 0;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,45 @@
+#include "platform/standard_folders.h"
+
+#include "platform/file_replacement.h"
+#include "platform/path_style.h"
+#include "platform/runtime_fault.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace quorvin {
+
+QString userDataFolder() {
+  const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return withTrailingSeparator(QDir::toNativeSeparators(base + QStringLiteral("/quorvin")),
+                               nativePathStyle());
+}
+
+void prepareUserDataFolder(const QString& folder) {
+  if (!QDir().mkpath(folder)) {
+    throw RuntimeFault(FaultNumber::PathFileAccess,
+                       describe(FaultNumber::PathFileAccess) + QStringLiteral(": ") + folder);
+  }
+  const QString note =
+      withTrailingSeparator(folder, nativePathStyle()) + QStringLiteral("about-this-folder.txt");
+  if (QFileInfo::exists(note)) return;
+  replaceFile(note,
+              "Quorvin Utility keeps its listings and its lists of sources in this folder.\r\n"
+              "You can choose another folder under File, Options.\r\n");
+}
+
+QString chooseProgramFolder(const QString& executableFolder, const QString& dataFolder) {
+  if (QFileInfo(executableFolder).isWritable()) {
+    return withTrailingSeparator(QDir::toNativeSeparators(executableFolder), nativePathStyle());
+  }
+  prepareUserDataFolder(dataFolder);
+  return dataFolder;
+}
+
+QString programFolder() {
+  return chooseProgramFolder(QCoreApplication::applicationDirPath(), userDataFolder());
+}
+
+}  // namespace quorvin

@@ -1,0 +1,30 @@
+// Text in the system code page: how the bytes of listings and source lists become characters and back.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <QStringView>
+
+namespace quorvin {
+
+/// The characters of one line in the system code page (UTF-8 on Linux and macOS, the ANSI code page on
+/// Windows). A line that is not valid in it is read as Windows-1252, that line alone; the five bytes that
+/// Windows-1252 leaves undefined become the control characters of the same value.
+QString decodeSystemText(QByteArrayView line);
+
+/// Whether the bytes of `line` are valid in the system code page and that is UTF-8, so that they can be taken
+/// as they are.
+bool isUtf8AsItStands(QByteArrayView line);
+
+/// `text` in the system code page, with "?" for each character that it cannot hold (on UTF-8: unpaired
+/// surrogates).
+QByteArray encodeSystemText(QStringView text);
+
+/// Each character in Unicode simple lower case (one character for one), independent of the locale.
+QString simpleLowerCase(QStringView text);
+
+/// `text` without blanks (U+0020 only) at both ends.
+QStringView trimBlanks(QStringView text);
+
+}  // namespace quorvin

@@ -1,0 +1,103 @@
+#include "search/growing_image.h"
+
+#include "search/listing_line.h"
+
+namespace quorvin {
+
+namespace {
+
+constexpr std::uint32_t kNoBlock = UINT32_MAX;
+
+}  // namespace
+
+void GrowingImage::beginBlock(std::string_view volume, std::string_view folder, bool folderIsAscii) {
+  const std::uint32_t block = folders_.count();
+  folders_.add(folder, folderIsAscii);
+  blockStarts_.push_back(entries_.count());
+  if (!volumes_.empty()) {
+    const ImageArrays::VolumeRun& last = volumes_[volumes_.size() - 2];
+    if (std::string_view(volumeTexts_).substr(last.textStart) == volume) return;
+    volumes_.pop_back();
+  }
+  volumes_.push_back({block, static_cast<std::uint32_t>(volumeTexts_.size())});
+  volumeTexts_ += volume;
+  volumes_.push_back({kNoBlock, static_cast<std::uint32_t>(volumeTexts_.size())});
+}
+
+void GrowingImage::addEntry(std::string_view name, bool ascii) {
+  entries_.add(name, ascii);
+  values_.push_back({0, CompactValues::kAbsent});
+}
+
+void GrowingImage::addEntryColumns(const char* line, std::size_t columns, bool trimmed) {
+  entries_.addColumns(line, columns, trimmed);
+  values_.push_back({0, CompactValues::kAbsent});
+}
+
+void GrowingImage::setValues(std::uint32_t entry, ValueState state, const EntryValues& values,
+                             std::int64_t line) {
+  const CompactValues compacted = compact(state, values);
+  values_[entry] = compacted;
+  if (compacted.second == CompactValues::kKeptAside)
+    wideValues_.push_back({entry, 0, values.size, values.date});
+  if (compacted.second == CompactValues::kUnreadable) unreadable_.push_back({line, entry, 0});
+}
+
+void GrowingImage::publish() {
+  arrays_.entries = entries_.table();
+  arrays_.folders = folders_.table();
+  arrays_.blockStarts = blockStarts_;
+  arrays_.volumes = volumes_;
+  arrays_.volumeTexts = volumeTexts_;
+  arrays_.values = values_;
+  arrays_.wideValues = wideValues_;
+  arrays_.unreadable = unreadable_;
+}
+
+void GrowingImage::complete() {
+  entries_.completeTrigrams();
+  folders_.completeTrigrams();
+  publish();
+}
+
+void GrowingImage::clear() {
+  entries_.clear();
+  folders_.clear();
+  blockStarts_.clear();
+  volumes_.clear();
+  volumeTexts_.clear();
+  values_.clear();
+  wideValues_.clear();
+  unreadable_.clear();
+  publish();
+}
+
+std::size_t GrowingImage::memorySize() const {
+  return entries_.memorySize() + folders_.memorySize() + volumeTexts_.capacity() +
+         blockStarts_.capacity() * sizeof(std::uint32_t) +
+         volumes_.capacity() * sizeof(ImageArrays::VolumeRun) + values_.capacity() * sizeof(CompactValues) +
+         wideValues_.capacity() * sizeof(ImageArrays::WideValues) +
+         unreadable_.capacity() * sizeof(ImageArrays::UnreadableEntry);
+}
+
+std::shared_ptr<const SearchImage> copyOfEntries(const SearchImage& image,
+                                                 std::span<const std::uint32_t> chosen) {
+  auto copy = std::make_shared<GrowingImage>();
+  std::uint32_t block = kNoBlock;
+  std::uint32_t last = UINT32_MAX;
+  for (const std::uint32_t entry : chosen) {
+    const std::uint32_t own = image.blockOf(entry);
+    if (own != block) {
+      const std::string folder = image.folderOfBlock(own);
+      copy->beginBlock(image.volumeOfBlock(own), folder, isAscii(folder));
+    }
+    block = own;
+    const std::string name = image.arrays().entries.listedText(entry);
+    copy->addEntry(name, isAscii(name));
+    copy->setValues(++last, image.valueState(entry), image.values(entry), image.unreadableLine(entry));
+  }
+  copy->publish();
+  return copy;
+}
+
+}  // namespace quorvin

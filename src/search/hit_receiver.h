@@ -1,0 +1,38 @@
+// Where a scan puts its hits.
+#pragma once
+
+#include "search/search_image.h"
+#include "search/source_kind.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+
+namespace quorvin {
+
+/// One entry above the desired match.
+struct FoundEntry {
+  /// The entry's number in its image.
+  std::uint32_t entry;
+  /// The match, 1 to 100.
+  std::int16_t match;
+};
+
+/// Receives the hits of a run in the order in which they are found.
+class HitReceiver {
+ public:
+  virtual ~HitReceiver() = default;
+
+  /// A new listing begins; size and date carried from hit to hit start afresh.
+  virtual void beginListing(SourceKind kind) = 0;
+
+  /// Hits of `image`, in entry order. `image` may still be growing; what it says of these entries is final.
+  /// It is shared because a hit stays showable after its listing has been replaced and every other user of
+  /// the image has let go of it.
+  virtual void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) = 0;
+
+  /// No more hits of `image` will come: it is complete and may be replaced by a smaller copy.
+  virtual void endImage(const std::shared_ptr<const SearchImage>& image) = 0;
+};
+
+}  // namespace quorvin

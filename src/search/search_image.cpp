@@ -1,0 +1,72 @@
+#include "search/search_image.h"
+
+#include <algorithm>
+
+namespace quorvin {
+
+namespace {
+
+QString textOf(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+template <typename Record>
+const Record* recordOf(std::span<const Record> records, std::uint32_t entry) {
+  const auto found = std::lower_bound(records.begin(), records.end(), entry,
+                                      [](const Record& record, std::uint32_t e) { return record.entry < e; });
+  return found != records.end() && found->entry == entry ? &*found : nullptr;
+}
+
+}  // namespace
+
+std::uint32_t SearchImage::blockOf(std::uint32_t entry) const {
+  const auto& starts = arrays_.blockStarts;
+  return static_cast<std::uint32_t>(std::upper_bound(starts.begin(), starts.end(), entry) - starts.begin()) -
+         1;
+}
+
+std::string_view SearchImage::volumeOfBlock(std::uint32_t block) const {
+  const auto& runs = arrays_.volumes;
+  const auto next =
+      std::upper_bound(runs.begin(), runs.end(), block,
+                       [](std::uint32_t b, const ImageArrays::VolumeRun& run) { return b < run.firstBlock; });
+  const std::uint32_t start = std::prev(next)->textStart;
+  return arrays_.volumeTexts.substr(start, next->textStart - start);
+}
+
+QString SearchImage::volume(std::uint32_t entry) const {
+  return textOf(volumeOfBlock(blockOf(entry)));
+}
+
+QString SearchImage::folder(std::uint32_t entry) const {
+  return textOf(folderOfBlock(blockOf(entry)));
+}
+
+QString SearchImage::name(std::uint32_t entry) const {
+  return textOf(arrays_.entries.listedText(entry));
+}
+
+ValueState SearchImage::valueState(std::uint32_t entry) const {
+  switch (arrays_.values[entry].second) {
+    case CompactValues::kAbsent:
+      return ValueState::Absent;
+    case CompactValues::kUnreadable:
+      return ValueState::Unreadable;
+    default:
+      return ValueState::Own;
+  }
+}
+
+EntryValues SearchImage::values(std::uint32_t entry) const {
+  const CompactValues& compact = arrays_.values[entry];
+  if (compact.second != CompactValues::kKeptAside) return expand(compact);
+  const auto* wide = recordOf(arrays_.wideValues, entry);
+  return wide == nullptr ? EntryValues{} : EntryValues{wide->size, wide->date};
+}
+
+std::int64_t SearchImage::unreadableLine(std::uint32_t entry) const {
+  const auto* unreadable = recordOf(arrays_.unreadable, entry);
+  return unreadable == nullptr ? 0 : unreadable->line;
+}
+
+}  // namespace quorvin

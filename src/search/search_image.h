@@ -1,0 +1,86 @@
+// A stretch of a listing in the form that searches run over.
+#pragma once
+
+#include "search/entry_values.h"
+#include "search/text_table.h"
+
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace quorvin {
+
+/// The arrays of an image; somebody else owns them.
+struct ImageArrays {
+  /// From this block on (until the next run) the volume is `volume`.
+  struct VolumeRun {
+    std::uint32_t firstBlock;
+    /// Where the volume's text begins in `volumeTexts`; it ends where the next run's begins.
+    std::uint32_t textStart;
+  };
+  /// Values that CompactValues cannot hold.
+  struct WideValues {
+    std::uint32_t entry;
+    std::uint32_t reserved;
+    std::int64_t size;
+    DateValue date;
+  };
+  struct UnreadableEntry {
+    std::int64_t line;
+    std::uint32_t entry;
+    std::uint32_t reserved;
+  };
+
+  TextTable entries;
+  /// One text for each directory block.
+  TextTable folders;
+  /// The first entry of each block.
+  std::span<const std::uint32_t> blockStarts;
+  /// Ascending; the last one, of no block, tells where volumeTexts ends.
+  std::span<const VolumeRun> volumes;
+  std::string_view volumeTexts;
+  std::span<const CompactValues> values;
+  /// Both ascending by entry.
+  std::span<const WideValues> wideValues;
+  std::span<const UnreadableEntry> unreadable;
+};
+
+/// The lower-cased entry texts of a stretch of a listing, one after another, and beside them all that is
+/// needed to show a hit. Entries are numbered from 0 in file order; those under one volume and folder form a
+/// block. What an image says of an entry never changes, but an image that is still being built grows.
+class SearchImage {
+ public:
+  virtual ~SearchImage() = default;
+  SearchImage(const SearchImage&) = delete;
+  SearchImage& operator=(const SearchImage&) = delete;
+
+  std::uint32_t entryCount() const { return arrays_.entries.count; }
+  const ImageArrays& arrays() const { return arrays_; }
+
+  /// The block that `entry` stands in.
+  std::uint32_t blockOf(std::uint32_t entry) const;
+
+  /// What is shown of an entry, `entry` < entryCount(): as listed.
+  QString volume(std::uint32_t entry) const;
+  QString folder(std::uint32_t entry) const;
+  QString name(std::uint32_t entry) const;
+  ValueState valueState(std::uint32_t entry) const;
+  /// Meaningful where the state is Own.
+  EntryValues values(std::uint32_t entry) const;
+  /// The line in the listing, from 1, of an entry whose state is Unreadable.
+  std::int64_t unreadableLine(std::uint32_t entry) const;
+
+  /// The texts of a block as listed, UTF-8.
+  std::string_view volumeOfBlock(std::uint32_t block) const;
+  std::string folderOfBlock(std::uint32_t block) const { return arrays_.folders.listedText(block); }
+
+ protected:
+  SearchImage() = default;
+  ImageArrays arrays_;
+};
+
+}  // namespace quorvin

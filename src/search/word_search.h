@@ -1,0 +1,91 @@
+// Finding the words of a query in a table of texts.
+#pragma once
+
+#include "search/search_query.h"
+#include "search/text_table.h"
+
+#include <bit>
+#include <cstdint>
+#include <vector>
+
+namespace quorvin {
+
+/// A set of words of a query, by their numbers in SearchQuery::words().
+class WordSet {
+ public:
+  void add(std::size_t word) { bits_[word / 64] |= std::uint64_t{1} << (word % 64); }
+  bool has(std::size_t word) const { return (bits_[word / 64] >> (word % 64) & 1U) != 0; }
+  bool empty() const { return (bits_[0] | bits_[1]) == 0; }
+  int size() const { return std::popcount(bits_[0]) + std::popcount(bits_[1]); }
+  WordSet operator|(const WordSet& other) const {
+    WordSet both;
+    both.bits_[0] = bits_[0] | other.bits_[0];
+    both.bits_[1] = bits_[1] | other.bits_[1];
+    return both;
+  }
+
+ private:
+  std::uint64_t bits_[2] = {0, 0};
+};
+static_assert(kMostWords <= 128);
+
+/// Which words were seen in which texts of a stretch.
+class SeenWords {
+ public:
+  /// Forgets everything and takes texts `first` to `first` + `count` - 1.
+  void reset(std::uint32_t first, std::uint32_t count);
+
+  void see(std::uint32_t text, std::size_t word) {
+    const std::uint32_t i = text - first_;
+    words_[i].add(word);
+    touched_[i / 64] |= std::uint64_t{1} << (i % 64);
+  }
+
+  const WordSet& in(std::uint32_t text) const { return words_[text - first_]; }
+
+  /// A bit for each text of the stretch: some word was seen in it.
+  const std::vector<std::uint64_t>& touched() const { return touched_; }
+  bool none() const;
+
+ private:
+  std::uint32_t first_ = 0;
+  std::vector<WordSet> words_;
+  std::vector<std::uint64_t> touched_;
+};
+
+/// Searches tables of texts for the words of one query.
+class WordSearch {
+ public:
+  /// `query` must outlive the search.
+  explicit WordSearch(const SearchQuery& query);
+
+  /// Fills `seen` with texts `first` to `last` - 1 of `table` and the words that each holds.
+  void find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen);
+
+ private:
+  struct Needle {
+    std::string_view bytes;
+    BytePair pair;
+    TrigramProbe probe;
+  };
+  /// Texts of one page, from a marked one on, and the part of the answer that is wanted of them.
+  struct Stretch {
+    std::string_view text;
+    std::uint32_t firstText;
+    std::uint32_t first;
+    std::uint32_t last;
+  };
+
+  void findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen);
+  void findEnds(const Stretch& stretch);
+  void seeMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
+
+  std::vector<Needle> needles_;
+  /// For the stretch at hand, a bit for each byte: a word begins here; a text ends here. And how many texts
+  /// end before each 64 bytes.
+  std::vector<std::uint64_t> matches_;
+  std::vector<std::uint64_t> ends_;
+  std::vector<std::uint32_t> endsBefore_;
+};
+
+}  // namespace quorvin

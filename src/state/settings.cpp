@@ -1,0 +1,98 @@
+#include "state/settings.h"
+
+#include "platform/file_lookup.h"
+#include "platform/general_number.h"
+#include "platform/runtime_fault.h"
+#include "state/source_list_file.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace quorvin {
+
+namespace {
+
+struct PlacementName {
+  PlacementKey key;
+  QString name;
+};
+
+std::array<PlacementName, 4> placementNames() {
+  return {{{PlacementKey::Top, QStringLiteral("Top")},
+           {PlacementKey::Left, QStringLiteral("Left")},
+           {PlacementKey::Width, QStringLiteral("Width")},
+           {PlacementKey::Height, QStringLiteral("Height")}}};
+}
+
+RuntimeFault unreadable(const QString& kind, const QString& text) {
+  return {FaultNumber::TypeMismatch,
+          describe(FaultNumber::TypeMismatch) + QStringLiteral(": \"%1\" is not a %2").arg(text, kind)};
+}
+
+bool beginsWithNumber(QStringView text) {
+  while (text.startsWith(u' ')) text = text.mid(1);
+  if (text.startsWith(u'-') || text.startsWith(u'+')) text = text.mid(1);
+  if (text.startsWith(u'.')) text = text.mid(1);
+  return !text.isEmpty() && text[0] >= u'0' && text[0] <= u'9';
+}
+
+QString readSetting(const SettingsStore& store, const ProgramState& state, const QString& key,
+                    const QString& fallback) {
+  return store.read(state.RegKey, QString::fromUtf16(kSettingsSection), key, fallback);
+}
+
+}  // namespace
+
+QString placementText(float twips) {
+  // Room for the longest single-precision number without an exponent.
+  std::array<char, 128> digits;
+  const auto written =
+      std::to_chars(digits.data(), digits.data() + digits.size(), twips, std::chars_format::fixed);
+  return QString::fromLatin1(digits.data(), written.ptr - digits.data());
+}
+
+float placementValue(const QString& text) {
+  if (!beginsWithNumber(text)) throw unreadable(QStringLiteral("number"), text);
+  const double value = leadingNumber(text);
+  if (std::abs(value) <= std::numeric_limits<float>::max()) return static_cast<float>(value);
+  throw RuntimeFault(FaultNumber::Overflow, describe(FaultNumber::Overflow) + QStringLiteral(": ") + text);
+}
+
+void readPlacement(const SettingsStore& store, const ProgramState& state, WindowPlacement& window) {
+  for (const auto& [key, name] : placementNames()) {
+    const QString current = placementText(window.placement(key));
+    window.setPlacement(key, placementValue(readSetting(store, state, name, current)));
+  }
+}
+
+void readSettings(const SettingsStore& store, ProgramState& state, DateValue now, const QLocale& locale) {
+  const auto restore = [&](QString& setting, const QString& key) {
+    setting = readSetting(store, state, key, setting);
+  };
+  restore(state.LocalFolder, QStringLiteral("LocalFolder"));
+  restore(state.TextFile, QStringLiteral("TextFile"));
+  restore(state.ArchiveFile, QStringLiteral("ArchiveFile"));
+  restore(state.WebServer, QStringLiteral("WebServer"));
+
+  const QString joined = readSetting(store, state, QStringLiteral("JoinDate"), generalDateText(now, locale));
+  const std::optional<DateValue> joinDate = readGeneralDate(joined, locale);
+  if (!joinDate) throw unreadable(QStringLiteral("date"), joined);
+  state.JoinDate = *joinDate;
+
+  state.NickName = readSetting(store, state, QStringLiteral("NickName"), QString());
+}
+
+void completeLocalFolder(ProgramState& state, const QString& programFolder) {
+  if (state.LocalFolder.isEmpty()) state.LocalFolder = programFolder;
+}
+
+void loadSourceLists(ProgramState& state) {
+  const QString online = state.LocalFolder + state.LocFile;
+  if (ordinaryFileExists(online)) loadSourceList(online, state.OnlineSources, state.OnlineSourceCount);
+  const QString offline = state.LocalFolder + state.OffLineFile;
+  if (ordinaryFileExists(offline)) loadSourceList(offline, state.OfflineSources, state.OfflineSourceCount);
+}
+
+}  // namespace quorvin

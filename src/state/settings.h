@@ -1,0 +1,49 @@
+// The ten settings: reading them at start-up, writing them at shutdown.
+#pragma once
+
+#include "platform/settings_store.h"
+#include "state/program_state.h"
+
+#include <QLocale>
+
+namespace quorvin {
+
+/// The section of the settings store under which all ten keys stand.
+inline constexpr char16_t kSettingsSection[] = u"Settings";
+
+/// The four placement keys, in the order in which they are read and written.
+enum class PlacementKey { Top, Left, Width, Height };
+
+/// The main window's place on the screen, as the settings see it: outer measures in twips (15 to the logical
+/// pixel).
+class WindowPlacement {
+ public:
+  virtual ~WindowPlacement() = default;
+  virtual float placement(PlacementKey key) const = 0;
+  /// Moves or resizes the window at once.
+  virtual void setPlacement(PlacementKey key, float twips) = 0;
+};
+
+/// A single-precision number as settings text, and back. Reading takes the number at the front of the text
+/// and throws fault 13 when there is none.
+QString placementText(float twips);
+float placementValue(const QString& text);
+
+/// Reads the placement keys of `state.RegKey`, each with the window's current value as default, and applies
+/// each to the window as soon as it is read, in the order Top, Left, Width, Height.
+void readPlacement(const SettingsStore& store, const ProgramState& state, WindowPlacement& window);
+
+/// Reads "LocalFolder", "TextFile", "ArchiveFile", "WebServer", "JoinDate" and "NickName" of `state.RegKey`
+/// into `state`, in this order. What `state` holds before is the default of the first four; the default of
+/// the date is `now`, of the nickname empty. The join date is kept as text in the locale's general date form.
+/// Throws fault 13 when the stored date cannot be read; what was read before stays.
+void readSettings(const SettingsStore& store, ProgramState& state, DateValue now, const QLocale& locale);
+
+/// Makes an empty `LocalFolder` the program's own folder, `programFolder` (with its trailing separator).
+void completeLocalFolder(ProgramState& state, const QString& programFolder);
+
+/// Loads both source lists from `LocalFolder`, each if its file exists, appending to the tables. Throws as
+/// loadSourceList does; what was loaded before stays.
+void loadSourceLists(ProgramState& state);
+
+}  // namespace quorvin

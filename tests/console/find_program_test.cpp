@@ -1,0 +1,164 @@
+// The console program as a user runs it.
+#include "platform/ini_settings_store.h"
+#include "support/listing_lines.h"
+#include "support/temporary_folder.h"
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace quorvin {
+namespace {
+
+struct Ended {
+  int status;
+  QString output;
+  QString errors;
+};
+
+class FindProgram : public ::testing::Test {
+ protected:
+  FindProgram() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LC_ALL"_qs, u"C.UTF-8"_qs);
+    environment.insert(u"QUORVIN_SETTINGS"_qs, folder_.pathOf(u"settings.ini"_qs));
+    process_.setProcessEnvironment(environment);
+    process_.setWorkingDirectory(folder_.path());
+    process_.setProgram(QStringLiteral(QUORVIN_CLI));
+  }
+
+  Ended run(const QStringList& arguments) {
+    process_.setArguments(arguments);
+    process_.start();
+    EXPECT_TRUE(process_.waitForFinished(60000)) << process_.errorString().toStdString();
+    return {process_.exitCode(), QString::fromUtf8(process_.readAllStandardOutput()),
+            QString::fromUtf8(process_.readAllStandardError())};
+  }
+
+  QString sample() {
+    return folder_.writeFile(u"cd7.lst"_qs, test::blockHead("CD 7", "\\Music\\Rock\\") +
+                                                test::entryLine("Live at Wembley.mp3", "131,072") +
+                                                test::entryLine("Cover.jpg", "2,097,152"));
+  }
+
+  TemporaryFolder folder_;
+  QProcess process_;
+};
+
+TEST_F(FindProgram, WritesHitsAndCountsAndEndsWith0) {
+  const Ended ended = run({u"find"_qs, u"ROCK live"_qs, sample()});
+  EXPECT_EQ(ended.output, u"100%\tCD 7\t\\Music\\Rock\\\tLive at Wembley.mp3\t0.13mb\tJan, 15 04\n"_qs);
+  EXPECT_EQ(ended.errors, u"1 found, 2 searched\n"_qs);
+  EXPECT_EQ(ended.status, 0);
+}
+
+TEST_F(FindProgram, WithoutHitsItEndsWith1) {
+  const Ended ended = run({u"find"_qs, u"nowhere"_qs, sample()});
+  EXPECT_EQ(ended.output, QString());
+  EXPECT_EQ(ended.errors, u"0 found, 2 searched\n"_qs);
+  EXPECT_EQ(ended.status, 1);
+}
+
+TEST_F(FindProgram, CountWritesOnlyTheNumberOfHits) {
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"rock"_qs, sample()}).output, u"2\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"nowhere"_qs, sample()}).output, u"0\n"_qs);
+}
+
+TEST_F(FindProgram, MatchIsCorrectedLikeTheWindowsBox) {
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"--match"_qs, u"49"_qs, u"live nowhere"_qs, sample()}).output,
+            u"1\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"--match"_qs, u"49.5"_qs, u"live nowhere"_qs, sample()}).output,
+            u"0\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"--match"_qs, u"250"_qs, u"live"_qs, sample()}).output,
+            u"0\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"--match"_qs, u"no"_qs, u"live nowhere"_qs, sample()}).output,
+            u"1\n"_qs);
+}
+
+TEST_F(FindProgram, CsvAndJsonAreWritten) {
+  EXPECT_EQ(run({u"find"_qs, u"--format"_qs, u"csv"_qs, u"live"_qs, sample()}).output,
+            u"100%,CD 7,\\Music\\Rock\\,Live at Wembley.mp3,0.13mb,\"Jan, 15 04\"\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--format"_qs, u"json"_qs, u"cover"_qs, sample()}).output,
+            u"{\"date\":\"Jan, 15 "
+            u"04\",\"folder\":\"\\\\Music\\\\Rock\\\\\",\"match\":\"100%\",\"name\":\"Cover.jpg\","
+            "\"size\":\"2.00mb\",\"volume\":\"CD 7\"}\n"_qs);
+}
+
+TEST_F(FindProgram, MissingListingIsToldAndTheOthersAreSearched) {
+  const Ended ended = run({u"find"_qs, u"live"_qs, u"gone.lst"_qs, sample()});
+  EXPECT_EQ(ended.output.count(u'\n'), 1);
+  EXPECT_EQ(ended.errors, u"quorvin-cli: Listing file not found: gone.lst\n1 found, 2 searched\n"_qs);
+  EXPECT_EQ(ended.status, 2);
+}
+
+TEST_F(FindProgram, WithoutListingsTheUsersOwnSourcesAreSearchedInOrder) {
+  folder_.writeFile(u"data/Music.txt"_qs, "song online\r\n");
+  folder_.writeFile(u"data/all.txt"_qs, "song main\r\n");
+  const QString offline = folder_.writeFile(u"far/cd.lst"_qs, "song offline\r\n");
+  folder_.writeFile(u"data/Locations.txt"_qs, "\"Music\",\"/music/\"\r\n");
+  folder_.writeFile(u"data/OfflineLocations.txt"_qs, "\"Offline\",\"" + offline.toUtf8() + "\"\r\n");
+  {
+    IniSettingsStore store(folder_.pathOf(u"settings.ini"_qs));
+    store.write(u"Ketta Quorvin"_qs, u"Settings"_qs, u"LocalFolder"_qs, folder_.pathOf(u"data/"_qs));
+    store.write(u"Ketta Quorvin"_qs, u"Settings"_qs, u"TextFile"_qs, u"all.txt"_qs);
+  }
+  const Ended ended = run({u"find"_qs, u"song"_qs});
+  EXPECT_EQ(ended.output,
+            u"100%\t\t\tsong online\t0.00mb\tDec, 30 99\n100%\t\t\tsong main\t0.00mb\tDec, 30 99\n"
+            "100%\t\t\tsong offline\t0.00mb\tDec, 30 99\n"_qs);
+  EXPECT_EQ(ended.errors, u"3 found, 3 searched\n"_qs);
+  EXPECT_EQ(ended.status, 0);
+}
+
+TEST_F(FindProgram, DefaultsFileOfTheCurrentFolderIsTaken) {
+  folder_.writeFile(u"data/all.txt"_qs, "song main\r\n");
+  folder_.writeFile(u"defaults.txt"_qs, folder_.pathOf(u"data/"_qs).toUtf8() + "\r\nall.txt\r\n\r\n\r\n");
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"song"_qs}).output, u"1\n"_qs);
+}
+
+TEST_F(FindProgram, WrongUseIsToldAndEndsWith2) {
+  for (const QStringList& arguments :
+       {QStringList{}, QStringList{u"seek"_qs}, QStringList{u"find"_qs},
+        QStringList{u"find"_qs, u"--format"_qs, u"xml"_qs, u"a"_qs}, QStringList{u"find"_qs, u""_qs}}) {
+    const Ended ended = run(arguments);
+    EXPECT_EQ(ended.status, 2) << arguments.join(u' ').toStdString();
+    EXPECT_TRUE(ended.errors.startsWith(u"quorvin-cli: "_qs)) << ended.errors.toStdString();
+  }
+}
+
+TEST_F(FindProgram, HelpAndVersionEndWith0) {
+  EXPECT_EQ(run({u"--version"_qs}).output, u"quorvin-cli 2.5.64\n"_qs);
+  const Ended help = run({u"--help"_qs});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_TRUE(help.output.contains(u"find"_qs));
+  const Ended findHelp = run({u"find"_qs, u"--help"_qs});
+  EXPECT_EQ(findHelp.status, 0);
+  for (const char16_t* option : {u"--match", u"--format", u"--count", u"TEXT", u"LISTING"}) {
+    EXPECT_TRUE(findHelp.output.contains(QString::fromUtf16(option))) << findHelp.output.toStdString();
+  }
+}
+
+TEST_F(FindProgram, InterruptEndsTheSearchCleanly) {
+  const QString listing =
+      folder_.writeFile(u"big.lst"_qs, QByteArray("song of a long evening\r\n").repeated(400000));
+  process_.setArguments(
+      {u"find"_qs, u"--count"_qs, u"song"_qs, listing, listing, listing, listing, listing, listing});
+  process_.start();
+  ASSERT_TRUE(process_.waitForStarted());
+  // The handler stands once the program has read its first bytes; an earlier signal ends it the usual way.
+  while (process_.state() == QProcess::Running) {
+    QFile io(u"/proc/%1/io"_qs.arg(process_.processId()));
+    if (io.open(QIODevice::ReadOnly) && io.readAll().split('\n')[0].mid(7).toLongLong() > 5000000) break;
+  }
+  ::kill(static_cast<pid_t>(process_.processId()), SIGINT);
+  ASSERT_TRUE(process_.waitForFinished(60000));
+  EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
+  const QString errors = QString::fromUtf8(process_.readAllStandardError());
+  EXPECT_TRUE(errors.endsWith(u" searched\n"_qs)) << errors.toStdString();
+  EXPECT_FALSE(errors.contains(u"2400000 searched"_qs)) << errors.toStdString();
+}
+
+}  // namespace
+}  // namespace quorvin

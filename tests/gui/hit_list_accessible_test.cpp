@@ -1,0 +1,71 @@
+// What assistive technology is told of the main window.
+#include "search_form_fixture.h"
+
+#include <QAccessible>
+
+namespace quorvin::test {
+
+namespace {
+
+using AccessibleWindow = SearchFormTest;
+
+TEST_F(AccessibleWindow, RowsAreItemsNamedByTheirColumnsAndDescribedByTheirKind) {
+  addOnlineSource(
+      QStringLiteral("disk"),
+      blockHead("DISK", "\\Music\\") + entryLine("one tune.mp3", "131,072") + entryLine("two tune.mp3"));
+  find(QStringLiteral("tune"));
+  QAccessibleInterface* list = QAccessible::queryAccessibleInterface(controls().HitList);
+  ASSERT_NE(list, nullptr);
+  EXPECT_EQ(list->role(), QAccessible::List);
+  EXPECT_EQ(list->text(QAccessible::Name), QStringLiteral("Hits"));
+  ASSERT_EQ(list->childCount(), 2);
+  QAccessibleInterface* row = list->child(0);
+  ASSERT_NE(row, nullptr);
+  EXPECT_EQ(row->role(), QAccessible::ListItem);
+  EXPECT_EQ(row->text(QAccessible::Name),
+            QStringLiteral("Match 100%, Volume DISK, Folder \\Music\\, Name one tune.mp3, Size 0.13mb, "
+                           "Date Jan, 15 04"));
+  EXPECT_EQ(row->text(QAccessible::Description), QStringLiteral("From the listing of an online source"));
+  EXPECT_EQ(list->indexOfChild(row), 0);
+  EXPECT_EQ(list->child(0), row);
+}
+
+TEST_F(AccessibleWindow, TheSelectedRowSaysSo) {
+  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 3, "tune"));
+  find(QStringLiteral("tune"));
+  controls().HitList->setFocus();
+  QTest::keyClick(controls().HitList, Qt::Key_Home);
+  QTest::keyClick(controls().HitList, Qt::Key_Down);
+  QAccessibleInterface* list = QAccessible::queryAccessibleInterface(controls().HitList);
+  EXPECT_FALSE(list->child(0)->state().selected);
+  EXPECT_TRUE(list->child(1)->state().selected);
+  EXPECT_TRUE(list->child(1)->state().focused);
+  ASSERT_NE(list->focusChild(), nullptr);
+  EXPECT_EQ(list->indexOfChild(list->focusChild()), 1);
+}
+
+TEST_F(AccessibleWindow, ARowThatIsGoneIsInvalid) {
+  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 3, "tune"));
+  find(QStringLiteral("tune"));
+  QAccessibleInterface* row = QAccessible::queryAccessibleInterface(controls().HitList)->child(2);
+  ASSERT_TRUE(row->isValid());
+  find(QStringLiteral("nothing of this kind"));
+  EXPECT_FALSE(row->isValid());
+  EXPECT_EQ(row->text(QAccessible::Name), QString());
+}
+
+TEST_F(AccessibleWindow, EveryControlThatTakesTheFocusHasAName) {
+  form();
+  for (QWidget* widget : form().findChildren<QWidget*>()) {
+    if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith(QStringLiteral("qt_")))
+      continue;
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(told, nullptr) << widget->objectName().toStdString();
+    EXPECT_FALSE(told->text(QAccessible::Name).isEmpty())
+        << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+  }
+}
+
+}  // namespace
+
+}  // namespace quorvin::test

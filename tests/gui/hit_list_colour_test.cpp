@@ -1,0 +1,108 @@
+// The colours in which rows are drawn on light and dark backgrounds.
+#include "app/hit_list.h"
+#include "app/hit_list_delegate.h"
+#include "app/hit_list_model.h"
+#include "scan_into.h"
+#include "support/listing_lines.h"
+
+#include <QHeaderView>
+#include <QImage>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace quorvin::test {
+
+namespace {
+
+const QColor kLight(255, 255, 255);
+const QColor kDark(30, 30, 30);
+
+double luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+class RowColours : public testing::TestWithParam<SourceKind> {
+ protected:
+  static QColor ofKind() { return QColor(QRgb{rowColour(GetParam())}); }
+};
+
+TEST_P(RowColours, AreExactOnALightBackground) {
+  EXPECT_EQ(readableOn(ofKind(), kLight), ofKind());
+}
+
+TEST_P(RowColours, KeepTheirHueAndCanBeReadOnADarkBackground) {
+  const QColor drawn = readableOn(ofKind(), kDark);
+  EXPECT_LE(std::abs(drawn.hslHue() - ofKind().hslHue()), 1);
+  EXPECT_GE((luminance(drawn) + 0.05) / (luminance(kDark) + 0.05), 4.5);
+}
+
+/// Whether anything in the picture is drawn about in `colour`; text is smoothed against its background.
+bool holds(const QImage& picture, const QColor& colour) {
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const QColor pixel = picture.pixelColor(x, y);
+      const int distance = std::abs(pixel.red() - colour.red()) + std::abs(pixel.green() - colour.green()) +
+                           std::abs(pixel.blue() - colour.blue());
+      if (distance < 40) return true;
+    }
+  }
+  return false;
+}
+
+class PaintedRow : public RowColours {
+ protected:
+  QImage paint(const QPalette& palette, bool isSelected) {
+    scanInto(table_, GetParam(), blockHead("IIIIII", "\\IIIIII\\") + "IIIIIIIII\r\n", QStringLiteral("iii"));
+    model_.hitsArrived();
+    view_.setPalette(palette);
+    view_.setModel(&model_);
+    view_.resize(700, 100);
+    view_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&view_));
+    if (isSelected)
+      view_.selectionModel()->select(model_.index(0, 0),
+                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    return view_.viewport()->grab(view_.rowRect(0)).toImage();
+  }
+  static QPalette paletteOn(const QColor& base) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, base);
+    palette.setColor(QPalette::Highlight, QColor(0, 90, 160));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+  }
+
+  HitTable table_;
+  HitListModel model_{table_, QLocale::c()};
+  HitListView view_;
+};
+
+TEST_P(PaintedRow, IsDrawnInTheColourOfItsKind) {
+  EXPECT_TRUE(holds(paint(paletteOn(kLight), false), ofKind()));
+}
+
+TEST_P(PaintedRow, IsDrawnLighterOnADarkBackground) {
+  EXPECT_TRUE(holds(paint(paletteOn(kDark), false), readableOn(ofKind(), kDark)));
+}
+
+TEST_P(PaintedRow, IsDrawnAsSelectedTextWhenSelected) {
+  const QImage picture = paint(paletteOn(kLight), true);
+  EXPECT_TRUE(holds(picture, Qt::white));
+  EXPECT_FALSE(holds(picture, ofKind()));
+  EXPECT_EQ(picture.pixelColor(picture.width() - 1, picture.height() / 2), QColor(0, 90, 160));
+}
+
+const auto kKinds = testing::Values(SourceKind::Online, SourceKind::MainDataFile, SourceKind::Offline);
+INSTANTIATE_TEST_SUITE_P(OfEachKind, RowColours, kKinds);
+INSTANTIATE_TEST_SUITE_P(OfEachKind, PaintedRow, kKinds);
+
+}  // namespace
+
+}  // namespace quorvin::test

@@ -1,0 +1,194 @@
+// The layout of the main window, to the number.
+#include "app/search_form_layout.h"
+
+#include "search_form_fixture.h"
+
+#include <QHeaderView>
+#include <QMenuBar>
+
+namespace quorvin::test {
+
+namespace {
+
+using WindowLayout = SearchFormTest;
+
+TEST(ColumnDivisionRule, SharesWhatTheOtherColumnsLeave) {
+  // 10000 - 600 - 900 - 1100 - 340 = 7060
+  const ColumnDivision division = divideColumns(10000, 600, 900, 1100);
+  EXPECT_DOUBLE_EQ(division.volume, 1129.6);
+  EXPECT_DOUBLE_EQ(division.folder, 1553.2);
+  EXPECT_DOUBLE_EQ(division.name, 4377.2);
+}
+
+TEST(ColumnDivisionRule, RoundsTheWidthsToWholeNumbersFirst) {
+  // 600.4, 900.6 and 1100.5 count as 600, 901 and 1100: 10000 - 2601 - 340 = 7059
+  EXPECT_DOUBLE_EQ(divideColumns(10000, 600.4, 900.6, 1100.5).name, 62 * 7059 / 100.0);
+}
+
+TEST_F(WindowLayout, StretchesToTheInnerEdges) {
+  form().resize(900, 600);
+  QTest::qWait(0);
+  const QSize inner = form().centralWidget()->size();
+  EXPECT_EQ(inner.width(), 900);
+  EXPECT_EQ(controls().SearchStr->x() + controls().SearchStr->width(), inner.width());
+  EXPECT_EQ(controls().lblVer->x() + controls().lblVer->width(), inner.width());
+  EXPECT_EQ(controls().MenuLine->x(), 0);
+  EXPECT_EQ(controls().MenuLine->width(), inner.width());
+  EXPECT_EQ(controls().HitList->x() + controls().HitList->width(), inner.width());
+  EXPECT_EQ(controls().HitList->y() + controls().HitList->height(), inner.height());
+}
+
+TEST_F(WindowLayout, MovesNoControlAndLeavesTheOthersTheirSize) {
+  form().resize(900, 600);
+  const auto places = [&] {
+    std::vector<QRect> all;
+    for (const QWidget* widget :
+         {static_cast<QWidget*>(controls().DesMatch), static_cast<QWidget*>(controls().Find),
+          static_cast<QWidget*>(controls().lblFound), static_cast<QWidget*>(controls().lblSearched),
+          static_cast<QWidget*>(controls().WebUpdate)}) {
+      all.push_back(widget->geometry());
+    }
+    for (const QWidget* widget :
+         {static_cast<QWidget*>(controls().SearchStr), static_cast<QWidget*>(controls().lblVer),
+          static_cast<QWidget*>(controls().HitList)}) {
+      all.emplace_back(widget->pos(), QSize());
+    }
+    return all;
+  };
+  const std::vector<QRect> before = places();
+  form().resize(1300, 800);
+  EXPECT_EQ(places(), before);
+}
+
+TEST_F(WindowLayout, DividesTheColumns) {
+  form();
+  QHeaderView* columns = controls().HitList->header();
+  columns->resizeSection(0, 60);
+  columns->resizeSection(4, 90);
+  columns->resizeSection(5, 80);
+  form().resize(900, 600);
+  form().resize(901, 600);
+  form().resize(900, 600);
+  QTest::qWait(0);
+  // 13500 - 900 - 1350 - 1200 - 340 = 9710 twips: 1553.6, 2136.2 and 6020.2
+  EXPECT_EQ(columns->sectionSize(1), 104);
+  EXPECT_EQ(columns->sectionSize(2), 142);
+  EXPECT_EQ(columns->sectionSize(3), 401);
+}
+
+TEST_F(WindowLayout, AWidenedFixedColumnIsKeptAndTheNextResizeShrinksTheOthers) {
+  form().resize(900, 600);
+  QTest::qWait(0);
+  QHeaderView* columns = controls().HitList->header();
+  const int folder = columns->sectionSize(2);
+  columns->resizeSection(5, columns->sectionSize(5) + 200);
+  const int date = columns->sectionSize(5);
+  EXPECT_EQ(columns->sectionSize(2), folder);
+  form().resize(900, 610);
+  QTest::qWait(0);
+  EXPECT_EQ(columns->sectionSize(5), date);
+  // 22 hundredths of the 200 pixels
+  EXPECT_EQ(columns->sectionSize(2), folder - 44);
+}
+
+TEST_F(WindowLayout, IsNeverSmallerThanTheLeastSize) {
+  form().resize(50, 40);
+  QTest::qWait(0);
+  EXPECT_EQ(form().placement(PlacementKey::Width), 3000.0F);
+  EXPECT_EQ(form().placement(PlacementKey::Height), 1500.0F);
+}
+
+TEST_F(WindowLayout, TheLeastSizeIsLaidOut) {
+  form().setPlacement(PlacementKey::Width, 3000);
+  form().setPlacement(PlacementKey::Height, 1500);
+  QTest::qWait(0);
+  ASSERT_EQ(form().frameGeometry().size(), QSize(200, 100));
+  EXPECT_EQ(controls().SearchStr->x() + controls().SearchStr->width(), form().centralWidget()->width());
+  EXPECT_EQ(controls().MenuLine->width(), form().centralWidget()->width());
+}
+
+TEST_F(WindowLayout, MinimizingAndRestoringKeepsTheLayout) {
+  form().resize(900, 600);
+  QTest::qWait(0);
+  const QRect list = controls().HitList->geometry();
+  const int name = controls().HitList->header()->sectionSize(3);
+  form().showMinimized();
+  QTest::qWait(0);
+  EXPECT_EQ(controls().HitList->geometry(), list);
+  form().showNormal();
+  QTest::qWait(0);
+  EXPECT_EQ(controls().HitList->geometry(), list);
+  EXPECT_EQ(controls().HitList->header()->sectionSize(3), name);
+}
+
+TEST_F(WindowLayout, PlacementIsInTwips) {
+  form().setPlacement(PlacementKey::Top, 300);
+  form().setPlacement(PlacementKey::Left, 450);
+  form().setPlacement(PlacementKey::Width, 12000);
+  form().setPlacement(PlacementKey::Height, 9000);
+  EXPECT_EQ(form().frameGeometry(), QRect(30, 20, 800, 600));
+  EXPECT_EQ(form().placement(PlacementKey::Top), 300.0F);
+  EXPECT_EQ(form().placement(PlacementKey::Left), 450.0F);
+  EXPECT_EQ(form().placement(PlacementKey::Width), 12000.0F);
+  EXPECT_EQ(form().placement(PlacementKey::Height), 9000.0F);
+}
+
+TEST_F(WindowLayout, APlaceOnNoScreenIsLeftWhenTheWindowIsShown) {
+  SearchForm lost(state_, messages_, QLocale::c());
+  lost.setPlacement(PlacementKey::Top, 900000);
+  lost.setPlacement(PlacementKey::Left, -900000);
+  lost.show();
+  EXPECT_TRUE(lost.screen()->availableGeometry().intersects(lost.frameGeometry()));
+}
+
+/// The controls of a window with a font of `points`, at its first size.
+class InitialLayout : public SearchFormTest, public testing::WithParamInterface<int> {
+ protected:
+  void SetUp() override {
+    QFont font = QApplication::font();
+    fontBefore_ = font;
+    font.setPointSize(GetParam());
+    QApplication::setFont(font);
+    // The first size is bounded by the screen, which is small in tests.
+    form().resize(initialInnerSize(controls()) + QSize(0, form().menuBar()->height()));
+    QTest::qWait(0);
+  }
+  void TearDown() override { QApplication::setFont(fontBefore_); }
+
+ private:
+  QFont fontBefore_;
+};
+
+TEST_P(InitialLayout, ClipsNoControl) {
+  for (const QWidget* widget :
+       {static_cast<QWidget*>(controls().searchLabel), static_cast<QWidget*>(controls().matchLabel),
+        static_cast<QWidget*>(controls().Find), static_cast<QWidget*>(controls().foundLabel),
+        static_cast<QWidget*>(controls().searchedLabel), static_cast<QWidget*>(controls().WebUpdate),
+        static_cast<QWidget*>(controls().lblVer)}) {
+    EXPECT_GE(widget->width(), widget->sizeHint().width()) << widget->objectName().toStdString();
+    EXPECT_GE(widget->height(), widget->sizeHint().height()) << widget->objectName().toStdString();
+  }
+  EXPECT_GE(controls().DesMatch->height(), controls().DesMatch->sizeHint().height());
+}
+
+TEST_P(InitialLayout, CoversNoControlWithAnother) {
+  const std::vector<QWidget*> row = {controls().matchLabel,  controls().DesMatch,  controls().Find,
+                                     controls().foundLabel,  controls().lblFound,  controls().searchedLabel,
+                                     controls().lblSearched, controls().WebUpdate, controls().lblVer};
+  for (std::size_t next = 1; next < row.size(); ++next) {
+    EXPECT_GT(row[next]->x(), row[next - 1]->geometry().right()) << next;
+  }
+  EXPECT_GT(controls().HitList->y(), controls().Find->geometry().bottom());
+  EXPECT_GT(controls().DesMatch->y(), controls().SearchStr->geometry().bottom());
+}
+
+TEST_P(InitialLayout, HasRoomForTheLargestCount) {
+  controls().lblFound->setText(QStringLiteral("2147483647"));
+  EXPECT_GE(controls().lblFound->width(), controls().lblFound->sizeHint().width());
+}
+
+INSTANTIATE_TEST_SUITE_P(AtFontSizes, InitialLayout, testing::Values(6, 9, 12, 24));
+
+}  // namespace
+
+}  // namespace quorvin::test

@@ -1,0 +1,140 @@
+// The main window before a run: its controls, menus, keys and what it tells.
+#include "app/search_form_menus.h"
+#include "search_form_fixture.h"
+
+#include <QApplication>
+#include <QMenuBar>
+
+namespace quorvin::test {
+
+namespace {
+
+using MainWindow = SearchFormTest;
+
+TEST_F(MainWindow, CarriesTheTitleAndTheVersion) {
+  EXPECT_EQ(form().windowTitle(), QStringLiteral("Quorvin Utility"));
+  EXPECT_EQ(controls().lblVer->text(), QStringLiteral("Ver:2.5(64)"));
+}
+
+TEST_F(MainWindow, StartsIdleWithFiftyPercentAndZeroCounts) {
+  EXPECT_EQ(controls().Find->text(), QStringLiteral("Find"));
+  EXPECT_EQ(controls().WebUpdate->text(), QStringLiteral("Web Update?"));
+  EXPECT_EQ(controls().DesMatch->text(), QStringLiteral("50"));
+  EXPECT_EQ(controls().SearchStr->text(), QString());
+  EXPECT_EQ(found(), QStringLiteral("0"));
+  EXPECT_EQ(searched(), QStringLiteral("0"));
+  EXPECT_EQ(rows(), 0);
+}
+
+TEST_F(MainWindow, ControlsCarryTheirNames) {
+  for (const char* name : {"SearchStr", "DesMatch", "Find", "lblFound", "lblSearched", "lblVer", "WebUpdate",
+                           "MenuLine", "HitList"}) {
+    EXPECT_NE(form().findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
+  }
+}
+
+TEST_F(MainWindow, HitListHasItsSixColumns) {
+  QStringList titles;
+  for (int column = 0; column < controls().HitList->model()->columnCount(); ++column) {
+    titles.append(controls().HitList->model()->headerData(column, Qt::Horizontal).toString());
+  }
+  EXPECT_EQ(titles.join(u'|'), QStringLiteral("Match|Volume|Folder|Name|Size|Date"));
+}
+
+TEST_F(MainWindow, FocusStartsInTheSearchText) {
+  form();
+  EXPECT_EQ(QApplication::focusWidget(), controls().SearchStr);
+}
+
+TEST_F(MainWindow, TabGoesFromTheSearchTextToTheHits) {
+  form().setWebUpdateEnabled(true);
+  const std::vector<QWidget*> order = {controls().DesMatch, controls().Find, controls().WebUpdate,
+                                       controls().HitList, controls().SearchStr};
+  for (QWidget* next : order) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
+  }
+}
+
+TEST_F(MainWindow, ControlFGoesToTheSearchTextAndSelectsIt) {
+  type(controls().SearchStr, QStringLiteral("rock"));
+  controls().HitList->setFocus();
+  QTest::keyClick(controls().HitList, Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::focusWidget(), controls().SearchStr);
+  EXPECT_EQ(controls().SearchStr->selectedText(), QStringLiteral("rock"));
+}
+
+TEST_F(MainWindow, AltSGoesToTheSearchText) {
+  controls().HitList->setFocus();
+  QTest::keyClick(controls().HitList, Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(QApplication::focusWidget(), controls().SearchStr);
+}
+
+TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
+  QStringList captions;
+  for (const QAction* top : form().menuBar()->actions()) {
+    captions.append(top->menu()->objectName() + u'=' + top->text());
+    for (const QAction* item : top->menu()->actions())
+      captions.append(item->objectName() + u'=' + item->text());
+  }
+  EXPECT_EQ(captions.join(u'\n'), QStringLiteral("FileMenu=&File\n"
+                                                 "AddLocal=&Add/Edit Local Folder To Search List\n"
+                                                 "EditOffline=Add/Edit Offline List files\n"
+                                                 "ReScan=Rescan Local Search Folders\n"
+                                                 "OptionsMenu=&Options\n"
+                                                 "MenuQuit=&Quit\n"
+                                                 "HlpMnu=&Help\n"
+                                                 "HlpGen=Program &Usage\n"
+                                                 "RelInfo=&Release Information\n"
+                                                 "AboutMenu=&About"));
+}
+
+TEST_F(MainWindow, QuitClosesTheWindow) {
+  ASSERT_TRUE(form().isVisible());
+  form().menus().MenuQuit->trigger();
+  EXPECT_FALSE(form().isVisible());
+}
+
+TEST_F(MainWindow, WebUpdateIsDisabledUntilStartUpEnablesIt) {
+  EXPECT_FALSE(controls().WebUpdate->isEnabled());
+  form().setWebUpdateEnabled(true);
+  EXPECT_TRUE(controls().WebUpdate->isEnabled());
+}
+
+TEST_F(MainWindow, WebUpdateTellsThatItDoesNotExistYet) {
+  form().setWebUpdateEnabled(true);
+  QTest::mouseClick(controls().WebUpdate, Qt::LeftButton);
+  ASSERT_EQ(messages_.informed.size(), 1U);
+  EXPECT_EQ(messages_.informed[0], QStringLiteral("The web update does not exist in this version yet."));
+}
+
+TEST_F(MainWindow, EmptyListSaysWhatToDoFirstWhileThereIsNoSource) {
+  EXPECT_EQ(controls().HitList->emptyText(),
+            QStringLiteral("There is nothing to search yet.\n\n"
+                           "Start the program with a listing file, as in \"quorvin my-disks.txt\",\n"
+                           "or name your listing files in %1OfflineLocations.txt.")
+                .arg(folder_.path()));
+}
+
+TEST_F(MainWindow, EmptyListIsQuietWhenThereIsASource) {
+  state_.TextFile = QStringLiteral("main.lst");
+  EXPECT_EQ(controls().HitList->emptyText(), QString());
+}
+
+TEST_F(MainWindow, EmptyListGoesQuietWhenASourceIsAdded) {
+  form();
+  addMissingOnlineSource(QStringLiteral("Music"));
+  form().sourcesChanged();
+  EXPECT_EQ(controls().HitList->emptyText(), QString());
+}
+
+TEST_F(MainWindow, EmptyTextIsPainted) {
+  const QImage withText = controls().HitList->viewport()->grab().toImage();
+  controls().HitList->setEmptyText({});
+  const QImage without = controls().HitList->viewport()->grab().toImage();
+  EXPECT_NE(withText, without);
+}
+
+}  // namespace
+
+}  // namespace quorvin::test

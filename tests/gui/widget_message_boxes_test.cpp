@@ -1,0 +1,62 @@
+// Message boxes on the screen, answered as a user would.
+#include "app/widget_message_boxes.h"
+
+#include "support/qt_printing.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace quorvin::test {
+
+namespace {
+
+struct SeenBox {
+  QString title;
+  QString text;
+  Qt::TextFormat format = Qt::AutoText;
+  QMessageBox::StandardButtons buttons;
+};
+
+/// Looks at the message box that is up and presses `button` in it.
+void answerWith(QMessageBox::StandardButton button, SeenBox& seen) {
+  QTimer::singleShot(0, [button, &seen] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    seen = {box->windowTitle(), box->text(), box->textFormat(), box->standardButtons()};
+    QTest::mouseClick(box->button(button), Qt::LeftButton);
+  });
+}
+
+TEST(WidgetMessageBoxes, InformShowsTheTextWithTheTitleAndOk) {
+  SeenBox seen;
+  answerWith(QMessageBox::Ok, seen);
+  WidgetMessageBoxes().inform(QStringLiteral("Listing file not found: <b>.txt"));
+  EXPECT_EQ(seen.title, QStringLiteral("Quorvin Utility"));
+  EXPECT_EQ(seen.text, QStringLiteral("Listing file not found: <b>.txt"));
+  EXPECT_EQ(seen.format, Qt::PlainText);
+  EXPECT_EQ(seen.buttons, QMessageBox::Ok);
+}
+
+TEST(WidgetMessageBoxes, LinesAreBroken) {
+  SeenBox seen;
+  answerWith(QMessageBox::Ok, seen);
+  WidgetMessageBoxes().inform(QStringLiteral("one\r\n\r\ntwo"));
+  EXPECT_EQ(seen.text, QStringLiteral("one\n\ntwo"));
+}
+
+TEST(WidgetMessageBoxes, AQuestionIsAnsweredYesOrNo) {
+  SeenBox seen;
+  answerWith(QMessageBox::Yes, seen);
+  EXPECT_TRUE(WidgetMessageBoxes().askYesNo(QStringLiteral("Really?")));
+  EXPECT_EQ(seen.buttons, QMessageBox::Yes | QMessageBox::No);
+  answerWith(QMessageBox::No, seen);
+  EXPECT_FALSE(WidgetMessageBoxes().askYesNo(QStringLiteral("Really?")));
+}
+
+}  // namespace
+
+}  // namespace quorvin::test

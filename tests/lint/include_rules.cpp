@@ -1,0 +1,150 @@
+#include "lint/include_rules.h"
+
+#include <algorithm>
+#include <sstream>
+#include <stdexcept>
+
+namespace quorvin::lint {
+namespace {
+
+constexpr std::string_view kSourceFolder = "src/";
+constexpr std::string_view kTable = "tests/lint/include_rules.txt";
+
+std::vector<std::string> wordsOf(const std::string& text) {
+  std::istringstream stream(text);
+  std::vector<std::string> words;
+  for (std::string word; stream >> word;) words.push_back(word);
+  return words;
+}
+
+std::string joined(const std::vector<std::string>& words) {
+  std::string text;
+  for (const std::string& word : words) text += text.empty() ? word : ", " + word;
+  return text.empty() ? "nothing of ours" : text;
+}
+
+/// "state" for "state/settings.h"; empty when there is no folder.
+std::string folderOf(std::string_view header) {
+  const std::size_t slash = header.find('/');
+  return std::string(slash == std::string_view::npos ? "" : header.substr(0, slash));
+}
+
+std::string belowSource(const SourceFile& file) {
+  return file.path.starts_with(kSourceFolder) ? file.path.substr(kSourceFolder.size()) : file.path;
+}
+
+std::string placeOf(const SourceFile& file, const Include& include) {
+  const std::string header = include.quoted ? "\"" + include.header + "\"" : "<" + include.header + ">";
+  return file.path + ":" + std::to_string(include.line) + " includes " + header;
+}
+
+}  // namespace
+
+std::vector<Include> includesOf(std::string_view text) {
+  std::istringstream stream{std::string(text)};
+  std::vector<Include> includes;
+  int number = 0;
+  for (std::string line; std::getline(stream, line);) {
+    ++number;
+    std::string_view rest = line;
+    const auto skipBlanks = [&rest] {
+      rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
+    };
+    skipBlanks();
+    if (!rest.starts_with('#')) continue;
+    rest.remove_prefix(1);
+    skipBlanks();
+    if (!rest.starts_with("include")) continue;
+    rest.remove_prefix(std::string_view("include").size());
+    skipBlanks();
+    if (!rest.starts_with('"') && !rest.starts_with('<')) continue;
+    const bool quoted = rest.front() == '"';
+    rest.remove_prefix(1);
+    includes.push_back({number, std::string(rest.substr(0, rest.find(quoted ? '"' : '>'))), quoted});
+  }
+  return includes;
+}
+
+IncludeRules IncludeRules::parse(std::string_view text) {
+  IncludeRules rules;
+  std::istringstream stream{std::string(text)};
+  int number = 0;
+  for (std::string line; std::getline(stream, line);) {
+    ++number;
+    if (line.empty() || line.starts_with('#')) continue;
+    const std::size_t colon = line.find(':');
+    const std::vector<std::string> head = wordsOf(line.substr(0, colon));
+    const bool isFolder = head.size() == 2 && head[0] == "folder";
+    const bool isWidgets = head.size() == 1 && head[0] == "widgets";
+    if (colon == std::string::npos || (!isFolder && !isWidgets)) {
+      throw std::invalid_argument("line " + std::to_string(number) +
+                                  " is neither \"folder NAME: ...\" nor \"widgets: ...\"");
+    }
+    const std::vector<std::string> words = wordsOf(line.substr(colon + 1));
+    if (isWidgets) {
+      rules.widgetFiles_ = words;
+    } else if (!rules.allowed_.emplace(head[1], words).second) {
+      throw std::invalid_argument("line " + std::to_string(number) + " names the folder " + head[1] +
+                                  " again");
+    }
+  }
+  return rules;
+}
+
+std::vector<std::string> IncludeRules::folders() const {
+  std::vector<std::string> names;
+  for (const auto& [folder, allowed] : allowed_) names.push_back(folder);
+  return names;
+}
+
+bool IncludeRules::mayInclude(const std::string& folder, const std::string& header) const {
+  if (folderOf(header) == folder) return true;
+  const std::vector<std::string>& allowed = allowed_.at(folder);
+  return std::ranges::any_of(
+      allowed, [&](const std::string& entry) { return entry == header || entry == folderOf(header); });
+}
+
+std::vector<std::string> IncludeRules::brokenIncludes(const SourceFile& file) const {
+  const std::string folder = folderOf(belowSource(file));
+  if (!allowed_.contains(folder)) {
+    return {file.path + " is in a folder that " + std::string(kTable) + " does not know; add a line for it"};
+  }
+  std::vector<std::string> broken;
+  for (const Include& include : includesOf(file.text)) {
+    if (!include.quoted || include.header.ends_with(".moc")) continue;
+    if (!allowed_.contains(folderOf(include.header))) {
+      broken.push_back(placeOf(file, include) + ", which is not written from src/ on; write \"FOLDER/" +
+                       include.header.substr(include.header.rfind('/') + 1) +
+                       "\", or angle brackets if it is not ours");
+    } else if (!mayInclude(folder, include.header)) {
+      broken.push_back(
+          placeOf(file, include) + ", but " + folder + " may include only: " + joined(allowed_.at(folder)) +
+          "; move what is needed into one of these, or hand it in through an interface (the table is " +
+          std::string(kTable) + ")");
+    }
+  }
+  return broken;
+}
+
+bool IncludeRules::mayUseWidgets(std::string_view path) const {
+  const std::string_view stem = path.substr(0, path.rfind('.'));
+  return std::ranges::any_of(
+      widgetFiles_, [&](const std::string& name) { return stem == name || stem.starts_with(name + "_"); });
+}
+
+std::vector<std::string> IncludeRules::brokenWidgets(
+    const SourceFile& file, const std::function<bool(const std::string&)>& isWidgetsHeader) const {
+  if (mayUseWidgets(belowSource(file))) return {};
+  std::vector<std::string> broken;
+  for (const Include& include : includesOf(file.text)) {
+    if (include.quoted || !isWidgetsHeader(include.header)) continue;
+    broken.push_back(
+        placeOf(file, include) +
+        ", but QtWidgets belong to windows and views; move the logic out of the window, or, if this "
+        "file is a window, name it in " +
+        std::string(kTable));
+  }
+  return broken;
+}
+
+}  // namespace quorvin::lint

@@ -1,0 +1,130 @@
+// The rules that hold for every file of the project.
+
+#include "lint/source_tree.h"
+
+#include "lint/include_rules.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <regex>
+
+namespace quorvin::lint {
+namespace {
+
+constexpr std::ptrdiff_t kLongestFile = 800;
+
+const IncludeRules& projectRules() {
+  static const IncludeRules rules = IncludeRules::parse(projectText("tests/lint/include_rules.txt"));
+  return rules;
+}
+
+std::vector<SourceFile> programFiles() {
+  return filesBelow("src", {".h", ".cpp"});
+}
+
+std::string asLines(const std::vector<std::string>& sentences) {
+  std::string text;
+  for (const std::string& sentence : sentences) text += sentence + "\n";
+  return text;
+}
+
+/// Whether <header> belongs to QtWidgets. Some of its headers only pass on to QtGui, where they live now.
+bool isWidgetsHeader(const std::string& header) {
+  namespace fs = std::filesystem;
+  if (header.starts_with("QtWidgets")) return true;
+  const fs::path widgets = QUORVIN_QT_WIDGETS_HEADERS;
+  return fs::exists(widgets / header) && !fs::exists(widgets.parent_path() / "QtGui" / header);
+}
+
+std::string firstCodeLine(std::string_view text) {
+  while (!text.empty()) {
+    const std::string_view line = text.substr(0, text.find('\n'));
+    if (!line.empty() && !line.starts_with("//")) return std::string(line);
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+  }
+  return {};
+}
+
+TEST(SourceTree, TheIncludeTableNamesEveryFolderAndNoOther) {
+  EXPECT_EQ(projectRules().folders(), foldersIn("src"))
+      << "Each folder of src/ has one \"folder NAME: ...\" line in tests/lint/include_rules.txt.";
+}
+
+TEST(SourceTree, IncludesKeepToTheTable) {
+  const std::vector<SourceFile> files = programFiles();
+  ASSERT_FALSE(files.empty());
+  for (const SourceFile& file : files) {
+    const std::vector<std::string> broken = projectRules().brokenIncludes(file);
+    EXPECT_TRUE(broken.empty()) << asLines(broken);
+  }
+}
+
+TEST(SourceTree, QtWidgetsStayInWindowsAndViews) {
+  ASSERT_TRUE(isWidgetsHeader("QMainWindow")) << "The headers of QtWidgets were not found.";
+  ASSERT_FALSE(isWidgetsHeader("QString"));
+  ASSERT_FALSE(isWidgetsHeader("QAction"));
+  for (const SourceFile& file : programFiles()) {
+    const std::vector<std::string> broken = projectRules().brokenWidgets(file, isWidgetsHeader);
+    EXPECT_TRUE(broken.empty()) << asLines(broken);
+  }
+}
+
+TEST(SourceTree, NoFileIsLongerThan800Lines) {
+  for (const SourceFile& file : codeFiles()) {
+    const std::ptrdiff_t lines = std::ranges::count(file.text, '\n');
+    EXPECT_LE(lines, kLongestFile) << file.path << " holds more than one idea; give each a file of its own.";
+  }
+}
+
+TEST(SourceTree, EveryHeaderIsIncludedOnceOnly) {
+  for (const SourceFile& file : codeFiles()) {
+    if (!file.path.ends_with(".h")) continue;
+    EXPECT_EQ(firstCodeLine(file.text), "#pragma once")
+        << file.path << ": after the comment that says what the header is for comes \"#pragma once\".";
+  }
+}
+
+TEST(SourceTree, FileNamesAreSnakeCase) {
+  const std::regex snakeCase("[a-z][a-z0-9]*(_[a-z0-9]+)*\\.(h|cpp)");
+  for (const SourceFile& file : codeFiles()) {
+    const std::string name = file.path.substr(file.path.rfind('/') + 1);
+    EXPECT_TRUE(std::regex_match(name, snakeCase))
+        << file.path << ": write the name as in hit_list_model.cpp.";
+  }
+}
+
+TEST(SourceTree, DocumentsThatTheCodeNamesExist) {
+  const std::regex document("docs/[A-Za-z0-9_/-]+\\.md");
+  int named = 0;
+  for (const SourceFile& file : codeFiles()) {
+    for (std::sregex_iterator match(file.text.begin(), file.text.end(), document), end; match != end;
+         ++match) {
+      ++named;
+      EXPECT_TRUE(projectHas(match->str()))
+          << file.path << " names " << match->str() << ", which is not there.";
+    }
+  }
+  EXPECT_GT(named, 0);
+}
+
+TEST(SourceTree, LinksInDocumentsLeadSomewhere) {
+  std::vector<SourceFile> documents = filesBelow("docs", {".md"});
+  for (const char* name : {"README.md", "ARCHITECTURE.md", "CONTRIBUTING.md", "CHANGELOG.md"}) {
+    documents.push_back({name, projectText(name)});
+  }
+  const std::regex link("\\]\\(([^)#:]+)(#[^)]*)?\\)");
+  for (const SourceFile& file : documents) {
+    const std::size_t slash = file.path.rfind('/');
+    const std::string folder = slash == std::string::npos ? "" : file.path.substr(0, slash + 1);
+    for (std::sregex_iterator match(file.text.begin(), file.text.end(), link), end; match != end; ++match) {
+      EXPECT_TRUE(projectHas(folder + (*match)[1].str()))
+          << file.path << " links to " << (*match)[1].str() << ", which is not there.";
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorvin::lint

@@ -1,0 +1,85 @@
+#include "platform/standard_folders.h"
+
+#include "platform/full_disk.h"
+#include "platform/runtime_fault.h"
+#include "support/qt_printing.h"
+#include "support/temporary_folder.h"
+
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+namespace quorvin {
+
+namespace {
+
+const QString kNote = QStringLiteral("data/about-this-folder.txt");
+
+}  // namespace
+
+TEST(UserDataFolder, IsUnderTheUsersDataAndIsNotMade) {
+  const TemporaryFolder folder;
+  const QByteArray before = qgetenv("XDG_DATA_HOME");
+  qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
+  const QString path = userDataFolder();
+  before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
+  EXPECT_TRUE(path.endsWith(u"/quorvin/")) << path.toStdString();
+  EXPECT_EQ(QDir::cleanPath(path), folder.pathOf(QStringLiteral("quorvin")));
+  EXPECT_EQ(folder.names(), QStringList());
+}
+
+TEST(PrepareUserDataFolder, MakesTheFolderWithANoteInIt) {
+  const TemporaryFolder folder;
+  prepareUserDataFolder(folder.pathOf(QStringLiteral("data/")));
+  EXPECT_EQ(folder.readFile(kNote),
+            "Quorvin Utility keeps its listings and its lists of sources in this folder.\r\n"
+            "You can choose another folder under File, Options.\r\n");
+}
+
+TEST(PrepareUserDataFolder, TakesAFolderWithoutATrailingSeparatorToo) {
+  const TemporaryFolder folder;
+  prepareUserDataFolder(folder.pathOf(QStringLiteral("data")));
+  EXPECT_TRUE(folder.has(kNote));
+}
+
+TEST(PrepareUserDataFolder, LeavesANoteThatIsThere) {
+  const TemporaryFolder folder;
+  folder.writeFile(kNote, "mine");
+  prepareUserDataFolder(folder.pathOf(QStringLiteral("data/")));
+  EXPECT_EQ(folder.readFile(kNote), "mine");
+}
+
+TEST(PrepareUserDataFolder, AFileInTheWayIsAFault) {
+  const TemporaryFolder folder;
+  folder.writeFile(QStringLiteral("data"), "x");
+  try {
+    prepareUserDataFolder(folder.pathOf(QStringLiteral("data/")));
+    FAIL() << "no fault";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.number(), 75);
+  }
+}
+
+TEST(PrepareUserDataFolder, AFullDiskIsAFaultAndLeavesNoHalfNote) {
+  const TemporaryFolder folder;
+  {
+    const FullDisk disk(10);
+    EXPECT_THROW(prepareUserDataFolder(folder.pathOf(QStringLiteral("data/"))), RuntimeFault);
+  }
+  EXPECT_FALSE(folder.has(kNote));
+}
+
+TEST(ChooseProgramFolder, IsTheExecutablesWhereThatCanBeWritten) {
+  const TemporaryFolder folder;
+  const QString own = folder.makeFolder(QStringLiteral("bin"));
+  EXPECT_EQ(chooseProgramFolder(own.chopped(1), folder.pathOf(QStringLiteral("data/"))), own);
+  EXPECT_FALSE(folder.has(QStringLiteral("data")));
+}
+
+TEST(ChooseProgramFolder, IsTheDataFolderMadeReadyElsewhere) {
+  const TemporaryFolder folder;
+  const QString data = folder.pathOf(QStringLiteral("data/"));
+  EXPECT_EQ(chooseProgramFolder(folder.pathOf(QStringLiteral("no such folder")), data), data);
+  EXPECT_TRUE(folder.has(kNote));
+}
+
+}  // namespace quorvin

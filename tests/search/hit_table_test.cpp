@@ -1,0 +1,111 @@
+#include "search/hit_table.h"
+
+#include "support/listing_lines.h"
+#include "support/scan_of.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvin {
+namespace {
+
+HitTable scanned(const QByteArray& listing, SourceKind kind, const ScanLimits& limits = {}) {
+  test::MemoryListing source(listing);
+  const SearchQuery query(u"song", 50);
+  HitTable table;
+  test::YieldLog yields;
+  ScanOutcome outcome;
+  std::int64_t searched = 0;
+  table.beginListing(kind);
+  scanListing(source, query, QLocale::c(), searched, table, yields, outcome, limits);
+  return table;
+}
+
+TEST(HitTable, RowShowsSixColumns) {
+  const HitTable table = scanned(
+      test::blockHead("CD 7", "\\Music\\") + test::entryLine("Song.mp3", "131,072"), SourceKind::Online);
+  ASSERT_EQ(table.rowCount(), 1);
+  const HitRow row = table.row(0);
+  const QLocale locale = QLocale::c();
+  EXPECT_EQ(hitText(row, HitColumn::Match, locale), u"100%"_qs);
+  EXPECT_EQ(hitText(row, HitColumn::Volume, locale), u"CD 7"_qs);
+  EXPECT_EQ(hitText(row, HitColumn::Folder, locale), u"\\Music\\"_qs);
+  EXPECT_EQ(hitText(row, HitColumn::Name, locale), u"Song.mp3"_qs);
+  EXPECT_EQ(hitText(row, HitColumn::Size, locale), u"0.13mb"_qs);
+  EXPECT_EQ(hitText(row, HitColumn::Date, locale), u"Jan, 15 04"_qs);
+}
+
+TEST(HitTable, KindsHaveTheirColours) {
+  EXPECT_EQ(rowColour(SourceKind::Online), 0x0000FFU);
+  EXPECT_EQ(rowColour(SourceKind::MainDataFile), 0xFF0000U);
+  EXPECT_EQ(rowColour(SourceKind::Offline), 0xFF7F00U);
+  EXPECT_EQ(scanned("song", SourceKind::Offline).kind(0), SourceKind::Offline);
+}
+
+TEST(HitTable, RowsStayRightWhenTheirImageIsMadeSmaller) {
+  QByteArray listing;
+  for (int i = 0; i < 1000; ++i) {
+    listing += test::blockHead("V" + QByteArray::number(i / 100), "\\F" + QByteArray::number(i / 10) + "\\");
+    listing +=
+        test::entryLine((i % 7 == 0 ? "Song " : "Other ") + QByteArray::number(i), QByteArray::number(i));
+  }
+  ScanLimits limits;
+  limits.chunkSize = 1000;
+  limits.segmentSize = 20000;
+  const HitTable table = scanned(listing, SourceKind::Online, limits);
+  ASSERT_EQ(table.rowCount(), 143);
+  for (std::int64_t row = 0; row < 143; ++row) {
+    const std::int64_t i = row * 7;
+    ASSERT_EQ(table.row(row).name, u"Song %1"_qs.arg(i));
+    ASSERT_EQ(table.row(row).volume, u"V%1"_qs.arg(i / 100));
+    ASSERT_EQ(table.row(row).folder, u"\\F%1\\"_qs.arg(i / 10));
+    ASSERT_EQ(table.row(row).size, i);
+  }
+}
+
+TEST(HitTable, CarriedValuesCrossFromImageToImage) {
+  QByteArray listing = test::entryLine("song first", "4,711");
+  for (int i = 0; i < 50; ++i) listing += test::entryLine("song short", "1", "1 May 99").chopped(2) + "\r\n";
+  ScanLimits limits;
+  limits.chunkSize = 200;
+  limits.segmentSize = 200;
+  const HitTable table = scanned(listing, SourceKind::Online, limits);
+  ASSERT_EQ(table.rowCount(), 51);
+  EXPECT_EQ(table.row(50).size, 4711);
+}
+
+TEST(HitTable, CarriedValuesStartAfreshWithEachListing) {
+  HitTable table;
+  const SearchQuery query(u"song", 50);
+  test::YieldLog yields;
+  ScanOutcome outcome;
+  std::int64_t searched = 0;
+  for (const QByteArray& listing : {test::entryLine("song"), QByteArray("song")}) {
+    test::MemoryListing source(listing);
+    table.beginListing(SourceKind::Online);
+    scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
+  }
+  ASSERT_EQ(table.rowCount(), 2);
+  EXPECT_EQ(table.row(0).size, 1024);
+  EXPECT_EQ(table.row(1).size, 0);
+}
+
+TEST(HitTable, ClearedTableHasNoRowsAndStartsAgain) {
+  HitTable table = scanned("song 1\r\nsong 2\r\n", SourceKind::Online);
+  ASSERT_EQ(table.rowCount(), 2);
+  table.clear();
+  EXPECT_EQ(table.rowCount(), 0);
+}
+
+TEST(HitTable, HundredThousandRowsStandInOrder) {
+  QByteArray listing;
+  for (int i = 0; i < 100000; ++i) listing += "song " + QByteArray::number(i) + "\r\n";
+  const HitTable table = scanned(listing, SourceKind::Online);
+  ASSERT_EQ(table.rowCount(), 100000);
+  EXPECT_EQ(table.row(0).name, u"song 0"_qs);
+  EXPECT_EQ(table.row(65535).name, u"song 65535"_qs);
+  EXPECT_EQ(table.row(65536).name, u"song 65536"_qs);
+  EXPECT_EQ(table.row(99999).name, u"song 99999"_qs);
+}
+
+}  // namespace
+}  // namespace quorvin

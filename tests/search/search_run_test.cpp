@@ -1,0 +1,212 @@
+#include "search/search_run.h"
+
+#include "platform/runtime_fault.h"
+#include "search_run_fixture.h"
+#include "support/listing_lines.h"
+
+namespace quorvin {
+namespace {
+
+using SearchRunTest = test::SearchRunFixture;
+
+TEST_F(SearchRunTest, WithoutAnySourceTheRunClearsAndShowsNothing) {
+  find(u"song");
+  EXPECT_EQ(view_.clearings, 1);
+  EXPECT_EQ(view_.found, (std::vector<std::int64_t>{0}));
+  EXPECT_EQ(view_.searched, (std::vector<std::int64_t>{0}));
+  EXPECT_EQ(view_.captions, (QStringList{u"Stop"_qs, u"Find"_qs}));
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(SearchRunTest, DesiredMatchIsClampedAndRoundedToEven) {
+  const std::vector<std::pair<QString, QString>> cases = {
+      {u"0"_qs, u"1"_qs},      {u"-5"_qs, u"1"_qs},      {u"250"_qs, u"100"_qs}, {u"50.5"_qs, u"50"_qs},
+      {u"51.5"_qs, u"52"_qs},  {u"abc"_qs, u"1"_qs},     {u""_qs, u"1"_qs},      {u"70%"_qs, u"70"_qs},
+      {u" 33 x"_qs, u"33"_qs}, {u"100.4"_qs, u"100"_qs}, {u"0.5"_qs, u"1"_qs},
+  };
+  for (const auto& [typed, shown] : cases) {
+    run_.Find_Click(QString(), typed);
+    EXPECT_EQ(view_.desMatch, shown) << typed.toStdString();
+  }
+}
+
+TEST_F(SearchRunTest, DesiredMatchBeyond16BitsIsAFaultBeforeAnythingChanges) {
+  EXPECT_THROW(find(u"song", u"40000"), RuntimeFault);
+  EXPECT_EQ(view_.clearings, 0);
+  EXPECT_EQ(view_.caption, u"Find"_qs);
+}
+
+TEST_F(SearchRunTest, EmptySearchTextDoesNothingButCorrectTheMatch) {
+  find(u"", u"0");
+  EXPECT_EQ(view_.desMatch, u"1"_qs);
+  EXPECT_EQ(view_.clearings, 0);
+  EXPECT_TRUE(view_.captions.empty());
+  EXPECT_TRUE(view_.found.empty());
+}
+
+TEST_F(SearchRunTest, TooManyWordsAreAFaultAndTheHitsStay) {
+  QString words = QStringLiteral("w");
+  for (int i = 0; i < 101; ++i) words += QStringLiteral(" w");
+  EXPECT_THROW(run_.Find_Click(words, u"50"_qs), RuntimeFault);
+  EXPECT_EQ(view_.clearings, 0);
+  EXPECT_EQ(view_.caption, u"Find"_qs);
+}
+
+TEST_F(SearchRunTest, SourcesAreSearchedInOrderWithTheirColours) {
+  folder_.writeFile(u"Music.txt"_qs, "song online 1\r\n");
+  folder_.writeFile(u"More.txt"_qs, "song online 2\r\n");
+  folder_.writeFile(u"main.txt"_qs, "song main\r\n");
+  addOnline(u"Music"_qs);
+  addOnline(u"More"_qs);
+  state_.TextFile = u"main.txt"_qs;
+  addOffline(folder_.writeFile(u"lists/cd1.lst"_qs, "song offline\r\n"));
+  find(u"SONG");
+  EXPECT_EQ(names(),
+            (QStringList{u"song online 1"_qs, u"song online 2"_qs, u"song main"_qs, u"song offline"_qs}));
+  EXPECT_EQ(rowColour(hits_.kind(0)), 0x0000FFU);
+  EXPECT_EQ(rowColour(hits_.kind(2)), 0xFF0000U);
+  EXPECT_EQ(rowColour(hits_.kind(3)), 0xFF7F00U);
+  EXPECT_EQ(run_.hitCount(), 4);
+  EXPECT_EQ(view_.found.back(), 4);
+  EXPECT_EQ(view_.searched.back(), 4);
+  EXPECT_EQ(view_.captions, (QStringList{u"Stop"_qs, u"Find"_qs}));
+}
+
+TEST_F(SearchRunTest, MainDataFileIsTakenAsItStandsOrInsideTheDataFolder) {
+  EXPECT_TRUE(isTakenAsItStands(u"D:\\data\\all.txt", kWindowsPaths));
+  EXPECT_TRUE(isTakenAsItStands(u"\\\\server\\share\\all.txt", kWindowsPaths));
+  EXPECT_FALSE(isTakenAsItStands(u"sub\\all.txt", kWindowsPaths));
+  EXPECT_FALSE(isTakenAsItStands(u"/data/all.txt", kWindowsPaths));
+  EXPECT_TRUE(isTakenAsItStands(u"/data/all.txt", kUnixPaths));
+  EXPECT_TRUE(isTakenAsItStands(u"host:all.txt", kUnixPaths));
+  EXPECT_FALSE(isTakenAsItStands(u"sub/all.txt", kUnixPaths));
+}
+
+TEST_F(SearchRunTest, MainDataFileOutsideTheDataFolderIsSearched) {
+  TemporaryFolder elsewhere;
+  state_.TextFile = elsewhere.writeFile(u"all.txt"_qs, "song\r\n");
+  find(u"song");
+  EXPECT_EQ(hits_.rowCount(), 1);
+}
+
+TEST_F(SearchRunTest, MainDataFileInASubFolderIsSearched) {
+  folder_.writeFile(u"sub/all.txt"_qs, "song\r\n");
+  state_.TextFile = u"sub/all.txt"_qs;
+  find(u"song");
+  EXPECT_EQ(hits_.rowCount(), 1);
+}
+
+TEST_F(SearchRunTest, StopDuringTheFirstListingStillSearchesTheOthers) {
+  folder_.writeFile(u"A.txt"_qs, QByteArray("song a\r\n").repeated(9000));
+  folder_.writeFile(u"B.txt"_qs, "song b\r\n");
+  folder_.writeFile(u"main.txt"_qs, "song main\r\n");
+  addOnline(u"A"_qs);
+  addOnline(u"B"_qs);
+  state_.TextFile = u"main.txt"_qs;
+  addOffline(folder_.writeFile(u"off.lst"_qs, "song off\r\n"));
+  view_.onEvents = [this] {
+    if (view_.eventPasses == 1) find(u"ignored");
+  };
+  find(u"song");
+  EXPECT_EQ(hits_.rowCount(), 2003);
+  EXPECT_EQ(names().mid(2000), (QStringList{u"song b"_qs, u"song main"_qs, u"song off"_qs}));
+  EXPECT_FALSE(state_.AbortRequested);
+  EXPECT_EQ(view_.caption, u"Find"_qs);
+}
+
+TEST_F(SearchRunTest, StopRequestThatNoScanSawCutsTheNextRunsFirstListing) {
+  folder_.writeFile(u"A.txt"_qs, QByteArray("song a\r\n").repeated(5000));
+  addOnline(u"A"_qs);
+  state_.AbortRequested = true;
+  find(u"song");
+  EXPECT_EQ(hits_.rowCount(), 2000);
+  EXPECT_FALSE(state_.AbortRequested);
+}
+
+TEST_F(SearchRunTest, PressWhileRunningOnlyAsksToStop) {
+  view_.caption = u"Stop"_qs;
+  find(u"song", u"250");
+  EXPECT_TRUE(state_.AbortRequested);
+  EXPECT_EQ(view_.desMatch, QString());
+  EXPECT_EQ(view_.clearings, 0);
+}
+
+TEST_F(SearchRunTest, MissingOnlineListingIsToldAndTheRunGoesOn) {
+  folder_.writeFile(u"B.txt"_qs, "song b\r\n");
+  addOnline(u"A"_qs);
+  addOnline(u"B"_qs);
+  find(u"song");
+  EXPECT_EQ(messages_.informed,
+            (std::vector<QString>{u"Listing file not found: "_qs + folder_.pathOf(u"A.txt"_qs)}));
+  EXPECT_EQ(names(), (QStringList{u"song b"_qs}));
+  EXPECT_EQ(view_.searched.back(), 1);
+}
+
+TEST_F(SearchRunTest, MissingMainDataFileEndsTheRunAndLeavesTheSearchedLabel) {
+  state_.TextFile = u"main.txt"_qs;
+  addOffline(folder_.writeFile(u"off.lst"_qs, "song off\r\n"));
+  find(u"song");
+  EXPECT_EQ(messages_.informed,
+            (std::vector<QString>{u"Listing file not found: "_qs + folder_.pathOf(u"main.txt"_qs)}));
+  EXPECT_EQ(hits_.rowCount(), 0);
+  EXPECT_TRUE(view_.searched.empty());
+  EXPECT_EQ(view_.caption, u"Find"_qs);
+}
+
+TEST_F(SearchRunTest, MissingOfflineListingIsToldAndTheRunGoesOn) {
+  addOffline(folder_.pathOf(u"gone.lst"_qs));
+  addOffline(folder_.writeFile(u"off.lst"_qs, "song off\r\n"));
+  find(u"song");
+  EXPECT_EQ(messages_.informed,
+            (std::vector<QString>{u"Listing file not found: "_qs + folder_.pathOf(u"gone.lst"_qs)}));
+  EXPECT_EQ(names(), (QStringList{u"song off"_qs}));
+}
+
+TEST_F(SearchRunTest, SearchedLabelMovesEvery2000EntriesAndAtTheEnd) {
+  folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(4000));
+  addOnline(u"A"_qs);
+  find(u"song");
+  EXPECT_EQ(view_.searched, (std::vector<std::int64_t>{2000, 4000, 4000, 4000}));
+  EXPECT_EQ(view_.eventPasses, 2);
+}
+
+TEST_F(SearchRunTest, RowsArriveBeforeEventsRunAndAtTheEndOfAListing) {
+  folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(2500));
+  addOnline(u"A"_qs);
+  find(u"song");
+  EXPECT_EQ(view_.rowsAtArrival, (std::vector<std::int64_t>{2000, 2500}));
+  EXPECT_EQ(view_.found, (std::vector<std::int64_t>{0, 2000, 2500}));
+}
+
+TEST_F(SearchRunTest, HitsThatCannotBeReadWholeAreToldOncePerRunWithTheirListing) {
+  const QString path = folder_.writeFile(
+      u"off.lst"_qs, "\r\n" + test::entryLine("song 1", "n/a") + test::entryLine("song 2", "x"));
+  addOffline(path);
+  find(u"song");
+  ASSERT_EQ(messages_.informed.size(), 1U);
+  EXPECT_EQ(
+      messages_.informed[0],
+      u"The size or date of some hits could not be read. They are shown with the size and date of the hit "
+      "before them.\r\n%1: 2 line(s), the first is line 2"_qs.arg(path));
+}
+
+TEST_F(SearchRunTest, ClosingEndsTheWholeRunWithoutMessages) {
+  folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(9000));
+  addOnline(u"A"_qs);
+  addOnline(u"Missing"_qs);
+  view_.onEvents = [this] { view_.closing = true; };
+  find(u"song");
+  EXPECT_EQ(hits_.rowCount(), 2000);
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(SearchRunTest, NamedListingsAreSearchedInOrder) {
+  run_.searchListings(u"song"_qs, u"50"_qs,
+                      {folder_.writeFile(u"1"_qs, "song 1"), folder_.pathOf(u"gone"_qs),
+                       folder_.writeFile(u"2"_qs, "song 2")});
+  EXPECT_EQ(names(), (QStringList{u"song 1"_qs, u"song 2"_qs}));
+  EXPECT_EQ(run_.failedListings(), 1);
+}
+
+}  // namespace
+}  // namespace quorvin

@@ -1,0 +1,53 @@
+#include "state/text_line_reader.h"
+
+#include "support/qt_printing.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvin {
+namespace {
+
+QStringList linesOf(const QByteArray& bytes) {
+  const TemporaryFolder folder;
+  TextLineReader reader(folder.writeFile(QStringLiteral("text.txt"), bytes));
+  QStringList lines;
+  while (const std::optional<TextLine> line = reader.next()) lines += line->text;
+  return lines;
+}
+
+TEST(TextLineReader, TakesBothLineEnds) {
+  EXPECT_EQ(linesOf("a\r\nb\nc"),
+            QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+}
+
+TEST(TextLineReader, GivesNoEmptyLineAfterTheLastLineEnd) {
+  EXPECT_EQ(linesOf("a\r\n"), QStringList({QStringLiteral("a")}));
+  EXPECT_EQ(linesOf("a\r\n\r\n"), QStringList({QStringLiteral("a"), QString()}));
+  EXPECT_EQ(linesOf(""), QStringList());
+}
+
+TEST(TextLineReader, KeepsACarriageReturnInsideALine) {
+  EXPECT_EQ(linesOf("a\rb\r\r\n"), QStringList({QStringLiteral("a\rb\r")}));
+}
+
+TEST(TextLineReader, TellsHowALineEnds) {
+  const TemporaryFolder folder;
+  TextLineReader reader(folder.writeFile(QStringLiteral("text.txt"), "a\r\nb\nc"));
+  EXPECT_EQ(reader.next()->end, QStringLiteral("\r\n"));
+  EXPECT_EQ(reader.next()->end, QStringLiteral("\n"));
+  EXPECT_EQ(reader.next()->end, QString());
+  EXPECT_EQ(reader.next(), std::nullopt);
+}
+
+TEST(TextLineReader, FindsLineEndsAtEveryPlaceOfTheReadBuffer) {
+  for (int length = 16 * 1024 - 3; length <= 16 * 1024 + 1; ++length) {
+    const QByteArray first(length, 'x');
+    EXPECT_EQ(linesOf(first + "\r\nsecond\r\n"),
+              QStringList({QString::fromLatin1(first), QStringLiteral("second")}))
+        << length;
+  }
+}
+
+}  // namespace
+}  // namespace quorvin

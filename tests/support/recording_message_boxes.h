@@ -1,0 +1,33 @@
+// Message boxes for tests: they record what is shown and answer questions as they were told to.
+#pragma once
+
+#include "platform/message_box.h"
+
+#include <QString>
+
+#include <deque>
+#include <vector>
+
+namespace quorvin {
+
+class RecordingMessageBoxes : public MessageBoxes {
+ public:
+  void inform(const QString& text) override { informed.push_back(text); }
+
+  /// Records the question and gives the next of `answers`; No when there is none left.
+  bool askYesNo(const QString& text) override {
+    asked.push_back(text);
+    if (answers.empty()) return false;
+    const bool answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+
+  /// The texts shown with an OK button, and those of the questions, each in the order shown.
+  std::vector<QString> informed;
+  std::vector<QString> asked;
+  /// What the coming questions are answered with: true for Yes.
+  std::deque<bool> answers;
+};
+
+}  // namespace quorvin

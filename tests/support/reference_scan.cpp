@@ -1,0 +1,117 @@
+#include "support/reference_scan.h"
+
+#include "platform/general_date_reader.h"
+#include "platform/general_number.h"
+#include "platform/text_encoding.h"
+
+#include <QList>
+
+#include <cmath>
+
+namespace quorvin::test {
+
+namespace {
+
+using Characters = QList<char32_t>;
+
+Characters charactersOf(const QString& text) {
+  const QList<uint> codePoints = text.toUcs4();
+  return {codePoints.begin(), codePoints.end()};
+}
+
+QString textOf(const Characters& characters) {
+  return QString::fromUcs4(characters.data(), characters.size());
+}
+
+QString trimmedOfBlanks(QString text) {
+  while (text.startsWith(u' ')) text.remove(0, 1);
+  while (text.endsWith(u' ')) text.chop(1);
+  return text;
+}
+
+QList<QByteArray> linesOf(const QByteArray& listing) {
+  QList<QByteArray> lines = listing.split('\n');
+  if (lines.back().isEmpty()) lines.pop_back();
+  for (QByteArray& line : lines) {
+    if (line.endsWith('\r')) line.chop(1);
+  }
+  return lines;
+}
+
+QList<QString> wordsOf(const QString& searchText) {
+  QList<QString> words;
+  qsizetype position = 1;
+  while (true) {
+    const qsizetype blank = searchText.indexOf(u' ', position) + 1;
+    if (blank == 0) break;
+    words.push_back(trimmedOfBlanks(searchText.mid(position - 1, blank - position)));
+    position = blank;
+  }
+  words.push_back(trimmedOfBlanks(searchText.mid(position - 1)));
+  return words;
+}
+
+int scoreOf(const QString& searchable, const QList<QString>& words) {
+  int found = 0;
+  for (const QString& word : words) {
+    if (word.isEmpty() || searchable.contains(word)) ++found;
+  }
+  // The default rounding mode takes halves to the even neighbour.
+  return static_cast<int>(
+      std::nearbyint(static_cast<double>(found) / static_cast<double>(words.size()) * 100));
+}
+
+}  // namespace
+
+ReferenceResult referenceScan(const QByteArray& listing, const QString& lowerSearchText, int desiredMatch,
+                              const QLocale& locale) {
+  const QList<QString> words = wordsOf(lowerSearchText);
+  const GeneralDateReader dates(locale);
+  ReferenceResult result;
+  QString volume;
+  QString folder;
+  Characters tail;
+  std::int64_t size = 0;
+  double date = 0;
+  std::int64_t lineNumber = 0;
+  for (const QByteArray& bytes : linesOf(listing)) {
+    ++lineNumber;
+    const QString line = decodeSystemText(bytes);
+    if (line.isEmpty()) continue;
+    if (line.contains(QStringLiteral("Volume:"))) {
+      volume = trimmedOfBlanks(QString(line).remove(QStringLiteral("Volume:")));
+      continue;
+    }
+    if (line.contains(QStringLiteral("Directory:"))) {
+      folder = trimmedOfBlanks(QString(line).remove(QStringLiteral("Directory:")));
+      continue;
+    }
+    if (line.contains(QStringLiteral("<DIR>"))) continue;
+    if (line.contains(QString(15, u'-'))) continue;
+
+    QString entry = line;
+    const Characters characters = charactersOf(line);
+    if (characters.size() > 69) {
+      tail = characters.mid(68);
+      entry = textOf(characters.mid(0, 69));
+      while (entry.endsWith(u' ')) entry.chop(1);
+    }
+    ++result.searched;
+    const int match = scoreOf(simpleLowerCase(folder + u' ' + entry), words);
+    if (match <= desiredMatch) continue;
+    if (tail.size() > 32) {
+      const auto readSize = readByteCount(textOf(tail.mid(0, 13)));
+      const auto readDate = dates.read(textOf(tail.mid(20)));
+      if (readSize && readDate) {
+        size = *readSize;
+        date = *readDate;
+      } else if (++result.unreadable == 1) {
+        result.firstUnreadableLine = lineNumber;
+      }
+    }
+    result.hits.push_back({match, volume, folder, entry, size, date});
+  }
+  return result;
+}
+
+}  // namespace quorvin::test
