@@ -4,7 +4,7 @@
 set -Eeuo pipefail
 
 # Debian packages. To build the program and to open its window:
-BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl-dev libcli11-dev libhwy-dev)
+BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev pkgconf)
 WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
 # To build and run the tests, and to check format and code:
 TEST_PACKAGES=(ccache libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14 clang-tidy-14)

@@ -45,6 +45,11 @@ HitListView::HitListView(QWidget* parent) : QAbstractItemView(parent), header_(n
   updateRowHeight();
 }
 
+HitListView::~HitListView() {
+  // The header is deleted as a child, when this object is no HitListView any more.
+  disconnect(header_, nullptr, this, nullptr);
+}
+
 int HitListView::firstVisibleRow() const {
   return verticalScrollBar()->value();
 }

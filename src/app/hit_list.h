@@ -15,6 +15,9 @@ class HitListView : public QAbstractItemView {
 
  public:
   explicit HitListView(QWidget* parent = nullptr);
+  ~HitListView() override;
+  HitListView(const HitListView&) = delete;
+  HitListView& operator=(const HitListView&) = delete;
 
   QHeaderView* header() const { return header_; }
   int rowHeight() const { return rowHeight_; }

@@ -7,6 +7,7 @@
 #include "platform/general_date.h"
 #include "platform/ini_settings_store.h"
 #include "platform/standard_folders.h"
+#include "search/image_store.h"
 #include "state/program_state.h"
 
 #include <QDateTime>
@@ -16,14 +17,6 @@
 namespace {
 
 using namespace quorvin;
-
-/// Names another settings file than the user's own, for a portable copy of the program and for tests.
-constexpr char kSettingsVariable[] = "QUORVIN_SETTINGS";
-
-QString settingsPath() {
-  const QString named = qEnvironmentVariable(kSettingsVariable);
-  return named.isEmpty() ? userSettingsPath() : named;
-}
 
 QString versionNumbers() {
   const ProgramVersion version = programVersion();
@@ -50,8 +43,9 @@ int main(int argc, char** argv) {
 
   const QLocale locale;
   ProgramState state;
-  const IniSettingsStore settings(settingsPath());
-  SearchForm form(state, messages, locale);
+  const IniSettingsStore settings(userSettingsPath());
+  ImageStore images(ImageStore::defaultOptions());
+  SearchForm form(state, messages, locale, &images);
   StartUp startUp(state, settings, messages, form, nullptr);
   startUp.Form_Load(conditionsOfThisRun(locale));
   form.sourcesChanged();

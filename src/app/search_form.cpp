@@ -34,7 +34,7 @@ float toTwips(int pixels) {
 
 }  // namespace
 
-SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale)
+SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale, ImageStore* images)
     : state_(state),
       messages_(messages),
       rows_(hits_, locale),
@@ -42,7 +42,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, const QLocal
       menus_(makeMenus(menuBar())),
       display_(*controls_.lblFound, *controls_.lblSearched, rows_),
       runMessages_(*this),
-      searchRun_(state, *this, runMessages_, hits_, locale) {
+      searchRun_(state, *this, runMessages_, hits_, images, locale) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
   setCentralWidget(controls_.HitList->parentWidget());

@@ -52,10 +52,13 @@ int widthFor(TextWidget* widget, std::initializer_list<QString> texts) {
   return width;
 }
 
-/// An edit for `text`: the frame and margins of its style around it.
+/// The width of an edit that shows `text` whole, with the frame and margins of its style.
 int editWidth(const QLineEdit* edit, const QString& text) {
-  const int aroundText = edit->sizeHint().width() - edit->fontMetrics().horizontalAdvance(u'x') * 17;
-  return edit->fontMetrics().horizontalAdvance(text) + std::max(aroundText, edit->fontMetrics().height());
+  // The size hint is for this many times the letter x.
+  constexpr int kHintCharacters = 17;
+  const QFontMetrics metrics = edit->fontMetrics();
+  const int aroundText = widthOf(edit) - metrics.horizontalAdvance(u'x') * kHintCharacters;
+  return metrics.horizontalAdvance(text) + std::max(aroundText, metrics.height());
 }
 
 /// Puts one control after the other from left to right, all of the same height.

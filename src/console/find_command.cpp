@@ -9,6 +9,7 @@
 #include <QLocale>
 
 #include <cstdio>
+#include <optional>
 
 namespace quorvin {
 
@@ -63,7 +64,9 @@ int runFind(const FindRequest& request) {
   ErrorLines messages;
   ConsoleView view;
   HitWriter writer(stdout, request.format, request.countOnly, locale);
-  SearchRun run(state, view, messages, writer, locale);
+  std::optional<ImageStore> images;
+  if (request.useCache) images.emplace(ImageStore::defaultOptions());
+  SearchRun run(state, view, messages, writer, images ? &*images : nullptr, locale);
   bool failed = false;
   try {
     if (request.listings.empty()) loadOwnSources(state, locale);

@@ -73,7 +73,8 @@ void HitWriter::addHits(const std::shared_ptr<const SearchImage>& image, std::sp
   }
 }
 
-void HitWriter::endImage(const std::shared_ptr<const SearchImage>&) {
+void HitWriter::endImage(const std::shared_ptr<const SearchImage>&,
+                         const std::shared_ptr<const SearchImage>&) {
   flush();
 }
 

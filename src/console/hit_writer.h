@@ -34,7 +34,8 @@ class HitWriter : public HitReceiver {
 
   void beginListing(SourceKind kind) override;
   void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override;
-  void endImage(const std::shared_ptr<const SearchImage>& image) override;
+  void endImage(const std::shared_ptr<const SearchImage>& image,
+                const std::shared_ptr<const SearchImage>& kept) override;
 
  private:
   std::FILE* output_;

@@ -1,3 +1,4 @@
+#include "console/cache_command.h"
 #include "console/find_command.h"
 
 #include <CLI/CLI.hpp>
@@ -21,6 +22,7 @@ struct FindOptions {
   std::string match = "50";
   quorvin::HitFormat format = quorvin::HitFormat::Tsv;
   bool countOnly = false;
+  bool noCache = false;
   std::vector<std::string> listings;
 };
 
@@ -33,9 +35,16 @@ CLI::App* addFind(CLI::App& app, FindOptions& options) {
       ->type_name("FORMAT")
       ->transform(CLI::CheckedTransformer(kFormats, CLI::ignore_case).description(""));
   find->add_flag("--count", options.countOnly, "Write only the number of hits");
+  find->add_flag("--no-cache", options.noCache, "Neither read nor write the search cache");
   find->add_option("TEXT", options.searchText, "The words to find, in one argument")->required();
   find->add_option("LISTING", options.listings, "Listing files to search instead of the user's own sources");
   return find;
+}
+
+CLI::App* addCache(CLI::App& app, bool& clear) {
+  CLI::App* cache = app.add_subcommand("cache", "List the files of the search cache with the listings they are for");
+  cache->add_flag("--clear", clear, "Remove them all; they are made again when they are needed");
+  return cache;
 }
 
 quorvin::FindRequest requestOf(const FindOptions& options) {
@@ -44,6 +53,7 @@ quorvin::FindRequest requestOf(const FindOptions& options) {
   request.desiredMatch = QString::fromLocal8Bit(options.match.c_str());
   request.format = options.format;
   request.countOnly = options.countOnly;
+  request.useCache = !options.noCache;
   for (const std::string& listing : options.listings) {
     request.listings.push_back(QString::fromLocal8Bit(listing.c_str()));
   }
@@ -58,7 +68,9 @@ int main(int argc, char** argv) {
   app.set_version_flag("--version", "quorvin-cli " QUORVIN_VERSION);
   app.require_subcommand(1);
   FindOptions findOptions;
+  bool clearCache = false;
   const CLI::App* find = addFind(app, findOptions);
+  const CLI::App* cache = addCache(app, clearCache);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -67,5 +79,6 @@ int main(int argc, char** argv) {
     return 2;
   }
   if (find->parsed()) return quorvin::runFind(requestOf(findOptions));
+  if (cache->parsed()) return clearCache ? quorvin::clearCache() : quorvin::listCache();
   return 2;
 }

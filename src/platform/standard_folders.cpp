@@ -11,6 +11,11 @@
 
 namespace quorvin {
 
+QString userCacheFolder() {
+  const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+  return withTrailingSeparator(QDir::toNativeSeparators(base + QStringLiteral("/quorvin")), nativePathStyle());
+}
+
 QString userDataFolder() {
   const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
   return withTrailingSeparator(QDir::toNativeSeparators(base + QStringLiteral("/quorvin")),

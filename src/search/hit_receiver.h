@@ -31,8 +31,11 @@ class HitReceiver {
   /// the image has let go of it.
   virtual void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) = 0;
 
-  /// No more hits of `image` will come: it is complete and may be replaced by a smaller copy.
-  virtual void endImage(const std::shared_ptr<const SearchImage>& image) = 0;
+  /// No more hits of `image` will come. `kept` is an equal image that stays in any case and is to be used
+  /// instead (it may be `image` itself); null where only the hits keep the image alive, so that a copy of
+  /// their entries alone is the better thing to keep.
+  virtual void endImage(const std::shared_ptr<const SearchImage>& image,
+                        const std::shared_ptr<const SearchImage>& kept) = 0;
 };
 
 }  // namespace quorvin

@@ -87,8 +87,13 @@ void HitTable::append(const Hit& hit) {
   ++rowCount_;
 }
 
-void HitTable::endImage(const std::shared_ptr<const SearchImage>& image) {
+void HitTable::endImage(const std::shared_ptr<const SearchImage>& image,
+                        const std::shared_ptr<const SearchImage>& kept) {
   if (images_.empty() || images_.back() != image) return;
+  if (kept) {
+    images_.back() = kept;
+    return;
+  }
   const auto hits = static_cast<std::size_t>(rowCount_ - imageFirstRow_);
   // Where most entries are hits the image itself is the smallest way to keep them.
   if (hits > image->entryCount() / 2) return;

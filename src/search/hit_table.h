@@ -49,7 +49,8 @@ class HitTable : public HitReceiver {
 
   void beginListing(SourceKind kind) override;
   void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override;
-  void endImage(const std::shared_ptr<const SearchImage>& image) override;
+  void endImage(const std::shared_ptr<const SearchImage>& image,
+                const std::shared_ptr<const SearchImage>& kept) override;
 
  private:
   struct Hit {

@@ -1,50 +1,72 @@
 #include "search/listing_scan.h"
 
 #include "platform/runtime_fault.h"
+#include "platform/sequential_file.h"
+#include "search/entry_search.h"
 #include "search/image_builder.h"
-#include "search/image_search.h"
 #include "search/listing_text.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace quorvin {
 
 namespace {
 
-/// One scan under way: chunks become entries of an image, and the entries are searched.
-class Scan {
+class FileSource : public ListingSource {
  public:
-  Scan(ListingSource& source, const SearchQuery& query, const QLocale& locale, std::int64_t& searchedCount,
-       HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome, const ScanLimits& limits)
+  explicit FileSource(const QString& path) : file_(path) {}
+  std::size_t read(std::span<char> buffer) override { return file_.read(buffer); }
+
+ private:
+  SequentialFile file_;
+};
+
+/// A scan that reads the listing: chunks become entries of an image, and the entries are searched.
+class BuildingScan {
+ public:
+  /// The first `alreadySearched` entries are read but not searched again. `recorder` may be null.
+  BuildingScan(ListingSource& source, const QLocale& locale, EntrySearch& search, HitReceiver& hits,
+               std::int64_t alreadySearched, ImageStore::Recorder* recorder, const ScanLimits& limits)
       : builder_(locale),
         text_(source, limits.chunkSize),
-        search_(query),
-        searchedCount_(searchedCount),
+        search_(search),
         receiver_(hits),
-        listener_(listener),
-        outcome_(outcome),
+        toSkip_(alreadySearched),
+        recorder_(recorder),
         limits_(limits) {}
 
   void run() {
-    while (!outcome_.stopped && text_.readChunk()) {
+    while (!search_.stopped() && text_.readChunk()) {
       text_.consume(builder_.addLines(text_.begin(), text_.size()));
-      finishText(text_.lastChunkSize());
+      searchText(text_.lastChunkSize());
       if (text_.size() > limits_.longestLine) throwLineTooLong();
     }
-    if (!outcome_.stopped && text_.size() > 0) {
+    if (!search_.stopped() && text_.size() > 0) {
       builder_.addLine(text_.lastLine());
-      finishText(0);
+      searchText(0);
     }
     endImage();
   }
 
  private:
-  void finishText(std::size_t bytes) {
+  void searchText(std::size_t bytes) {
+    if (recorder_ != nullptr) builder_.readAllValues();
+    builder_.image()->publish();
     searchNewEntries();
     builder_.finishText();
     imageBytes_ += bytes;
-    if (imageBytes_ >= limits_.segmentSize) endImage();
+    if (imageBytes_ >= (recorder_ != nullptr ? limits_.keptSegment : limits_.passingSegment)) endImage();
+  }
+
+  void searchNewEntries() {
+    const std::uint32_t count = builder_.image()->entryCount();
+    const auto skipped = static_cast<std::uint32_t>(std::min<std::int64_t>(toSkip_, count - nextEntry_));
+    toSkip_ -= skipped;
+    search_.search(builder_.image(), nextEntry_ + skipped, count, [this](std::span<const FoundEntry> hits) {
+      for (const FoundEntry& hit : hits) builder_.readValues(hit.entry);
+      builder_.image()->publish();
+    });
+    nextEntry_ = count;
   }
 
   [[noreturn]] void throwLineTooLong() {
@@ -54,35 +76,13 @@ class Scan {
                                                   .arg(limits_.longestLine));
   }
 
-  void searchNewEntries() {
-    builder_.image()->publish();
-    const SearchImage& image = *builder_.image();
-    while (nextEntry_ < image.entryCount() && !outcome_.stopped) {
-      const std::int64_t toYield = kEntriesBetweenYields - searchedCount_ % kEntriesBetweenYields;
-      const std::int64_t left = image.entryCount() - nextEntry_;
-      const auto count = static_cast<std::uint32_t>(std::min(toYield, left));
-      found_.clear();
-      search_.search(image, nextEntry_, nextEntry_ + count, found_);
-      report(image);
-      nextEntry_ += count;
-      searchedCount_ += count;
-      if (count == toYield) outcome_.stopped = listener_.reached(searchedCount_);
-    }
-  }
-
-  void report(const SearchImage& image) {
-    if (found_.empty()) return;
-    for (const FoundEntry& hit : found_) builder_.readValues(hit.entry);
-    builder_.image()->publish();
-    receiver_.addHits(builder_.image(), found_);
-    for (const FoundEntry& hit : found_) {
-      if (image.valueState(hit.entry) != ValueState::Unreadable) continue;
-      if (outcome_.unreadableHits++ == 0) outcome_.firstUnreadableLine = image.unreadableLine(hit.entry);
-    }
-  }
-
   void endImage() {
-    receiver_.endImage(builder_.image());
+    std::shared_ptr<const SearchImage> kept;
+    if (recorder_ != nullptr && !search_.stopped() && builder_.image()->entryCount() > 0) {
+      builder_.image()->complete();
+      kept = recorder_->add(builder_.image());
+    }
+    receiver_.endImage(builder_.image(), kept);
     builder_.beginImage();
     nextEntry_ = 0;
     imageBytes_ = 0;
@@ -90,17 +90,27 @@ class Scan {
 
   ImageBuilder builder_;
   ListingText text_;
-  ImageSearch search_;
-  std::int64_t& searchedCount_;
+  EntrySearch& search_;
   HitReceiver& receiver_;
-  ScanListener& listener_;
-  ScanOutcome& outcome_;
+  std::int64_t toSkip_;
+  ImageStore::Recorder* recorder_;
   const ScanLimits& limits_;
-
   std::size_t imageBytes_ = 0;
   std::uint32_t nextEntry_ = 0;
-  std::vector<FoundEntry> found_;
 };
+
+/// Searches images that are known. False where one was damaged; what was searched before it stands.
+bool searchImages(const ImageStore::Images& images, EntrySearch& search, HitReceiver& hits) {
+  try {
+    for (const auto& image : images) {
+      search.search(image, 0, image->entryCount());
+      hits.endImage(image, image);
+    }
+  } catch (const DamagedImage&) {
+    return false;
+  }
+  return true;
+}
 
 }  // namespace
 
@@ -108,7 +118,26 @@ void scanListing(ListingSource& source, const SearchQuery& query, const QLocale&
                  std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome,
                  const ScanLimits& limits) {
   outcome = {};
-  Scan(source, query, locale, searchedCount, hits, listener, outcome, limits).run();
+  EntrySearch search(query, searchedCount, hits, listener, outcome);
+  BuildingScan(source, locale, search, hits, 0, nullptr, limits).run();
+}
+
+void scanListingFile(const QString& path, ImageStore* store, const SearchQuery& query, const QLocale& locale,
+                     std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome,
+                     const ScanLimits& limits) {
+  outcome = {};
+  EntrySearch search(query, searchedCount, hits, listener, outcome);
+  const std::optional<ImageKey> key = store == nullptr ? std::nullopt : imageKeyOf(path, locale);
+  if (key) {
+    const ImageStore::Images images = store->find(*key);
+    if (!images.empty() && searchImages(images, search, hits)) return;
+    if (!images.empty()) store->forget(key->listing);
+  }
+  FileSource source(path);
+  std::optional<ImageStore::Recorder> recorder;
+  if (key) recorder.emplace(*store, *key);
+  BuildingScan(source, locale, search, hits, search.searched(), recorder ? &*recorder : nullptr, limits).run();
+  if (recorder && !outcome.stopped && imageKeyOf(path, locale) == key) recorder->finish();
 }
 
 }  // namespace quorvin

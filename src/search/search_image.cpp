@@ -21,17 +21,21 @@ const Record* recordOf(std::span<const Record> records, std::uint32_t entry) {
 
 std::uint32_t SearchImage::blockOf(std::uint32_t entry) const {
   const auto& starts = arrays_.blockStarts;
+  require(starts.data(), starts.size_bytes());
   return static_cast<std::uint32_t>(std::upper_bound(starts.begin(), starts.end(), entry) - starts.begin()) -
          1;
 }
 
 std::string_view SearchImage::volumeOfBlock(std::uint32_t block) const {
   const auto& runs = arrays_.volumes;
+  require(runs.data(), runs.size_bytes());
   const auto next =
       std::upper_bound(runs.begin(), runs.end(), block,
                        [](std::uint32_t b, const ImageArrays::VolumeRun& run) { return b < run.firstBlock; });
   const std::uint32_t start = std::prev(next)->textStart;
-  return arrays_.volumeTexts.substr(start, next->textStart - start);
+  const std::string_view volume = arrays_.volumeTexts.substr(start, next->textStart - start);
+  require(volume.data(), volume.size());
+  return volume;
 }
 
 QString SearchImage::volume(std::uint32_t entry) const {
@@ -47,6 +51,7 @@ QString SearchImage::name(std::uint32_t entry) const {
 }
 
 ValueState SearchImage::valueState(std::uint32_t entry) const {
+  require(&arrays_.values[entry], sizeof(CompactValues));
   switch (arrays_.values[entry].second) {
     case CompactValues::kAbsent:
       return ValueState::Absent;
@@ -59,12 +64,15 @@ ValueState SearchImage::valueState(std::uint32_t entry) const {
 
 EntryValues SearchImage::values(std::uint32_t entry) const {
   const CompactValues& compact = arrays_.values[entry];
+  require(&compact, sizeof compact);
   if (compact.second != CompactValues::kKeptAside) return expand(compact);
+  require(arrays_.wideValues.data(), arrays_.wideValues.size_bytes());
   const auto* wide = recordOf(arrays_.wideValues, entry);
   return wide == nullptr ? EntryValues{} : EntryValues{wide->size, wide->date};
 }
 
 std::int64_t SearchImage::unreadableLine(std::uint32_t entry) const {
+  require(arrays_.unreadable.data(), arrays_.unreadable.size_bytes());
   const auto* unreadable = recordOf(arrays_.unreadable, entry);
   return unreadable == nullptr ? 0 : unreadable->line;
 }

@@ -80,6 +80,7 @@ class SearchImage {
 
  protected:
   SearchImage() = default;
+  void require(const void* data, std::size_t size) const { arrays_.entries.require(data, size); }
   ImageArrays arrays_;
 };
 

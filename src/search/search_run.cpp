@@ -3,7 +3,6 @@
 #include "platform/file_lookup.h"
 #include "platform/general_number.h"
 #include "platform/runtime_fault.h"
-#include "platform/sequential_file.h"
 #include "platform/text_encoding.h"
 
 #include <algorithm>
@@ -18,15 +17,6 @@ constexpr char16_t kListingEnding[] = u".txt";
 
 /// Messages name at most this many listings; the rest is told as a number.
 constexpr std::size_t kMostListingsNamed = 10;
-
-class FileSource : public ListingSource {
- public:
-  explicit FileSource(const QString& path) : file_(path) {}
-  std::size_t read(std::span<char> buffer) override { return file_.read(buffer); }
-
- private:
-  SequentialFile file_;
-};
 
 /// Gives the button its idle caption back however a run ends.
 class RunningCaption {
@@ -75,10 +65,11 @@ class SearchRun::Listener : public ScanListener, public HitReceiver {
     newHits_ = true;
   }
 
-  void endImage(const std::shared_ptr<const SearchImage>& image) override {
+  void endImage(const std::shared_ptr<const SearchImage>& image,
+                const std::shared_ptr<const SearchImage>& kept) override {
     // The rows first: they were announced by nobody yet, and the image may now be replaced under them.
     showHits();
-    run_.hits_.endImage(image);
+    run_.hits_.endImage(image, kept);
   }
 
   void showHits() {
@@ -94,8 +85,14 @@ class SearchRun::Listener : public ScanListener, public HitReceiver {
 };
 
 SearchRun::SearchRun(ProgramState& state, SearchRunView& view, MessageBoxes& messages, HitReceiver& hits,
-                     const QLocale& locale, PathStyle style)
-    : state_(state), view_(view), messages_(messages), hits_(hits), locale_(locale), style_(style) {}
+                     ImageStore* images, const QLocale& locale, PathStyle style)
+    : state_(state),
+      view_(view),
+      messages_(messages),
+      hits_(hits),
+      images_(images),
+      locale_(locale),
+      style_(style) {}
 
 void SearchRun::Find_Click(const QString& searchText, const QString& desMatch) {
   if (view_.findCaption() != text(kIdleCaption)) {
@@ -182,8 +179,7 @@ void SearchRun::scan(const QString& path, SourceKind kind) {
   ScanOutcome outcome;
   listener.beginListing(kind);
   try {
-    FileSource source(path);
-    scanListing(source, query_, locale_, searchedCount_, listener, listener, outcome);
+    scanListingFile(path, images_, query_, locale_, searchedCount_, listener, listener, outcome);
   } catch (const RuntimeFault& fault) {
     ++failedListings_;
     messages_.inform(

@@ -42,8 +42,9 @@ class SearchRunView {
 /// Runs a search over all sources. User-interface thread only; everything handed over must outlive it.
 class SearchRun {
  public:
+  /// `images` keeps what was read for later runs; null to read every listing anew.
   SearchRun(ProgramState& state, SearchRunView& view, MessageBoxes& messages, HitReceiver& hits,
-            const QLocale& locale, PathStyle style = nativePathStyle());
+            ImageStore* images, const QLocale& locale, PathStyle style = nativePathStyle());
 
   /// The click handler of `Find`. While the caption is not "Find" it only sets `AbortRequested`. Otherwise:
   /// corrects the desired match, lower-cases the search text (an empty one ends the run before anything
@@ -83,6 +84,7 @@ class SearchRun {
   SearchRunView& view_;
   MessageBoxes& messages_;
   HitReceiver& hits_;
+  ImageStore* images_;
   QLocale locale_;
   PathStyle style_;
   SearchQuery query_;

@@ -35,29 +35,45 @@ void raise(std::string& text, const std::uint8_t* upperBits) {
 
 }  // namespace
 
+std::string_view TextTable::between(std::size_t beginMark, std::size_t endMark) const {
+  require(&marks[beginMark], sizeof(Mark));
+  const std::size_t begin = marks[beginMark].text;
+  if (endMark >= marks.size()) return folded.substr(begin);
+  require(&marks[endMark], sizeof(Mark));
+  return folded.substr(begin, marks[endMark].text - begin);
+}
+
 std::string_view TextTable::foldedText(std::uint32_t text) const {
-  const char* begin = folded.data() + marks[text / kTextsPerMark].text;
+  const std::string_view group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
+  require(group.data(), group.size());
+  const char* begin = group.data();
   for (std::uint32_t i = text % kTextsPerMark; i > 0; --i) begin = endOfText(begin) + 1;
   return {begin, static_cast<std::size_t>(endOfText(begin) - begin)};
 }
 
 std::string TextTable::listedText(std::uint32_t text) const {
+  require(exceptions.data(), exceptions.size_bytes());
   const auto exception = std::lower_bound(exceptions.begin(), exceptions.end(), text,
                                           [](const Exception& e, std::uint32_t t) { return e.text < t; });
   if (exception != exceptions.end() && exception->text == text) {
-    return std::string(
-        exceptionTexts.substr(exception->start, std::next(exception)->start - exception->start));
+    const std::uint32_t size = std::next(exception)->start - exception->start;
+    require(exceptionTexts.data() + exception->start, size);
+    return std::string(exceptionTexts.substr(exception->start, size));
   }
-  const Mark& mark = marks[text / kTextsPerMark];
-  const char* begin = folded.data() + mark.text;
-  std::size_t upper = mark.upper;
+  const std::string_view group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
+  require(group.data(), group.size());
+  require(&hasUpper[text / 64], sizeof(std::uint64_t));
+  const char* begin = group.data();
+  std::size_t upper = marks[text / kTextsPerMark].upper;
   for (std::uint32_t i = text - text % kTextsPerMark; i < text; ++i) {
     const char* end = endOfText(begin);
     if (bitAt(hasUpper, i)) upper += (static_cast<std::size_t>(end - begin) + 7) / 8;
     begin = end + 1;
   }
   std::string listed(begin, static_cast<std::size_t>(endOfText(begin) - begin));
-  if (bitAt(hasUpper, text)) raise(listed, upperBits.data() + upper);
+  if (!bitAt(hasUpper, text)) return listed;
+  require(&upperBits[upper], (listed.size() + 7) / 8);
+  raise(listed, upperBits.data() + upper);
   return listed;
 }
 

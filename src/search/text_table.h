@@ -1,6 +1,7 @@
 // Texts in lower case, one after another in one array, and beside them what is needed to show them as listed.
 #pragma once
 
+#include "search/byte_check.h"
 #include "search/byte_pair_scan.h"
 #include "search/trigram_filter.h"
 
@@ -53,6 +54,17 @@ struct TextTable {
   /// In ascending order of text; the last one, of no text, tells where exceptionTexts ends.
   std::span<const Exception> exceptions;
   std::string_view exceptionTexts;
+
+  /// Where the arrays come from a file: what is read of them is to be checked first. Else null.
+  const ByteCheck* check = nullptr;
+
+  /// Checks the `size` bytes at `data`, which lie in one of the arrays. Throws DamagedImage.
+  void require(const void* data, std::size_t size) const {
+    if (check != nullptr) check->require(data, size);
+  }
+
+  /// The folded texts from the 32-text mark `beginMark` to `endMark` (or the end of the table); not checked.
+  std::string_view between(std::size_t beginMark, std::size_t endMark) const;
 
   /// The folded text of `text`, without its end byte.
   std::string_view foldedText(std::uint32_t text) const;

@@ -47,6 +47,8 @@ void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t
 void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen) {
   const TrigramSet* trigrams =
       table.trigrams.empty() ? nullptr : &table.trigrams[stretch.first / kTextsPerPage];
+  if (trigrams != nullptr) table.require(trigrams, sizeof(TrigramSet));
+  bool textChecked = false;
   const std::size_t blocks = (stretch.text.size() + 63) / 64;
   if (matches_.size() < blocks) {
     matches_.resize(blocks);
@@ -57,6 +59,8 @@ void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, Seen
   for (std::size_t word = 0; word < needles_.size(); ++word) {
     const Needle& needle = needles_[word];
     if (trigrams != nullptr && !needle.probe.mayBeIn(*trigrams)) continue;
+    if (!textChecked) table.require(stretch.text.data(), stretch.text.size());
+    textChecked = true;
     if (!scanBytePair(stretch.text.data(), stretch.text.size(), needle.pair, matches_.data())) continue;
     if (!endsKnown) findEnds(stretch);
     endsKnown = true;

@@ -50,7 +50,7 @@ TEST(HitTable, RowsStayRightWhenTheirImageIsMadeSmaller) {
   }
   ScanLimits limits;
   limits.chunkSize = 1000;
-  limits.segmentSize = 20000;
+  limits.passingSegment = 20000;
   const HitTable table = scanned(listing, SourceKind::Online, limits);
   ASSERT_EQ(table.rowCount(), 143);
   for (std::int64_t row = 0; row < 143; ++row) {
@@ -67,7 +67,7 @@ TEST(HitTable, CarriedValuesCrossFromImageToImage) {
   for (int i = 0; i < 50; ++i) listing += test::entryLine("song short", "1", "1 May 99").chopped(2) + "\r\n";
   ScanLimits limits;
   limits.chunkSize = 200;
-  limits.segmentSize = 200;
+  limits.passingSegment = 200;
   const HitTable table = scanned(listing, SourceKind::Online, limits);
   ASSERT_EQ(table.rowCount(), 51);
   EXPECT_EQ(table.row(50).size, 4711);

@@ -72,7 +72,7 @@ TEST(ListingScanAgreement, ImagesMayEndAfterEveryChunk) {
     for (const std::size_t segment : {1U, 100U, 1000U, 20000U}) {
       ScanLimits limits;
       limits.chunkSize = 97;
-      limits.segmentSize = segment;
+      limits.passingSegment = segment;
       expectSame(test::scanOf(listing, text, 20, limits), reference);
       if (HasFatalFailure()) FAIL() << "segment size " << segment;
     }

@@ -12,7 +12,7 @@ namespace quorvin::test {
 
 class SearchRunFixture : public ::testing::Test {
  protected:
-  SearchRunFixture() : view_(hits_), run_(state_, view_, messages_, hits_, QLocale::c()) {
+  SearchRunFixture() : view_(hits_), run_(state_, view_, messages_, hits_, nullptr, QLocale::c()) {
     state_.LocalFolder = folder_.path();
   }
 

@@ -1,0 +1,26 @@
+// Which file it is, and whether it has changed.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace quorvin {
+
+/// What tells a file, and its content at a time, from others: any change of the content changes at least one
+/// of these.
+struct FileIdentity {
+  std::int64_t size = 0;
+  /// Nanoseconds since 1970.
+  std::int64_t modified = 0;
+  std::uint64_t device = 0;
+  std::uint64_t file = 0;
+
+  bool operator==(const FileIdentity&) const = default;
+};
+
+/// The identity of the file at `path`; nothing when there is none.
+std::optional<FileIdentity> fileIdentity(const QString& path);
+
+}  // namespace quorvin

@@ -1,0 +1,14 @@
+#include "platform/machine_memory.h"
+
+#include <unistd.h>
+
+namespace quorvin {
+
+std::int64_t machineMemory() {
+  const long pages = ::sysconf(_SC_PHYS_PAGES);
+  const long pageSize = ::sysconf(_SC_PAGE_SIZE);
+  constexpr std::int64_t kUnknown = std::int64_t{1} << 30;
+  return pages > 0 && pageSize > 0 ? std::int64_t{pages} * pageSize : kUnknown;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,39 @@
+#include "search/byte_check.h"
+
+#include <xxhash.h>
+
+#include <algorithm>
+
+namespace quorvin {
+
+DamagedImage::DamagedImage()
+    : RuntimeFault(FaultNumber::DeviceError, QStringLiteral("A file of the search cache is damaged")) {}
+
+ByteCheck::ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums)
+    : bytes_(bytes), sums_(sums), good_((bytes.size() + kBlockSize - 1) / kBlockSize, 0) {
+  if (sums_.size() != good_.size()) throw DamagedImage();
+}
+
+void ByteCheck::checkBlock(std::size_t block) const {
+  const std::size_t begin = block * kBlockSize;
+  if (block >= good_.size()) throw DamagedImage();
+  const std::size_t size = std::min(kBlockSize, bytes_.size() - begin);
+  if (checksumOf(bytes_.subspan(begin, size)) != sums_[block]) throw DamagedImage();
+  good_[block] = 1;
+}
+
+std::uint64_t checksumOf(std::span<const std::byte> bytes) {
+  return XXH3_64bits(bytes.data(), bytes.size());
+}
+
+std::vector<std::uint64_t> checksumsOf(std::span<const std::byte> bytes) {
+  std::vector<std::uint64_t> sums;
+  while (!bytes.empty()) {
+    const std::size_t size = std::min(ByteCheck::kBlockSize, bytes.size());
+    sums.push_back(checksumOf(bytes.first(size)));
+    bytes = bytes.subspan(size);
+  }
+  return sums;
+}
+
+}  // namespace quorvin

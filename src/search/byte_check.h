@@ -1,0 +1,52 @@
+// Bytes from a file that are believed only after their checksum has been looked at.
+#pragma once
+
+#include "platform/runtime_fault.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace quorvin {
+
+/// Thrown when bytes of a cache file are not those that were written.
+class DamagedImage : public RuntimeFault {
+ public:
+  DamagedImage();
+};
+
+/// Checks a stretch of memory block by block, each block when it is first asked for.
+class ByteCheck {
+ public:
+  static constexpr std::size_t kBlockSize = std::size_t{1} << 16;
+
+  /// `sums` are the checksums of `bytes`, block by block; the last block may be shorter. Both must outlive the
+  /// check.
+  ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums);
+
+  /// Makes sure of the `size` bytes at `data`, which lie in the stretch. Throws DamagedImage.
+  void require(const void* data, std::size_t size) const {
+    if (size == 0) return;
+    const auto offset = static_cast<std::size_t>(static_cast<const std::byte*>(data) - bytes_.data());
+    for (std::size_t block = offset / kBlockSize; block <= (offset + size - 1) / kBlockSize; ++block) {
+      if (!good_[block]) checkBlock(block);
+    }
+  }
+
+ private:
+  void checkBlock(std::size_t block) const;
+
+  std::span<const std::byte> bytes_;
+  std::span<const std::uint64_t> sums_;
+  /// What has been looked at; asking does not change what the bytes are.
+  mutable std::vector<std::uint8_t> good_;
+};
+
+/// The checksum of `bytes` as ByteCheck wants it.
+std::uint64_t checksumOf(std::span<const std::byte> bytes);
+
+/// The checksums of all blocks of `bytes`.
+std::vector<std::uint64_t> checksumsOf(std::span<const std::byte> bytes);
+
+}  // namespace quorvin

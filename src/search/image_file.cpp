@@ -1,0 +1,216 @@
+#include "search/image_file.h"
+
+#include "platform/runtime_fault.h"
+#include "search/byte_check.h"
+#include "search/mapped_image.h"
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QDir>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace quorvin {
+
+namespace {
+
+constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '1'};
+/// Arrays begin at multiples of this, the width of the widest vectors.
+constexpr std::size_t kArrayAlignment = 64;
+
+/// The end of the file: where the directory stands and its checksum.
+struct Trailer {
+  std::uint64_t directoryOffset;
+  std::uint64_t directorySize;
+  std::uint64_t directorySum;
+  char magic[8];
+};
+
+QByteArray directoryBytes(const ImageKey& key, const std::vector<SegmentRecord>& segments,
+                          const std::vector<std::vector<std::uint64_t>>& sums) {
+  QByteArray bytes;
+  QDataStream stream(&bytes, QIODevice::WriteOnly);
+  stream.setVersion(QDataStream::Qt_6_4);
+  stream << key.listing << key.readingRules << qint64{key.identity.size} << qint64{key.identity.modified}
+         << quint64{key.identity.device} << quint64{key.identity.file} << static_cast<quint32>(segments.size());
+  for (std::size_t i = 0; i < segments.size(); ++i) {
+    stream << QByteArray(reinterpret_cast<const char*>(&segments[i]), sizeof(SegmentRecord))
+           << QByteArray(reinterpret_cast<const char*>(sums[i].data()),
+                         static_cast<qsizetype>(sums[i].size() * sizeof(std::uint64_t)));
+  }
+  return bytes;
+}
+
+struct Directory {
+  ImageKey key;
+  std::vector<SegmentRecord> segments;
+  std::vector<std::vector<std::uint64_t>> sums;
+};
+
+bool readDirectory(const QByteArray& bytes, Directory& directory) {
+  QDataStream stream(bytes);
+  stream.setVersion(QDataStream::Qt_6_4);
+  qint64 size = 0;
+  qint64 modified = 0;
+  quint64 device = 0;
+  quint64 file = 0;
+  quint32 count = 0;
+  stream >> directory.key.listing >> directory.key.readingRules >> size >> modified >> device >> file >> count;
+  directory.key.identity = {size, modified, device, file};
+  for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+    QByteArray record;
+    QByteArray sums;
+    stream >> record >> sums;
+    if (record.size() != sizeof(SegmentRecord)) return false;
+    std::memcpy(&directory.segments.emplace_back(), record.constData(), sizeof(SegmentRecord));
+    auto& own = directory.sums.emplace_back(static_cast<std::size_t>(sums.size()) / sizeof(std::uint64_t));
+    std::memcpy(own.data(), sums.constData(), own.size() * sizeof(std::uint64_t));
+  }
+  return stream.status() == QDataStream::Ok;
+}
+
+bool readDirectoryOf(const QString& path, Directory& directory) {
+  QFile file(path);
+  Trailer trailer;
+  constexpr qint64 kTrailerSize = sizeof trailer;
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() < kTrailerSize) return false;
+  if (!file.seek(file.size() - kTrailerSize)) return false;
+  if (file.read(reinterpret_cast<char*>(&trailer), kTrailerSize) != kTrailerSize) return false;
+  if (std::memcmp(trailer.magic, kMagic, sizeof kMagic) != 0) return false;
+  const auto end = static_cast<std::uint64_t>(file.size() - kTrailerSize);
+  if (trailer.directoryOffset > end || trailer.directorySize != end - trailer.directoryOffset) return false;
+  if (!file.seek(static_cast<qint64>(trailer.directoryOffset))) return false;
+  const QByteArray bytes = file.read(static_cast<qint64>(trailer.directorySize));
+  if (static_cast<std::uint64_t>(bytes.size()) != trailer.directorySize) return false;
+  if (checksumOf(std::as_bytes(std::span(bytes.constData(), trailer.directorySize))) != trailer.directorySum) return false;
+  return readDirectory(bytes, directory);
+}
+
+/// Lays the arrays of an image out one behind another.
+class SegmentLayout {
+ public:
+  explicit SegmentLayout(SegmentRecord& record) : record_(record) {}
+
+  template <typename Element>
+  void operator()(std::span<const Element>& array) {
+    add(array.size(), array.size_bytes(), 0);
+  }
+  void operator()(std::string_view& text) { add(text.size(), text.size(), kScanPadding); }
+
+  std::uint64_t size() const { return size_; }
+
+ private:
+  void add(std::size_t count, std::size_t bytes, std::size_t padding) {
+    record_.arrays[next_++] = {size_, count};
+    size_ += (bytes + padding + kArrayAlignment - 1) / kArrayAlignment * kArrayAlignment;
+  }
+
+  SegmentRecord& record_;
+  std::size_t next_ = 0;
+  std::uint64_t size_ = 0;
+};
+
+/// Copies the arrays to their places.
+class SegmentCopier {
+ public:
+  SegmentCopier(std::vector<std::byte>& bytes, const SegmentRecord& record) : bytes_(bytes), record_(record) {}
+
+  template <typename Array>
+  void operator()(Array& array) {
+    const std::size_t size = array.size() * sizeof(array[0]);
+    if (size > 0) std::memcpy(bytes_.data() + record_.arrays[next_].offset, array.data(), size);
+    ++next_;
+  }
+
+ private:
+  std::vector<std::byte>& bytes_;
+  const SegmentRecord& record_;
+  std::size_t next_ = 0;
+};
+
+}  // namespace
+
+ImageFileWriter::ImageFileWriter(const QString& path)
+    : path_(path), file_(path + QStringLiteral(".%1.new").arg(QCoreApplication::applicationPid())) {
+  QDir().mkpath(QFileInfo(path).path());
+  if (!file_.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
+    throw faultOfSystemError(errno, file_.fileName());
+  }
+}
+
+ImageFileWriter::~ImageFileWriter() {
+  if (!finished_) file_.remove();
+}
+
+void ImageFileWriter::write(const void* data, std::size_t size) {
+  const auto wanted = static_cast<qint64>(size);
+  if (file_.write(static_cast<const char*>(data), wanted) != wanted) {
+    throw faultOfSystemError(errno == 0 ? ENOSPC : errno, file_.fileName());
+  }
+  position_ += size;
+}
+
+void ImageFileWriter::pad() {
+  const std::size_t over = position_ % kMappingAlignment;
+  if (over == 0) return;
+  const std::vector<char> zeros(kMappingAlignment - over, 0);
+  write(zeros.data(), zeros.size());
+}
+
+std::shared_ptr<const SearchImage> ImageFileWriter::append(const SearchImage& image) {
+  pad();
+  ImageArrays arrays = image.arrays();
+  SegmentRecord record{};
+  SegmentLayout layout(record);
+  visitArrays(arrays, layout);
+  record.offset = position_;
+  record.size = layout.size();
+  record.entryCount = arrays.entries.count;
+  record.blockCount = arrays.folders.count;
+  std::vector<std::byte> bytes(record.size);
+  visitArrays(arrays, SegmentCopier(bytes, record));
+  write(bytes.data(), bytes.size());
+  sums_.push_back(checksumsOf(bytes));
+  segments_.push_back(record);
+  return std::make_shared<MappedImage>(file_.fileName(), record, sums_.back());
+}
+
+void ImageFileWriter::finish(const ImageKey& key) {
+  const QByteArray directory = directoryBytes(key, segments_, sums_);
+  Trailer trailer{};
+  trailer.directoryOffset = position_;
+  trailer.directorySize = static_cast<std::uint64_t>(directory.size());
+  trailer.directorySum = checksumOf(std::as_bytes(std::span(directory.constData(), trailer.directorySize)));
+  std::memcpy(trailer.magic, kMagic, sizeof kMagic);
+  write(directory.constData(), static_cast<std::size_t>(directory.size()));
+  write(&trailer, sizeof trailer);
+  file_.close();
+  if (std::rename(QFile::encodeName(file_.fileName()).constData(), QFile::encodeName(path_).constData()) != 0) {
+    throw faultOfSystemError(errno, path_);
+  }
+  finished_ = true;
+}
+
+std::vector<std::shared_ptr<const SearchImage>> openImageFile(const QString& path, const ImageKey& key) {
+  Directory directory;
+  if (!readDirectoryOf(path, directory) || directory.key != key) return {};
+  std::vector<std::shared_ptr<const SearchImage>> images;
+  try {
+    for (std::size_t i = 0; i < directory.segments.size(); ++i) {
+      images.push_back(std::make_shared<MappedImage>(path, directory.segments[i], std::move(directory.sums[i])));
+    }
+  } catch (const RuntimeFault&) {
+    return {};
+  }
+  return images;
+}
+
+QString listingOfImageFile(const QString& path) {
+  Directory directory;
+  return readDirectoryOf(path, directory) ? directory.key.listing : QString();
+}
+
+}  // namespace quorvin
