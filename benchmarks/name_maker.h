@@ -12,7 +12,7 @@ namespace quorvin {
 class NameMaker {
  public:
   /// The mean number of vocabulary words in a file's name.
-  static constexpr double kMeanWords = 2.52;
+  static constexpr double kMeanWords = 1.61;
 
   /// Both must outlive the maker.
   NameMaker(const Vocabulary& vocabulary, RandomSource& random) : vocabulary_(vocabulary), random_(random) {}

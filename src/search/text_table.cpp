@@ -29,7 +29,7 @@ bool bitAt(std::span<const std::uint64_t> bits, std::uint32_t index) {
 /// Capitals back into place.
 void raise(std::string& text, const std::uint8_t* upperBits) {
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if ((upperBits[i / 8] >> (i % 8) & 1U) != 0) text[i] = static_cast<char>(text[i] - ('a' - 'A'));
+    if ((static_cast<unsigned>(upperBits[i / 8]) >> (i % 8) & 1U) != 0) text[i] = static_cast<char>(text[i] - ('a' - 'A'));
   }
 }
 

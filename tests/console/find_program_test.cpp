@@ -3,6 +3,8 @@
 #include "support/listing_lines.h"
 #include "support/temporary_folder.h"
 
+#include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <gtest/gtest.h>
@@ -24,6 +26,7 @@ class FindProgram : public ::testing::Test {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"LC_ALL"_qs, u"C.UTF-8"_qs);
     environment.insert(u"QUORVIN_SETTINGS"_qs, folder_.pathOf(u"settings.ini"_qs));
+    environment.insert(u"XDG_CACHE_HOME"_qs, folder_.pathOf(u"cache"_qs));
     process_.setProcessEnvironment(environment);
     process_.setWorkingDirectory(folder_.path());
     process_.setProgram(QStringLiteral(QUORVIN_CLI));
@@ -118,6 +121,33 @@ TEST_F(FindProgram, DefaultsFileOfTheCurrentFolderIsTaken) {
   EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"song"_qs}).output, u"1\n"_qs);
 }
 
+TEST_F(FindProgram, SecondSearchUsesTheCacheFileOfTheFirst) {
+  const QString listing = sample();
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"rock"_qs, listing}).output, u"2\n"_qs);
+  const Ended listed = run({u"cache"_qs});
+  EXPECT_EQ(listed.status, 0);
+  EXPECT_TRUE(listed.output.endsWith(u'\t' + listing + u'\n')) << listed.output.toStdString();
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"rock"_qs, listing}).output, u"2\n"_qs);
+}
+
+TEST_F(FindProgram, NoCacheNeitherReadsNorWritesCacheFiles) {
+  const QString listing = sample();
+  EXPECT_EQ(run({u"find"_qs, u"--no-cache"_qs, u"--count"_qs, u"rock"_qs, listing}).output, u"2\n"_qs);
+  EXPECT_FALSE(folder_.has(u"cache"_qs));
+  run({u"find"_qs, u"--count"_qs, u"rock"_qs, listing});
+  const QString file = folder_.pathOf(u"cache/quorvin/"_qs) + QDir(folder_.pathOf(u"cache/quorvin"_qs)).entryList(QDir::Files).value(0);
+  ASSERT_TRUE(QFile::remove(file));
+  EXPECT_EQ(run({u"find"_qs, u"--no-cache"_qs, u"--count"_qs, u"rock"_qs, listing}).output, u"2\n"_qs);
+  EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_F(FindProgram, ClearRemovesTheCacheFiles) {
+  run({u"find"_qs, u"--count"_qs, u"rock"_qs, sample()});
+  EXPECT_EQ(run({u"cache"_qs, u"--clear"_qs}).status, 0);
+  EXPECT_EQ(run({u"cache"_qs}).output, QString());
+  EXPECT_TRUE(QDir(folder_.pathOf(u"cache/quorvin"_qs)).isEmpty());
+}
+
 TEST_F(FindProgram, WrongUseIsToldAndEndsWith2) {
   for (const QStringList& arguments :
        {QStringList{}, QStringList{u"seek"_qs}, QStringList{u"find"_qs},
@@ -135,7 +165,7 @@ TEST_F(FindProgram, HelpAndVersionEndWith0) {
   EXPECT_TRUE(help.output.contains(u"find"_qs));
   const Ended findHelp = run({u"find"_qs, u"--help"_qs});
   EXPECT_EQ(findHelp.status, 0);
-  for (const char16_t* option : {u"--match", u"--format", u"--count", u"TEXT", u"LISTING"}) {
+  for (const char16_t* option : {u"--match", u"--format", u"--count", u"--no-cache", u"TEXT", u"LISTING"}) {
     EXPECT_TRUE(findHelp.output.contains(QString::fromUtf16(option))) << findHelp.output.toStdString();
   }
 }

@@ -1,0 +1,160 @@
+// Google Benchmark cases of the search itself: reading a listing that is in memory, and searching its image.
+// Each case first proves its number of hits against the plain reference.
+#include "catalogue_writer.h"
+#include "dropped_hits.h"
+#include "generated_tree.h"
+#include "search/image_builder.h"
+#include "search/image_search.h"
+#include "search/listing_scan.h"
+#include "support/reference_scan.h"
+#include "support/scan_of.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace quorvin {
+namespace {
+
+constexpr std::int64_t kEntries = 200'000;
+constexpr std::uint64_t kSeed = 1;
+constexpr std::int16_t kDesiredMatch = 50;
+
+struct Case {
+  const char* name;
+  const char16_t* words;
+};
+
+constexpr char16_t kNothing[] = u"nosuchword";
+constexpr Case kSearches[] = {
+    {"search/one_rare_word", u"kumquat"},
+    {"search/one_common_word", u"live"},
+    {"search/three_words", u"live report summer"},
+    {"search/eight_words", u"live report summer copy letter track house night"},
+    {"search/a_single_letter", u"e"},
+};
+
+SearchQuery queryOf(const char16_t* words) {
+  return SearchQuery(QStringView(words), kDesiredMatch);
+}
+
+QByteArray generatedListing() {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("listing.txt")));
+  CatalogueWriter writer(file.fileName().toStdString(), QLocale::c());
+  GeneratedTree(kSeed, writer).write(kEntries);
+  writer.finish();
+  if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("the listing could not be read back");
+  return file.readAll();
+}
+
+/// One image of the whole listing, as it is kept for later searches. The listing's last line has an end.
+std::shared_ptr<const SearchImage> builtImage(const QByteArray& listing) {
+  const std::string padding(kLinePadding, '\0');
+  const std::string text = padding + listing.toStdString() + padding;
+  ImageBuilder builder(QLocale::c());
+  builder.addLines(text.data() + kLinePadding, static_cast<std::size_t>(listing.size()));
+  builder.readAllValues();
+  builder.finishText();
+  builder.image()->complete();
+  builder.image()->publish();
+  return builder.image();
+}
+
+class NeverStop : public ScanListener {
+ public:
+  bool reached(std::int64_t) override { return false; }
+};
+
+/// Hits of a search that reads the listing and keeps no image.
+std::int64_t hitsInPassing(const QByteArray& listing, const SearchQuery& query) {
+  test::MemoryListing source(listing);
+  std::int64_t searched = 0;
+  DroppedHits hits;
+  NeverStop listener;
+  ScanOutcome outcome;
+  scanListing(source, query, QLocale::c(), searched, hits, listener, outcome);
+  return hits.count();
+}
+
+std::int64_t hitsIn(const SearchImage& image, const SearchQuery& query) {
+  std::vector<FoundEntry> hits;
+  ImageSearch(query).search(image, 0, image.entryCount(), hits);
+  return static_cast<std::int64_t>(hits.size());
+}
+
+/// Ends the program unless the reference finds as many: the time of a wrong answer is worth nothing.
+void prove(const Case& tried, const QByteArray& listing, std::int64_t found) {
+  const test::ReferenceResult reference =
+      test::referenceScan(listing, QString::fromUtf16(tried.words), kDesiredMatch, QLocale::c());
+  const auto expected = static_cast<std::int64_t>(reference.hits.size());
+  if (found == expected && reference.searched == kEntries) return;
+  std::cerr << "search_benchmark: " << tried.name << ": " << found << " hits, the reference has " << expected
+            << " in " << reference.searched << " entries\n";
+  std::exit(1);
+}
+
+/// Times `work`, which goes through the whole listing once. The library calls a case several times; `answer`
+/// is proved at the first of them.
+template <typename Work, typename Answer>
+void addCase(const std::string& name, const Case& tried, const QByteArray& listing, Work work,
+             Answer answer) {
+  const auto timed = [&tried, &listing, work, answer, proved = false](benchmark::State& state) mutable {
+    if (!proved) prove(tried, listing, answer());
+    proved = true;
+    for (auto _ : state) work();
+    const auto rounds = static_cast<std::int64_t>(state.iterations());
+    state.SetBytesProcessed(rounds * listing.size());
+    state.counters["entries_per_second"] =
+        benchmark::Counter(static_cast<double>(rounds * kEntries), benchmark::Counter::kIsRate);
+  };
+  benchmark::RegisterBenchmark(name.c_str(), timed)->Unit(benchmark::kMicrosecond);
+}
+
+/// Building is timed without hits, but a count of none would prove little.
+void addBuildingCases(const QByteArray& listing) {
+  constexpr const Case& proof = kSearches[1];
+  addCase(
+      "build/in_passing", proof, listing,
+      [&listing, nothing = queryOf(kNothing)] { benchmark::DoNotOptimize(hitsInPassing(listing, nothing)); },
+      [&listing] { return hitsInPassing(listing, queryOf(proof.words)); });
+  addCase(
+      "build/to_keep", proof, listing, [&listing] { benchmark::DoNotOptimize(builtImage(listing)); },
+      [&listing] { return hitsIn(*builtImage(listing), queryOf(proof.words)); });
+}
+
+void addSearchCases(const QByteArray& listing, const SearchImage& image) {
+  for (const Case& tried : kSearches) {
+    const auto found = [&image, query = queryOf(tried.words)] { return hitsIn(image, query); };
+    addCase(
+        tried.name, tried, listing, [found] { benchmark::DoNotOptimize(found()); }, found);
+  }
+}
+
+}  // namespace
+}  // namespace quorvin
+
+int main(int argumentCount, char** arguments) {
+  benchmark::Initialize(&argumentCount, arguments);
+  if (benchmark::ReportUnrecognizedArguments(argumentCount, arguments)) return 2;
+  try {
+    const QByteArray listing = quorvin::generatedListing();
+    const std::shared_ptr<const quorvin::SearchImage> image = quorvin::builtImage(listing);
+    quorvin::addBuildingCases(listing);
+    quorvin::addSearchCases(listing, *image);
+    benchmark::RunSpecifiedBenchmarks();
+  } catch (const std::exception& failure) {
+    std::cerr << "search_benchmark: " << failure.what() << '\n';
+    return 2;
+  }
+  return 0;
+}

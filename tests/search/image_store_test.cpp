@@ -1,0 +1,272 @@
+#include "search/image_store.h"
+
+#include "search/listing_scan.h"
+#include "support/generated_listing.h"
+#include "support/listing_lines.h"
+#include "support/scan_of.h"
+#include "support/temporary_folder.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace quorvin {
+namespace {
+
+/// A listing and a store in a temporary folder, with segments so small that there are several.
+class ImageStoreTest : public ::testing::Test {
+ protected:
+  ImageStoreTest() {
+    limits_.chunkSize = 5000;
+    limits_.keptSegment = 40000;
+    for (int i = 0; i < 3000; ++i) {
+      if (i % 20 == 0) {
+        bytes_ += test::blockHead("V" + QByteArray::number(i / 1000), "\\Music\\F" + QByteArray::number(i) + "\\");
+      }
+      bytes_ += test::entryLine((i % 3 == 0 ? "Song " : "other \xC3\x84 ") + QByteArray::number(i),
+                                i % 100 == 0 ? "n/a" : QByteArray::number(i * 1000));
+    }
+    listing_ = folder_.writeFile(u"cd.lst"_qs, bytes_);
+    cache_ = folder_.pathOf(u"cache/"_qs);
+  }
+
+  test::ReferenceResult reference(const QString& words) {
+    return test::referenceScan(bytes_, words, 50, QLocale::c());
+  }
+
+  /// A scan of the listing; `reads` then tells whether the listing itself was read.
+  test::ReferenceResult scan(ImageStore& store, const QString& words) {
+    const SearchQuery query(words, 50);
+    test::YieldLog yields;
+    yields.onYield = [this](std::int64_t count) { return onYield_ && onYield_(count); };
+    std::int64_t searched = 0;
+    table_.clear();
+    table_.beginListing(SourceKind::Online);
+    scanListingFile(listing_, &store, query, QLocale::c(), searched, table_, yields, outcome_, limits_);
+    return test::resultOf(table_, outcome_, searched);
+  }
+
+  void expectRight(ImageStore& store) {
+    for (const QString& words : {u"song"_qs, u"other music 7"_qs, u"\u00E4"_qs, u"f120 song"_qs}) {
+      const test::ReferenceResult scanned = scan(store, words);
+      const test::ReferenceResult expected = reference(words);
+      EXPECT_EQ(scanned.searched, expected.searched);
+      EXPECT_EQ(scanned.hits, expected.hits) << words.toStdString();
+      EXPECT_EQ(scanned.unreadable, expected.unreadable);
+      EXPECT_EQ(scanned.firstUnreadableLine, expected.firstUnreadableLine);
+    }
+  }
+
+  QString cacheFile() const { return imageFiles(cache_).value(0); }
+
+  TemporaryFolder folder_;
+  QByteArray bytes_;
+  QString listing_;
+  QString cache_;
+  ScanLimits limits_;
+  HitTable table_;
+  ScanOutcome outcome_;
+  std::function<bool(std::int64_t)> onYield_;
+};
+
+constexpr std::size_t kPlenty = std::size_t{1} << 30;
+
+TEST_F(ImageStoreTest, SecondSearchGivesTheSameHits) {
+  ImageStore store({cache_, kPlenty});
+  expectRight(store);
+  EXPECT_EQ(imageFiles(cache_).size(), 1);
+}
+
+TEST_F(ImageStoreTest, AnotherRunUsesTheFileOfTheOneBefore) {
+  ImageStore first({cache_, kPlenty});
+  scan(first, u"song"_qs);
+  ImageStore second({cache_, kPlenty});
+  const std::optional<ImageKey> key = imageKeyOf(listing_, QLocale::c());
+  ASSERT_TRUE(key);
+  EXPECT_GT(second.find(*key).size(), 2U);
+  expectRight(second);
+}
+
+TEST_F(ImageStoreTest, WithoutCacheFolderImagesStayInMemory) {
+  ImageStore store({QString(), kPlenty});
+  scan(store, u"song"_qs);
+  EXPECT_GT(store.find(*imageKeyOf(listing_, QLocale::c())).size(), 2U);
+  expectRight(store);
+}
+
+TEST_F(ImageStoreTest, WithoutFolderAndMemoryTheSearchStillWorks) {
+  ImageStore store({QString(), 0});
+  expectRight(store);
+  EXPECT_TRUE(store.find(*imageKeyOf(listing_, QLocale::c())).empty());
+}
+
+TEST_F(ImageStoreTest, ChangedListingIsReadAnew) {
+  ImageStore store({cache_, kPlenty});
+  scan(store, u"song"_qs);
+  bytes_ += test::entryLine("song of the end");
+  folder_.writeFile(u"cd.lst"_qs, bytes_);
+  expectRight(store);
+  EXPECT_EQ(table_.rowCount() > 0, true);
+  EXPECT_EQ(imageFiles(cache_).size(), 1);
+}
+
+TEST_F(ImageStoreTest, AnotherLocaleReadsAnew) {
+  const std::optional<ImageKey> c = imageKeyOf(listing_, QLocale::c());
+  const std::optional<ImageKey> german = imageKeyOf(listing_, QLocale(QLocale::German, QLocale::Germany));
+  ASSERT_TRUE(c && german);
+  EXPECT_FALSE(*c == *german);
+}
+
+TEST_F(ImageStoreTest, DamagedByteAnywhereNeverChangesAResult) {
+  ImageStore writer({cache_, kPlenty});
+  scan(writer, u"song"_qs);
+  const QString path = cacheFile();
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray whole = file.readAll();
+  file.close();
+  for (qsizetype at = 0; at < whole.size(); at += 4099) {
+    QByteArray damaged = whole;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
+    // A new file each time: the old one may still be mapped.
+    ASSERT_TRUE(QFile::remove(path));
+    QFile out(path);
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    ASSERT_EQ(out.write(damaged), damaged.size());
+    out.close();
+    ImageStore store({cache_, kPlenty});
+    expectRight(store);
+    if (HasFailure()) FAIL() << "byte " << at;
+  }
+}
+
+TEST_F(ImageStoreTest, CutFileIsMadeAnew) {
+  ImageStore writer({cache_, kPlenty});
+  scan(writer, u"song"_qs);
+  const qint64 size = QFileInfo(cacheFile()).size();
+  for (const qint64 left : {qint64{0}, qint64{10}, qint64{40}, size / 2, size - 1}) {
+    const QString path = cacheFile();
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray part = file.read(left);
+    file.close();
+    ASSERT_TRUE(QFile::remove(path));
+    QFile out(path);
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    out.write(part);
+    out.close();
+    ImageStore store({cache_, kPlenty});
+    expectRight(store);
+    EXPECT_EQ(QFileInfo(cacheFile()).size(), size) << left;
+  }
+}
+
+TEST_F(ImageStoreTest, FileOfAnotherListingIsNotTrusted) {
+  ImageStore writer({cache_, kPlenty});
+  scan(writer, u"song"_qs);
+  const QString foreign = cacheFile();
+  const QString other = folder_.writeFile(u"other.lst"_qs, "song elsewhere\r\n");
+  ASSERT_TRUE(QFile::copy(foreign, imageFilePath(cache_, other)));
+  listing_ = other;
+  bytes_ = "song elsewhere\r\n";
+  ImageStore store({cache_, kPlenty});
+  expectRight(store);
+}
+
+TEST_F(ImageStoreTest, StoppedSearchLeavesNoFile) {
+  onYield_ = [](std::int64_t) { return true; };
+  ImageStore store({cache_, kPlenty});
+  EXPECT_EQ(scan(store, u"song"_qs).searched, 2000);
+  EXPECT_TRUE(QDir(cache_).isEmpty());
+  EXPECT_TRUE(store.find(*imageKeyOf(listing_, QLocale::c())).empty());
+}
+
+TEST_F(ImageStoreTest, ListingThatChangesWhileItIsReadIsNotKept) {
+  onYield_ = [this](std::int64_t) {
+    QFile file(listing_);
+    EXPECT_TRUE(file.open(QIODevice::Append));
+    file.write("song more\r\n");
+    return false;
+  };
+  ImageStore store({cache_, kPlenty});
+  scan(store, u"song"_qs);
+  EXPECT_TRUE(QDir(cache_).isEmpty());
+}
+
+TEST_F(ImageStoreTest, FullDiskLeavesNoFileAndTheRightHits) {
+  rlimit before{};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{100000, before.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+  ImageStore store({cache_, kPlenty});
+  expectRight(store);
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_TRUE(imageFiles(cache_).isEmpty());
+}
+
+TEST_F(ImageStoreTest, HitsStayRightWhenTheirListingIsReplacedOrDeleted) {
+  for (const QString& cacheFolder : {cache_, QString()}) {
+    folder_.writeFile(u"cd.lst"_qs, bytes_);
+    ImageStore store({cacheFolder, kPlenty});
+    scan(store, u"song"_qs);
+    const test::ReferenceResult expected = reference(u"song"_qs);
+    folder_.writeFile(u"cd.lst"_qs, "song of another disk\r\n");
+    EXPECT_EQ(test::resultOf(table_, outcome_, 3000).hits, expected.hits);
+    ASSERT_TRUE(QFile::remove(listing_));
+    store.forget(listing_);
+    EXPECT_EQ(test::resultOf(table_, outcome_, 3000).hits, expected.hits);
+  }
+}
+
+TEST_F(ImageStoreTest, OldestImagesGiveWayWhenMemoryIsShort) {
+  const QString second = folder_.writeFile(u"second.lst"_qs, bytes_);
+  const QString first = listing_;
+  ImageStore probe({QString(), kPlenty});
+  scan(probe, u"song"_qs);
+  std::size_t memory = 0;
+  for (const auto& image : probe.find(*imageKeyOf(first, QLocale::c()))) {
+    memory += dynamic_cast<const GrowingImage&>(*image).memorySize();
+  }
+  ImageStore store({QString(), memory * 3 / 2});
+  scan(store, u"song"_qs);
+  listing_ = second;
+  scan(store, u"song"_qs);
+  EXPECT_TRUE(store.find(*imageKeyOf(first, QLocale::c())).empty());
+  EXPECT_FALSE(store.find(*imageKeyOf(second, QLocale::c())).empty());
+}
+
+TEST_F(ImageStoreTest, ForgottenListingIsGoneFromMemoryAndDisk) {
+  ImageStore store({cache_, kPlenty});
+  scan(store, u"song"_qs);
+  store.forget(listing_);
+  EXPECT_TRUE(store.find(*imageKeyOf(listing_, QLocale::c())).empty());
+  EXPECT_TRUE(imageFiles(cache_).isEmpty());
+}
+
+TEST_F(ImageStoreTest, GeneratedListingsAgreeWarmAndCold) {
+  test::ListingMaker maker(99);
+  for (int round = 0; round < 200; ++round) {
+    bytes_ = maker.listing(60);
+    listing_ = folder_.writeFile(u"g%1.lst"_qs.arg(round), bytes_);
+    limits_.chunkSize = 64;
+    limits_.keptSegment = static_cast<std::size_t>(1 + maker.below(1500));
+    ImageStore store({cache_, kPlenty});
+    const QString words = maker.searchText();
+    const test::ReferenceResult expected = reference(words);
+    for (int run = 0; run < 2; ++run) {
+      const test::ReferenceResult scanned = scan(store, words);
+      ASSERT_EQ(scanned.hits, expected.hits) << "round " << round << " run " << run;
+      ASSERT_EQ(scanned.unreadable, expected.unreadable);
+      ASSERT_EQ(scanned.firstUnreadableLine, expected.firstUnreadableLine);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorvin
