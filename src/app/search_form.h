@@ -25,7 +25,8 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
 
  public:
   /// `state` and `messages` must outlive the window.
-  SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale, ImageStore* images = nullptr);
+  SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale,
+             ImageStore* images = nullptr);
 
   /// To be called after the sources of the state have changed: while there are none, the empty hit list says
   /// what to do first.

@@ -42,7 +42,8 @@ CLI::App* addFind(CLI::App& app, FindOptions& options) {
 }
 
 CLI::App* addCache(CLI::App& app, bool& clear) {
-  CLI::App* cache = app.add_subcommand("cache", "List the files of the search cache with the listings they are for");
+  CLI::App* cache =
+      app.add_subcommand("cache", "List the files of the search cache with the listings they are for");
   cache->add_flag("--clear", clear, "Remove them all; they are made again when they are needed");
   return cache;
 }

@@ -1,6 +1,7 @@
 #include "platform/general_date_reader.h"
 
 #include "platform/date_pattern.h"
+#include "platform/text_encoding.h"
 
 #include <algorithm>
 #include <array>
@@ -53,7 +54,7 @@ std::optional<DateValue> GeneralDateReader::readAscii(std::string_view text) con
   if (!isAscii(text)) {
     // No character of a text that is short enough takes up more than three bytes a unit.
     if (text.size() > 3 * DateText::kMaxLength) return std::nullopt;
-    return read(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    return read(textOfUtf8(text));
   }
   if (text.size() > DateText::kMaxLength) return std::nullopt;
   std::array<char16_t, DateText::kMaxLength> wide;

@@ -13,7 +13,8 @@ namespace quorvin {
 
 QString userCacheFolder() {
   const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-  return withTrailingSeparator(QDir::toNativeSeparators(base + QStringLiteral("/quorvin")), nativePathStyle());
+  return withTrailingSeparator(QDir::toNativeSeparators(base + QStringLiteral("/quorvin")),
+                               nativePathStyle());
 }
 
 QString userDataFolder() {

@@ -15,8 +15,8 @@ QString programFolder();
 /// `dataFolder`, made ready as prepareUserDataFolder does. Throws RuntimeFault when that fails.
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataFolder);
 
-/// The user's cache folder for the program, with a trailing separator; not made. What stands there can be made
-/// again.
+/// The user's cache folder for the program, with a trailing separator; not made. What stands there can be
+/// made again.
 QString userCacheFolder();
 
 /// The user's data folder for the program, with a trailing separator; not made.

@@ -34,6 +34,13 @@ QString decodeSystemText(QByteArrayView line) {
   return decoder.hasError() ? decodeWindows1252(line) : text;
 }
 
+QString textOfUtf8(std::string_view utf8) {
+  // QString::fromUtf8 would drop a byte order mark at the front.
+  QStringDecoder decoder(QStringConverter::Utf8,
+                         QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
+  return decoder.decode(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
+}
+
 bool isUtf8AsItStands(QByteArrayView line) {
 #ifdef Q_OS_WIN
   constexpr bool kSystemIsUtf8 = false;

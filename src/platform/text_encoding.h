@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <string_view>
+
 namespace quorvin {
 
 /// The characters of one line in the system code page (UTF-8 on Linux and macOS, the ANSI code page on
@@ -16,6 +18,9 @@ QString decodeSystemText(QByteArrayView line);
 /// Whether the bytes of `line` are valid in the system code page and that is UTF-8, so that they can be taken
 /// as they are.
 bool isUtf8AsItStands(QByteArrayView line);
+
+/// The characters of valid UTF-8. A byte order mark at its front is one of them.
+QString textOfUtf8(std::string_view utf8);
 
 /// `text` in the system code page, with "?" for each character that it cannot hold (on UTF-8: unpaired
 /// surrogates).

@@ -1,8 +1,7 @@
 #include "search/byte_check.h"
 
-#include <xxhash.h>
-
 #include <algorithm>
+#include <xxhash.h>
 
 namespace quorvin {
 

@@ -21,8 +21,8 @@ class ByteCheck {
  public:
   static constexpr std::size_t kBlockSize = std::size_t{1} << 16;
 
-  /// `sums` are the checksums of `bytes`, block by block; the last block may be shorter. Both must outlive the
-  /// check.
+  /// `sums` are the checksums of `bytes`, block by block; the last block may be shorter. Both must outlive
+  /// the check.
   ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums);
 
   /// Makes sure of the `size` bytes at `data`, which lie in the stretch. Throws DamagedImage.

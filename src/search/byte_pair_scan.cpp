@@ -36,6 +36,17 @@ bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64
   return any != 0;
 }
 
+void scanByte(const char* text, std::size_t size, char byte, std::uint64_t* bits, std::uint32_t* before) {
+  const auto wanted = static_cast<std::uint8_t>(byte);
+  scanBytePair(text, size, {wanted, wanted, 0, 0}, bits);
+  std::uint32_t count = 0;
+  for (std::size_t block = 0; block * 64 < size; ++block) {
+    before[block] = count;
+    // Here this is one instruction; compiled for every processor it would be a call.
+    count += static_cast<std::uint32_t>(__builtin_popcountll(bits[block]));
+  }
+}
+
 }  // namespace quorvin::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
@@ -47,9 +58,14 @@ HWY_AFTER_NAMESPACE();
 namespace quorvin {
 
 HWY_EXPORT(scanBytePair);
+HWY_EXPORT(scanByte);
 
 bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64_t* bits) {
   return HWY_DYNAMIC_DISPATCH(scanBytePair)(text, size, pair, bits);
+}
+
+void scanByte(const char* text, std::size_t size, char byte, std::uint64_t* bits, std::uint32_t* before) {
+  HWY_DYNAMIC_DISPATCH(scanByte)(text, size, byte, bits, before);
 }
 
 namespace {

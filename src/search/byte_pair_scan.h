@@ -31,4 +31,8 @@ BytePair rarestPair(std::string_view word);
 /// processor.
 bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64_t* bits);
 
+/// Sets the bits of `bits` as scanBytePair does where text[i] is `byte`, and before[k] to the number of such
+/// places before position 64 * k.
+void scanByte(const char* text, std::size_t size, char byte, std::uint64_t* bits, std::uint32_t* before);
+
 }  // namespace quorvin

@@ -6,9 +6,14 @@ namespace quorvin {
 
 EntrySearch::EntrySearch(const SearchQuery& query, std::int64_t& searchedCount, HitReceiver& hits,
                          ScanListener& listener, ScanOutcome& outcome)
-    : search_(query), searchedCount_(searchedCount), receiver_(hits), listener_(listener), outcome_(outcome) {}
+    : search_(query),
+      searchedCount_(searchedCount),
+      receiver_(hits),
+      listener_(listener),
+      outcome_(outcome) {}
 
-void EntrySearch::search(const std::shared_ptr<const SearchImage>& image, std::uint32_t first, std::uint32_t last,
+void EntrySearch::search(const std::shared_ptr<const SearchImage>& image, std::uint32_t first,
+                         std::uint32_t last,
                          const std::function<void(std::span<const FoundEntry>)>& prepare) {
   while (first < last && !outcome_.stopped) {
     const std::int64_t toYield = kEntriesBetweenYields - searchedCount_ % kEntriesBetweenYields;
@@ -27,6 +32,10 @@ void EntrySearch::search(const std::shared_ptr<const SearchImage>& image, std::u
 }
 
 void EntrySearch::report(const std::shared_ptr<const SearchImage>& image) {
+  if (image->arrays().unreadable.empty()) {
+    receiver_.addHits(image, found_);
+    return;
+  }
   // The values first: they may turn out to be damaged, and then none of these hits has been told yet.
   std::int64_t unreadable = 0;
   std::int64_t firstLine = 0;

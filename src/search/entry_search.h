@@ -15,8 +15,8 @@ namespace quorvin {
 class EntrySearch {
  public:
   /// Everything handed over must outlive the search.
-  EntrySearch(const SearchQuery& query, std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener,
-              ScanOutcome& outcome);
+  EntrySearch(const SearchQuery& query, std::int64_t& searchedCount, HitReceiver& hits,
+              ScanListener& listener, ScanOutcome& outcome);
 
   /// Searches entries `first` to `last` - 1 of `image`, yielding at every 2000th entry of the run. `prepare`,
   /// if any, is called with the hits before their values are looked at. Stops where the listener says so.

@@ -2,24 +2,22 @@
 
 #include "platform/day_and_second.h"
 #include "platform/general_number.h"
+#include "platform/text_encoding.h"
 #include "search/listing_columns.h"
 #include "search/listing_line.h"
 
 #include <QString>
 
 #include <algorithm>
+#include <limits>
 
 namespace quorvin {
 
 namespace {
 
-QString textOf(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 bool readSize(std::string_view field, bool ascii, std::int64_t& size) {
   if (ascii) return readAsciiByteCount(field, size);
-  const std::optional<std::int64_t> read = readByteCount(textOf(field));
+  const std::optional<std::int64_t> read = readByteCount(textOfUtf8(field));
   if (read) size = *read;
   return read.has_value();
 }
@@ -32,6 +30,12 @@ bool isGrouping(char c) {
   return c == ',' || c == '.' || c == ' ' || c == '\'';
 }
 
+/// Writes one more digit behind a value that is not positive; false where it does not fit.
+bool appendDigit(std::int64_t& value, char digit) {
+  return !__builtin_mul_overflow(value, std::int64_t{10}, &value) &&
+         !__builtin_sub_overflow(value, std::int64_t{digit - '0'}, &value);
+}
+
 }  // namespace
 
 bool readAsciiByteCount(std::string_view text, std::int64_t& bytes) {
@@ -40,17 +44,18 @@ bool readAsciiByteCount(std::string_view text, std::int64_t& bytes) {
   text = text.substr(first, text.find_last_not_of(' ') - first + 1);
   const bool negative = text.front() == '-';
   if (negative) text.remove_prefix(1);
-  if (text.empty() || !isDigit(text.front()) || !isDigit(text.back())) return false;
+  // Kept negative: the smallest value has no positive counterpart.
   std::int64_t value = 0;
+  bool digitBefore = false;
   for (const char c : text) {
-    if (isDigit(c)) {
-      if (__builtin_mul_overflow(value, std::int64_t{10}, &value)) return false;
-      if (__builtin_add_overflow(value, std::int64_t{c - '0'}, &value)) return false;
-    } else if (!isGrouping(c)) {
-      return false;
-    }
+    const bool digit = isDigit(c);
+    if (!digit && !(digitBefore && isGrouping(c))) return false;
+    if (digit && !appendDigit(value, c)) return false;
+    digitBefore = digit;
   }
-  bytes = negative ? -value : value;
+  if (!digitBefore) return false;
+  if (!negative && value == std::numeric_limits<std::int64_t>::min()) return false;
+  bytes = negative ? value : -value;
   return true;
 }
 

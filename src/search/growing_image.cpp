@@ -38,6 +38,7 @@ void GrowingImage::setValues(std::uint32_t entry, ValueState state, const EntryV
                              std::int64_t line) {
   const CompactValues compacted = compact(state, values);
   values_[entry] = compacted;
+  allOwn_ = allOwn_ && state == ValueState::Own;
   if (compacted.second == CompactValues::kKeptAside)
     wideValues_.push_back({entry, 0, values.size, values.date});
   if (compacted.second == CompactValues::kUnreadable) unreadable_.push_back({line, entry, 0});
@@ -50,6 +51,7 @@ void GrowingImage::publish() {
   arrays_.volumes = volumes_;
   arrays_.volumeTexts = volumeTexts_;
   arrays_.values = values_;
+  arrays_.allOwn = allOwn_;
   arrays_.wideValues = wideValues_;
   arrays_.unreadable = unreadable_;
 }
@@ -67,6 +69,7 @@ void GrowingImage::clear() {
   volumes_.clear();
   volumeTexts_.clear();
   values_.clear();
+  allOwn_ = true;
   wideValues_.clear();
   unreadable_.clear();
   publish();

@@ -45,6 +45,8 @@ class GrowingImage : public SearchImage {
   std::vector<ImageArrays::VolumeRun> volumes_;
   std::string volumeTexts_;
   std::vector<CompactValues> values_;
+  /// No value that was set so far is missing or unreadable.
+  bool allOwn_ = true;
   std::vector<ImageArrays::WideValues> wideValues_;
   std::vector<ImageArrays::UnreadableEntry> unreadable_;
 };

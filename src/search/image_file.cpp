@@ -17,7 +17,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '1'};
+constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '2'};
 /// Arrays begin at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 
@@ -35,7 +35,8 @@ QByteArray directoryBytes(const ImageKey& key, const std::vector<SegmentRecord>&
   QDataStream stream(&bytes, QIODevice::WriteOnly);
   stream.setVersion(QDataStream::Qt_6_4);
   stream << key.listing << key.readingRules << qint64{key.identity.size} << qint64{key.identity.modified}
-         << quint64{key.identity.device} << quint64{key.identity.file} << static_cast<quint32>(segments.size());
+         << quint64{key.identity.device} << quint64{key.identity.file}
+         << static_cast<quint32>(segments.size());
   for (std::size_t i = 0; i < segments.size(); ++i) {
     stream << QByteArray(reinterpret_cast<const char*>(&segments[i]), sizeof(SegmentRecord))
            << QByteArray(reinterpret_cast<const char*>(sums[i].data()),
@@ -58,7 +59,8 @@ bool readDirectory(const QByteArray& bytes, Directory& directory) {
   quint64 device = 0;
   quint64 file = 0;
   quint32 count = 0;
-  stream >> directory.key.listing >> directory.key.readingRules >> size >> modified >> device >> file >> count;
+  stream >> directory.key.listing >> directory.key.readingRules >> size >> modified >> device >> file >>
+      count;
   directory.key.identity = {size, modified, device, file};
   for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
     QByteArray record;
@@ -85,7 +87,8 @@ bool readDirectoryOf(const QString& path, Directory& directory) {
   if (!file.seek(static_cast<qint64>(trailer.directoryOffset))) return false;
   const QByteArray bytes = file.read(static_cast<qint64>(trailer.directorySize));
   if (static_cast<std::uint64_t>(bytes.size()) != trailer.directorySize) return false;
-  if (checksumOf(std::as_bytes(std::span(bytes.constData(), trailer.directorySize))) != trailer.directorySum) return false;
+  if (checksumOf(std::as_bytes(std::span(bytes.constData(), trailer.directorySize))) != trailer.directorySum)
+    return false;
   return readDirectory(bytes, directory);
 }
 
@@ -116,7 +119,8 @@ class SegmentLayout {
 /// Copies the arrays to their places.
 class SegmentCopier {
  public:
-  SegmentCopier(std::vector<std::byte>& bytes, const SegmentRecord& record) : bytes_(bytes), record_(record) {}
+  SegmentCopier(std::vector<std::byte>& bytes, const SegmentRecord& record)
+      : bytes_(bytes), record_(record) {}
 
   template <typename Array>
   void operator()(Array& array) {
@@ -170,6 +174,7 @@ std::shared_ptr<const SearchImage> ImageFileWriter::append(const SearchImage& im
   record.size = layout.size();
   record.entryCount = arrays.entries.count;
   record.blockCount = arrays.folders.count;
+  record.allOwn = arrays.allOwn ? 1 : 0;
   std::vector<std::byte> bytes(record.size);
   visitArrays(arrays, SegmentCopier(bytes, record));
   write(bytes.data(), bytes.size());
@@ -188,7 +193,8 @@ void ImageFileWriter::finish(const ImageKey& key) {
   write(directory.constData(), static_cast<std::size_t>(directory.size()));
   write(&trailer, sizeof trailer);
   file_.close();
-  if (std::rename(QFile::encodeName(file_.fileName()).constData(), QFile::encodeName(path_).constData()) != 0) {
+  if (std::rename(QFile::encodeName(file_.fileName()).constData(), QFile::encodeName(path_).constData()) !=
+      0) {
     throw faultOfSystemError(errno, path_);
   }
   finished_ = true;
@@ -200,7 +206,8 @@ std::vector<std::shared_ptr<const SearchImage>> openImageFile(const QString& pat
   std::vector<std::shared_ptr<const SearchImage>> images;
   try {
     for (std::size_t i = 0; i < directory.segments.size(); ++i) {
-      images.push_back(std::make_shared<MappedImage>(path, directory.segments[i], std::move(directory.sums[i])));
+      images.push_back(
+          std::make_shared<MappedImage>(path, directory.segments[i], std::move(directory.sums[i])));
     }
   } catch (const RuntimeFault&) {
     return {};

@@ -35,6 +35,8 @@ struct SegmentRecord {
   std::uint64_t size;
   std::uint64_t entryCount;
   std::uint64_t blockCount;
+  /// ImageArrays::allOwn: 1 or 0.
+  std::uint64_t allOwn;
   ArrayPlace arrays[kArrayCount];
 };
 
@@ -67,8 +69,8 @@ class ImageFileWriter {
   bool finished_ = false;
 };
 
-/// The images of the file at `path` if it is whole and belongs to `key`; else none. Only its directory is read
-/// now; each stretch of the images is checked when it is first used (DamagedImage). Never throws.
+/// The images of the file at `path` if it is whole and belongs to `key`; else none. Only its directory is
+/// read now; each stretch of the images is checked when it is first used (DamagedImage). Never throws.
 std::vector<std::shared_ptr<const SearchImage>> openImageFile(const QString& path, const ImageKey& key);
 
 /// The listing that the image file at `path` belongs to; empty text if it is none.

@@ -16,10 +16,16 @@ void setBits(std::vector<std::uint64_t>& bits, std::uint32_t from, std::uint32_t
 }  // namespace
 
 ImageSearch::ImageSearch(const SearchQuery& query)
-    : query_(query),
-      singleWords_(std::all_of(query.words().begin(), query.words().end(),
-                               [](const SearchQuery::Word& word) { return word.times == 1; })),
-      words_(query) {}
+    : query_(query), fewWords_(query.words().size() <= 8), words_(query) {
+  if (!fewWords_) return;
+  for (std::size_t set = 0; set < counts_.size(); ++set) {
+    WordSet seen;
+    for (std::size_t word = 0; word < query.words().size(); ++word) {
+      if ((set >> word & 1U) != 0) seen.add(word);
+    }
+    counts_[set] = countOfMany(seen);
+  }
+}
 
 void ImageSearch::search(const SearchImage& image, std::uint32_t first, std::uint32_t last,
                          std::vector<FoundEntry>& hits) {
@@ -73,11 +79,10 @@ void ImageSearch::score(const ImageArrays& arrays, std::uint32_t first, std::vec
   }
 }
 
-int ImageSearch::countOf(const WordSet& found) const {
-  if (singleWords_) return query_.emptyWords() + found.size();
+int ImageSearch::countOfMany(const WordSet& seen) const {
   int count = query_.emptyWords();
   for (std::size_t word = 0; word < query_.words().size(); ++word) {
-    if (found.has(word)) count += query_.words()[word].times;
+    if (seen.has(word)) count += query_.words()[word].times;
   }
   return count;
 }

@@ -4,6 +4,7 @@
 #include "search/hit_receiver.h"
 #include "search/word_search.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -25,11 +26,16 @@ class ImageSearch {
   void searchFolders(const SearchImage& image, std::uint32_t first, std::uint32_t last);
   void addCandidatesOfFolders(const ImageArrays& arrays, std::uint32_t first, std::uint32_t last);
   void score(const ImageArrays& arrays, std::uint32_t first, std::vector<FoundEntry>& hits) const;
-  int countOf(const WordSet& found) const;
+  /// How many words of the query are found where those of `seen` are, repetitions and empty ones counted.
+  int countOf(const WordSet& seen) const {
+    return fewWords_ ? counts_[seen.firstEight()] : countOfMany(seen);
+  }
+  int countOfMany(const WordSet& seen) const;
 
   const SearchQuery& query_;
-  /// No word stands in the query twice.
-  bool singleWords_;
+  /// The query has eight different words at most; then counts_ has the answer for each set of them.
+  bool fewWords_;
+  std::array<int, 256> counts_{};
   WordSearch words_;
   SeenWords inEntries_;
   SeenWords inFolders_;

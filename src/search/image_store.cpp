@@ -19,7 +19,8 @@ constexpr char16_t kImageEnding[] = u".qimage";
 
 QString readingRulesOf(const QLocale& locale) {
   const QStringList rules = {locale.name(), locale.dateFormat(QLocale::ShortFormat),
-                             locale.timeFormat(QLocale::LongFormat), QString::number(QDate::currentDate().year())};
+                             locale.timeFormat(QLocale::LongFormat),
+                             QString::number(QDate::currentDate().year())};
   return rules.join(u'\n');
 }
 
@@ -33,14 +34,16 @@ std::optional<ImageKey> imageKeyOf(const QString& listing, const QLocale& locale
 
 QString imageFilePath(const QString& cacheFolder, const QString& listing) {
   const QByteArray name = listing.toUtf8();
-  const std::uint64_t sum = checksumOf(std::as_bytes(std::span(name.constData(), static_cast<std::size_t>(name.size()))));
+  const std::uint64_t sum =
+      checksumOf(std::as_bytes(std::span(name.constData(), static_cast<std::size_t>(name.size()))));
   return cacheFolder + QString::number(sum, 16).rightJustified(16, u'0') + QString::fromUtf16(kImageEnding);
 }
 
 QStringList imageFiles(const QString& cacheFolder) {
   const QDir folder(cacheFolder);
   QStringList paths;
-  for (const QString& name : folder.entryList({u'*' + QString::fromUtf16(kImageEnding)}, QDir::Files, QDir::Name)) {
+  for (const QString& name :
+       folder.entryList({u'*' + QString::fromUtf16(kImageEnding)}, QDir::Files, QDir::Name)) {
     paths += folder.filePath(name);
   }
   return paths;

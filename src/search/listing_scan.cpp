@@ -123,8 +123,8 @@ void scanListing(ListingSource& source, const SearchQuery& query, const QLocale&
 }
 
 void scanListingFile(const QString& path, ImageStore* store, const SearchQuery& query, const QLocale& locale,
-                     std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome,
-                     const ScanLimits& limits) {
+                     std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener,
+                     ScanOutcome& outcome, const ScanLimits& limits) {
   outcome = {};
   EntrySearch search(query, searchedCount, hits, listener, outcome);
   const std::optional<ImageKey> key = store == nullptr ? std::nullopt : imageKeyOf(path, locale);
@@ -136,7 +136,8 @@ void scanListingFile(const QString& path, ImageStore* store, const SearchQuery& 
   FileSource source(path);
   std::optional<ImageStore::Recorder> recorder;
   if (key) recorder.emplace(*store, *key);
-  BuildingScan(source, locale, search, hits, search.searched(), recorder ? &*recorder : nullptr, limits).run();
+  BuildingScan(source, locale, search, hits, search.searched(), recorder ? &*recorder : nullptr, limits)
+      .run();
   if (recorder && !outcome.stopped && imageKeyOf(path, locale) == key) recorder->finish();
 }
 

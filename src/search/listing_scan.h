@@ -57,7 +57,7 @@ void scanListing(ListingSource& source, const SearchQuery& query, const QLocale&
 /// built and handed to the store. `store` may be null. Images that turn out to be damaged are built anew, and
 /// the scan goes on where it was.
 void scanListingFile(const QString& path, ImageStore* store, const SearchQuery& query, const QLocale& locale,
-                     std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome,
-                     const ScanLimits& limits = {});
+                     std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener,
+                     ScanOutcome& outcome, const ScanLimits& limits = {});
 
 }  // namespace quorvin

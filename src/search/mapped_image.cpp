@@ -12,7 +12,8 @@ namespace {
 /// Points arrays into a segment, one after another, each place checked against the segment's size.
 class ArrayPlacer {
  public:
-  ArrayPlacer(std::span<const std::byte> bytes, const SegmentRecord& record) : bytes_(bytes), record_(record) {}
+  ArrayPlacer(std::span<const std::byte> bytes, const SegmentRecord& record)
+      : bytes_(bytes), record_(record) {}
 
   template <typename Element>
   void operator()(std::span<const Element>& array) {
@@ -48,6 +49,7 @@ MappedImage::MappedImage(const QString& path, const SegmentRecord& record, std::
   visitArrays(arrays_, placer);
   arrays_.entries.count = static_cast<std::uint32_t>(record.entryCount);
   arrays_.folders.count = static_cast<std::uint32_t>(record.blockCount);
+  arrays_.allOwn = record.allOwn != 0;
   arrays_.entries.check = &check_;
   arrays_.folders.check = &check_;
 }

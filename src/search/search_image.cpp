@@ -1,14 +1,12 @@
 #include "search/search_image.h"
 
+#include "platform/text_encoding.h"
+
 #include <algorithm>
 
 namespace quorvin {
 
 namespace {
-
-QString textOf(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 template <typename Record>
 const Record* recordOf(std::span<const Record> records, std::uint32_t entry) {
@@ -39,18 +37,19 @@ std::string_view SearchImage::volumeOfBlock(std::uint32_t block) const {
 }
 
 QString SearchImage::volume(std::uint32_t entry) const {
-  return textOf(volumeOfBlock(blockOf(entry)));
+  return textOfUtf8(volumeOfBlock(blockOf(entry)));
 }
 
 QString SearchImage::folder(std::uint32_t entry) const {
-  return textOf(folderOfBlock(blockOf(entry)));
+  return textOfUtf8(folderOfBlock(blockOf(entry)));
 }
 
 QString SearchImage::name(std::uint32_t entry) const {
-  return textOf(arrays_.entries.listedText(entry));
+  return textOfUtf8(arrays_.entries.listedText(entry));
 }
 
 ValueState SearchImage::valueState(std::uint32_t entry) const {
+  if (arrays_.allOwn) return ValueState::Own;
   require(&arrays_.values[entry], sizeof(CompactValues));
   switch (arrays_.values[entry].second) {
     case CompactValues::kAbsent:

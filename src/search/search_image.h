@@ -44,6 +44,8 @@ struct ImageArrays {
   std::span<const VolumeRun> volumes;
   std::string_view volumeTexts;
   std::span<const CompactValues> values;
+  /// Every entry has values of its own, as nearly always: then nobody need look at each.
+  bool allOwn = false;
   /// Both ascending by entry.
   std::span<const WideValues> wideValues;
   std::span<const UnreadableEntry> unreadable;

@@ -29,7 +29,8 @@ bool bitAt(std::span<const std::uint64_t> bits, std::uint32_t index) {
 /// Capitals back into place.
 void raise(std::string& text, const std::uint8_t* upperBits) {
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if ((static_cast<unsigned>(upperBits[i / 8]) >> (i % 8) & 1U) != 0) text[i] = static_cast<char>(text[i] - ('a' - 'A'));
+    if ((static_cast<unsigned>(upperBits[i / 8]) >> (i % 8) & 1U) != 0)
+      text[i] = static_cast<char>(text[i] - ('a' - 'A'));
   }
 }
 
@@ -172,8 +173,7 @@ void TextTableBuilder::addAscii(std::string_view listed) {
 }
 
 void TextTableBuilder::addOther(std::string_view listed) {
-  const QString text = QString::fromUtf8(listed.data(), static_cast<qsizetype>(listed.size()));
-  const std::string lower = simpleLowerCase(text).toStdString();
+  const std::string lower = simpleLowerCase(textOfUtf8(listed)).toStdString();
   const std::uint32_t number = count_;
   addAscii(lower);
   if (lower == listed) return;

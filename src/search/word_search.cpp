@@ -5,6 +5,14 @@
 
 namespace quorvin {
 
+namespace {
+
+bool holdsAt(std::string_view text, std::size_t at, std::string_view word) {
+  return word.size() <= text.size() - at && std::memcmp(text.data() + at, word.data(), word.size()) == 0;
+}
+
+}  // namespace
+
 void SeenWords::reset(std::uint32_t first, std::uint32_t count) {
   // Only what was touched is cleared: most stretches hold no word at all.
   for (std::size_t block = 0; block < touched_.size(); ++block) {
@@ -62,19 +70,11 @@ void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, Seen
     if (!textChecked) table.require(stretch.text.data(), stretch.text.size());
     textChecked = true;
     if (!scanBytePair(stretch.text.data(), stretch.text.size(), needle.pair, matches_.data())) continue;
-    if (!endsKnown) findEnds(stretch);
+    if (!endsKnown) {
+      scanByte(stretch.text.data(), stretch.text.size(), kTextEnd, ends_.data(), endsBefore_.data());
+    }
     endsKnown = true;
     seeMatches(stretch, word, seen);
-  }
-}
-
-void WordSearch::findEnds(const Stretch& stretch) {
-  constexpr auto kEnd = static_cast<std::uint8_t>(kTextEnd);
-  scanBytePair(stretch.text.data(), stretch.text.size(), {kEnd, kEnd, 0, 0}, ends_.data());
-  std::uint32_t before = 0;
-  for (std::size_t block = 0; block * 64 < stretch.text.size(); ++block) {
-    endsBefore_[block] = before;
-    before += static_cast<std::uint32_t>(std::popcount(ends_[block]));
   }
 }
 
@@ -91,20 +91,20 @@ void WordSearch::seeMatches(const Stretch& stretch, std::size_t word, SeenWords&
       matches &= ~std::uint64_t{0} << std::countr_zero(ends);
       skipping = false;
     }
+    std::uint32_t text = stretch.firstText + endsBefore_[block];
+    std::uint64_t endsLeft = ends;
     while (matches != 0) {
       const std::uint64_t bit = matches & (~matches + 1);
       const std::size_t at = block * 64 + static_cast<std::size_t>(std::countr_zero(bit));
       matches ^= bit;
-      if (bytes.size() > 1 && stretch.text.compare(at, bytes.size(), bytes) != 0) continue;
-      const auto before = static_cast<std::uint32_t>(std::popcount(ends & (bit - 1)));
-      const std::uint32_t text = stretch.firstText + endsBefore_[block] + before;
+      if (bytes.size() > 1 && !holdsAt(stretch.text, at, bytes)) continue;
+      for (; (endsLeft & (bit - 1)) != 0; endsLeft &= endsLeft - 1) ++text;
       if (text >= stretch.first && text < stretch.last) seen.see(text, word);
-      const std::uint64_t endsLater = ends & ~(bit - 1);
-      if (endsLater == 0) {
+      if (endsLeft == 0) {
         skipping = true;
         break;
       }
-      matches &= ~std::uint64_t{0} << std::countr_zero(endsLater);
+      matches &= ~std::uint64_t{0} << std::countr_zero(endsLeft);
     }
   }
 }

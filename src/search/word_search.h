@@ -17,6 +17,8 @@ class WordSet {
   bool has(std::size_t word) const { return (bits_[word / 64] >> (word % 64) & 1U) != 0; }
   bool empty() const { return (bits_[0] | bits_[1]) == 0; }
   int size() const { return std::popcount(bits_[0]) + std::popcount(bits_[1]); }
+  /// The first eight words as bits.
+  std::uint8_t firstEight() const { return static_cast<std::uint8_t>(bits_[0]); }
   WordSet operator|(const WordSet& other) const {
     WordSet both;
     both.bits_[0] = bits_[0] | other.bits_[0];
@@ -77,7 +79,6 @@ class WordSearch {
   };
 
   void findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen);
-  void findEnds(const Stretch& stretch);
   void seeMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
 
   std::vector<Needle> needles_;

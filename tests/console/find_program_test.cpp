@@ -135,7 +135,8 @@ TEST_F(FindProgram, NoCacheNeitherReadsNorWritesCacheFiles) {
   EXPECT_EQ(run({u"find"_qs, u"--no-cache"_qs, u"--count"_qs, u"rock"_qs, listing}).output, u"2\n"_qs);
   EXPECT_FALSE(folder_.has(u"cache"_qs));
   run({u"find"_qs, u"--count"_qs, u"rock"_qs, listing});
-  const QString file = folder_.pathOf(u"cache/quorvin/"_qs) + QDir(folder_.pathOf(u"cache/quorvin"_qs)).entryList(QDir::Files).value(0);
+  const QString file = folder_.pathOf(u"cache/quorvin/"_qs) +
+                       QDir(folder_.pathOf(u"cache/quorvin"_qs)).entryList(QDir::Files).value(0);
   ASSERT_TRUE(QFile::remove(file));
   EXPECT_EQ(run({u"find"_qs, u"--no-cache"_qs, u"--count"_qs, u"rock"_qs, listing}).output, u"2\n"_qs);
   EXPECT_FALSE(QFile::exists(file));

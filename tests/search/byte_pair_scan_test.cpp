@@ -1,4 +1,5 @@
 #include "search/byte_pair_scan.h"
+
 #include "support/instruction_sets.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 #include "search/entry_columns.h"
+
 #include "support/instruction_sets.h"
 
 #include <gtest/gtest.h>

@@ -40,10 +40,10 @@ TEST(CompactValues, HoldEverySecondOfADayWithoutLoss) {
 }
 
 TEST(CompactValues, WhatDoesNotFitIsKeptAside) {
-  for (const EntryValues& values : {EntryValues{4294967296, 0}, EntryValues{-1, 0}, EntryValues{0, -1},
-                                    EntryValues{0, 49710}, EntryValues{0, 2958465},
-                                    EntryValues{0, 38001 + kSecond / 3}, EntryValues{0, -0.25},
-                                    EntryValues{std::numeric_limits<std::int64_t>::max(), 38001}}) {
+  for (const EntryValues& values :
+       {EntryValues{4294967296, 0}, EntryValues{-1, 0}, EntryValues{0, -1}, EntryValues{0, 49710},
+        EntryValues{0, 2958465}, EntryValues{0, 38001 + kSecond / 3}, EntryValues{0, -0.25},
+        EntryValues{std::numeric_limits<std::int64_t>::max(), 38001}}) {
     EXPECT_EQ(compact(ValueState::Own, values).second, CompactValues::kKeptAside)
         << values.size << " " << values.date;
   }

@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -25,7 +24,8 @@ class ImageStoreTest : public ::testing::Test {
     limits_.keptSegment = 40000;
     for (int i = 0; i < 3000; ++i) {
       if (i % 20 == 0) {
-        bytes_ += test::blockHead("V" + QByteArray::number(i / 1000), "\\Music\\F" + QByteArray::number(i) + "\\");
+        bytes_ +=
+            test::blockHead("V" + QByteArray::number(i / 1000), "\\Music\\F" + QByteArray::number(i) + "\\");
       }
       bytes_ += test::entryLine((i % 3 == 0 ? "Song " : "other \xC3\x84 ") + QByteArray::number(i),
                                 i % 100 == 0 ? "n/a" : QByteArray::number(i * 1000));

@@ -1,4 +1,5 @@
 #include "search/line_marks.h"
+
 #include "search/listing_line.h"
 #include "support/instruction_sets.h"
 
@@ -124,12 +125,13 @@ TEST_P(LineMarks, PlainNamesAreNotMarked) {
 }
 
 TEST_P(LineMarks, GeneratedTextIsMarkedWhereverItMustBe) {
-  static constexpr std::string_view kPieces[] = {
-      "Volume:", "Directory:", "<DIR>", "---------------", "-------", "---", "\n", "\r\n", "e:", "y:", "a", "\xC3\xA9"};
+  static constexpr std::string_view kPieces[] = {"Volume:", "Directory:", "<DIR>", "---------------",
+                                                 "-------", "---",        "\n",    "\r\n",
+                                                 "e:",      "y:",         "a",     "\xC3\xA9"};
   std::mt19937 random(9);
   for (int round = 0; round < 20000; ++round) {
     std::string text;
-    for (unsigned pieces = random() % 20; pieces > 0; --pieces) {
+    for (auto pieces = random() % 20; pieces > 0; --pieces) {
       text += kPieces[random() % std::size(kPieces)];
       text.append(random() % 4, 'a');
     }

@@ -95,7 +95,9 @@ TEST(TextTable, EveryTextEndsWithTheEndByteAndPaddingFollows) {
   TextTableBuilder builder;
   for (const char* text : {"A", "", "bc"}) add(builder, text);
   const std::string_view folded = builder.table().folded;
-  EXPECT_EQ(folded, "a\xFF\xFF" "bc\xFF");
+  EXPECT_EQ(folded,
+            "a\xFF\xFF"
+            "bc\xFF");
   // The scan reads as far as this; a sanitizer notices if it cannot.
   for (std::size_t i = 0; i < kScanPadding; ++i) {
     const volatile char readable = folded.data()[folded.size() + i];

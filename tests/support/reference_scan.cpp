@@ -7,6 +7,7 @@
 #include <QList>
 
 #include <cmath>
+#include <optional>
 
 namespace quorvin::test {
 
@@ -61,12 +62,23 @@ int scoreOf(const QString& searchable, const QList<QString>& words) {
       std::nearbyint(static_cast<double>(found) / static_cast<double>(words.size()) * 100));
 }
 
+/// Making a reader takes far longer than scanning a short listing, so the last one is kept.
+const GeneralDateReader& dateReaderFor(const QLocale& locale) {
+  static QLocale known;
+  static std::optional<GeneralDateReader> reader;
+  if (!reader || known != locale) {
+    known = locale;
+    reader.emplace(locale);
+  }
+  return *reader;
+}
+
 }  // namespace
 
 ReferenceResult referenceScan(const QByteArray& listing, const QString& lowerSearchText, int desiredMatch,
                               const QLocale& locale) {
   const QList<QString> words = wordsOf(lowerSearchText);
-  const GeneralDateReader dates(locale);
+  const GeneralDateReader& dates = dateReaderFor(locale);
   ReferenceResult result;
   QString volume;
   QString folder;

@@ -3,6 +3,7 @@
 
 #include "search/hit_table.h"
 #include "search/listing_scan.h"
+#include "support/qt_printing.h"
 #include "support/reference_scan.h"
 
 #include <QByteArray>

@@ -1,0 +1,104 @@
+#include "search/quick_scan.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvin::test {
+
+namespace {
+
+class BytesInMemory : public ListingSource {
+ public:
+  explicit BytesInMemory(std::string_view bytes) : left_(bytes) {}
+
+  std::size_t read(std::span<char> buffer) override {
+    const std::size_t count = left_.copy(buffer.data(), buffer.size());
+    left_.remove_prefix(count);
+    return count;
+  }
+
+ private:
+  std::string_view left_;
+};
+
+}  // namespace
+
+PlainResult QuickScan::scan(std::string_view listing, RepeatedSearch& search, const QuickScanLimits& limits) {
+  beginListing();
+  search_ = &search;
+  limits_ = limits;
+  BytesInMemory source(listing);
+  ListingText text(source, limits.chunkSize);
+  std::size_t imageBytes = 0;
+  while (text.readChunk()) {
+    text.consume(builder_.addLines(text.begin(), text.size()));
+    searchText(false);
+    imageBytes += text.lastChunkSize();
+    if (imageBytes < limits.segmentSize) continue;
+    endImage();
+    imageBytes = 0;
+  }
+  if (text.size() > 0) {
+    builder_.addLine(text.lastLine());
+    searchText(false);
+  }
+  endImage();
+  return std::exchange(result_, {});
+}
+
+void QuickScan::beginListing() {
+  static const std::string reset = std::string(kLinePadding, ' ') + "Volume:\nDirectory:\n" +
+                                   std::string(70, 'x') + "\n" + std::string(kLinePadding, ' ');
+  builder_.addLines(reset.data() + kLinePadding, reset.size() - 2 * kLinePadding);
+  builder_.finishText();
+  builder_.beginImage();
+  linesBefore_ = builder_.lineCount();
+  nextEntry_ = 0;
+  shown_ = {};
+}
+
+void QuickScan::searchText(bool imageIsComplete) {
+  if (limits_.whenComplete && !imageIsComplete) {
+    builder_.readAllValues();
+    builder_.finishText();
+    return;
+  }
+  builder_.image()->publish();
+  const GrowingImage& image = *builder_.image();
+  found_.clear();
+  while (nextEntry_ < image.entryCount()) {
+    const std::uint32_t end = nextEntry_ + std::min(limits_.entriesAtOnce, image.entryCount() - nextEntry_);
+    search_->images().search(image, nextEntry_, end, found_);
+    result_.searched += end - nextEntry_;
+    nextEntry_ = end;
+  }
+  if (!imageIsComplete) {
+    for (const FoundEntry& found : found_) builder_.readValues(found.entry);
+    builder_.image()->publish();
+  }
+  for (const FoundEntry& found : found_) note(found);
+  builder_.finishText();
+}
+
+void QuickScan::endImage() {
+  if (limits_.whenComplete) {
+    builder_.image()->complete();
+    searchText(true);
+  }
+  builder_.beginImage();
+  nextEntry_ = 0;
+}
+
+void QuickScan::note(const FoundEntry& found) {
+  const GrowingImage& image = *builder_.image();
+  const ValueState state = image.valueState(found.entry);
+  if (state == ValueState::Own) shown_ = image.values(found.entry);
+  if (state == ValueState::Unreadable && ++result_.unreadable == 1) {
+    result_.firstUnreadableLine = image.unreadableLine(found.entry) - linesBefore_;
+  }
+  const std::uint32_t block = image.blockOf(found.entry);
+  result_.hits.push_back({found.match, std::string(image.volumeOfBlock(block)), image.folderOfBlock(block),
+                          image.arrays().entries.listedText(found.entry), shown_.size, shown_.date});
+}
+
+}  // namespace quorvin::test
