@@ -38,7 +38,8 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
       addComingItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
   made.OptionsMenu = addComingItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
   made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
-  made.MenuQuit->setShortcut(QKeySequence::Quit);
+  // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.
+  made.MenuQuit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 
   made.HlpMnu = addMenu(bar, QStringLiteral("HlpMnu"), QStringLiteral("&Help"));
   made.HlpGen = addComingItem(made.HlpMnu, QStringLiteral("HlpGen"), QStringLiteral("Program &Usage"));

@@ -85,12 +85,9 @@ class Comparison {
     hits_ += expected.hits.size();
     unreadable_ += static_cast<std::size_t>(expected.unreadable);
     if (result == expected) return;
-    FAIL() << "searched " << result.searched << ", expected " << expected.searched << "; hits "
-           << result.hits.size() << ", expected " << expected.hits.size() << "; unreadable "
-           << result.unreadable << " from line " << result.firstUnreadableLine << ", expected "
-           << expected.unreadable << " from line " << expected.firstUnreadableLine << "\nwords \""
-           << search.text() << "\", desired " << search.desiredMatch() << ", chunks of " << limits.chunkSize
-           << ", images of " << limits.segmentSize << ", " << limits.entriesAtOnce
+    FAIL() << differenceOf(result, expected) << "\nwords \"" << search.text() << "\", desired "
+           << search.desiredMatch() << ", chunks of " << limits.chunkSize << ", images of "
+           << limits.segmentSize << ", " << limits.entriesAtOnce
            << " entries at once, when complete: " << limits.whenComplete << "\nlisting "
            << testing::PrintToString(std::string(listing));
   }
@@ -148,7 +145,8 @@ TEST(PlainScan, AgreesWithTheReference) {
     const PlainResult expected =
         plainForm(test::referenceScan(QByteArray::fromStdString(listing), text, desired, QLocale::c()));
     hits += expected.hits.size();
-    ASSERT_EQ(plain.scan(listing, test::plainWords(text.toStdU32String()), desired), expected)
+    const PlainResult result = plain.scan(listing, test::plainWords(text.toStdU32String()), desired);
+    ASSERT_EQ(test::differenceOf(result, expected), "")
         << "words \"" << text.toStdString() << "\", desired " << desired << ", listing "
         << testing::PrintToString(listing);
   }
@@ -168,7 +166,8 @@ TEST(QuickScan, AgreesWithTheProgramsOwnScan) {
     const test::ReferenceResult expected =
         test::scanOf(QByteArray::fromStdString(listing), QString::fromStdString(search.text()),
                      search.desiredMatch(), own);
-    ASSERT_EQ(quick.scan(listing, search, limits), plainForm(expected)) << testing::PrintToString(listing);
+    ASSERT_EQ(test::differenceOf(quick.scan(listing, search, limits), plainForm(expected)), "")
+        << testing::PrintToString(listing);
   }
 }
 

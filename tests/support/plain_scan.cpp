@@ -2,7 +2,9 @@
 
 #include "platform/general_number.h"
 
+#include <algorithm>
 #include <cmath>
+#include <sstream>
 
 namespace quorvin::test {
 
@@ -63,7 +65,7 @@ void encode(std::u32string_view text, std::string& utf8) {
       continue;
     }
     const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    utf8 += static_cast<char>((0xF00U >> more & 0xF0U) | c >> (6 * more));
+    utf8 += static_cast<char>((0xFF00U >> (more + 1) & 0xFFU) | c >> (6 * more));
     for (int i = more - 1; i >= 0; --i) utf8 += static_cast<char>(0x80U | (c >> (6 * i) & 0x3FU));
   }
 }
@@ -126,6 +128,30 @@ int scoreOf(const std::u32string& folder, std::u32string_view entry,
 }
 
 }  // namespace
+
+std::string differenceOf(const PlainResult& result, const PlainResult& expected) {
+  std::ostringstream difference;
+  const auto tell = [&](const char* what, const auto& value, const auto& right) {
+    if (difference.view().empty() && value != right)
+      difference << what << ' ' << value << " and not " << right;
+  };
+  tell("searched", result.searched, expected.searched);
+  for (std::size_t i = 0; i < std::min(result.hits.size(), expected.hits.size()); ++i) {
+    const PlainHit& hit = result.hits[i];
+    const PlainHit& right = expected.hits[i];
+    const std::string place = "hit " + std::to_string(i) + ' ';
+    tell((place + "name").c_str(), hit.name, right.name);
+    tell((place + "match").c_str(), hit.match, right.match);
+    tell((place + "folder").c_str(), hit.folder, right.folder);
+    tell((place + "volume").c_str(), hit.volume, right.volume);
+    tell((place + "size").c_str(), hit.size, right.size);
+    tell((place + "date").c_str(), hit.date, right.date);
+  }
+  tell("hits", result.hits.size(), expected.hits.size());
+  tell("unreadable", result.unreadable, expected.unreadable);
+  tell("first unreadable line", result.firstUnreadableLine, expected.firstUnreadableLine);
+  return difference.str();
+}
 
 std::vector<std::u32string> plainWords(std::u32string_view searchText) {
   std::vector<std::u32string> words;

@@ -37,6 +37,9 @@ struct PlainResult {
   bool operator==(const PlainResult&) const = default;
 };
 
+/// Names the first thing in which `result` differs from `expected`; empty where nothing does.
+std::string differenceOf(const PlainResult& result, const PlainResult& expected);
+
 /// Of the capitals outside ASCII and Latin-1 it knows only those that small listings are made of.
 class PlainScan {
  public:
