@@ -7,7 +7,7 @@ set -Eeuo pipefail
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev pkgconf)
 WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
 # To build and run the tests, and to check format and code:
-TEST_PACKAGES=(ccache libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14)
+TEST_PACKAGES=(ccache libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14)
 TIDY_PACKAGES=(clang-tidy-14)
 # What the clang preset needs on top:
 CLANG_PACKAGES=(clang-14 libclang-rt-14-dev)

@@ -4,6 +4,8 @@
 #include "search/growing_image.h"
 #include "search/search_words.h"
 
+#include <algorithm>
+
 namespace quorvin {
 
 QString hitText(const HitRow& row, HitColumn column, const QLocale& locale) {
@@ -24,26 +26,39 @@ QString hitText(const HitRow& row, HitColumn column, const QLocale& locale) {
   return {};
 }
 
-const HitTable::Hit& HitTable::hit(std::int64_t row) const {
+const FoundEntry& HitTable::hit(std::int64_t row) const {
   return pages_[static_cast<std::size_t>(row / kPageSize)][static_cast<std::size_t>(row % kPageSize)];
 }
 
-HitTable::Hit& HitTable::hit(std::int64_t row) {
+FoundEntry& HitTable::hit(std::int64_t row) {
   return pages_[static_cast<std::size_t>(row / kPageSize)][static_cast<std::size_t>(row % kPageSize)];
+}
+
+const HitTable::ImageRows& HitTable::imageRows(std::int64_t row) const {
+  const auto next = std::upper_bound(images_.begin(), images_.end(), row,
+                                     [](std::int64_t r, const ImageRows& rows) { return r < rows.firstRow; });
+  return *std::prev(next);
+}
+
+std::int64_t HitTable::valueRowOf(std::int64_t row) const {
+  const auto found =
+      std::lower_bound(carried_.begin(), carried_.end(), row,
+                       [](const CarriedRow& carried, std::int64_t r) { return carried.row < r; });
+  return found != carried_.end() && found->row == row ? found->valueRow : row;
 }
 
 HitRow HitTable::row(std::int64_t row) const {
-  const Hit& own = hit(row);
-  const SearchImage& image = *images_[own.image];
+  const FoundEntry& own = hit(row);
+  const ImageRows& rows = imageRows(row);
   HitRow result;
   result.match = own.match;
-  result.kind = own.kind;
-  result.volume = image.volume(own.entry);
-  result.folder = image.folder(own.entry);
-  result.name = image.name(own.entry);
-  if (own.valueRow != kNoRow) {
-    const Hit& source = hit(own.valueRow);
-    const EntryValues values = images_[source.image]->values(source.entry);
+  result.kind = rows.kind;
+  result.volume = rows.image->volume(own.entry);
+  result.folder = rows.image->folder(own.entry);
+  result.name = rows.image->name(own.entry);
+  const std::int64_t valueRow = valueRowOf(row);
+  if (valueRow != kNoRow) {
+    const EntryValues values = imageRows(valueRow).image->values(hit(valueRow).entry);
     result.size = values.size;
     result.date = values.date;
   }
@@ -51,59 +66,75 @@ HitRow HitTable::row(std::int64_t row) const {
 }
 
 SourceKind HitTable::kind(std::int64_t row) const {
-  return hit(row).kind;
+  return imageRows(row).kind;
 }
 
 void HitTable::clear() {
   pages_.clear();
   images_.clear();
+  carried_.clear();
   rowCount_ = 0;
-  imageFirstRow_ = 0;
+  listingBegins_ = true;
   valueRow_ = kNoRow;
 }
 
 void HitTable::beginListing(SourceKind kind) {
   kind_ = kind;
+  listingBegins_ = true;
   valueRow_ = kNoRow;
 }
 
 void HitTable::addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) {
   if (hits.empty()) return;
-  if (images_.empty() || images_.back() != image) {
-    images_.push_back(image);
-    imageFirstRow_ = rowCount_;
-  }
-  const auto imageNumber = static_cast<std::uint32_t>(images_.size() - 1);
-  for (const FoundEntry& found : hits) {
-    if (image->valueState(found.entry) == ValueState::Own) valueRow_ = static_cast<std::uint32_t>(rowCount_);
-    append({imageNumber, found.entry, valueRow_, found.match, kind_});
+  if (listingBegins_ || images_.back().image != image) images_.push_back({rowCount_, image, kind_});
+  listingBegins_ = false;
+  noteValueRows(*image, hits);
+  while (!hits.empty()) {
+    const auto slot = static_cast<std::size_t>(rowCount_ % kPageSize);
+    // Not cleared first: every place is written before it is read.
+    if (slot == 0) pages_.push_back(std::make_unique_for_overwrite<FoundEntry[]>(kPageSize));
+    const std::size_t count = std::min(hits.size(), static_cast<std::size_t>(kPageSize) - slot);
+    std::copy_n(hits.begin(), count, pages_.back().get() + slot);
+    rowCount_ += static_cast<std::int64_t>(count);
+    hits = hits.subspan(count);
   }
 }
 
-void HitTable::append(const Hit& hit) {
-  const auto slot = static_cast<std::size_t>(rowCount_ % kPageSize);
-  if (slot == 0) pages_.push_back(std::make_unique<Hit[]>(kPageSize));
-  pages_.back()[slot] = hit;
-  ++rowCount_;
+/// For hits that are about to become the rows from rowCount_ on.
+void HitTable::noteValueRows(const SearchImage& image, std::span<const FoundEntry> hits) {
+  if (image.arrays().allOwn) {
+    valueRow_ = rowCount_ + static_cast<std::int64_t>(hits.size()) - 1;
+    return;
+  }
+  std::int64_t row = rowCount_;
+  for (const FoundEntry& found : hits) {
+    if (image.valueState(found.entry) == ValueState::Own) {
+      valueRow_ = row;
+    } else {
+      carried_.push_back({row, valueRow_});
+    }
+    ++row;
+  }
 }
 
 void HitTable::endImage(const std::shared_ptr<const SearchImage>& image,
                         const std::shared_ptr<const SearchImage>& kept) {
-  if (images_.empty() || images_.back() != image) return;
+  if (images_.empty() || images_.back().image != image) return;
   if (kept) {
-    images_.back() = kept;
+    images_.back().image = kept;
     return;
   }
-  const auto hits = static_cast<std::size_t>(rowCount_ - imageFirstRow_);
+  const std::int64_t firstRow = images_.back().firstRow;
+  const auto hits = static_cast<std::size_t>(rowCount_ - firstRow);
   // Where most entries are hits the image itself is the smallest way to keep them.
   if (hits > image->entryCount() / 2) return;
   std::vector<std::uint32_t> chosen;
   chosen.reserve(hits);
-  for (std::int64_t row = imageFirstRow_; row < rowCount_; ++row) {
+  for (std::int64_t row = firstRow; row < rowCount_; ++row) {
     chosen.push_back(hit(row).entry);
     hit(row).entry = static_cast<std::uint32_t>(chosen.size() - 1);
   }
-  images_.back() = copyOfEntries(*image, chosen);
+  images_.back().image = copyOfEntries(*image, chosen);
 }
 
 }  // namespace quorvin

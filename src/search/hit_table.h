@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace quorvin {
@@ -34,7 +35,7 @@ struct HitRow {
 /// The text of one column of `row`, as the hit list and the console show it.
 QString hitText(const HitRow& row, HitColumn column, const QLocale& locale);
 
-/// Keeps hits as references into images, 16 bytes each.
+/// Keeps hits as references into images, 8 bytes each.
 class HitTable : public HitReceiver {
  public:
   /// The number of rows so far.
@@ -53,29 +54,37 @@ class HitTable : public HitReceiver {
                 const std::shared_ptr<const SearchImage>& kept) override;
 
  private:
-  struct Hit {
-    std::uint32_t image;
-    std::uint32_t entry;
-    /// The row whose entry gives size and date; kNoRow where no hit of the listing had any.
-    std::uint32_t valueRow;
-    std::int16_t match;
+  /// Rows that stand one after another and belong to one image.
+  struct ImageRows {
+    std::int64_t firstRow;
+    std::shared_ptr<const SearchImage> image;
     SourceKind kind;
   };
-  static constexpr std::uint32_t kNoRow = UINT32_MAX;
+  /// A row whose own entry has no values, and the row whose values it shows (kNoRow for none).
+  struct CarriedRow {
+    std::int64_t row;
+    std::int64_t valueRow;
+  };
+  static constexpr std::int64_t kNoRow = -1;
   /// Hits stand in pages, so that growing never copies them.
   static constexpr std::int64_t kPageSize = 1 << 16;
 
-  const Hit& hit(std::int64_t row) const;
-  Hit& hit(std::int64_t row);
-  void append(const Hit& hit);
+  const FoundEntry& hit(std::int64_t row) const;
+  FoundEntry& hit(std::int64_t row);
+  const ImageRows& imageRows(std::int64_t row) const;
+  std::int64_t valueRowOf(std::int64_t row) const;
+  void noteValueRows(const SearchImage& image, std::span<const FoundEntry> hits);
 
-  std::vector<std::unique_ptr<Hit[]>> pages_;
+  std::vector<std::unique_ptr<FoundEntry[]>> pages_;
   std::int64_t rowCount_ = 0;
-  std::vector<std::shared_ptr<const SearchImage>> images_;
-  /// The first row whose hit is in images_.back().
-  std::int64_t imageFirstRow_ = 0;
+  std::vector<ImageRows> images_;
+  std::vector<CarriedRow> carried_;
   SourceKind kind_ = SourceKind::Online;
-  std::uint32_t valueRow_ = kNoRow;
+  /// No hit of the listing has come yet. The same listing may come again as another kind of source, with the
+  /// same images.
+  bool listingBegins_ = true;
+  /// The last row of the listing that has values of its own.
+  std::int64_t valueRow_ = kNoRow;
 };
 
 }  // namespace quorvin

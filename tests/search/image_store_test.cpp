@@ -241,6 +241,23 @@ TEST_F(ImageStoreTest, OldestImagesGiveWayWhenMemoryIsShort) {
   EXPECT_FALSE(store.find(*imageKeyOf(second, QLocale::c())).empty());
 }
 
+TEST_F(ImageStoreTest, SameListingAsTwoKindsOfSourceKeepsItsKindsApart) {
+  bytes_ = "song\r\n";
+  listing_ = folder_.writeFile(u"one.lst"_qs, bytes_);
+  ImageStore store({cache_, kPlenty});
+  const SearchQuery query(u"song", 50);
+  test::YieldLog yields;
+  std::int64_t searched = 0;
+  for (const SourceKind kind : {SourceKind::Online, SourceKind::Offline, SourceKind::MainDataFile}) {
+    table_.beginListing(kind);
+    scanListingFile(listing_, &store, query, QLocale::c(), searched, table_, yields, outcome_, limits_);
+  }
+  ASSERT_EQ(table_.rowCount(), 3);
+  EXPECT_EQ(table_.kind(0), SourceKind::Online);
+  EXPECT_EQ(table_.kind(1), SourceKind::Offline);
+  EXPECT_EQ(table_.kind(2), SourceKind::MainDataFile);
+}
+
 TEST_F(ImageStoreTest, ForgottenListingIsGoneFromMemoryAndDisk) {
   ImageStore store({cache_, kPlenty});
   scan(store, u"song"_qs);

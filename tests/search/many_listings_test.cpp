@@ -1,6 +1,7 @@
 // Ten million short listings, each searched and held against a judge that shares no code with the search.
 #include "search/quick_scan.h"
 #include "support/instruction_sets.h"
+#include "support/plain_scan.h"
 #include "support/reference_scan.h"
 #include "support/scan_of.h"
 #include "support/small_listings.h"
@@ -125,15 +126,6 @@ TEST_P(ManyListingsOn, GiveTheHitsOfThePlainScan) {
 
 INSTANTIATE_TEST_SUITE_P(Only, ManyListingsOn, test::everyInstructionSet(), test::instructionSetName);
 
-PlainResult plainForm(const test::ReferenceResult& result) {
-  PlainResult plain{{}, result.searched, result.unreadable, result.firstUnreadableLine};
-  for (const test::ReferenceHit& hit : result.hits) {
-    plain.hits.push_back({hit.match, hit.volume.toStdString(), hit.folder.toStdString(),
-                          hit.name.toStdString(), hit.size, hit.date});
-  }
-  return plain;
-}
-
 TEST(PlainScan, AgreesWithTheReference) {
   SmallListings maker(3);
   PlainScan plain(QLocale::c());
@@ -143,7 +135,7 @@ TEST(PlainScan, AgreesWithTheReference) {
     const QString text = QString::fromStdString(maker.searchText());
     const int desired = 1 + static_cast<int>(maker.below(100));
     const PlainResult expected =
-        plainForm(test::referenceScan(QByteArray::fromStdString(listing), text, desired, QLocale::c()));
+        test::plainForm(test::referenceScan(QByteArray::fromStdString(listing), text, desired, QLocale::c()));
     hits += expected.hits.size();
     const PlainResult result = plain.scan(listing, test::plainWords(text.toStdU32String()), desired);
     ASSERT_EQ(test::differenceOf(result, expected), "")
@@ -166,7 +158,7 @@ TEST(QuickScan, AgreesWithTheProgramsOwnScan) {
     const test::ReferenceResult expected =
         test::scanOf(QByteArray::fromStdString(listing), QString::fromStdString(search.text()),
                      search.desiredMatch(), own);
-    ASSERT_EQ(test::differenceOf(quick.scan(listing, search, limits), plainForm(expected)), "")
+    ASSERT_EQ(test::differenceOf(quick.scan(listing, search, limits), test::plainForm(expected)), "")
         << testing::PrintToString(listing);
   }
 }

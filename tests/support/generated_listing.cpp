@@ -9,7 +9,7 @@ namespace quorvin::test {
 namespace {
 
 // Few letters, so that search words meet; the last ones are characters of several bytes and invalid bytes.
-constexpr std::array<const char*, 22> kPieces = {"a",
+constexpr std::array<const char*, 23> kPieces = {"a",
                                                  "b",
                                                  "ab",
                                                  "A",
@@ -28,6 +28,7 @@ constexpr std::array<const char*, 22> kPieces = {"a",
                                                  "\xE2\x82\xAC",
                                                  "\xF0\x90\x90\x80",
                                                  "\xE2\x84\xAA",
+                                                 "\xEF\xBB\xBF",
                                                  "\xE9",
                                                  "\x80",
                                                  "\xC3"};

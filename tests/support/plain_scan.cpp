@@ -102,8 +102,11 @@ std::u32string without(std::u32string text, std::u32string_view mark) {
   return std::u32string(trimmed(text));
 }
 
-QString qtText(std::u32string_view text) {
-  return QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size()));
+QString qtText(std::u32string_view characters) {
+  // Character by character: QString::fromUcs4 would drop a byte order mark at the front.
+  QString text;
+  for (const char32_t c : characters) text += QChar::fromUcs4(c);
+  return text;
 }
 
 /// The folder and the entry in force, in the forms that they are searched and shown in.
@@ -128,6 +131,15 @@ int scoreOf(const std::u32string& folder, std::u32string_view entry,
 }
 
 }  // namespace
+
+PlainResult plainForm(const ReferenceResult& result) {
+  PlainResult plain{{}, result.searched, result.unreadable, result.firstUnreadableLine};
+  for (const ReferenceHit& hit : result.hits) {
+    plain.hits.push_back({hit.match, hit.volume.toStdString(), hit.folder.toStdString(),
+                          hit.name.toStdString(), hit.size, hit.date});
+  }
+  return plain;
+}
 
 std::string differenceOf(const PlainResult& result, const PlainResult& expected) {
   std::ostringstream difference;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/general_date_reader.h"
+#include "support/reference_scan.h"
 
 #include <QLocale>
 
@@ -36,6 +37,9 @@ struct PlainResult {
 
   bool operator==(const PlainResult&) const = default;
 };
+
+/// What the slow reference gives, in this form.
+PlainResult plainForm(const ReferenceResult& result);
 
 /// Names the first thing in which `result` differs from `expected`; empty where nothing does.
 std::string differenceOf(const PlainResult& result, const PlainResult& expected);

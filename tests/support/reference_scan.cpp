@@ -21,7 +21,10 @@ Characters charactersOf(const QString& text) {
 }
 
 QString textOf(const Characters& characters) {
-  return QString::fromUcs4(characters.data(), characters.size());
+  // Character by character: QString::fromUcs4 would drop a byte order mark at the front.
+  QString text;
+  for (const char32_t c : characters) text += QChar::fromUcs4(c);
+  return text;
 }
 
 QString trimmedOfBlanks(QString text) {
