@@ -6,6 +6,7 @@
 #include "support/reference_scan.h"
 #include "support/scan_of.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -22,11 +23,11 @@ struct Input {
   QByteArray listing;
 };
 
-std::optional<Input> inputOf(const char* data, std::size_t size) {
+std::optional<Input> inputOf(const std::uint8_t* data, std::size_t size) {
   if (size < 3) return std::nullopt;
-  const auto first = static_cast<unsigned char>(data[0]);
-  const auto second = static_cast<unsigned char>(data[1]);
-  const QByteArray rest(data + 2, static_cast<qsizetype>(size - 2));
+  const std::uint8_t first = data[0];
+  const std::uint8_t second = data[1];
+  const QByteArray rest(reinterpret_cast<const char*>(data) + 2, static_cast<qsizetype>(size - 2));
   const qsizetype end = rest.indexOf('\n');
   if (end < 0) return std::nullopt;
   return Input{1U + first, 1 + second % 100, second >= 200,
@@ -70,7 +71,7 @@ bool hasTooManyWords(const QString& searchText) {
 }  // namespace
 }  // namespace quorvin
 
-extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quorvin;
   const std::optional<Input> input = inputOf(data, size);
   if (!input || hasTooManyWords(input->searchText)) return 0;

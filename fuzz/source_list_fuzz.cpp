@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
@@ -39,7 +40,7 @@ std::vector<Sign> signsOf(QByteArray file) {
     const bool hasReturn = line.endsWith('\r');
     if (hasReturn) line.chop(1);
     for (const QChar c : decodeSystemText(line)) signs.push_back({c, false});
-    const QString end = QString(hasReturn ? u"\r" : u"") + QString(feed < 0 ? u"" : u"\n");
+    const QString end = QLatin1String(hasReturn ? "\r" : "") + QLatin1String(feed < 0 ? "" : "\n");
     if (!end.isEmpty()) signs.push_back({end, true});
   }
   return signs;
@@ -135,9 +136,9 @@ Reading programReading(const QByteArray& bytes) {
 }  // namespace
 }  // namespace quorvin
 
-extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quorvin;
-  const QByteArray file(data, static_cast<qsizetype>(size));
+  const QByteArray file(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
   const Reading reading = programReading(file);
   const Reading expected = plainReading(file);
   if (reading == expected) return 0;

@@ -1,0 +1,62 @@
+// A listing beyond what 32 bits can count.
+#include "support/listing_lines.h"
+#include "support/scan_of.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvin {
+namespace {
+
+/// 4.1 GB of entries and one last line, made as they are read.
+class HugeListing : public ListingSource {
+ public:
+  static constexpr std::int64_t kSize = 4'100'000'000;
+
+  HugeListing() {
+    while (block_.size() < (1 << 20)) block_ += test::entryLine("Evening on the pier.mp3", "4,194,304");
+    left_ = kSize / block_.size();
+  }
+
+  std::int64_t blocks() const { return kSize / block_.size(); }
+  std::int64_t entriesInBlock() const { return block_.count('\n'); }
+
+  std::size_t read(std::span<char> buffer) override {
+    std::size_t filled = 0;
+    while (filled < buffer.size()) {
+      const QByteArray& from = left_ > 0 ? block_ : last_;
+      const auto count = std::min(buffer.size() - filled, static_cast<std::size_t>(from.size() - position_));
+      std::copy_n(from.constData() + position_, count, buffer.data() + filled);
+      filled += count;
+      position_ += static_cast<qsizetype>(count);
+      if (position_ < from.size()) break;
+      if (left_ == 0) break;
+      --left_;
+      position_ = 0;
+    }
+    return filled;
+  }
+
+ private:
+  QByteArray block_;
+  QByteArray last_ = test::entryLine("Harbour at night.jpg", "1,048,576");
+  std::int64_t left_ = 0;
+  qsizetype position_ = 0;
+};
+
+TEST(HugeListing, OnlyHitInTheLastLineBehindFourGigabytesIsFound) {
+  HugeListing source;
+  const std::int64_t entries = source.blocks() * source.entriesInBlock() + 1;
+  HitTable table;
+  test::YieldLog yields;
+  ScanOutcome outcome;
+  std::int64_t searched = 0;
+  table.beginListing(SourceKind::Online);
+  scanListing(source, SearchQuery(u"harbour", 50), QLocale::c(), searched, table, yields, outcome);
+  EXPECT_EQ(searched, entries);
+  ASSERT_EQ(table.rowCount(), 1);
+  EXPECT_EQ(table.row(0).name, u"Harbour at night.jpg"_qs);
+  EXPECT_EQ(table.row(0).size, 1048576);
+}
+
+}  // namespace
+}  // namespace quorvin
