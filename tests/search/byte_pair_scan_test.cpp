@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <random>
 #include <string>
@@ -79,10 +80,29 @@ TEST_P(BytePairScan, EveryByteValueIsTold) {
 }
 
 TEST_P(BytePairScan, WhatStandsBehindTheTextIsNoMatchOfIt) {
-  const std::string text = std::string(70, 'x') + std::string(kScanPadding, 'a');
-  std::array<std::uint64_t, 2> bits{kOld, kOld};
-  EXPECT_FALSE(scanBytePair(text.data(), 70, {'a', 'a', 0, 1}, bits.data()));
-  EXPECT_EQ(bits, (std::array<std::uint64_t, 2>{0, 0}));
+  for (std::size_t size = 0; size <= 200; ++size) {
+    const std::string text = std::string(size, 'x') + std::string(kScanPadding, 'a');
+    std::vector<std::uint64_t> bits((size + 63) / 64, kOld);
+    ASSERT_FALSE(scanBytePair(text.data(), size, {'a', 'a', 0, 1}, bits.data())) << "size " << size;
+    ASSERT_EQ(bits, std::vector<std::uint64_t>(bits.size())) << "size " << size;
+  }
+}
+
+TEST_P(BytePairScan, PlacesOfOneByteAreTakenAndCounted) {
+  for (std::size_t size = 0; size <= 300; ++size) {
+    const std::string text = someText(size, static_cast<unsigned>(size)) + std::string(kScanPadding, 'b');
+    const std::size_t blocks = (size + 63) / 64;
+    std::vector<std::uint64_t> bits(blocks + 1, kOld);
+    std::vector<std::uint32_t> before(blocks + 1, 0xDEADBEEF);
+    scanByte(text.data(), size, 'b', bits.data(), before.data());
+    ASSERT_EQ(bits.back(), kOld) << "written behind the last word of bits, size " << size;
+    ASSERT_EQ(before.back(), 0xDEADBEEF) << "written behind the last count, size " << size;
+    bits.pop_back();
+    ASSERT_EQ(bits, plainScan(text.data(), size, {'b', 'b', 0, 0})) << "size " << size;
+    for (std::size_t block = 0; block < blocks; ++block) {
+      ASSERT_EQ(before[block], std::count(text.data(), text.data() + block * 64, 'b')) << "size " << size;
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(On, BytePairScan, test::everyInstructionSet(), test::instructionSetName);

@@ -44,6 +44,14 @@ TEST(TrigramFilter, WordThatIsNotThereIsMostlyDenied) {
   EXPECT_GT(denied, 990);
 }
 
+TEST(TrigramFilter, EveryByteOfATrigramCounts) {
+  TrigramSet set{};
+  addTrigrams(set, "abc");
+  EXPECT_FALSE(TrigramProbe("xbc").mayBeIn(set));
+  EXPECT_FALSE(TrigramProbe("axc").mayBeIn(set));
+  EXPECT_FALSE(TrigramProbe("abx").mayBeIn(set));
+}
+
 TEST(TrigramFilter, WordsOfOneOrTwoBytesAreAlwaysPossible) {
   const TrigramSet empty{};
   EXPECT_TRUE(TrigramProbe("a").mayBeIn(empty));
