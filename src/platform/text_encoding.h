@@ -19,7 +19,8 @@ QString decodeSystemText(QByteArrayView line);
 /// as they are.
 bool isUtf8AsItStands(QByteArrayView line);
 
-/// The characters of valid UTF-8. A byte order mark at its front is one of them.
+/// The characters of UTF-8; bytes that are not valid become U+FFFD. A byte order mark at the front is a
+/// character like others.
 QString textOfUtf8(std::string_view utf8);
 
 /// `text` in the system code page, with "?" for each character that it cannot hold (on UTF-8: unpaired

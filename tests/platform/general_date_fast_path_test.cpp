@@ -104,6 +104,9 @@ TEST_P(FastPath, ReadsOtherBytesAsUtf8) {
   EXPECT_EQ(reader_.readAscii("15\xC2\xA0Jan\xE2\x80\xAF"
                               "2004"),
             38001);
+  EXPECT_EQ(reader_.readAscii("\xEF\xBB\xBF"
+                              "15 Jan 2004"),
+            reader_.read(QStringView(u"\uFEFF15 Jan 2004")));
   EXPECT_EQ(reader_.readAscii("15 Jan 2004\xFF"), std::nullopt);
   EXPECT_EQ(reader_.readAscii(std::string_view("15 Jan 2004\0", 12)), std::nullopt);
 }

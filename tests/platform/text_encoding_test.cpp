@@ -82,6 +82,16 @@ TEST(SimpleLowerCase, NeverChangesTheLength) {
   }
 }
 
+TEST(TextOfUtf8, KeepsAByteOrderMark) {
+  EXPECT_EQ(textOfUtf8("\xEF\xBB\xBF\xC3\xA4"), u"\uFEFF\u00E4"_qs);
+  EXPECT_EQ(textOfUtf8("\xEF\xBB\xBF"), u"\uFEFF"_qs);
+  EXPECT_EQ(textOfUtf8(""), u""_qs);
+}
+
+TEST(TextOfUtf8, BytesThatAreNotValidAreReplaced) {
+  EXPECT_EQ(textOfUtf8("a\xFF"), u"a\uFFFD"_qs);
+}
+
 TEST(TrimBlanks, TakesBlanksOffBothEnds) {
   EXPECT_EQ(trimBlanks(u"  a b  "), u"a b");
   EXPECT_EQ(trimBlanks(u"   "), u"");

@@ -49,7 +49,7 @@ class BytePairScan : public test::InstructionSetTest {};
 TEST_P(BytePairScan, EverySizeAndAlignmentAgreesWithAPlainLoop) {
   for (std::size_t size = 0; size <= 200; ++size) {
     const std::string text = someText(size + 64, static_cast<unsigned>(size));
-    for (std::size_t shift = 0; shift < 64; shift += size % 8 == 0 ? 1 : 9) {
+    for (std::size_t shift = 0; shift < 64; shift += size % 8 == 0 ? std::size_t{1} : std::size_t{9}) {
       expectSameScan(text.data() + shift, size, {'a', 'b', 0, 1});
       ASSERT_FALSE(HasFatalFailure()) << "size " << size << ", shift " << shift;
     }

@@ -141,11 +141,12 @@ TEST_P(Words, GeneratedTablesAgreeWithAPlainSearch) {
 }
 
 TEST_P(Words, WordOnOnePageOnlyIsFoundThere) {
-  std::vector<std::string> texts(5000, "common name");
-  texts[1023] = "last of its page: needle";
-  texts[1024] = "needle, first of its page";
-  texts[4999] = "needle";
-  expectRightWords({"needle", "needles", "name"}, texts);
+  for (const std::size_t place : {0U, 1023U, 1024U, 2047U, 2048U, 4999U}) {
+    std::vector<std::string> texts(5000, "common name");
+    texts[place] = "a needle";
+    expectRightWords({"needle", "needles", "name"}, texts);
+    ASSERT_FALSE(HasFatalFailure()) << "text " << place;
+  }
 }
 
 TEST_P(Words, AHundredAndOneWordsAreToldApart) {
