@@ -42,9 +42,9 @@ TEST(ListingLine, EveryOccurrenceOfTheMarkIsRemoved) {
 }
 
 TEST(ListingLine, LineOf69CharactersIsTheEntryTextAsItStands) {
-  const std::string line(66, 'n');
-  const EntryLine parts = splitEntryLine(line + "   ", true);
-  EXPECT_EQ(parts.text, line + "   ");
+  const std::string line = std::string(66, 'n') + "   ";
+  const EntryLine parts = splitEntryLine(line, true);
+  EXPECT_EQ(parts.text, line);
   EXPECT_EQ(parts.tail, "");
 }
 
