@@ -16,6 +16,10 @@ class RecordedMessages : public MessageBoxes {
     inform(text);
     return false;
   }
+  FaultAnswer askAbortRetryIgnore(const QString& text) override {
+    inform(text);
+    return FaultAnswer::Abort;
+  }
 
   /// Throws std::runtime_error with all that has been told so far.
   void throwIfAny() const {

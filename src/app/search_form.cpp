@@ -267,4 +267,9 @@ bool SearchForm::RunMessages::askYesNo(const QString& text) {
   return !form_.endRequested_ && form_.messages_.askYesNo(text);
 }
 
+FaultAnswer SearchForm::RunMessages::askAbortRetryIgnore(const QString& text) {
+  form_.display_.show();
+  return form_.endRequested_ ? FaultAnswer::Abort : form_.messages_.askAbortRetryIgnore(text);
+}
+
 }  // namespace quorvin

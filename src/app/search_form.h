@@ -66,6 +66,7 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
     explicit RunMessages(SearchForm& form) : form_(form) {}
     void inform(const QString& text) override;
     bool askYesNo(const QString& text) override;
+    FaultAnswer askAbortRetryIgnore(const QString& text) override;
 
    private:
     SearchForm& form_;

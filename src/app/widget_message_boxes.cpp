@@ -30,4 +30,17 @@ bool WidgetMessageBoxes::askYesNo(const QString& text) {
   return show(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+FaultAnswer WidgetMessageBoxes::askAbortRetryIgnore(const QString& text) {
+  switch (show(QMessageBox::Warning, text, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore)) {
+    case QMessageBox::Abort:
+      return FaultAnswer::Abort;
+    case QMessageBox::Retry:
+      return FaultAnswer::Retry;
+    case QMessageBox::Ignore:
+      return FaultAnswer::Ignore;
+    default:
+      return FaultAnswer::Closed;
+  }
+}
+
 }  // namespace quorvin

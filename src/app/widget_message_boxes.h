@@ -11,6 +11,7 @@ class WidgetMessageBoxes : public MessageBoxes {
  public:
   void inform(const QString& text) override;
   bool askYesNo(const QString& text) override;
+  FaultAnswer askAbortRetryIgnore(const QString& text) override;
 };
 
 }  // namespace quorvin

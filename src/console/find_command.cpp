@@ -25,6 +25,7 @@ class ErrorLines : public MessageBoxes {
   void inform(const QString& text) override { printError(text); }
   /// Nobody is there to ask.
   bool askYesNo(const QString&) override { return false; }
+  FaultAnswer askAbortRetryIgnore(const QString&) override { return FaultAnswer::Ignore; }
 };
 
 /// The run's view without a window: only the request to stop comes through.

@@ -6,6 +6,9 @@
 
 namespace quorvin {
 
+/// How the user answered a fault in a long piece of work. Closed is any other way out of the box.
+enum class FaultAnswer { Abort, Retry, Ignore, Closed };
+
 /// The message boxes of the program. All carry the application title.
 class MessageBoxes {
  public:
@@ -16,6 +19,9 @@ class MessageBoxes {
 
   /// Shows `text` with a Yes and a No button; true for Yes.
   virtual bool askYesNo(const QString& text) = 0;
+
+  /// Shows `text` with an Abort, a Retry and an Ignore button.
+  virtual FaultAnswer askAbortRetryIgnore(const QString& text) = 0;
 };
 
 }  // namespace quorvin

@@ -57,6 +57,17 @@ TEST(WidgetMessageBoxes, AQuestionIsAnsweredYesOrNo) {
   EXPECT_FALSE(WidgetMessageBoxes().askYesNo(QStringLiteral("Really?")));
 }
 
+TEST(WidgetMessageBoxes, AFaultIsAnsweredAbortRetryOrIgnore) {
+  SeenBox seen;
+  answerWith(QMessageBox::Abort, seen);
+  EXPECT_EQ(WidgetMessageBoxes().askAbortRetryIgnore(QStringLiteral("Broken")), FaultAnswer::Abort);
+  EXPECT_EQ(seen.buttons, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore);
+  answerWith(QMessageBox::Retry, seen);
+  EXPECT_EQ(WidgetMessageBoxes().askAbortRetryIgnore(QStringLiteral("Broken")), FaultAnswer::Retry);
+  answerWith(QMessageBox::Ignore, seen);
+  EXPECT_EQ(WidgetMessageBoxes().askAbortRetryIgnore(QStringLiteral("Broken")), FaultAnswer::Ignore);
+}
+
 }  // namespace
 
 }  // namespace quorvin::test

@@ -23,11 +23,22 @@ class RecordingMessageBoxes : public MessageBoxes {
     return answer;
   }
 
+  /// Records the question and gives the next of `faultAnswers`; Closed when there is none left.
+  FaultAnswer askAbortRetryIgnore(const QString& text) override {
+    askedOfFaults.push_back(text);
+    if (faultAnswers.empty()) return FaultAnswer::Closed;
+    const FaultAnswer answer = faultAnswers.front();
+    faultAnswers.pop_front();
+    return answer;
+  }
+
   /// The texts shown with an OK button, and those of the questions, each in the order shown.
   std::vector<QString> informed;
   std::vector<QString> asked;
+  std::vector<QString> askedOfFaults;
   /// What the coming questions are answered with: true for Yes.
   std::deque<bool> answers;
+  std::deque<FaultAnswer> faultAnswers;
 };
 
 }  // namespace quorvin
