@@ -66,7 +66,7 @@ int runFind(const FindRequest& request) {
   ConsoleView view;
   HitWriter writer(stdout, request.format, request.countOnly, locale);
   std::optional<ImageStore> images;
-  if (request.useCache) images.emplace(ImageStore::defaultOptions());
+  if (request.useCache) images.emplace(ImageStore::defaultOptions(ImageUse::Once));
   SearchRun run(state, view, messages, writer, images ? &*images : nullptr, locale);
   bool failed = false;
   try {

@@ -59,17 +59,29 @@ void HitWriter::beginListing(SourceKind kind) {
 }
 
 void HitWriter::addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) {
+  if (!countOnly_) addLines(*image, hits);
   hitCount_ += static_cast<std::int64_t>(hits.size());
-  if (countOnly_) return;
-  for (const FoundEntry& hit : hits) {
-    if (image->valueState(hit.entry) == ValueState::Own) values_ = image->values(hit.entry);
-    const HitRow row{
-        hit.match,    kind_,       image->volume(hit.entry), image->folder(hit.entry), image->name(hit.entry),
-        values_.size, values_.date};
-    const QByteArray line = hitLine(row, format_, locale_).toLocal8Bit();
-    buffer_.append(line.constData(), static_cast<std::size_t>(line.size()));
-    buffer_ += '\n';
-    if (buffer_.size() >= kBufferSize) flush();
+  if (buffer_.size() >= kBufferSize) flush();
+}
+
+void HitWriter::addLines(const SearchImage& image, std::span<const FoundEntry> hits) {
+  const std::size_t sizeBefore = buffer_.size();
+  const EntryValues valuesBefore = values_;
+  try {
+    for (const FoundEntry& hit : hits) {
+      if (image.valueState(hit.entry) == ValueState::Own) values_ = image.values(hit.entry);
+      const HitRow row{
+          hit.match,    kind_,       image.volume(hit.entry), image.folder(hit.entry), image.name(hit.entry),
+          values_.size, values_.date};
+      const QByteArray line = hitLine(row, format_, locale_).toLocal8Bit();
+      buffer_.append(line.constData(), static_cast<std::size_t>(line.size()));
+      buffer_ += '\n';
+    }
+  } catch (const DamagedImage&) {
+    // The same hits will come again out of the listing itself.
+    buffer_.resize(sizeBefore);
+    values_ = valuesBefore;
+    throw;
   }
 }
 

@@ -38,6 +38,8 @@ class HitWriter : public HitReceiver {
                 const std::shared_ptr<const SearchImage>& kept) override;
 
  private:
+  void addLines(const SearchImage& image, std::span<const FoundEntry> hits);
+
   std::FILE* output_;
   HitFormat format_;
   bool countOnly_;

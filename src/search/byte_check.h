@@ -25,14 +25,28 @@ class ByteCheck {
   /// the check.
   ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums);
 
+  /// The size of the stretch.
+  std::size_t size() const { return bytes_.size(); }
+
+  /// Where `data`, which lies in the stretch, stands in it.
+  std::size_t offsetOf(const void* data) const {
+    return static_cast<std::size_t>(static_cast<const std::byte*>(data) - bytes_.data());
+  }
+
   /// Makes sure of the `size` bytes at `data`, which lie in the stretch. Throws DamagedImage.
   void require(const void* data, std::size_t size) const {
     if (size == 0) return;
-    const auto offset = static_cast<std::size_t>(static_cast<const std::byte*>(data) - bytes_.data());
+    const std::size_t offset = offsetOf(data);
     for (std::size_t block = offset / kBlockSize; block <= (offset + size - 1) / kBlockSize; ++block) {
       if (!good_[block]) checkBlock(block);
     }
   }
+
+  /// Makes sure that `copy` is the content of `block`. Throws DamagedImage.
+  void requireBlock(std::size_t block, std::span<const std::byte> copy) const;
+
+  /// Whether a block has turned out not to be what it was.
+  bool foundDamage() const { return foundDamage_; }
 
  private:
   void checkBlock(std::size_t block) const;
@@ -41,6 +55,7 @@ class ByteCheck {
   std::span<const std::uint64_t> sums_;
   /// What has been looked at; asking does not change what the bytes are.
   mutable std::vector<std::uint8_t> good_;
+  mutable bool foundDamage_ = false;
 };
 
 /// The checksum of `bytes` as ByteCheck wants it.

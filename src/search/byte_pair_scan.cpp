@@ -1,5 +1,7 @@
 #include "search/byte_pair_scan.h"
 
+#include "search/instruction_set.h"
+
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "search/byte_pair_scan.cpp"
 #include <hwy/foreach_target.h>
@@ -57,15 +59,14 @@ HWY_AFTER_NAMESPACE();
 
 namespace quorvin {
 
-HWY_EXPORT(scanBytePair);
-HWY_EXPORT(scanByte);
-
 bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64_t* bits) {
-  return HWY_DYNAMIC_DISPATCH(scanBytePair)(text, size, pair, bits);
+  static constexpr FunctionVersions<decltype(&scanBytePair)> kVersions = QUORVIN_VERSIONS_OF(scanBytePair);
+  return kVersions.chosen()(text, size, pair, bits);
 }
 
 void scanByte(const char* text, std::size_t size, char byte, std::uint64_t* bits, std::uint32_t* before) {
-  HWY_DYNAMIC_DISPATCH(scanByte)(text, size, byte, bits, before);
+  static constexpr FunctionVersions<decltype(&scanByte)> kVersions = QUORVIN_VERSIONS_OF(scanByte);
+  kVersions.chosen()(text, size, byte, bits, before);
 }
 
 namespace {

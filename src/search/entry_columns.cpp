@@ -1,5 +1,7 @@
 #include "search/entry_columns.h"
 
+#include "search/instruction_set.h"
+
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "search/entry_columns.cpp"
 #include <hwy/foreach_target.h>
@@ -44,10 +46,9 @@ HWY_AFTER_NAMESPACE();
 
 namespace quorvin {
 
-HWY_EXPORT(foldColumns);
-
 FoldedColumns foldColumns(const char* in, char* out) {
-  return HWY_DYNAMIC_DISPATCH(foldColumns)(in, out);
+  static constexpr FunctionVersions<decltype(&foldColumns)> kVersions = QUORVIN_VERSIONS_OF(foldColumns);
+  return kVersions.chosen()(in, out);
 }
 
 }  // namespace quorvin

@@ -28,7 +28,7 @@ class HitReceiver {
 
   /// Hits of `image`, in entry order. `image` may still be growing; what it says of these entries is final.
   /// It is shared because a hit stays showable after its listing has been replaced and every other user of
-  /// the image has let go of it.
+  /// the image has let go of it. May throw DamagedImage, and has then taken none of these hits.
   virtual void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) = 0;
 
   /// No more hits of `image` will come. `kept` is an equal image that stays in any case and is to be used

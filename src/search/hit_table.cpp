@@ -48,21 +48,29 @@ std::int64_t HitTable::valueRowOf(std::int64_t row) const {
 }
 
 HitRow HitTable::row(std::int64_t row) const {
-  const FoundEntry& own = hit(row);
-  const ImageRows& rows = imageRows(row);
   HitRow result;
-  result.match = own.match;
-  result.kind = rows.kind;
-  result.volume = rows.image->volume(own.entry);
-  result.folder = rows.image->folder(own.entry);
-  result.name = rows.image->name(own.entry);
-  const std::int64_t valueRow = valueRowOf(row);
-  if (valueRow != kNoRow) {
-    const EntryValues values = imageRows(valueRow).image->values(hit(valueRow).entry);
-    result.size = values.size;
-    result.date = values.date;
+  result.match = hit(row).match;
+  result.kind = imageRows(row).kind;
+  try {
+    readRow(row, result);
+  } catch (const DamagedImage&) {
+    // What can be read of it stays. The next search finds the damage noted and reads the listing again.
+    result.name = QStringLiteral("(damaged in the search cache; press Find again)");
   }
   return result;
+}
+
+void HitTable::readRow(std::int64_t row, HitRow& result) const {
+  const SearchImage& image = *imageRows(row).image;
+  const std::uint32_t entry = hit(row).entry;
+  result.volume = image.volume(entry);
+  result.folder = image.folder(entry);
+  result.name = image.name(entry);
+  const std::int64_t valueRow = valueRowOf(row);
+  if (valueRow == kNoRow) return;
+  const EntryValues values = imageRows(valueRow).image->values(hit(valueRow).entry);
+  result.size = values.size;
+  result.date = values.date;
 }
 
 SourceKind HitTable::kind(std::int64_t row) const {

@@ -41,7 +41,8 @@ class HitTable : public HitReceiver {
   /// The number of rows so far.
   std::int64_t rowCount() const { return rowCount_; }
 
-  /// The content of `row`, 0 <= row < rowCount().
+  /// The content of `row`, 0 <= row < rowCount(). A row that turns out to be damaged in the search cache has
+  /// a name that says so.
   HitRow row(std::int64_t row) const;
   SourceKind kind(std::int64_t row) const;
 
@@ -69,6 +70,7 @@ class HitTable : public HitReceiver {
   /// Hits stand in pages, so that growing never copies them.
   static constexpr std::int64_t kPageSize = 1 << 16;
 
+  void readRow(std::int64_t row, HitRow& result) const;
   const FoundEntry& hit(std::int64_t row) const;
   FoundEntry& hit(std::int64_t row);
   const ImageRows& imageRows(std::int64_t row) const;

@@ -200,14 +200,16 @@ void ImageFileWriter::finish(const ImageKey& key) {
   finished_ = true;
 }
 
-std::vector<std::shared_ptr<const SearchImage>> openImageFile(const QString& path, const ImageKey& key) {
+std::vector<std::shared_ptr<const SearchImage>> openImageFile(const QString& path, const ImageKey& key,
+                                                              ImageUse use) {
   Directory directory;
   if (!readDirectoryOf(path, directory) || directory.key != key) return {};
+  const auto buffers = use == ImageUse::Once ? std::make_shared<PassingBuffers>() : nullptr;
   std::vector<std::shared_ptr<const SearchImage>> images;
   try {
     for (std::size_t i = 0; i < directory.segments.size(); ++i) {
       images.push_back(
-          std::make_shared<MappedImage>(path, directory.segments[i], std::move(directory.sums[i])));
+          std::make_shared<MappedImage>(path, directory.segments[i], std::move(directory.sums[i]), buffers));
     }
   } catch (const RuntimeFault&) {
     return {};

@@ -13,6 +13,10 @@
 
 namespace quorvin {
 
+/// How often images out of a file are going to be searched. For a single time their texts are read piece by
+/// piece; for more they are mapped, so that a later search need not read them again.
+enum class ImageUse { Once, Repeated };
+
 /// What an image file belongs to: a listing as it stood, and the rules by which it was read.
 struct ImageKey {
   QString listing;
@@ -71,7 +75,8 @@ class ImageFileWriter {
 
 /// The images of the file at `path` if it is whole and belongs to `key`; else none. Only its directory is
 /// read now; each stretch of the images is checked when it is first used (DamagedImage). Never throws.
-std::vector<std::shared_ptr<const SearchImage>> openImageFile(const QString& path, const ImageKey& key);
+std::vector<std::shared_ptr<const SearchImage>> openImageFile(const QString& path, const ImageKey& key,
+                                                              ImageUse use);
 
 /// The listing that the image file at `path` belongs to; empty text if it is none.
 QString listingOfImageFile(const QString& path);

@@ -16,7 +16,12 @@ void setBits(std::vector<std::uint64_t>& bits, std::uint32_t from, std::uint32_t
 }  // namespace
 
 ImageSearch::ImageSearch(const SearchQuery& query)
-    : query_(query), fewWords_(query.words().size() <= 8), words_(query) {
+    : query_(query),
+      fewWords_(query.words().size() <= 8),
+      wordDecides_(query.words().size() == 1 && query.emptyWords() < query.fewestForHit()),
+      words_(query),
+      inEntries_(wordDecides_),
+      inFolders_(wordDecides_) {
   if (!fewWords_) return;
   for (std::size_t set = 0; set < counts_.size(); ++set) {
     WordSet seen;
@@ -34,7 +39,11 @@ void ImageSearch::search(const SearchImage& image, std::uint32_t first, std::uin
   searchFolders(image, first, last);
   candidates_ = inEntries_.touched();
   addCandidatesOfFolders(image.arrays(), first, last);
-  score(image.arrays(), first, hits);
+  if (wordDecides_) {
+    takeAllCandidates(first, hits);
+  } else {
+    score(image.arrays(), first, hits);
+  }
 }
 
 void ImageSearch::searchFolders(const SearchImage& image, std::uint32_t first, std::uint32_t last) {
@@ -54,7 +63,7 @@ void ImageSearch::addCandidatesOfFolders(const ImageArrays& arrays, std::uint32_
     for (std::uint64_t left = inFolders_.touched()[i]; left != 0; left &= left - 1) {
       const std::uint32_t block = firstBlock_ + static_cast<std::uint32_t>(i * 64) +
                                   static_cast<std::uint32_t>(std::countr_zero(left));
-      if (countOf(inFolders_.in(block)) < query_.fewestForHit()) continue;
+      if (!wordDecides_ && countOf(inFolders_.in(block)) < query_.fewestForHit()) continue;
       const std::uint32_t end = block + 1 < lastBlock_ ? arrays.blockStarts[block + 1] : last;
       setBits(candidates_, std::max(arrays.blockStarts[block], first) - first, end - first);
     }
@@ -75,6 +84,16 @@ void ImageSearch::score(const ImageArrays& arrays, std::uint32_t first, std::vec
       }
       const int found = countOf(seen);
       if (found >= query_.fewestForHit()) hits.push_back({entry, query_.match(found)});
+    }
+  }
+}
+
+void ImageSearch::takeAllCandidates(std::uint32_t first, std::vector<FoundEntry>& hits) const {
+  const std::int16_t match = query_.match(query_.wordCount());
+  for (std::size_t i = 0; i < candidates_.size(); ++i) {
+    const auto base = first + static_cast<std::uint32_t>(i * 64);
+    for (std::uint64_t left = candidates_[i]; left != 0; left &= left - 1) {
+      hits.push_back({base + static_cast<std::uint32_t>(std::countr_zero(left)), match});
     }
   }
 }

@@ -26,6 +26,7 @@ class ImageSearch {
   void searchFolders(const SearchImage& image, std::uint32_t first, std::uint32_t last);
   void addCandidatesOfFolders(const ImageArrays& arrays, std::uint32_t first, std::uint32_t last);
   void score(const ImageArrays& arrays, std::uint32_t first, std::vector<FoundEntry>& hits) const;
+  void takeAllCandidates(std::uint32_t first, std::vector<FoundEntry>& hits) const;
   /// How many words of the query are found where those of `seen` are, repetitions and empty ones counted.
   int countOf(const WordSet& seen) const {
     return fewWords_ ? counts_[seen.firstEight()] : countOfMany(seen);
@@ -35,6 +36,8 @@ class ImageSearch {
   const SearchQuery& query_;
   /// The query has eight different words at most; then counts_ has the answer for each set of them.
   bool fewWords_;
+  /// There is one different word, and nothing is a hit without it: then every candidate is a hit.
+  bool wordDecides_;
   std::array<int, 256> counts_{};
   WordSearch words_;
   SeenWords inEntries_;

@@ -49,8 +49,8 @@ QStringList imageFiles(const QString& cacheFolder) {
   return paths;
 }
 
-ImageStore::Options ImageStore::defaultOptions() {
-  return {userCacheFolder(), static_cast<std::size_t>(machineMemory() / 4)};
+ImageStore::Options ImageStore::defaultOptions(ImageUse use) {
+  return {userCacheFolder(), static_cast<std::size_t>(machineMemory() / 4), use};
 }
 
 ImageStore::ImageStore(Options options) : options_(std::move(options)) {}
@@ -59,6 +59,12 @@ ImageStore::Images ImageStore::find(const ImageKey& key) {
   const auto known = std::find_if(kept_.begin(), kept_.end(),
                                   [&](const Kept& kept) { return kept.key.listing == key.listing; });
   if (known != kept_.end()) {
+    const bool damaged = std::ranges::any_of(
+        known->images, [](const std::shared_ptr<const SearchImage>& image) { return image->foundDamage(); });
+    if (damaged) {
+      forget(key.listing);
+      return {};
+    }
     if (known->key == key) {
       kept_.splice(kept_.begin(), kept_, known);
       return kept_.front().images;
@@ -66,7 +72,7 @@ ImageStore::Images ImageStore::find(const ImageKey& key) {
     kept_.erase(known);
   }
   if (options_.cacheFolder.isEmpty()) return {};
-  Images images = openImageFile(imageFilePath(options_.cacheFolder, key.listing), key);
+  Images images = openImageFile(imageFilePath(options_.cacheFolder, key.listing), key, options_.use);
   if (!images.empty()) keep({key, images, 0});
   return images;
 }

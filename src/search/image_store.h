@@ -31,10 +31,12 @@ class ImageStore {
     QString cacheFolder;
     /// Bytes that images without a file may take up in memory.
     std::size_t memoryBudget = 0;
+    /// Once where the program ends after one search.
+    ImageUse use = ImageUse::Repeated;
   };
 
   /// The user's cache folder and a quarter of the machine's memory.
-  static Options defaultOptions();
+  static Options defaultOptions(ImageUse use = ImageUse::Repeated);
 
   explicit ImageStore(Options options);
 

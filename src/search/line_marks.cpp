@@ -1,5 +1,7 @@
 #include "search/line_marks.h"
 
+#include "search/instruction_set.h"
+
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "search/line_marks.cpp"
 #include <hwy/foreach_target.h>
@@ -57,10 +59,9 @@ HWY_AFTER_NAMESPACE();
 
 namespace quorvin {
 
-HWY_EXPORT(markLines);
-
 void markLines(const char* text, std::size_t size, std::uint64_t* lineEnds, std::uint64_t* care) {
-  HWY_DYNAMIC_DISPATCH(markLines)(text, size, lineEnds, care);
+  static constexpr FunctionVersions<decltype(&markLines)> kVersions = QUORVIN_VERSIONS_OF(markLines);
+  kVersions.chosen()(text, size, lineEnds, care);
 }
 
 }  // namespace quorvin

@@ -104,6 +104,7 @@ bool searchImages(const ImageStore::Images& images, EntrySearch& search, HitRece
   try {
     for (const auto& image : images) {
       search.search(image, 0, image->entryCount());
+      image->searched();
       hits.endImage(image, image);
     }
   } catch (const DamagedImage&) {

@@ -41,10 +41,12 @@ class ArrayPlacer {
 
 }  // namespace
 
-MappedImage::MappedImage(const QString& path, const SegmentRecord& record, std::vector<std::uint64_t> sums)
+MappedImage::MappedImage(const QString& path, const SegmentRecord& record, std::vector<std::uint64_t> sums,
+                         std::shared_ptr<PassingBuffers> buffers)
     : file_(path, static_cast<std::int64_t>(record.offset), static_cast<std::size_t>(record.size)),
       sums_(std::move(sums)),
-      check_(file_.bytes(), sums_) {
+      check_(file_.bytes(), sums_),
+      buffers_(std::move(buffers)) {
   ArrayPlacer placer(file_.bytes(), record);
   visitArrays(arrays_, placer);
   arrays_.entries.count = static_cast<std::uint32_t>(record.entryCount);
@@ -52,6 +54,18 @@ MappedImage::MappedImage(const QString& path, const SegmentRecord& record, std::
   arrays_.allOwn = record.allOwn != 0;
   arrays_.entries.check = &check_;
   arrays_.folders.check = &check_;
+  if (!buffers_) return;
+  const auto offset = static_cast<std::int64_t>(record.offset);
+  passing_.reset(
+      new Passing{{path, offset, check_, buffers_->entries}, {path, offset, check_, buffers_->folders}});
+  arrays_.entries.passing = &passing_->entries;
+  arrays_.folders.passing = &passing_->folders;
+}
+
+void MappedImage::searched() const {
+  if (!passing_) return;
+  passing_->entries.rest();
+  passing_->folders.rest();
 }
 
 }  // namespace quorvin

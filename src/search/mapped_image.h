@@ -4,20 +4,40 @@
 #include "platform/mapped_file.h"
 #include "search/image_file.h"
 
+#include <memory>
 #include <vector>
 
 namespace quorvin {
 
+/// What images that are searched only once share: their texts pass through it.
+struct PassingBuffers {
+  PassingBuffer entries;
+  PassingBuffer folders;
+};
+
 class MappedImage : public SearchImage {
  public:
   /// `sums` are the checksums of the segment's bytes. Throws RuntimeFault when the file cannot be mapped, and
-  /// DamagedImage when the record does not fit the segment.
-  MappedImage(const QString& path, const SegmentRecord& record, std::vector<std::uint64_t> sums);
+  /// DamagedImage when the record does not fit the segment. `buffers` may be null; else it is shared, since
+  /// nobody knows which of the images of a file lives longest.
+  MappedImage(const QString& path, const SegmentRecord& record, std::vector<std::uint64_t> sums,
+              std::shared_ptr<PassingBuffers> buffers = nullptr);
+
+  void searched() const override;
+  bool foundDamage() const override { return check_.foundDamage(); }
 
  private:
+  struct Passing {
+    PassingBytes entries;
+    PassingBytes folders;
+  };
+
   MappedFile file_;
   std::vector<std::uint64_t> sums_;
   ByteCheck check_;
+  std::shared_ptr<PassingBuffers> buffers_;
+  /// Only where there are buffers.
+  std::unique_ptr<Passing> passing_;
 };
 
 /// Calls `visit(array)` for each array of `arrays`, in the order of the file; `array` is a std::span or a

@@ -60,6 +60,12 @@ class SearchImage {
   SearchImage(const SearchImage&) = delete;
   SearchImage& operator=(const SearchImage&) = delete;
 
+  /// Comes after a search of the whole image: what was held open for that can go.
+  virtual void searched() const {}
+
+  /// Whether some of it has turned out to be damaged, so that it is not to be searched again.
+  virtual bool foundDamage() const { return false; }
+
   std::uint32_t entryCount() const { return arrays_.entries.count; }
   const ImageArrays& arrays() const { return arrays_; }
 

@@ -36,6 +36,15 @@ void raise(std::string& text, const std::uint8_t* upperBits) {
 
 }  // namespace
 
+std::string_view TextTable::toSearch(std::string_view stretch) const {
+  if (passing != nullptr) {
+    const auto copy = passing->take(check->offsetOf(stretch.data()), stretch.size());
+    if (copy) return *copy;
+  }
+  require(stretch.data(), stretch.size());
+  return stretch;
+}
+
 std::string_view TextTable::between(std::size_t beginMark, std::size_t endMark) const {
   require(&marks[beginMark], sizeof(Mark));
   const std::size_t begin = marks[beginMark].text;

@@ -3,6 +3,7 @@
 
 #include "search/byte_check.h"
 #include "search/byte_pair_scan.h"
+#include "search/passing_bytes.h"
 #include "search/trigram_filter.h"
 
 #include <cstdint>
@@ -57,11 +58,17 @@ struct TextTable {
 
   /// Where the arrays come from a file: what is read of them is to be checked first. Else null.
   const ByteCheck* check = nullptr;
+  /// Where `folded` is to be searched once only: the way to read it for that. Else null.
+  PassingBytes* passing = nullptr;
 
   /// Checks the `size` bytes at `data`, which lie in one of the arrays. Throws DamagedImage.
   void require(const void* data, std::size_t size) const {
     if (check != nullptr) check->require(data, size);
   }
+
+  /// `stretch`, a part of `folded`, checked and ready to be searched: itself, or a copy that is valid until
+  /// the next call. kScanPadding readable bytes stand behind it. Throws DamagedImage.
+  std::string_view toSearch(std::string_view stretch) const;
 
   /// The folded texts from the 32-text mark `beginMark` to `endMark` (or the end of the table); not checked.
   std::string_view between(std::size_t beginMark, std::size_t endMark) const;

@@ -7,13 +7,23 @@ namespace quorvin {
 
 namespace {
 
-bool holdsAt(std::string_view text, std::size_t at, std::string_view word) {
-  return word.size() <= text.size() - at && std::memcmp(text.data() + at, word.data(), word.size()) == 0;
+constexpr std::size_t kHeadSize = sizeof(std::uint64_t);
+static_assert(kHeadSize <= kScanPadding);
+
+std::uint64_t headOf(std::string_view word) {
+  std::uint64_t head = 0;
+  std::memcpy(&head, word.data(), std::min(word.size(), kHeadSize));
+  return head;
 }
 
 }  // namespace
 
 void SeenWords::reset(std::uint32_t first, std::uint32_t count) {
+  first_ = first;
+  if (oneWord_) {
+    touched_.assign((count + 63) / 64, 0);
+    return;
+  }
   // Only what was touched is cleared: most stretches hold no word at all.
   for (std::size_t block = 0; block < touched_.size(); ++block) {
     for (std::uint64_t left = touched_[block]; left != 0; left &= left - 1) {
@@ -21,7 +31,6 @@ void SeenWords::reset(std::uint32_t first, std::uint32_t count) {
     }
     touched_[block] = 0;
   }
-  first_ = first;
   if (words_.size() < count) words_.resize(count);
   touched_.resize((count + 63) / 64);
 }
@@ -32,7 +41,9 @@ bool SeenWords::none() const {
 
 WordSearch::WordSearch(const SearchQuery& query) {
   for (const SearchQuery::Word& word : query.words()) {
-    needles_.push_back({word.bytes, rarestPair(word.bytes), TrigramProbe(word.bytes)});
+    const std::string allOnes(word.bytes.size(), static_cast<char>(0xFF));
+    needles_.push_back(
+        {word.bytes, headOf(word.bytes), headOf(allOnes), rarestPair(word.bytes), TrigramProbe(word.bytes)});
   }
 }
 
@@ -43,16 +54,13 @@ void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t
     const std::uint32_t stretchLast = std::min(last, pageEnd);
     const std::uint32_t beginMark = first / kTextsPerMark;
     const std::uint32_t endMark = (stretchLast + kTextsPerMark - 1) / kTextsPerMark;
-    const std::size_t begin = table.marks[beginMark].text;
-    const std::size_t end = endMark < table.marks.size() ? table.marks[endMark].text : table.folded.size();
-    findInPage(table,
-               {table.folded.substr(begin, end - begin), beginMark * kTextsPerMark, first, stretchLast},
+    findInPage(table, {table.between(beginMark, endMark), beginMark * kTextsPerMark, first, stretchLast},
                seen);
     first = stretchLast;
   }
 }
 
-void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen) {
+void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& seen) {
   const TrigramSet* trigrams =
       table.trigrams.empty() ? nullptr : &table.trigrams[stretch.first / kTextsPerPage];
   if (trigrams != nullptr) table.require(trigrams, sizeof(TrigramSet));
@@ -67,21 +75,51 @@ void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, Seen
   for (std::size_t word = 0; word < needles_.size(); ++word) {
     const Needle& needle = needles_[word];
     if (trigrams != nullptr && !needle.probe.mayBeIn(*trigrams)) continue;
-    if (!textChecked) table.require(stretch.text.data(), stretch.text.size());
+    if (!textChecked) stretch.text = table.toSearch(stretch.text);
     textChecked = true;
     if (!scanBytePair(stretch.text.data(), stretch.text.size(), needle.pair, matches_.data())) continue;
     if (!endsKnown) {
       scanByte(stretch.text.data(), stretch.text.size(), kTextEnd, ends_.data(), endsBefore_.data());
     }
     endsKnown = true;
-    seeMatches(stretch, word, seen);
+    if (needle.bytes.size() == 1) {
+      seeManyMatches(stretch, word, seen);
+    } else {
+      seeFewMatches(stretch, word, seen);
+    }
   }
 }
 
-void WordSearch::seeMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const {
-  const std::string_view bytes = needles_[word].bytes;
+/// The head may reach behind the text, where no word is found: it would go on over the end of a text.
+bool WordSearch::Needle::standsAt(std::string_view text, std::size_t at) const {
+  std::uint64_t there = 0;
+  std::memcpy(&there, text.data() + at, kHeadSize);
+  if (((there ^ head) & headMask) != 0) return false;
+  if (bytes.size() <= kHeadSize) return true;
+  return bytes.size() <= text.size() - at && std::memcmp(text.data() + at, bytes.data(), bytes.size()) == 0;
+}
+
+/// The way for words that few texts hold: it takes every match, since a second one in the same text is too
+/// rare to be worth a branch that the processor would often guess wrong.
+void WordSearch::seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const {
+  const Needle& needle = needles_[word];
   const std::size_t blocks = (stretch.text.size() + 63) / 64;
-  // After a text's first match the rest of it is passed over, as far as need be into the next blocks.
+  for (std::size_t block = 0; block < blocks; ++block) {
+    for (std::uint64_t matches = matches_[block]; matches != 0; matches &= matches - 1) {
+      const auto bit = static_cast<std::size_t>(std::countr_zero(matches));
+      if (!needle.standsAt(stretch.text, block * 64 + bit)) continue;
+      const std::uint64_t endsBefore = ends_[block] & ((std::uint64_t{1} << bit) - 1);
+      const std::uint32_t text =
+          stretch.firstText + endsBefore_[block] + static_cast<std::uint32_t>(std::popcount(endsBefore));
+      if (text >= stretch.first && text < stretch.last) seen.see(text, word);
+    }
+  }
+}
+
+/// The way for a single letter, which stands in most texts and often more than once: after a text's first
+/// match the rest of it is passed over, as far as need be into the next blocks.
+void WordSearch::seeManyMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const {
+  const std::size_t blocks = (stretch.text.size() + 63) / 64;
   bool skipping = false;
   for (std::size_t block = 0; block < blocks; ++block) {
     const std::uint64_t ends = ends_[block];
@@ -95,9 +133,6 @@ void WordSearch::seeMatches(const Stretch& stretch, std::size_t word, SeenWords&
     std::uint64_t endsLeft = ends;
     while (matches != 0) {
       const std::uint64_t bit = matches & (~matches + 1);
-      const std::size_t at = block * 64 + static_cast<std::size_t>(std::countr_zero(bit));
-      matches ^= bit;
-      if (bytes.size() > 1 && !holdsAt(stretch.text, at, bytes)) continue;
       for (; (endsLeft & (bit - 1)) != 0; endsLeft &= endsLeft - 1) ++text;
       if (text >= stretch.first && text < stretch.last) seen.see(text, word);
       if (endsLeft == 0) {

@@ -34,12 +34,15 @@ static_assert(kMostWords <= 128);
 /// Which words were seen in which texts of a stretch.
 class SeenWords {
  public:
+  /// With `oneWord` there is but one to be seen: then touched() says it all, and in() must not be asked.
+  explicit SeenWords(bool oneWord) : oneWord_(oneWord) {}
+
   /// Forgets everything and takes texts `first` to `first` + `count` - 1.
   void reset(std::uint32_t first, std::uint32_t count);
 
   void see(std::uint32_t text, std::size_t word) {
     const std::uint32_t i = text - first_;
-    words_[i].add(word);
+    if (!oneWord_) words_[i].add(word);
     touched_[i / 64] |= std::uint64_t{1} << (i % 64);
   }
 
@@ -50,6 +53,7 @@ class SeenWords {
   bool none() const;
 
  private:
+  bool oneWord_;
   std::uint32_t first_ = 0;
   std::vector<WordSet> words_;
   std::vector<std::uint64_t> touched_;
@@ -67,8 +71,14 @@ class WordSearch {
  private:
   struct Needle {
     std::string_view bytes;
+    /// The first eight bytes, and which of them there are.
+    std::uint64_t head;
+    std::uint64_t headMask;
     BytePair pair;
     TrigramProbe probe;
+
+    /// Whether it stands in `text` at `at`; kScanPadding bytes can be read behind the text.
+    bool standsAt(std::string_view text, std::size_t at) const;
   };
   /// Texts of one page, from a marked one on, and the part of the answer that is wanted of them.
   struct Stretch {
@@ -78,8 +88,9 @@ class WordSearch {
     std::uint32_t last;
   };
 
-  void findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen);
-  void seeMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
+  void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen);
+  void seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
+  void seeManyMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
 
   std::vector<Needle> needles_;
   /// For the stretch at hand, a bit for each byte: a word begins here; a text ends here. And how many texts

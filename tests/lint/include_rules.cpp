@@ -82,7 +82,7 @@ IncludeRules IncludeRules::parse(std::string_view text) {
     }
     const std::vector<std::string> words = wordsOf(line.substr(colon + 1));
     if (isWidgets) {
-      rules.widgetFiles_ = words;
+      rules.widgetFiles_.insert(rules.widgetFiles_.end(), words.begin(), words.end());
     } else if (!rules.allowed_.emplace(head[1], words).second) {
       throw std::invalid_argument("line " + std::to_string(number) + " names the folder " + head[1] +
                                   " again");

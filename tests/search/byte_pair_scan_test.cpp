@@ -107,23 +107,46 @@ TEST_P(BytePairScan, PlacesOfOneByteAreTakenAndCounted) {
 
 INSTANTIATE_TEST_SUITE_P(On, BytePairScan, test::everyInstructionSet(), test::instructionSetName);
 
-#if HWY_ARCH_X86
-TEST(InstructionSets, TheOneWithoutVectorsIsAmongThem) {
-  const std::vector<std::int64_t> sets = hwy::SupportedAndGeneratedTargets();
-  EXPECT_NE(sets.back() & (HWY_SCALAR | HWY_EMU128), 0);
+TEST(InstructionSets, TheBaselineCanAlwaysBeRun) {
+  EXPECT_EQ(test::instructionSets().back(), InstructionSet::Baseline);
 }
-#endif
 
-TEST(InstructionSets, OnlyTheAskedOneIsUsed) {
-  std::vector<std::size_t> used;
-  for (const std::int64_t set : hwy::SupportedAndGeneratedTargets()) {
+TEST(InstructionSets, TheBestIsUsedUnlessAnotherIsAskedFor) {
+  const InstructionSet best = test::instructionSets().front();
+  EXPECT_EQ(usedInstructionSet(), best);
+  for (const InstructionSet set : test::instructionSets()) {
     const test::OnlyInstructionSet only(set);
-    const std::string text = someText(64, 1);
-    std::uint64_t bits = 0;
-    scanBytePair(text.data(), 64, {'a', 'b', 0, 1}, &bits);
-    used.push_back(hwy::GetChosenTarget().GetIndex());
+    EXPECT_EQ(usedInstructionSet(), set);
   }
-  for (std::size_t i = 1; i < used.size(); ++i) EXPECT_GT(used[i], used[i - 1]) << "set " << i;
+  EXPECT_EQ(usedInstructionSet(), best);
+}
+
+int oldest() {
+  return 1;
+}
+int newer() {
+  return 2;
+}
+int newest() {
+  return 3;
+}
+
+TEST(InstructionSets, TheVersionForTheUsedOneIsCalled) {
+  const FunctionVersions<int (*)()> versions = {{newest, nullptr, newer, nullptr, oldest}};
+  useInstructionSet(InstructionSet::Avx512);
+  EXPECT_EQ(versions.chosen()(), 3);
+  useInstructionSet(InstructionSet::Sse4);
+  EXPECT_EQ(versions.chosen()(), 2);
+  useInstructionSet(std::nullopt);
+}
+
+TEST(InstructionSets, WhereAVersionIsMissingTheNextLowerOneIsCalled) {
+  const FunctionVersions<int (*)()> versions = {{newest, nullptr, newer, nullptr, oldest}};
+  useInstructionSet(InstructionSet::Avx2);
+  EXPECT_EQ(versions.chosen()(), 2);
+  useInstructionSet(InstructionSet::Ssse3);
+  EXPECT_EQ(versions.chosen()(), 1);
+  useInstructionSet(std::nullopt);
 }
 
 TEST(RarestPair, TakesTheTwoRarestBytes) {

@@ -144,6 +144,71 @@ TEST_F(ImageStoreTest, DamagedByteAnywhereNeverChangesAResult) {
   }
 }
 
+TEST_F(ImageStoreTest, EveryByteOfASmallFileMayBeDamaged) {
+  bytes_ = test::blockHead("V", "\\Music\\") + test::entryLine("Song \xC3\x84", "n/a") +
+           test::entryLine("OTHER 7", "7,000") + test::blockHead("V2", "\\Films\\") +
+           test::entryLine("song 120", "99,999,999,999");
+  folder_.writeFile(u"cd.lst"_qs, bytes_);
+  ImageStore writer({cache_, kPlenty});
+  scan(writer, u"song"_qs);
+  const QString path = cacheFile();
+  const QByteArray whole = folder_.readFile(path.mid(folder_.path().size()));
+  for (const ImageUse use : {ImageUse::Repeated, ImageUse::Once}) {
+    for (qsizetype at = 0; at < whole.size(); ++at) {
+      QByteArray damaged = whole;
+      damaged[at] = static_cast<char>(damaged[at] ^ 0x10);
+      ASSERT_TRUE(QFile::remove(path));
+      folder_.writeFile(path.mid(folder_.path().size()), damaged);
+      ImageStore store({cache_, kPlenty, use});
+      scan(store, u"song"_qs);
+      scan(store, u"other"_qs);
+      expectRight(store);
+      if (HasFailure()) FAIL() << "byte " << at;
+    }
+  }
+}
+
+/// Enough entries for texts to be read piece by piece.
+class ImagesForOneSearch : public ImageStoreTest {
+ protected:
+  ImagesForOneSearch() {
+    bytes_.clear();
+    for (int i = 0; i < 60000; ++i) {
+      if (i % 5000 == 0) bytes_ += test::blockHead("V", "\\Music\\F" + QByteArray::number(i) + "\\");
+      bytes_ += test::entryLine((i % 3 == 0 ? "Song " : "other \xC3\x84 ") + QByteArray::number(i), "1,000");
+    }
+    folder_.writeFile(u"cd.lst"_qs, bytes_);
+    limits_ = ScanLimits();
+    ImageStore writer({cache_, kPlenty});
+    scan(writer, u"song"_qs);
+  }
+};
+
+TEST_F(ImagesForOneSearch, GiveTheSameHits) {
+  ImageStore store({cache_, kPlenty, ImageUse::Once});
+  expectRight(store);
+}
+
+TEST_F(ImagesForOneSearch, DamageIsNoticed) {
+  const QString path = cacheFile();
+  const QByteArray whole = folder_.readFile(path.mid(folder_.path().size()));
+  constexpr auto kStep = static_cast<qsizetype>(ByteCheck::kBlockSize);
+  ASSERT_GT(whole.size(), 20 * kStep);
+  const test::ReferenceResult expected = reference(u"song"_qs);
+  for (qsizetype at = 1000; at < whole.size(); at += kStep) {
+    QByteArray damaged = whole;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0x10);
+    ASSERT_TRUE(QFile::remove(path));
+    folder_.writeFile(path.mid(folder_.path().size()), damaged);
+    ImageStore store({cache_, kPlenty, ImageUse::Once});
+    scan(store, u"song"_qs);
+    // Damage in what is only shown is found out by showing it; the search after that is right.
+    const test::ReferenceResult scanned = scan(store, u"song"_qs);
+    EXPECT_EQ(scanned.searched, 60000) << "byte " << at;
+    EXPECT_EQ(scanned.hits, expected.hits) << "byte " << at;
+  }
+}
+
 TEST_F(ImageStoreTest, CutFileIsMadeAnew) {
   ImageStore writer({cache_, kPlenty});
   scan(writer, u"song"_qs);

@@ -56,7 +56,7 @@ void expectRightWords(const std::vector<std::string>& words, const std::vector<s
   const auto builder = tableOf(texts);
   const SearchQuery query = queryOf(words);
   WordSearch search(query);
-  SeenWords seen;
+  SeenWords seen(false);
   const auto count = static_cast<std::uint32_t>(texts.size());
   expectRightWords(search, seen, query, builder->table(), texts, 0, count);
   builder->completeTrigrams();
@@ -112,7 +112,7 @@ TEST_P(Words, RangesMayBeginAndEndAnywhere) {
   const auto builder = tableOf(texts);
   const SearchQuery query = queryOf({"ab", "c", "abca"});
   WordSearch search(query);
-  SeenWords seen;
+  SeenWords seen(false);
   for (int round = 0; round < 400; ++round) {
     if (round == 200) builder->completeTrigrams();
     const auto first = static_cast<std::uint32_t>(random() % 2600);
@@ -168,7 +168,7 @@ std::vector<std::size_t> wordsIn(const WordSet& set) {
 INSTANTIATE_TEST_SUITE_P(On, Words, test::everyInstructionSet(), test::instructionSetName);
 
 TEST(SeenWords, ForgetEverythingWhenReset) {
-  SeenWords seen;
+  SeenWords seen(false);
   seen.reset(0, 100);
   seen.see(0, 0);
   seen.see(99, 100);
