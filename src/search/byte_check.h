@@ -19,7 +19,7 @@ class DamagedImage : public RuntimeFault {
 /// Checks a stretch of memory block by block, each block when it is first asked for.
 class ByteCheck {
  public:
-  static constexpr std::size_t kBlockSize = std::size_t{1} << 16;
+  static constexpr std::size_t kBlockSize = std::size_t{1} << 14;
 
   /// `sums` are the checksums of `bytes`, block by block; the last block may be shorter. Both must outlive
   /// the check.

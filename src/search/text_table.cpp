@@ -99,7 +99,7 @@ void TextTableBuilder::add(std::string_view listed, bool ascii) {
 void TextTableBuilder::addColumns(const char* line, std::size_t columns, bool trimmed) {
   beginText();
   makeRoom(kFoldWidth + 1);
-  const FoldedColumns folded = foldColumns(line, folded_.data() + foldedSize_);
+  FoldedColumns folded = foldColumns(line, folded_.data() + foldedSize_);
   std::size_t length = columns;
   if (trimmed) {
     const std::uint64_t high = columns > 64 ? folded.textHigh & lowBits(columns - 64) : 0;
@@ -107,12 +107,11 @@ void TextTableBuilder::addColumns(const char* line, std::size_t columns, bool tr
     length = high != 0 ? 128 - static_cast<std::size_t>(std::countl_zero(high))
                        : 64 - static_cast<std::size_t>(std::countl_zero(low));
   }
-  const std::uint64_t upper[2] = {length < 64 ? folded.upperLow & lowBits(length) : folded.upperLow,
-                                  length > 64 ? folded.upperHigh & lowBits(length - 64) : 0};
-  if ((upper[0] | upper[1]) != 0) {
+  folded.upperLow = length < 64 ? folded.upperLow & lowBits(length) : folded.upperLow;
+  folded.upperHigh = length > 64 ? folded.upperHigh & lowBits(length - 64) : 0;
+  if ((folded.upperLow | folded.upperHigh) != 0) {
     hasUpper_.back() |= std::uint64_t{1} << (count_ % 64);
-    const auto* bits = reinterpret_cast<const std::uint8_t*>(upper);
-    upperBits_.insert(upperBits_.end(), bits, bits + (length + 7) / 8);
+    addUpperBits(folded, length);
   }
   endText(length);
 }
@@ -160,25 +159,30 @@ void TextTableBuilder::makeRoom(std::size_t bytes) {
 }
 
 void TextTableBuilder::addAscii(std::string_view listed) {
-  makeRoom(listed.size() + 1);
-  char* out = folded_.data() + foldedSize_;
-  bool anyUpper = false;
-  for (std::size_t i = 0; i < listed.size(); ++i) {
-    const bool upper = listed[i] >= 'A' && listed[i] <= 'Z';
-    anyUpper |= upper;
-    out[i] = static_cast<char>(listed[i] | (upper ? 0x20 : 0));
-  }
-  if (!anyUpper) {
-    endText(listed.size());
-    return;
-  }
-  hasUpper_.back() |= std::uint64_t{1} << (count_ % 64);
+  makeRoom(listed.size() + kFoldWidth + 1);
   const std::size_t bits = upperBits_.size();
-  upperBits_.resize(bits + (listed.size() + 7) / 8);
-  for (std::size_t i = 0; i < listed.size(); ++i) {
-    if (listed[i] != out[i]) upperBits_[bits + i / 8] |= static_cast<std::uint8_t>(1U << (i % 8));
+  bool anyUpper = false;
+  for (std::size_t at = 0; at < listed.size(); at += kFoldWidth) {
+    const std::string_view piece = listed.substr(at, kFoldWidth);
+    char padded[kFoldWidth] = {};
+    std::memcpy(padded, piece.data(), piece.size());
+    const FoldedColumns folded = foldColumns(padded, folded_.data() + foldedSize_ + at);
+    anyUpper |= (folded.upperLow | folded.upperHigh) != 0;
+    // A full piece has a whole number of bytes of bits, so those of the next one follow without a gap.
+    addUpperBits(folded, piece.size());
+  }
+  if (anyUpper) {
+    hasUpper_.back() |= std::uint64_t{1} << (count_ % 64);
+  } else {
+    upperBits_.resize(bits);
   }
   endText(listed.size());
+}
+
+void TextTableBuilder::addUpperBits(const FoldedColumns& folded, std::size_t length) {
+  const std::uint64_t upper[2] = {folded.upperLow, folded.upperHigh};
+  const auto* bits = reinterpret_cast<const std::uint8_t*>(upper);
+  upperBits_.insert(upperBits_.end(), bits, bits + (length + 7) / 8);
 }
 
 void TextTableBuilder::addOther(std::string_view listed) {

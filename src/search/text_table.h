@@ -3,6 +3,7 @@
 
 #include "search/byte_check.h"
 #include "search/byte_pair_scan.h"
+#include "search/entry_columns.h"
 #include "search/passing_bytes.h"
 #include "search/trigram_filter.h"
 
@@ -108,6 +109,7 @@ class TextTableBuilder {
   void endText(std::size_t length);
   void makeRoom(std::size_t bytes);
   void addAscii(std::string_view listed);
+  void addUpperBits(const FoldedColumns& folded, std::size_t length);
   void addOther(std::string_view listed);
 
   std::uint32_t count_ = 0;

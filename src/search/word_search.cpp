@@ -1,22 +1,10 @@
 #include "search/word_search.h"
 
+#include "search/word_matches.h"
+
 #include <algorithm>
-#include <cstring>
 
 namespace quorvin {
-
-namespace {
-
-constexpr std::size_t kHeadSize = sizeof(std::uint64_t);
-static_assert(kHeadSize <= kScanPadding);
-
-std::uint64_t headOf(std::string_view word) {
-  std::uint64_t head = 0;
-  std::memcpy(&head, word.data(), std::min(word.size(), kHeadSize));
-  return head;
-}
-
-}  // namespace
 
 void SeenWords::reset(std::uint32_t first, std::uint32_t count) {
   first_ = first;
@@ -41,9 +29,7 @@ bool SeenWords::none() const {
 
 WordSearch::WordSearch(const SearchQuery& query) {
   for (const SearchQuery::Word& word : query.words()) {
-    const std::string allOnes(word.bytes.size(), static_cast<char>(0xFF));
-    needles_.push_back(
-        {word.bytes, headOf(word.bytes), headOf(allOnes), rarestPair(word.bytes), TrigramProbe(word.bytes)});
+    needles_.push_back({word.bytes, rarestPair(word.bytes), TrigramProbe(word.bytes)});
   }
 }
 
@@ -90,29 +76,16 @@ void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& 
   }
 }
 
-/// The head may reach behind the text, where no word is found: it would go on over the end of a text.
-bool WordSearch::Needle::standsAt(std::string_view text, std::size_t at) const {
-  std::uint64_t there = 0;
-  std::memcpy(&there, text.data() + at, kHeadSize);
-  if (((there ^ head) & headMask) != 0) return false;
-  if (bytes.size() <= kHeadSize) return true;
-  return bytes.size() <= text.size() - at && std::memcmp(text.data() + at, bytes.data(), bytes.size()) == 0;
-}
-
 /// The way for words that few texts hold: it takes every match, since a second one in the same text is too
 /// rare to be worth a branch that the processor would often guess wrong.
-void WordSearch::seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const {
-  const Needle& needle = needles_[word];
-  const std::size_t blocks = (stretch.text.size() + 63) / 64;
-  for (std::size_t block = 0; block < blocks; ++block) {
-    for (std::uint64_t matches = matches_[block]; matches != 0; matches &= matches - 1) {
-      const auto bit = static_cast<std::size_t>(std::countr_zero(matches));
-      if (!needle.standsAt(stretch.text, block * 64 + bit)) continue;
-      const std::uint64_t endsBefore = ends_[block] & ((std::uint64_t{1} << bit) - 1);
-      const std::uint32_t text =
-          stretch.firstText + endsBefore_[block] + static_cast<std::uint32_t>(std::popcount(endsBefore));
-      if (text >= stretch.first && text < stretch.last) seen.see(text, word);
-    }
+void WordSearch::seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) {
+  if (numbers_.size() <= stretch.text.size()) numbers_.resize(stretch.text.size() + 1);
+  const std::size_t count =
+      textsWithWord(stretch.text, needles_[word].bytes, {matches_.data(), ends_.data(), endsBefore_.data()},
+                    numbers_.data());
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::uint32_t text = stretch.firstText + numbers_[i];
+    if (text >= stretch.first && text < stretch.last) seen.see(text, word);
   }
 }
 

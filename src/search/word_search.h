@@ -71,14 +71,8 @@ class WordSearch {
  private:
   struct Needle {
     std::string_view bytes;
-    /// The first eight bytes, and which of them there are.
-    std::uint64_t head;
-    std::uint64_t headMask;
     BytePair pair;
     TrigramProbe probe;
-
-    /// Whether it stands in `text` at `at`; kScanPadding bytes can be read behind the text.
-    bool standsAt(std::string_view text, std::size_t at) const;
   };
   /// Texts of one page, from a marked one on, and the part of the answer that is wanted of them.
   struct Stretch {
@@ -89,7 +83,7 @@ class WordSearch {
   };
 
   void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen);
-  void seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
+  void seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen);
   void seeManyMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
 
   std::vector<Needle> needles_;
@@ -98,6 +92,8 @@ class WordSearch {
   std::vector<std::uint64_t> matches_;
   std::vector<std::uint64_t> ends_;
   std::vector<std::uint32_t> endsBefore_;
+  /// Texts that hold the word at hand, as numbers from the stretch's first.
+  std::vector<std::uint32_t> numbers_;
 };
 
 }  // namespace quorvin

@@ -16,7 +16,8 @@ namespace {
 constexpr std::size_t kBlock = ByteCheck::kBlockSize;
 /// Where the stretch begins in its file.
 constexpr std::size_t kOffset = 1000;
-constexpr std::size_t kSize = 20 * kBlock + 77;
+constexpr std::size_t kSize = 80 * kBlock + 77;
+constexpr std::size_t kLongest = PassingBytes::kLongestPiece;
 
 class PassingBytesTest : public ::testing::Test {
  protected:
@@ -78,7 +79,7 @@ TEST_F(PassingBytesTest, SinglePiecesDoNotPass) {
 
 TEST_F(PassingBytesTest, AllPiecesOfAllSizesAreRight) {
   for (const std::size_t piece :
-       {std::size_t{1000}, std::size_t{20000}, kBlock - 1, kBlock, kBlock + 1, 2 * kBlock}) {
+       {std::size_t{1000}, std::size_t{20000}, kBlock - 1, kBlock, kBlock + 1, kLongest}) {
     PassingBytes passing = stretch();
     EXPECT_EQ(takeAll(passing, piece), kSize - 3 * piece) << "pieces of " << piece;
   }
@@ -86,8 +87,8 @@ TEST_F(PassingBytesTest, AllPiecesOfAllSizesAreRight) {
 
 TEST_F(PassingBytesTest, TooLongAPieceDoesNotPass) {
   PassingBytes passing = stretch();
-  for (std::size_t at = 0; at + 2 * kBlock < kSize; at += 2 * kBlock) {
-    EXPECT_FALSE(passing.take(at, 2 * kBlock + 1)) << "at " << at;
+  for (std::size_t at = 0; at + kLongest < kSize; at += kLongest) {
+    EXPECT_FALSE(passing.take(at, kLongest + 1)) << "at " << at;
   }
 }
 
