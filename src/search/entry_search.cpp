@@ -32,7 +32,7 @@ void EntrySearch::search(const std::shared_ptr<const SearchImage>& image, std::u
 }
 
 void EntrySearch::report(const std::shared_ptr<const SearchImage>& image) {
-  if (image->arrays().unreadable.empty()) {
+  if (image->arrays().unreadable.empty() || image->allOwn(found_.front().entry, found_.back().entry)) {
     receiver_.addHits(image, found_);
     return;
   }

@@ -25,12 +25,17 @@ void GrowingImage::beginBlock(std::string_view volume, std::string_view folder, 
 }
 
 void GrowingImage::addEntry(std::string_view name, bool ascii) {
+  makeRoomForValues();
   entries_.add(name, ascii);
-  values_.push_back({0, CompactValues::kAbsent});
 }
 
 void GrowingImage::addEntryColumns(const char* line, std::size_t columns, bool trimmed) {
+  makeRoomForValues();
   entries_.addColumns(line, columns, trimmed);
+}
+
+void GrowingImage::makeRoomForValues() {
+  if (entries_.count() % 64 == 0) notOwn_.push_back(0);
   values_.push_back({0, CompactValues::kAbsent});
 }
 
@@ -38,7 +43,10 @@ void GrowingImage::setValues(std::uint32_t entry, ValueState state, const EntryV
                              std::int64_t line) {
   const CompactValues compacted = compact(state, values);
   values_[entry] = compacted;
-  allOwn_ = allOwn_ && state == ValueState::Own;
+  if (state != ValueState::Own) {
+    allOwn_ = false;
+    notOwn_[entry / 64] |= std::uint64_t{1} << (entry % 64);
+  }
   if (compacted.second == CompactValues::kKeptAside)
     wideValues_.push_back({entry, 0, values.size, values.date});
   if (compacted.second == CompactValues::kUnreadable) unreadable_.push_back({line, entry, 0});
@@ -52,6 +60,7 @@ void GrowingImage::publish() {
   arrays_.volumeTexts = volumeTexts_;
   arrays_.values = values_;
   arrays_.allOwn = allOwn_;
+  arrays_.notOwn = notOwn_;
   arrays_.wideValues = wideValues_;
   arrays_.unreadable = unreadable_;
 }
@@ -70,6 +79,7 @@ void GrowingImage::clear() {
   volumeTexts_.clear();
   values_.clear();
   allOwn_ = true;
+  notOwn_.clear();
   wideValues_.clear();
   unreadable_.clear();
   publish();
@@ -79,6 +89,7 @@ std::size_t GrowingImage::memorySize() const {
   return entries_.memorySize() + folders_.memorySize() + volumeTexts_.capacity() +
          blockStarts_.capacity() * sizeof(std::uint32_t) +
          volumes_.capacity() * sizeof(ImageArrays::VolumeRun) + values_.capacity() * sizeof(CompactValues) +
+         notOwn_.capacity() * sizeof(std::uint64_t) +
          wideValues_.capacity() * sizeof(ImageArrays::WideValues) +
          unreadable_.capacity() * sizeof(ImageArrays::UnreadableEntry);
 }

@@ -39,6 +39,8 @@ class GrowingImage : public SearchImage {
   std::size_t memorySize() const;
 
  private:
+  void makeRoomForValues();
+
   TextTableBuilder entries_;
   TextTableBuilder folders_;
   std::vector<std::uint32_t> blockStarts_;
@@ -47,6 +49,7 @@ class GrowingImage : public SearchImage {
   std::vector<CompactValues> values_;
   /// No value that was set so far is missing or unreadable.
   bool allOwn_ = true;
+  std::vector<std::uint64_t> notOwn_;
   std::vector<ImageArrays::WideValues> wideValues_;
   std::vector<ImageArrays::UnreadableEntry> unreadable_;
 };

@@ -80,10 +80,12 @@ QString fileOfEntry(const QString& folder, const QString& entryText, PathStyle s
   // The look-up would take part of such a text for the folder, and what it finds is not in this one.
   if (any(isSeparator) || !folder.endsWith(style.separator)) return {};
 
-  const QString found = fileThatBeginsWith(folder, entryText, lookUp);
+  QString found = fileThatBeginsWith(folder, entryText, lookUp);
   const QString name = withoutSizeDigits(entryText);
-  if (!found.isEmpty() || name == entryText) return found;
-  return fileThatBeginsWith(folder, name, lookUp);
+  if (found.isEmpty() && name != entryText) found = fileThatBeginsWith(folder, name, lookUp);
+  if (found.isEmpty()) return {};
+  // A name whose bytes are no text comes back changed and leads nowhere.
+  return lookUp(folder + found) == found ? found : QString();
 }
 
 }  // namespace quorvin

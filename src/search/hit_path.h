@@ -42,7 +42,8 @@ std::optional<QString> folderOfHit(const ProgramState& state, const HitRow& hit,
 /// exactly that name comes first, then the first one found that begins with it, since a listing cuts names at
 /// 65 characters. An entry text beyond these carries the first digit of a very large size; when it finds
 /// nothing, the look-up is made once more without it. An entry text that would lead out of the folder finds
-/// nothing. Throws fault 52 when it holds what no name can hold.
+/// nothing, and so does one whose file has a name that no text can hold. Throws fault 52 when it holds what
+/// no name can hold.
 QString fileOfEntry(const QString& folder, const QString& entryText, PathStyle style,
                     const FileLookUp& lookUp);
 

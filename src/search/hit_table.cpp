@@ -78,7 +78,7 @@ SourceKind HitTable::kind(std::int64_t row) const {
 }
 
 void HitTable::clear() {
-  pages_.clear();
+  pages_.resize(std::min(pages_.size(), kPagesKept));
   images_.clear();
   carried_.clear();
   rowCount_ = 0;
@@ -100,9 +100,11 @@ void HitTable::addHits(const std::shared_ptr<const SearchImage>& image, std::spa
   while (!hits.empty()) {
     const auto slot = static_cast<std::size_t>(rowCount_ % kPageSize);
     // Not cleared first: every place is written before it is read.
-    if (slot == 0) pages_.push_back(std::make_unique_for_overwrite<FoundEntry[]>(kPageSize));
+    if (rowCount_ / kPageSize == static_cast<std::int64_t>(pages_.size())) {
+      pages_.push_back(std::make_unique_for_overwrite<FoundEntry[]>(kPageSize));
+    }
     const std::size_t count = std::min(hits.size(), static_cast<std::size_t>(kPageSize) - slot);
-    std::copy_n(hits.begin(), count, pages_.back().get() + slot);
+    std::copy_n(hits.begin(), count, pages_[static_cast<std::size_t>(rowCount_ / kPageSize)].get() + slot);
     rowCount_ += static_cast<std::int64_t>(count);
     hits = hits.subspan(count);
   }
@@ -110,7 +112,7 @@ void HitTable::addHits(const std::shared_ptr<const SearchImage>& image, std::spa
 
 /// For hits that are about to become the rows from rowCount_ on.
 void HitTable::noteValueRows(const SearchImage& image, std::span<const FoundEntry> hits) {
-  if (image.arrays().allOwn) {
+  if (image.allOwn(hits.front().entry, hits.back().entry)) {
     valueRow_ = rowCount_ + static_cast<std::int64_t>(hits.size()) - 1;
     return;
   }

@@ -69,6 +69,8 @@ class HitTable : public HitReceiver {
   static constexpr std::int64_t kNoRow = -1;
   /// Hits stand in pages, so that growing never copies them.
   static constexpr std::int64_t kPageSize = 1 << 16;
+  /// This many (16 MB) stay for the next run: new memory costs more than what is written to it.
+  static constexpr std::size_t kPagesKept = 32;
 
   void readRow(std::int64_t row, HitRow& result) const;
   const FoundEntry& hit(std::int64_t row) const;

@@ -17,7 +17,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '3'};
+constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '4'};
 /// Arrays begin at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 

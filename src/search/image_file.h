@@ -29,7 +29,7 @@ struct ImageKey {
 
 /// One segment of an image file: where its bytes stand and where each array stands in them.
 struct SegmentRecord {
-  static constexpr std::size_t kArrayCount = 20;
+  static constexpr std::size_t kArrayCount = 21;
   struct ArrayPlace {
     /// Bytes from the segment's begin; number of elements.
     std::uint64_t offset;

@@ -57,6 +57,7 @@ void visitArrays(ImageArrays& arrays, Visit&& visit) {
   visit(arrays.volumes);
   visit(arrays.volumeTexts);
   visit(arrays.values);
+  visit(arrays.notOwn);
   visit(arrays.wideValues);
   visit(arrays.unreadable);
 }

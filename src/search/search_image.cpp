@@ -49,7 +49,7 @@ QString SearchImage::name(std::uint32_t entry) const {
 }
 
 ValueState SearchImage::valueState(std::uint32_t entry) const {
-  if (arrays_.allOwn) return ValueState::Own;
+  if (allOwn(entry, entry)) return ValueState::Own;
   require(&arrays_.values[entry], sizeof(CompactValues));
   switch (arrays_.values[entry].second) {
     case CompactValues::kAbsent:
@@ -59,6 +59,18 @@ ValueState SearchImage::valueState(std::uint32_t entry) const {
     default:
       return ValueState::Own;
   }
+}
+
+bool SearchImage::allOwn(std::uint32_t first, std::uint32_t last) const {
+  if (arrays_.allOwn) return true;
+  const std::span<const std::uint64_t> words = arrays_.notOwn.subspan(first / 64, last / 64 - first / 64 + 1);
+  require(words.data(), words.size_bytes());
+  const std::uint64_t firstBits = ~std::uint64_t{0} << (first % 64);
+  const std::uint64_t lastBits = ~std::uint64_t{0} >> (63 - last % 64);
+  if (words.size() == 1) return (words.front() & firstBits & lastBits) == 0;
+  const auto inside = words.subspan(1, words.size() - 2);
+  return (words.front() & firstBits) == 0 && (words.back() & lastBits) == 0 &&
+         std::ranges::all_of(inside, [](std::uint64_t word) { return word == 0; });
 }
 
 EntryValues SearchImage::values(std::uint32_t entry) const {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <vector>
 
 namespace quorvin::test {
@@ -168,7 +169,8 @@ TEST_F(FileOfEntry, TheWholeNameComesBeforeALongerOne) {
 TEST_F(FileOfEntry, WithoutTheWholeNameTheFirstThatBeginsWithItIsTaken) {
   names_ = {QStringLiteral("other"), QStringLiteral("song.mp3.part"), QStringLiteral("song.mp3.txt")};
   EXPECT_EQ(find(QStringLiteral("song.mp3")), QStringLiteral("song.mp3.part"));
-  EXPECT_EQ(asked_, (std::vector{QStringLiteral("/m/song.mp3"), QStringLiteral("/m/song.mp3*")}));
+  EXPECT_EQ(asked_, (std::vector{QStringLiteral("/m/song.mp3"), QStringLiteral("/m/song.mp3*"),
+                                 QStringLiteral("/m/song.mp3.part")}));
 }
 
 TEST_F(FileOfEntry, IsEmptyWhenNothingFits) {
@@ -278,6 +280,15 @@ TEST(HitPathOnDisk, FoldersAndHiddenFilesAreNoFiles) {
   EXPECT_EQ(find(u"sub"), QString());
   EXPECT_EQ(find(u".hidden"), QString());
   EXPECT_EQ(find(u".."), QString());
+}
+
+TEST(HitPathOnDisk, ANameThatNoTextCanHoldLeadsToNoOtherFile) {
+  const TemporaryFolder folder;
+  std::ofstream((folder.path().toStdString() + "caf\xE9.mp3")) << 'x';
+  const auto find = [&] {
+    return fileOfEntry(folder.path(), QStringLiteral("caf?.mp3"), nativePathStyle(), findOrdinaryFile);
+  };
+  EXPECT_EQ(find(), QString());
 }
 
 TEST(HitPathOnDisk, AFolderThatIsGoneHoldsNothing) {

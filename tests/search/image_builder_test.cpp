@@ -85,12 +85,12 @@ TEST_F(ImageBuilderTest, OnlyTheAskedValuesAreRead) {
   builder_.readValues(1);
   builder_.readValues(2);
   builder_.image()->publish();
-  EXPECT_EQ(image().valueState(0), ValueState::Absent);
+  EXPECT_EQ(image().arrays().values[0].second, CompactValues::kAbsent);
   EXPECT_EQ(image().valueState(1), ValueState::Unreadable);
   EXPECT_EQ(image().unreadableLine(1), 2);
   EXPECT_EQ(image().valueState(2), ValueState::Own);
   EXPECT_EQ(image().values(2).size, 3);
-  EXPECT_EQ(image().valueState(3), ValueState::Absent);
+  EXPECT_EQ(image().arrays().values[3].second, CompactValues::kAbsent);
 }
 
 TEST_F(ImageBuilderTest, ReadingAgainChangesNothing) {
@@ -133,6 +133,24 @@ TEST_F(ImageBuilderTest, UnreadableTailIsCarriedWithEachLinesOwnNumber) {
   builder_.image()->publish();
   EXPECT_EQ(image().valueState(1), ValueState::Unreadable);
   EXPECT_EQ(image().unreadableLine(1), 3);
+}
+
+TEST_F(ImageBuilderTest, StretchesKnowWhetherAllHaveValuesOfTheirOwn) {
+  QByteArray listing;
+  for (int i = 0; i < 300; ++i) listing += test::entryLine("a", i == 5 || i == 200 ? "n/a" : "1");
+  add(listing);
+  builder_.readAllValues();
+  builder_.image()->publish();
+  EXPECT_TRUE(image().allOwn(0, 4));
+  EXPECT_FALSE(image().allOwn(0, 5));
+  EXPECT_FALSE(image().allOwn(5, 5));
+  EXPECT_TRUE(image().allOwn(6, 199));
+  EXPECT_FALSE(image().allOwn(6, 200));
+  EXPECT_FALSE(image().allOwn(64, 299));
+  EXPECT_FALSE(image().allOwn(192, 255));
+  EXPECT_TRUE(image().allOwn(201, 299));
+  EXPECT_TRUE(image().allOwn(299, 299));
+  EXPECT_FALSE(image().allOwn(0, 299));
 }
 
 TEST_F(ImageBuilderTest, ShortTailTakesTheCarriedValuesAway) {
