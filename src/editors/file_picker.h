@@ -1,0 +1,56 @@
+// Asking the user for a file or a folder, without knowing how: the program shows dialogs, a test answers.
+#pragma once
+
+#include "platform/path_style.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace quorvin {
+
+/// What a picker starts with.
+struct FileQuestion {
+  /// The prefilled file name; it need not exist.
+  QString fileName;
+  /// Where to start; may be any text.
+  QString initialFolder;
+  /// What a typed name without an extension is completed with, for example ".txt".
+  QString defaultExtension;
+};
+
+/// The system's dialogs to pick a file or a folder.
+class FilePicker {
+ public:
+  virtual ~FilePicker() = default;
+
+  /// The whole native path of the file that the user has picked, which need not exist; nothing when he has
+  /// cancelled.
+  virtual std::optional<QString> openFile(const FileQuestion& question) = 0;
+
+  /// The native path of the folder that the user has picked; nothing when he has cancelled. Of the question
+  /// only the folder to start in is used.
+  virtual std::optional<QString> pickFolder(const FileQuestion& question) = 0;
+};
+
+/// A picked file. `FileTitle` is the last component of the whole path `FileName`; it is never empty.
+struct PickedFile {
+  QString FileName;
+  QString FileTitle;
+};
+
+/// Lets the user pick a file. A picker that fails counts as cancelled.
+std::optional<PickedFile> askForFile(FilePicker& picker, const FileQuestion& question, PathStyle style);
+
+/// Lets the user pick a folder; the answer is as if he had confirmed the prefilled file name in it. A picker
+/// that fails counts as cancelled.
+std::optional<PickedFile> askForFolder(FilePicker& picker, const FileQuestion& question, PathStyle style);
+
+/// The part of `FileName` before the first occurrence of `FileTitle`: the folder with its trailing separator,
+/// unless a folder further up holds the title in its name.
+QString folderOf(const PickedFile& picked);
+
+/// `path` with `extension` at its end when its last component holds no ".".
+QString withDefaultExtension(const QString& path, const QString& extension, PathStyle style);
+
+}  // namespace quorvin

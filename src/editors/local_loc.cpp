@@ -1,0 +1,129 @@
+#include "editors/local_loc.h"
+
+#include "editors/local_loc_layout.h"
+
+#include <QKeySequence>
+#include <QScopeGuard>
+#include <QScreen>
+#include <QShortcut>
+
+namespace quorvin {
+
+LocalLoc::LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget* owner)
+    : QDialog(owner), editing_(editing), LocMode_(LocMode), controls_(makeLocalLocControls(this)) {
+  setObjectName(QStringLiteral("LocalLoc"));
+  setWindowTitle(QStringLiteral("Local File Search Locations"));
+  controls_.Online->setModel(&entries_);
+  laidOutFor_ = placeLocalLocControls(controls_);
+  takeInitialSize();
+  connectControls();
+  Form_Load();
+}
+
+void LocalLoc::Form_Load() {
+  entries_.fill(entriesOf(editing_.state.OnlineSources, editing_.state.OnlineSourceCount));
+  controls_.Desc->setFocus();
+  controls_.Desc->selectAll();
+}
+
+void LocalLoc::takeInitialSize() {
+  setMinimumSize(laidOutFor_);
+  const QSize wanted = initialLocalLocSize(controls_, laidOutFor_);
+  resize(wanted.boundedTo(screen()->availableGeometry().size()).expandedTo(laidOutFor_));
+}
+
+void LocalLoc::connectControls() {
+  connect(controls_.LocAdd, &QPushButton::clicked, this, &LocalLoc::LocAdd_Click);
+  connect(controls_.LocDel, &QPushButton::clicked, this, &LocalLoc::LocDel_Click);
+  connect(controls_.MvUp, &QPushButton::clicked, this, &LocalLoc::MvUp_Click);
+  connect(controls_.MvDn, &QPushButton::clicked, this, &LocalLoc::MvDn_Click);
+  connect(controls_.GetListName, &QPushButton::clicked, this, &LocalLoc::GetListName_Click);
+  connect(controls_.OK, &QPushButton::clicked, this, &LocalLoc::OK_Click);
+  connect(controls_.SaveOffLine, &QPushButton::clicked, this, &LocalLoc::SaveOffLine_Click);
+  connect(controls_.Cancel, &QPushButton::clicked, this, &LocalLoc::reject);
+
+  connect(controls_.Online, &SourceListView::deletePressed, this, &LocalLoc::LocDel_Click);
+  auto* up = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this);
+  connect(up, &QShortcut::activated, this, &LocalLoc::MvUp_Click);
+  auto* down = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Down), this);
+  connect(down, &QShortcut::activated, this, &LocalLoc::MvDn_Click);
+}
+
+void LocalLoc::LocAdd_Click() {
+  const SourceEntry entry{controls_.Desc->text(), controls_.LocalDataFolder->text()};
+  if (const std::optional<QString> refusal = whyNotAdded(entry)) {
+    editing_.messages.inform(*refusal);
+    return;
+  }
+  entries_.append(entry);
+  controls_.Online->scrollToBottom();
+}
+
+void LocalLoc::LocDel_Click() {
+  select(entries_.deleteEntry(controls_.Online->selectedRow()));
+}
+
+void LocalLoc::MvUp_Click() {
+  select(entries_.moveUp(controls_.Online->selectedRow()));
+}
+
+void LocalLoc::MvDn_Click() {
+  select(entries_.moveDown(controls_.Online->selectedRow()));
+}
+
+void LocalLoc::select(std::optional<int> row) {
+  if (row) controls_.Online->selectRow(*row);
+}
+
+void LocalLoc::GetListName_Click() {
+  const FileQuestion question{QStringLiteral("All Files"), controls_.LocalDataFolder->text(),
+                              QStringLiteral(".txt")};
+  const std::optional<QString> path = pickedPath(question);
+  if (path) controls_.LocalDataFolder->setText(*path);
+}
+
+std::optional<QString> LocalLoc::pickedPath(const FileQuestion& question) {
+  if (LocMode_ == kOfflineMode) {
+    const std::optional<PickedFile> file = askForFile(editing_.picker, question, editing_.pathStyle);
+    return file ? std::optional(file->FileName) : std::nullopt;
+  }
+  const std::optional<PickedFile> folder = askForFolder(editing_.picker, question, editing_.pathStyle);
+  return folder ? std::optional(folderOf(*folder)) : std::nullopt;
+}
+
+void LocalLoc::OK_Click() {
+  if (!store(editing_.state.OnlineSources, editing_.state.OnlineSourceCount)) return;
+  if (editing_.messages.askYesNo(QStringLiteral("Rescan Local Search Locations?"))) rescan();
+  accept();
+}
+
+void LocalLoc::SaveOffLine_Click() {
+  if (store(editing_.state.OfflineSources, editing_.state.OfflineSourceCount)) accept();
+}
+
+bool LocalLoc::store(SourceTable& table, int& count) {
+  const std::optional<QString> refusal = storeEntries(entries_.entries(), table, count);
+  if (refusal) editing_.messages.inform(*refusal);
+  return !refusal;
+}
+
+void LocalLoc::rescan() {
+  SourceEditorHost& host = editing_.host;
+  host.setReScanEnabled(false);
+  host.setBusyPointer();
+  // A refresh that fails must not leave the program as if it were still running.
+  const auto afterwards = qScopeGuard([&host] {
+    host.setReScanEnabled(true);
+    host.setDefaultPointer();
+  });
+  hide();
+  host.refreshLocalLists();
+}
+
+void LocalLoc::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  stretchLocalLocControls(controls_, size() - laidOutFor_);
+  laidOutFor_ = size();
+}
+
+}  // namespace quorvin

@@ -1,0 +1,85 @@
+#include "editors/source_list_model.h"
+
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+constexpr int kColumnCount = 2;
+constexpr int kDescriptionColumn = 0;
+
+/// A text may be longer than its column is wide. It is shown as it stands, though a path may look like
+/// markup.
+QString toolTipOf(const QString& text) {
+  return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
+}
+
+}  // namespace
+
+void SourceListModel::fill(std::vector<SourceEntry> entries) {
+  beginResetModel();
+  entries_ = std::move(entries);
+  endResetModel();
+}
+
+void SourceListModel::append(const SourceEntry& entry) {
+  const int row = rowCount();
+  beginInsertRows({}, row, row);
+  entries_.push_back(entry);
+  endInsertRows();
+}
+
+std::optional<int> SourceListModel::deleteEntry(int row) {
+  if (!has(row)) return std::nullopt;
+  beginRemoveRows({}, row, row);
+  entries_.erase(entries_.begin() + row);
+  endRemoveRows();
+  if (row == 0) return std::nullopt;
+  return row - 1;
+}
+
+std::optional<int> SourceListModel::moveUp(int row) {
+  if (!has(row) || !has(row - 1)) return std::nullopt;
+  exchangeWithNext(row - 1);
+  return row - 1;
+}
+
+std::optional<int> SourceListModel::moveDown(int row) {
+  if (!has(row) || !has(row + 1)) return std::nullopt;
+  exchangeWithNext(row);
+  return row + 1;
+}
+
+bool SourceListModel::has(int row) const {
+  return row >= 0 && row < rowCount();
+}
+
+void SourceListModel::exchangeWithNext(int row) {
+  const auto place = static_cast<std::size_t>(row);
+  std::swap(entries_[place], entries_[place + 1]);
+  Q_EMIT dataChanged(index(row, 0), index(row + 1, kColumnCount - 1));
+}
+
+int SourceListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(entries_.size());
+}
+
+int SourceListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumnCount;
+}
+
+QVariant SourceListModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+  const SourceEntry& entry = entries_[static_cast<std::size_t>(index.row())];
+  const QString& text = index.column() == kDescriptionColumn ? entry.description : entry.path;
+  return role == Qt::ToolTipRole ? toolTipOf(text) : text;
+}
+
+QVariant SourceListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  return section == kDescriptionColumn ? QStringLiteral("Description") : QStringLiteral("Path");
+}
+
+}  // namespace quorvin

@@ -1,0 +1,15 @@
+// The faults that no handler of a window has dealt with.
+#pragma once
+
+#include "platform/runtime_fault.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace quorvin::test {
+
+/// The descriptions of all such faults since the begin of the tests.
+std::vector<QString>& lastResortFaults();
+
+}  // namespace quorvin::test

@@ -1,0 +1,82 @@
+// The source editor on a state of the test's own.
+#pragma once
+
+#include "dialog_driving.h"
+#include "editors/local_loc.h"
+#include "editors/local_loc_opener.h"
+#include "recording_editor_host.h"
+#include "recording_file_picker.h"
+#include "support/qt_printing.h"
+#include "support/recording_message_boxes.h"
+
+#include <memory>
+#include <vector>
+
+namespace quorvin {
+
+inline void PrintTo(const SourceEntry& entry, std::ostream* out) {
+  *out << '{' << entry.description.toStdString() << ", " << entry.path.toStdString() << '}';
+}
+
+}  // namespace quorvin
+
+namespace quorvin::test {
+
+using Entries = std::vector<SourceEntry>;
+
+class LocalLocTest : public testing::Test {
+ protected:
+  void haveOnline(const Entries& entries) { put(entries, state_.OnlineSources, state_.OnlineSourceCount); }
+  void haveOffline(const Entries& entries) { put(entries, state_.OfflineSources, state_.OfflineSourceCount); }
+  Entries online() const { return entriesOf(state_.OnlineSources, state_.OnlineSourceCount); }
+  Entries offline() const { return entriesOf(state_.OfflineSources, state_.OfflineSourceCount); }
+
+  /// The dialog in the mode for folders, shown; the sources should be there before.
+  LocalLoc& dialog() {
+    if (dialog_) return *dialog_;
+    dialog_ = std::make_unique<LocalLoc>(editing(), LocMode_, nullptr);
+    showAndActivate(*dialog_);
+    return *dialog_;
+  }
+  const LocalLocControls& controls() { return dialog().controls(); }
+  const Entries& edited() { return dialog().entries().entries(); }
+
+  SourceEditing editing() { return {state_, messages_, picker_, host_, pathStyle_}; }
+
+  void add(const QString& description, const QString& path) {
+    type(controls().Desc, description);
+    type(controls().LocalDataFolder, path);
+    click(controls().LocAdd);
+  }
+  /// Selects a row, counted from 1, by a click on it.
+  void select(int row) {
+    SourceListView* list = controls().Online;
+    const QModelIndex index = list->model()->index(row - 1, 0);
+    list->scrollTo(index);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
+  }
+  /// The selected row, counted from 1; 0 when there is none.
+  int selected() { return controls().Online->selectedRow() + 1; }
+
+  ProgramState state_;
+  RecordingMessageBoxes messages_;
+  RecordingFilePicker picker_;
+  RecordingEditorHost host_;
+  PathStyle pathStyle_ = kWindowsPaths;
+  QString LocMode_ = QStringLiteral("Online");
+
+ private:
+  static void put(const Entries& entries, SourceTable& table, int& count) {
+    ASSERT_FALSE(storeEntries(entries, table, count));
+  }
+
+  std::unique_ptr<LocalLoc> dialog_;
+};
+
+inline Entries threeFolders() {
+  return {{QStringLiteral("Music"), QStringLiteral("D:\\Music\\")},
+          {QStringLiteral("Photos"), QStringLiteral("D:\\Photos\\")},
+          {QStringLiteral("Papers"), QStringLiteral("E:\\")}};
+}
+
+}  // namespace quorvin::test

@@ -1,0 +1,109 @@
+// The source editor by keys alone.
+#include "local_loc_fixture.h"
+
+namespace quorvin::test {
+
+namespace {
+
+class EditorKeys : public LocalLocTest {
+ protected:
+  EditorKeys() { haveOnline(threeFolders()); }
+
+  /// Presses a key where the keyboard is.
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(dialog().focusWidget(), key, modifiers);
+  }
+};
+
+TEST_F(EditorKeys, TheDescriptionIsTypedFirst) {
+  EXPECT_EQ(dialog().focusWidget(), controls().Desc);
+  EXPECT_EQ(controls().Desc->selectedText(), QStringLiteral("Online"));
+}
+
+TEST_F(EditorKeys, TabLeadsThroughTheControlsInReadingOrder) {
+  std::vector<QString> names;
+  controls().Online->setFocus();
+  for (int tab = 0; tab < 10; ++tab) {
+    names.push_back(dialog().focusWidget()->objectName());
+    press(Qt::Key_Tab);
+  }
+  EXPECT_EQ(names, (std::vector{QStringLiteral("Online"), QStringLiteral("MvUp"), QStringLiteral("MvDn"),
+                                QStringLiteral("LocDel"), QStringLiteral("Desc"),
+                                QStringLiteral("LocalDataFolder"), QStringLiteral("GetListName"),
+                                QStringLiteral("LocAdd"), QStringLiteral("OK"), QStringLiteral("Cancel")}));
+}
+
+TEST_F(EditorKeys, EnterInEitherBoxAddsOnce) {
+  type(controls().LocalDataFolder, QStringLiteral("C:\\"));
+  press(Qt::Key_Return);
+  EXPECT_EQ(edited().size(), 4U);
+  type(controls().Desc, QStringLiteral("Music CDs"));
+  press(Qt::Key_Enter);
+  ASSERT_EQ(edited().size(), 5U);
+  EXPECT_EQ(edited()[4], (SourceEntry{QStringLiteral("Music CDs"), QStringLiteral("C:\\")}));
+  EXPECT_TRUE(dialog().isVisible());
+}
+
+TEST_F(EditorKeys, EnterInTheListDoesNothing) {
+  type(controls().LocalDataFolder, QStringLiteral("C:\\"));
+  select(1);
+  press(Qt::Key_Return);
+  press(Qt::Key_Enter);
+  EXPECT_EQ(edited(), threeFolders());
+  EXPECT_TRUE(dialog().isVisible());
+}
+
+TEST_F(EditorKeys, EnterOnAButtonPressesThatButton) {
+  controls().Cancel->setFocus();
+  press(Qt::Key_Return);
+  EXPECT_FALSE(dialog().isVisible());
+}
+
+TEST_F(EditorKeys, DeleteInTheListDeletesTheSelectedEntry) {
+  select(3);
+  press(Qt::Key_Delete);
+  EXPECT_EQ(edited(), (Entries{threeFolders()[0], threeFolders()[1]}));
+  EXPECT_EQ(selected(), 2);
+}
+
+TEST_F(EditorKeys, DeleteInABoxDeletesCharacters) {
+  select(3);
+  controls().Desc->setFocus();
+  controls().Desc->setCursorPosition(0);
+  press(Qt::Key_Delete);
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("nline"));
+  EXPECT_EQ(edited(), threeFolders());
+}
+
+TEST_F(EditorKeys, AltWithUpAndDownMovesTheSelectedEntry) {
+  select(3);
+  press(Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(edited(), (Entries{threeFolders()[0], threeFolders()[2], threeFolders()[1]}));
+  EXPECT_EQ(selected(), 2);
+  press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(edited(), threeFolders());
+  EXPECT_EQ(selected(), 3);
+}
+
+TEST_F(EditorKeys, AltWithUpWorksWhileABoxHasTheKeyboard) {
+  select(2);
+  controls().LocalDataFolder->setFocus();
+  press(Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(edited()[0], threeFolders()[1]);
+}
+
+TEST_F(EditorKeys, EscapeCancelsFromEverywhere) {
+  for (QWidget* place : {static_cast<QWidget*>(controls().Online), static_cast<QWidget*>(controls().Desc),
+                         static_cast<QWidget*>(controls().LocalDataFolder)}) {
+    showAndActivate(dialog());
+    place->setFocus();
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(dialog().isVisible());
+  }
+  EXPECT_EQ(online(), threeFolders());
+  EXPECT_TRUE(messages_.asked.empty());
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
