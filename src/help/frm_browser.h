@@ -1,0 +1,70 @@
+// The help browser.
+#pragma once
+
+#include "help/address_list.h"
+#include "help/frm_browser_controls.h"
+#include "help/page_loader.h"
+
+#include <QString>
+#include <QTimer>
+#include <QWidget>
+
+namespace quorvin {
+
+/// The help browser `frmBrowser`: pages of the program's help, and plain pages of the web. The window is
+/// loaded when it is shown, and unloaded when it is closed; shown again, it starts anew.
+class frmBrowser : public QWidget, private PageLoaderView {
+  Q_OBJECT
+
+ public:
+  /// The pages stand in `helpFolder`; `transfer`, which must outlive the window, brings those of the web.
+  frmBrowser(const QString& helpFolder, PageTransfer& transfer, QWidget* parent = nullptr);
+  ~frmBrowser() override;
+
+  /// The page that the window's load opens, as the address box takes it. While the window is open a change
+  /// has no effect.
+  QString StartingAddress;
+
+  /// Sets `StartingAddress` and shows the window; one that is open already only comes to the front.
+  void showHelp(const QString& startingAddress);
+
+  const BrowserControls& controls() const { return controls_; }
+  const QTimer& timTimer() const { return timTimer_; }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  // For the loader.
+  void showPage(const Page& page, int position) override;
+  void showPlace(const QUrl& address) override;
+  int position() const override;
+  void navigationFinished(const QString& address) override;
+
+  void connectControls();
+  void addKeys();
+  void Form_Load();
+  void Form_Resize();
+  void cboAddress_Click();
+  bool cboAddress_KeyPress(int key);
+  void timTimer_Timer();
+  void tbToolBar_ButtonClick(BrowserButton button);
+  void stopLoading();
+  void escape();
+  void updateButtons();
+  void showBusy();
+  void refillAddresses(const QString& current);
+
+  QTimer timTimer_;
+  PageLoader loader_;
+  BrowserControls controls_;
+  AddressList addressList_;
+  /// Set while the program itself changes the address list, so that the change starts no navigation.
+  bool addressLock_ = false;
+  bool loaded_ = false;
+};
+
+}  // namespace quorvin

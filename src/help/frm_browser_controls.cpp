@@ -1,0 +1,167 @@
+#include "help/frm_browser_controls.h"
+
+#include "help/browser_measures.h"
+#include "help/frm_browser_icons.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace quorvin {
+
+namespace {
+
+struct ButtonLook {
+  QString key;
+  QString caption;
+  QString keys;
+  QList<QKeySequence> shortcuts;
+};
+
+QList<QKeySequence> keysFor(std::initializer_list<const char*> texts) {
+  QList<QKeySequence> keys;
+  for (const char* text : texts) keys.append(QKeySequence(QString::fromLatin1(text)));
+  return keys;
+}
+
+/// The keys are spelled out: without a desktop environment some of the standard keys are bound to nothing.
+ButtonLook lookOf(BrowserButton button) {
+  switch (button) {
+    case BrowserButton::Back:
+      return {QStringLiteral("Back"), QStringLiteral("Back"), QStringLiteral("Alt+Left"),
+              keysFor({"Alt+Left", "Back"})};
+    case BrowserButton::Forward:
+      return {QStringLiteral("Forward"), QStringLiteral("Forward"), QStringLiteral("Alt+Right"),
+              keysFor({"Alt+Right", "Forward"})};
+    case BrowserButton::Refresh:
+      return {QStringLiteral("Refresh"), QStringLiteral("Refresh"), QStringLiteral("F5"),
+              keysFor({"F5", "Ctrl+R"})};
+    case BrowserButton::Home:
+      return {QStringLiteral("Home"), QStringLiteral("Home: program usage"), QStringLiteral("Alt+Home"),
+              keysFor({"Alt+Home"})};
+    case BrowserButton::Search:
+      return {QStringLiteral("Search"), QStringLiteral("Search: the index of the help"),
+              QStringLiteral("Ctrl+Shift+F"), keysFor({"Ctrl+Shift+F"})};
+    case BrowserButton::Stop:
+      // Its key is the window's: Esc also closes the row for finding.
+      return {QStringLiteral("Stop"), QStringLiteral("Stop loading"), QStringLiteral("Esc"), {}};
+  }
+  return {};
+}
+
+QAction* addToolbarButton(QToolBar* bar, BrowserButton button) {
+  const ButtonLook look = lookOf(button);
+  QAction* action = bar->addAction(look.key);
+  action->setObjectName(look.key);
+  action->setShortcuts(look.shortcuts);
+  action->setToolTip(QStringLiteral("%1 (%2)").arg(look.caption, look.keys));
+  QWidget* widget = bar->widgetForAction(action);
+  widget->setObjectName(look.key);
+  widget->setAccessibleName(look.key);
+  widget->setFocusPolicy(Qt::TabFocus);
+  return action;
+}
+
+void makeToolbar(QWidget* window, BrowserControls& made) {
+  made.tbToolBar = new QToolBar(window);
+  made.tbToolBar->setObjectName(QStringLiteral("tbToolBar"));
+  made.tbToolBar->setAccessibleName(QStringLiteral("Help toolbar"));
+  for (int button = 0; button < kBrowserButtons; ++button) {
+    made.buttons[static_cast<std::size_t>(button)] =
+        addToolbarButton(made.tbToolBar, static_cast<BrowserButton>(button));
+  }
+}
+
+void makeAddressRow(QWidget* window, BrowserControls& made) {
+  made.picAddress = new QWidget(window);
+  made.picAddress->setObjectName(QStringLiteral("picAddress"));
+  made.cboAddress = new QComboBox(made.picAddress);
+  made.cboAddress->setObjectName(QStringLiteral("cboAddress"));
+  made.cboAddress->setAccessibleName(QStringLiteral("Address"));
+  made.cboAddress->setEditable(true);
+  made.cboAddress->setInsertPolicy(QComboBox::NoInsert);
+  made.cboAddress->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  made.cboAddress->setCompleter(nullptr);
+  // Leaving the box would otherwise choose the entry that equals what was typed there.
+  QObject::disconnect(made.cboAddress->lineEdit(), &QLineEdit::editingFinished, made.cboAddress, nullptr);
+  made.lblAddress = new QLabel(QStringLiteral("&Address:"), made.picAddress);
+  made.lblAddress->setObjectName(QStringLiteral("lblAddress"));
+  made.lblAddress->setBuddy(made.cboAddress);
+}
+
+void makeStatusRow(QWidget* window, BrowserControls& made) {
+  made.statusRow = new QWidget(window);
+  made.lblStatus = new QLabel(made.statusRow);
+  made.lblStatus->setObjectName(QStringLiteral("lblStatus"));
+  made.lblStatus->setTextFormat(Qt::PlainText);
+  // A long address must not widen the window.
+  made.lblStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  made.loadBar = new QProgressBar(made.statusRow);
+  made.loadBar->setObjectName(QStringLiteral("loadBar"));
+  made.loadBar->setAccessibleName(QStringLiteral("Loading"));
+  made.loadBar->setTextVisible(false);
+  made.loadBar->setRange(0, 0);
+  made.loadBar->setFixedSize(window->fontMetrics().averageCharWidth() * 16, window->fontMetrics().height());
+  auto* row = new QHBoxLayout(made.statusRow);
+  row->setContentsMargins(pixelsOfTwips(kAddressLeft), 2, pixelsOfTwips(kAddressLeft), 2);
+  row->addWidget(made.lblStatus, 1);
+  row->addWidget(made.loadBar);
+  made.loadBar->hide();
+  made.statusRow->setFixedHeight(made.loadBar->height() + 6);
+}
+
+void placeAddressRow(const BrowserControls& controls) {
+  const int left = pixelsOfTwips(kAddressLeft);
+  controls.lblAddress->move(left, 0);
+  controls.lblAddress->resize(controls.lblAddress->sizeHint());
+  const int top = controls.lblAddress->y() + controls.lblAddress->height();
+  controls.cboAddress->move(left, top + pixelsOfTwips(kBelowAddressLabel));
+  controls.cboAddress->resize(controls.cboAddress->width(), controls.cboAddress->sizeHint().height());
+  controls.picAddress->setFixedHeight(controls.cboAddress->geometry().bottom() + 1);
+}
+
+}  // namespace
+
+QString keyOf(BrowserButton button) {
+  return lookOf(button).key;
+}
+
+BrowserControls makeBrowserControls(QWidget* window, const HelpFiles& files) {
+  BrowserControls made{};
+  makeToolbar(window, made);
+  makeAddressRow(window, made);
+  made.inner = new QWidget(window);
+  made.brwWebBrowser = new HelpView(files, made.inner);
+  made.brwWebBrowser->setObjectName(QStringLiteral("brwWebBrowser"));
+  made.brwWebBrowser->setAccessibleName(QStringLiteral("Page"));
+  made.findBar = new FindBar(*made.brwWebBrowser, window);
+  makeStatusRow(window, made);
+
+  auto* rows = new QVBoxLayout(window);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(made.tbToolBar);
+  rows->addWidget(made.picAddress);
+  rows->addWidget(made.inner, 1);
+  rows->addWidget(made.findBar);
+  rows->addWidget(made.statusRow);
+  placeAddressRow(made);
+  drawIcons(made);
+  return made;
+}
+
+void drawIcons(const BrowserControls& controls) {
+  const QColor colour = controls.tbToolBar->palette().color(QPalette::Active, QPalette::ButtonText);
+  for (QAction* action : controls.buttons) action->setIcon(toolbarIcon(action->objectName(), colour));
+}
+
+void layOutBrowser(const BrowserControls& controls) {
+  placeAddressRow(controls);
+  const QSize inner = controls.inner->size();
+  controls.cboAddress->resize(addressWidth(inner.width()), controls.cboAddress->height());
+  const int margin = pixelsOfTwips(kBesidePages / 2);
+  controls.brwWebBrowser->setGeometry(QRect(QPoint(margin, margin), pagesSize(inner)));
+}
+
+}  // namespace quorvin

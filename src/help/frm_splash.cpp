@@ -1,0 +1,100 @@
+#include "help/frm_splash.h"
+
+#include "help/frm_splash_logo.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quorvin {
+
+namespace {
+
+constexpr char16_t kPlatforms[] = u"Windows 9x, NT, 2000, XP, Vista";
+constexpr char16_t kLicence[] = u"Free software under the GNU General Public License, version 2 or later";
+
+/// How much larger than other texts the product's name is written.
+constexpr double kNameScale = 1.8;
+
+QFont enlarged(QFont font, double scale) {
+  font.setBold(true);
+  if (font.pointSizeF() > 0) {
+    font.setPointSizeF(font.pointSizeF() * scale);
+  } else {
+    font.setPixelSize(static_cast<int>(font.pixelSize() * scale));
+  }
+  return font;
+}
+
+QLabel* withText(QLabel* label, const QString& text) {
+  label->setText(text);
+  return label;
+}
+
+}  // namespace
+
+frmSplash::frmSplash(const ProductFacts& facts, QWidget* parent) : QDialog(parent) {
+  setObjectName(QStringLiteral("frmSplash"));
+  setWindowTitle(QStringLiteral("About ") + facts.productName);
+  setModal(true);
+  lblProductName_ = addLabel(QStringLiteral("lblProductName"));
+  lblProductName_->setFont(enlarged(font(), kNameScale));
+  lblVersion_ = addLabel(QStringLiteral("lblVersion"));
+  AppDesc_ = addLabel(QStringLiteral("AppDesc"));
+  lblPlatform_ = withText(addLabel(QStringLiteral("lblPlatform")), QString::fromUtf16(kPlatforms));
+  lblLicence_ = withText(addLabel(QStringLiteral("lblLicence")), QString::fromUtf16(kLicence));
+  lblLicence_->setForegroundRole(QPalette::PlaceholderText);
+
+  imgLogo_ = new LogoPicture(this);
+  imgLogo_->setObjectName(QStringLiteral("imgLogo"));
+  imgLogo_->setAccessibleName(QStringLiteral("Logo: a lens over a list"));
+
+  Command1_ = new QPushButton(QStringLiteral("&Close"), this);
+  Command1_->setObjectName(QStringLiteral("Command1"));
+  Command1_->setDefault(true);
+  Command1_->setFocus();
+  connect(Command1_, &QPushButton::clicked, this, &QDialog::accept);
+
+  layOut();
+  Form_Load(facts);
+}
+
+QLabel* frmSplash::addLabel(const QString& name) {
+  auto* label = new QLabel(this);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  // The version is often wanted in a report.
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return label;
+}
+
+void frmSplash::layOut() {
+  const int line = fontMetrics().height();
+  auto* texts = new QVBoxLayout;
+  texts->addWidget(lblProductName_);
+  texts->addWidget(lblVersion_);
+  texts->addSpacing(line / 2);
+  texts->addWidget(AppDesc_);
+  texts->addWidget(lblPlatform_);
+  texts->addWidget(lblLicence_);
+  texts->addStretch();
+
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(line, line, line, line);
+  grid->setHorizontalSpacing(line * 3 / 2);
+  grid->setVerticalSpacing(line);
+  grid->addWidget(imgLogo_, 0, 0, Qt::AlignTop);
+  grid->addLayout(texts, 0, 1);
+  grid->addWidget(Command1_, 1, 0, 1, 2, Qt::AlignRight);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmSplash::Form_Load(const ProductFacts& facts) {
+  lblVersion_->setText(
+      QStringLiteral("Version %1.%2.%3").arg(facts.majorVersion).arg(facts.minorVersion).arg(facts.revision));
+  lblProductName_->setText(facts.productName);
+  AppDesc_->setText(facts.description);
+}
+
+}  // namespace quorvin

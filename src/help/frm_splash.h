@@ -1,0 +1,42 @@
+// The about window.
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+class QLabel;
+class QPushButton;
+
+namespace quorvin {
+
+/// What the about window tells.
+struct ProductFacts {
+  QString productName;
+  int majorVersion;
+  int minorVersion;
+  int revision;
+  QString description;
+};
+
+/// The about window `frmSplash`: modal, closed by its button, by Esc and by the window's own close box.
+class frmSplash : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmSplash(const ProductFacts& facts, QWidget* parent = nullptr);
+
+ private:
+  void Form_Load(const ProductFacts& facts);
+  void layOut();
+  QLabel* addLabel(const QString& name);
+
+  QLabel* lblProductName_;
+  QLabel* lblVersion_;
+  QLabel* AppDesc_;
+  QLabel* lblPlatform_;
+  QLabel* lblLicence_;
+  QWidget* imgLogo_;
+  QPushButton* Command1_;
+};
+
+}  // namespace quorvin

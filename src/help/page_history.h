@@ -1,0 +1,47 @@
+// The pages behind and ahead of the one that is shown.
+#pragma once
+
+#include <QUrl>
+
+#include <cstddef>
+#include <vector>
+
+namespace quorvin {
+
+/// A page, and how far down it was being read, in whatever unit the window measures that.
+struct VisitedPage {
+  QUrl address;
+  int position = 0;
+};
+
+/// Where the reader is in the line of visited pages. It moves only when a page has come, so that a stopped
+/// load leaves everything as it was.
+class PageHistory {
+ public:
+  bool isEmpty() const { return pages_.empty(); }
+  bool canGoBack() const { return current_ > 0 && !isEmpty(); }
+  bool canGoForward() const { return current_ + 1 < pages_.size(); }
+
+  /// Each needs that there is such a page.
+  const VisitedPage& current() const { return pages_[current_]; }
+  const VisitedPage& behind() const { return pages_[current_ - 1]; }
+  const VisitedPage& ahead() const { return pages_[current_ + 1]; }
+
+  /// Remembers how far down the current page is being read; nothing happens without one.
+  void keepPosition(int position);
+
+  /// Makes `address` the current page. What was ahead is forgotten.
+  void visit(const QUrl& address);
+  /// The page may have told another address than it was asked for by; `address` is the one to keep.
+  void moveBack(const QUrl& address);
+  void moveForward(const QUrl& address);
+  void stay(const QUrl& address);
+
+  void clear();
+
+ private:
+  std::vector<VisitedPage> pages_;
+  std::size_t current_ = 0;
+};
+
+}  // namespace quorvin

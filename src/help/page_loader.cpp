@@ -1,0 +1,131 @@
+#include "help/page_loader.h"
+
+#include "help/page_address.h"
+
+namespace quorvin {
+
+namespace {
+
+Page fetchedPage(const QUrl& asked, const TransferResult& result) {
+  if (result.failure.isEmpty()) {
+    QUrl address = result.address;
+    if (!address.hasFragment()) address.setFragment(asked.hasFragment() ? asked.fragment() : QString());
+    return decodedPage(address, result.body, result.contentType);
+  }
+  return messagePage(
+      asked, QStringLiteral("The page could not be fetched"),
+      result.failure +
+          QStringLiteral(" Check the address and your connection, then choose Refresh (F5) to try again."));
+}
+
+}  // namespace
+
+PageLoader::PageLoader(const QString& helpFolder, PageTransfer& transfer, PageLoaderView& view)
+    : files_(helpFolder), transfer_(transfer), view_(view) {}
+
+void PageLoader::open(const QString& address) {
+  const QUrl target = pageAddress(address, files_.folder());
+  if (!target.isEmpty()) load(target, Move::New, 0);
+}
+
+void PageLoader::follow(const QUrl& link) {
+  const QUrl base = history_.isEmpty() ? QUrl::fromLocalFile(files_.folder()) : history_.current().address;
+  const QUrl target = base.resolved(link);
+  if (history_.isEmpty() || !link.hasFragment() || !isSamePage(base, target)) {
+    load(target, Move::New, 0);
+    return;
+  }
+  stop();
+  history_.keepPosition(view_.position());
+  history_.visit(target);
+  view_.showPlace(target);
+  view_.navigationFinished(addressText(target));
+}
+
+void PageLoader::goBack() {
+  if (canGoBack()) load(history_.behind().address, Move::Back, history_.behind().position);
+}
+
+void PageLoader::goForward() {
+  if (canGoForward()) load(history_.ahead().address, Move::Forward, history_.ahead().position);
+}
+
+void PageLoader::reload() {
+  if (!history_.isEmpty()) load(history_.current().address, Move::Stay, view_.position());
+}
+
+void PageLoader::stop() {
+  transfer_.stop();
+  busy_ = false;
+}
+
+void PageLoader::reset() {
+  stop();
+  history_.clear();
+}
+
+QString PageLoader::loadingAddress() const {
+  return addressText(loading_);
+}
+
+void PageLoader::load(const QUrl& address, Move move, int position) {
+  stop();
+  if (isWebAddress(address)) {
+    fetch(address, move, position);
+  } else {
+    show(helpPage(address), move, position);
+  }
+}
+
+void PageLoader::fetch(const QUrl& address, Move move, int position) {
+  busy_ = true;
+  loading_ = address;
+  transfer_.start(address, [this, address, move, position](const TransferResult& result) {
+    busy_ = false;
+    show(fetchedPage(address, result), move, position);
+  });
+}
+
+Page PageLoader::helpPage(const QUrl& address) const {
+  const HelpFile file = files_.read(address, HelpFileKind::Page);
+  switch (file.state) {
+    case HelpFileState::Read:
+      return decodedPage(address, file.bytes, "text/html; charset=utf-8");
+    case HelpFileState::Missing:
+      return messagePage(
+          address, QStringLiteral("This help page is missing"),
+          QStringLiteral("The help pages come with the program and stand in its folder. If they "
+                         "were moved or removed, install the program again."));
+    case HelpFileState::Refused:
+      break;
+  }
+  return messagePage(address, QStringLiteral("This address cannot be opened here"),
+                     QStringLiteral("This window shows the help pages of the program, and plain pages of the "
+                                    "web (http and https). It opens no other files."));
+}
+
+void PageLoader::show(const Page& page, Move move, int position) {
+  history_.keepPosition(view_.position());
+  moveInHistory(page.address, move);
+  view_.showPage(page, position);
+  view_.navigationFinished(addressText(page.address));
+}
+
+void PageLoader::moveInHistory(const QUrl& address, Move move) {
+  switch (move) {
+    case Move::New:
+      history_.visit(address);
+      break;
+    case Move::Back:
+      history_.moveBack(address);
+      break;
+    case Move::Forward:
+      history_.moveForward(address);
+      break;
+    case Move::Stay:
+      history_.stay(address);
+      break;
+  }
+}
+
+}  // namespace quorvin

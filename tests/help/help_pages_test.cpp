@@ -1,0 +1,143 @@
+// The help pages hold together: every link and every picture of every page works in the help browser.
+#include "help/fake_page_transfer.h"
+#include "help/frm_browser.h"
+#include "help/manual_pages.h"
+#include "support/qt_printing.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quorvin::test {
+namespace {
+
+QStringList linksOf(const QString& page) {
+  return allMatches(manualText(page), QStringLiteral("<a href=\"([^\"]*)\""));
+}
+
+QString placePattern(const QString& place) {
+  return QStringLiteral("( id=\"%1\")").arg(QRegularExpression::escape(place));
+}
+
+class HelpPages : public testing::Test {
+ protected:
+  FakePageTransfer transfer_;
+  frmBrowser window_{pagesFolder(), transfer_};
+};
+
+TEST_F(HelpPages, TheNamedPagesAreThere) {
+  EXPECT_TRUE(manualPages().contains(QStringLiteral("genhelp.htm")));
+  EXPECT_TRUE(manualPages().contains(QStringLiteral("relinfo.htm")));
+  EXPECT_TRUE(manualPages().contains(QStringLiteral("index.htm")));
+}
+
+TEST_F(HelpPages, EveryLinkLeadsToAPlaceThatIsThere) {
+  int links = 0;
+  for (const QString& page : manualPages()) {
+    const QUrl base = QUrl::fromLocalFile(pagesFolder() + page);
+    for (const QString& link : linksOf(page)) {
+      const QUrl target = base.resolved(QUrl(link));
+      ASSERT_TRUE(target.isLocalFile()) << page.toStdString() << " -> " << link.toStdString();
+      const QString targetPage = target.toLocalFile().mid(pagesFolder().size());
+      ASSERT_TRUE(manualPages().contains(targetPage)) << page.toStdString() << " -> " << link.toStdString();
+      if (target.hasFragment()) {
+        EXPECT_EQ(allMatches(manualText(targetPage), placePattern(target.fragment())).size(), 1)
+            << page.toStdString() << " -> " << link.toStdString();
+      }
+      ++links;
+    }
+  }
+  EXPECT_GT(links, 100);
+}
+
+TEST_F(HelpPages, EveryLinkOpensItsPageWhenItIsFollowed) {
+  window_.showHelp(pagesFolder() + QStringLiteral("genhelp.htm"));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
+  for (const QString& page : manualPages()) {
+    const QUrl base = QUrl::fromLocalFile(pagesFolder() + page);
+    for (const QString& link : linksOf(page)) {
+      window_.controls().cboAddress->setEditText(pagesFolder() + page);
+      QTest::keyClick(window_.controls().cboAddress->lineEdit(), Qt::Key_Return);
+      Q_EMIT window_.controls().brwWebBrowser->anchorClicked(QUrl(link));
+      const QString target = base.resolved(QUrl(link)).toLocalFile();
+      const QString title =
+          allMatches(manualText(target.mid(pagesFolder().size())), QStringLiteral("<h1>(.*?)</h1>")).value(0);
+      const QString shown = window_.controls().brwWebBrowser->toPlainText();
+      EXPECT_TRUE(shown.contains(u'\n' + title + u'\n'))
+          << page.toStdString() << " -> " << link.toStdString();
+    }
+  }
+}
+
+TEST_F(HelpPages, ALinkToAPlaceGoesDownToIt) {
+  window_.resize(600, 400);
+  window_.showHelp(pagesFolder() + QStringLiteral("manual/searching.htm"));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
+  EXPECT_EQ(window_.controls().brwWebBrowser->position(), 0);
+  Q_EMIT window_.controls().brwWebBrowser->anchorClicked(QUrl(QStringLiteral("#stop")));
+  EXPECT_GT(window_.controls().brwWebBrowser->position(), 400);
+  Q_EMIT window_.controls().brwWebBrowser->anchorClicked(QUrl(QStringLiteral("hits.htm#player")));
+  EXPECT_GT(window_.controls().brwWebBrowser->position(), 100);
+}
+
+TEST_F(HelpPages, EveryPictureIsShown) {
+  window_.showHelp(pagesFolder() + QStringLiteral("genhelp.htm"));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
+  HelpView& view = *window_.controls().brwWebBrowser;
+  int pictures = 0;
+  for (const QString& page : manualPages()) {
+    window_.controls().cboAddress->setEditText(pagesFolder() + page);
+    QTest::keyClick(window_.controls().cboAddress->lineEdit(), Qt::Key_Return);
+    for (const QString& name : allMatches(manualText(page), QStringLiteral("<img src=\"([^\"]*)\""))) {
+      const QImage image = view.loadResource(QTextDocument::ImageResource, QUrl(name)).value<QImage>();
+      EXPECT_GT(image.width(), 100) << page.toStdString() << ": " << name.toStdString();
+      ++pictures;
+    }
+  }
+  EXPECT_GE(pictures, 4);
+}
+
+TEST_F(HelpPages, EveryPictureHasWordsForThoseWhoDoNotSeeIt) {
+  for (const QString& page : manualPages()) {
+    const QString text = manualText(page);
+    EXPECT_EQ(allMatches(text, QStringLiteral("(<img )")).size(),
+              allMatches(text, QStringLiteral("<img src=\"[^\"]*\" alt=\"([^\"]{10,})\"")).size())
+        << page.toStdString();
+  }
+}
+
+TEST_F(HelpPages, EveryPictureFileIsUsed) {
+  QString all;
+  for (const QString& page : manualPages()) all += manualText(page);
+  for (const QString& name : QDir(pagesFolder() + QStringLiteral("images")).entryList(QDir::Files)) {
+    EXPECT_TRUE(all.contains(QStringLiteral("images/") + name + u'"')) << name.toStdString();
+  }
+}
+
+TEST_F(HelpPages, EveryPageIsReachedFromTheGeneralHelpAndStandsInTheIndex) {
+  const QStringList fromIndex = linksOf(QStringLiteral("index.htm"));
+  const QStringList fromUsage = linksOf(QStringLiteral("genhelp.htm"));
+  for (const QString& page : manualPages()) {
+    if (!page.startsWith(QStringLiteral("manual/"))) continue;
+    EXPECT_TRUE(fromUsage.contains(page)) << page.toStdString();
+    EXPECT_TRUE(fromIndex.contains(page)) << page.toStdString();
+  }
+}
+
+TEST_F(HelpPages, NoPageSetsColoursThatADarkThemeWouldHide) {
+  for (const QString& page : manualPages()) {
+    const QString text = manualText(page);
+    EXPECT_FALSE(text.contains(QRegularExpression(QStringLiteral("bgcolor|style=|<style|color=|<font"))))
+        << page.toStdString();
+  }
+}
+
+TEST_F(HelpPages, ReleaseInformationNamesTheVersion) {
+  EXPECT_TRUE(manualText(QStringLiteral("relinfo.htm")).contains(QStringLiteral("Version 2.5.64")));
+}
+
+}  // namespace
+}  // namespace quorvin::test
