@@ -3,6 +3,7 @@
 #include "app/search_form.h"
 #include "app/start_up.h"
 #include "platform/ini_settings_store.h"
+#include "platform/shell_desktop.h"
 #include "recorded_messages.h"
 #include "state/program_state.h"
 
@@ -34,7 +35,7 @@ struct SearchWindow::Parts {
   Parts(const QString& settingsPath, const QLocale& locale)
       : settings(settingsPath),
         images(ImageStore::defaultOptions()),
-        form(state, messages, locale, &images),
+        form(state, messages, shell, locale, &images),
         startUp(state, settings, messages, form, nullptr) {}
 
   void press() { QTest::mouseClick(form.controls().Find, Qt::LeftButton); }
@@ -43,6 +44,7 @@ struct SearchWindow::Parts {
 
   ProgramState state;
   RecordedMessages messages;
+  DesktopShell shell{[] { return QString(); }};
   IniSettingsStore settings;
   ImageStore images;
   SearchForm form;

@@ -5,6 +5,9 @@
 #include "app/hit_list_header.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -29,12 +32,14 @@ HitListView::HitListView(QWidget* parent) : QAbstractItemView(parent), header_(n
   installHitListAccessible();
   setItemDelegate(new HitListDelegate(this));
   setSelectionBehavior(SelectRows);
-  setSelectionMode(SingleSelection);
+  setSelectionMode(ExtendedSelection);
   setEditTriggers(NoEditTriggers);
   setAlternatingRowColors(true);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollMode(ScrollPerPixel);
   setVerticalScrollMode(ScrollPerItem);
+  // The menu of the rows is not one of the titles.
+  header_->setContextMenuPolicy(Qt::PreventContextMenu);
 
   connect(header_, &QHeaderView::sectionResized, this, [this] {
     updateScrollBars();
@@ -110,6 +115,8 @@ QModelIndex HitListView::indexAt(const QPoint& point) const {
 
 void HitListView::reset() {
   QAbstractItemView::reset();
+  anchorRow_ = -1;
+  previousRow_ = -1;
   verticalScrollBar()->setValue(0);
   updateScrollBars();
 }
@@ -125,6 +132,7 @@ void HitListView::rowsInserted(const QModelIndex& parent, int start, int end) {
 
 void HitListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QAbstractItemView::currentChanged(current, previous);
+  previousRow_ = previous.row();
   updateRow(previous.row());
   updateRow(current.row());
   if (current.isValid() && current.row() != previous.row()) tellCurrentRow(current.row());
@@ -203,6 +211,44 @@ QModelIndex HitListView::moveCursor(CursorAction action, Qt::KeyboardModifiers) 
   return current;
 }
 
+void HitListView::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+    selectCurrentIfNone();
+    Q_EMIT openRequested();
+    return;
+  }
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    requestMenuAtCurrentRow();
+    return;
+  }
+  QAbstractItemView::keyPressEvent(event);
+}
+
+void HitListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  QAbstractItemView::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) Q_EMIT openRequested();
+}
+
+void HitListView::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() == QContextMenuEvent::Keyboard) return requestMenuAtCurrentRow();
+  Q_EMIT menuRequested(event->globalPos());
+}
+
+/// A list that has just got the focus has a current row that is not selected; keys mean that row.
+void HitListView::selectCurrentIfNone() {
+  if (!currentIndex().isValid() || selectionModel()->hasSelection()) return;
+  selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void HitListView::requestMenuAtCurrentRow() {
+  if (!currentIndex().isValid()) return;
+  selectCurrentIfNone();
+  scrollTo(currentIndex());
+  const QRect row = rowRect(currentIndex().row());
+  Q_EMIT menuRequested(viewport()->mapToGlobal(row.bottomLeft() + QPoint(rowHeight_, 1)));
+}
+
 int HitListView::horizontalOffset() const {
   return header_->offset();
 }
@@ -216,14 +262,20 @@ bool HitListView::isIndexHidden(const QModelIndex& index) const {
   return header_->isSectionHidden(index.column());
 }
 
+/// Only the end of `rect` is looked at, which is always near the screen; the row where it begins may be
+/// millions of rows away, which no coordinate can tell.
 void HitListView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
-  const QModelIndex from = indexAt(rect.topLeft());
-  const QModelIndex to = indexAt(rect.bottomRight());
-  if (!from.isValid() || !to.isValid()) {
-    selectionModel()->select(QItemSelection(), command);
-    return;
-  }
-  selectionModel()->select(QItemSelection(from, to), command);
+  if (command == QItemSelectionModel::NoUpdate || modelRows() == 0) return;
+  const int row = rowNear(rect.bottomRight().y());
+  const bool extends = command.testFlag(QItemSelectionModel::Current);
+  if (!extends) anchorRow_ = row;
+  const bool hasAnchor = anchorRow_ >= 0 && selectionModel()->isRowSelected(anchorRow_, rootIndex());
+  if (!hasAnchor) anchorRow_ = extends && previousRow_ >= 0 ? previousRow_ : row;
+
+  const auto [first, last] = std::minmax(anchorRow_, row);
+  const QItemSelection rows(model()->index(first, 0, rootIndex()),
+                            model()->index(last, header_->count() - 1, rootIndex()));
+  selectionModel()->select(rows, command);
 }
 
 QRegion HitListView::visualRegionForSelection(const QItemSelection& selection) const {
@@ -308,6 +360,16 @@ void HitListView::changeEvent(QEvent* event) {
 
 int HitListView::modelRows() const {
   return model() ? model()->rowCount(rootIndex()) : 0;
+}
+
+int HitListView::rowNear(int y) const {
+  const std::int64_t rowsBelowFirst = y < 0 ? -1 - (-1 - std::int64_t{y}) / rowHeight_ : y / rowHeight_;
+  return static_cast<int>(std::clamp<std::int64_t>(firstVisibleRow() + rowsBelowFirst, 0, modelRows() - 1));
+}
+
+int HitListView::currentSelectedRow() const {
+  const QModelIndex current = currentIndex();
+  return current.isValid() && selectionModel()->isSelected(current) ? current.row() : -1;
 }
 
 /// A page leaves one row of the page before on the screen.

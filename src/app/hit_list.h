@@ -9,7 +9,8 @@ namespace quorvin {
 
 /// A list with columns for any number of rows, up to 2^31 - 1: all rows have the same height and nothing is
 /// kept or computed for a row that is not on the screen. (The toolkit's own tables and trees keep a record
-/// for every row.) One row can be selected. The vertical scroll bar counts in rows.
+/// for every row.) Any rows can be selected; the current one, when it is among them, is the one that actions
+/// are for. The vertical scroll bar counts in rows.
 class HitListView : public QAbstractItemView {
   Q_OBJECT
 
@@ -32,6 +33,9 @@ class HitListView : public QAbstractItemView {
   void setEmptyText(const QString& text);
   const QString& emptyText() const { return emptyText_; }
 
+  /// The current row when it is selected, else -1.
+  int currentSelectedRow() const;
+
   void setModel(QAbstractItemModel* model) override;
   QRect visualRect(const QModelIndex& index) const override;
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -40,7 +44,17 @@ class HitListView : public QAbstractItemView {
   /// Does nothing: looking for a row that begins with a letter would make text of millions of rows.
   void keyboardSearch(const QString& search) override;
 
+ Q_SIGNALS:
+  /// The user wants to open the current row: by a double-click of the left button or by Enter.
+  void openRequested();
+  /// The user wants the pop-up menu at this place of the screen: by the right button, the Menu key or
+  /// Shift+F10. The keys ask for it below the current row, which is on the screen then.
+  void menuRequested(const QPoint& place);
+
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void rowsInserted(const QModelIndex& parent, int start, int end) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void updateGeometries() override;
@@ -60,6 +74,10 @@ class HitListView : public QAbstractItemView {
   int pageRows() const;
   /// The row after the last one that is at least partly on the screen.
   int visibleRowsEnd() const;
+  /// The row at the height `y` of the viewport, or the nearest one.
+  int rowNear(int y) const;
+  void selectCurrentIfNone();
+  void requestMenuAtCurrentRow();
   void updateRowHeight();
   void updateScrollBars();
   void updateRow(int row);
@@ -71,6 +89,10 @@ class HitListView : public QAbstractItemView {
   QHeaderView* header_;
   int rowHeight_ = 1;
   QString emptyText_;
+  /// Where a selection of several rows began.
+  int anchorRow_ = -1;
+  /// The current row before the present one.
+  int previousRow_ = -1;
 };
 
 }  // namespace quorvin

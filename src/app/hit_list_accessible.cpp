@@ -53,6 +53,7 @@ class RowAccessible : public QAccessibleInterface {
       return state;
     }
     state.selectable = true;
+    state.extSelectable = true;
     state.focusable = true;
     state.selected = view_->selectionModel()->isSelected(cell(0));
     state.focused = view_->hasFocus() && view_->currentIndex().row() == row_;
@@ -86,6 +87,12 @@ class ListAccessible : public QAccessibleWidget {
   }
   ListAccessible(const ListAccessible&) = delete;
   ListAccessible& operator=(const ListAccessible&) = delete;
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.multiSelectable = true;
+    return state;
+  }
 
   int childCount() const override { return view_->model() ? view_->model()->rowCount() : 0; }
 

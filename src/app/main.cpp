@@ -6,6 +6,7 @@
 #include "app/widget_message_boxes.h"
 #include "platform/general_date.h"
 #include "platform/ini_settings_store.h"
+#include "platform/shell_desktop.h"
 #include "platform/standard_folders.h"
 #include "search/image_store.h"
 #include "state/program_state.h"
@@ -32,6 +33,12 @@ StartUpConditions conditionsOfThisRun(const QLocale& locale) {
   return conditions;
 }
 
+/// Read anew each time, so that a player that was set while the program runs is taken.
+QString enqueueCommand(const SettingsStore& settings, const ProgramState& state) {
+  return settings.read(state.RegKey, QString::fromUtf16(kSettingsSection), QStringLiteral("EnqueueCommand"),
+                       QString());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -45,7 +52,8 @@ int main(int argc, char** argv) {
   ProgramState state;
   const IniSettingsStore settings(userSettingsPath());
   ImageStore images(ImageStore::defaultOptions());
-  SearchForm form(state, messages, locale, &images);
+  DesktopShell shell([&] { return enqueueCommand(settings, state); });
+  SearchForm form(state, messages, shell, locale, &images);
   StartUp startUp(state, settings, messages, form, nullptr);
   startUp.Form_Load(conditionsOfThisRun(locale));
   form.sourcesChanged();

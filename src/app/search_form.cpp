@@ -3,6 +3,7 @@
 #include "app/fault_report.h"
 #include "app/search_form_layout.h"
 #include "app/version.h"
+#include "index/local_list_refresh.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -34,15 +35,19 @@ float toTwips(int pixels) {
 
 }  // namespace
 
-SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale, ImageStore* images)
+SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
+                       ImageStore* images)
     : state_(state),
       messages_(messages),
+      locale_(locale),
       rows_(hits_, locale),
       controls_(makeControls(new QWidget(this))),
       menus_(makeMenus(menuBar())),
       display_(*controls_.lblFound, *controls_.lblSearched, rows_),
       runMessages_(*this),
-      searchRun_(state, *this, runMessages_, hits_, images, locale) {
+      searchRun_(state, *this, runMessages_, hits_, images, locale),
+      hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
+      refreshDisplay_(state, *this, locale) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
   setCentralWidget(controls_.HitList->parentWidget());
@@ -71,6 +76,7 @@ void SearchForm::connectControls() {
   connect(controls_.SearchStr, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
   connect(controls_.DesMatch, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
   connect(controls_.WebUpdate, &QPushButton::clicked, this, &SearchForm::WebUpdate_Click);
+  connect(menus_.ReScan, &QAction::triggered, this, &SearchForm::ReScan_Click);
   connect(menus_.MenuQuit, &QAction::triggered, this, &SearchForm::close);
 
   auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
@@ -104,6 +110,20 @@ void SearchForm::Find_Click() {
 
 void SearchForm::WebUpdate_Click() {
   messages_.inform(QStringLiteral("The web update does not exist in this version yet."));
+}
+
+void SearchForm::ReScan_Click() {
+  startRefresh();
+}
+
+void SearchForm::startRefresh() {
+  if (state_.RescanRunning) return;
+  menus_.ReScan->setEnabled(false);
+  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+  reportFaults(runMessages_, QStringLiteral("refreshing the local lists"),
+               [&] { refreshLocalLists(state_, refreshDisplay_, runMessages_, locale_, versionCaption()); });
+  refreshDisplay_.setDefaultPointer();
+  menus_.ReScan->setEnabled(true);
 }
 
 void SearchForm::stopRun() {
@@ -254,6 +274,12 @@ void SearchForm::showEvent(QShowEvent* event) {
 
 void SearchForm::closeEvent(QCloseEvent* event) {
   endRequested_ = true;
+  if (state_.RescanRunning) {
+    state_.RescanAbort = true;
+    // The walk of the current source need not come to its end: its listing will not be used.
+    state_.AbortRequested = true;
+  }
+  refreshDisplay_.close();
   event->accept();
 }
 

@@ -4,7 +4,9 @@
 #include "app/hit_list_model.h"
 #include "app/search_form_controls.h"
 #include "app/search_form_display.h"
+#include "app/search_form_hits.h"
 #include "app/search_form_menus.h"
+#include "app/search_form_refresh.h"
 #include "app/start_up.h"
 #include "search/hit_table.h"
 #include "search/search_run.h"
@@ -24,15 +26,26 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
   Q_OBJECT
 
  public:
-  /// `state` and `messages` must outlive the window.
-  SearchForm(ProgramState& state, MessageBoxes& messages, const QLocale& locale,
+  /// `state`, `messages`, `shell` and `images` must outlive the window.
+  SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
              ImageStore* images = nullptr);
 
   /// To be called after the sources of the state have changed: while there are none, the empty hit list says
   /// what to do first.
   void sourcesChanged();
 
+  /// Runs a local list refresh to its end, with `ReScan` disabled and the mouse pointer told of work; events
+  /// run meanwhile. Does nothing while one is running.
+  void startRefresh();
+
+  /// What shows the picture of a hit; without one a message says that there is none.
+  void setPreviewOpener(PreviewOpener opener) { hitActions_.setPreviewOpener(std::move(opener)); }
+
+  /// The `Progress` window, made when there is none.
+  Progress& progress() { return refreshDisplay_.progress(); }
+
   const SearchFormControls& controls() const { return controls_; }
+  const ItemMenu& itemMenu() const { return hitActions_.itemMenu(); }
   const SearchFormMenus& menus() const { return menus_; }
 
   // For the search run.
@@ -76,6 +89,7 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
   void connectControls();
   void Find_Click();
   void WebUpdate_Click();
+  void ReScan_Click();
   void stopRun();
   bool isRunning() const;
   void layOut();
@@ -85,6 +99,7 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
 
   ProgramState& state_;
   MessageBoxes& messages_;
+  QLocale locale_;
   HitTable hits_;
   HitListModel rows_;
   SearchFormControls controls_;
@@ -92,6 +107,8 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
   RunDisplay display_;
   RunMessages runMessages_;
   SearchRun searchRun_;
+  SearchFormHits hitActions_;
+  RefreshDisplay refreshDisplay_;
   bool endRequested_ = false;
   /// The outer size asked for before the window had a frame.
   std::optional<QSize> outerSizeWished_;

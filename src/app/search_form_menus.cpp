@@ -35,7 +35,7 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   made.EditOffline = addComingItem(made.FileMenu, QStringLiteral("EditOffline"),
                                    QStringLiteral("Add/Edit Offline List files"));
   made.ReScan =
-      addComingItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
+      addItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
   made.OptionsMenu = addComingItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
   made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.

@@ -1,5 +1,6 @@
 #include "console/find_command.h"
 
+#include "console/error_lines.h"
 #include "console/own_sources.h"
 #include "platform/ini_settings_store.h"
 #include "platform/runtime_fault.h"
@@ -14,19 +15,6 @@
 namespace quorvin {
 
 namespace {
-
-void printError(const QString& text) {
-  const QByteArray line = QString(text).replace(QStringLiteral("\r\n"), QStringLiteral(" ")).toLocal8Bit();
-  std::fprintf(stderr, "quorvin-cli: %s\n", line.constData());
-}
-
-class ErrorLines : public MessageBoxes {
- public:
-  void inform(const QString& text) override { printError(text); }
-  /// Nobody is there to ask.
-  bool askYesNo(const QString&) override { return false; }
-  FaultAnswer askAbortRetryIgnore(const QString&) override { return FaultAnswer::Ignore; }
-};
 
 /// The run's view without a window: only the request to stop comes through.
 class ConsoleView : public SearchRunView {

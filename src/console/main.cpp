@@ -1,5 +1,7 @@
 #include "console/cache_command.h"
 #include "console/find_command.h"
+#include "console/index_command.h"
+#include "console/refresh_command.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
@@ -48,6 +50,33 @@ CLI::App* addCache(CLI::App& app, bool& clear) {
   return cache;
 }
 
+struct IndexOptions {
+  std::string folder;
+  std::string label;
+  std::string output;
+  bool foldersOnly = false;
+};
+
+CLI::App* addIndex(CLI::App& app, IndexOptions& options) {
+  CLI::App* index = app.add_subcommand("index", "Write the listing of a folder");
+  index->add_option("--label", options.label, "The volume's name in the listing; default: the folder's name")
+      ->type_name("TEXT");
+  index->add_flag("--folders-only", options.foldersOnly, "List folders only");
+  index->add_option("--output", options.output, "The listing's file; default: standard output")
+      ->type_name("FILE");
+  index->add_option("FOLDER", options.folder, "The folder to list, with all below it")->required();
+  return index;
+}
+
+quorvin::IndexRequest requestOf(const IndexOptions& options) {
+  quorvin::IndexRequest request;
+  request.folder = QString::fromLocal8Bit(options.folder.c_str());
+  request.label = QString::fromLocal8Bit(options.label.c_str());
+  request.output = QString::fromLocal8Bit(options.output.c_str());
+  request.foldersOnly = options.foldersOnly;
+  return request;
+}
+
 quorvin::FindRequest requestOf(const FindOptions& options) {
   quorvin::FindRequest request;
   request.searchText = QString::fromLocal8Bit(options.searchText.c_str());
@@ -65,12 +94,17 @@ quorvin::FindRequest requestOf(const FindOptions& options) {
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
-  CLI::App app("Quorvin Utility in the terminal: search catalogues of disks and folders.", "quorvin-cli");
+  CLI::App app("Quorvin Utility in the terminal: search and make catalogues of disks and folders.",
+               "quorvin-cli");
   app.set_version_flag("--version", "quorvin-cli " QUORVIN_VERSION);
   app.require_subcommand(1);
   FindOptions findOptions;
+  IndexOptions indexOptions;
   bool clearCache = false;
   const CLI::App* find = addFind(app, findOptions);
+  const CLI::App* index = addIndex(app, indexOptions);
+  const CLI::App* refresh =
+      app.add_subcommand("refresh", "Make the listings of the user's own online sources anew");
   const CLI::App* cache = addCache(app, clearCache);
   try {
     app.parse(argc, argv);
@@ -80,6 +114,8 @@ int main(int argc, char** argv) {
     return 2;
   }
   if (find->parsed()) return quorvin::runFind(requestOf(findOptions));
+  if (index->parsed()) return quorvin::runIndex(requestOf(indexOptions));
+  if (refresh->parsed()) return quorvin::runRefresh();
   if (cache->parsed()) return clearCache ? quorvin::clearCache() : quorvin::listCache();
   return 2;
 }

@@ -32,47 +32,56 @@ QString GeneralDateWriter::text(DateValue value) const {
 
 void GeneralDateWriter::addFields(QString& text, const DatePattern& pattern, CalendarDate date,
                                   int second) const {
+  for (const PatternPart& part : pattern) addField(text, part, date, second);
+}
+
+QString GeneralDateWriter::partText(const PatternPart& part, CalendarDate date, int second) const {
+  QString text;
+  addField(text, part, date, second);
+  return text;
+}
+
+void GeneralDateWriter::addField(QString& text, const PatternPart& part, CalendarDate date,
+                                 int second) const {
   const int hour = second / 3600;
   const auto month = static_cast<std::size_t>(date.month - 1);
-  for (const PatternPart& part : pattern) {
-    switch (part.field) {
-      case PatternField::Literal:
-        text += part.text;
-        break;
-      case PatternField::Day:
-        addNumber(text, date.day, part.width);
-        break;
-      case PatternField::Month:
-        addNumber(text, date.month, part.width);
-        break;
-      case PatternField::MonthNameShort:
-        text += shortMonths_[month];
-        break;
-      case PatternField::MonthNameLong:
-        text += longMonths_[month];
-        break;
-      case PatternField::Year:
-        addNumber(text, date.year, 4);
-        break;
-      case PatternField::YearTwoDigits:
-        addNumber(text, date.year % 100, 2);
-        break;
-      case PatternField::Hour24:
-        addNumber(text, hour, part.width);
-        break;
-      case PatternField::Hour12:
-        addNumber(text, hour % 12 == 0 ? 12 : hour % 12, part.width);
-        break;
-      case PatternField::Minute:
-        addNumber(text, second / 60 % 60, part.width);
-        break;
-      case PatternField::Second:
-        addNumber(text, second % 60, part.width);
-        break;
-      case PatternField::HalfDay:
-        text += halfDay(part.text, hour);
-        break;
-    }
+  switch (part.field) {
+    case PatternField::Literal:
+      text += part.text;
+      break;
+    case PatternField::Day:
+      addNumber(text, date.day, part.width);
+      break;
+    case PatternField::Month:
+      addNumber(text, date.month, part.width);
+      break;
+    case PatternField::MonthNameShort:
+      text += shortMonths_[month];
+      break;
+    case PatternField::MonthNameLong:
+      text += longMonths_[month];
+      break;
+    case PatternField::Year:
+      addNumber(text, date.year, 4);
+      break;
+    case PatternField::YearTwoDigits:
+      addNumber(text, date.year % 100, 2);
+      break;
+    case PatternField::Hour24:
+      addNumber(text, hour, part.width);
+      break;
+    case PatternField::Hour12:
+      addNumber(text, hour % 12 == 0 ? 12 : hour % 12, part.width);
+      break;
+    case PatternField::Minute:
+      addNumber(text, second / 60 % 60, part.width);
+      break;
+    case PatternField::Second:
+      addNumber(text, second % 60, part.width);
+      break;
+    case PatternField::HalfDay:
+      text += halfDay(part.text, hour);
+      break;
   }
 }
 

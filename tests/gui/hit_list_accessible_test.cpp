@@ -37,6 +37,7 @@ TEST_F(AccessibleWindow, TheSelectedRowSaysSo) {
   QTest::keyClick(controls().HitList, Qt::Key_Home);
   QTest::keyClick(controls().HitList, Qt::Key_Down);
   QAccessibleInterface* list = QAccessible::queryAccessibleInterface(controls().HitList);
+  EXPECT_TRUE(list->state().multiSelectable);
   EXPECT_FALSE(list->child(0)->state().selected);
   EXPECT_TRUE(list->child(1)->state().selected);
   EXPECT_TRUE(list->child(1)->state().focused);

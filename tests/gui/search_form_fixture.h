@@ -5,6 +5,7 @@
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
+#include "support/recording_shell.h"
 #include "support/temporary_folder.h"
 
 #include <QLocale>
@@ -27,7 +28,8 @@ class SearchFormTest : public testing::Test {
   /// Makes and shows the window; the sources should be there before.
   SearchForm& form() {
     if (form_) return *form_;
-    form_ = std::make_unique<SearchForm>(state_, messages_, QLocale(QLocale::English, QLocale::UnitedStates));
+    form_ = std::make_unique<SearchForm>(state_, messages_, shell_,
+                                         QLocale(QLocale::English, QLocale::UnitedStates), images_);
     form_->show();
     form_->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
@@ -41,7 +43,11 @@ class SearchFormTest : public testing::Test {
     addMissingOnlineSource(description);
   }
   void addMissingOnlineSource(const QString& description) {
-    state_.OnlineSources.set(++state_.OnlineSourceCount, description, QStringLiteral("/music"));
+    addOnlineFolder(description, QStringLiteral("/music"));
+  }
+  /// Adds an online source that has not been indexed yet.
+  void addOnlineFolder(const QString& description, const QString& path) {
+    state_.OnlineSources.set(++state_.OnlineSourceCount, description, path);
   }
   void setMainDataFile(const QByteArray& listing) {
     folder_.writeFile(QStringLiteral("main.lst"), listing);
@@ -101,6 +107,9 @@ class SearchFormTest : public testing::Test {
   TemporaryFolder folder_;
   ProgramState state_;
   RecordingMessageBoxes messages_;
+  RecordingShell shell_;
+  /// What keeps listings that were read; may be set before the window is made.
+  ImageStore* images_ = nullptr;
 
  private:
   std::unique_ptr<SearchForm> form_;

@@ -134,7 +134,7 @@ TEST_F(WindowLayout, PlacementIsInTwips) {
 }
 
 TEST_F(WindowLayout, APlaceOnNoScreenIsLeftWhenTheWindowIsShown) {
-  SearchForm lost(state_, messages_, QLocale::c());
+  SearchForm lost(state_, messages_, shell_, QLocale::c());
   lost.setPlacement(PlacementKey::Top, 900000);
   lost.setPlacement(PlacementKey::Left, -900000);
   lost.show();

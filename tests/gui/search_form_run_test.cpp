@@ -184,7 +184,8 @@ TEST(WindowRunMessages, ComeAfterTheCountsUpToThem) {
   state.OnlineSources.set(++state.OnlineSourceCount, QStringLiteral("disk"), QString());
   state.OnlineSources.set(++state.OnlineSourceCount, QStringLiteral("gone"), QString());
   LabelReadingMessages messages;
-  SearchForm form(state, messages, QLocale::c());
+  RecordingShell shell;
+  SearchForm form(state, messages, shell, QLocale::c());
   QString seen;
   messages.look = [&] {
     seen = form.controls().lblFound->text() + u'/' + form.controls().lblSearched->text();

@@ -1,0 +1,111 @@
+#include "app/hit_actions.h"
+
+#include "platform/text_encoding.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+constexpr qsizetype kExtensionLength = 4;
+constexpr std::array<QStringView, 5> kPictureExtensions = {u".wmf", u".emf", u".bmp", u".jpg", u".gif"};
+constexpr std::array<QStringView, 2> kAudioExtensions = {u".mp3", u".wav"};
+
+constexpr char16_t kNoPlayer[] =
+    u"No audio player was found. Install one of Audacious, VLC, Strawberry, Clementine, DeaDBeeF or "
+    u"Rhythmbox, or name the command of your player in the setting EnqueueCommand.";
+constexpr char16_t kPlayerNotStarted[] =
+    u"The audio player could not be started. Please check the command in the setting EnqueueCommand.";
+
+QString badFileNameText(const HitPath& path) {
+  return QStringLiteral("Bad file name Launching: ") + path.fullPath() +
+         QStringLiteral("\r\nThe file may have been renamed, deleted or moved.") +
+         QStringLiteral(" Try rescanning the file lists.");
+}
+
+}  // namespace
+
+ItemMenuContent itemMenuContent(QStringView fileName) {
+  const QString extension = simpleLowerCase(fileName.right(kExtensionLength));
+  const auto isOneOf = [&](const auto& extensions) {
+    return std::ranges::find(extensions, QStringView(extension)) != extensions.end();
+  };
+  return {isOneOf(kPictureExtensions), isOneOf(kAudioExtensions)};
+}
+
+HitActions::HitActions(const ProgramState& state, Shell& shell, MessageBoxes& messages, PathStyle style,
+                       FileLookUp lookUp)
+    : state_(state), shell_(shell), messages_(messages), style_(style), lookUp_(std::move(lookUp)) {}
+
+/// What is known when a fault is thrown stands in `asFarAsKnown`.
+HitPath HitActions::find(const HitRow& hit, HitPath& asFarAsKnown) const {
+  asFarAsKnown.name = hit.name;
+  const std::optional<QString> folder = folderOfHit(state_, hit, style_);
+  if (!folder) return {};
+  asFarAsKnown.folder = *folder;
+  const QString name = fileOfEntry(*folder, hit.name, style_, lookUp_);
+  return name.isEmpty() ? HitPath{} : HitPath{*folder, name};
+}
+
+HitPath HitActions::resolve(const HitRow& hit) const {
+  HitPath asFarAsKnown;
+  try {
+    return find(hit, asFarAsKnown);
+  } catch (const RuntimeFault& fault) {
+    tellFault(fault, asFarAsKnown);
+    return {};
+  }
+}
+
+HitPath HitActions::resolveQuietly(const HitRow& hit) const {
+  HitPath asFarAsKnown;
+  try {
+    return find(hit, asFarAsKnown);
+  } catch (const RuntimeFault&) {
+    return {};
+  }
+}
+
+template <typename Action>
+void HitActions::act(const HitRow& hit, Action&& action) const {
+  const HitPath path = resolve(hit);
+  if (path.isEmpty()) return;
+  try {
+    action(path);
+  } catch (const RuntimeFault& fault) {
+    tellFault(fault, path);
+  }
+}
+
+void HitActions::launch(const HitRow& hit) const {
+  act(hit, [this](const HitPath& path) { shell_.open(path.fullPath(), path.folder); });
+}
+
+void HitActions::openFolder(const HitRow& hit) const {
+  act(hit, [this](const HitPath& path) { shell_.openFolder(path.folder, path.name); });
+}
+
+void HitActions::enqueue(const HitRow& hit) const {
+  act(hit, [this](const HitPath& path) { enqueueFile(path); });
+}
+
+void HitActions::enqueueFile(const HitPath& path) const {
+  switch (shell_.enqueue(path.fullPath(), path.folder)) {
+    case EnqueueOutcome::HandedOver:
+      return;
+    case EnqueueOutcome::NoPlayer:
+      return messages_.inform(QString::fromUtf16(kNoPlayer));
+    case EnqueueOutcome::NotStarted:
+      return messages_.inform(QString::fromUtf16(kPlayerNotStarted));
+  }
+}
+
+void HitActions::tellFault(const RuntimeFault& fault, const HitPath& path) const {
+  if (fault.faultNumber() == FaultNumber::BadFileName) return messages_.inform(badFileNameText(path));
+  messages_.inform(QStringLiteral("Launch Error: ") + QString::number(fault.number()) + fault.description());
+}
+
+}  // namespace quorvin

@@ -1,0 +1,62 @@
+// What the user can do with a hit, without the window that he does it in.
+#pragma once
+
+#include "platform/file_lookup.h"
+#include "platform/message_box.h"
+#include "platform/path_style.h"
+#include "platform/runtime_fault.h"
+#include "platform/shell.h"
+#include "search/hit_path.h"
+#include "state/program_state.h"
+
+#include <QString>
+#include <QStringView>
+
+namespace quorvin {
+
+/// Which of its changing items the pop-up menu of a hit shows.
+struct ItemMenuContent {
+  bool showPreview = false;
+  bool queue = false;
+
+  bool operator==(const ItemMenuContent&) const = default;
+};
+
+/// What the menu shows for a file of this name: the last four characters decide, whatever their case.
+ItemMenuContent itemMenuContent(QStringView fileName);
+
+/// Acts on hits through the shell. A hit that cannot be resolved is no error: nothing happens. A fault on the
+/// way is told in one message and ends the action.
+class HitActions {
+ public:
+  /// Everything must outlive the object.
+  HitActions(const ProgramState& state, Shell& shell, MessageBoxes& messages,
+             PathStyle style = nativePathStyle(), FileLookUp lookUp = findOrdinaryFile);
+
+  /// The file of a hit; empty when it cannot be resolved.
+  HitPath resolve(const HitRow& hit) const;
+  /// The same without a message: a fault is one more way of not being resolved.
+  HitPath resolveQuietly(const HitRow& hit) const;
+
+  /// Opens the file.
+  void launch(const HitRow& hit) const;
+  /// Shows the folder of the file.
+  void openFolder(const HitRow& hit) const;
+  /// Appends the file to the queue of an audio player.
+  void enqueue(const HitRow& hit) const;
+
+ private:
+  template <typename Action>
+  void act(const HitRow& hit, Action&& action) const;
+  HitPath find(const HitRow& hit, HitPath& asFarAsKnown) const;
+  void tellFault(const RuntimeFault& fault, const HitPath& path) const;
+  void enqueueFile(const HitPath& path) const;
+
+  const ProgramState& state_;
+  Shell& shell_;
+  MessageBoxes& messages_;
+  PathStyle style_;
+  FileLookUp lookUp_;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,121 @@
+#include "console/index_command.h"
+
+#include "console/console_progress.h"
+#include "console/error_lines.h"
+#include "index/dir_io.h"
+#include "platform/runtime_fault.h"
+#include "platform/stop_signal.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QScopeGuard>
+
+#include <unistd.h>
+
+namespace quorvin {
+namespace {
+
+// As the user wrote it, but from the top; ".." is resolved by the system, since behind a link it leads
+// elsewhere than the text says.
+QString fullPath(const QString& folder) {
+  const QFileInfo info(folder);
+  const bool goesUp = QDir::fromNativeSeparators(folder).split(u'/').contains(QStringLiteral(".."));
+  const QString canonical = goesUp ? info.canonicalFilePath() : QString();
+  return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
+}
+
+QString labelOf(const IndexRequest& request, const QString& folder) {
+  if (!request.label.isEmpty()) return request.label;
+  const QString name = QFileInfo(folder).fileName();
+  return name.isEmpty() ? folder : name;
+}
+
+/// The indexing of one folder.
+class Indexing {
+ public:
+  explicit Indexing(const IndexRequest& request)
+      : request_(request),
+        folder_(fullPath(request.folder)),
+        progress_(state_),
+        dirIO_(state_, *folders_, progress_, messages_, QLocale()) {}
+
+  /// Throws RuntimeFault when the folder cannot be read or the listing cannot be written.
+  void run() {
+    checkFolder();
+    if (request_.output.isEmpty()) {
+      FileWriter writer(STDOUT_FILENO, QStringLiteral("standard output"));
+      writeListing(writer);
+      writer.close();
+    } else {
+      writeFile();
+    }
+  }
+
+  void tellErrors() { progress_.showErrorLog(state_.errorLog); }
+  bool interrupted() const { return state_.AbortRequested; }
+
+ private:
+  void checkFolder() {
+    const int error = folders_->enterTop(folder_);
+    if (error != 0) throw faultOfSystemError(error, request_.folder);
+    folders_->leave();
+  }
+
+  // A hidden file beside the place, so that it is no part of the listing of its own folder.
+  void writeFile() {
+    const QFileInfo place(request_.output);
+    if (place.exists() && !place.isFile()) throw faultOfSystemError(EISDIR, request_.output);
+    // The file behind a link is replaced, not the link.
+    const QString target = place.exists() ? place.canonicalFilePath() : place.absoluteFilePath();
+    const QString aside =
+        QFileInfo(target).path() + QStringLiteral("/.quorvin-%1.tmp").arg(QCoreApplication::applicationPid());
+    const auto cleaning = qScopeGuard([&aside] { QFile::remove(aside); });
+    FileWriter writer(aside, request_.output);
+    writeListing(writer);
+    if (interrupted()) return;
+    writer.flush();
+    if (place.exists()) writer.sync();
+    writer.close();
+    putInPlace(aside, target);
+  }
+
+  void writeListing(FileWriter& writer) {
+    QString folder = folder_;
+    const int flags = kToOutput1 | (request_.foldersOnly ? kFoldersOnly : 0);
+    dirIO_.walk(folder, QStringLiteral("*.*"), {&writer, nullptr}, labelOf(request_, folder_), flags);
+    if (!folders_->topIsStillAt(folder_)) throw faultOfSystemError(ENOENT, request_.folder);
+  }
+
+  const IndexRequest& request_;
+  const QString folder_;
+  ProgramState state_;
+  ErrorLines messages_;
+  std::unique_ptr<FolderReader> folders_ = makeFolderReader();
+  ConsoleProgress progress_;
+  DirIO dirIO_;
+};
+
+}  // namespace
+
+int runIndex(const IndexRequest& request) {
+  watchStopSignal();
+  Indexing indexing(request);
+  bool failed = false;
+  QString failure;
+  try {
+    indexing.run();
+  } catch (const RuntimeFault& fault) {
+    failed = true;
+    failure = fault.description();
+  }
+  indexing.tellErrors();
+  if (failed) {
+    printError(failure);
+    return 2;
+  }
+  return indexing.interrupted() ? kInterrupted : 0;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,115 @@
+// DirIO: the folder indexer, which walks a tree of folders and writes a listing of it. The layout of a
+// listing: docs/formats/listing.md.
+#pragma once
+
+#include "index/entry_line.h"
+#include "index/folder_names.h"
+#include "index/index_view.h"
+#include "index/line_output.h"
+#include "index/listed_name.h"
+#include "index/name_table.h"
+#include "index/walk_faults.h"
+#include "platform/folder_reader.h"
+#include "platform/path_style.h"
+
+#include <QLocale>
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvin {
+
+/// Event pass and stop request come at every so many files of a folder.
+inline constexpr std::size_t kFilesBetweenEvents = 50;
+
+/// A folder whose path in the listing has more bytes is left out: readers refuse lines of 1 MiB and more.
+inline constexpr std::size_t kLongestListedFolder = 1'000'000;
+
+/// The walk, depth first, each folder's block before those of its sub-folders, nothing sorted. One object
+/// serves one walk after another and keeps what can be used again; `counts()` goes on from walk to walk.
+class DirIO {
+ public:
+  /// All parameters must outlive the object. `folders` must have no current folder between walks.
+  DirIO(ProgramState& state, FolderReader& folders, IndexView& view, MessageBoxes& messages,
+        const QLocale& locale, PathStyle style = nativePathStyle());
+
+  /// Lists `folderPath`, to which a separator is appended in place when it has none at its end, and all below
+  /// it to the outputs that `flags` choose; `volumeText` stands in every block. Files are listed whose name
+  /// fits `filePattern`. A path that is too short to name a folder writes nothing.
+  ///
+  /// Names that cannot be listed or read, and those that a reader of the listing will misread, are told in
+  /// `errorLog`; other faults are asked about as WalkFaults does. Events are processed for each folder, for
+  /// every 50th file of it and after each sub-folder. `AbortRequested` is looked at after each sub-folder:
+  /// when it is set the remaining ones are not walked. It is never cleared.
+  ///
+  /// Gives whether the folder itself could be opened. Throws RuntimeFault when an output cannot be written:
+  /// such a fault belongs to no name, and a listing with holes must not pass for a whole one.
+  bool walk(QString& folderPath, const QString& filePattern, const LineOutputs& outputs,
+            const QString& volumeText, int flags);
+
+  /// All that was listed since the object was made.
+  const IndexCounts& counts() const { return counts_; }
+
+ private:
+  // What one walk was asked for.
+  struct Job {
+    QString topPath;
+    QString filePattern;
+    LineOutputs outputs;
+    std::string volumeLine;
+    int flags = 0;
+  };
+  // A folder on the way from the top to the current one.
+  struct Level {
+    NameTable subFolders{kMostSubFolders};
+    std::size_t nextSubFolder = 0;
+    bool entered = false;
+    // The lengths of both paths without this folder.
+    std::size_t pathAbove = 0;
+    std::size_t listedAbove = 0;
+  };
+
+  bool listTop();
+  void walkOn();
+  void walkSubFolder(std::string_view name);
+  Level& addLevel();
+  void leaveFolder();
+  void leaveAll();
+
+  void listFolder(Level& level, std::string_view name);
+  bool listContents(Level& level, std::string_view name);
+  bool readNames(Level& level, std::string_view name);
+  int enter(std::string_view name);
+  void writeHead();
+  void writeSubFolders(const NameTable& subFolders);
+  bool writeFiles();
+  bool writeFile(std::string_view name, NameTraits traits);
+  void write(std::string_view line) { writeLine(line, job_.outputs, job_.flags); }
+  void letEventsRun();
+  void noteHostileTop(const std::string& listed);
+
+  ProgramState& state_;
+  FolderReader& folders_;
+  IndexView& view_;
+  PathStyle style_;
+  std::string separator_;
+  // The current folder as the system writes it and as the listing does, each with a separator at its end.
+  std::string path_;
+  std::string listedPath_;
+  WalkFaults faults_;
+  FolderNames names_;
+  EntryLines entryLines_;
+  IndexCounts counts_;
+
+  Job job_;
+  // Levels are kept when folders are left, so that their memory serves the next ones.
+  std::vector<std::unique_ptr<Level>> levels_;
+  std::size_t depth_ = 0;
+  std::string line_;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,120 @@
+#include "index/local_list_refresh.h"
+
+#include "index/dir_io.h"
+#include "platform/runtime_fault.h"
+#include "platform/text_encoding.h"
+
+#include <QFile>
+#include <QScopeGuard>
+
+#include <memory>
+
+namespace quorvin {
+namespace {
+
+/// One refresh, from its first source to its last.
+class Refresh {
+ public:
+  Refresh(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
+          PathStyle style)
+      : state_(state),
+        view_(view),
+        folders_(makeFolderReader()),
+        dirIO_(state, *folders_, view, messages, locale, style) {}
+
+  void run() {
+    for (int row = 1; row <= state_.OnlineSourceCount; ++row) {
+      view_.setProgressTitle(
+          QStringLiteral(" Updating online file lists... %1 of %2").arg(row).arg(state_.OnlineSourceCount));
+      view_.showSource(row, state_.OnlineSourceCount);
+      // Copies, since the user may edit the table while events run.
+      const QString description = state_.OnlineSources.description(row);
+      const QString path = state_.OnlineSources.path(row);
+      if (!refreshSource(description, path)) return;
+    }
+  }
+
+ private:
+  // False when the refresh was asked to stop.
+  bool refreshSource(const QString& description, const QString& path) {
+    if (!canBeOpened(path)) {
+      noteKept(path, description);
+      return true;
+    }
+    const QString base = state_.LocalFolder + trimBlanks(description).toString();
+    const QString temporary = base + QStringLiteral(".tmp");
+    const QString finished = base + QStringLiteral(".txt");
+    writeListing(temporary, description, path, QFile::exists(finished));
+    if (state_.RescanAbort) {
+      state_.RescanAbort = false;
+      return false;
+    }
+    // Pulled while it was read: the walk has met errors only, which would cost the catalogue.
+    if (folders_->topIsStillAt(path)) {
+      putInPlace(temporary, finished);
+    } else {
+      QFile::remove(temporary);
+      noteKept(path, description);
+    }
+    return true;
+  }
+
+  bool canBeOpened(const QString& path) {
+    if (folders_->enterTop(path) != 0) return false;
+    folders_->leave();
+    return true;
+  }
+
+  void noteKept(const QString& path, const QString& description) {
+    state_.errorLog += QStringLiteral("%1 not found; the listing of %2 was kept\r\n").arg(path, description);
+  }
+
+  void writeListing(const QString& file, const QString& description, QString path, bool replacesAnother) {
+    FileWriter writer(file);
+    dirIO_.walk(path, QStringLiteral("*.*"), {&writer, nullptr}, description, kToOutput1);
+    writer.flush();
+    // A listing is given up only for one that a failing machine cannot take away again.
+    if (replacesAnother) writer.sync();
+    writer.close();
+  }
+
+  ProgramState& state_;
+  RefreshView& view_;
+  std::unique_ptr<FolderReader> folders_;
+  DirIO dirIO_;
+};
+
+// False when a fault ended it.
+bool refreshAll(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
+                PathStyle style) {
+  view.createProgress();
+  const QString title = view.progressTitle();
+  state.RescanRunning = true;
+  view.refreshBegins();
+  const auto ending = qScopeGuard([&] {
+    state.RescanRunning = false;
+    view.refreshEnded();
+  });
+  try {
+    Refresh(state, view, messages, locale, style).run();
+  } catch (const RuntimeFault& fault) {
+    messages.inform(QStringLiteral("Error Refreshing Local Lists:") + fault.description());
+    return false;
+  }
+  view.setProgressTitle(title);
+  return true;
+}
+
+}  // namespace
+
+void refreshLocalLists(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
+                       const QString& versionCaption, PathStyle style) {
+  if (state.RescanRunning || !refreshAll(state, view, messages, locale, style)) return;
+  view.setDefaultPointer();
+  view.setStatus(versionCaption);
+  if (state.errorLog.isEmpty()) return;
+  view.showErrorLog(state.errorLog);
+  state.errorLog.clear();
+}
+
+}  // namespace quorvin

@@ -1,0 +1,70 @@
+// What a walk does when a step of it fails, and what it tells about single names.
+#pragma once
+
+#include "platform/message_box.h"
+#include "platform/runtime_fault.h"
+#include "state/program_state.h"
+
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvin {
+
+/// How a step of a walk ended. Skipped: it failed, and the walk goes on with the next one. LeaveFolder: the
+/// current folder is to be left at once.
+enum class Step { Done, Skipped, LeaveFolder };
+
+/// The fault of a walk for an operating-system error. A permission that is missing is a path or file access
+/// error here: it is logged, not asked about, folder after folder. A folder that has become something else is
+/// not found.
+FaultNumber faultOfError(int errorNumber);
+
+/// The same for what a call of a reader gives: nothing for 0.
+inline std::optional<FaultNumber> faultOfReading(int errorNumber) {
+  return errorNumber == 0 ? std::nullopt : std::optional(faultOfError(errorNumber));
+}
+
+/// Decides by the fault's number: a name that is not found (53) or not accessible (75) is logged and the walk
+/// goes on; anything else is asked about with Abort, Retry and Ignore.
+class WalkFaults {
+ public:
+  /// `folderPath` is the current folder with its trailing separator, in UTF-8, whenever a step is attempted;
+  /// all three must outlive the object.
+  WalkFaults(ProgramState& state, MessageBoxes& messages, const std::string& folderPath)
+      : state_(state), messages_(messages), folderPath_(folderPath) {}
+
+  /// Runs `action`, again as long as the user wants to retry it. It gives nothing when all went well, else
+  /// the fault's number. `name` is what it works on, empty for the folder as a whole.
+  template <typename Action>
+  Step attempt(std::string_view name, Action action) {
+    for (;;) {
+      const std::optional<FaultNumber> fault = action();
+      if (!fault) return Step::Done;
+      const std::optional<Step> step = stepAfter(*fault, name);
+      if (step) return *step;
+    }
+  }
+
+  /// While the files' sizes and dates are read, a file that is not found is not logged: it has its line.
+  void setFilePass(bool inFilePass) { inFilePass_ = inFilePass; }
+
+  /// Appends a line to the error log: the folder's path, `name` and `what` has happened.
+  void note(std::string_view name, const QString& what);
+  /// Notes that `name` holds `mark` and why that matters; nothing when `mark` is empty.
+  void noteMark(std::string_view name, std::string_view mark);
+
+ private:
+  // Nothing: to be tried again.
+  std::optional<Step> stepAfter(FaultNumber number, std::string_view name);
+  std::optional<Step> ask(FaultNumber number, const QString& subject);
+
+  ProgramState& state_;
+  MessageBoxes& messages_;
+  const std::string& folderPath_;
+  bool inFilePass_ = false;
+};
+
+}  // namespace quorvin

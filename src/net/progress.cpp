@@ -1,0 +1,120 @@
+#include "net/progress.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quorvin {
+
+namespace {
+
+constexpr int kWidthInCharacters = 72;
+constexpr int kFullBar = 100;
+
+QProgressBar* makeBar() {
+  auto* bar = new QProgressBar;
+  bar->setObjectName(QStringLiteral("bar"));
+  bar->setAccessibleName(QStringLiteral("Progress"));
+  bar->setRange(0, kFullBar);
+  bar->setValue(0);
+  return bar;
+}
+
+}  // namespace
+
+QSize MiddleElidedLabel::minimumSizeHint() const {
+  return {fontMetrics().averageCharWidth(), QLabel::minimumSizeHint().height()};
+}
+
+void MiddleElidedLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+  style()->drawItemText(&painter, contentsRect(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
+                        palette(), isEnabled(), shown, foregroundRole());
+}
+
+Progress::Progress(ProgramState& state, QWidget* parent)
+    : QDialog(parent),
+      state_(state),
+      status_(new MiddleElidedLabel),
+      detail_(new QLabel),
+      bar_(makeBar()),
+      cancelButton_(new QPushButton(QStringLiteral("Cancel"))) {
+  setObjectName(QStringLiteral("Progress"));
+  setWindowTitle(QStringLiteral("Progress"));
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  // Of a size that never changes: no button to make it larger.
+  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+  status_->setObjectName(QStringLiteral("Status"));
+  status_->setTextFormat(Qt::PlainText);
+  detail_->setObjectName(QStringLiteral("Detail"));
+  detail_->setTextFormat(Qt::PlainText);
+  detail_->setForegroundRole(QPalette::PlaceholderText);
+  cancelButton_->setObjectName(QStringLiteral("CancelButton"));
+  connect(cancelButton_, &QPushButton::clicked, this, &Progress::CancelButton_Click);
+
+  auto* lastRow = new QHBoxLayout;
+  lastRow->addWidget(detail_, 1);
+  lastRow->addWidget(cancelButton_);
+  auto* rows = new QVBoxLayout(this);
+  rows->addWidget(status_);
+  rows->addWidget(bar_);
+  rows->addLayout(lastRow);
+  // The texts change all the time; the window must not change with them.
+  rows->setSizeConstraint(QLayout::SetNoConstraint);
+  setFixedSize(fontMetrics().averageCharWidth() * kWidthInCharacters, rows->sizeHint().height());
+}
+
+void Progress::begin() {
+  isCancelled_ = false;
+  cancelButton_->setEnabled(true);
+  setDetail({});
+  setBar(0);
+  show();
+}
+
+void Progress::setStatus(const QString& text) {
+  status_->setText(text);
+}
+
+void Progress::setDetail(const QString& text) {
+  detailText_ = text;
+  showDetail();
+}
+
+void Progress::showDetail() {
+  const QString stopping = QStringLiteral("Stopping...");
+  if (!isCancelled_) return detail_->setText(detailText_);
+  detail_->setText(detailText_.isEmpty() ? stopping : stopping + u' ' + detailText_);
+}
+
+void Progress::setBar(int percent) {
+  bar_->setRange(0, kFullBar);
+  bar_->setValue(std::clamp(percent, 0, kFullBar));
+}
+
+void Progress::setBusy() {
+  bar_->setRange(0, 0);
+}
+
+void Progress::CancelButton_Click() {
+  state_.AbortRequested = true;
+  isCancelled_ = true;
+  cancelButton_->setEnabled(false);
+  showDetail();
+}
+
+void Progress::reject() {
+  if (cancelButton_->isEnabled()) cancelButton_->click();
+}
+
+void Progress::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  reject();
+}
+
+}  // namespace quorvin

@@ -1,0 +1,54 @@
+#include "preview/res_win.h"
+
+#include <QDialogButtonBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quorvin {
+
+namespace {
+
+constexpr int kWidthInCharacters = 120;
+constexpr int kHeightInLines = 26;
+
+QPlainTextEdit* makeText() {
+  auto* text = new QPlainTextEdit;
+  text->setObjectName(QStringLiteral("ResultText"));
+  text->setAccessibleName(QStringLiteral("Results"));
+  text->setReadOnly(true);
+  // With the keyboard, too, a text that cannot be changed can be gone through and copied.
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  // What has happened stands at the end of each line, behind a path of any length.
+  text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  text->setTabChangesFocus(true);
+  return text;
+}
+
+}  // namespace
+
+ResWin::ResWin(QWidget* parent) : QDialog(parent), text_(makeText()) {
+  setObjectName(QStringLiteral("ResWin"));
+  setWindowTitle(QStringLiteral("Results"));
+  auto* buttons = new QDialogButtonBox;
+  QPushButton* close = buttons->addButton(QStringLiteral("&Close"), QDialogButtonBox::RejectRole);
+  close->setObjectName(QStringLiteral("close"));
+  close->setDefault(true);
+  connect(close, &QPushButton::clicked, this, &ResWin::close_Click);
+
+  auto* rows = new QVBoxLayout(this);
+  rows->addWidget(text_);
+  rows->addWidget(buttons);
+  close->setFocus();
+  resize(fontMetrics().averageCharWidth() * kWidthInCharacters, fontMetrics().lineSpacing() * kHeightInLines);
+}
+
+void ResWin::setText(const QString& text) {
+  text_->setPlainText(text);
+}
+
+void ResWin::close_Click() {
+  hide();
+}
+
+}  // namespace quorvin

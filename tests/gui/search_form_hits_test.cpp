@@ -1,0 +1,286 @@
+// Acting on hits with the mouse and the keys of the real window.
+#include "search_form_fixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QWindow>
+
+namespace quorvin::test {
+
+namespace {
+
+class WindowHits : public SearchFormTest {
+ protected:
+  /// Makes these files, lists them as an online source and finds them all.
+  void showFiles(const QStringList& names) {
+    QByteArray listing = blockHead("Music", listed(files_.path()));
+    for (const QString& name : names) {
+      files_.writeFile(name, "x");
+      listing += entryLine(name.toUtf8());
+    }
+    addOnlineSource(QStringLiteral("Music"), listing);
+    state_.OnlineSources.set(1, QStringLiteral("Music"), files_.path());
+    find(QStringLiteral("\\"));
+    ASSERT_EQ(rows(), names.size());
+  }
+  static QByteArray listed(const QString& folder) { return listedFolder(folder, nativePathStyle()).toUtf8(); }
+
+  HitListView* list() { return controls().HitList; }
+  QPoint middleOf(int row) { return list()->visualRect(list()->model()->index(row, 1)).center(); }
+  void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, middleOf(row));
+  }
+  void doubleClick(int row) {
+    click(row);
+    QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, middleOf(row));
+  }
+  /// Through the window system's own way of events, which makes a request for a menu of it.
+  void rightClick(int row) {
+    const QPoint place = list()->viewport()->mapTo(&form(), middleOf(row));
+    QTest::mouseClick(form().windowHandle(), Qt::RightButton, {}, place);
+    QCoreApplication::processEvents();
+  }
+  void pressMenuKey() {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(list(), &event);
+  }
+  QMenu* menu() { return form().itemMenu().menu; }
+  QStringList visibleItems() {
+    QStringList captions;
+    for (const QAction* item : menu()->actions()) {
+      if (item->isVisible() && !item->isSeparator()) captions.append(item->text());
+    }
+    return captions;
+  }
+  QStringList menuFor(const QString& name) {
+    showFiles({name});
+    rightClick(0);
+    EXPECT_TRUE(menu()->isVisible());
+    return visibleItems();
+  }
+  QString clipboard() { return QGuiApplication::clipboard()->text(); }
+  QString openCall(const QString& name) {
+    return QStringLiteral("open %1 in %2").arg(files_.pathOf(name), files_.path());
+  }
+
+  TemporaryFolder files_;
+};
+
+TEST_F(WindowHits, TheMenuHoldsItsItemsInOrderWithNamesAndCaptions) {
+  QStringList items;
+  for (const QAction* item : menu()->actions().mid(0, 4)) {
+    items.append(item->objectName() + u'=' + item->text());
+  }
+  EXPECT_EQ(menu()->objectName(), QStringLiteral("ItemMenu"));
+  EXPECT_EQ(menu()->title(), QStringLiteral("PopUP"));
+  EXPECT_EQ(items.join(u'\n'), QStringLiteral("CtLaunch=O&pen\n"
+                                              "CTOpFolder=Open Containing &Folder\n"
+                                              "ShowPreview=Preview Image\n"
+                                              "CTQueue=Enqueue (Winamp)"));
+  EXPECT_EQ(menu()->defaultAction(), form().itemMenu().CtLaunch);
+}
+
+TEST_F(WindowHits, ARightClickOnAPictureOffersThePreview) {
+  EXPECT_EQ(menuFor(QStringLiteral("Holiday.JPG")).mid(0, 4).join(u'|'),
+            QStringLiteral("O&pen|Open Containing &Folder|Preview Image|&Copy"));
+}
+
+TEST_F(WindowHits, ARightClickOnMusicOffersTheQueue) {
+  EXPECT_EQ(menuFor(QStringLiteral("song.MP3")).mid(0, 4).join(u'|'),
+            QStringLiteral("O&pen|Open Containing &Folder|Enqueue (Winamp)|&Copy"));
+}
+
+TEST_F(WindowHits, ARightClickOnAnotherFileOffersNeither) {
+  EXPECT_EQ(menuFor(QStringLiteral("notes.txt")).mid(0, 3).join(u'|'),
+            QStringLiteral("O&pen|Open Containing &Folder|&Copy"));
+}
+
+TEST_F(WindowHits, TheMenuIsMadeAnewForEachHit) {
+  showFiles({QStringLiteral("a.jpg"), QStringLiteral("b.mp3")});
+  rightClick(0);
+  menu()->close();
+  rightClick(1);
+  EXPECT_TRUE(form().itemMenu().CTQueue->isVisible());
+  EXPECT_FALSE(form().itemMenu().ShowPreview->isVisible());
+}
+
+TEST_F(WindowHits, TheMenuComesUpAtTheMouse) {
+  showFiles({QStringLiteral("notes.txt")});
+  rightClick(0);
+  EXPECT_EQ(menu()->pos(), list()->viewport()->mapToGlobal(middleOf(0)));
+}
+
+TEST_F(WindowHits, TheMenuKeyAndShiftF10OpenTheMenuToo) {
+  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt")});
+  click(1);
+  pressMenuKey();
+  EXPECT_TRUE(menu()->isVisible());
+  EXPECT_GT(menu()->pos().y(), list()->viewport()->mapToGlobal(middleOf(1)).y());
+  menu()->close();
+  QTest::keyClick(list(), Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_TRUE(menu()->isVisible());
+}
+
+TEST_F(WindowHits, TheFirstItemOpensTheHitByKeyAlone) {
+  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt")});
+  click(1);
+  pressMenuKey();
+  QTest::keyClick(menu(), Qt::Key_P);
+  EXPECT_EQ(shell_.calls, std::vector{openCall(QStringLiteral("b.txt"))});
+}
+
+TEST_F(WindowHits, ADoubleClickOpensTheFileOnce) {
+  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt")});
+  doubleClick(1);
+  EXPECT_EQ(shell_.calls, std::vector{openCall(QStringLiteral("b.txt"))});
+}
+
+TEST_F(WindowHits, EnterOpensTheFileOnceAndDoesNotSearch) {
+  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt")});
+  click(0);
+  QTest::keyClick(list(), Qt::Key_Return);
+  EXPECT_EQ(shell_.calls, std::vector{openCall(QStringLiteral("a.txt"))});
+  EXPECT_EQ(list()->currentSelectedRow(), 0);
+}
+
+TEST_F(WindowHits, ItemsOfTheMenuActOnTheSelectedHit) {
+  showFiles({QStringLiteral("a.mp3"), QStringLiteral("b.mp3")});
+  click(1);
+  form().itemMenu().CtLaunch->trigger();
+  form().itemMenu().CTOpFolder->trigger();
+  form().itemMenu().CTQueue->trigger();
+  const QString file = files_.pathOf(QStringLiteral("b.mp3"));
+  EXPECT_EQ(shell_.calls, (std::vector{openCall(QStringLiteral("b.mp3")),
+                                       QStringLiteral("open folder %1 at b.mp3").arg(files_.path()),
+                                       QStringLiteral("enqueue %1 in %2").arg(file, files_.path())}));
+}
+
+TEST_F(WindowHits, ShowPreviewHandsFolderAndNameToThePreview) {
+  showFiles({QStringLiteral("a.jpg")});
+  QString shown;
+  form().setPreviewOpener([&](const QString& folder, const QString& name) { shown = folder + u'|' + name; });
+  click(0);
+  form().itemMenu().ShowPreview->trigger();
+  EXPECT_EQ(shown, files_.path() + QStringLiteral("|a.jpg"));
+}
+
+TEST_F(WindowHits, AFaultOfThePreviewIsReported) {
+  showFiles({QStringLiteral("a.jpg")});
+  form().setPreviewOpener(
+      [](const QString&, const QString&) { throw RuntimeFault(FaultNumber::FileNotFound); });
+  click(0);
+  form().itemMenu().ShowPreview->trigger();
+  ASSERT_EQ(messages_.informed.size(), 1U);
+  EXPECT_EQ(messages_.informed[0],
+            QStringLiteral("Run-time error '53': File not found\r\n\r\nThis happened while showing \"%1\".")
+                .arg(files_.pathOf(QStringLiteral("a.jpg"))));
+}
+
+TEST_F(WindowHits, WithoutAPreviewAMessageSaysSo) {
+  showFiles({QStringLiteral("a.jpg")});
+  click(0);
+  form().itemMenu().ShowPreview->trigger();
+  EXPECT_EQ(messages_.informed, std::vector{QStringLiteral("The picture preview is not available.")});
+}
+
+TEST_F(WindowHits, HitsOfTheMainDataFileAndOfOfflineListingsOpenNothing) {
+  files_.writeFile(QStringLiteral("a.txt"), "x");
+  const QByteArray listing = blockHead("Music", listed(files_.path())) + entryLine("a.txt");
+  addOnlineFolder(QStringLiteral("Music"), files_.path());
+  folder_.writeFile(QStringLiteral("Music.txt"), "");
+  setMainDataFile(listing);
+  addOfflineSource(QStringLiteral("cd.lst"), listing);
+  find(QStringLiteral("a.txt"));
+  ASSERT_EQ(rows(), 2);
+  for (int row = 0; row < 2; ++row) {
+    rightClick(row);
+    EXPECT_FALSE(menu()->isVisible());
+    doubleClick(row);
+    QTest::keyClick(list(), Qt::Key_Return);
+  }
+  EXPECT_TRUE(shell_.calls.empty());
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(WindowHits, AFileDeletedAfterIndexingIsSilentlyIgnored) {
+  showFiles({QStringLiteral("a.mp3")});
+  QFile::remove(files_.pathOf(QStringLiteral("a.mp3")));
+  rightClick(0);
+  EXPECT_FALSE(menu()->isVisible());
+  doubleClick(0);
+  form().itemMenu().CTQueue->trigger();
+  EXPECT_TRUE(shell_.calls.empty());
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(WindowHits, ANameCutInTheListingIsStillOpened) {
+  const QString name = QString(70, u'n') + QStringLiteral(".mp3");
+  showFiles({name});
+  ASSERT_EQ(cell(0, HitColumn::Name).size(), 65);
+  doubleClick(0);
+  EXPECT_EQ(shell_.calls, std::vector{openCall(name)});
+}
+
+TEST_F(WindowHits, WithoutAnyRowNothingHappens) {
+  form();
+  pressMenuKey();
+  QTest::keyClick(list(), Qt::Key_Return);
+  form().itemMenu().CtLaunch->trigger();
+  EXPECT_FALSE(menu()->isVisible());
+  EXPECT_TRUE(shell_.calls.empty());
+}
+
+TEST_F(WindowHits, ControlCCopiesTheSelectedRowsAsText) {
+  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
+  click(1);
+  click(2, Qt::ShiftModifier);
+  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(clipboard(), rowTexts(1).join(u'\t') + u'\n' + rowTexts(2).join(u'\t'));
+  EXPECT_TRUE(clipboard().startsWith(QStringLiteral("100%\tMusic\t\\")));
+}
+
+TEST_F(WindowHits, ControlShiftCCopiesTheFullPathsThatCanBeResolved) {
+  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
+  QFile::remove(files_.pathOf(QStringLiteral("b.txt")));
+  click(0);
+  click(2, Qt::ShiftModifier);
+  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(clipboard(),
+            files_.pathOf(QStringLiteral("a.txt")) + u'\n' + files_.pathOf(QStringLiteral("c.txt")));
+}
+
+TEST_F(WindowHits, CopyingWhatCannotBeResolvedLeavesTheClipboard) {
+  showFiles({QStringLiteral("a.txt")});
+  QFile::remove(files_.pathOf(QStringLiteral("a.txt")));
+  QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+  click(0);
+  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(clipboard(), QStringLiteral("before"));
+}
+
+TEST_F(WindowHits, ControlCInTheSearchTextCopiesTheSearchText) {
+  showFiles({QStringLiteral("a.txt")});
+  click(0);
+  type(controls().SearchStr, QStringLiteral("rock"));
+  controls().SearchStr->selectAll();
+  QTest::keyClick(controls().SearchStr, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(clipboard(), QStringLiteral("rock"));
+}
+
+TEST_F(WindowHits, TooManyRowsAreNotCopied) {
+  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 100'001, "tune"));
+  find(QStringLiteral("tune"));
+  QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+  list()->setFocus();
+  QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(clipboard(), QStringLiteral("before"));
+  EXPECT_EQ(messages_.informed,
+            std::vector{QStringLiteral("100,001 hits are selected. At most 100,000 can be copied at once.")});
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
