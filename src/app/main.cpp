@@ -1,6 +1,7 @@
 // The program with the window.
 #include "app/main_application.h"
 #include "app/search_form.h"
+#include "app/shutdown.h"
 #include "app/start_up.h"
 #include "app/version.h"
 #include "app/widget_message_boxes.h"
@@ -45,17 +46,20 @@ int main(int argc, char** argv) {
   WidgetMessageBoxes messages;
   Application application(argc, argv, messages);
   QCoreApplication::setApplicationName(QStringLiteral("quorvin"));
-  QGuiApplication::setApplicationDisplayName(applicationTitle());
   QCoreApplication::setApplicationVersion(versionNumbers());
 
   const QLocale locale;
   ProgramState state;
-  const IniSettingsStore settings(userSettingsPath());
+  IniSettingsStore settings(userSettingsPath());
   ImageStore images(ImageStore::defaultOptions());
   DesktopShell shell([&] { return enqueueCommand(settings, state); });
   SearchForm form(state, messages, shell, locale, &images);
   StartUp startUp(state, settings, messages, form, nullptr);
   startUp.Form_Load(conditionsOfThisRun(locale));
+  Shutdown shutdown(state, settings, messages, form, locale);
+  form.setUnloadHandler([&shutdown] { shutdown.Form_Unload(); });
+  // The timer of the main window ends the program, once a refresh has come to its end.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
   form.sourcesChanged();
   form.show();
   return QCoreApplication::exec();

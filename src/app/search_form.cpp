@@ -20,6 +20,7 @@ namespace quorvin {
 namespace {
 
 constexpr char16_t kIdleCaption[] = u"Find";
+constexpr int kSndQTimeMilliseconds = 100;
 
 /// Settings may hold anything; further out than this no window can be.
 constexpr float kFarthestPixel = 32767;
@@ -36,7 +37,7 @@ float toTwips(int pixels) {
 }  // namespace
 
 SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
-                       ImageStore* images)
+                       ImageStore* images, FilePicker* picker)
     : state_(state),
       messages_(messages),
       locale_(locale),
@@ -47,7 +48,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       runMessages_(*this),
       searchRun_(state, *this, runMessages_, hits_, images, locale),
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
-      refreshDisplay_(state, *this, locale) {
+      refreshDisplay_(state, *this, locale),
+      windows_(state, messages, *this, *this, locale, picker) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
   setCentralWidget(controls_.HitList->parentWidget());
@@ -58,6 +60,10 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   setInitialColumnWidths(controls_, locale);
   takeInitialPlace();
   connectControls();
+  connectMenus();
+  SndQTime_.setObjectName(QStringLiteral("SndQTime"));
+  SndQTime_.setInterval(kSndQTimeMilliseconds);
+  connect(&SndQTime_, &QTimer::timeout, this, &SearchForm::SndQTime_Timer);
   controls_.SearchStr->setFocus();
   sourcesChanged();
 }
@@ -76,8 +82,6 @@ void SearchForm::connectControls() {
   connect(controls_.SearchStr, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
   connect(controls_.DesMatch, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
   connect(controls_.WebUpdate, &QPushButton::clicked, this, &SearchForm::WebUpdate_Click);
-  connect(menus_.ReScan, &QAction::triggered, this, &SearchForm::ReScan_Click);
-  connect(menus_.MenuQuit, &QAction::triggered, this, &SearchForm::close);
 
   auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
   connect(stop, &QShortcut::activated, this, &SearchForm::stopRun);
@@ -86,6 +90,25 @@ void SearchForm::connectControls() {
     controls_.SearchStr->setFocus(Qt::ShortcutFocusReason);
     controls_.SearchStr->selectAll();
   });
+}
+
+void SearchForm::connectMenus() {
+  const auto handle = [this](const QAction* item, const QString& doing, auto handler) {
+    connect(item, &QAction::triggered, this, [=, this] {
+      reportFaults(messages_, doing, handler);
+      sourcesChanged();
+    });
+  };
+  handle(menus_.AddLocal, QStringLiteral("editing the local folders"), [this] { windows_.AddLocal_Click(); });
+  handle(menus_.EditOffline, QStringLiteral("editing the offline lists"),
+         [this] { windows_.EditOffline_Click(); });
+  handle(menus_.ReScan, QStringLiteral("refreshing the local lists"), [this] { ReScan_Click(); });
+  handle(menus_.OptionsMenu, QStringLiteral("editing the options"), [this] { windows_.OptionsMenu_Click(); });
+  handle(menus_.HlpGen, QStringLiteral("opening the help"), [this] { windows_.HlpGen_Click(); });
+  handle(menus_.RelInfo, QStringLiteral("opening the help"), [this] { windows_.RelInfo_Click(); });
+  handle(menus_.AboutMenu, QStringLiteral("showing the about window"),
+         [this] { windows_.AboutMenu_Click(); });
+  connect(menus_.MenuQuit, &QAction::triggered, this, &SearchForm::close);
 }
 
 void SearchForm::sourcesChanged() {
@@ -120,8 +143,9 @@ void SearchForm::startRefresh() {
   if (state_.RescanRunning) return;
   menus_.ReScan->setEnabled(false);
   QGuiApplication::setOverrideCursor(Qt::BusyCursor);
-  reportFaults(runMessages_, QStringLiteral("refreshing the local lists"),
-               [&] { refreshLocalLists(state_, refreshDisplay_, runMessages_, locale_, versionCaption()); });
+  reportFaults(runMessages_, QStringLiteral("refreshing the local lists"), [&] {
+    quorvin::refreshLocalLists(state_, refreshDisplay_, runMessages_, locale_, versionCaption());
+  });
   refreshDisplay_.setDefaultPointer();
   menus_.ReScan->setEnabled(true);
 }
@@ -273,14 +297,62 @@ void SearchForm::showEvent(QShowEvent* event) {
 }
 
 void SearchForm::closeEvent(QCloseEvent* event) {
-  endRequested_ = true;
-  if (state_.RescanRunning) {
-    state_.RescanAbort = true;
-    // The walk of the current source need not come to its end: its listing will not be used.
-    state_.AbortRequested = true;
-  }
+  event->setAccepted(Form_Unload());
+}
+
+/// False where the program could not save everything: then the window stays, with all that it has.
+bool SearchForm::Form_Unload() {
+  bool isThrough = !unloadHandler_;
+  reportFaults(messages_, QStringLiteral("saving. The program stays open; close it again to leave"), [&] {
+    if (unloadHandler_) unloadHandler_();
+    isThrough = true;
+  });
+  if (isThrough) endRequested_ = true;
+  return isThrough;
+}
+
+void SearchForm::unloadOtherWindows() {
+  windows_.unloadSplash();
+  windows_.unloadOptions();
+  windows_.unloadSources();
   refreshDisplay_.close();
-  event->accept();
+  windows_.unloadBrowser();
+}
+
+void SearchForm::enableSndQTime() {
+  SndQTime_.start();
+}
+
+void SearchForm::SndQTime_Timer() {
+  if (!state_.QuitPending || state_.RescanRunning) return;
+  unloadOtherWindows();
+  SndQTime_.stop();
+  close();
+  QCoreApplication::quit();
+}
+
+void SearchForm::setAddLocalEnabled(bool enabled) {
+  menus_.AddLocal->setEnabled(enabled);
+}
+
+void SearchForm::setEditOfflineEnabled(bool enabled) {
+  menus_.EditOffline->setEnabled(enabled);
+}
+
+void SearchForm::setReScanEnabled(bool enabled) {
+  menus_.ReScan->setEnabled(enabled && !state_.RescanRunning);
+}
+
+void SearchForm::setBusyPointer() {
+  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+}
+
+void SearchForm::setDefaultPointer() {
+  refreshDisplay_.setDefaultPointer();
+}
+
+void SearchForm::refreshLocalLists() {
+  startRefresh();
 }
 
 void SearchForm::RunMessages::inform(const QString& text) {

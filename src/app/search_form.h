@@ -7,6 +7,8 @@
 #include "app/search_form_hits.h"
 #include "app/search_form_menus.h"
 #include "app/search_form_refresh.h"
+#include "app/search_form_windows.h"
+#include "app/shutdown.h"
 #include "app/start_up.h"
 #include "search/hit_table.h"
 #include "search/search_run.h"
@@ -14,7 +16,9 @@
 #include <QLocale>
 #include <QMainWindow>
 #include <QSize>
+#include <QTimer>
 
+#include <functional>
 #include <optional>
 
 namespace quorvin {
@@ -22,13 +26,21 @@ namespace quorvin {
 /// The main window: it shows what the search run and start-up tell it, and hands over what the user does.
 /// Closing it during a run ends the run at its next yield; the window must live until the handler that
 /// started the run has returned.
-class SearchForm : public QMainWindow, public SearchRunView, public StartUpView {
+class SearchForm : public QMainWindow,
+                   public SearchRunView,
+                   public StartUpView,
+                   public ShutdownView,
+                   private SourceEditorHost {
   Q_OBJECT
 
  public:
   /// `state`, `messages`, `shell` and `images` must outlive the window.
+  /// Files are picked with `picker`, or, where that is null, with the system's dialogs.
   SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
-             ImageStore* images = nullptr);
+             ImageStore* images = nullptr, FilePicker* picker = nullptr);
+
+  /// What closing the window does before it closes; it may throw, which is told and keeps the window open.
+  void setUnloadHandler(std::function<void()> handler) { unloadHandler_ = std::move(handler); }
 
   /// To be called after the sources of the state have changed: while there are none, the empty hit list says
   /// what to do first.
@@ -66,6 +78,11 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
   float placement(PlacementKey key) const override;
   void setPlacement(PlacementKey key, float twips) override;
 
+  // For shutdown.
+  bool isMinimized() const override { return QMainWindow::isMinimized(); }
+  void unloadOtherWindows() override;
+  void enableSndQTime() override;
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -85,8 +102,19 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
     SearchForm& form_;
   };
 
+  // For the editors.
+  void setAddLocalEnabled(bool enabled) override;
+  void setEditOfflineEnabled(bool enabled) override;
+  void setReScanEnabled(bool enabled) override;
+  void setBusyPointer() override;
+  void setDefaultPointer() override;
+  void refreshLocalLists() override;
+
   void takeInitialPlace();
   void connectControls();
+  void connectMenus();
+  bool Form_Unload();
+  void SndQTime_Timer();
   void Find_Click();
   void WebUpdate_Click();
   void ReScan_Click();
@@ -109,6 +137,9 @@ class SearchForm : public QMainWindow, public SearchRunView, public StartUpView 
   SearchRun searchRun_;
   SearchFormHits hitActions_;
   RefreshDisplay refreshDisplay_;
+  SearchFormWindows windows_;
+  QTimer SndQTime_{this};
+  std::function<void()> unloadHandler_;
   bool endRequested_ = false;
   /// The outer size asked for before the window had a frame.
   std::optional<QSize> outerSizeWished_;

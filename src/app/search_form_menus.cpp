@@ -19,33 +19,26 @@ QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
   return item;
 }
 
-QAction* addComingItem(QMenu* menu, const QString& name, const QString& caption) {
-  QAction* item = addItem(menu, name, caption);
-  item->setEnabled(false);
-  return item;
-}
-
 }  // namespace
 
 SearchFormMenus makeMenus(QMenuBar* bar) {
   SearchFormMenus made{};
   made.FileMenu = addMenu(bar, QStringLiteral("FileMenu"), QStringLiteral("&File"));
-  made.AddLocal = addComingItem(made.FileMenu, QStringLiteral("AddLocal"),
-                                QStringLiteral("&Add/Edit Local Folder To Search List"));
-  made.EditOffline = addComingItem(made.FileMenu, QStringLiteral("EditOffline"),
-                                   QStringLiteral("Add/Edit Offline List files"));
+  made.AddLocal = addItem(made.FileMenu, QStringLiteral("AddLocal"),
+                          QStringLiteral("&Add/Edit Local Folder To Search List"));
+  made.EditOffline =
+      addItem(made.FileMenu, QStringLiteral("EditOffline"), QStringLiteral("Add/Edit Offline List files"));
   made.ReScan =
       addItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
-  made.OptionsMenu = addComingItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
+  made.OptionsMenu = addItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
   made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.
   made.MenuQuit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 
   made.HlpMnu = addMenu(bar, QStringLiteral("HlpMnu"), QStringLiteral("&Help"));
-  made.HlpGen = addComingItem(made.HlpMnu, QStringLiteral("HlpGen"), QStringLiteral("Program &Usage"));
-  made.RelInfo =
-      addComingItem(made.HlpMnu, QStringLiteral("RelInfo"), QStringLiteral("&Release Information"));
-  made.AboutMenu = addComingItem(made.HlpMnu, QStringLiteral("AboutMenu"), QStringLiteral("&About"));
+  made.HlpGen = addItem(made.HlpMnu, QStringLiteral("HlpGen"), QStringLiteral("Program &Usage"));
+  made.RelInfo = addItem(made.HlpMnu, QStringLiteral("RelInfo"), QStringLiteral("&Release Information"));
+  made.AboutMenu = addItem(made.HlpMnu, QStringLiteral("AboutMenu"), QStringLiteral("&About"));
   return made;
 }
 

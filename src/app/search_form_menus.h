@@ -21,7 +21,7 @@ struct SearchFormMenus {
   QAction* AboutMenu;
 };
 
-/// Fills `bar`. Items whose function does not exist yet are disabled; nothing is connected.
+/// Fills `bar`. Nothing is connected.
 SearchFormMenus makeMenus(QMenuBar* bar);
 
 }  // namespace quorvin

@@ -1,7 +1,7 @@
 // Start-up: everything that happens between the making of the main window and the user's first action.
 #pragma once
 
-#include "app/archive_extraction.h"
+#include "net/archive_extraction.h"
 #include "platform/general_date.h"
 #include "platform/message_box.h"
 #include "platform/path_style.h"

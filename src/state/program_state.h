@@ -25,6 +25,9 @@ struct ProgramState {
   DateValue JoinDate = 0;
   QString NickName;
 
+  /// All settings were read when the program started. Where that failed, an empty one may only be unknown.
+  bool settingsRead = false;
+
   // Names that the command line may change.
   /// The application name under which the settings are kept.
   QString RegKey;
@@ -37,6 +40,10 @@ struct ProgramState {
   int OnlineSourceCount = 0;
   SourceTable OfflineSources;
   int OfflineSourceCount = 0;
+  /// The source list files that were read to their end when the program started, or found missing; empty
+  /// while that is not so. A list on disk that was not read holds records that no table knows.
+  QString onlineListRead;
+  QString offlineListRead;
 
   // Requests and conditions that long loops poll.
   /// Asks a running search, indexing or download to stop.

@@ -82,17 +82,41 @@ void readSettings(const SettingsStore& store, ProgramState& state, DateValue now
   state.JoinDate = *joinDate;
 
   state.NickName = readSetting(store, state, QStringLiteral("NickName"), QString());
+  state.settingsRead = true;
 }
 
 void completeLocalFolder(ProgramState& state, const QString& programFolder) {
   if (state.LocalFolder.isEmpty()) state.LocalFolder = programFolder;
 }
 
+void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale) {
+  const auto keep = [&](const QString& key, const QString& value) {
+    if (value.isEmpty() && !state.settingsRead) return;
+    store.write(state.RegKey, QString::fromUtf16(kSettingsSection), key, value);
+  };
+  keep(QStringLiteral("LocalFolder"), state.LocalFolder);
+  keep(QStringLiteral("TextFile"), state.TextFile);
+  keep(QStringLiteral("ArchiveFile"), state.ArchiveFile);
+  keep(QStringLiteral("WebServer"), state.WebServer);
+  const bool joinDateKnown = state.settingsRead || state.JoinDate != 0;
+  keep(QStringLiteral("JoinDate"), joinDateKnown ? generalDateText(state.JoinDate, locale) : QString());
+  keep(QStringLiteral("NickName"), state.NickName);
+}
+
+void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window) {
+  for (const auto& [key, name] : placementNames()) {
+    store.write(state.RegKey, QString::fromUtf16(kSettingsSection), name,
+                placementText(window.placement(key)));
+  }
+}
+
 void loadSourceLists(ProgramState& state) {
   const QString online = state.LocalFolder + state.LocFile;
   if (ordinaryFileExists(online)) loadSourceList(online, state.OnlineSources, state.OnlineSourceCount);
+  state.onlineListRead = online;
   const QString offline = state.LocalFolder + state.OffLineFile;
   if (ordinaryFileExists(offline)) loadSourceList(offline, state.OfflineSources, state.OfflineSourceCount);
+  state.offlineListRead = offline;
 }
 
 }  // namespace quorvin

@@ -39,11 +39,20 @@ void readPlacement(const SettingsStore& store, const ProgramState& state, Window
 /// Throws fault 13 when the stored date cannot be read; what was read before stays.
 void readSettings(const SettingsStore& store, ProgramState& state, DateValue now, const QLocale& locale);
 
+/// Stores the six settings under `state.RegKey`, in the order in which they are read. Where they could not
+/// all be read at start-up, one that is empty now is left as it is stored. Throws as the store does; what was
+/// stored before the fault stays.
+void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale);
+
+/// Stores the window's place and size under `state.RegKey`: Top, Left, Width, Height. Throws as the store
+/// does.
+void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window);
+
 /// Makes an empty `LocalFolder` the program's own folder, `programFolder` (with its trailing separator).
 void completeLocalFolder(ProgramState& state, const QString& programFolder);
 
 /// Loads both source lists from `LocalFolder`, each if its file exists, appending to the tables. Throws as
-/// loadSourceList does; what was loaded before stays.
+/// loadSourceList does; what was loaded before stays. `state` notes the lists that were read to their end.
 void loadSourceLists(ProgramState& state);
 
 }  // namespace quorvin

@@ -3,6 +3,7 @@
 
 #include "app/search_form.h"
 #include "support/listing_lines.h"
+#include "support/memory_settings_store.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
 #include "support/recording_shell.h"
@@ -30,6 +31,9 @@ class SearchFormTest : public testing::Test {
     if (form_) return *form_;
     form_ = std::make_unique<SearchForm>(state_, messages_, shell_,
                                          QLocale(QLocale::English, QLocale::UnitedStates), images_);
+    shutdown_ = std::make_unique<Shutdown>(state_, settings_, messages_, *form_,
+                                           QLocale(QLocale::English, QLocale::UnitedStates));
+    form_->setUnloadHandler([this] { shutdown_->Form_Unload(); });
     form_->show();
     form_->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
@@ -108,11 +112,13 @@ class SearchFormTest : public testing::Test {
   ProgramState state_;
   RecordingMessageBoxes messages_;
   RecordingShell shell_;
+  MemorySettingsStore settings_;
   /// What keeps listings that were read; may be set before the window is made.
   ImageStore* images_ = nullptr;
 
  private:
   std::unique_ptr<SearchForm> form_;
+  std::unique_ptr<Shutdown> shutdown_;
 };
 
 }  // namespace quorvin::test

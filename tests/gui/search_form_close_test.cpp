@@ -1,0 +1,198 @@
+#include "search_form_fixture.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+
+namespace quorvin::test {
+
+namespace {
+
+const QString kSettingsOf = QStringLiteral("Ketta Quorvin");
+
+class WindowClose : public SearchFormTest {
+ protected:
+  WindowClose() {
+    state_.settingsRead = true;
+    state_.onlineListRead = folder_.pathOf(QStringLiteral("Locations.txt"));
+    state_.offlineListRead = folder_.pathOf(QStringLiteral("OfflineLocations.txt"));
+    folder_.writeFile(QStringLiteral("any.txt"), "x");
+  }
+
+  QTimer& SndQTime() { return *form().findChild<QTimer*>(QStringLiteral("SndQTime")); }
+
+  void expectSavedAndLeaving() {
+    EXPECT_FALSE(form().isVisible());
+    EXPECT_TRUE(settings_.has(kSettingsOf, QStringLiteral("Top")));
+    EXPECT_TRUE(folder_.has(QStringLiteral("Locations.txt")));
+    EXPECT_TRUE(folder_.has(QStringLiteral("OfflineLocations.txt")));
+    EXPECT_TRUE(state_.ShuttingDown);
+    EXPECT_TRUE(state_.QuitPending);
+    EXPECT_TRUE(SndQTime().isActive());
+  }
+};
+
+TEST_F(WindowClose, TheCloseBoxSavesAndLeaves) {
+  form().close();
+  expectSavedAndLeaving();
+}
+
+TEST_F(WindowClose, QuitInTheMenuDoesTheSame) {
+  form().menus().MenuQuit->trigger();
+  expectSavedAndLeaving();
+}
+
+TEST_F(WindowClose, TheTimerEndsTheProgram) {
+  QSignalSpy quitting(qApp, &QCoreApplication::aboutToQuit);
+  form().close();
+  EXPECT_EQ(SndQTime().interval(), 100);
+  QTRY_VERIFY(!SndQTime().isActive());
+}
+
+TEST_F(WindowClose, TheTimerWaitsForARunningRefresh) {
+  state_.RescanRunning = true;
+  form().close();
+  EXPECT_TRUE(state_.RescanAbort);
+  QTest::qWait(350);
+  EXPECT_TRUE(SndQTime().isActive());
+  state_.RescanRunning = false;
+  QTRY_VERIFY(!SndQTime().isActive());
+}
+
+TEST_F(WindowClose, WhatCannotBeSavedIsToldAndTheWindowStays) {
+  form();
+  settings_.refusesWrites = true;
+  form().close();
+  EXPECT_TRUE(form().isVisible());
+  EXPECT_FALSE(state_.ShuttingDown);
+  ASSERT_EQ(messages_.informed.size(), 1U);
+  EXPECT_EQ(
+      messages_.informed.front(),
+      QStringLiteral("Run-time error '75': Path/File access error\r\n\r\nThis happened while saving. The "
+                     "program stays open; close it again to leave."));
+}
+
+TEST_F(WindowClose, AWindowThatStayedCanStillSearch) {
+  addOnlineSource(QStringLiteral("Music"), listingOf("Music", 3, "song"));
+  form();
+  settings_.refusesWrites = true;
+  form().close();
+  find(QStringLiteral("song"));
+  EXPECT_EQ(rows(), 3);
+}
+
+TEST_F(WindowClose, TheSecondCloseLeavesInAnyCase) {
+  form();
+  settings_.refusesWrites = true;
+  form().close();
+  form().close();
+  EXPECT_FALSE(form().isVisible());
+  EXPECT_TRUE(state_.ShuttingDown);
+  EXPECT_TRUE(folder_.has(QStringLiteral("Locations.txt")));
+}
+
+TEST_F(WindowClose, ARunningSearchEndsAtItsNextYield) {
+  addOnlineSource(QStringLiteral("Music"), listingOf("Music", 9000, "song"));
+  form();
+  duringTheRun([this] { form().close(); });
+  find(QStringLiteral("song"));
+  EXPECT_LE(rows(), 2000);
+  EXPECT_TRUE(state_.ShuttingDown);
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+// What the menus open.
+
+class WindowMenus : public WindowClose {
+ protected:
+  /// Triggers `item` and does `look` at the dialog that it opens.
+  void open(QAction* item, const std::function<void(QDialog&)>& look) {
+    form();
+    bool seen = false;
+    QTimer::singleShot(0, [&] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      seen = true;
+      look(*dialog);
+      dialog->reject();
+    });
+    item->trigger();
+    EXPECT_TRUE(seen);
+  }
+};
+
+TEST_F(WindowMenus, EveryItemCanBeChosen) {
+  for (const QMenu* menu : {form().menus().FileMenu, form().menus().HlpMnu}) {
+    for (const QAction* item : menu->actions()) {
+      EXPECT_TRUE(item->isEnabled() || item->isSeparator()) << item->objectName().toStdString();
+    }
+  }
+}
+
+TEST_F(WindowMenus, TheLocalFoldersAreEdited) {
+  addOnlineFolder(QStringLiteral("Music"), QStringLiteral("/music/"));
+  open(form().menus().AddLocal, [this](QDialog& dialog) {
+    EXPECT_EQ(dialog.objectName(), QStringLiteral("LocalLoc"));
+    EXPECT_FALSE(form().menus().AddLocal->isEnabled());
+    EXPECT_FALSE(form().menus().EditOffline->isEnabled());
+  });
+  EXPECT_TRUE(form().menus().AddLocal->isEnabled());
+  EXPECT_TRUE(form().menus().EditOffline->isEnabled());
+}
+
+TEST_F(WindowMenus, TheOfflineListsAreEdited) {
+  open(form().menus().EditOffline, [this](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Offline Search List files"));
+    EXPECT_TRUE(form().menus().AddLocal->isEnabled());
+    EXPECT_TRUE(form().menus().EditOffline->isEnabled());
+  });
+}
+
+TEST_F(WindowMenus, TheOptionsAreEdited) {
+  open(form().menus().OptionsMenu, [](QDialog& dialog) {
+    EXPECT_EQ(dialog.objectName(), QStringLiteral("ListOptions"));
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Options"));
+  });
+}
+
+TEST_F(WindowMenus, TheAboutWindowTellsTheVersion) {
+  open(form().menus().AboutMenu, [](QDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("lblVersion"))->text(),
+              QStringLiteral("Version 2.5.64"));
+    EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("lblProductName"))->text(),
+              QStringLiteral("Quorvin Utility"));
+  });
+}
+
+TEST_F(WindowMenus, TheHelpIsAWindowOfItsOwn) {
+  form().menus().HlpGen->trigger();
+  QWidget* browser = nullptr;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == QStringLiteral("frmBrowser")) browser = window;
+  }
+  ASSERT_NE(browser, nullptr);
+  EXPECT_TRUE(browser->isVisible());
+  EXPECT_EQ(browser->windowTitle(), QStringLiteral("Quorvin Utility Help"));
+  form().close();
+  EXPECT_FALSE(browser->isVisible());
+}
+
+TEST_F(WindowMenus, ClosingUnloadsAnOpenDialog) {
+  form();
+  bool seen = false;
+  QTimer::singleShot(0, [&] {
+    seen = QApplication::activeModalWidget() != nullptr;
+    form().close();
+  });
+  form().menus().OptionsMenu->trigger();
+  EXPECT_TRUE(seen);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(state_.ShuttingDown);
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
