@@ -58,6 +58,8 @@ SourceListView::SourceListView(QWidget* parent) : QTreeView(parent) {
   setUniformRowHeights(true);
   setItemDelegate(new RoomyRows(this));
   setAllColumnsShowFocus(true);
+  // Of a path both ends matter.
+  setTextElideMode(Qt::ElideMiddle);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   // Tab leads to the next control, as everywhere in the dialog.

@@ -13,7 +13,7 @@ namespace {
 constexpr int kLeastListCharacters = 46;
 constexpr int kInitialListCharacters = 84;
 constexpr int kDescriptionCharacters = 18;
-constexpr int kInitialRows = 14;
+constexpr int kInitialRows = 16;
 
 /// The distances of the layout follow the font, so that they grow with it.
 struct Distances {

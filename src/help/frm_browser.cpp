@@ -20,8 +20,8 @@ constexpr char16_t kSearchPage[] = u"index.htm";
 constexpr int kTimerMilliseconds = 100;
 
 QSize initialSize(const QWidget& window) {
-  constexpr int kCharacters = 115;
-  constexpr int kLines = 42;
+  constexpr int kCharacters = 145;
+  constexpr int kLines = 48;
   const QFontMetrics metrics = window.fontMetrics();
   const QSize wanted(metrics.averageCharWidth() * kCharacters, metrics.lineSpacing() * kLines);
   return wanted.boundedTo(window.screen()->availableGeometry().size() * 9 / 10);
@@ -38,7 +38,8 @@ frmBrowser::frmBrowser(const QString& helpFolder, PageTransfer& transfer, QWidge
   timTimer_.setObjectName(QStringLiteral("timTimer"));
   timTimer_.setInterval(kTimerMilliseconds);
   controls_.inner->installEventFilter(this);
-  controls_.cboAddress->lineEdit()->installEventFilter(this);
+  // The box has the focus, not the edit in it.
+  controls_.cboAddress->installEventFilter(this);
   resize(initialSize(*this));
   connectControls();
   addKeys();
@@ -221,7 +222,7 @@ void frmBrowser::showBusy() {
 
 bool frmBrowser::eventFilter(QObject* watched, QEvent* event) {
   if (watched == controls_.inner && event->type() == QEvent::Resize) Form_Resize();
-  if (watched == controls_.cboAddress->lineEdit() && event->type() == QEvent::KeyPress) {
+  if (watched == controls_.cboAddress && event->type() == QEvent::KeyPress) {
     return cboAddress_KeyPress(static_cast<QKeyEvent*>(event)->key());
   }
   return QWidget::eventFilter(watched, event);
@@ -251,7 +252,7 @@ void frmBrowser::closeEvent(QCloseEvent* event) {
 
 void frmBrowser::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) drawIcons(controls_);
+  if (event->type() == QEvent::PaletteChange) drawIcons(controls_, palette());
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Form_Resize();
 }
 

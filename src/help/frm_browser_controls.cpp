@@ -147,13 +147,15 @@ BrowserControls makeBrowserControls(QWidget* window, const HelpFiles& files) {
   rows->addWidget(made.findBar);
   rows->addWidget(made.statusRow);
   placeAddressRow(made);
-  drawIcons(made);
+  drawIcons(made, window->palette());
   return made;
 }
 
-void drawIcons(const BrowserControls& controls) {
-  const QColor colour = controls.tbToolBar->palette().color(QPalette::Active, QPalette::ButtonText);
-  for (QAction* action : controls.buttons) action->setIcon(toolbarIcon(action->objectName(), colour));
+void drawIcons(const BrowserControls& controls, const QPalette& palette) {
+  const QColor colour = palette.color(QPalette::Active, QPalette::ButtonText);
+  const QColor disabled = palette.color(QPalette::Disabled, QPalette::ButtonText);
+  for (QAction* action : controls.buttons)
+    action->setIcon(toolbarIcon(action->objectName(), colour, disabled));
 }
 
 void layOutBrowser(const BrowserControls& controls) {

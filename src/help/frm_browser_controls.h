@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QPalette>
 #include <QProgressBar>
 #include <QString>
 #include <QToolBar>
@@ -44,8 +45,8 @@ struct BrowserControls {
 /// Makes the controls in `window` and lays them out from top to bottom; nothing is connected.
 BrowserControls makeBrowserControls(QWidget* window, const HelpFiles& files);
 
-/// Draws the toolbar's icons in the colours of the window.
-void drawIcons(const BrowserControls& controls);
+/// Draws the toolbar's icons in the colours of `palette`.
+void drawIcons(const BrowserControls& controls, const QPalette& palette);
 
 /// The layout for the sizes that the rows have now.
 void layOutBrowser(const BrowserControls& controls);

@@ -22,11 +22,8 @@ QByteArray drawing(const QString& key, const QColor& colour) {
   return file.readAll().replace(kDrawnColour, colour.name().toLatin1());
 }
 
-}  // namespace
-
-QIcon toolbarIcon(const QString& key, const QColor& colour) {
-  QSvgRenderer renderer(drawing(key, colour));
-  QIcon icon;
+void addDrawing(QIcon& icon, QIcon::Mode mode, const QByteArray& drawing) {
+  QSvgRenderer renderer(drawing);
   for (const int scale : {1, 2, 3}) {
     QPixmap pixmap(QSize(kIconSide, kIconSide) * scale);
     pixmap.fill(Qt::transparent);
@@ -34,8 +31,16 @@ QIcon toolbarIcon(const QString& key, const QColor& colour) {
     renderer.render(&painter);
     painter.end();
     pixmap.setDevicePixelRatio(scale);
-    icon.addPixmap(pixmap);
+    icon.addPixmap(pixmap, mode);
   }
+}
+
+}  // namespace
+
+QIcon toolbarIcon(const QString& key, const QColor& colour, const QColor& disabledColour) {
+  QIcon icon;
+  addDrawing(icon, QIcon::Normal, drawing(key, colour));
+  addDrawing(icon, QIcon::Disabled, drawing(key, disabledColour));
   return icon;
 }
 

@@ -8,7 +8,8 @@
 namespace quorvin {
 
 /// The image list `imlIcons`: the icon for the toolbar button `key` ("Back", "Forward", "Refresh", "Home",
-/// "Search", "Stop"), drawn in `colour` for screens of every usual scale.
-QIcon toolbarIcon(const QString& key, const QColor& colour);
+/// "Search", "Stop"), drawn for screens of every usual scale in `colour`, and in `disabledColour` for a
+/// button that cannot be pressed.
+QIcon toolbarIcon(const QString& key, const QColor& colour, const QColor& disabledColour);
 
 }  // namespace quorvin

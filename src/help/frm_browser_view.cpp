@@ -60,7 +60,9 @@ HelpView::HelpView(const HelpFiles& files, QWidget* parent) : QTextBrowser(paren
 
 void HelpView::styleDocument() {
   document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 } code, kbd, pre { background-color: %2 }"
-                                                  "table { border-collapse: collapse; border-color: %3 }"
+                                                  "table { border-collapse: collapse; border-style: solid; "
+                                                  "border-color: %3; margin-top: 8px; margin-bottom: 8px }"
+                                                  "li { margin-bottom: 3px }"
                                                   "th { text-align: left; background-color: %2 }")
                                        .arg(colourName(palette(), QPalette::Link),
                                             colourName(palette(), QPalette::AlternateBase),

@@ -44,7 +44,6 @@ frmSplash::frmSplash(const ProductFacts& facts, QWidget* parent) : QDialog(paren
   AppDesc_ = addLabel(QStringLiteral("AppDesc"));
   lblPlatform_ = withText(addLabel(QStringLiteral("lblPlatform")), QString::fromUtf16(kPlatforms));
   lblLicence_ = withText(addLabel(QStringLiteral("lblLicence")), QString::fromUtf16(kLicence));
-  lblLicence_->setForegroundRole(QPalette::PlaceholderText);
 
   imgLogo_ = new LogoPicture(this);
   imgLogo_->setObjectName(QStringLiteral("imgLogo"));

@@ -78,8 +78,11 @@ void NetworkPageTransfer::stop() {
   if (!reply_) return;
   QNetworkReply* reply = std::exchange(reply_, nullptr);
   reply->disconnect(this);
-  reply->abort();
-  reply->deleteLater();
+  // Not at once: this may be the answer to a signal of the reply itself, which is still at work then.
+  QTimer::singleShot(0, reply, [reply] {
+    reply->abort();
+    reply->deleteLater();
+  });
 }
 
 /// Anything but a page is refused before its data has come: it may be a film, or a stream without an end.

@@ -98,7 +98,7 @@ TEST_P(LeastLayout, ClipsNoText) {
     EXPECT_GE(widget->height(), widget->sizeHint().height()) << widget->objectName().toStdString();
   }
   EXPECT_GE(controls().Desc->height(), controls().Desc->sizeHint().height());
-  // The smallest sign that the button's text is shown whole: room for it besides a frame.
+  // A button's size hint is for a longer text; this one needs room for the dots and a frame.
   EXPECT_GT(controls().GetListName->width(),
             controls().GetListName->fontMetrics().horizontalAdvance(QStringLiteral("...")) + 8);
 }

@@ -55,11 +55,11 @@ class FrmBrowserTest : public testing::Test {
   void typeAddress(const QString& address) {
     box().setFocus();
     box().lineEdit()->selectAll();
-    QTest::keyClicks(box().lineEdit(), address);
+    QTest::keyClicks(QApplication::focusWidget(), address);
   }
   void openByTyping(const QString& address) {
     typeAddress(address);
-    QTest::keyClick(box().lineEdit(), Qt::Key_Return);
+    press(Qt::Key_Return);
   }
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);

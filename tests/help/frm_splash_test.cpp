@@ -61,7 +61,7 @@ TEST_F(FrmSplash, EscEnterAndAltCCloseIt) {
                            Keys{Qt::Key_C, Qt::AltModifier}}) {
     show();
     QTest::keyClick(QApplication::focusWidget(), keys.key, keys.modifiers);
-    EXPECT_FALSE(window_.isVisible()) << keys.key;
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window_.isVisible(); })) << keys.key;
   }
 }
 

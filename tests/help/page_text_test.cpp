@@ -41,13 +41,21 @@ TEST(PageText, PlainTextIsNoMarkup) {
   EXPECT_EQ(decodedPage(kAddress, "<b>x</b>", "text/plain").kind, PageKind::PlainText);
 }
 
+PageKind kindOf(const QByteArray& html) {
+  return decodedPage(kAddress, html, "text/html").kind;
+}
+
 TEST(PageText, TablesAsDeepAsNobodyWritesThemBecomePlainText) {
-  EXPECT_EQ(decodedPage(kAddress, QByteArray("<table><tr><td>").repeated(60), "text/html").kind,
-            PageKind::Html);
-  EXPECT_EQ(decodedPage(kAddress, QByteArray("<table><tr><td>").repeated(61), "text/html").kind,
-            PageKind::PlainText);
-  EXPECT_EQ(decodedPage(kAddress, QByteArray("<ul><li>a</ul>").repeated(500), "text/html").kind,
-            PageKind::Html);
+  EXPECT_EQ(kindOf(QByteArray("<table><tr><td>").repeated(8)), PageKind::Html);
+  EXPECT_EQ(kindOf(QByteArray("<table><tr><td>").repeated(9)), PageKind::PlainText);
+  EXPECT_EQ(kindOf(QByteArray("<TABLE >").repeated(9)), PageKind::PlainText);
+  EXPECT_EQ(kindOf(QByteArray("<table><tr><td>x</table>").repeated(500)), PageKind::Html);
+}
+
+TEST(PageText, ListsAsDeepAsNobodyWritesThemBecomePlainText) {
+  EXPECT_EQ(kindOf(QByteArray("<ul><li>").repeated(60)), PageKind::Html);
+  EXPECT_EQ(kindOf(QByteArray("<ul><li>").repeated(61)), PageKind::PlainText);
+  EXPECT_EQ(kindOf(QByteArray("<ul><li>a<li>b</ul>").repeated(500)), PageKind::Html);
 }
 
 TEST(PageText, AMessageShowsMarkupInAnAddressAsText) {
