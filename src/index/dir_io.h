@@ -23,7 +23,7 @@
 
 namespace quorvin {
 
-/// Event pass and stop request come at every so many files of a folder.
+/// Events are processed at every so many files of a folder.
 inline constexpr std::size_t kFilesBetweenEvents = 50;
 
 /// A folder whose path in the listing has more bytes is left out: readers refuse lines of 1 MiB and more.
@@ -33,7 +33,8 @@ inline constexpr std::size_t kLongestListedFolder = 1'000'000;
 /// serves one walk after another and keeps what can be used again; `counts()` goes on from walk to walk.
 class DirIO {
  public:
-  /// All parameters must outlive the object. `folders` must have no current folder between walks.
+  /// All parameters but the last two must outlive the object. `folders` must have no current folder between
+  /// walks.
   DirIO(ProgramState& state, FolderReader& folders, IndexView& view, MessageBoxes& messages,
         const QLocale& locale, PathStyle style = nativePathStyle());
 

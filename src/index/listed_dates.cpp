@@ -44,8 +44,6 @@ struct FieldRange {
 
 FieldRange rangeOf(PatternField field) {
   switch (field) {
-    case PatternField::Literal:
-      return {1, 0};
     case PatternField::Day:
       return {31, 0};
     case PatternField::Month:
@@ -63,16 +61,35 @@ FieldRange rangeOf(PatternField field) {
       return {60, 60};
     case PatternField::Second:
       return {60, 1};
+    case PatternField::Literal:
+      break;
   }
   return {};
 }
 
 int valueOf(PatternField field, CalendarDate date, int second) {
-  const FieldRange range = rangeOf(field);
-  if (range.seconds > 0) return second / range.seconds % range.values;
-  if (range.values == kYears) return date.year - kFirstYear;
-  if (field == PatternField::Literal) return 0;
-  return field == PatternField::Day ? date.day - 1 : date.month - 1;
+  switch (field) {
+    case PatternField::Day:
+      return date.day - 1;
+    case PatternField::Month:
+    case PatternField::MonthNameShort:
+    case PatternField::MonthNameLong:
+      return date.month - 1;
+    case PatternField::Year:
+    case PatternField::YearTwoDigits:
+      return date.year - kFirstYear;
+    case PatternField::Hour24:
+    case PatternField::Hour12:
+    case PatternField::HalfDay:
+      return second / 3600;
+    case PatternField::Minute:
+      return second / 60 % 60;
+    case PatternField::Second:
+      return second % 60;
+    case PatternField::Literal:
+      break;
+  }
+  return 0;
 }
 
 std::string listed(const QString& text) {
@@ -83,22 +100,29 @@ std::string listed(const QString& text) {
 
 ListedDates::ListedDates(const QLocale& locale)
     : writer_(locale),
-      date_(partsOf(writer_.datePattern())),
-      time_(partsOf(writer_.timePattern())),
+      date_(partsOf(writer_.datePattern(), "")),
+      time_(partsOf(writer_.timePattern(), " ")),
       zeroDate_(listed(writer_.text(0))),
       offsets_((kDays * kSecondsPerDay >> kBlockBits) + 1, kUnknown) {}
 
-ListedDates::Parts ListedDates::partsOf(const DatePattern& pattern) const {
+ListedDates::Parts ListedDates::partsOf(const DatePattern& pattern, const std::string& before) const {
   Parts parts;
+  std::string leading = before;
   for (const PatternPart& part : pattern) {
-    Part& made = parts.emplace_back(Part{part.field, {}});
+    if (part.field == PatternField::Literal) {
+      leading += listed(part.text);
+      continue;
+    }
     const FieldRange range = rangeOf(part.field);
+    Part& made = parts.emplace_back(Part{part.field, {}});
     for (int value = 0; value < range.values; ++value) {
       // A day that has this value, whichever of its fields the part shows.
       const CalendarDate date{kFirstYear + value, 1 + value % 12, 1 + value % 31};
-      made.texts.push_back(listed(writer_.partText(part, date, value * range.seconds)));
+      made.texts.push_back(leading + listed(writer_.partText(part, date, value * range.seconds)));
     }
+    leading.clear();
   }
+  for (std::string& text : parts.back().texts) text += leading;
   return parts;
 }
 
@@ -113,9 +137,7 @@ void ListedDates::append(std::string& line, std::int64_t seconds) {
   }
   const CalendarDate date = calendarDateOf(static_cast<int>(days) + kDayOf1970);
   appendParts(line, date_, date, second);
-  if (second == 0) return;
-  line += ' ';
-  appendParts(line, time_, date, second);
+  if (second != 0) appendParts(line, time_, date, second);
 }
 
 void ListedDates::appendParts(std::string& line, const Parts& parts, CalendarDate date, int second) {

@@ -24,20 +24,21 @@ class ListedDates {
   void appendZero(std::string& line) const { line += zeroDate_; }
 
  private:
-  // One part of a pattern, with its text for each value that its field can have.
+  // One field of a pattern with what stands beside it, as a text for each value that the field can have.
   struct Part {
     PatternField field;
     std::vector<std::string> texts;
   };
   using Parts = std::vector<Part>;
 
-  Parts partsOf(const DatePattern& pattern) const;
+  Parts partsOf(const DatePattern& pattern, const std::string& before) const;
   static void appendParts(std::string& line, const Parts& parts, CalendarDate date, int second);
   void appendRare(std::string& line, std::int64_t days, int second) const;
   int offsetAt(std::int64_t seconds);
 
   GeneralDateWriter writer_;
   Parts date_;
+  // With the blank between date and time.
   Parts time_;
   std::string zeroDate_;
   // The time zone's offsets in seconds, from 1970 on.
