@@ -120,9 +120,8 @@ void SearchForm::sourcesChanged() {
   }
   controls_.HitList->setEmptyText(
       QStringLiteral("There is nothing to search yet.\n\n"
-                     "Start the program with a listing file, as in \"quorvin my-disks.txt\",\n"
-                     "or name your listing files in %1.")
-          .arg(state_.LocalFolder + state_.OffLineFile));
+                     "File, Add/Edit Local Folder To Search List: catalogue folders of your own.\n"
+                     "File, Add/Edit Offline List files: search listings that you have."));
 }
 
 void SearchForm::Find_Click() {

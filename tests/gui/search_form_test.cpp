@@ -111,9 +111,8 @@ TEST_F(MainWindow, WebUpdateTellsThatItDoesNotExistYet) {
 TEST_F(MainWindow, EmptyListSaysWhatToDoFirstWhileThereIsNoSource) {
   EXPECT_EQ(controls().HitList->emptyText(),
             QStringLiteral("There is nothing to search yet.\n\n"
-                           "Start the program with a listing file, as in \"quorvin my-disks.txt\",\n"
-                           "or name your listing files in %1OfflineLocations.txt.")
-                .arg(folder_.path()));
+                           "File, Add/Edit Local Folder To Search List: catalogue folders of your own.\n"
+                           "File, Add/Edit Offline List files: search listings that you have."));
 }
 
 TEST_F(MainWindow, EmptyListIsQuietWhenThereIsASource) {
