@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
   ImageStore images(ImageStore::defaultOptions());
   DesktopShell shell([&] { return enqueueCommand(settings, state); });
   SearchForm form(state, messages, shell, locale, &images);
-  StartUp startUp(state, settings, messages, form, nullptr);
+  StartUp startUp(state, settings, messages, form, &form.dataFileExtraction());
   startUp.Form_Load(conditionsOfThisRun(locale));
   Shutdown shutdown(state, settings, messages, form, locale);
   form.setUnloadHandler([&shutdown] { shutdown.Form_Unload(); });

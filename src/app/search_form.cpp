@@ -20,7 +20,6 @@ namespace quorvin {
 namespace {
 
 constexpr char16_t kIdleCaption[] = u"Find";
-constexpr int kSndQTimeMilliseconds = 100;
 
 /// Settings may hold anything; further out than this no window can be.
 constexpr float kFarthestPixel = 32767;
@@ -49,7 +48,11 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       searchRun_(state, *this, runMessages_, hits_, images, locale),
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
       refreshDisplay_(state, *this, locale),
-      windows_(state, messages, *this, *this, locale, picker) {
+      windows_(state, messages, *this, *this, locale, picker),
+      network_(state, runMessages_,
+               {*this, *controls_.WebUpdate, [this]() -> Progress& { return refreshDisplay_.progress(); },
+                [this] { return endRequested_; }},
+               menus_, locale) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
   setCentralWidget(controls_.HitList->parentWidget());
@@ -61,9 +64,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   takeInitialPlace();
   connectControls();
   connectMenus();
-  SndQTime_.setObjectName(QStringLiteral("SndQTime"));
-  SndQTime_.setInterval(kSndQTimeMilliseconds);
-  connect(&SndQTime_, &QTimer::timeout, this, &SearchForm::SndQTime_Timer);
+  network_.peers().SndQTime().setQuit([this] { leave(); });
   controls_.SearchStr->setFocus();
   sourcesChanged();
 }
@@ -104,6 +105,10 @@ void SearchForm::connectMenus() {
          [this] { windows_.EditOffline_Click(); });
   handle(menus_.ReScan, QStringLiteral("refreshing the local lists"), [this] { ReScan_Click(); });
   handle(menus_.OptionsMenu, QStringLiteral("editing the options"), [this] { windows_.OptionsMenu_Click(); });
+  handle(menus_.ShareLists, QStringLiteral("sharing lists"),
+         [this] { network_.ShareLists_Click(menus_.ShareLists->isChecked()); });
+  handle(menus_.GetLists, QStringLiteral("getting lists from a peer"), [this] { network_.GetLists_Click(); });
+  connect(&network_.peers(), &PeerExchange::offlineSourcesAdded, this, &SearchForm::sourcesChanged);
   handle(menus_.HlpGen, QStringLiteral("opening the help"), [this] { windows_.HlpGen_Click(); });
   handle(menus_.RelInfo, QStringLiteral("opening the help"), [this] { windows_.RelInfo_Click(); });
   handle(menus_.AboutMenu, QStringLiteral("showing the about window"),
@@ -131,7 +136,7 @@ void SearchForm::Find_Click() {
 }
 
 void SearchForm::WebUpdate_Click() {
-  messages_.inform(QStringLiteral("The web update does not exist in this version yet."));
+  reportFaults(runMessages_, QStringLiteral("updating from the web"), [this] { network_.WebUpdate_Click(); });
 }
 
 void SearchForm::ReScan_Click() {
@@ -147,6 +152,7 @@ void SearchForm::startRefresh() {
   });
   refreshDisplay_.setDefaultPointer();
   menus_.ReScan->setEnabled(true);
+  network_.peers().sharing().sourcesRefreshed();
 }
 
 void SearchForm::stopRun() {
@@ -316,16 +322,17 @@ void SearchForm::unloadOtherWindows() {
   windows_.unloadSources();
   refreshDisplay_.close();
   windows_.unloadBrowser();
+  network_.unload();
 }
 
 void SearchForm::enableSndQTime() {
-  SndQTime_.start();
+  network_.peers().SndQTime().enable();
 }
 
-void SearchForm::SndQTime_Timer() {
-  if (!state_.QuitPending || state_.RescanRunning) return;
+/// Once nothing runs any more: the end of the program.
+void SearchForm::leave() {
   unloadOtherWindows();
-  SndQTime_.stop();
+  network_.peers().SndQTime().disable();
   close();
   QCoreApplication::quit();
 }

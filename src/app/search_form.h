@@ -6,6 +6,7 @@
 #include "app/search_form_display.h"
 #include "app/search_form_hits.h"
 #include "app/search_form_menus.h"
+#include "app/search_form_network.h"
 #include "app/search_form_refresh.h"
 #include "app/search_form_windows.h"
 #include "app/shutdown.h"
@@ -16,7 +17,6 @@
 #include <QLocale>
 #include <QMainWindow>
 #include <QSize>
-#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -52,6 +52,11 @@ class SearchForm : public QMainWindow,
 
   /// What shows the picture of a hit; without one a message says that there is none.
   void setPreviewOpener(PreviewOpener opener) { hitActions_.setPreviewOpener(std::move(opener)); }
+
+  const PeerSendTimer& SndQTime() { return network_.peers().SndQTime(); }
+
+  /// What start-up unpacks the main data file with.
+  ArchiveExtraction& dataFileExtraction() { return network_.dataFileExtraction(); }
 
   /// The `Progress` window, made when there is none.
   Progress& progress() { return refreshDisplay_.progress(); }
@@ -114,7 +119,7 @@ class SearchForm : public QMainWindow,
   void connectControls();
   void connectMenus();
   bool Form_Unload();
-  void SndQTime_Timer();
+  void leave();
   void Find_Click();
   void WebUpdate_Click();
   void ReScan_Click();
@@ -138,7 +143,7 @@ class SearchForm : public QMainWindow,
   SearchFormHits hitActions_;
   RefreshDisplay refreshDisplay_;
   SearchFormWindows windows_;
-  QTimer SndQTime_{this};
+  SearchFormNetwork network_;
   std::function<void()> unloadHandler_;
   bool endRequested_ = false;
   /// The outer size asked for before the window had a frame.

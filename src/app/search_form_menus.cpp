@@ -35,6 +35,12 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.
   made.MenuQuit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 
+  made.PeersMenu = addMenu(bar, QStringLiteral("PeersMenu"), QStringLiteral("&Peers"));
+  made.ShareLists = addItem(made.PeersMenu, QStringLiteral("ShareLists"), QStringLiteral("&Share My Lists"));
+  made.ShareLists->setCheckable(true);
+  made.GetLists =
+      addItem(made.PeersMenu, QStringLiteral("GetLists"), QStringLiteral("&Get Lists From Peer..."));
+
   made.HlpMnu = addMenu(bar, QStringLiteral("HlpMnu"), QStringLiteral("&Help"));
   made.HlpGen = addItem(made.HlpMnu, QStringLiteral("HlpGen"), QStringLiteral("Program &Usage"));
   made.RelInfo = addItem(made.HlpMnu, QStringLiteral("RelInfo"), QStringLiteral("&Release Information"));

@@ -15,6 +15,10 @@ struct SearchFormMenus {
   QAction* ReScan;
   QAction* OptionsMenu;
   QAction* MenuQuit;
+  QMenu* PeersMenu;
+  /// Can be checked; is checked while lists are shared.
+  QAction* ShareLists;
+  QAction* GetLists;
   QMenu* HlpMnu;
   QAction* HlpGen;
   QAction* RelInfo;

@@ -71,6 +71,7 @@ Progress::Progress(ProgramState& state, QWidget* parent)
 
 void Progress::begin() {
   isCancelled_ = false;
+  isLeft_ = false;
   cancelButton_->setEnabled(true);
   setDetail({});
   setBar(0);
@@ -101,7 +102,18 @@ void Progress::setBusy() {
   bar_->setRange(0, 0);
 }
 
+void Progress::leaveStanding() {
+  isLeft_ = true;
+  isCancelled_ = false;
+  cancelButton_->setEnabled(true);
+  showDetail();
+}
+
 void Progress::CancelButton_Click() {
+  if (isLeft_) {
+    hide();
+    return;
+  }
   state_.AbortRequested = true;
   isCancelled_ = true;
   cancelButton_->setEnabled(false);

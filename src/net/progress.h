@@ -44,6 +44,10 @@ class Progress : public QDialog {
   /// The bar only moves to and fro, since it is not known how much there is to do.
   void setBusy();
 
+  /// The work has failed, and the window stays as it is: from now on the button, Esc, or closing the window
+  /// only hides it.
+  void leaveStanding();
+
   void reject() override;
 
  protected:
@@ -60,6 +64,8 @@ class Progress : public QDialog {
   QPushButton* cancelButton_;
   QString detailText_;
   bool isCancelled_ = false;
+  /// There is no work any more that could be cancelled.
+  bool isLeft_ = false;
 };
 
 }  // namespace quorvin

@@ -83,6 +83,9 @@ TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
                                                  "ReScan=Rescan Local Search Folders\n"
                                                  "OptionsMenu=&Options\n"
                                                  "MenuQuit=&Quit\n"
+                                                 "PeersMenu=&Peers\n"
+                                                 "ShareLists=&Share My Lists\n"
+                                                 "GetLists=&Get Lists From Peer...\n"
                                                  "HlpMnu=&Help\n"
                                                  "HlpGen=Program &Usage\n"
                                                  "RelInfo=&Release Information\n"
@@ -101,11 +104,16 @@ TEST_F(MainWindow, WebUpdateIsDisabledUntilStartUpEnablesIt) {
   EXPECT_TRUE(controls().WebUpdate->isEnabled());
 }
 
-TEST_F(MainWindow, WebUpdateTellsThatItDoesNotExistYet) {
+TEST_F(MainWindow, AnUpdateFromAServerThatIsNotThereIsToldAndEnds) {
+  state_.WebServer = QStringLiteral("127.0.0.1:1");
+  state_.ArchiveFile = QStringLiteral("main.zip");
   form().setWebUpdateEnabled(true);
   QTest::mouseClick(controls().WebUpdate, Qt::LeftButton);
   ASSERT_EQ(messages_.informed.size(), 1U);
-  EXPECT_EQ(messages_.informed[0], QStringLiteral("The web update does not exist in this version yet."));
+  EXPECT_TRUE(messages_.informed[0].contains(QStringLiteral(": Could not get an update.")))
+      << messages_.informed[0].toStdString();
+  EXPECT_TRUE(controls().WebUpdate->isEnabled());
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(MainWindow, EmptyListSaysWhatToDoFirstWhileThereIsNoSource) {

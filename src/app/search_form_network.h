@@ -1,0 +1,57 @@
+// What the main window does over the network: the web update, and the exchange of lists with peers.
+#pragma once
+
+#include "app/search_form_menus.h"
+#include "net/archive_data_file.h"
+#include "net/http_network_transfer.h"
+#include "net/peer_exchange.h"
+#include "net/peer_progress.h"
+#include "net/progress_display.h"
+#include "net/web_update.h"
+#include "platform/message_box.h"
+#include "state/program_state.h"
+
+#include <QLocale>
+#include <QPointer>
+
+namespace quorvin {
+
+/// Wires the network's features to the windows. Nothing goes on until the user asks for it.
+class SearchFormNetwork {
+ public:
+  /// Everything must outlive the object; the main window owns the windows that are opened.
+  SearchFormNetwork(ProgramState& state, MessageBoxes& messages, const UpdateWindows& windows,
+                    const SearchFormMenus& menus, const QLocale& locale);
+  ~SearchFormNetwork();
+
+  void WebUpdate_Click() { webUpdate_.WebUpdate_Click(); }
+
+  /// Connects ("true") or disconnects the listener; the menu item shows what came of it.
+  void ShareLists_Click(bool share);
+  /// Asks for a peer, and gets its lists.
+  void GetLists_Click();
+
+  /// What start-up unpacks the main data file with.
+  ArchiveExtraction& dataFileExtraction() { return dataFile_; }
+  PeerExchange& peers() { return peers_; }
+
+  /// The program ends: no more connections, and no more windows.
+  void unload();
+
+ private:
+  PeerProgress& peerProgress();
+  void connectPeers();
+
+  ProgramState& state_;
+  QWidget& owner_;
+  const SearchFormMenus& menus_;
+  QLocale locale_;
+  ProgressDisplay display_;
+  DataFileExtraction dataFile_;
+  HttpNetworkTransfer web_;
+  WebUpdate webUpdate_;
+  PeerExchange peers_;
+  QPointer<PeerProgress> peerProgress_;
+};
+
+}  // namespace quorvin

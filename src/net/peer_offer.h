@@ -1,0 +1,26 @@
+// Adding the lists that came from a peer to the offline sources.
+#pragma once
+
+#include "net/peer_client.h"
+#include "platform/message_box.h"
+#include "state/program_state.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace quorvin {
+
+/// Unpacks the archive at `archivePath` into `targetFolder`, which exists and ends in a separator, and
+/// returns when that is done. Throws RuntimeFault when it fails; its description is told.
+using UnpackArchive = std::function<void(const QString& archivePath, const QString& targetFolder)>;
+
+/// Tells what came of a conversation, and asks whether the lists that have come are to be added to the
+/// offline sources. Then each archive is unpacked into a new folder of its own beside it, and every ".txt"
+/// file in it becomes an offline source; what cannot be unpacked or does not fit into the table any more is
+/// told. Nothing is told or asked of a conversation that the user cancelled before anything came. True when
+/// offline sources were added.
+bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, MessageBoxes& messages,
+                        const UnpackArchive& unpack);
+
+}  // namespace quorvin

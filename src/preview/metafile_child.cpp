@@ -1,0 +1,76 @@
+#include "preview/metafile_child.h"
+
+#include "preview/metafile_answer.h"
+#include "preview/metafile_bytes.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace quorvin {
+
+namespace {
+
+/// A request to stop is seen after at most this time.
+constexpr int kMillisecondsBetweenLooks = 50;
+
+/// Ends the process whichever way the waiting ends.
+class ChildProcess {
+ public:
+  explicit ChildProcess(const QString& program) {
+    process_.setProgram(program);
+    process_.setStandardErrorFile(QProcess::nullDevice());
+    process_.start(QIODevice::ReadWrite | QIODevice::Unbuffered);
+  }
+  ~ChildProcess() {
+    process_.kill();
+    process_.waitForFinished(-1);
+  }
+  ChildProcess(const ChildProcess&) = delete;
+  ChildProcess& operator=(const ChildProcess&) = delete;
+
+  QProcess& operator*() { return process_; }
+  QProcess* operator->() { return &process_; }
+
+ private:
+  QProcess process_;
+};
+
+QByteArray answerOf(ChildProcess& process, std::chrono::milliseconds patience, const PictureStop& stop) {
+  QElapsedTimer clock;
+  clock.start();
+  QByteArray answer;
+  while (process->state() != QProcess::NotRunning) {
+    if (stop.isRequested()) throw MetafileFault("its loading was cancelled");
+    if (clock.hasExpired(patience.count())) throw MetafileFault("drawing it takes too long");
+    process->waitForReadyRead(kMillisecondsBetweenLooks);
+    answer += process->readAllStandardOutput();
+    if (answer.size() > kLongestMetafileAnswer) break;
+  }
+  return answer + process->readAllStandardOutput();
+}
+
+}  // namespace
+
+MetafileChild usualMetafileChild() {
+  const QString folder = QCoreApplication::applicationDirPath();
+  const QString beside = folder + QStringLiteral("/quorvin-metafile");
+  const QString installed = folder + QStringLiteral("/../libexec/quorvin/quorvin-metafile");
+  return {QFileInfo::exists(beside) ? beside : installed};
+}
+
+MetafilePicture drawInChild(const MetafileChild& child, const QByteArray& metafile, const PictureStop& stop) {
+  ChildProcess process(child.program);
+  if (!process->waitForStarted()) throw MetafileFault("the program that draws metafiles cannot be started");
+  process->write(metafile);
+  process->closeWriteChannel();
+  const QByteArray answer = answerOf(process, child.patience, stop);
+  const bool hasEndedWell = process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+  if (!hasEndedWell && answer.isEmpty()) {
+    throw MetafileFault("it is damaged, or drawing it needs too much memory or time");
+  }
+  return pictureOfMetafileAnswer(answer);
+}
+
+}  // namespace quorvin

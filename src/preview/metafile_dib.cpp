@@ -1,0 +1,67 @@
+#include "preview/metafile_dib.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace quorvin {
+
+namespace {
+
+constexpr std::int64_t kMostPixels = 64'000'000;
+constexpr std::uint32_t kOldHeaderSize = 12;
+constexpr std::uint32_t kUsualHeaderSize = 40;
+constexpr std::uint32_t kMasks = 3;
+constexpr qsizetype kFileHeaderSize = 14;
+
+/// The size of the header with its masks and its palette.
+std::int64_t headerSize(const MetafileBytes& dib) {
+  const std::uint32_t size = dib.u32(0);
+  if (size == kOldHeaderSize) {
+    const std::uint16_t depth = dib.u16(10);
+    return size + (depth <= 8 ? (3LL << depth) : 0);
+  }
+  if (size < kUsualHeaderSize) throw MetafileFault("a bitmap in it has an unknown header");
+  const std::uint16_t depth = dib.u16(14);
+  const std::int64_t masks = size == kUsualHeaderSize && dib.u32(16) == kMasks ? 12 : 0;
+  std::int64_t colours = dib.u32(32);
+  if (depth <= 8 && (colours == 0 || colours > (1LL << depth))) colours = 1LL << depth;
+  return size + masks + colours * 4;
+}
+
+void checkSize(const MetafileBytes& dib) {
+  const bool isOld = dib.u32(0) == kOldHeaderSize;
+  const std::int64_t width = isOld ? dib.u16(4) : dib.i32(4);
+  const std::int64_t height = isOld ? dib.u16(6) : std::llabs(dib.i32(8));
+  if (width <= 0 || height <= 0) throw MetafileFault("a bitmap in it is empty");
+  if (width > kMostPixels / height) throw MetafileFault("a bitmap in it is too large");
+}
+
+void append32(QByteArray& bytes, std::int64_t value) {
+  const auto number = qToLittleEndian(static_cast<std::uint32_t>(value));
+  bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
+}
+
+}  // namespace
+
+QImage imageOfDib(const MetafileBytes& header, const MetafileBytes& bits) {
+  checkSize(header);
+  const std::int64_t size = std::min<std::int64_t>(headerSize(header), header.size());
+  QByteArray file("BM");
+  append32(file, kFileHeaderSize + size + bits.size());
+  append32(file, 0);
+  append32(file, kFileHeaderSize + size);
+  file += header.slice(0, size).all();
+  file += bits.all();
+  const QImage image = QImage::fromData(file, "BMP");
+  if (image.isNull()) throw MetafileFault("a bitmap in it cannot be read");
+  return image;
+}
+
+QImage imageOfPackedDib(const MetafileBytes& dib) {
+  const std::int64_t size = headerSize(dib);
+  return imageOfDib(dib.slice(0, size), dib.from(size));
+}
+
+}  // namespace quorvin
