@@ -2,12 +2,18 @@
 
 #include "platform/file_writer.h"
 #include "platform/runtime_fault.h"
+#include "platform/sequential_file.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <cstddef>
+#include <ctime>
 #include <memory>
+#include <optional>
+#include <span>
+#include <utility>
 #include <zip.h>
 
 namespace quorvin {
@@ -16,7 +22,6 @@ namespace {
 
 // By this an archive is known as one that the program made, and may make again.
 constexpr char kMark[] = "Quorvin Utility: a listing packed for sharing";
-constexpr zip_int64_t kToTheEnd = 0;
 constexpr zip_uint16_t kMarkLength = sizeof kMark - 1;
 
 struct Discard {
@@ -46,28 +51,77 @@ Archive openArchive(const QString& path, int flags) {
   throw fault;
 }
 
-void addListing(zip_t* archive, const QString& listingPath) {
-  const QByteArray name = QFileInfo(listingPath).fileName().toUtf8();
-  zip_source_t* source = zip_source_file(archive, QFile::encodeName(listingPath).constData(), 0, kToTheEnd);
-  if (!source) throw faultOf(archive, listingPath);
-  if (zip_file_add(archive, name.constData(), source, ZIP_FL_ENC_UTF_8) >= 0) return;
-  zip_source_free(source);
-  throw faultOf(archive, listingPath);
-}
+/// The listing as libzip reads it. libzip has a way of its own to be stopped, but looks at it only when it
+/// has written something, which with a listing that packs well is seldom.
+class ListingReader {
+ public:
+  ListingReader(const QString& path, const PackingPause& pause) : file_(path), pause_(pause) {}
 
-int askWhetherToStop(zip_t*, void* pause) {
-  return (*static_cast<const PackingPause*>(pause))() ? 1 : 0;
+  bool isStopped() const { return isStopped_; }
+  const std::optional<RuntimeFault>& fault() const { return fault_; }
+
+  static zip_int64_t serve(void* reader, void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    return static_cast<ListingReader*>(reader)->answer(data, length, command);
+  }
+
+ private:
+  zip_int64_t answer(void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    switch (command) {
+      case ZIP_SOURCE_READ:
+        return read({static_cast<char*>(data), static_cast<std::size_t>(length)});
+      case ZIP_SOURCE_STAT:
+        return stat(static_cast<zip_stat_t*>(data));
+      case ZIP_SOURCE_ERROR:
+        return zip_error_to_data(&error_, data, length);
+      case ZIP_SOURCE_SUPPORTS:
+        return zip_source_make_command_bitmap(ZIP_SOURCE_OPEN, ZIP_SOURCE_READ, ZIP_SOURCE_CLOSE,
+                                              ZIP_SOURCE_STAT, ZIP_SOURCE_ERROR, ZIP_SOURCE_FREE, -1);
+      default:
+        return 0;
+    }
+  }
+
+  /// No exception may pass through libzip, which is written in C.
+  zip_int64_t read(std::span<char> buffer) {
+    try {
+      isStopped_ = pause_();
+      if (!isStopped_) return static_cast<zip_int64_t>(file_.read(buffer));
+    } catch (const RuntimeFault& fault) {
+      fault_ = fault;
+    }
+    zip_error_set(&error_, ZIP_ER_READ, 0);
+    return -1;
+  }
+
+  static zip_int64_t stat(zip_stat_t* status) {
+    zip_stat_init(status);
+    status->mtime = std::time(nullptr);
+    status->valid = ZIP_STAT_MTIME;
+    return static_cast<zip_int64_t>(sizeof *status);
+  }
+
+  SequentialFile file_;
+  const PackingPause& pause_;
+  zip_error_t error_{};
+  bool isStopped_ = false;
+  std::optional<RuntimeFault> fault_;
+};
+
+void addListing(zip_t* archive, ListingReader& listing, const QByteArray& name) {
+  zip_source_t* source = zip_source_function(archive, ListingReader::serve, &listing);
+  if (source && zip_file_add(archive, name.constData(), source, ZIP_FL_ENC_UTF_8) >= 0) return;
+  zip_source_free(source);
+  throw faultOf(archive, QString::fromUtf8(name));
 }
 
 /// False when the work was stopped.
-bool writeArchive(Archive archive, const QString& listingPath, PackingPause pause) {
-  zip_register_cancel_callback_with_state(archive.get(), askWhetherToStop, nullptr, &pause);
+bool writeArchive(Archive archive, const ListingReader& listing, const QString& archivePath) {
   if (zip_close(archive.get()) == 0) {
     static_cast<void>(archive.release());
     return true;
   }
-  if (zip_error_code_zip(zip_get_error(archive.get())) == ZIP_ER_CANCELLED) return false;
-  throw faultOf(archive.get(), listingPath);
+  if (listing.isStopped()) return false;
+  throw listing.fault() ? *listing.fault() : faultOf(archive.get(), archivePath);
 }
 
 bool hasMark(zip_t* archive) {
@@ -85,16 +139,16 @@ QTemporaryDir workFolderBeside(const QString& path) {
 
 PackingOutcome packListing(const QString& listingPath, const QString& archivePath,
                            const PackingPause& pause) {
-  if (!QFileInfo(listingPath).isFile()) throw RuntimeFault(FaultNumber::FileNotFound);
+  ListingReader listing(listingPath, pause);
   const QTemporaryDir work = workFolderBeside(archivePath);
   if (!work.isValid()) {
     throw RuntimeFault(FaultNumber::PathFileAccess, work.errorString() + QStringLiteral(": ") + archivePath);
   }
   const QString aside = work.filePath(QStringLiteral("list.zip"));
   Archive archive = openArchive(aside, ZIP_CREATE | ZIP_EXCL);
-  addListing(archive.get(), listingPath);
+  addListing(archive.get(), listing, QFileInfo(listingPath).fileName().toUtf8());
   zip_set_archive_comment(archive.get(), kMark, kMarkLength);
-  if (!writeArchive(std::move(archive), listingPath, pause)) return PackingOutcome::Stopped;
+  if (!writeArchive(std::move(archive), listing, archivePath)) return PackingOutcome::Stopped;
   putInPlace(aside, archivePath);
   return PackingOutcome::Packed;
 }

@@ -120,13 +120,11 @@ TEST_F(PeerSendTimerTest, SwitchesItselfOffWhenTheQueueIsDrained) {
 
 TEST_F(PeerSendTimerTest, EnablingItAgainKeepsItsPace) {
   queue_.append("a");
-  QElapsedTimer clock;
-  clock.start();
-  timer_.enable();
-  QTest::qWait(60);
-  timer_.enable();
-  ASSERT_TRUE(waitFor([this] { return !sent_.empty(); }));
-  EXPECT_LT(clock.elapsed(), 155);
+  for (int i = 0; i < 20 && sent_.empty(); ++i) {
+    timer_.enable();
+    QTest::qWait(20);
+  }
+  EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("a")));
 }
 
 TEST_F(PeerSendTimerTest, AClosingProgramSendsNothingAndQuitsOnce) {

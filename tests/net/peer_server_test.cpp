@@ -82,7 +82,7 @@ TEST_F(PeerServerTest, WhatArrivesAtOnceIsOneMessage) {
   PeerCaller caller(server_.port());
   EXPECT_EQ(caller.ask("I AM: Eve 1Req List Info:", 15), QByteArray("I AM: Bob 37622"));
   EXPECT_EQ(caller.receiveForAWhile(), QByteArray());
-  EXPECT_EQ(caller.ask("GetList: AGetList: B", 25), QByteArray("List: AGetList: B.zip"));
+  EXPECT_EQ(caller.ask("GetList: AGetList: B", 21), QByteArray("List: AGetList: B.zip"));
 }
 
 TEST_F(PeerServerTest, TheBytesOfANameComeBackAsTheyWere) {
