@@ -76,6 +76,7 @@ QRect HitListView::rowRect(int row) const {
 void HitListView::setEmptyText(const QString& text) {
   if (text == emptyText_) return;
   emptyText_ = text;
+  setAccessibleDescription(text);
   viewport()->update();
 }
 

@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+#include <QWindowStateChangeEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -64,6 +65,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   takeInitialPlace();
   connectControls();
   connectMenus();
+  setPreviewOpener(
+      [this](const QString& folder, const QString& name) { windows_.PreviewImage(folder + name); });
   network_.peers().SndQTime().setQuit([this] { leave(); });
   controls_.SearchStr->setFocus();
   sourcesChanged();
@@ -290,10 +293,18 @@ void SearchForm::moveOntoScreen() {
 
 void SearchForm::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  // One that comes back in the size that it had is not resized by the window system.
+  if (isRestored(*event)) layOut();
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
   if (!centralWidget()) return;
   placeControls(controls_);
   layOut();
+}
+
+/// Whether the window was minimized until now.
+bool SearchForm::isRestored(const QEvent& event) const {
+  if (event.type() != QEvent::WindowStateChange || isMinimized()) return false;
+  return static_cast<const QWindowStateChangeEvent&>(event).oldState().testFlag(Qt::WindowMinimized);
 }
 
 void SearchForm::showEvent(QShowEvent* event) {
@@ -321,6 +332,7 @@ void SearchForm::unloadOtherWindows() {
   windows_.unloadOptions();
   windows_.unloadSources();
   refreshDisplay_.close();
+  windows_.unloadPreview();
   windows_.unloadBrowser();
   network_.unload();
 }

@@ -126,6 +126,7 @@ class SearchForm : public QMainWindow,
   void stopRun();
   bool isRunning() const;
   void layOut();
+  bool isRestored(const QEvent& event) const;
   void limitSize();
   void settleOuterSize();
   void moveOntoScreen();

@@ -66,6 +66,7 @@ SearchFormControls makeControls(QWidget* parent) {
   SearchFormControls made{};
   made.MenuLine = new QFrame(parent);
   made.MenuLine->setObjectName(QStringLiteral("MenuLine"));
+  made.MenuLine->setAccessibleName(QStringLiteral("Line below the menu"));
   made.MenuLine->setFrameStyle(QFrame::HLine | QFrame::Sunken);
 
   // In tab order.
@@ -81,12 +82,13 @@ SearchFormControls makeControls(QWidget* parent) {
 
   made.searchLabel = makeCaption(parent, QStringLiteral("&Search for:"), made.SearchStr);
   made.matchLabel = makeCaption(parent, QStringLiteral("&Match %:"), made.DesMatch);
-  made.foundLabel = makeCaption(parent, QStringLiteral("Found:"), nullptr);
-  made.searchedLabel = makeCaption(parent, QStringLiteral("Searched:"), nullptr);
   made.lblFound = makeValue(parent, QStringLiteral("lblFound"), QStringLiteral("0"),
                             QStringLiteral("Number of entries found"));
   made.lblSearched = makeValue(parent, QStringLiteral("lblSearched"), QStringLiteral("0"),
                                QStringLiteral("Number of entries searched"));
+  // Screen readers read a caption before what it belongs to, a bare number otherwise.
+  made.foundLabel = makeCaption(parent, QStringLiteral("Found:"), made.lblFound);
+  made.searchedLabel = makeCaption(parent, QStringLiteral("Searched:"), made.lblSearched);
   made.lblVer = makeValue(parent, QStringLiteral("lblVer"), QString(), QStringLiteral("Program version"));
   made.lblVer->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   made.lblVer->setForegroundRole(QPalette::PlaceholderText);

@@ -26,6 +26,7 @@ ItemMenu makeItemMenu(QWidget* parent) {
   ItemMenu made{};
   made.menu = new QMenu(QStringLiteral("PopUP"), parent);
   made.menu->setObjectName(QStringLiteral("ItemMenu"));
+  made.menu->setAccessibleName(QStringLiteral("Hit"));
   made.CtLaunch = addItem(made.menu, QStringLiteral("CtLaunch"), QStringLiteral("O&pen"));
   made.CTOpFolder =
       addItem(made.menu, QStringLiteral("CTOpFolder"), QStringLiteral("Open Containing &Folder"));

@@ -10,6 +10,7 @@ namespace {
 QMenu* addMenu(QMenuBar* bar, const QString& name, const QString& caption) {
   QMenu* menu = bar->addMenu(caption);
   menu->setObjectName(name);
+  menu->setAccessibleName(QString(caption).remove(u'&'));
   return menu;
 }
 
@@ -23,6 +24,7 @@ QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
 
 SearchFormMenus makeMenus(QMenuBar* bar) {
   SearchFormMenus made{};
+  bar->setAccessibleName(QStringLiteral("Main menu"));
   made.FileMenu = addMenu(bar, QStringLiteral("FileMenu"), QStringLiteral("&File"));
   made.AddLocal = addItem(made.FileMenu, QStringLiteral("AddLocal"),
                           QStringLiteral("&Add/Edit Local Folder To Search List"));

@@ -1,5 +1,6 @@
 #include "app/search_form_windows.h"
 
+#include "app/fault_report.h"
 #include "app/version.h"
 #include "help/help_files.h"
 #include "platform/file_lookup.h"
@@ -23,13 +24,20 @@ ProductFacts productFacts() {
           applicationDescription()};
 }
 
+PreviewFaultReport previewReport(MessageBoxes& messages) {
+  return [&messages](const QString& path, const RuntimeFault& fault) {
+    messages.inform(faultReport(fault, QStringLiteral("loading the picture %1").arg(path)));
+  };
+}
+
 }  // namespace
 
 SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages, SourceEditorHost& host,
                                      QWidget& owner, const QLocale& locale, FilePicker* picker)
     : owner_(owner),
       sources_({state, messages, picker ? *picker : systemPicker_, host}, &owner),
-      options_({state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)}, &owner) {}
+      options_({state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)}, &owner),
+      preview_(&owner, usualMetafileChild(), previewReport(messages)) {}
 
 SearchFormWindows::~SearchFormWindows() = default;
 

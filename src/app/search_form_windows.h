@@ -8,6 +8,7 @@
 #include "help/frm_splash.h"
 #include "help/network_page_transfer.h"
 #include "platform/message_box.h"
+#include "preview/img_pre_opener.h"
 #include "state/program_state.h"
 
 #include <QLocale>
@@ -37,10 +38,14 @@ class SearchFormWindows {
   void HlpGen_Click();
   void RelInfo_Click();
 
+  /// Loads a picture and shows it; returns at once.
+  void PreviewImage(const QString& path) { preview_.PreviewImage(path); }
+
   // Unloading; each does nothing where the window is not there.
   void unloadSplash();
   void unloadOptions() { options_.unload(); }
   void unloadSources() { sources_.unload(); }
+  void unloadPreview() { preview_.unload(); }
   void unloadBrowser();
 
  private:
@@ -50,6 +55,7 @@ class SearchFormWindows {
   DialogFilePicker systemPicker_;
   LocalLocOpener sources_;
   ListOptionsOpener options_;
+  ImgPreOpener preview_;
   QPointer<frmSplash> splash_;
   NetworkPageTransfer transfer_;
   /// A window of its own beside the main one, so it is not the main window's child.

@@ -3,11 +3,26 @@
 #include "app/version.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace quorvin {
 
 namespace {
+
+/// The icon is the only thing that tells which kind of message it is; a screen reader needs a word for it.
+void nameIcon(const QMessageBox& box) {
+  auto* icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+  if (!icon) return;
+  switch (box.icon()) {
+    case QMessageBox::Question:
+      return icon->setAccessibleName(QStringLiteral("Question"));
+    case QMessageBox::Warning:
+      return icon->setAccessibleName(QStringLiteral("Warning"));
+    default:
+      return icon->setAccessibleName(QStringLiteral("Information"));
+  }
+}
 
 QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
                                  QMessageBox::StandardButtons buttons) {
@@ -17,6 +32,7 @@ QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
   // Messages name files, and a file's name may look like markup.
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  nameIcon(box);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

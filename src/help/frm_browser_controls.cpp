@@ -3,8 +3,10 @@
 #include "help/browser_measures.h"
 #include "help/frm_browser_icons.h"
 
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -63,10 +65,17 @@ QAction* addToolbarButton(QToolBar* bar, BrowserButton button) {
   return action;
 }
 
+/// The button behind which a narrow window keeps the others has neither a caption nor a name of its own.
+void nameExtension(const QToolBar& bar) {
+  auto* extension = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+  if (extension) extension->setAccessibleName(QStringLiteral("More buttons"));
+}
+
 void makeToolbar(QWidget* window, BrowserControls& made) {
   made.tbToolBar = new QToolBar(window);
   made.tbToolBar->setObjectName(QStringLiteral("tbToolBar"));
   made.tbToolBar->setAccessibleName(QStringLiteral("Help toolbar"));
+  nameExtension(*made.tbToolBar);
   for (int button = 0; button < kBrowserButtons; ++button) {
     made.buttons[static_cast<std::size_t>(button)] =
         addToolbarButton(made.tbToolBar, static_cast<BrowserButton>(button));
@@ -80,6 +89,8 @@ void makeAddressRow(QWidget* window, BrowserControls& made) {
   made.cboAddress->setObjectName(QStringLiteral("cboAddress"));
   made.cboAddress->setAccessibleName(QStringLiteral("Address"));
   made.cboAddress->setEditable(true);
+  made.cboAddress->lineEdit()->setAccessibleName(QStringLiteral("Address"));
+  made.cboAddress->view()->setAccessibleName(QStringLiteral("Visited addresses"));
   made.cboAddress->setInsertPolicy(QComboBox::NoInsert);
   made.cboAddress->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   made.cboAddress->setCompleter(nullptr);
@@ -135,6 +146,8 @@ BrowserControls makeBrowserControls(QWidget* window, const HelpFiles& files) {
   made.brwWebBrowser = new HelpView(files, made.inner);
   made.brwWebBrowser->setObjectName(QStringLiteral("brwWebBrowser"));
   made.brwWebBrowser->setAccessibleName(QStringLiteral("Page"));
+  made.brwWebBrowser->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the page down"));
+  made.brwWebBrowser->horizontalScrollBar()->setAccessibleName(QStringLiteral("Scroll the page sideways"));
   made.findBar = new FindBar(*made.brwWebBrowser, window);
   makeStatusRow(window, made);
 

@@ -27,6 +27,7 @@ FindBar::FindBar(QTextBrowser& page, QWidget* parent)
   text_->setObjectName(QStringLiteral("FindText"));
   text_->setAccessibleName(QStringLiteral("Find on this page"));
   text_->setClearButtonEnabled(true);
+  if (auto* clear = text_->findChild<QToolButton*>()) clear->setAccessibleName(QStringLiteral("Clear"));
   text_->setMinimumWidth(fontMetrics().averageCharWidth() * kTextCharacters);
   text_->installEventFilter(this);
   outcome_->setObjectName(QStringLiteral("FindOutcome"));

@@ -51,6 +51,8 @@ void PeerConnection::IPServ_DataArrival() {
   if (message.isEmpty()) return;
   if (!mayWait(message)) return end();
   waiting_.push_back(message);
+  // What is read comes in a buffer of many kilobytes, however short it is.
+  waiting_.back().squeeze();
   waitingBytes_ += message.size();
   if (waiting_.size() == 1) goOn();
 }

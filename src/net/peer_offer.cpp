@@ -130,8 +130,10 @@ bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, Message
   }
   if (!messages.askYesNo(question(outcome))) return false;
   ListAdder adder(shownPeerText(outcome.peer), state);
-  for (const ReceivedList& list : outcome.received) adder.add(list, unpack);
-  if (!adder.problems().isEmpty()) messages.inform(shownProblems(adder.problems()));
+  for (const ReceivedList& list : outcome.received) {
+    if (!state.QuitPending) adder.add(list, unpack);
+  }
+  if (!adder.problems().isEmpty() && !state.QuitPending) messages.inform(shownProblems(adder.problems()));
   return adder.addedCount() > 0;
 }
 

@@ -18,8 +18,8 @@ using UnpackArchive = std::function<void(const QString& archivePath, const QStri
 /// Tells what came of a conversation, and asks whether the lists that have come are to be added to the
 /// offline sources. Then each archive is unpacked into a new folder of its own beside it, and every ".txt"
 /// file in it becomes an offline source; what cannot be unpacked or does not fit into the table any more is
-/// told. Nothing is told or asked of a conversation that the user cancelled before anything came. True when
-/// offline sources were added.
+/// told. Nothing is told or asked of a conversation that the user cancelled before anything came, and nothing
+/// more is done or told once the program is closing. True when offline sources were added.
 bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, MessageBoxes& messages,
                         const UnpackArchive& unpack);
 

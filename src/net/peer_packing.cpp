@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstddef>
 #include <ctime>
 #include <memory>
@@ -55,7 +56,8 @@ Archive openArchive(const QString& path, int flags) {
 /// has written something, which with a listing that packs well is seldom.
 class ListingReader {
  public:
-  ListingReader(const QString& path, const PackingPause& pause) : file_(path), pause_(pause) {}
+  ListingReader(const QString& path, const PackingPause& pause)
+      : file_(path), bytesLeft_(static_cast<std::size_t>(file_.sizeWhenOpened())), pause_(pause) {}
 
   bool isStopped() const { return isStopped_; }
   const std::optional<RuntimeFault>& fault() const { return fault_; }
@@ -85,7 +87,7 @@ class ListingReader {
   zip_int64_t read(std::span<char> buffer) {
     try {
       isStopped_ = pause_();
-      if (!isStopped_) return static_cast<zip_int64_t>(file_.read(buffer));
+      if (!isStopped_) return static_cast<zip_int64_t>(readFile(buffer));
     } catch (const RuntimeFault& fault) {
       fault_ = fault;
     }
@@ -93,14 +95,25 @@ class ListingReader {
     return -1;
   }
 
-  static zip_int64_t stat(zip_stat_t* status) {
+  /// Not beyond the length that was announced.
+  std::size_t readFile(std::span<char> buffer) {
+    const std::size_t count =
+        bytesLeft_ == 0 ? 0 : file_.read(buffer.first(std::min(buffer.size(), bytesLeft_)));
+    bytesLeft_ -= count;
+    return count;
+  }
+
+  /// Without the size the archive would be of the kind for large files, which not every program can read.
+  zip_int64_t stat(zip_stat_t* status) const {
     zip_stat_init(status);
     status->mtime = std::time(nullptr);
-    status->valid = ZIP_STAT_MTIME;
+    status->size = static_cast<zip_uint64_t>(file_.sizeWhenOpened());
+    status->valid = ZIP_STAT_MTIME | ZIP_STAT_SIZE;
     return static_cast<zip_int64_t>(sizeof *status);
   }
 
   SequentialFile file_;
+  std::size_t bytesLeft_;
   const PackingPause& pause_;
   zip_error_t error_{};
   bool isStopped_ = false;

@@ -1,42 +1,45 @@
 #include "platform/file_replacement.h"
 
+#include "platform/file_writer.h"
 #include "platform/runtime_fault.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
+
+#include <string_view>
 
 namespace quorvin {
 
 namespace {
 
-FaultNumber faultNumberOf(QFileDevice::FileError error) {
-  switch (error) {
-    case QFileDevice::PermissionsError:
-      return FaultNumber::PermissionDenied;
-    // A disk that fills up takes a part of what it is given before it refuses the rest.
-    case QFileDevice::WriteError:
-    case QFileDevice::ResourceError:
-      return FaultNumber::DiskFull;
-    default:
-      return FaultNumber::PathFileAccess;
-  }
+RuntimeFault faultOf(FaultNumber number, const QString& path) {
+  return {number, describe(number) + QStringLiteral(": ") + path};
+}
+
+bool isThereButClosed(const QFileInfo& info) {
+  return info.exists() && !info.isWritable();
+}
+
+/// QSaveFile calls a protected file a failed write, and a protected folder a failed opening; the user wants
+/// to know that it is protected.
+FaultNumber whyNotOpened(const QString& path) {
+  const QFileInfo file(path);
+  const bool isProtected = isThereButClosed(file) || isThereButClosed(QFileInfo(file.path()));
+  return isProtected ? FaultNumber::PermissionDenied : FaultNumber::PathFileAccess;
 }
 
 }  // namespace
 
 void replaceFile(const QString& path, QByteArrayView contents) {
   QSaveFile file(path);
-  const auto fail = [&path](FaultNumber number) {
-    throw RuntimeFault(number, describe(number) + QStringLiteral(": ") + path);
-  };
-  if (!file.open(QIODevice::WriteOnly)) fail(faultNumberOf(file.error()));
-  // commit() would put a short file in place: only the counts tell that a write was cut.
-  const bool whole = file.write(contents.data(), contents.size()) == contents.size() && file.flush();
-  if (!whole) {
-    file.cancelWriting();
-    fail(file.error() == QFileDevice::PermissionsError ? FaultNumber::PermissionDenied
-                                                       : FaultNumber::DiskFull);
-  }
-  if (!file.commit()) fail(faultNumberOf(file.error()));
+  if (!file.open(QIODevice::WriteOnly)) throw faultOf(whyNotOpened(path), path);
+  // Not through QSaveFile: it takes no notice of a medium that refuses what was written only when asked to
+  // keep it, and would put a short file in place.
+  FileWriter writer(file.handle(), path);
+  writer.write(std::string_view(contents.data(), static_cast<std::size_t>(contents.size())));
+  writer.flush();
+  writer.sync();
+  if (!file.commit()) throw faultOf(FaultNumber::PathFileAccess, path);
 }
 
 }  // namespace quorvin

@@ -1,13 +1,13 @@
 #include "platform/ini_settings_store.h"
 
 #include "platform/file_replacement.h"
+#include "platform/ini_settings_lock.h"
 #include "platform/ini_text.h"
 #include "platform/runtime_fault.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -57,8 +57,7 @@ QString IniSettingsStore::read(const QString& application, const QString& sectio
 void IniSettingsStore::write(const QString& application, const QString& section, const QString& key,
                              const QString& value) {
   if (!QDir().mkpath(QFileInfo(path_).path())) throw accessFault(path_);
-  QLockFile lock(path_ + QStringLiteral(".lock"));
-  if (!lock.tryLock(kLockWaitMilliseconds)) throw accessFault(path_);
+  const IniSettingsLock lock(path_, kLockWaitMilliseconds);
   // A file that cannot be read is not replaced: it may hold all that the user has set.
   std::optional<IniText> ini = load(path_);
   if (!ini) throw accessFault(path_);

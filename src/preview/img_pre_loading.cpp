@@ -32,6 +32,8 @@ ImgPreLoading::ImgPreLoading(const QString& path, QWidget* parent) : QProgressDi
   setCancelButton(cancel);
   setRange(0, 0);
   setMinimumDuration(kMillisecondsUnseen);
+  // The time begins with the first value.
+  setValue(0);
 }
 
 }  // namespace quorvin

@@ -29,17 +29,21 @@ void ImgPreOpener::PreviewImage(const QString& path) {
   stop_ = PictureStop();
   loading_ = std::make_unique<ImgPreLoading>(path, owner_);
   connect(loading_.get(), &QProgressDialog::canceled, this, &ImgPreOpener::cancel);
-  const auto isStill = [this, stop = stop_] { return !stop.isRequested() && isLoading(); };
-  inBackground(pool_, [path, child = child_, stop = stop_] { return loadPicture(path, child, stop); })
-      .then(this,
-            [this, path, isStill](const LoadedPicture& picture) {
-              if (isStill()) loaded(picture, path);
-            })
-      .onFailed(this, [this, path, isStill](const RuntimeFault& fault) {
-        if (!isStill()) return;
-        cancel();
-        report_(path, fault);
+  connect(loading_.get(), &QDialog::rejected, this, &ImgPreOpener::cancel);
+  inBackground(
+      pool_, this, [path, child = child_, stop = stop_] { return loadPicture(path, child, stop); },
+      [this, path, stop = stop_](const QFuture<LoadedPicture>& picture) {
+        if (!stop.isRequested()) loadingEnded(picture, path);
       });
+}
+
+void ImgPreOpener::loadingEnded(const QFuture<LoadedPicture>& picture, const QString& path) {
+  try {
+    show(picture.result(), path);
+  } catch (const RuntimeFault& fault) {
+    cancel();
+    report_(path, fault);
+  }
 }
 
 void ImgPreOpener::cancel() {
@@ -48,7 +52,7 @@ void ImgPreOpener::cancel() {
   if (loading_) loading_.release()->deleteLater();
 }
 
-void ImgPreOpener::loaded(const LoadedPicture& picture, const QString& path) {
+void ImgPreOpener::show(const LoadedPicture& picture, const QString& path) {
   loading_.release()->deleteLater();
   // From now on the picture belongs to the window: giving up another must not stop it.
   stop_ = PictureStop();

@@ -7,6 +7,7 @@
 #include "preview/metafile_child.h"
 #include "preview/picture_stop.h"
 
+#include <QFuture>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -47,7 +48,8 @@ class ImgPreOpener : public QObject {
 
  private:
   void cancel();
-  void loaded(const LoadedPicture& picture, const QString& path);
+  void loadingEnded(const QFuture<LoadedPicture>& picture, const QString& path);
+  void show(const LoadedPicture& picture, const QString& path);
   ImgPre& madeWindow();
 
   QWidget* owner_;

@@ -41,12 +41,12 @@ void PictureAnimation::setPaused(bool isPaused) {
 }
 
 void PictureAnimation::decodeNext() {
-  inBackground(pool_, [decoder = decoder_] {
-    return decoder->next();
-  }).then(this, [this, decoder = decoder_](const std::optional<PictureFrame>& frame) {
-    // Another picture may have come meanwhile.
-    if (decoder == decoder_) frameDecoded(frame);
-  });
+  inBackground(
+      pool_, this, [decoder = decoder_] { return decoder->next(); },
+      [this, decoder = decoder_](const QFuture<std::optional<PictureFrame>>& frame) {
+        // Another picture may have come meanwhile.
+        if (decoder == decoder_) frameDecoded(frame.result());
+      });
 }
 
 void PictureAnimation::frameDecoded(const std::optional<PictureFrame>& frame) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QFuture>
+#include <QFutureWatcher>
+#include <QObject>
 #include <QPromise>
 #include <QThreadPool>
 
@@ -11,11 +13,20 @@
 
 namespace quorvin {
 
-/// Runs `work` in one of the threads of `pool`. What it returns, or throws, comes out of the future.
-template <typename Work>
-auto inBackground(QThreadPool& pool, Work work) -> QFuture<decltype(work())> {
+/// Runs `work` in one of the threads of `pool` and then, in the thread of `user`, `use(future)`, where
+/// `future` holds what the work returned or throws what it threw. When `user` ends before, `use` is not
+/// called; the work goes on to its end.
+template <typename Work, typename Use>
+void inBackground(QThreadPool& pool, QObject* user, Work work, Use use) {
+  using Result = decltype(work());
+  auto* watcher = new QFutureWatcher<Result>(user);
+  QObject::connect(watcher, &QFutureWatcherBase::finished, user, [watcher, use = std::move(use)] {
+    watcher->deleteLater();
+    use(watcher->future());
+  });
   // Shared, because a task of the pool must be copyable.
-  const auto promise = std::make_shared<QPromise<decltype(work())>>();
+  const auto promise = std::make_shared<QPromise<Result>>();
+  watcher->setFuture(promise->future());
   pool.start([promise, work = std::move(work)]() mutable {
     promise->start();
     try {
@@ -25,7 +36,6 @@ auto inBackground(QThreadPool& pool, Work work) -> QFuture<decltype(work())> {
     }
     promise->finish();
   });
-  return promise->future();
 }
 
 }  // namespace quorvin

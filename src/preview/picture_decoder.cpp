@@ -3,8 +3,11 @@
 #include "platform/runtime_fault.h"
 #include "preview/picture_icon.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace quorvin {
@@ -14,6 +17,7 @@ namespace {
 constexpr qint64 kMostPixels = 256'000'000;
 /// Decoded pictures of more pixels than any screen has are kept smaller.
 constexpr double kMostPixelsKept = 16'000'000;
+constexpr int kLongestSideKept = 8000;
 /// Four bytes for each pixel of the largest picture, in megabytes of the reader's kind.
 constexpr int kAllocationLimit = 1024;
 /// The usual reading of files that ask for no time at all.
@@ -34,13 +38,67 @@ bool hasRareBitmapHeader(QByteArrayView start) {
 void useUsualBitmapHeader(PictureFile& file) {
   constexpr qint64 kSizePlace = 14;
   constexpr char kUsualSize = 40;
-  if (hasRareBitmapHeader(file.start(kFormatBytes))) file.replaceByte(kSizePlace, kUsualSize);
+  if (hasRareBitmapHeader(file.part(0, kFormatBytes))) file.replaceByte(kSizePlace, kUsualSize);
 }
 
+/// The reader paints the background in its colour. Everybody else leaves it empty, and so does the reader
+/// when the colour's number is none of the palette's, for which there is room unless the palette is full.
+void leaveBackgroundEmpty(PictureFile& file) {
+  constexpr qint64 kColourPlace = 11;
+  constexpr int kFullPalette = 7;
+  const QByteArray start = file.part(0, kFormatBytes);
+  const bool isFull = start.size() > kColourPlace && (start[10] & kFullPalette) == kFullPalette;
+  if (!isFull) file.replaceByte(kColourPlace, '\xFF');
+}
+
+/// The proportions may change: the picture is stretched anyway.
 QSize keptSize(const QSize& size) {
-  const double pixels = double(size.width()) * size.height();
-  if (pixels <= kMostPixelsKept) return size;
-  return (QSizeF(size) * std::sqrt(kMostPixelsKept / pixels)).toSize().expandedTo({1, 1});
+  const QSize sides = size.boundedTo({kLongestSideKept, kLongestSideKept});
+  const double pixels = double(sides.width()) * sides.height();
+  if (pixels <= kMostPixelsKept) return sides;
+  return (QSizeF(sides) * std::sqrt(kMostPixelsKept / pixels)).toSize();
+}
+
+/// A bitmap that begins with its first row tells a height below zero.
+int rowsOf(int height) {
+  return height < 0 ? -std::max(height, -std::numeric_limits<int>::max()) : height;
+}
+
+bool hasOldBitmapHeader(QByteArrayView start) {
+  constexpr qsizetype kSizePlace = 14;
+  return qFromLittleEndian<quint32>(start.data() + kSizePlace) == 12;
+}
+
+/// Leaving pixels out first costs little, whatever the size; the rest is done softly.
+QImage reduced(const QImage& image, const QSize& size) {
+  if (image.size() == size) return image;
+  const QSize few = (size * 2).boundedTo(image.size());
+  const QImage sample = image.scaled(few, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+  // Soft colours are not in a palette.
+  return sample.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+      .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// The size that a file tells, where the reader calls larger ones damaged.
+QSize toldSize(PictureFormat format, QByteArrayView start) {
+  constexpr qsizetype kEnough = 26;
+  if (start.size() < kEnough) return {};
+  const auto number = [start](qsizetype at) { return qFromLittleEndian<qint32>(start.data() + at); };
+  if (format == PictureFormat::Gif) return {number(6) & 0xFFFF, (number(6) >> 16) & 0xFFFF};
+  if (format != PictureFormat::Bitmap || hasOldBitmapHeader(start)) return {};
+  return {number(18), rowsOf(number(22))};
+}
+
+/// Whether a large bitmap's file has less than half of the bytes that its pixels take, or could take in runs.
+bool lacksPixels(QByteArrayView start, const QSize& size, qint64 fileSize) {
+  constexpr qint64 kMostPixelsToAByte = 128;
+  const qint64 pixels = qint64{size.width()} * size.height();
+  if (pixels <= qint64{16'000'000} || start.size() < kFormatBytes) return false;
+  const bool isOld = hasOldBitmapHeader(start);
+  const qint64 depth = qFromLittleEndian<quint16>(start.data() + (isOld ? 24 : 28));
+  const quint32 compression = isOld ? 0 : qFromLittleEndian<quint32>(start.data() + 30);
+  const bool isInRuns = compression == 1 || compression == 2;
+  return fileSize < (isInRuns ? pixels / kMostPixelsToAByte : pixels * depth / 8 / 2);
 }
 
 int shownFor(int milliseconds) {
@@ -54,21 +112,24 @@ QString pictureRefusal(const QString& name, const QString& why) {
 }
 
 PictureDecoder::PictureDecoder(std::unique_ptr<PictureFile> file, PictureFormat format, const QString& name)
-    : file_(std::move(file)), readerName_(imageReaderOf(format)), name_(name) {
+    : file_(std::move(file)), format_(format), name_(name) {
   // Ours is the limit that tells its reason.
   QImageReader::setAllocationLimit(kAllocationLimit);
-  if (format == PictureFormat::Icon) iconNumber_ = bestIcon(file_->start(kLongestIconDirectory));
+  if (format == PictureFormat::Icon) chooseIcon();
   if (format == PictureFormat::Jpeg) file_->limitSteps(kJpegStep);
+  if (format == PictureFormat::Gif) leaveBackgroundEmpty(*file_);
   if (format == PictureFormat::Bitmap) useUsualBitmapHeader(*file_);
+  refuseTooLarge(toldSize(format, file_->part(0, kFormatBytes)));
   rewind();
   size_ = reader_->size();
+  size_.setHeight(rowsOf(size_.height()));
   if (size_.isEmpty()) refuse(QStringLiteral("it is damaged, or of a kind that is not supported"));
-  if (qint64{size_.width()} * size_.height() > kMostPixels) {
-    refuse(QStringLiteral("with %1 by %2 pixels it is larger than 256 megapixels")
-               .arg(size_.width())
-               .arg(size_.height()));
+  refuseTooLarge(size_);
+  if (format == PictureFormat::Bitmap && lacksPixels(file_->part(0, kFormatBytes), size_, file_->size())) {
+    refuse(QStringLiteral("it is damaged or cut short"));
   }
-  if (keptSize(size_) != size_) reader_->setScaledSize(keptSize(size_));
+  // Only this reader saves work by it.
+  if (format == PictureFormat::Jpeg && keptSize(size_) != size_) reader_->setScaledSize(keptSize(size_));
   roundsLeft_ = reader_->loopCount();
   // Cameras write down how they were held.
   if (reader_->transformation().testFlag(QImageIOHandler::TransformationRotate90)) size_.transpose();
@@ -78,19 +139,49 @@ void PictureDecoder::refuse(const QString& why) const {
   throw RuntimeFault(FaultNumber::InvalidProcedureCall, pictureRefusal(name_, why));
 }
 
+void PictureDecoder::refuseTooLarge(const QSize& size) const {
+  if (size.isEmpty() || qint64{size.width()} * size.height() <= kMostPixels) return;
+  refuse(QStringLiteral("with %1 by %2 pixels it is larger than 256 megapixels")
+             .arg(size.width())
+             .arg(size.height()));
+}
+
 void PictureDecoder::rewind() {
   file_->seek(0);
-  reader_ = std::make_unique<QImageReader>(file_.get(), readerName_);
+  reader_ = std::make_unique<QImageReader>(file_.get(), imageReaderOf(format_));
   reader_->setDecideFormatFromContent(false);
   reader_->setAutoTransform(true);
   if (iconNumber_ > 0) reader_->jumpToImage(iconNumber_);
 }
 
+void PictureDecoder::chooseIcon() {
+  constexpr qint64 kLargestIcon = 4LL * 1024 * 1024;
+  const QByteArray directory = file_->part(0, kLongestIconDirectory);
+  iconNumber_ = bestIcon(directory);
+  const IconPlace place = iconPlace(directory, iconNumber_);
+  iconPart_ = file_->part(place.offset, std::min(place.length, kLargestIcon));
+}
+
 std::optional<PictureFrame> PictureDecoder::read() {
-  const QImage image = reader_->read();
-  if (image.isNull()) return std::nullopt;
+  QImage image;
+  if (format_ == PictureFormat::Bitmap) {
+    // The reader leaves pixels that a bitmap jumps over as they were.
+    image = QImage(size_, reader_->imageFormat());
+    image.fill(0);
+  }
+  if (!reader_->read(&image)) return std::nullopt;
+  mend(image);
+  if (format_ != PictureFormat::Jpeg) image = reduced(image, keptSize(image.size()));
   ++framesRead_;
   return PictureFrame{image, shownFor(reader_->nextImageDelay())};
+}
+
+void PictureDecoder::mend(QImage& image) const {
+  if (format_ == PictureFormat::Icon) hideMaskedPixels(image, iconPart_);
+  // When the first frame lets nothing through the reader says that none does; the pixels know better.
+  if (format_ == PictureFormat::Gif && image.format() == QImage::Format_RGB32) {
+    image.reinterpretAsFormat(QImage::Format_ARGB32);
+  }
 }
 
 PictureFrame PictureDecoder::first() {
@@ -100,14 +191,13 @@ PictureFrame PictureDecoder::first() {
 }
 
 std::optional<PictureFrame> PictureDecoder::next() {
-  if (readerName_ != "gif") return std::nullopt;
+  if (format_ != PictureFormat::Gif) return std::nullopt;
   if (reader_->canRead()) return read();
   // A single frame needs no second look.
   if (framesRead_ < 2 || roundsLeft_ == 0) return std::nullopt;
   if (roundsLeft_ > 0) --roundsLeft_;
   framesRead_ = 0;
   rewind();
-  if (keptSize(size_) != size_) reader_->setScaledSize(keptSize(size_));
   return read();
 }
 

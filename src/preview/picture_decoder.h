@@ -42,14 +42,18 @@ class PictureDecoder {
   void stop() const { file_->stop(); }
 
  private:
+  void chooseIcon();
   void rewind();
   std::optional<PictureFrame> read();
+  void mend(QImage& image) const;
+  void refuseTooLarge(const QSize& size) const;
   [[noreturn]] void refuse(const QString& why) const;
 
   std::unique_ptr<PictureFile> file_;
-  QByteArray readerName_;
+  PictureFormat format_;
   QString name_;
   int iconNumber_ = 0;
+  QByteArray iconPart_;
   QSize size_;
   std::unique_ptr<QImageReader> reader_;
   int framesRead_ = 0;

@@ -19,8 +19,8 @@ PictureFile::PictureFile(const QString& path, PictureStop stop) : file_(path), s
   open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 }
 
-QByteArray PictureFile::start(qsizetype count) {
-  seek(0);
+QByteArray PictureFile::part(qint64 position, qsizetype count) {
+  seek(position);
   const QByteArray bytes = read(count);
   seek(0);
   return bytes;

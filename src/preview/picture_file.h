@@ -20,8 +20,8 @@ class PictureFile : public QIODevice {
   /// Opens `path`. Throws RuntimeFault as SequentialFile does, a file that is not a regular one included.
   PictureFile(const QString& path, PictureStop stop);
 
-  /// The file's first `count` bytes, or all it has.
-  QByteArray start(qsizetype count);
+  /// `count` bytes from `position` on, or as many as the file has; the place for reading is the start again.
+  QByteArray part(qint64 position, qsizetype count);
 
   /// From now on one read gives at most `bytes`, so that a reader that can do much with few bytes comes to
   /// look more often. Only for readers that take less than they have asked for.

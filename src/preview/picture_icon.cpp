@@ -18,6 +18,10 @@ int side(char byte) {
   return value == 0 ? 256 : value;
 }
 
+qint64 rowSize(qint64 width, int depth) {
+  return (width * depth + 31) / 32 * 4;
+}
+
 }  // namespace
 
 int bestIcon(QByteArrayView directory) {
@@ -35,6 +39,32 @@ int bestIcon(QByteArrayView directory) {
     bestWorth = worth;
   }
   return best;
+}
+
+IconPlace iconPlace(QByteArrayView directory, int number) {
+  const qsizetype at = kHeaderSize + number * kEntrySize;
+  if (directory.size() < at + kEntrySize) return {};
+  return {qFromLittleEndian<quint32>(directory.data() + at + 12),
+          qFromLittleEndian<quint32>(directory.data() + at + 8)};
+}
+
+void hideMaskedPixels(QImage& image, QByteArrayView part) {
+  constexpr qint64 kHeader = 40;
+  constexpr qsizetype kDepthPlace = 14;
+  constexpr int kDepth = 24;
+  if (part.size() < kHeader || qFromLittleEndian<quint32>(part.data()) != kHeader) return;
+  if (qFromLittleEndian<quint16>(part.data() + kDepthPlace) != kDepth) return;
+  const qint64 mask = kHeader + rowSize(image.width(), kDepth) * image.height();
+  const qint64 maskRow = rowSize(image.width(), 1);
+  if (part.size() < mask + maskRow * image.height()) return;
+  image = image.convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < image.height(); ++y) {
+    // The last row comes first.
+    const char* row = part.data() + mask + maskRow * (image.height() - 1 - y);
+    for (int x = 0; x < image.width(); ++x) {
+      if ((row[x / 8] & (0x80 >> x % 8)) != 0) image.setPixel(x, y, 0);
+    }
+  }
 }
 
 }  // namespace quorvin

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QImage>
 
 namespace quorvin {
 
@@ -11,5 +12,17 @@ inline constexpr qsizetype kLongestIconDirectory = 6 + 16 * 256;
 /// The number of the best picture in an icon file that begins with `directory`: the largest, and among those
 /// the one with the most colours; counted from 0.
 int bestIcon(QByteArrayView directory);
+
+/// Where that picture stands in the file, as the directory says; not checked.
+struct IconPlace {
+  qint64 offset = 0;
+  qint64 length = 0;
+};
+IconPlace iconPlace(QByteArrayView directory, int number);
+
+/// Makes transparent what the mask of a picture of 24 bits hides, which the image reader overlooks. `part`
+/// are the bytes of the picture in the file; of other depths, and where they hold no whole mask, `image`
+/// stays as it is.
+void hideMaskedPixels(QImage& image, QByteArrayView part);
 
 }  // namespace quorvin

@@ -31,7 +31,7 @@ LoadedPicture loadMetafile(PictureFile& file, const QString& path, const Metafil
 
 LoadedPicture loadAny(const QString& path, const MetafileChild& child, const PictureStop& stop) {
   auto file = std::make_unique<PictureFile>(path, stop);
-  const std::optional<PictureFormat> format = pictureFormatOf(file->start(kFormatBytes));
+  const std::optional<PictureFormat> format = pictureFormatOf(file->part(0, kFormatBytes));
   if (!format) refuse(path, QStringLiteral("it is not a bitmap, icon, metafile, JPEG or GIF picture"));
   if (isMetafile(*format)) return loadMetafile(*file, path, child, stop);
   auto decoder = std::make_shared<PictureDecoder>(std::move(file), *format, path);

@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace quorvin {
@@ -22,6 +23,8 @@ QPlainTextEdit* makeText() {
   // What has happened stands at the end of each line, behind a path of any length.
   text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   text->setTabChangesFocus(true);
+  text->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the results down"));
+  text->horizontalScrollBar()->setAccessibleName(QStringLiteral("Scroll the results sideways"));
   return text;
 }
 

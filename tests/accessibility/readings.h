@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include <vector>
@@ -15,16 +16,22 @@ struct Reading {
   QString objectName;
   QAccessible::Role role = QAccessible::NoRole;
   QString name;
+  /// The name of the label that belongs to it; empty where there is none.
+  QString label;
+  /// What it shows as its own text, without the mark of the key.
+  QString caption;
   bool isVisible = false;
 };
 
-/// Everything below `window` that a reader can come to, from top to bottom; other windows are left out.
+/// Everything below `window` that a reader can come to, in the order of the tree; other windows are left out.
 std::vector<Reading> readingsOf(QWidget& window);
 
-/// Whether what has this role only holds other things, or parts them, so that nothing is read for itself.
-bool needsNoName(QAccessible::Role role);
+/// The readings as lines, "EditableText SearchStr: Search text"; those of hidden controls end with
+/// " (hidden)". What only holds other things and says nothing by itself is left out.
+QString asLines(const std::vector<Reading>& readings);
 
-/// For messages: "EditableText SearchStr: Search text".
-std::string toText(const Reading& reading);
+/// What would leave a listener in the dark, one sentence each: a control without a name, or with one that
+/// holds no word, or that only a programmer knows, or that another visible control of the kind has as well.
+QStringList faultsOf(const std::vector<Reading>& readings);
 
 }  // namespace quorvin::test

@@ -179,6 +179,7 @@ TEST_F(WindowHits, AFaultOfThePreviewIsReported) {
 }
 
 TEST_F(WindowHits, WithoutAPreviewAMessageSaysSo) {
+  form().setPreviewOpener({});
   showFiles({QStringLiteral("a.jpg")});
   click(0);
   form().itemMenu().ShowPreview->trigger();

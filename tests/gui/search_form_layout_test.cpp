@@ -77,18 +77,25 @@ TEST_F(WindowLayout, DividesTheColumns) {
 }
 
 TEST_F(WindowLayout, AWidenedFixedColumnIsKeptAndTheNextResizeShrinksTheOthers) {
-  form().resize(900, 600);
-  QTest::qWait(0);
   QHeaderView* columns = controls().HitList->header();
-  const int folder = columns->sectionSize(2);
-  columns->resizeSection(5, columns->sectionSize(5) + 200);
-  const int date = columns->sectionSize(5);
-  EXPECT_EQ(columns->sectionSize(2), folder);
-  form().resize(900, 610);
-  QTest::qWait(0);
-  EXPECT_EQ(columns->sectionSize(5), date);
-  // 22 hundredths of the 200 pixels
-  EXPECT_EQ(columns->sectionSize(2), folder - 44);
+  int height = 600;
+  for (const int fixed : {0, 4, 5}) {
+    form().resize(900, ++height);
+    QTest::qWait(0);
+    const int volume = columns->sectionSize(1);
+    const int folder = columns->sectionSize(2);
+    const int name = columns->sectionSize(3);
+    columns->resizeSection(fixed, columns->sectionSize(fixed) + 100);
+    const int widened = columns->sectionSize(fixed);
+    EXPECT_EQ(columns->sectionSize(2), folder) << fixed;
+    form().resize(900, ++height);
+    QTest::qWait(0);
+    EXPECT_EQ(columns->sectionSize(fixed), widened) << fixed;
+    // Their shares of the 100 pixels.
+    EXPECT_EQ(columns->sectionSize(1), volume - 16) << fixed;
+    EXPECT_EQ(columns->sectionSize(2), folder - 22) << fixed;
+    EXPECT_EQ(columns->sectionSize(3), name - 62) << fixed;
+  }
 }
 
 TEST_F(WindowLayout, IsNeverSmallerThanTheLeastSize) {
@@ -98,6 +105,29 @@ TEST_F(WindowLayout, IsNeverSmallerThanTheLeastSize) {
   EXPECT_EQ(form().placement(PlacementKey::Height), 1500.0F);
 }
 
+TEST_F(WindowLayout, AWindowTooLowAloneKeepsItsWidth) {
+  form().resize(700, 40);
+  QTest::qWait(0);
+  EXPECT_EQ(form().width(), 700);
+  EXPECT_EQ(form().placement(PlacementKey::Height), 1500.0F);
+  EXPECT_EQ(controls().HitList->width(), 700);
+}
+
+TEST_F(WindowLayout, AWindowTooNarrowAloneKeepsItsHeight) {
+  form().resize(50, 500);
+  QTest::qWait(0);
+  EXPECT_EQ(form().placement(PlacementKey::Width), 3000.0F);
+  EXPECT_EQ(form().height(), 500);
+  EXPECT_EQ(controls().HitList->geometry().bottom() + 1, form().centralWidget()->height());
+}
+
+TEST_F(WindowLayout, APlacementBelowTheLeastSizeGivesTheLeastSize) {
+  form().setPlacement(PlacementKey::Width, 2985);
+  form().setPlacement(PlacementKey::Height, 1485);
+  QTest::qWait(0);
+  EXPECT_EQ(form().frameGeometry().size(), QSize(200, 100));
+}
+
 TEST_F(WindowLayout, TheLeastSizeIsLaidOut) {
   form().setPlacement(PlacementKey::Width, 3000);
   form().setPlacement(PlacementKey::Height, 1500);
@@ -105,6 +135,37 @@ TEST_F(WindowLayout, TheLeastSizeIsLaidOut) {
   ASSERT_EQ(form().frameGeometry().size(), QSize(200, 100));
   EXPECT_EQ(controls().SearchStr->x() + controls().SearchStr->width(), form().centralWidget()->width());
   EXPECT_EQ(controls().MenuLine->width(), form().centralWidget()->width());
+  EXPECT_EQ(controls().HitList->width(), form().centralWidget()->width());
+  // The other columns leave nothing to share.
+  QHeaderView* columns = controls().HitList->header();
+  EXPECT_EQ(columns->sectionSize(1) + columns->sectionSize(2) + columns->sectionSize(3), 0);
+}
+
+TEST_F(WindowLayout, NothingIsLaidOutWhileMinimized) {
+  form().resize(900, 600);
+  QTest::qWait(0);
+  form().showMinimized();
+  const QRect list = controls().HitList->geometry();
+  form().resize(1000, 700);
+  QTest::qWait(0);
+  EXPECT_EQ(controls().HitList->geometry(), list);
+  form().showNormal();
+  QTest::qWait(0);
+  EXPECT_EQ(controls().HitList->width(), form().centralWidget()->width());
+}
+
+TEST_F(WindowLayout, RestoringDividesTheColumnsAnew) {
+  form().resize(900, 600);
+  QTest::qWait(0);
+  QHeaderView* columns = controls().HitList->header();
+  const int folder = columns->sectionSize(2);
+  columns->resizeSection(5, columns->sectionSize(5) + 100);
+  form().showMinimized();
+  QTest::qWait(0);
+  EXPECT_EQ(columns->sectionSize(2), folder);
+  form().showNormal();
+  QTest::qWait(0);
+  EXPECT_EQ(columns->sectionSize(2), folder - 22);
 }
 
 TEST_F(WindowLayout, MinimizingAndRestoringKeepsTheLayout) {

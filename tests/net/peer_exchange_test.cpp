@@ -1,15 +1,14 @@
 // Two programs, each with its own state and folder, that exchange lists.
 #include "net/peer_exchange.h"
 
-#include "net/archive_unpacking.h"
 #include "net/peer_program.h"
+#include "net/peer_unpacking.h"
 #include "net/scripted_server.h"
-#include "platform/runtime_fault.h"
 #include "search/hit_table.h"
 #include "search/search_run.h"
+#include "support/listing_lines.h"
 #include "support/recording_run_view.h"
 
-#include <QElapsedTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -22,30 +21,33 @@ namespace {
 
 using testing::HasSubstr;
 
-/// What is told while an archive is unpacked, as far as a test wants to know it.
-class UnpackingWatch : public ArchiveEvents {
+/// Stands for the `Progress` window while archives are unpacked; `onEvents` for what the user does meanwhile.
+class UnpackingView : public ArchiveView {
  public:
-  void archiveError(std::int32_t, const QString& description) override { error = description; }
-  void percentDone(double) override {}
-  void idleTick(std::int32_t) override { QCoreApplication::processEvents(); }
-  void fileNotice(const QString&, std::int64_t) override {}
-  bool stopRequested() const override { return false; }
+  void showMainWindow() override {}
+  void showProgress() override { ++showings; }
+  void unloadProgress() override { ++unloadings; }
+  void setStatus(const QString& text) override { status = text; }
+  void setBarMaximum(std::int32_t) override {}
+  void setBar(std::int32_t) override {}
+  void processEvents() override {
+    QCoreApplication::processEvents();
+    if (onEvents) onEvents();
+  }
+  bool endRequested() const override { return false; }
 
-  QString error;
+  int showings = 0;
+  int unloadings = 0;
+  QString status;
+  std::function<void()> onEvents;
 };
-
-void unpackWithoutWindow(const QString& archive, const QString& folder) {
-  UnpackingWatch watch;
-  unpackArchive(archive, folder, watch);
-  if (!watch.error.isEmpty()) throw RuntimeFault(FaultNumber::PathFileAccess, watch.error);
-}
 
 /// A whole program, but for its windows.
 struct ExchangingProgram : PeerProgram {
   ExchangingProgram()
-      : exchange(
-            state, messages, QLocale::c(),
-            {[] { QCoreApplication::processEvents(); }, unpackWithoutWindow, [this] { return mayAsk; }}) {
+      : exchange(state, messages, QLocale::c(),
+                 {[] { QCoreApplication::processEvents(); }, unpackingShownIn(state, unpacking),
+                  [this] { return mayAsk; }}) {
     QObject::connect(&exchange, &PeerExchange::gettingBegan, &exchange, [this] { ++begins; });
     QObject::connect(&exchange, &PeerExchange::gettingEnded, &exchange, [this] { ++ends; });
     QObject::connect(&exchange, &PeerExchange::offlineSourcesAdded, &exchange, [this] { ++additions; });
@@ -63,6 +65,7 @@ struct ExchangingProgram : PeerProgram {
     return names;
   }
 
+  UnpackingView unpacking;
   bool mayAsk = true;
   int begins = 0;
   int ends = 0;
@@ -70,13 +73,9 @@ struct ExchangingProgram : PeerProgram {
   PeerExchange exchange;
 };
 
-QByteArray entryLine(const QByteArray& name) {
-  return name.leftJustified(65) + QByteArray("1,000").rightJustified(13) + "  1/15/2004 10:00:00 AM\r\n";
-}
-
 /// A listing of about `megabytes` with one file of this name at its end.
 QByteArray longListing(int megabytes, const QByteArray& lastName) {
-  QByteArray block = "Volume: DISK\r\nDirectory: \\Music\\\r\n";
+  QByteArray block = blockHead("DISK", "\\Music\\");
   for (int i = 0; block.size() < 1000000; ++i) block += entryLine("Track " + QByteArray::number(i) + ".mp3");
   QByteArray listing;
   listing.reserve((megabytes + 1) * block.size());
@@ -99,10 +98,9 @@ class PeerExchangeTest : public testing::Test {
 };
 
 TEST_F(PeerExchangeTest, WhatOneSharesTheOtherFinds) {
-  server_.addListedSource(QStringLiteral("Music"),
-                          "Volume: M\r\nDirectory: \\M\\\r\n" + entryLine("Blue Train.mp3"));
+  server_.addListedSource(QStringLiteral("Music"), blockHead("M", "\\M\\") + entryLine("Blue Train.mp3"));
   server_.addListedSource(QStringLiteral("B\u00fccher"),
-                          "Volume: B\r\nDirectory: \\B\\\r\n" + entryLine("Blue Book.pdf"));
+                          blockHead("B", "\\B\\") + entryLine("Blue Book.pdf"));
   const quint16 port = share();
   client_.messages.answers = {true};
   client_.getFrom(port);
@@ -157,8 +155,7 @@ TEST_F(PeerExchangeTest, AServerWithoutListsIsTold) {
 
 TEST_F(PeerExchangeTest, AListWithoutArchiveIsToldAndTheOthersCome) {
   server_.addSource(QStringLiteral("Films"));
-  server_.addListedSource(QStringLiteral("Music"),
-                          "Volume: M\r\nDirectory: \\M\\\r\n" + entryLine("Blue.mp3"));
+  server_.addListedSource(QStringLiteral("Music"), blockHead("M", "\\M\\") + entryLine("Blue.mp3"));
   const quint16 port = share();
   client_.messages.answers = {true};
   client_.getFrom(port);
@@ -178,6 +175,21 @@ TEST_F(PeerExchangeTest, ABrokenArchiveIsToldWhenItIsToBeUnpacked) {
   EXPECT_THAT(client_.messages.informed[0].toStdString(), HasSubstr("\"Music\": "));
   EXPECT_EQ(client_.state.OfflineSourceCount, 0);
   EXPECT_EQ(client_.folder.readFile(receivedName(QStringLiteral("Music.zip"), port)), broken);
+}
+
+TEST_F(PeerExchangeTest, UnpackingIsShownAndMayBeCancelled) {
+  server_.addListedSource(QStringLiteral("Long"), longListing(20, "x"));
+  const quint16 port = share();
+  client_.messages.answers = {true};
+  client_.unpacking.onEvents = [this] { client_.state.AbortRequested = true; };
+  client_.getFrom(port);
+  ASSERT_TRUE(waitFor([&] { return !client_.messages.informed.empty(); }, 10000));
+  EXPECT_EQ(client_.messages.informed[0], QStringLiteral("\"Long\": It was not unpacked to its end."));
+  EXPECT_EQ(client_.unpacking.status, QStringLiteral("Unpacking Long.zip"));
+  EXPECT_EQ(client_.unpacking.showings, 1);
+  EXPECT_EQ(client_.unpacking.unloadings, 1);
+  EXPECT_FALSE(client_.state.AbortRequested);
+  EXPECT_EQ(client_.state.OfflineSourceCount, 0);
 }
 
 TEST_F(PeerExchangeTest, TheUserIsNotAskedWhileADialogIsOpen) {

@@ -10,7 +10,9 @@
 #include "support/temporary_folder.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -53,9 +55,17 @@ inline QByteArray smallArchive(const QByteArray& text = "a listing") {
   return folder.readFile(QStringLiteral("list.zip"));
 }
 
-/// Lets events run until `isDone`; false when that takes longer than `milliseconds`.
+/// Lets events run until `isDone`; false when that takes longer than `milliseconds`. Unlike QTest::qWaitFor
+/// it never sleeps while there are events, so that what is waited for has its usual speed.
 inline bool waitFor(const std::function<bool()>& isDone, int milliseconds = 5000) {
-  return QTest::qWaitFor(isDone, milliseconds);
+  const QDeadlineTimer deadline(milliseconds);
+  QTimer wake;
+  wake.start(2);
+  while (!isDone()) {
+    if (deadline.hasExpired()) return false;
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+  return true;
 }
 
 /// A program that gets lists.

@@ -47,6 +47,13 @@ TEST(PeerPacking, AnArchiveHoldsTheListing) {
   EXPECT_EQ(folder.names(), (QStringList{QStringLiteral("B\u00fccher.txt"), QStringLiteral("x.zip")}));
 }
 
+TEST(PeerPacking, ProgramsThatKnowOnlyThePlainFormCanReadAnArchive) {
+  const QByteArray archive = smallArchive();
+  // The version needed to unpack: 2.0.
+  EXPECT_EQ(archive.mid(4, 2), QByteArray("\x14\0", 2));
+  EXPECT_FALSE(archive.contains("PK\x06\x06"));
+}
+
 TEST(PeerPacking, AnEmptyListingIsPackedToo) {
   const TemporaryFolder folder;
   const QString listing = folder.writeFile(QStringLiteral("a.txt"), "");

@@ -65,6 +65,23 @@ QByteArray dibBits(const QImage& image, const DibForm& form) {
   return bits;
 }
 
+QImage asStored(const QImage& image, const DibForm& form) {
+  QImage stored = image;
+  const std::array<std::uint32_t, 4> masks = masksOf(form);
+  const auto value = [&](QRgb colour, std::size_t channel) {
+    const std::uint32_t mask = masks.at(channel);
+    return static_cast<int>((packed(colour, masks) & mask) * 255ULL / mask);
+  };
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QRgb colour = image.pixel(x, y);
+      const int alpha = masks[3] != 0 ? value(colour, 3) : 255;
+      stored.setPixel(x, y, qRgba(value(colour, 0), value(colour, 1), value(colour, 2), alpha));
+    }
+  }
+  return stored;
+}
+
 QByteArray dibHeader(const QSize& size, const DibForm& form, qsizetype bitsLength) {
   ByteWriter header;
   const int height = form.toldHeight != 0 ? form.toldHeight : size.height();

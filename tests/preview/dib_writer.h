@@ -28,6 +28,9 @@ struct DibForm {
 /// which then is an indexed one; the others its colours.
 QByteArray dibBits(const QImage& image, const DibForm& form);
 
+/// `image` with what is left of its colours in this form.
+QImage asStored(const QImage& image, const DibForm& form);
+
 /// Header, masks and palette.
 QByteArray dibHeader(const QSize& size, const DibForm& form, qsizetype bitsLength);
 

@@ -133,7 +133,7 @@ CorpusPicture gif(const std::string& name, const QList<GifFrame>& frames, std::o
 CorpusPicture moving(const std::string& name, int disposal) {
   const GifFrame whole;
   const GifFrame first{QRect(2, 2, 9, 6), disposal, 3, 5, false, {}, 3};
-  const GifFrame second{QRect(8, 5, 10, 6), disposal, 1, 5, false, {}, 5};
+  const GifFrame second{QRect(8, 5, 10, 6), disposal, std::nullopt, 5, false, {}, 5};
   const GifFrame third{QRect(0, 0, 4, 4), 0, 0, 5, false, {}, 7};
   return gif(name, {whole, first, second, third}, 0);
 }
@@ -150,7 +150,7 @@ std::vector<CorpusPicture> gifCorpus() {
       gif("interlaced", {GifFrame{all, 0, {}, 5, true, {}, 3}}),
       gif("transparent", {GifFrame{all, 0, 2, 5, false, {}, 1}}),
       gif("own palette", {GifFrame{all, 0, {}, 5, false, others, 1}}),
-      gif("smaller than its screen", {GifFrame{QRect(3, 2, 8, 5), 0, {}, 5, false, {}, 1}}),
+      gif("smaller than its screen", {GifFrame{QRect(3, 2, 8, 5), 0, 7, 5, false, {}, 1}}),
       moving("moving, disposal 0", 0),
       moving("moving, disposal 1", 1),
       moving("moving, disposal 2", 2),

@@ -1,0 +1,15 @@
+// Unpacking what came from a peer, with the Progress window shown.
+#pragma once
+
+#include "net/archive_view.h"
+#include "net/peer_offer.h"
+#include "state/program_state.h"
+
+namespace quorvin {
+
+/// Unpacks an archive with `Progress` shown, whose `CancelButton` ends it. What is wrong with the archive is
+/// thrown as fault 75 with its description, and so is that the user cancelled. Both must outlive the
+/// function.
+UnpackArchive unpackingShownIn(ProgramState& state, ArchiveView& view);
+
+}  // namespace quorvin

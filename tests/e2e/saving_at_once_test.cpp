@@ -1,0 +1,174 @@
+// Programs that close at the same moment.
+#include "support/qt_printing.h"
+#include "support/temporary_folder.h"
+#include "windowless_program.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quorvin::test {
+
+namespace {
+
+constexpr int kRounds = 20;
+
+/// Processes that get ready and then all go on at once.
+class Together {
+ public:
+  Together() {
+    if (::pipe(gate_) != 0) throw std::runtime_error("no pipe could be made");
+  }
+  ~Together() {
+    ::close(gate_[0]);
+    if (gate_[1] >= 0) ::close(gate_[1]);
+  }
+  Together(const Together&) = delete;
+  Together& operator=(const Together&) = delete;
+
+  /// Does `work` in a process of its own as soon as run() is called.
+  void add(const std::function<void()>& work) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      ::close(gate_[1]);
+      char byte = 0;
+      // Nothing is ever written: the reading ends when the gate is closed by the test.
+      const bool isOpen = ::read(gate_[0], &byte, 1) == 0;
+      try {
+        work();
+      } catch (...) {
+        ::_exit(1);
+      }
+      ::_exit(isOpen ? 0 : 1);
+    }
+    children_.push_back(child);
+  }
+
+  /// Lets them go, and waits for all. False when one has failed.
+  bool run() {
+    ::close(std::exchange(gate_[1], -1));
+    bool allWell = true;
+    for (const pid_t child : children_) {
+      int status = 0;
+      allWell = ::waitpid(child, &status, 0) == child && status == 0 && allWell;
+    }
+    return allWell;
+  }
+
+ private:
+  int gate_[2] = {-1, -1};
+  std::vector<pid_t> children_;
+};
+
+/// What one program has to save.
+struct Belongings {
+  QString NickName;
+  SourceRecords online;
+  SourceRecords offline;
+};
+
+Belongings belongingsOf(const QString& owner, int round) {
+  // Enough for the lists of both to be written for a while.
+  SourceRecords online;
+  for (int number = 1; number <= 300; ++number) {
+    online.push_back({QStringLiteral("%1 %2").arg(owner).arg(number), QStringLiteral("/%1/").arg(round)});
+  }
+  return {QStringLiteral("%1 %2").arg(owner).arg(round),
+          online,
+          {{QStringLiteral("Offline"), QStringLiteral("/%1/%2.txt").arg(owner).arg(round)}}};
+}
+
+class SavingAtOnce : public testing::Test {
+ protected:
+  SavingAtOnce() {
+    place_.writeFile(QStringLiteral("data/any.txt"), "a file makes the folder valid");
+    listing_ = place_.writeFile(QStringLiteral("cds.txt"), "");
+  }
+
+  QString settingsPath() const { return place_.pathOf(QStringLiteral("settings/settings.ini")); }
+  QByteArray dataFile(const char* name) const {
+    return place_.readFile(QStringLiteral("data/") + QString::fromLatin1(name));
+  }
+  QString saved(const QString& application, const char* key) const {
+    return IniSettingsStore(settingsPath())
+        .read(application, QStringLiteral("Settings"), QString::fromLatin1(key), {});
+  }
+
+  /// One run of a program: everything that a user may have changed, and the end.
+  void live(const QString& commandLine, const Belongings& belongings) const {
+    WindowlessProgram program(settingsPath(), commandLine);
+    program.state.LocalFolder = place_.pathOf(QStringLiteral("data/"));
+    program.state.onlineListRead = program.state.LocalFolder + program.state.LocFile;
+    program.state.offlineListRead = program.state.LocalFolder + program.state.OffLineFile;
+    program.state.NickName = belongings.NickName;
+    program.setOnline(belongings.online);
+    program.setOffline(belongings.offline);
+    program.end();
+    if (!program.messages.informed.empty()) throw std::runtime_error("a message was shown");
+  }
+
+  void expectNothingLeftOver(const QStringList& lists) const {
+    EXPECT_EQ(QDir(place_.pathOf(QStringLiteral("data"))).entryList(QDir::Files | QDir::Hidden, QDir::Name),
+              lists);
+    EXPECT_EQ(
+        QDir(place_.pathOf(QStringLiteral("settings"))).entryList(QDir::Files | QDir::Hidden, QDir::Name),
+        QStringList({QStringLiteral("settings.ini"), QStringLiteral("settings.ini.lock")}));
+  }
+
+  TemporaryFolder place_;
+  QString listing_;
+};
+
+TEST_F(SavingAtOnce, ProgramsWithSetsOfTheirOwnKeepBoth) {
+  for (int round = 1; round <= kRounds; ++round) {
+    SCOPED_TRACE(round);
+    const Belongings ann = belongingsOf(QStringLiteral("Ann"), round);
+    const Belongings bob = belongingsOf(QStringLiteral("Bob"), round);
+    Together programs;
+    programs.add([&] { live({}, ann); });
+    programs.add([&] { live(listing_, bob); });
+    ASSERT_TRUE(programs.run());
+
+    EXPECT_EQ(saved(QStringLiteral("Ketta Quorvin"), "NickName"), ann.NickName);
+    EXPECT_EQ(saved(QStringLiteral("Ketta Quorvin"), "Height"), u"6000");
+    EXPECT_EQ(saved(listing_, "NickName"), bob.NickName);
+    EXPECT_EQ(saved(listing_, "TextFile"), listing_);
+    EXPECT_EQ(saved(listing_, "Height"), u"6000");
+    EXPECT_EQ(dataFile("Locations.txt"), listFile(ann.online));
+    EXPECT_EQ(dataFile("Locations.txt_cds"), listFile(bob.online));
+    const QByteArray shared = dataFile("OfflineLocations.txt");
+    EXPECT_TRUE(shared == listFile(ann.offline) || shared == listFile(bob.offline)) << shared.toStdString();
+  }
+  expectNothingLeftOver({QStringLiteral("Locations.txt"), QStringLiteral("Locations.txt_cds"),
+                         QStringLiteral("OfflineLocations.txt"), QStringLiteral("any.txt")});
+}
+
+TEST_F(SavingAtOnce, ProgramsWithTheSameSetLeaveTheListsOfOneOfThem) {
+  for (int round = 1; round <= kRounds; ++round) {
+    SCOPED_TRACE(round);
+    const Belongings ann = belongingsOf(QStringLiteral("Ann"), round);
+    const Belongings bob = belongingsOf(QStringLiteral("Bob"), round);
+    Together programs;
+    programs.add([&] { live({}, ann); });
+    programs.add([&] { live({}, bob); });
+    ASSERT_TRUE(programs.run());
+
+    const QString nickName = saved(QStringLiteral("Ketta Quorvin"), "NickName");
+    EXPECT_TRUE(nickName == ann.NickName || nickName == bob.NickName) << nickName.toStdString();
+    EXPECT_EQ(saved(QStringLiteral("Ketta Quorvin"), "Height"), u"6000");
+    const QByteArray online = dataFile("Locations.txt");
+    EXPECT_TRUE(online == listFile(ann.online) || online == listFile(bob.online)) << online.toStdString();
+    const QByteArray offline = dataFile("OfflineLocations.txt");
+    EXPECT_TRUE(offline == listFile(ann.offline) || offline == listFile(bob.offline))
+        << offline.toStdString();
+  }
+  expectNothingLeftOver(
+      {QStringLiteral("Locations.txt"), QStringLiteral("OfflineLocations.txt"), QStringLiteral("any.txt")});
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
