@@ -53,7 +53,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       network_(state, runMessages_,
                {*this, *controls_.WebUpdate, [this]() -> Progress& { return refreshDisplay_.progress(); },
                 [this] { return endRequested_; }},
-               menus_, locale) {
+               menus_, locale, [this] { return isRunning() || state_.RescanRunning; }) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
   setCentralWidget(controls_.HitList->parentWidget());

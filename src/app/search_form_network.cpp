@@ -1,67 +1,47 @@
 #include "app/search_form_network.h"
 
-#include "net/archive_unpacking.h"
-#include "platform/runtime_fault.h"
+#include "net/peer_unpacking.h"
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QScopedValueRollback>
+
+#include <utility>
 
 namespace quorvin {
 
-namespace {
-
-/// Lets the windows live on while a received archive is unpacked, and keeps what was wrong with it.
-class QuietUnpacking : public ArchiveEvents {
- public:
-  explicit QuietUnpacking(const ProgramState& state) : state_(state) {}
-
-  void archiveError(std::int32_t, const QString& description) override { error_ = description; }
-  void percentDone(double) override {}
-  void idleTick(std::int32_t) override { QCoreApplication::processEvents(); }
-  void fileNotice(const QString&, std::int64_t) override {}
-  bool stopRequested() const override { return state_.QuitPending; }
-
-  const QString& error() const { return error_; }
-
- private:
-  const ProgramState& state_;
-  QString error_;
-};
-
-void unpackReceived(const ProgramState& state, const QString& archivePath, const QString& targetFolder) {
-  QuietUnpacking events(state);
-  if (unpackArchive(archivePath, targetFolder, events) == UnpackingOutcome::Failed) {
-    throw RuntimeFault(FaultNumber::PathFileAccess, events.error());
-  }
-}
-
-PeerHooks hooksOf(const ProgramState& state) {
-  PeerHooks hooks;
-  hooks.processEvents = [] { QCoreApplication::processEvents(); };
-  hooks.unpack = [&state](const QString& archive, const QString& folder) {
-    unpackReceived(state, archive, folder);
-  };
-  hooks.mayAsk = [&state] { return !state.QuitPending && QApplication::activeModalWidget() == nullptr; };
-  return hooks;
-}
-
-}  // namespace
-
 SearchFormNetwork::SearchFormNetwork(ProgramState& state, MessageBoxes& messages,
                                      const UpdateWindows& windows, const SearchFormMenus& menus,
-                                     const QLocale& locale)
+                                     const QLocale& locale, std::function<bool()> isAtWork)
     : state_(state),
       owner_(windows.mainWindow),
       menus_(menus),
       locale_(locale),
+      isAtWork_(std::move(isAtWork)),
       display_(windows),
       dataFile_(state, display_, messages),
       webUpdate_(state, display_, messages, web_, locale),
-      peers_(state, messages, locale, hooksOf(state)) {
+      peers_(state, messages, locale, peerHooks()) {
   connectPeers();
 }
 
 SearchFormNetwork::~SearchFormNetwork() = default;
+
+PeerHooks SearchFormNetwork::peerHooks() {
+  PeerHooks hooks;
+  hooks.processEvents = [] { QCoreApplication::processEvents(); };
+  hooks.unpack = unpackingShownIn(state_, display_);
+  hooks.mayAsk = [this] {
+    return !state_.QuitPending && QApplication::activeModalWidget() == nullptr && !isUpdating_ &&
+           !isAtWork_();
+  };
+  return hooks;
+}
+
+void SearchFormNetwork::WebUpdate_Click() {
+  const QScopedValueRollback updating(isUpdating_, true);
+  webUpdate_.WebUpdate_Click();
+}
 
 void SearchFormNetwork::connectPeers() {
   QObject::connect(&peers_, &PeerExchange::gettingBegan, &peers_, [this](const QString& peer) {

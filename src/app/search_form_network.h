@@ -14,17 +14,21 @@
 #include <QLocale>
 #include <QPointer>
 
+#include <functional>
+
 namespace quorvin {
 
 /// Wires the network's features to the windows. Nothing goes on until the user asks for it.
 class SearchFormNetwork {
  public:
-  /// Everything must outlive the object; the main window owns the windows that are opened.
+  /// Everything must outlive the object; the main window owns the windows that are opened. `isAtWork` tells
+  /// whether a search or a refresh runs: lists that a peer sent wait for its end, since unpacking them shows
+  /// the same `Progress` and is cancelled by the same request.
   SearchFormNetwork(ProgramState& state, MessageBoxes& messages, const UpdateWindows& windows,
-                    const SearchFormMenus& menus, const QLocale& locale);
+                    const SearchFormMenus& menus, const QLocale& locale, std::function<bool()> isAtWork);
   ~SearchFormNetwork();
 
-  void WebUpdate_Click() { webUpdate_.WebUpdate_Click(); }
+  void WebUpdate_Click();
 
   /// Connects ("true") or disconnects the listener; the menu item shows what came of it.
   void ShareLists_Click(bool share);
@@ -40,12 +44,15 @@ class SearchFormNetwork {
 
  private:
   PeerProgress& peerProgress();
+  PeerHooks peerHooks();
   void connectPeers();
 
   ProgramState& state_;
   QWidget& owner_;
   const SearchFormMenus& menus_;
   QLocale locale_;
+  std::function<bool()> isAtWork_;
+  bool isUpdating_ = false;
   ProgressDisplay display_;
   DataFileExtraction dataFile_;
   HttpNetworkTransfer web_;

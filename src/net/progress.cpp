@@ -72,7 +72,7 @@ Progress::Progress(ProgramState& state, QWidget* parent)
 void Progress::begin() {
   isCancelled_ = false;
   isLeft_ = false;
-  cancelButton_->setEnabled(true);
+  enableCancelButton();
   setDetail({});
   setBar(0);
   show();
@@ -105,8 +105,14 @@ void Progress::setBusy() {
 void Progress::leaveStanding() {
   isLeft_ = true;
   isCancelled_ = false;
-  cancelButton_->setEnabled(true);
+  enableCancelButton();
   showDetail();
+}
+
+/// A button that was disabled has lost the keyboard to nobody.
+void Progress::enableCancelButton() {
+  cancelButton_->setEnabled(true);
+  cancelButton_->setFocus();
 }
 
 void Progress::CancelButton_Click() {

@@ -55,6 +55,7 @@ class Progress : public QDialog {
 
  private:
   void CancelButton_Click();
+  void enableCancelButton();
   void showDetail();
 
   ProgramState& state_;

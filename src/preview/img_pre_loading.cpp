@@ -29,6 +29,8 @@ ImgPreLoading::ImgPreLoading(const QString& path, QWidget* parent) : QProgressDi
   setBar(bar);
   auto* cancel = new QPushButton(QStringLiteral("Cancel"));
   cancel->setObjectName(QStringLiteral("CancelButton"));
+  // The toolkit's own button would leave its Esc behind, and two of them do nothing.
+  setCancelButton(nullptr);
   setCancelButton(cancel);
   setRange(0, 0);
   setMinimumDuration(kMillisecondsUnseen);

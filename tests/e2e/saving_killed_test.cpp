@@ -133,8 +133,8 @@ TEST_F(KilledSaving, LeavesEachFileOldOrNewAndWhole) {
 }
 
 TEST_F(KilledSaving, TheNextRunSavesEverything) {
-  // Each setting is saved by the same calls, and the lists by nearly the same: a stride that has no divisor
-  // in common with their number comes past all of them.
+  // Each setting is saved by the same calls, some thirty of them: a stride that does not divide their number
+  // meets every one in some setting or other.
   constexpr int kStride = 7;
   putOldFiles();
   for (int call = 1; killedBeforeCall(call, [this] { program_->end(); }); call += kStride) {

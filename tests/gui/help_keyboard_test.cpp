@@ -42,14 +42,14 @@ TEST_F(HelpByKeys, ThePageIsReadDownAndUp) {
 
 TEST_F(HelpByKeys, LinksAreReachedByTabAndFollowedByEnter) {
   ASSERT_EQ(page(), QStringLiteral("genhelp.htm"));
-  press(Qt::Key_Tab);
+  // The first link of each page leads to this page itself, the second to the index.
+  press(Qt::Key_Tab, {}, 2);
   press(Qt::Key_Return);
-  EXPECT_NE(page(), QStringLiteral("genhelp.htm"));
-  const QString followed = page();
+  EXPECT_EQ(page(), QStringLiteral("index.htm"));
   press(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(page(), QStringLiteral("genhelp.htm"));
   press(Qt::Key_Right, Qt::AltModifier);
-  EXPECT_EQ(page(), followed);
+  EXPECT_EQ(page(), QStringLiteral("index.htm"));
   press(Qt::Key_Home, Qt::AltModifier);
   EXPECT_EQ(page(), QStringLiteral("genhelp.htm"));
 }

@@ -160,7 +160,7 @@ TEST_F(SmallWindowKeys, LoadingAPictureIsCancelledByItsButtonOrByEsc) {
     activate(box);
     EXPECT_EQ(tabStops().toStdString(), "CancelButton");
     press(key);
-    EXPECT_TRUE(box.wasCanceled());
+    EXPECT_TRUE(box.wasCanceled()) << key;
   }
 }
 

@@ -1,0 +1,119 @@
+// Closing the real program while it works.
+#include "running_program.h"
+#include "source_records.h"
+#include "support/listing_lines.h"
+#include "support/qt_printing.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <unistd.h>
+
+namespace quorvin::test {
+
+namespace {
+
+class ClosingAtWork : public testing::Test {
+ protected:
+  ClosingAtWork() { home_.writeSettings(); }
+
+  /// Ends the program as a person does, and looks at how it went.
+  void expectCleanAndSoon(RunningProgram& program) const {
+    const ProgramEnd end = program.endBy({QStringLiteral("ctrl+q")});
+    EXPECT_TRUE(end.isExit);
+    EXPECT_EQ(end.code, 0);
+    EXPECT_EQ(end.errors, u"");
+    // That it is soon shows in the work left undone; the time itself is the machine's as much as the
+    // program's.
+    RecordProperty("milliseconds", end.milliseconds);
+    std::cout << "ended " << end.milliseconds << " ms after the keys\n";
+    EXPECT_TRUE(home_.settings().contains(QStringLiteral("\nNickName=ann\n")));
+    EXPECT_TRUE(home_.settings().contains(QStringLiteral("\nHeight=")));
+  }
+
+  QStringList namesIn(const QString& folder) const {
+    return QDir(home_.folder.pathOf(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+  }
+
+  ProgramHome home_;
+  Desktop desktop_;
+};
+
+TEST_F(ClosingAtWork, ASearchEndsAtOnce) {
+  // One listing under many names: each of them is read anew, so that the search goes on for long.
+  constexpr int kListings = 400;
+  const QByteArray first = home_.list(QStringLiteral("1.txt")).toUtf8();
+  QByteArray listing = blockHead("Far", "\\far\\");
+  while (listing.size() < 6'000'000) listing += entryLine("song " + QByteArray::number(listing.size()));
+  home_.folder.writeFile(QStringLiteral("lists/1.txt"), listing);
+  SourceRecords offline;
+  for (int number = 1; number <= kListings; ++number) {
+    const QString path = home_.list(QStringLiteral("%1.txt").arg(number));
+    offline.push_back({QStringLiteral("Offline"), path});
+    if (number > 1) {
+      ASSERT_EQ(::link(first.constData(), path.toUtf8().constData()), 0);
+    }
+  }
+  home_.folder.writeFile(QStringLiteral("data/OfflineLocations.txt"), listFile(offline));
+
+  RunningProgram program(desktop_, home_);
+  program.find(QStringLiteral("nothing like this"));
+  // An image is kept of each listing that has been read.
+  const QString images = QStringLiteral("xdg_cache_home/quorvin");
+  waitUntil(QStringLiteral("for the search to be at work"), [&] { return namesIn(images).size() >= 3; });
+  expectCleanAndSoon(program);
+  EXPECT_LT(namesIn(images).size(), kListings);
+  EXPECT_EQ(home_.dataFile(QStringLiteral("OfflineLocations.txt")), listFile(offline));
+  EXPECT_EQ(namesIn(QStringLiteral("data")),
+            QStringList({QStringLiteral("Locations.txt"), QStringLiteral("OfflineLocations.txt"),
+                         QStringLiteral("main.txt")}));
+}
+
+TEST_F(ClosingAtWork, ARefreshEndsAtOnceAndLeavesWholeListings) {
+  constexpr int kSources = 400;
+  constexpr int kFiles = 5000;
+  const QByteArray old = blockHead("Old", "\\old\\") + entryLine("old song.mp3");
+  const QString folder = home_.folder.makeFolder(QStringLiteral("songs"));
+  for (int number = 1; number <= kFiles; ++number) {
+    home_.folder.writeFile(QStringLiteral("songs/song %1.mp3").arg(number), {});
+  }
+  SourceRecords online;
+  const auto nameOf = [](int number) { return QStringLiteral("Disk %1").arg(number); };
+  for (int number = 1; number <= kSources; ++number) {
+    online.push_back({nameOf(number), folder});
+    home_.folder.writeFile(QStringLiteral("data/%1.txt").arg(nameOf(number)), old);
+  }
+  home_.folder.writeFile(QStringLiteral("data/Locations.txt"), listFile(online));
+  const auto listing = [&](int number) { return home_.dataFile(nameOf(number) + QStringLiteral(".txt")); };
+
+  RunningProgram program(desktop_, home_);
+  program.press(
+      {QStringLiteral("alt+f"), QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")});
+  waitUntil(QStringLiteral("for the refresh to be at work"), [&] { return listing(3) != old; });
+  expectCleanAndSoon(program);
+
+  // All in order: some sources have whole new listings, the others their old ones.
+  const QByteArray first = listing(1);
+  EXPECT_EQ(first.count("\r\nsong "), kFiles);
+  int newListings = 1;
+  for (; newListings < kSources && listing(newListings + 1) != old; ++newListings) {
+    const QByteArray volume = nameOf(newListings + 1).toUtf8();
+    EXPECT_EQ(listing(newListings + 1), QByteArray(first).replace("Disk 1", volume)) << volume.toStdString();
+  }
+  EXPECT_GE(newListings, 3);
+  EXPECT_LT(newListings, kSources);
+  for (int number = newListings + 1; number <= kSources; ++number) EXPECT_EQ(listing(number), old) << number;
+  EXPECT_EQ(home_.dataFile(QStringLiteral("Locations.txt")), listFile(online));
+  // What was being written is a file aside, which no search reads.
+  for (const QString& name : namesIn(QStringLiteral("data"))) {
+    if (!name.endsWith(QStringLiteral(".txt"))) {
+      EXPECT_EQ(name, nameOf(newListings + 1) + QStringLiteral(".tmp"));
+    }
+  }
+}
+
+}  // namespace
+
+}  // namespace quorvin::test

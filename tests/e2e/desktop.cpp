@@ -1,0 +1,144 @@
+#include "desktop.h"
+
+#include <QDeadlineTimer>
+#include <QThread>
+
+#include <csignal>
+#include <stdexcept>
+#include <sys/prctl.h>
+
+namespace quorvin::test {
+
+namespace {
+
+// For slow machines; nothing ever takes this long on others.
+constexpr int kPatienceMilliseconds = 30'000;
+constexpr int kBetweenLooksMilliseconds = 20;
+constexpr int kBetweenKeysMilliseconds = 4;
+
+[[noreturn]] void fail(const QString& what) {
+  throw std::runtime_error(what.toStdString());
+}
+
+}  // namespace
+
+void waitUntil(const QString& what, const std::function<bool()>& condition,
+               const std::function<QString()>& instead) {
+  const QDeadlineTimer deadline(kPatienceMilliseconds);
+  while (!condition()) {
+    if (deadline.hasExpired()) {
+      fail(QStringLiteral("waited in vain ") + what +
+           (instead ? QStringLiteral("; instead: ") + instead() : QString()));
+    }
+    QThread::msleep(kBetweenLooksMilliseconds);
+  }
+}
+
+void endWithTest(QProcess& process) {
+  process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+}
+
+Desktop::Desktop() : environment_(QProcessEnvironment::systemEnvironment()) {
+  for (const char* name : {"WAYLAND_DISPLAY", "XAUTHORITY", "XDG_CURRENT_DESKTOP", "QT_STYLE_OVERRIDE",
+                           "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "DBUS_SESSION_BUS_ADDRESS"}) {
+    environment_.remove(QString::fromLatin1(name));
+  }
+  environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+  startScreen();
+  startWindowManager();
+}
+
+Desktop::~Desktop() {
+  for (QProcess* process : {&windowManager_, &screen_}) {
+    process->kill();
+    process->waitForFinished();
+  }
+}
+
+/// The server picks a free number itself and tells it. No key repeats, however late it is let go.
+void Desktop::startScreen() {
+  endWithTest(screen_);
+  screen_.setStandardErrorFile(QProcess::nullDevice());
+  screen_.start(QStringLiteral(QUORVIN_XVFB),
+                {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                 QStringLiteral("0"), QStringLiteral("1280x900x24"), QStringLiteral("-nolisten"),
+                 QStringLiteral("tcp"), QStringLiteral("-r")});
+  while (!screen_.canReadLine()) {
+    if (!screen_.waitForReadyRead(kPatienceMilliseconds)) fail(QStringLiteral("no screen came up"));
+  }
+  environment_.insert(QStringLiteral("DISPLAY"), u':' + QString::fromLatin1(screen_.readLine().trimmed()));
+}
+
+void Desktop::startWindowManager() {
+  endWithTest(windowManager_);
+  windowManager_.setProcessEnvironment(environment_);
+  windowManager_.setStandardOutputFile(QProcess::nullDevice());
+  windowManager_.setStandardErrorFile(QProcess::nullDevice());
+  windowManager_.start(QStringLiteral(QUORVIN_OPENBOX), {QStringLiteral("--sm-disable")});
+  waitUntil(QStringLiteral("for a window manager"), [this] {
+    return run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("get_num_desktops")}).isGood;
+  });
+}
+
+Desktop::Answer Desktop::run(const QString& program, const QStringList& arguments) const {
+  QProcess process;
+  endWithTest(process);
+  process.setProcessEnvironment(environment_);
+  process.start(program, arguments);
+  if (!process.waitForFinished(kPatienceMilliseconds)) fail(program + QStringLiteral(" does not end"));
+  return {process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+          QString::fromUtf8(process.readAllStandardOutput())};
+}
+
+QString Desktop::control(const QStringList& arguments) const {
+  const Answer answer = run(QStringLiteral(QUORVIN_XDOTOOL), arguments);
+  if (!answer.isGood) fail(QStringLiteral("xdotool failed: ") + arguments.join(u' '));
+  return answer.output.trimmed();
+}
+
+void Desktop::press(const QStringList& keys) const {
+  control(QStringList{QStringLiteral("key"), QStringLiteral("--delay"),
+                      QString::number(kBetweenKeysMilliseconds)} +
+          keys);
+}
+
+void Desktop::type(const QString& text) const {
+  control(
+      {QStringLiteral("type"), QStringLiteral("--delay"), QString::number(kBetweenKeysMilliseconds), text});
+}
+
+QString Desktop::activeWindow() const {
+  const Answer answer = run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("getactivewindow")});
+  return answer.isGood ? answer.output.trimmed() : QString();
+}
+
+/// Empty for a window that has just gone.
+QString Desktop::titleOf(const QString& window) const {
+  if (window.isEmpty()) return {};
+  return run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("getwindowname"), window}).output.trimmed();
+}
+
+QString Desktop::placeOf(const QString& window) const {
+  QStringList lines =
+      control({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), window}).split(u'\n');
+  lines.removeIf([](const QString& line) {
+    return line.startsWith(QStringLiteral("WINDOW=")) || line.startsWith(QStringLiteral("SCREEN="));
+  });
+  return lines.join(u' ');
+}
+
+void Desktop::move(const QString& window, int x, int y) const {
+  control({QStringLiteral("windowmove"), window, QString::number(x), QString::number(y)});
+}
+
+void Desktop::resize(const QString& window, int width, int height) const {
+  control({QStringLiteral("windowsize"), window, QString::number(width), QString::number(height)});
+}
+
+QString Desktop::clipboardText() const {
+  return run(QStringLiteral(QUORVIN_XCLIP),
+             {QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-o")})
+      .output;
+}
+
+}  // namespace quorvin::test

@@ -1,0 +1,63 @@
+// A desktop of the test's own: a screen that nobody sees, with a window manager and a keyboard.
+#pragma once
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace quorvin::test {
+
+/// Looks at `condition` until it holds, so that a test waits for what happens and never for a time. Throws
+/// std::runtime_error when that takes too long, with `what` was waited for and what there is `instead`.
+void waitUntil(const QString& what, const std::function<bool()>& condition,
+               const std::function<QString()>& instead = {});
+
+/// Windows are told by the number that the screen gives them, as text.
+class Desktop {
+ public:
+  /// Throws std::runtime_error when the desktop does not come up.
+  Desktop();
+  ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  /// What programs that are to appear on this desktop are started with.
+  const QProcessEnvironment& environment() const { return environment_; }
+
+  /// Presses keys one after another, named as in "alt+f", "Tab" or "o"; they go to the active window.
+  void press(const QStringList& keys) const;
+  void type(const QString& text) const;
+
+  /// The window that keys go to; empty while there is none.
+  QString activeWindow() const;
+  QString titleOf(const QString& window) const;
+  /// The place of the window's inside, as "X=1 Y=2 WIDTH=3 HEIGHT=4".
+  QString placeOf(const QString& window) const;
+  void move(const QString& window, int x, int y) const;
+  void resize(const QString& window, int width, int height) const;
+
+  /// What the active program has put on the clipboard; empty when there is nothing.
+  QString clipboardText() const;
+
+ private:
+  void startScreen();
+  void startWindowManager();
+  struct Answer {
+    bool isGood;
+    QString output;
+  };
+  Answer run(const QString& program, const QStringList& arguments) const;
+  QString control(const QStringList& arguments) const;
+
+  QProcessEnvironment environment_;
+  QProcess screen_;
+  QProcess windowManager_;
+};
+
+/// Makes `process` end with the process that starts it, however that ends.
+void endWithTest(QProcess& process);
+
+}  // namespace quorvin::test
