@@ -124,8 +124,10 @@ void PeerSharing::tell(const QString& first, const QStringList& problems) {
 QString PeerSharing::addressText() const {
   QStringList addresses = ownNetworkAddresses();
   if (addresses.isEmpty()) addresses += QStringLiteral("localhost");
-  return QStringLiteral("Your lists are shared on port %1 of this address: %2")
-      .arg(QString::number(server_.port()), addresses.join(QStringLiteral(", ")));
+  const QString which =
+      addresses.size() == 1 ? QStringLiteral("this address") : QStringLiteral("these addresses");
+  return QStringLiteral("Your lists are shared on port %1 of %2: %3")
+      .arg(QString::number(server_.port()), which, addresses.join(QStringLiteral(", ")));
 }
 
 }  // namespace quorvin

@@ -33,6 +33,7 @@ class Desktop {
 
   /// The window that keys go to; empty while there is none.
   QString activeWindow() const;
+  void activate(const QString& window) const;
   QString titleOf(const QString& window) const;
   /// The place of the window's inside, as "X=1 Y=2 WIDTH=3 HEIGHT=4".
   QString placeOf(const QString& window) const;

@@ -11,7 +11,7 @@ namespace quorvin::test {
 
 namespace {
 
-constexpr int kLongestEndMilliseconds = 30'000;
+constexpr int kLongestEndMilliseconds = 60'000;
 const QString kTitle = QStringLiteral("Quorvin Utility");
 const QString kOfflineTitle = QStringLiteral("Offline Search List files");
 
@@ -53,9 +53,16 @@ RunningProgram::RunningProgram(const Desktop& desktop, const ProgramHome& home, 
   endWithTest(process_);
   process_.setProcessEnvironment(environment);
   process_.setWorkingDirectory(home.folder.path());
+  // Until this program's own window comes, another one's has its place.
+  mainWindow_ = desktop_.activeWindow();
   process_.start(home.program(), arguments);
   waitForWindow(kTitle);
   mainWindow_ = desktop_.activeWindow();
+}
+
+void RunningProgram::comeToFront() const {
+  desktop_.activate(mainWindow_);
+  waitForMainWindow();
 }
 
 void RunningProgram::tab(int times) const {

@@ -47,6 +47,9 @@ class RunningProgram {
 
   const QString& mainWindow() const { return mainWindow_; }
 
+  /// Makes the main window the one that takes keys, where another program's did.
+  void comeToFront() const;
+
   void press(const QStringList& keys) const { desktop_.press(keys); }
   void type(const QString& text) const { desktop_.type(text); }
   /// Presses the tabulator key so often.

@@ -113,23 +113,6 @@ TEST_F(PeerExchangeTest, WhatOneSharesTheOtherFinds) {
   EXPECT_TRUE(client_.messages.informed.empty());
 }
 
-TEST_F(PeerExchangeTest, AListingOf200MegabytesComesWholeAndIsFoundIn) {
-  server_.addListedSource(QStringLiteral("Disk"), longListing(200, "Needle in the stack.mp3"));
-  ASSERT_GE(QFileInfo(server_.folder.pathOf(QStringLiteral("Disk.txt"))).size(), 200000000);
-  const quint16 port = share();
-  client_.messages.answers = {true};
-  client_.getFrom(port);
-  ASSERT_TRUE(waitFor([&] { return client_.additions == 1; }, 120000));
-  EXPECT_EQ(client_.folder.readFile(receivedName(QStringLiteral("Disk.zip"), port)) ==
-                server_.folder.readFile(QStringLiteral("Disk.zip")),
-            true);
-  EXPECT_EQ(client_.folder.readFile(receivedName(QStringLiteral("Disk/Disk.txt"), port)) ==
-                server_.folder.readFile(QStringLiteral("Disk.txt")),
-            true);
-  EXPECT_EQ(client_.find(QStringLiteral("needle stack")),
-            QStringList{QStringLiteral("Needle in the stack.mp3")});
-}
-
 TEST_F(PeerExchangeTest, AnArchiveOf200MegabytesIsTheSameOnBothSides) {
   QByteArray noise(200000000, '\0');
   std::mt19937_64 random(1);

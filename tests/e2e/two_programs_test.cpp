@@ -1,0 +1,91 @@
+// Two real programs, each with settings and folders of its own, exchange their lists over TCP.
+#include "running_program.h"
+#include "source_records.h"
+#include "support/listing_lines.h"
+#include "support/qt_printing.h"
+
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+namespace quorvin::test {
+
+namespace {
+
+constexpr qsizetype kListingBytes = 200'000'000;
+const QString kTitle = QStringLiteral("Quorvin Utility");
+const QString kAskForPeer = QStringLiteral("Get Lists From Peer");
+const QString kReceived = QStringLiteral("data/Received/127.0.0.1/");
+
+QByteArray longListing() {
+  QByteArray listing;
+  listing.reserve(kListingBytes + 1000);
+  listing += blockHead("Far disk", "\\far\\");
+  for (int number = 0; listing.size() < kListingBytes; ++number) {
+    listing += entryLine("straw " + QByteArray::number(number, 36) + ".mp3", QByteArray::number(number));
+  }
+  return listing + entryLine("needle in the stack.mp3");
+}
+
+class TwoPrograms : public testing::Test {
+ protected:
+  TwoPrograms() {
+    sharer_.writeSettings();
+    getter_.writeSettings();
+  }
+  static qint64 sizeOf(const ProgramHome& home, const QString& name) {
+    return QFileInfo(home.folder.pathOf(name)).size();
+  }
+
+  ProgramHome sharer_;
+  ProgramHome getter_;
+  Desktop desktop_;
+};
+
+TEST_F(TwoPrograms, AListingOf200MegabytesComesWholeAndIsFoundIn) {
+  const QByteArray listing = longListing();
+  sharer_.folder.writeFile(QStringLiteral("data/Disk.txt"), listing);
+  sharer_.folder.writeFile(QStringLiteral("data/Locations.txt"),
+                           listFile({{QStringLiteral("Disk"), QStringLiteral("/far/")}}));
+
+  RunningProgram sharer(desktop_, sharer_);
+  sharer.press({QStringLiteral("alt+p"), QStringLiteral("s")});
+  // The message that tells the address to give away.
+  sharer.waitForWindow(kTitle);
+  sharer.press({QStringLiteral("Return")});
+  sharer.waitForMainWindow();
+  waitUntil(QStringLiteral("for the archive"),
+            [this] { return sharer_.hasData(QStringLiteral("Disk.zip")); });
+
+  RunningProgram getter(desktop_, getter_);
+  getter.press({QStringLiteral("alt+p"), QStringLiteral("g")});
+  getter.waitForWindow(kAskForPeer);
+  getter.type(QStringLiteral("127.0.0.1"));
+  getter.press({QStringLiteral("Return")});
+  // The question whether what came is to be searched from now on.
+  getter.waitForWindow(kTitle);
+  EXPECT_TRUE(getter_.folder.readFile(kReceived + QStringLiteral("Disk.zip")) ==
+              sharer_.dataFile(QStringLiteral("Disk.zip")));
+  getter.press({QStringLiteral("alt+y")});
+  waitUntil(QStringLiteral("for the whole listing"),
+            [&] { return sizeOf(getter_, kReceived + QStringLiteral("Disk/Disk.txt")) == listing.size(); });
+  getter.waitForMainWindow();
+  EXPECT_TRUE(getter_.folder.readFile(kReceived + QStringLiteral("Disk/Disk.txt")) == listing);
+
+  getter.find(QStringLiteral("needle stack"));
+  getter.waitForHits(
+      {QStringLiteral("100%\tFar disk\t\\far\\\tneedle in the stack.mp3\t0.00mb\tJan, 15 04")});
+  for (RunningProgram* program : {&getter, &sharer}) {
+    program->comeToFront();
+    const ProgramEnd end = program->endBy({QStringLiteral("ctrl+q")});
+    EXPECT_TRUE(end.isExit);
+    EXPECT_EQ(end.code, 0);
+    EXPECT_EQ(end.errors, u"");
+  }
+  EXPECT_EQ(getter_.dataFile(QStringLiteral("OfflineLocations.txt")),
+            listFile({{QStringLiteral("Disk from 127.0.0.1"),
+                       getter_.folder.pathOf(kReceived + QStringLiteral("Disk/Disk.txt"))}}));
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
