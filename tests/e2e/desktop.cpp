@@ -122,6 +122,11 @@ QString Desktop::titleOf(const QString& window) const {
   return run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("getwindowname"), window}).output.trimmed();
 }
 
+qint64 Desktop::processOf(const QString& window) const {
+  const Answer answer = run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("getwindowpid"), window});
+  return answer.isGood ? answer.output.trimmed().toLongLong() : 0;
+}
+
 QString Desktop::placeOf(const QString& window) const {
   QStringList lines =
       control({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), window}).split(u'\n');

@@ -53,8 +53,6 @@ RunningProgram::RunningProgram(const Desktop& desktop, const ProgramHome& home, 
   endWithTest(process_);
   process_.setProcessEnvironment(environment);
   process_.setWorkingDirectory(home.folder.path());
-  // Until this program's own window comes, another one's has its place.
-  mainWindow_ = desktop_.activeWindow();
   process_.start(home.program(), arguments);
   waitForWindow(kTitle);
   mainWindow_ = desktop_.activeWindow();
@@ -80,13 +78,15 @@ void RunningProgram::openFromFileMenu(const QStringList& keys, const QString& ti
   waitForWindow(title);
 }
 
-/// A window other than the main one: messages bear the main window's title.
+/// A window of this program other than the main one: messages bear the main window's title, and so does the
+/// main window of another such program.
 void RunningProgram::waitForWindow(const QString& title) const {
   waitUntil(
       QStringLiteral("for the window \"%1\"").arg(title),
       [&] {
         const QString active = desktop_.activeWindow();
-        return active != mainWindow_ && desktop_.titleOf(active) == title;
+        return active != mainWindow_ && desktop_.titleOf(active) == title &&
+               desktop_.processOf(active) == process_.processId();
       },
       [this] { return activeTitle(); });
 }
