@@ -93,7 +93,14 @@ void RunningProgram::waitForWindow(const QString& title) const {
 
 void RunningProgram::waitForMainWindow() const {
   waitUntil(
-      QStringLiteral("for the main window"), [this] { return desktop_.activeWindow() == mainWindow_; },
+      QStringLiteral("for the main window"),
+      [this] {
+        const QString active = desktop_.activeWindow();
+        // When a dialog goes, the window manager may leave the keys to nobody; a person clicks the window
+        // then.
+        if (desktop_.titleOf(active).isEmpty()) desktop_.activate(mainWindow_);
+        return active == mainWindow_;
+      },
       [this] { return activeTitle(); });
 }
 
