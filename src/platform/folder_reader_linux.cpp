@@ -22,7 +22,7 @@ NameKind kindOfMode(mode_t mode) {
 // Not every file system keeps the kinds beside the names. A name that is gone already passes for a link: the
 // look-up will tell.
 NameKind kindOfEntry(int folder, const dirent64& entry) {
-  if (entry.d_type != DT_UNKNOWN) return kindOfMode(DTTOIF(entry.d_type));
+  if (entry.d_type != DT_UNKNOWN) return kindOfMode(static_cast<mode_t>(DTTOIF(entry.d_type)));
   struct stat found {};
   const int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
   return ::fstatat(folder, entry.d_name, &found, flags) == 0 ? kindOfMode(found.st_mode) : NameKind::Link;

@@ -1,6 +1,7 @@
 #include "preview/metafile_canvas.h"
 
 #include "preview/metafile_bytes.h"
+#include "preview/metafile_whole.h"
 
 #include <algorithm>
 #include <array>
@@ -212,7 +213,7 @@ void MetafileCanvas::paintPath(MetafilePaint paintWhat) {
 void MetafileCanvas::clipToPath(int mode) {
   QRegion region;
   for (const QPolygonF& polygon : path_.toFillPolygons()) {
-    region ^= QRegion(polygon.toPolygon(), state.fillRule);
+    region ^= QRegion(pixelsAt(polygon), state.fillRule);
   }
   combineClip(region, mode);
   dropPath();
@@ -223,13 +224,13 @@ void MetafileCanvas::clip(const std::optional<QRegion>& device, int mode) {
 }
 
 void MetafileCanvas::clip(const QRectF& box, int mode) {
-  combineClip(QRegion(toImage().map(QPolygonF(box)).toPolygon()), mode);
+  combineClip(QRegion(pixelsAt(toImage().map(QPolygonF(box)))), mode);
 }
 
 void MetafileCanvas::moveClip(const QPointF& offset) {
   if (!state.clip) return;
   const QTransform transform = toImage();
-  state.clip->translate((transform.map(offset) - transform.map(QPointF())).toPoint());
+  state.clip->translate(pixelAt(transform.map(offset) - transform.map(QPointF())));
 }
 
 void MetafileCanvas::combineClip(const std::optional<QRegion>& image, int mode) {

@@ -1,5 +1,6 @@
 // Text of metafiles.
 #include "preview/metafile_canvas.h"
+#include "preview/metafile_whole.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -19,7 +20,7 @@ constexpr int kBottom = 8;
 constexpr int kBaseline = 24;
 constexpr int kUsualHeight = 16;
 /// Larger letters than any picture has pixels only cost time.
-constexpr double kTallestLetters = 4000;
+constexpr int kTallestLetters = 4000;
 constexpr int kMostStretch = 4000;
 
 /// The size in pixels of the letters when the whole line is to be `lineHeight` pixels high.
@@ -40,11 +41,11 @@ QFont fontOf(const MetafileFont& wanted, double pixelsPerUnit, double usualHeigh
   font.setHintingPreference(QFont::PreferNoHinting);
   const double height = wanted.height == 0 ? usualHeight : std::abs(wanted.height) * pixelsPerUnit;
   const double letters = wanted.height > 0 ? letterHeight(font, height) : height;
-  font.setPixelSize(static_cast<int>(std::clamp(std::round(letters), 1.0, kTallestLetters)));
+  font.setPixelSize(wholeWithin(std::round(letters), 1, kTallestLetters));
   if (wanted.width == 0) return font;
   const double usualWidth = std::max(QFontMetricsF(font).averageCharWidth(), 1.0);
   const double stretch = std::abs(wanted.width) * pixelsPerUnit / usualWidth * 100;
-  font.setStretch(static_cast<int>(std::clamp(stretch, 1.0, static_cast<double>(kMostStretch))));
+  font.setStretch(wholeWithin(stretch, 1, kMostStretch));
   return font;
 }
 
@@ -65,13 +66,22 @@ QPointF startOfLine(std::uint32_t align, double width, const QFontMetricsF& metr
   return {x, (align & kBottom) != 0 ? -metrics.descent() : metrics.ascent()};
 }
 
+/// The toolkit's own way of drawing text fails over letters that are stretched very wide.
+void drawPiece(QPainter& painter, const QPointF& start, const QString& letters) {
+  constexpr int kMostDrawnStretch = 400;
+  if (painter.font().stretch() <= kMostDrawnStretch) return painter.drawText(start, letters);
+  QPainterPath outlines;
+  outlines.addText(start, painter.font(), letters);
+  painter.fillPath(outlines, painter.pen().color());
+}
+
 void drawLetters(QPainter& painter, const QPointF& start, const MetafileText& text, double pixelsPerUnit) {
-  if (text.steps.empty()) return painter.drawText(start, text.text);
+  if (text.steps.empty()) return drawPiece(painter, start, text.text);
   double x = start.x();
   for (qsizetype at = 0; at < text.text.size();) {
     const bool isPair = text.text.at(at).isHighSurrogate() && at + 1 < text.text.size();
     const qsizetype count = isPair ? 2 : 1;
-    painter.drawText(QPointF(x, start.y()), text.text.sliced(at, count));
+    drawPiece(painter, QPointF(x, start.y()), text.text.sliced(at, count));
     for (qsizetype unit = at; unit < at + count; ++unit) {
       const auto index = static_cast<std::size_t>(unit);
       if (index < text.steps.size()) x += text.steps[index] * pixelsPerUnit;
@@ -93,7 +103,7 @@ void MetafileCanvas::drawText(const MetafileText& text) {
   beginPainting();
   if (text.opaque) painter_.fillPath(transform.map(boxPath(*text.opaque)), state.backColour);
   const QRegion textClip =
-      text.clip ? QRegion(transform.map(QPolygonF(*text.clip)).toPolygon()) : QRegion(image_.rect());
+      text.clip ? QRegion(pixelsAt(transform.map(QPolygonF(*text.clip)))) : QRegion(image_.rect());
   painter_.setClipRegion(textClip, state.clip ? Qt::IntersectClip : Qt::ReplaceClip);
 
   // Letters stay upright in a drawing that counts upwards: only the scale and the turn are taken over.

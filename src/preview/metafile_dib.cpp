@@ -26,7 +26,8 @@ std::int64_t headerSize(const MetafileBytes& dib) {
   const std::uint16_t depth = dib.u16(14);
   const std::int64_t masks = size == kUsualHeaderSize && dib.u32(16) == kMasks ? 12 : 0;
   std::int64_t colours = dib.u32(32);
-  if (depth <= 8 && (colours == 0 || colours > (1LL << depth))) colours = 1LL << depth;
+  const std::int64_t mostColours = std::int64_t{1} << std::min<int>(depth, 8);
+  if (depth <= 8 && (colours == 0 || colours > mostColours)) colours = mostColours;
   return size + masks + colours * 4;
 }
 

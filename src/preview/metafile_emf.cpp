@@ -1,5 +1,7 @@
 #include "preview/metafile_emf.h"
 
+#include "preview/metafile_whole.h"
+
 #include <QTransform>
 
 #include <algorithm>
@@ -56,8 +58,7 @@ EmfPlayer::EmfPlayer(const MetafileBytes& file) : EmfPlayer(file, Header(file.sl
 
 EmfPlayer::EmfPlayer(const MetafileBytes& file, const Header& header)
     : file_(file),
-      ownSize_(std::max(1, static_cast<int>(header.ownSize.width())),
-               std::max(1, static_cast<int>(header.ownSize.height()))),
+      ownSize_(wholeHundredths(header.ownSize)),
       canvas_(header.sheet.pixels, header.deviceToImage(), header.sheet.scale),
       objects_(file.u16(56)) {
   canvas_.state.mapping.deviceUnitsPerMillimetre = header.unitsPerMillimetre;

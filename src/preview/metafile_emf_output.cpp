@@ -3,6 +3,7 @@
 #include "preview/metafile_dib.h"
 #include "preview/metafile_emf.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quorvin {
@@ -25,6 +26,13 @@ QRectF boxAt(const MetafileBytes& record, std::int64_t at) {
   return {record.point32(at), sizeAt(record, at + 8)};
 }
 
+/// Regions are calculated with ints, and so must their differences be.
+QPoint deviceUnitAt(const MetafileBytes& data, std::int64_t at) {
+  constexpr int kFarthest = 100'000'000;
+  return {std::clamp(data.i32(at), -kFarthest, kFarthest),
+          std::clamp(data.i32(at + 4), -kFarthest, kFarthest)};
+}
+
 }  // namespace
 
 QRegion emfRegion(const MetafileBytes& data) {
@@ -32,7 +40,8 @@ QRegion emfRegion(const MetafileBytes& data) {
   if (count > kMostRectangles) throw MetafileFault("a region in it has too many parts");
   QRegion region;
   for (std::uint32_t index = 0; index < count; ++index) {
-    region |= data.rect32(data.u32(0) + 16LL * index).toRect();
+    const std::int64_t at = data.u32(0) + std::int64_t{16} * index;
+    region |= QRect(deviceUnitAt(data, at), deviceUnitAt(data, at + 8) - QPoint(1, 1));
   }
   return region;
 }

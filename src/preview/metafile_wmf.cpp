@@ -1,5 +1,6 @@
 #include "preview/metafile_wmf.h"
 
+#include "preview/metafile_whole.h"
 #include "preview/metafile_wmf_points.h"
 
 #include <algorithm>
@@ -76,7 +77,7 @@ WmfPlayer::WmfPlayer(const MetafileBytes& file) : records_(file) {
   const QSizeF size = QSizeF(std::abs(place.window.width()), std::abs(place.window.height())) *
                       kHundredthMillimetresPerInch / place.unitsPerInch;
   const MetafileSheet sheet = sheetFor(size);
-  ownSize_ = {std::max(1, static_cast<int>(size.width())), std::max(1, static_cast<int>(size.height()))};
+  ownSize_ = wholeHundredths(size);
   const QTransform windowToSheet = QTransform::fromTranslate(-place.window.x(), -place.window.y()) *
                                    QTransform::fromScale(sheet.pixels.width() / place.window.width(),
                                                          sheet.pixels.height() / place.window.height());

@@ -121,6 +121,26 @@ TEST(MetafilePlay, TheOwnSizeIsInHundredthMillimetres) {
   EXPECT_EQ(playMetafile(WmfWriter().file()).ownSize, QSize(10583, 5291));
 }
 
+TEST(MetafilePlay, AnOwnSizeBeyondAllNumbersIsCutToAKilometre) {
+  QByteArray emf = EmfWriter().file();
+  // The bounds end at nearly the largest number, and the frame is empty: then the bounds count.
+  emf.replace(16, 4, QByteArray("\xFF\xFF\xFF\x7F", 4)).replace(24, 16, QByteArray(16, '\0'));
+  EXPECT_EQ(playMetafile(emf).ownSize.width(), 100'000'000);
+}
+
+TEST(MetafilePlay, LettersStretchedVeryWideAreDrawn) {
+  constexpr int kHeight = 10;
+  constexpr int kWidth = 400;
+  WmfWriter wmf;
+  wmf.record(0x02FB, ByteWriter().u16(kHeight).u16(kWidth).zeros(4).u16(400).zeros(40)).select(0);
+  const QImage image = playMetafile(wmf.text(0, 100, "H").file()).image;
+  int darkPoints = 0;
+  for (int x = 0; x < kUnits.width(); ++x) {
+    for (int y = 0; y < kUnits.height(); ++y) darkPoints += qGray(colourAt(image, {x, y})) < 128 ? 1 : 0;
+  }
+  EXPECT_GT(darkPoints, kWidth / 2);
+}
+
 TEST(MetafilePlay, ARecordThatMakesNoSenseDoesNotSpoilTheOthers) {
   EmfWriter emf;
   emf.select(0x80000008).brush(1, 0, qRgb(255, 0, 0)).select(1);

@@ -1,0 +1,74 @@
+// What a peer's server sends, held against the order that PeerStreamSink promises. An input is a byte for the
+// size of the pieces in which the stream comes, and the stream.
+#include "net/peer_stream.h"
+#include "platform/runtime_fault.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <set>
+
+namespace quorvin {
+namespace {
+
+void require(bool holds) {
+  if (!holds) std::abort();
+}
+
+class OrderCheck : public PeerStreamSink {
+ public:
+  void identityArrived(const QByteArray& message) override { require(!message.isEmpty()); }
+  bool listNamed(const QByteArray& name) override { return asked_.insert(name).second; }
+  void archiveAnnounced(const QByteArray& name, const QByteArray& message) override {
+    require(!isComing_);
+    require(asked_.count(name) != 0);
+    require(!message.isEmpty());
+    isComing_ = true;
+    length_ = 0;
+  }
+  void archiveBytes(QByteArrayView bytes) override {
+    require(isComing_);
+    length_ += bytes.size();
+  }
+  void archiveWhole() override { endArchive(); }
+  void archiveMissing() override { endArchive(); }
+  void archiveCut(std::int64_t length) override {
+    require(length >= 0 && length <= length_);
+    endArchive();
+  }
+  // Asked for once more only once, as a client does that does not go on for ever.
+  bool requestLost(const QByteArray& name) override { return askedAgain_.insert(name).second; }
+
+ private:
+  void endArchive() {
+    require(isComing_);
+    isComing_ = false;
+  }
+
+  std::set<QByteArray> asked_;
+  std::set<QByteArray> askedAgain_;
+  bool isComing_ = false;
+  std::int64_t length_ = 0;
+};
+
+}  // namespace
+}  // namespace quorvin
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quorvin;
+  if (size == 0) return 0;
+  const qsizetype piece = 1 + data[0];
+  const QByteArrayView bytes(reinterpret_cast<const char*>(data) + 1, static_cast<qsizetype>(size) - 1);
+  OrderCheck check;
+  PeerStream stream(check);
+  try {
+    for (qsizetype at = 0; at < bytes.size(); at += piece) {
+      stream.feed(bytes.sliced(at, std::min(piece, bytes.size() - at)));
+    }
+    stream.settle();
+    stream.end();
+  } catch (const RuntimeFault&) {
+    // What makes no sense is said to make none.
+  }
+  return 0;
+}
