@@ -40,17 +40,6 @@ bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64
   return any != 0;
 }
 
-void scanByte(const char* text, std::size_t size, char byte, std::uint64_t* bits, std::uint32_t* before) {
-  const auto wanted = static_cast<std::uint8_t>(byte);
-  scanBytePair(text, size, {wanted, wanted, 0, 0}, bits);
-  std::uint32_t count = 0;
-  for (std::size_t block = 0; block * 64 < size; ++block) {
-    before[block] = count;
-    // Here this is one instruction; compiled for every processor it would be a call.
-    count += static_cast<std::uint32_t>(__builtin_popcountll(bits[block]));
-  }
-}
-
 }  // namespace quorvin::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
@@ -64,11 +53,6 @@ namespace quorvin {
 bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64_t* bits) {
   static constexpr FunctionVersions<decltype(&scanBytePair)> kVersions = QUORVIN_VERSIONS_OF(scanBytePair);
   return kVersions.chosen()(text, size, pair, bits);
-}
-
-void scanByte(const char* text, std::size_t size, char byte, std::uint64_t* bits, std::uint32_t* before) {
-  static constexpr FunctionVersions<decltype(&scanByte)> kVersions = QUORVIN_VERSIONS_OF(scanByte);
-  kVersions.chosen()(text, size, byte, bits, before);
 }
 
 namespace {

@@ -1,4 +1,4 @@
-// The one vectorised loop of the search: where two bytes stand at a given distance.
+// Where two bytes stand at a given distance: the quickest way to see that a word is nowhere.
 #pragma once
 
 #include <cstddef>
@@ -30,9 +30,5 @@ BytePair rarestPair(std::string_view word);
 /// the others up to the next multiple of 64. True if any bit is set. Uses the widest vectors of the
 /// processor.
 bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64_t* bits);
-
-/// Sets the bits of `bits` as scanBytePair does where text[i] is `byte`, and before[k] to the number of such
-/// places before position 64 * k.
-void scanByte(const char* text, std::size_t size, char byte, std::uint64_t* bits, std::uint32_t* before);
 
 }  // namespace quorvin

@@ -7,10 +7,36 @@ namespace quorvin {
 
 namespace {
 
+/// Sets bits `from` to `to` - 1.
 void setBits(std::vector<std::uint64_t>& bits, std::uint32_t from, std::uint32_t to) {
-  for (; from < to && from % 64 != 0; ++from) bits[from / 64] |= std::uint64_t{1} << (from % 64);
-  for (; from + 64 <= to; from += 64) bits[from / 64] = ~std::uint64_t{0};
-  for (; from < to; ++from) bits[from / 64] |= std::uint64_t{1} << (from % 64);
+  if (from >= to) return;
+  constexpr std::uint64_t kAll = ~std::uint64_t{0};
+  const std::uint64_t first = kAll << (from % 64);
+  const std::uint64_t last = kAll >> (63 - (to - 1) % 64);
+  const std::size_t begin = from / 64;
+  const std::size_t end = (to - 1) / 64;
+  if (begin == end) {
+    bits[begin] |= first & last;
+    return;
+  }
+  bits[begin] |= first;
+  std::fill(bits.begin() + static_cast<std::ptrdiff_t>(begin) + 1,
+            bits.begin() + static_cast<std::ptrdiff_t>(end), kAll);
+  bits[end] |= last;
+}
+
+/// The first of `starts` from `from` on that is not below `value`. It is looked for nearby first: stretch
+/// follows upon stretch, and each holds few of very many blocks.
+std::uint32_t firstNotBelow(std::span<const std::uint32_t> starts, std::uint32_t from, std::uint32_t value) {
+  std::size_t step = 1;
+  std::size_t end = from;
+  while (end < starts.size() && starts[end] < value) {
+    from = static_cast<std::uint32_t>(end) + 1;
+    end += step;
+    step *= 2;
+  }
+  const auto behind = starts.begin() + static_cast<std::ptrdiff_t>(std::min(end, starts.size()));
+  return static_cast<std::uint32_t>(std::lower_bound(starts.begin() + from, behind, value) - starts.begin());
 }
 
 }  // namespace
@@ -47,10 +73,8 @@ void ImageSearch::search(const SearchImage& image, std::uint32_t first, std::uin
 }
 
 void ImageSearch::searchFolders(const SearchImage& image, std::uint32_t first, std::uint32_t last) {
-  const auto& starts = image.arrays().blockStarts;
   firstBlock_ = image.blockOf(first);
-  const auto end = std::lower_bound(starts.begin() + firstBlock_ + 1, starts.end(), last);
-  lastBlock_ = static_cast<std::uint32_t>(end - starts.begin());
+  lastBlock_ = firstNotBelow(image.arrays().blockStarts, firstBlock_ + 1, last);
   words_.find(image.arrays().folders, firstBlock_, lastBlock_, inFolders_);
 }
 
@@ -90,10 +114,14 @@ void ImageSearch::score(const ImageArrays& arrays, std::uint32_t first, std::vec
 
 void ImageSearch::takeAllCandidates(std::uint32_t first, std::vector<FoundEntry>& hits) const {
   const std::int16_t match = query_.match(query_.wordCount());
+  std::size_t count = 0;
+  for (const std::uint64_t bits : candidates_) count += static_cast<std::size_t>(std::popcount(bits));
+  hits.resize(hits.size() + count);
+  FoundEntry* hit = hits.data() + (hits.size() - count);
   for (std::size_t i = 0; i < candidates_.size(); ++i) {
     const auto base = first + static_cast<std::uint32_t>(i * 64);
     for (std::uint64_t left = candidates_[i]; left != 0; left &= left - 1) {
-      hits.push_back({base + static_cast<std::uint32_t>(std::countr_zero(left)), match});
+      *hit++ = {base + static_cast<std::uint32_t>(std::countr_zero(left)), match};
     }
   }
 }

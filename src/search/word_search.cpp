@@ -1,6 +1,7 @@
 #include "search/word_search.h"
 
 #include "search/word_matches.h"
+#include "search/word_scan.h"
 
 #include <algorithm>
 
@@ -27,6 +28,30 @@ bool SeenWords::none() const {
   return std::all_of(touched_.begin(), touched_.end(), [](std::uint64_t bits) { return bits == 0; });
 }
 
+void SeenWords::seeAll(std::uint32_t text, std::span<std::uint64_t> bits, std::size_t word) {
+  if (!oneWord_) {
+    for (std::size_t block = 0; block < bits.size(); ++block) {
+      const auto base = text + static_cast<std::uint32_t>(block * 64);
+      for (std::uint64_t left = bits[block]; left != 0; left &= left - 1) {
+        see(base + static_cast<std::uint32_t>(std::countr_zero(left)), word);
+      }
+    }
+    return;
+  }
+  // The first bits may stand for texts before the stretch; they are not set.
+  const std::uint32_t skipped = text < first_ ? first_ - text : 0;
+  const std::uint32_t begin = text + skipped - first_;
+  for (std::size_t block = 0; block < bits.size(); ++block) {
+    const std::uint64_t next = block + 1 < bits.size() ? bits[block + 1] : 0;
+    const std::uint64_t wanted = skipped == 0 ? bits[block] : bits[block] >> skipped | next << (64 - skipped);
+    if (wanted == 0) continue;
+    const std::size_t at = begin / 64 + block;
+    touched_[at] |= wanted << (begin % 64);
+    const std::uint64_t over = (wanted >> 1) >> (63 - begin % 64);
+    if (over != 0) touched_[at + 1] |= over;
+  }
+}
+
 WordSearch::WordSearch(const SearchQuery& query) {
   for (const SearchQuery::Word& word : query.words()) {
     needles_.push_back({word.bytes, rarestPair(word.bytes), TrigramProbe(word.bytes)});
@@ -46,75 +71,59 @@ void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t
   }
 }
 
+void WordSearch::makeRoom(std::size_t blocks) {
+  if (places_.size() >= blocks) return;
+  places_.resize(blocks);
+  ends_.resize(blocks);
+}
+
 void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& seen) {
   const TrigramSet* trigrams =
       table.trigrams.empty() ? nullptr : &table.trigrams[stretch.first / kTextsPerPage];
   if (trigrams != nullptr) table.require(trigrams, sizeof(TrigramSet));
   bool textChecked = false;
-  const std::size_t blocks = (stretch.text.size() + 63) / 64;
-  if (matches_.size() < blocks) {
-    matches_.resize(blocks);
-    ends_.resize(blocks);
-    endsBefore_.resize(blocks);
-  }
   bool endsKnown = false;
+  makeRoom((stretch.text.size() + 63) / 64);
   for (std::size_t word = 0; word < needles_.size(); ++word) {
-    const Needle& needle = needles_[word];
+    Needle& needle = needles_[word];
     if (trigrams != nullptr && !needle.probe.mayBeIn(*trigrams)) continue;
     if (!textChecked) stretch.text = table.toSearch(stretch.text);
     textChecked = true;
-    if (!scanBytePair(stretch.text.data(), stretch.text.size(), needle.pair, matches_.data())) continue;
-    if (!endsKnown) {
-      scanByte(stretch.text.data(), stretch.text.size(), kTextEnd, ends_.data(), endsBefore_.data());
-    }
+    needle.isLikely = findPlaces(stretch.text, needle, endsKnown);
+    if (needle.isLikely) seeTexts(stretch, word, seen);
+  }
+}
+
+/// Whether the word stands anywhere in the text; then `places_` and `ends_` are known.
+bool WordSearch::findPlaces(std::string_view text, Needle& needle, bool& endsKnown) {
+  if (needle.isLikely) {
+    const bool any =
+        scanWord(text, needle.bytes, places_.data(), kTextEnd, endsKnown ? nullptr : ends_.data());
     endsKnown = true;
-    if (needle.bytes.size() == 1) {
-      seeManyMatches(stretch, word, seen);
-    } else {
-      seeFewMatches(stretch, word, seen);
-    }
+    if (!any || needle.bytes.size() <= kScannedWordBytes) return any;
+    return keepPlacesOf(needle.bytes, text, places_.data());
   }
+  if (!scanBytePair(text.data(), text.size(), needle.pair, places_.data())) return false;
+  if (!keepPlacesOf(needle.bytes, text, places_.data())) return false;
+  constexpr auto kEnd = static_cast<std::uint8_t>(kTextEnd);
+  if (!endsKnown) scanBytePair(text.data(), text.size(), {kEnd, kEnd, 0, 0}, ends_.data());
+  endsKnown = true;
+  return true;
 }
 
-/// The way for words that few texts hold: it takes every match, since a second one in the same text is too
-/// rare to be worth a branch that the processor would often guess wrong.
-void WordSearch::seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) {
-  if (numbers_.size() <= stretch.text.size()) numbers_.resize(stretch.text.size() + 1);
-  const std::size_t count =
-      textsWithWord(stretch.text, needles_[word].bytes, {matches_.data(), ends_.data(), endsBefore_.data()},
-                    numbers_.data());
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::uint32_t text = stretch.firstText + numbers_[i];
-    if (text >= stretch.first && text < stretch.last) seen.see(text, word);
-  }
-}
-
-/// The way for a single letter, which stands in most texts and often more than once: after a text's first
-/// match the rest of it is passed over, as far as need be into the next blocks.
-void WordSearch::seeManyMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const {
+/// The word has been found in the stretch: takes the texts with it, but for those before and behind what is
+/// wanted.
+void WordSearch::seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen) {
+  constexpr std::size_t kMostElements = kTextsPerPage / 64 + 1;
+  if (texts_.size() < kMostElements + 1) texts_.resize(kMostElements + 1);
   const std::size_t blocks = (stretch.text.size() + 63) / 64;
-  bool skipping = false;
-  for (std::size_t block = 0; block < blocks; ++block) {
-    const std::uint64_t ends = ends_[block];
-    std::uint64_t matches = matches_[block];
-    if (skipping) {
-      if (ends == 0) continue;
-      matches &= ~std::uint64_t{0} << std::countr_zero(ends);
-      skipping = false;
-    }
-    std::uint32_t text = stretch.firstText + endsBefore_[block];
-    std::uint64_t endsLeft = ends;
-    while (matches != 0) {
-      const std::uint64_t bit = matches & (~matches + 1);
-      for (; (endsLeft & (bit - 1)) != 0; endsLeft &= endsLeft - 1) ++text;
-      if (text >= stretch.first && text < stretch.last) seen.see(text, word);
-      if (endsLeft == 0) {
-        skipping = true;
-        break;
-      }
-      matches &= ~std::uint64_t{0} << std::countr_zero(endsLeft);
-    }
-  }
+  textsWithPlaces({places_.data(), blocks}, ends_.data(), texts_.data());
+  const std::uint32_t before = stretch.first - stretch.firstText;
+  const std::uint32_t end = stretch.last - stretch.firstText;
+  const std::size_t elements = (end + 63) / 64;
+  texts_[0] &= ~std::uint64_t{0} << before;
+  if (end % 64 != 0) texts_[elements - 1] &= (std::uint64_t{1} << (end % 64)) - 1;
+  seen.seeAll(stretch.firstText, {texts_.data(), elements}, word);
 }
 
 }  // namespace quorvin

@@ -6,6 +6,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace quorvin {
@@ -46,6 +47,10 @@ class SeenWords {
     touched_[i / 64] |= std::uint64_t{1} << (i % 64);
   }
 
+  /// see() for each text whose bit is set: bit k stands for text `text` + k, and only those of this stretch
+  /// may be set. `bits` may be changed.
+  void seeAll(std::uint32_t text, std::span<std::uint64_t> bits, std::size_t word);
+
   const WordSet& in(std::uint32_t text) const { return words_[text - first_]; }
 
   /// A bit for each text of the stretch: some word was seen in it.
@@ -73,6 +78,8 @@ class WordSearch {
     std::string_view bytes;
     BytePair pair;
     TrigramProbe probe;
+    /// The stretch that was searched before held it, so the next one is likely to.
+    bool isLikely = false;
   };
   /// Texts of one page, from a marked one on, and the part of the answer that is wanted of them.
   struct Stretch {
@@ -82,18 +89,17 @@ class WordSearch {
     std::uint32_t last;
   };
 
+  void makeRoom(std::size_t blocks);
   void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen);
-  void seeFewMatches(const Stretch& stretch, std::size_t word, SeenWords& seen);
-  void seeManyMatches(const Stretch& stretch, std::size_t word, SeenWords& seen) const;
+  bool findPlaces(std::string_view text, Needle& needle, bool& endsKnown);
+  void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);
 
   std::vector<Needle> needles_;
-  /// For the stretch at hand, a bit for each byte: a word begins here; a text ends here. And how many texts
-  /// end before each 64 bytes.
-  std::vector<std::uint64_t> matches_;
+  /// For the stretch at hand, a bit for each byte: the word at hand begins here; a text ends here.
+  std::vector<std::uint64_t> places_;
   std::vector<std::uint64_t> ends_;
-  std::vector<std::uint32_t> endsBefore_;
-  /// Texts that hold the word at hand, as numbers from the stretch's first.
-  std::vector<std::uint32_t> numbers_;
+  /// And a bit for each text, which holds the word.
+  std::vector<std::uint64_t> texts_;
 };
 
 }  // namespace quorvin

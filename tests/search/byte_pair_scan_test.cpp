@@ -88,23 +88,6 @@ TEST_P(BytePairScan, WhatStandsBehindTheTextIsNoMatchOfIt) {
   }
 }
 
-TEST_P(BytePairScan, PlacesOfOneByteAreTakenAndCounted) {
-  for (std::size_t size = 0; size <= 300; ++size) {
-    const std::string text = someText(size, static_cast<unsigned>(size)) + std::string(kScanPadding, 'b');
-    const std::size_t blocks = (size + 63) / 64;
-    std::vector<std::uint64_t> bits(blocks + 1, kOld);
-    std::vector<std::uint32_t> before(blocks + 1, 0xDEADBEEF);
-    scanByte(text.data(), size, 'b', bits.data(), before.data());
-    ASSERT_EQ(bits.back(), kOld) << "written behind the last word of bits, size " << size;
-    ASSERT_EQ(before.back(), 0xDEADBEEF) << "written behind the last count, size " << size;
-    bits.pop_back();
-    ASSERT_EQ(bits, plainScan(text.data(), size, {'b', 'b', 0, 0})) << "size " << size;
-    for (std::size_t block = 0; block < blocks; ++block) {
-      ASSERT_EQ(before[block], std::count(text.data(), text.data() + block * 64, 'b')) << "size " << size;
-    }
-  }
-}
-
 INSTANTIATE_TEST_SUITE_P(On, BytePairScan, test::everyInstructionSet(), test::instructionSetName);
 
 TEST(InstructionSets, TheBaselineCanAlwaysBeRun) {
