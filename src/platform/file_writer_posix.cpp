@@ -43,6 +43,8 @@ FileWriter::~FileWriter() {
 }
 
 void FileWriter::write(std::string_view bytes) {
+  // Nothing may come without an address too.
+  if (bytes.empty()) return;
   if (bytes.size() > buffer_.size() - filled_) flush();
   if (bytes.size() > buffer_.size()) {
     writeOut(bytes);
