@@ -34,6 +34,8 @@ class HitWriter : public HitReceiver {
 
   void beginListing(SourceKind kind) override;
   void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override;
+  bool countsOnly() const override { return countOnly_; }
+  void addCount(std::int64_t hits) override { hitCount_ += hits; }
   void endImage(const std::shared_ptr<const SearchImage>& image,
                 const std::shared_ptr<const SearchImage>& kept) override;
 

@@ -18,17 +18,26 @@ void EntrySearch::search(const std::shared_ptr<const SearchImage>& image, std::u
   while (first < last && !outcome_.stopped) {
     const std::int64_t toYield = kEntriesBetweenYields - searchedCount_ % kEntriesBetweenYields;
     const auto count = static_cast<std::uint32_t>(std::min<std::int64_t>(toYield, last - first));
-    found_.clear();
-    search_.search(*image, first, first + count, found_);
-    if (!found_.empty()) {
-      if (prepare) prepare(found_);
-      report(image);
+    if (!prepare && receiver_.countsOnly() && image->arrays().unreadable.empty()) {
+      receiver_.addCount(search_.count(*image, first, first + count));
+    } else {
+      searchStep(image, first, first + count, prepare);
     }
     first += count;
     searched_ += count;
     searchedCount_ += count;
     if (count == toYield) outcome_.stopped = listener_.reached(searchedCount_);
   }
+}
+
+void EntrySearch::searchStep(const std::shared_ptr<const SearchImage>& image, std::uint32_t first,
+                             std::uint32_t last,
+                             const std::function<void(std::span<const FoundEntry>)>& prepare) {
+  found_.clear();
+  search_.search(*image, first, last, found_);
+  if (found_.empty()) return;
+  if (prepare) prepare(found_);
+  report(image);
 }
 
 void EntrySearch::report(const std::shared_ptr<const SearchImage>& image) {

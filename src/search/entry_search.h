@@ -28,6 +28,8 @@ class EntrySearch {
   bool stopped() const { return outcome_.stopped; }
 
  private:
+  void searchStep(const std::shared_ptr<const SearchImage>& image, std::uint32_t first, std::uint32_t last,
+                  const std::function<void(std::span<const FoundEntry>)>& prepare);
   void report(const std::shared_ptr<const SearchImage>& image);
 
   ImageSearch search_;

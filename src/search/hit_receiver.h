@@ -31,6 +31,12 @@ class HitReceiver {
   /// the image has let go of it. May throw DamagedImage, and has then taken none of these hits.
   virtual void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) = 0;
 
+  /// Whether it only counts: then hits may come as addCount() in place of addHits().
+  virtual bool countsOnly() const { return false; }
+
+  /// So many hits more. Called only if countsOnly().
+  virtual void addCount(std::int64_t hits) { static_cast<void>(hits); }
+
   /// No more hits of `image` will come. `kept` is an equal image that stays in any case and is to be used
   /// instead (it may be `image` itself); null where only the hits keep the image alive, so that a copy of
   /// their entries alone is the better thing to keep.

@@ -60,16 +60,36 @@ ImageSearch::ImageSearch(const SearchQuery& query)
 
 void ImageSearch::search(const SearchImage& image, std::uint32_t first, std::uint32_t last,
                          std::vector<FoundEntry>& hits) {
-  if (first == last || query_.fewestForHit() > query_.wordCount()) return;
-  words_.find(image.arrays().entries, first, last, inEntries_);
-  searchFolders(image, first, last);
-  candidates_ = inEntries_.touched();
-  addCandidatesOfFolders(image.arrays(), first, last);
+  if (!findCandidates(image, first, last)) return;
   if (wordDecides_) {
     takeAllCandidates(first, hits);
   } else {
     score(image.arrays(), first, hits);
   }
+}
+
+std::int64_t ImageSearch::count(const SearchImage& image, std::uint32_t first, std::uint32_t last) {
+  if (!findCandidates(image, first, last)) return 0;
+  if (wordDecides_) return candidateCount();
+  counted_.clear();
+  score(image.arrays(), first, counted_);
+  return static_cast<std::int64_t>(counted_.size());
+}
+
+/// False where nothing can be a hit.
+bool ImageSearch::findCandidates(const SearchImage& image, std::uint32_t first, std::uint32_t last) {
+  if (first == last || query_.fewestForHit() > query_.wordCount()) return false;
+  words_.find(image.arrays().entries, first, last, inEntries_);
+  searchFolders(image, first, last);
+  candidates_ = inEntries_.touched();
+  addCandidatesOfFolders(image.arrays(), first, last);
+  return true;
+}
+
+std::int64_t ImageSearch::candidateCount() const {
+  std::int64_t count = 0;
+  for (const std::uint64_t bits : candidates_) count += std::popcount(bits);
+  return count;
 }
 
 void ImageSearch::searchFolders(const SearchImage& image, std::uint32_t first, std::uint32_t last) {
@@ -114,8 +134,7 @@ void ImageSearch::score(const ImageArrays& arrays, std::uint32_t first, std::vec
 
 void ImageSearch::takeAllCandidates(std::uint32_t first, std::vector<FoundEntry>& hits) const {
   const std::int16_t match = query_.match(query_.wordCount());
-  std::size_t count = 0;
-  for (const std::uint64_t bits : candidates_) count += static_cast<std::size_t>(std::popcount(bits));
+  const auto count = static_cast<std::size_t>(candidateCount());
   hits.resize(hits.size() + count);
   FoundEntry* hit = hits.data() + (hits.size() - count);
   for (std::size_t i = 0; i < candidates_.size(); ++i) {

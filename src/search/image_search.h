@@ -22,10 +22,15 @@ class ImageSearch {
   void search(const SearchImage& image, std::uint32_t first, std::uint32_t last,
               std::vector<FoundEntry>& hits);
 
+  /// How many hits search() would append.
+  std::int64_t count(const SearchImage& image, std::uint32_t first, std::uint32_t last);
+
  private:
+  bool findCandidates(const SearchImage& image, std::uint32_t first, std::uint32_t last);
   void searchFolders(const SearchImage& image, std::uint32_t first, std::uint32_t last);
   void addCandidatesOfFolders(const ImageArrays& arrays, std::uint32_t first, std::uint32_t last);
   void score(const ImageArrays& arrays, std::uint32_t first, std::vector<FoundEntry>& hits) const;
+  std::int64_t candidateCount() const;
   void takeAllCandidates(std::uint32_t first, std::vector<FoundEntry>& hits) const;
   /// How many words of the query are found where those of `seen` are, repetitions and empty ones counted.
   int countOf(const WordSet& seen) const {
@@ -46,6 +51,8 @@ class ImageSearch {
   std::uint32_t lastBlock_ = 0;
   /// A bit for each entry that has to be looked at.
   std::vector<std::uint64_t> candidates_;
+  /// Hits that are only counted.
+  std::vector<FoundEntry> counted_;
 };
 
 }  // namespace quorvin

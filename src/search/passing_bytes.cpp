@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kBlock = ByteCheck::kBlockSize;
 /// Enough to keep the number of calls small, and little enough to stay in the processor's cache until it has
 /// been searched.
-constexpr std::size_t kBlocksAhead = (std::size_t{1} << 18) / kBlock;
+constexpr std::size_t kBlocksAhead = (std::size_t{1} << 17) / kBlock;
 /// Single pieces here and there are cheaper to look at where they are mapped.
 constexpr int kPiecesUntilPassing = 4;
 /// What is left of the piece before, then the blocks read in one go, then what a scan may look at.

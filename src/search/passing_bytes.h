@@ -33,7 +33,7 @@ class PassingBytes {
   PassingBytes(const QString& path, std::int64_t offset, const ByteCheck& check, PassingBuffer& buffer);
 
   /// The longest piece that take() gives.
-  static constexpr std::size_t kLongestPiece = std::size_t{1} << 17;
+  static constexpr std::size_t kLongestPiece = std::size_t{1} << 16;
 
   /// The `size` bytes of the stretch from `begin` on, with kScanPadding readable bytes behind them; valid
   /// until the next call. None unless some pieces before went on from one another as this one does (it may

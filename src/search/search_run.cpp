@@ -65,6 +65,14 @@ class SearchRun::Listener : public ScanListener, public HitReceiver {
     newHits_ = true;
   }
 
+  bool countsOnly() const override { return run_.hits_.countsOnly(); }
+
+  void addCount(std::int64_t hits) override {
+    run_.hits_.addCount(hits);
+    run_.hitCount_ += hits;
+    newHits_ = newHits_ || hits > 0;
+  }
+
   void endImage(const std::shared_ptr<const SearchImage>& image,
                 const std::shared_ptr<const SearchImage>& kept) override {
     // The rows first: they were announced by nobody yet, and the image may now be replaced under them.

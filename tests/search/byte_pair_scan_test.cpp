@@ -81,7 +81,8 @@ TEST_P(BytePairScan, EveryByteValueIsTold) {
 
 TEST_P(BytePairScan, WhatStandsBehindTheTextIsNoMatchOfIt) {
   for (std::size_t size = 0; size <= 200; ++size) {
-    const std::string text = std::string(size, 'x') + std::string(kScanPadding, 'a');
+    std::string text(size, 'x');
+    text.append(kScanPadding, 'a');
     std::vector<std::uint64_t> bits((size + 63) / 64, kOld);
     ASSERT_FALSE(scanBytePair(text.data(), size, {'a', 'a', 0, 1}, bits.data())) << "size " << size;
     ASSERT_EQ(bits, std::vector<std::uint64_t>(bits.size())) << "size " << size;

@@ -51,6 +51,7 @@ class ImageOfBlocks {
     const SearchQuery query(words, desired);
     Hits hits;
     ImageSearch(query).search(image_, first, last, hits);
+    EXPECT_EQ(ImageSearch(query).count(image_, first, last), static_cast<std::int64_t>(hits.size()));
     return hits;
   }
 
