@@ -10,8 +10,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace quorvin::HWY_NAMESPACE {
 
-// Nothing here is a vector, but counting bits and finding the lowest one are single instructions only where
-// the processor is known to have them.
+#include "search/text_gathering.h"
 
 bool keepPlacesOf(std::string_view word, std::string_view text, std::uint64_t* places) {
   constexpr std::size_t kHeadSize = sizeof(std::uint64_t);
@@ -41,59 +40,11 @@ bool keepPlacesOf(std::string_view word, std::string_view text, std::uint64_t* p
   return any != 0;
 }
 
-#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
-
-/// Gathering bits is a single instruction on every processor that has these vectors; on some older ones it is
-/// slower than a loop. No branch depends on what was found, so that a word that stands everywhere costs no
-/// more than one that stands in a few texts.
 void textsWithPlaces(std::span<const std::uint64_t> places, const std::uint64_t* ends, std::uint64_t* texts) {
-  unsigned char carry = 0;
-  std::uint64_t gathered = 0;
-  unsigned used = 0;
-  for (std::size_t block = 0; block < places.size(); ++block) {
-    const std::uint64_t end = ends[block];
-    // The bytes of a text are a run of ones that ends below its end. Added to it, one place or more carry
-    // over into the end, and from the last run of the block into the next block.
-    unsigned long long sum = 0;
-    carry = _addcarry_u64(carry, ~end, places[block], &sum);
-    const std::uint64_t seen = _pext_u64(sum, end);
-    const auto count = static_cast<unsigned>(__builtin_popcountll(end));
-    gathered |= seen << used;
-    *texts = gathered;
-    const std::uint64_t overflow = (seen >> 1) >> (63 - used);
-    const unsigned total = used + count;
-    const bool full = total >= 64;
-    texts += full ? 1 : 0;
-    gathered = full ? overflow : gathered;
-    used = total % 64;
-  }
-  *texts = gathered;
+  TextGathering gathering(texts);
+  for (std::size_t block = 0; block < places.size(); ++block) gathering.add(places[block], ends[block]);
+  gathering.finish();
 }
-
-#else
-
-void textsWithPlaces(std::span<const std::uint64_t> places, const std::uint64_t* ends, std::uint64_t* texts) {
-  std::size_t text = 0;
-  texts[0] = 0;
-  for (std::size_t block = 0; block < places.size(); ++block) {
-    std::uint64_t endsLeft = ends[block];
-    for (std::uint64_t left = places[block]; left != 0;) {
-      const std::uint64_t place = left & (~left + 1);
-      for (; (endsLeft & (place - 1)) != 0; endsLeft &= endsLeft - 1) {
-        if (++text % 64 == 0) texts[text / 64] = 0;
-      }
-      texts[text / 64] |= std::uint64_t{1} << (text % 64);
-      // The rest of this text is passed over.
-      const std::uint64_t upToEnd = endsLeft == 0 ? ~std::uint64_t{0} : endsLeft ^ (endsLeft - 1);
-      left &= ~upToEnd;
-    }
-    for (; endsLeft != 0; endsLeft &= endsLeft - 1) {
-      if (++text % 64 == 0) texts[text / 64] = 0;
-    }
-  }
-}
-
-#endif
 
 }  // namespace quorvin::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

@@ -10,6 +10,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace quorvin::HWY_NAMESPACE {
 
+#include "search/text_gathering.h"
+
 namespace hn = hwy::HWY_NAMESPACE;
 
 // At most 64 lanes, so that one mask word takes a whole number of vectors.
@@ -24,34 +26,29 @@ HWY_INLINE std::uint64_t bitsOf(Mask mask) {
   return bits;
 }
 
-/// The positions of the 64 from `base` on that are in the text.
-HWY_INLINE std::uint64_t insideText(std::size_t base, std::size_t size) {
-  return size - base < 64 ? (std::uint64_t{1} << (size - base)) - 1 : ~std::uint64_t{0};
-}
-
 /// The scan for a word of kLength bytes: with the length known, its bytes stay in registers.
-template <std::size_t kLength, bool kWithEnds>
-bool scanWordOf(const char* text, std::size_t size, const char* word, std::uint64_t* wordBits, char end,
-                std::uint64_t* endBits) {
+template <std::size_t kLength>
+bool scanTextsFor(std::string_view text, const char* word, char end, std::uint64_t* texts) {
   const Lanes d;
   const auto byteAt = [&](std::size_t i) {
     return hn::Set(d, static_cast<std::uint8_t>(i < kLength ? word[i] : 0));
   };
   const auto b0 = byteAt(0);
-  const auto b1 = byteAt(1);
-  const auto b2 = byteAt(2);
-  const auto b3 = byteAt(3);
-  const auto b4 = byteAt(4);
-  const auto b5 = byteAt(5);
-  const auto b6 = byteAt(6);
-  const auto b7 = byteAt(7);
+  [[maybe_unused]] const auto b1 = byteAt(1);
+  [[maybe_unused]] const auto b2 = byteAt(2);
+  [[maybe_unused]] const auto b3 = byteAt(3);
+  [[maybe_unused]] const auto b4 = byteAt(4);
+  [[maybe_unused]] const auto b5 = byteAt(5);
+  [[maybe_unused]] const auto b6 = byteAt(6);
+  [[maybe_unused]] const auto b7 = byteAt(7);
   const auto ending = hn::Set(d, static_cast<std::uint8_t>(end));
-  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text);
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+  TextGathering gathering(texts);
   std::uint64_t any = 0;
-  for (std::size_t base = 0; base < size; base += 64) {
+  for (std::size_t base = 0; base < text.size(); base += 64) {
     // The processor's own reading ahead ends with each page of memory.
     __builtin_prefetch(bytes + base + 4096);
-    std::uint64_t found = 0;
+    std::uint64_t places = 0;
     std::uint64_t ends = 0;
     for (std::size_t i = 0; i < 64; i += hn::Lanes(d)) {
       const std::uint8_t* at = bytes + base + i;
@@ -64,32 +61,27 @@ bool scanWordOf(const char* text, std::size_t size, const char* word, std::uint6
       if constexpr (kLength > 5) stands = hn::And(stands, hn::Eq(hn::LoadU(d, at + 5), b5));
       if constexpr (kLength > 6) stands = hn::And(stands, hn::Eq(hn::LoadU(d, at + 6), b6));
       if constexpr (kLength > 7) stands = hn::And(stands, hn::Eq(hn::LoadU(d, at + 7), b7));
-      found |= bitsOf(stands) << i;
-      if constexpr (kWithEnds) ends |= bitsOf(hn::Eq(here, ending)) << i;
+      places |= bitsOf(stands) << i;
+      ends |= bitsOf(hn::Eq(here, ending)) << i;
     }
-    const std::uint64_t inside = insideText(base, size);
-    wordBits[base / 64] = found & inside;
-    any |= found & inside;
-    if constexpr (kWithEnds) endBits[base / 64] = ends & inside;
+    if (text.size() - base < 64) {
+      const std::uint64_t inside = (std::uint64_t{1} << (text.size() - base)) - 1;
+      places &= inside;
+      ends &= inside;
+    }
+    any |= places;
+    gathering.add(places, ends);
   }
+  gathering.finish();
   return any != 0;
 }
 
-template <bool kWithEnds>
-bool scanWordOfAnyLength(std::string_view text, std::string_view word, std::uint64_t* wordBits, char end,
-                         std::uint64_t* endBits) {
-  using Scan = bool (*)(const char*, std::size_t, const char*, std::uint64_t*, char, std::uint64_t*);
-  static constexpr Scan kScans[kScannedWordBytes] = {
-      scanWordOf<1, kWithEnds>, scanWordOf<2, kWithEnds>, scanWordOf<3, kWithEnds>, scanWordOf<4, kWithEnds>,
-      scanWordOf<5, kWithEnds>, scanWordOf<6, kWithEnds>, scanWordOf<7, kWithEnds>, scanWordOf<8, kWithEnds>};
-  const std::size_t length = word.size() < kScannedWordBytes ? word.size() : kScannedWordBytes;
-  return kScans[length - 1](text.data(), text.size(), word.data(), wordBits, end, endBits);
-}
-
-bool scanWord(std::string_view text, std::string_view word, std::uint64_t* wordBits, char end,
-              std::uint64_t* endBits) {
-  if (endBits == nullptr) return scanWordOfAnyLength<false>(text, word, wordBits, end, nullptr);
-  return scanWordOfAnyLength<true>(text, word, wordBits, end, endBits);
+bool scanTexts(std::string_view text, std::string_view word, char end, std::uint64_t* texts) {
+  using Scan = bool (*)(std::string_view, const char*, char, std::uint64_t*);
+  static constexpr Scan kScans[kLongestScannedWord] = {scanTextsFor<1>, scanTextsFor<2>, scanTextsFor<3>,
+                                                       scanTextsFor<4>, scanTextsFor<5>, scanTextsFor<6>,
+                                                       scanTextsFor<7>, scanTextsFor<8>};
+  return kScans[word.size() - 1](text, word.data(), end, texts);
 }
 
 }  // namespace quorvin::HWY_NAMESPACE
@@ -99,10 +91,9 @@ HWY_AFTER_NAMESPACE();
 
 namespace quorvin {
 
-bool scanWord(std::string_view text, std::string_view word, std::uint64_t* wordBits, char end,
-              std::uint64_t* endBits) {
-  static constexpr FunctionVersions<decltype(&scanWord)> kVersions = QUORVIN_VERSIONS_OF(scanWord);
-  return kVersions.chosen()(text, word, wordBits, end, endBits);
+bool scanTexts(std::string_view text, std::string_view word, char end, std::uint64_t* texts) {
+  static constexpr FunctionVersions<decltype(&scanTexts)> kVersions = QUORVIN_VERSIONS_OF(scanTexts);
+  return kVersions.chosen()(text, word, end, texts);
 }
 
 }  // namespace quorvin

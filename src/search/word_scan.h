@@ -1,4 +1,4 @@
-// Where a whole word stands, for words that are found often.
+// Which texts hold a word, for words that are found often.
 #pragma once
 
 #include <cstddef>
@@ -7,16 +7,15 @@
 
 namespace quorvin {
 
-/// Of longer words only so many bytes are compared.
-inline constexpr std::size_t kScannedWordBytes = 8;
+/// The longest word that scanTexts() looks for.
+inline constexpr std::size_t kLongestScannedWord = 8;
 
-/// Sets bit i of `wordBits` (64 to an element, lowest first) where the first kScannedWordBytes bytes of
-/// `word` (not empty) stand at text[i], and bit i of `endBits` where text[i] is `end`; clears the others up
-/// to the next multiple of 64. `endBits` may be null. True if the word stands anywhere. kScanPadding bytes
-/// can be read behind the text.
+/// `text` is many texts, each with `end` behind it. Sets bit k of `texts` (64 to an element, lowest first)
+/// for each text k that holds `word`, which is 1 to kLongestScannedWord bytes long and has no `end` in it;
+/// clears the others. True if any holds it. `texts` has room for one element more than the texts need.
+/// kScanPadding bytes can be read behind `text`.
 ///
-/// scanBytePair is the faster scan, but what it finds must be looked at one by one.
-bool scanWord(std::string_view text, std::string_view word, std::uint64_t* wordBits, char end,
-              std::uint64_t* endBits);
+/// scanBytePair is the faster scan, but what it finds must be looked at place by place.
+bool scanTexts(std::string_view text, std::string_view word, char end, std::uint64_t* texts);
 
 }  // namespace quorvin

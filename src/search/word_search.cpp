@@ -89,35 +89,28 @@ void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& 
     if (trigrams != nullptr && !needle.probe.mayBeIn(*trigrams)) continue;
     if (!textChecked) stretch.text = table.toSearch(stretch.text);
     textChecked = true;
-    needle.isLikely = findPlaces(stretch.text, needle, endsKnown);
+    needle.isLikely = findTexts(stretch.text, needle, endsKnown);
     if (needle.isLikely) seeTexts(stretch, word, seen);
   }
 }
 
-/// Whether the word stands anywhere in the text; then `places_` and `ends_` are known.
-bool WordSearch::findPlaces(std::string_view text, Needle& needle, bool& endsKnown) {
-  if (needle.isLikely) {
-    const bool any =
-        scanWord(text, needle.bytes, places_.data(), kTextEnd, endsKnown ? nullptr : ends_.data());
-    endsKnown = true;
-    if (!any || needle.bytes.size() <= kScannedWordBytes) return any;
-    return keepPlacesOf(needle.bytes, text, places_.data());
+/// Whether the word stands anywhere in the text; then `texts_` are known.
+bool WordSearch::findTexts(std::string_view text, const Needle& needle, bool& endsKnown) {
+  if (needle.isLikely && needle.bytes.size() <= kLongestScannedWord) {
+    return scanTexts(text, needle.bytes, kTextEnd, texts_.data());
   }
   if (!scanBytePair(text.data(), text.size(), needle.pair, places_.data())) return false;
   if (!keepPlacesOf(needle.bytes, text, places_.data())) return false;
   constexpr auto kEnd = static_cast<std::uint8_t>(kTextEnd);
   if (!endsKnown) scanBytePair(text.data(), text.size(), {kEnd, kEnd, 0, 0}, ends_.data());
   endsKnown = true;
+  textsWithPlaces({places_.data(), (text.size() + 63) / 64}, ends_.data(), texts_.data());
   return true;
 }
 
 /// The word has been found in the stretch: takes the texts with it, but for those before and behind what is
 /// wanted.
 void WordSearch::seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen) {
-  constexpr std::size_t kMostElements = kTextsPerPage / 64 + 1;
-  if (texts_.size() < kMostElements + 1) texts_.resize(kMostElements + 1);
-  const std::size_t blocks = (stretch.text.size() + 63) / 64;
-  textsWithPlaces({places_.data(), blocks}, ends_.data(), texts_.data());
   const std::uint32_t before = stretch.first - stretch.firstText;
   const std::uint32_t end = stretch.last - stretch.firstText;
   const std::size_t elements = (end + 63) / 64;

@@ -91,7 +91,7 @@ class WordSearch {
 
   void makeRoom(std::size_t blocks);
   void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen);
-  bool findPlaces(std::string_view text, Needle& needle, bool& endsKnown);
+  bool findTexts(std::string_view text, const Needle& needle, bool& endsKnown);
   void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);
 
   std::vector<Needle> needles_;
@@ -99,7 +99,7 @@ class WordSearch {
   std::vector<std::uint64_t> places_;
   std::vector<std::uint64_t> ends_;
   /// And a bit for each text, which holds the word.
-  std::vector<std::uint64_t> texts_;
+  std::vector<std::uint64_t> texts_ = std::vector<std::uint64_t>(kTextsPerPage / 64 + 2);
 };
 
 }  // namespace quorvin
