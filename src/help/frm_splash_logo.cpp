@@ -28,7 +28,9 @@ void LogoPicture::paintEvent(QPaintEvent*) {
   const int side = std::min(width(), height());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  drawing_.render(&painter, QRectF((width() - side) / 2, (height() - side) / 2, side, side));
+  QRectF square(0, 0, side, side);
+  square.moveCenter(QRectF(rect()).center());
+  drawing_.render(&painter, square);
 }
 
 }  // namespace quorvin

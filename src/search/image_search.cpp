@@ -79,8 +79,13 @@ std::int64_t ImageSearch::count(const SearchImage& image, std::uint32_t first, s
 /// False where nothing can be a hit.
 bool ImageSearch::findCandidates(const SearchImage& image, std::uint32_t first, std::uint32_t last) {
   if (first == last || query_.fewestForHit() > query_.wordCount()) return false;
-  words_.find(image.arrays().entries, first, last, inEntries_);
   searchFolders(image, first, last);
+  if (wordDecides_) {
+    words_.find(image.arrays().entries, first, last, inEntries_);
+  } else {
+    const int mostMissing = query_.wordCount() - query_.fewestForHit();
+    words_.find(image.arrays().entries, first, last, inEntries_, inFolders_.all(), mostMissing);
+  }
   candidates_ = inEntries_.touched();
   addCandidatesOfFolders(image.arrays(), first, last);
   return true;

@@ -1,8 +1,10 @@
-// Which texts hold a word, for words that are found often.
+// Which texts hold a word. Bits stand 64 to an element, lowest first: for the bytes of a text of many texts,
+// or for those texts.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace quorvin {
@@ -15,7 +17,17 @@ inline constexpr std::size_t kLongestScannedWord = 8;
 /// clears the others. True if any holds it. `texts` has room for one element more than the texts need.
 /// kScanPadding bytes can be read behind `text`.
 ///
-/// scanBytePair is the faster scan, but what it finds must be looked at place by place.
+/// It is for words that are found often. For others scanBytePair is faster, but what that finds must be
+/// looked at place by place: with keepPlacesOf(), then textsWithPlaces().
 bool scanTexts(std::string_view text, std::string_view word, char end, std::uint64_t* texts);
+
+/// Clears those bits of `places` at which `word` (not empty) does not stand in `text`. True if any stays.
+/// kScanPadding bytes can be read behind `text`, and each of its texts has its end in it.
+bool keepPlacesOf(std::string_view word, std::string_view text, std::uint64_t* places);
+
+/// Sets bit k of `texts` for each text k (from 0) that has one of `places`, and clears the others. `ends` are
+/// the places where texts end, at which there are no others. `texts` has room for one element more than the
+/// texts need.
+void textsWithPlaces(std::span<const std::uint64_t> places, const std::uint64_t* ends, std::uint64_t* texts);
 
 }  // namespace quorvin

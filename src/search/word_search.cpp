@@ -1,6 +1,5 @@
 #include "search/word_search.h"
 
-#include "search/word_matches.h"
 #include "search/word_scan.h"
 
 #include <algorithm>
@@ -26,6 +25,16 @@ void SeenWords::reset(std::uint32_t first, std::uint32_t count) {
 
 bool SeenWords::none() const {
   return std::all_of(touched_.begin(), touched_.end(), [](std::uint64_t bits) { return bits == 0; });
+}
+
+WordSet SeenWords::all() const {
+  WordSet words;
+  for (std::size_t block = 0; block < touched_.size(); ++block) {
+    for (std::uint64_t left = touched_[block]; left != 0; left &= left - 1) {
+      words = words | words_[block * 64 + static_cast<std::size_t>(std::countr_zero(left))];
+    }
+  }
+  return words;
 }
 
 void SeenWords::seeAll(std::uint32_t text, std::span<std::uint64_t> bits, std::size_t word) {
@@ -54,11 +63,12 @@ void SeenWords::seeAll(std::uint32_t text, std::span<std::uint64_t> bits, std::s
 
 WordSearch::WordSearch(const SearchQuery& query) {
   for (const SearchQuery::Word& word : query.words()) {
-    needles_.push_back({word.bytes, rarestPair(word.bytes), TrigramProbe(word.bytes)});
+    needles_.push_back({word.bytes, rarestPair(word.bytes), TrigramProbe(word.bytes), word.times});
   }
 }
 
-void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen) {
+void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen,
+                      const WordSet& elsewhere, int mostMissing) {
   seen.reset(first, last - first);
   while (first < last) {
     const std::uint32_t pageEnd = std::min((first / kTextsPerPage + 1) * kTextsPerPage, table.count);
@@ -66,7 +76,7 @@ void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t
     const std::uint32_t beginMark = first / kTextsPerMark;
     const std::uint32_t endMark = (stretchLast + kTextsPerMark - 1) / kTextsPerMark;
     findInPage(table, {table.between(beginMark, endMark), beginMark * kTextsPerMark, first, stretchLast},
-               seen);
+               seen, {elsewhere, mostMissing});
     first = stretchLast;
   }
 }
@@ -77,20 +87,37 @@ void WordSearch::makeRoom(std::size_t blocks) {
   ends_.resize(blocks);
 }
 
-void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& seen) {
+/// Rules out the words that cannot be in a page with these trigrams, if they are known. Gives how many words
+/// are missing for certain.
+int WordSearch::ruleOut(const TrigramSet* trigrams, const Slack& slack) {
+  int missing = 0;
+  for (std::size_t word = 0; word < needles_.size(); ++word) {
+    Needle& needle = needles_[word];
+    needle.isRuledOut = trigrams != nullptr && !needle.probe.mayBeIn(*trigrams);
+    if (needle.isRuledOut && !slack.elsewhere.has(word)) missing += needle.times;
+  }
+  return missing;
+}
+
+void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& seen, const Slack& slack) {
   const TrigramSet* trigrams =
       table.trigrams.empty() ? nullptr : &table.trigrams[stretch.first / kTextsPerPage];
   if (trigrams != nullptr) table.require(trigrams, sizeof(TrigramSet));
+  int missing = ruleOut(trigrams, slack);
   bool textChecked = false;
   bool endsKnown = false;
   makeRoom((stretch.text.size() + 63) / 64);
-  for (std::size_t word = 0; word < needles_.size(); ++word) {
+  for (std::size_t word = 0; word < needles_.size() && missing <= slack.most; ++word) {
     Needle& needle = needles_[word];
-    if (trigrams != nullptr && !needle.probe.mayBeIn(*trigrams)) continue;
+    if (needle.isRuledOut) continue;
     if (!textChecked) stretch.text = table.toSearch(stretch.text);
     textChecked = true;
     needle.isLikely = findTexts(stretch.text, needle, endsKnown);
-    if (needle.isLikely) seeTexts(stretch, word, seen);
+    if (needle.isLikely) {
+      seeTexts(stretch, word, seen);
+    } else if (!slack.elsewhere.has(word)) {
+      missing += needle.times;
+    }
   }
 }
 

@@ -4,6 +4,8 @@
 #include "search/search_query.h"
 #include "search/text_table.h"
 
+#include <climits>
+
 #include <bit>
 #include <cstdint>
 #include <span>
@@ -56,6 +58,8 @@ class SeenWords {
   /// A bit for each text of the stretch: some word was seen in it.
   const std::vector<std::uint64_t>& touched() const { return touched_; }
   bool none() const;
+  /// The words seen in any text. Not to be asked with `oneWord`.
+  WordSet all() const;
 
  private:
   bool oneWord_;
@@ -71,13 +75,23 @@ class WordSearch {
   explicit WordSearch(const SearchQuery& query);
 
   /// Fills `seen` with texts `first` to `last` - 1 of `table` and the words that each holds.
-  void find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen);
+  void find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen) {
+    find(table, first, last, seen, {}, INT_MAX);
+  }
+
+  /// As above, but words may be left unseen in a text that lacks more than `mostMissing` words of the search
+  /// text, repetitions counted, even when it is given those of `elsewhere`.
+  void find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen,
+            const WordSet& elsewhere, int mostMissing);
 
  private:
   struct Needle {
     std::string_view bytes;
     BytePair pair;
     TrigramProbe probe;
+    int times;
+    /// It is not worth looking for in the page at hand: it is not there.
+    bool isRuledOut = false;
     /// The stretch that was searched before held it, so the next one is likely to.
     bool isLikely = false;
   };
@@ -88,9 +102,15 @@ class WordSearch {
     std::uint32_t first;
     std::uint32_t last;
   };
+  /// Words that may be missing yet before a page is given up.
+  struct Slack {
+    const WordSet& elsewhere;
+    int most;
+  };
 
   void makeRoom(std::size_t blocks);
-  void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen);
+  void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen, const Slack& slack);
+  int ruleOut(const TrigramSet* trigrams, const Slack& slack);
   bool findTexts(std::string_view text, const Needle& needle, bool& endsKnown);
   void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);
 

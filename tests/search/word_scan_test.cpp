@@ -2,7 +2,6 @@
 #include "search/word_scan.h"
 
 #include "search/byte_pair_scan.h"
-#include "search/word_matches.h"
 #include "support/instruction_sets.h"
 
 #include <gtest/gtest.h>

@@ -165,6 +165,35 @@ std::vector<std::size_t> wordsIn(const WordSet& set) {
   return words;
 }
 
+TEST_P(Words, PagesThatLackTooManyWordsAreLeftOut) {
+  // Three pages: with both words, with one, with one and a text that only looks like the other by its
+  // trigrams.
+  std::vector<std::string> texts(3 * kTextsPerPage, "nothing");
+  texts[5] = "walrus";
+  texts[900] = "pelican";
+  texts[kTextsPerPage + 3] = "walrus";
+  texts[2 * kTextsPerPage + 3] = "pelican";
+  texts[2 * kTextsPerPage + 7] = "walr alru lrus";
+  const auto builder = tableOf(texts);
+  builder->completeTrigrams();
+  const SearchQuery query = queryOf({"walrus", "pelican"});
+  WordSearch search(query);
+  const auto seenTexts = [&](const WordSet& elsewhere, int mostMissing) {
+    SeenWords seen(false);
+    search.find(builder->table(), 0, builder->count(), seen, elsewhere, mostMissing);
+    std::vector<std::uint32_t> found;
+    for (std::uint32_t text = 0; text < builder->count(); ++text) {
+      if (!seen.in(text).empty()) found.push_back(text);
+    }
+    return found;
+  };
+  EXPECT_THAT(seenTexts({}, 1), ElementsAre(5, 900, kTextsPerPage + 3, 2 * kTextsPerPage + 3));
+  EXPECT_THAT(seenTexts({}, 0), ElementsAre(5, 900));
+  WordSet pelican;
+  pelican.add(1);
+  EXPECT_THAT(seenTexts(pelican, 0), ElementsAre(5, 900, kTextsPerPage + 3));
+}
+
 INSTANTIATE_TEST_SUITE_P(On, Words, test::everyInstructionSet(), test::instructionSetName);
 
 TEST(SeenWords, ForgetEverythingWhenReset) {
@@ -177,6 +206,15 @@ TEST(SeenWords, ForgetEverythingWhenReset) {
   for (std::uint32_t text = 50; text < 110; ++text) EXPECT_THAT(wordsIn(seen.in(text)), IsEmpty());
   seen.see(109, 64);
   EXPECT_THAT(wordsIn(seen.in(109)), ElementsAre(64));
+}
+
+TEST(SeenWords, TellAllThatWereSeen) {
+  SeenWords seen(false);
+  seen.reset(10, 100);
+  EXPECT_THAT(wordsIn(seen.all()), IsEmpty());
+  seen.see(10, 3);
+  seen.see(109, 64);
+  EXPECT_THAT(wordsIn(seen.all()), ElementsAre(3, 64));
 }
 
 TEST(WordSet, JoinsTwoSets) {
