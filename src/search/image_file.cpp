@@ -145,14 +145,24 @@ ImageFileWriter::ImageFileWriter(const QString& path)
   }
 }
 
+/// The system keeps what is written at once in one piece of memory, and maps each piece whole when any of it
+/// is touched: of larger ones a window would seem to use nearly all, whatever little it looked at.
+constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
+
 ImageFileWriter::~ImageFileWriter() {
   if (!finished_) file_.remove();
 }
 
 void ImageFileWriter::write(const void* data, std::size_t size) {
-  const auto wanted = static_cast<qint64>(size);
-  if (file_.write(static_cast<const char*>(data), wanted) != wanted) {
-    throw faultOfSystemError(errno == 0 ? ENOSPC : errno, file_.fileName());
+  const auto* bytes = static_cast<const char*>(data);
+  for (std::size_t left = size; left > 0;) {
+    const std::size_t piece = std::min(left, kLargestWrite);
+    const auto wanted = static_cast<qint64>(piece);
+    if (file_.write(bytes, wanted) != wanted) {
+      throw faultOfSystemError(errno == 0 ? ENOSPC : errno, file_.fileName());
+    }
+    bytes += piece;
+    left -= piece;
   }
   position_ += size;
 }
