@@ -1,21 +1,15 @@
 // Runs the server of the peer exchange under a load of hostile callers and prints how it fared.
 #include "net/peer_load.h"
 
+#include "support/descriptors.h"
+
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 
 #include <chrono>
 #include <cstdio>
-#include <sys/resource.h>
 
 namespace {
-
-void allowManyDescriptors() {
-  rlimit limit{};
-  ::getrlimit(RLIMIT_NOFILE, &limit);
-  limit.rlim_cur = limit.rlim_max;
-  ::setrlimit(RLIMIT_NOFILE, &limit);
-}
 
 void print(const quorvin::test::PeerLoadFigures& figures) {
   std::printf("longest gap between turns of the event loop: %.1f ms\n", figures.longestGap);
@@ -37,7 +31,7 @@ int main(int argc, char** argv) {
   CLI::App options("Runs the peer server under a load of hostile callers");
   options.add_option("--seconds", seconds, "How long the load lasts")->check(CLI::Range(1, 3600));
   CLI11_PARSE(options, argc, argv);
-  allowManyDescriptors();
+  quorvin::test::allowManyDescriptors();
   const QCoreApplication application(argc, argv);
   print(quorvin::test::runPeerLoad(std::chrono::seconds(seconds)));
   return 0;

@@ -1,10 +1,10 @@
 #include "help/network_page_transfer.h"
 
 #include "help/page_text.h"
+#include "platform/http_request.h"
 
 #include <QLocale>
 #include <QNetworkReply>
-#include <QNetworkRequest>
 
 #include <utility>
 
@@ -12,22 +12,9 @@ namespace quorvin {
 
 namespace {
 
-constexpr int kMostRedirects = 10;
-constexpr qint64 kReadBuffer = qint64{64} << 10;
-
 QNetworkRequest requestFor(const QUrl& address, std::chrono::milliseconds silence) {
-  QNetworkRequest request(address);
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-  request.setMaximumRedirectsAllowed(kMostRedirects);
-  for (const QNetworkRequest::Attribute personal :
-       {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
-        QNetworkRequest::AuthenticationReuseAttribute}) {
-    request.setAttribute(personal, QNetworkRequest::Manual);
-  }
-  request.setTransferTimeout(static_cast<int>(silence.count()));
+  QNetworkRequest request = anonymousRequest(address, silence);
   request.setRawHeader("Accept", "text/html, text/plain;q=0.9");
-  // Packed data could unpack to far more than was sent.
-  request.setRawHeader("Accept-Encoding", "identity");
   return request;
 }
 
@@ -64,7 +51,7 @@ void NetworkPageTransfer::start(const QUrl& address, Done done) {
   stop();
   done_ = std::move(done);
   reply_ = network_.get(requestFor(address, limits_.silence));
-  reply_->setReadBufferSize(kReadBuffer);
+  reply_->setReadBufferSize(kHttpReadBuffer);
   connect(reply_, &QNetworkReply::metaDataChanged, this, &NetworkPageTransfer::headersArrived);
   connect(reply_, &QNetworkReply::readyRead, this, &NetworkPageTransfer::dataArrived);
   connect(reply_, &QNetworkReply::finished, this, &NetworkPageTransfer::finished);

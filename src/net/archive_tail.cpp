@@ -1,11 +1,10 @@
 #include "net/archive_tail.h"
 
 #include "net/peer_archive_end.h"
+#include "net/zip_records.h"
 #include "platform/random_access_file.h"
 
 #include <QByteArray>
-#include <QByteArrayView>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cstddef>
@@ -14,14 +13,8 @@
 namespace quorvin {
 namespace {
 
-constexpr QByteArrayView kEndRecord("PK\x05\x06", 4);
-constexpr QByteArrayView kLargeLocator("PK\x06\x07", 4);
-constexpr QByteArrayView kLargeEndRecord("PK\x06\x06", 4);
-constexpr qsizetype kEndRecordSize = 22;
-constexpr qsizetype kLocatorSize = 20;
-constexpr qsizetype kLargeEndRecordSize = 56;
 /// An end record with the longest comment.
-constexpr std::int64_t kTailSize = kEndRecordSize + 65535 + kLocatorSize;
+constexpr std::int64_t kTailSize = kZipEndRecordSize + 65535 + kZipLocatorSize;
 constexpr std::int64_t kBlockSize = std::int64_t{1} << 16;
 
 QByteArray bytesAt(const RandomAccessFile& file, std::int64_t position, std::int64_t count) {
@@ -30,22 +23,17 @@ QByteArray bytesAt(const RandomAccessFile& file, std::int64_t position, std::int
   return bytes;
 }
 
-template <typename Number>
-Number numberAt(const QByteArray& bytes, qsizetype at) {
-  return qFromLittleEndian<Number>(bytes.constData() + at);
-}
-
 // The number in the large end record that the locator before the end record at `at` points to.
 std::optional<std::uint64_t> entriesOfLargeRecord(const RandomAccessFile& file, std::int64_t length,
                                                   const QByteArray& tail, qsizetype at) {
-  const qsizetype locator = at - kLocatorSize;
-  if (locator < 0 || !QByteArrayView(tail).sliced(locator).startsWith(kLargeLocator)) return std::nullopt;
-  const auto place = numberAt<quint64>(tail, locator + 8);
-  if (place > static_cast<quint64>(std::max<std::int64_t>(0, length - kLargeEndRecordSize)))
+  const qsizetype locator = at - kZipLocatorSize;
+  if (!zipRecordIsAt(tail, locator, kZipLargeEndLocator)) return std::nullopt;
+  const auto place = zipNumberAt<quint64>(tail, locator + 8);
+  if (place > static_cast<quint64>(std::max<std::int64_t>(0, length - kZipLargeEndRecordSize)))
     return std::nullopt;
-  const QByteArray record = bytesAt(file, static_cast<std::int64_t>(place), kLargeEndRecordSize);
-  if (!record.startsWith(kLargeEndRecord)) return std::nullopt;
-  return std::max<std::uint64_t>(numberAt<quint64>(record, 24), numberAt<quint64>(record, 32));
+  const QByteArray record = bytesAt(file, static_cast<std::int64_t>(place), kZipLargeEndRecordSize);
+  if (!record.startsWith(kZipLargeEndRecord)) return std::nullopt;
+  return std::max<std::uint64_t>(zipNumberAt<quint64>(record, 24), zipNumberAt<quint64>(record, 32));
 }
 
 }  // namespace
@@ -55,9 +43,9 @@ std::uint64_t announcedEntries(const QString& path, std::int64_t length) {
   const std::int64_t tailSize = std::min(length, kTailSize);
   const QByteArray tail = bytesAt(file, length - tailSize, tailSize);
   std::uint64_t most = 0;
-  for (qsizetype at = tail.indexOf(kEndRecord); at >= 0; at = tail.indexOf(kEndRecord, at + 1)) {
-    if (tail.size() - at < kEndRecordSize) break;
-    const std::uint64_t plain = numberAt<quint16>(tail, at + 10);
+  for (qsizetype at = tail.indexOf(kZipEndRecord); at >= 0; at = tail.indexOf(kZipEndRecord, at + 1)) {
+    if (tail.size() - at < kZipEndRecordSize) break;
+    const std::uint64_t plain = zipNumberAt<quint16>(tail, at + 10);
     most = std::max(most, entriesOfLargeRecord(file, length, tail, at).value_or(plain));
   }
   return most;

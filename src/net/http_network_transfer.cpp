@@ -1,6 +1,6 @@
 #include "net/http_network_transfer.h"
 
-#include <QNetworkRequest>
+#include "platform/http_request.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,24 +8,12 @@
 namespace quorvin {
 namespace {
 
-constexpr int kMostRedirects = 10;
-constexpr qint64 kReadBuffer = qint64{64} << 10;
 constexpr int kOk = 200;
 
 QNetworkRequest requestFor(const QUrl& address, std::chrono::milliseconds silence) {
-  QNetworkRequest request(address);
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+  QNetworkRequest request = anonymousRequest(address, silence);
   request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
   request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-  request.setMaximumRedirectsAllowed(kMostRedirects);
-  for (const QNetworkRequest::Attribute personal :
-       {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
-        QNetworkRequest::AuthenticationReuseAttribute}) {
-    request.setAttribute(personal, QNetworkRequest::Manual);
-  }
-  request.setTransferTimeout(static_cast<int>(silence.count()));
-  // The length that is announced is to be the length of the document.
-  request.setRawHeader("Accept-Encoding", "identity");
   return request;
 }
 
@@ -90,7 +78,7 @@ HttpNetworkTransfer::~HttpNetworkTransfer() {
 void HttpNetworkTransfer::execute(const QUrl& address) {
   cancel();
   reply_ = network_.get(requestFor(address, limits_.silence));
-  reply_->setReadBufferSize(kReadBuffer);
+  reply_->setReadBufferSize(kHttpReadBuffer);
   connect(reply_, &QNetworkReply::metaDataChanged, this, &HttpNetworkTransfer::headersArrived);
   connect(reply_, &QNetworkReply::finished, this, &HttpNetworkTransfer::finished);
   headerDeadline_.start(limits_.headers);

@@ -1,6 +1,6 @@
 #include "net/peer_archive_end.h"
 
-#include <QtEndian>
+#include "net/zip_records.h"
 
 #include <algorithm>
 
@@ -8,35 +8,17 @@ namespace quorvin {
 
 namespace {
 
-constexpr QByteArrayView kFileStart("PK\x03\x04", 4);
-constexpr QByteArrayView kEndRecord("PK\x05\x06", 4);
-constexpr QByteArrayView kLargeEndRecord("PK\x06\x06", 4);
-constexpr QByteArrayView kLargeEndLocator("PK\x06\x07", 4);
-
-constexpr qsizetype kEndRecordSize = 22;
-constexpr qsizetype kLocatorSize = 20;
-constexpr qsizetype kLargeEndRecordSize = 56;
-constexpr qsizetype kDirectoryEntrySize = 46;
 constexpr quint32 kSeeLargeRecord = 0xFFFFFFFFU;
 constexpr quint16 kSeeLargeRecordShort = 0xFFFFU;
 // What is kept of the bytes before: a large archive's end record and locator stand before the plain one, with
 // some room for data of others in it.
 constexpr qsizetype kKept = 1024;
 
-template <typename Number>
-Number numberAt(const QByteArray& bytes, qsizetype at) {
-  return qFromLittleEndian<Number>(bytes.constData() + at);
-}
-
-bool hasAt(const QByteArray& bytes, qsizetype at, QByteArrayView signature) {
-  return at >= 0 && QByteArrayView(bytes).sliced(at).startsWith(signature);
-}
-
 }  // namespace
 
 std::optional<bool> PeerArchiveEnd::canBeginWith(QByteArrayView bytes) {
   bool mayYet = false;
-  for (const QByteArrayView start : {kFileStart, kEndRecord, kLargeEndRecord}) {
+  for (const QByteArrayView start : {kZipFileStart, kZipEndRecord, kZipLargeEndRecord}) {
     if (bytes.startsWith(start)) return true;
     mayYet = mayYet || start.startsWith(bytes);
   }
@@ -62,41 +44,42 @@ std::optional<qsizetype> PeerArchiveEnd::feed(QByteArrayView bytes) {
 }
 
 std::optional<std::int64_t> PeerArchiveEnd::endInWindow() {
-  for (qsizetype at = window_.indexOf(kEndRecord, searched_); at >= 0;
-       at = window_.indexOf(kEndRecord, at + 1)) {
+  for (qsizetype at = window_.indexOf(kZipEndRecord, searched_); at >= 0;
+       at = window_.indexOf(kZipEndRecord, at + 1)) {
     searched_ = at;
-    if (window_.size() - at < kEndRecordSize) return std::nullopt;
+    if (window_.size() - at < kZipEndRecordSize) return std::nullopt;
     if (!isEndRecord(at)) continue;
-    return windowStart_ + at + kEndRecordSize + numberAt<quint16>(window_, at + 20);
+    return windowStart_ + at + kZipEndRecordSize + zipNumberAt<quint16>(window_, at + 20);
   }
-  searched_ = std::max(searched_, window_.size() - (kEndRecord.size() - 1));
+  searched_ = std::max(searched_, window_.size() - (kZipEndRecord.size() - 1));
   return std::nullopt;
 }
 
 bool PeerArchiveEnd::isEndRecord(qsizetype at) const {
-  const bool oneDisk = numberAt<quint32>(window_, at + 4) == 0;
-  const auto entriesHere = numberAt<quint16>(window_, at + 8);
-  const auto entries = numberAt<quint16>(window_, at + 10);
-  const auto size = numberAt<quint32>(window_, at + 12);
-  const auto offset = numberAt<quint32>(window_, at + 16);
+  const bool oneDisk = zipNumberAt<quint32>(window_, at + 4) == 0;
+  const auto entriesHere = zipNumberAt<quint16>(window_, at + 8);
+  const auto entries = zipNumberAt<quint16>(window_, at + 10);
+  const auto size = zipNumberAt<quint32>(window_, at + 12);
+  const auto offset = zipNumberAt<quint32>(window_, at + 16);
   const bool isLarge =
       size == kSeeLargeRecord || offset == kSeeLargeRecord || entries == kSeeLargeRecordShort;
   if (isLarge && isEndOfLargeArchive(at)) return true;
-  return oneDisk && entriesHere == entries && size >= entries * quint32{kDirectoryEntrySize} &&
+  return oneDisk && entriesHere == entries && size >= entries * quint32{kZipDirectoryEntrySize} &&
          std::int64_t{offset} + std::int64_t{size} == windowStart_ + at;
 }
 
 bool PeerArchiveEnd::isEndOfLargeArchive(qsizetype at) const {
-  const qsizetype locator = at - kLocatorSize;
-  if (!hasAt(window_, locator, kLargeEndLocator)) return false;
-  const auto recordPlace = numberAt<quint64>(window_, locator + 8);
+  const qsizetype locator = at - kZipLocatorSize;
+  if (!zipRecordIsAt(window_, locator, kZipLargeEndLocator)) return false;
+  const auto recordPlace = zipNumberAt<quint64>(window_, locator + 8);
   const auto start = static_cast<quint64>(windowStart_);
-  const auto lastPlace = static_cast<quint64>(locator - kLargeEndRecordSize);
-  if (locator < kLargeEndRecordSize || recordPlace < start || recordPlace - start > lastPlace) return false;
+  const auto lastPlace = static_cast<quint64>(locator - kZipLargeEndRecordSize);
+  if (locator < kZipLargeEndRecordSize || recordPlace < start || recordPlace - start > lastPlace)
+    return false;
   const auto record = static_cast<qsizetype>(recordPlace - start);
-  if (!hasAt(window_, record, kLargeEndRecord)) return false;
-  const auto size = numberAt<quint64>(window_, record + 40);
-  const auto offset = numberAt<quint64>(window_, record + 48);
+  if (!zipRecordIsAt(window_, record, kZipLargeEndRecord)) return false;
+  const auto size = zipNumberAt<quint64>(window_, record + 40);
+  const auto offset = zipNumberAt<quint64>(window_, record + 48);
   return size <= recordPlace && offset == recordPlace - size;
 }
 

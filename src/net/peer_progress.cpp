@@ -1,9 +1,9 @@
 #include "net/peer_progress.h"
 
+#include "net/progress_layout.h"
+
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QProgressBar>
-#include <QVBoxLayout>
 
 namespace quorvin {
 
@@ -38,23 +38,8 @@ PeerProgress::PeerProgress(const QLocale& locale, QWidget* parent)
       cancelButton_(new QPushButton(QStringLiteral("Cancel"))) {
   setObjectName(QStringLiteral("PeerProgress"));
   setWindowTitle(QStringLiteral("Getting Lists"));
-  setAttribute(Qt::WA_ShowWithoutActivating);
-  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
-  cancelButton_->setObjectName(QStringLiteral("CancelButton"));
-  bytes_->setForegroundRole(QPalette::PlaceholderText);
   connect(cancelButton_, &QPushButton::clicked, this, &PeerProgress::cancelled);
-
-  auto* lastRow = new QHBoxLayout;
-  lastRow->addWidget(bytes_, 1);
-  lastRow->addWidget(cancelButton_);
-  auto* rows = new QVBoxLayout(this);
-  rows->addWidget(peer_);
-  rows->addWidget(list_);
-  rows->addWidget(makeMovingBar());
-  rows->addLayout(lastRow);
-  // The texts change all the time; the window must not change with them.
-  rows->setSizeConstraint(QLayout::SetNoConstraint);
-  setFixedSize(fontMetrics().averageCharWidth() * kWidthInCharacters, rows->sizeHint().height());
+  layOutProgress(*this, {peer_, list_, makeMovingBar()}, *bytes_, *cancelButton_, kWidthInCharacters);
 }
 
 void PeerProgress::begin(const QString& peer) {

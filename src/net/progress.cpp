@@ -1,10 +1,10 @@
 #include "net/progress.h"
 
+#include "net/progress_layout.h"
+
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -46,27 +46,11 @@ Progress::Progress(ProgramState& state, QWidget* parent)
       cancelButton_(new QPushButton(QStringLiteral("Cancel"))) {
   setObjectName(QStringLiteral("Progress"));
   setWindowTitle(QStringLiteral("Progress"));
-  setAttribute(Qt::WA_ShowWithoutActivating);
-  // Of a size that never changes: no button to make it larger.
-  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   status_->setObjectName(QStringLiteral("Status"));
   status_->setTextFormat(Qt::PlainText);
   detail_->setObjectName(QStringLiteral("Detail"));
-  detail_->setTextFormat(Qt::PlainText);
-  detail_->setForegroundRole(QPalette::PlaceholderText);
-  cancelButton_->setObjectName(QStringLiteral("CancelButton"));
   connect(cancelButton_, &QPushButton::clicked, this, &Progress::CancelButton_Click);
-
-  auto* lastRow = new QHBoxLayout;
-  lastRow->addWidget(detail_, 1);
-  lastRow->addWidget(cancelButton_);
-  auto* rows = new QVBoxLayout(this);
-  rows->addWidget(status_);
-  rows->addWidget(bar_);
-  rows->addLayout(lastRow);
-  // The texts change all the time; the window must not change with them.
-  rows->setSizeConstraint(QLayout::SetNoConstraint);
-  setFixedSize(fontMetrics().averageCharWidth() * kWidthInCharacters, rows->sizeHint().height());
+  layOutProgress(*this, {status_, bar_}, *detail_, *cancelButton_, kWidthInCharacters);
 }
 
 void Progress::begin() {

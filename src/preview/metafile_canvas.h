@@ -48,6 +48,9 @@ struct MetafileText {
   std::optional<QRectF> clip;
 };
 
+/// The ternary raster operation that draws a picture over what is there.
+inline constexpr std::uint32_t kCopyOperation = 0x00CC0020;
+
 enum class MetafilePaint { Fill, Stroke, FillAndStroke };
 
 /// Draws into an image. All places and sizes are in the drawing's own units unless it is said otherwise.

@@ -10,7 +10,6 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::uint32_t kCopy = 0x00CC0020;
 /// Where the records for copied parts of a device, and those for stored bitmaps, tell where the bitmap
 /// stands.
 constexpr std::int64_t kCopiedPart = 84;
@@ -95,11 +94,12 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
       return true;
     case AlphaBlend:
     case TransparentBlt:
-      drawBitmap(record, kCopiedPart, boxAt(record, 24), {record.point32(44), sizeAt(record, 100)}, kCopy);
+      drawBitmap(record, kCopiedPart, boxAt(record, 24), {record.point32(44), sizeAt(record, 100)},
+                 kCopyOperation);
       return true;
     case SetDibits: {
       const QRectF source = boxAt(record, 32);
-      drawBitmap(record, kStoredBitmap, {record.point32(24), source.size()}, source, kCopy);
+      drawBitmap(record, kStoredBitmap, {record.point32(24), source.size()}, source, kCopyOperation);
       return true;
     }
     case StretchDibits:

@@ -11,7 +11,6 @@ namespace quorvin {
 namespace {
 
 constexpr std::size_t kMostObjects = 0x10000;
-constexpr std::uint32_t kCopy = 0x00CC0020;
 
 MetafileFont fontOf(const MetafileBytes& parameters) {
   MetafileFont font;
@@ -134,7 +133,7 @@ bool WmfPlayer::playBitmap(std::uint16_t function, const MetafileBytes& paramete
     case SetDib: {
       const QSizeF size = wmfSize(parameters, 10);
       drawStored(parameters.from(18), {wmfPoint(parameters, 14), size}, {wmfPoint(parameters, 6), size},
-                 kCopy);
+                 kCopyOperation);
       return true;
     }
     case StretchDib:

@@ -8,24 +8,6 @@
 
 namespace quorvin::test {
 
-namespace {
-
-constexpr int kPatienceMilliseconds = 20'000;
-
-/// Starts `program` and gives the first line that it writes, by which it says that it is ready.
-QString startAndReadLine(QProcess& process, const QString& program, const QStringList& arguments) {
-  process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  process.start(program, arguments);
-  while (!process.canReadLine()) {
-    if (!process.waitForReadyRead(kPatienceMilliseconds)) {
-      throw std::runtime_error(program.toStdString() + ": " + process.errorString().toStdString());
-    }
-  }
-  return QString::fromUtf8(process.readLine()).trimmed();
-}
-
-}  // namespace
-
 TestDesktop::TestDesktop() : environment_(QProcessEnvironment::systemEnvironment()) {
   environment_.insert(QStringLiteral("HOME"), home_.path());
   for (const char* name : {"XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
@@ -39,7 +21,7 @@ TestDesktop::TestDesktop() : environment_(QProcessEnvironment::systemEnvironment
   environment_.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
   environment_.insert(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory"));
   environment_.remove(QStringLiteral("AT_SPI_BUS_ADDRESS"));
-  startScreen();
+  environment_.insert(QStringLiteral("DISPLAY"), screen_.display());
   startSessionBus();
   startAccessibilityBus();
 }
@@ -47,21 +29,11 @@ TestDesktop::TestDesktop() : environment_(QProcessEnvironment::systemEnvironment
 TestDesktop::~TestDesktop() {
   // What the bus has started for us ends with it.
   endProcess(sessionBus_);
-  endProcess(screen_);
-}
-
-/// Left to itself the server would begin anew whenever its last client leaves, and refuse whoever comes then.
-void TestDesktop::startScreen() {
-  const QString number =
-      startAndReadLine(screen_, QStringLiteral("Xvfb"),
-                       {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                        QStringLiteral("0"), QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"),
-                        QStringLiteral("tcp"), QStringLiteral("-noreset")});
-  environment_.insert(QStringLiteral("DISPLAY"), u':' + number);
 }
 
 void TestDesktop::startSessionBus() {
   sessionBus_.setProcessEnvironment(environment_);
+  sessionBus_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   const QString address = startAndReadLine(
       sessionBus_, QStringLiteral("dbus-daemon"),
       {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1"),

@@ -1,6 +1,7 @@
 // A desktop of a test's own: a screen that nobody sees, a session bus, and the accessibility bus on it.
 #pragma once
 
+#include "support/hidden_screen.h"
 #include "support/temporary_folder.h"
 
 #include <QProcess>
@@ -23,13 +24,12 @@ class TestDesktop {
   const QString& accessibilityBus() const { return accessibilityBus_; }
 
  private:
-  void startScreen();
   void startSessionBus();
   void startAccessibilityBus();
 
   TemporaryFolder home_;
+  HiddenScreen screen_;
   QProcessEnvironment environment_;
-  QProcess screen_;
   QProcess sessionBus_;
   QString accessibilityBus_;
 };

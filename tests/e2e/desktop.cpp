@@ -3,9 +3,7 @@
 #include <QDeadlineTimer>
 #include <QThread>
 
-#include <csignal>
 #include <stdexcept>
-#include <sys/prctl.h>
 
 namespace quorvin::test {
 
@@ -34,39 +32,19 @@ void waitUntil(const QString& what, const std::function<bool()>& condition,
   }
 }
 
-void endWithTest(QProcess& process) {
-  process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-}
-
 Desktop::Desktop() : environment_(QProcessEnvironment::systemEnvironment()) {
   for (const char* name : {"WAYLAND_DISPLAY", "XAUTHORITY", "XDG_CURRENT_DESKTOP", "QT_STYLE_OVERRIDE",
                            "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "DBUS_SESSION_BUS_ADDRESS"}) {
     environment_.remove(QString::fromLatin1(name));
   }
   environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-  startScreen();
+  environment_.insert(QStringLiteral("DISPLAY"), screen_.display());
   startWindowManager();
 }
 
 Desktop::~Desktop() {
-  for (QProcess* process : {&windowManager_, &screen_}) {
-    process->kill();
-    process->waitForFinished();
-  }
-}
-
-/// The server picks a free number itself and tells it. No key repeats, however late it is let go.
-void Desktop::startScreen() {
-  endWithTest(screen_);
-  screen_.setStandardErrorFile(QProcess::nullDevice());
-  screen_.start(QStringLiteral(QUORVIN_XVFB),
-                {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                 QStringLiteral("0"), QStringLiteral("1280x900x24"), QStringLiteral("-nolisten"),
-                 QStringLiteral("tcp"), QStringLiteral("-r")});
-  while (!screen_.canReadLine()) {
-    if (!screen_.waitForReadyRead(kPatienceMilliseconds)) fail(QStringLiteral("no screen came up"));
-  }
-  environment_.insert(QStringLiteral("DISPLAY"), u':' + QString::fromLatin1(screen_.readLine().trimmed()));
+  windowManager_.kill();
+  windowManager_.waitForFinished();
 }
 
 void Desktop::startWindowManager() {

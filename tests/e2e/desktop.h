@@ -1,6 +1,8 @@
 // A desktop of the test's own: a screen that nobody sees, with a window manager and a keyboard.
 #pragma once
 
+#include "support/hidden_screen.h"
+
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -46,7 +48,6 @@ class Desktop {
   QString clipboardText() const;
 
  private:
-  void startScreen();
   void startWindowManager();
   struct Answer {
     bool isGood;
@@ -55,12 +56,9 @@ class Desktop {
   Answer run(const QString& program, const QStringList& arguments) const;
   QString control(const QStringList& arguments) const;
 
+  HiddenScreen screen_;
   QProcessEnvironment environment_;
-  QProcess screen_;
   QProcess windowManager_;
 };
-
-/// Makes `process` end with the process that starts it, however that ends.
-void endWithTest(QProcess& process);
 
 }  // namespace quorvin::test

@@ -2,22 +2,13 @@
 #include "net/peer_message.h"
 
 #include "net/peer_program.h"
-#include "platform/runtime_fault.h"
+#include "support/fault_number.h"
 
 #include <gtest/gtest.h>
 
 namespace quorvin::test {
 
 namespace {
-
-int faultNumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeFault& fault) {
-    return fault.number();
-  }
-  return 0;
-}
 
 TEST(PeerMessage, TheClientGreetsWithItsAddress) {
   EXPECT_EQ(greetingMessage(QStringLiteral("192.168.1.7")), QByteArray("Connecting from: 192.168.1.7"));

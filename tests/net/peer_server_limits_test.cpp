@@ -1,13 +1,11 @@
 // What a server lets callers take up.
 #include "net/peer_caller.h"
 #include "net/peer_server.h"
+#include "support/descriptors.h"
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
 #include <memory>
-#include <sys/resource.h>
-#include <unistd.h>
 
 namespace quorvin::test {
 
@@ -117,24 +115,6 @@ TEST_F(PeerServerLimitsTest, TooManyMessagesThatWaitEndTheConnection) {
   EXPECT_TRUE(waitFor([&] { return server.connectionCount() == 0; }));
 }
 
-/// As long as it lives, this process can open only so many more files.
-class FewDescriptors {
- public:
-  explicit FewDescriptors(rlim_t more) {
-    const int next = ::open("/dev/null", O_RDONLY);
-    ::close(next);
-    ::getrlimit(RLIMIT_NOFILE, &before_);
-    const rlimit few{static_cast<rlim_t>(next) + more, before_.rlim_max};
-    ::setrlimit(RLIMIT_NOFILE, &few);
-  }
-  ~FewDescriptors() { ::setrlimit(RLIMIT_NOFILE, &before_); }
-  FewDescriptors(const FewDescriptors&) = delete;
-  FewDescriptors& operator=(const FewDescriptors&) = delete;
-
- private:
-  rlimit before_{};
-};
-
 TEST_F(PeerServerLimitsTest, AcceptsAgainAfterTheDescriptorsHadRunOut) {
   PeerServerLimits limits;
   limits.acceptPause = std::chrono::milliseconds(100);
@@ -143,7 +123,7 @@ TEST_F(PeerServerLimitsTest, AcceptsAgainAfterTheDescriptorsHadRunOut) {
   EXPECT_EQ(first.ask("Connecting from: x", 3), QByteArray("OK:"));
   QTcpSocket waiting;
   {
-    const FewDescriptors few(1);
+    const FewDescriptors few(nextDescriptor() + 1);
     waiting.connectToHost(QHostAddress(QHostAddress::LocalHost), server.port());
     ASSERT_TRUE(waitFor([&] { return waiting.state() == QAbstractSocket::ConnectedState; }));
     waiting.write("Connecting from: x");

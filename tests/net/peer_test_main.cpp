@@ -1,24 +1,13 @@
 // Runs the tests of the peer exchange with an application object, without a screen unless one is asked for,
 // and with as many descriptors as the system lets this process have.
+#include "support/descriptors.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
-
-namespace {
-
-void allowManyDescriptors() {
-  rlimit limit{};
-  ::getrlimit(RLIMIT_NOFILE, &limit);
-  limit.rlim_cur = limit.rlim_max;
-  ::setrlimit(RLIMIT_NOFILE, &limit);
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  allowManyDescriptors();
+  quorvin::test::allowManyDescriptors();
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
   return RUN_ALL_TESTS();

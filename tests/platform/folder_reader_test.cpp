@@ -1,5 +1,6 @@
 #include "platform/folder_reader.h"
 
+#include "support/descriptors.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -164,22 +164,6 @@ class FolderChain {
   int bottom_ = -1;
 };
 
-// As long as it lives, the process may have only so many files open.
-class FewDescriptors {
- public:
-  explicit FewDescriptors(rlim_t most) {
-    ::getrlimit(RLIMIT_NOFILE, &before_);
-    const rlimit few{most, before_.rlim_max};
-    ::setrlimit(RLIMIT_NOFILE, &few);
-  }
-  ~FewDescriptors() { ::setrlimit(RLIMIT_NOFILE, &before_); }
-  FewDescriptors(const FewDescriptors&) = delete;
-  FewDescriptors& operator=(const FewDescriptors&) = delete;
-
- private:
-  rlimit before_{};
-};
-
 TEST(FolderReader, FindsItsWayBackFrom5000LevelsWithFewFoldersOpen) {
   const TemporaryFolder folder;
   constexpr int kDepth = 5000;
@@ -201,7 +185,7 @@ TEST(FolderReader, GivesFoldersUpWhenTheProcessMayOpenNoMore) {
   constexpr int kDepth = 200;
   const FolderChain chain(folder, kDepth);
   ASSERT_TRUE(chain.made());
-  const FewDescriptors few(40);
+  const test::FewDescriptors few(40);
   const auto reader = makeFolderReader();
   ASSERT_EQ(reader->enterTop(folder.path()), 0);
   for (int i = 0; i < kDepth; ++i) ASSERT_EQ(reader->enter("d"), 0) << i;

@@ -120,6 +120,20 @@ QByteArray emfPolygons() {
   return emf.record(91, two).file();
 }
 
+// What is to be seen of the drawings that both kinds of metafile have.
+const QList<SeenPoint> kPensSeen = {{{100, 100}, kGreen}, {{20, 100}, kRed},   {{16, 100}, kRed},
+                                    {{5, 100}, kWhite},   {{300, 103}, kBlue}, {{300, 110}, kWhite},
+                                    {{300, 50}, kGreen}};
+const QList<SeenPoint> kInsideSeen = {{{100, 100}, kRed}, {{40, 100}, kWhite}, {{160, 100}, kWhite}};
+const QList<SeenPoint> kOutsideSeen = {{{100, 100}, kWhite}, {{40, 100}, kRed}, {{160, 100}, kRed}};
+const QList<SeenPoint> kPolygonsSeen = {
+    {{100, 120}, kGreen}, {{30, 40}, kWhite}, {{240, 100}, kGreen}, {{300, 100}, kWhite}};
+const QList<SeenPoint> kArcsSeen = {
+    {{130, 70}, kRed}, {{70, 70}, kWhite}, {{130, 130}, kWhite}, {{300, 50}, kRed}, {{300, 150}, kWhite}};
+const QList<SeenPoint> kWindowSeen = {
+    {{200, 100}, kRed}, {{90, 100}, kWhite}, {{310, 100}, kWhite}, {{110, 60}, kRed}};
+const QList<SeenPoint> kSavedStateSeen = {{{50, 50}, kBlue}, {{250, 50}, kRed}};
+
 }  // namespace
 
 std::vector<CorpusMetafile> enhancedMetafileCorpus() {
@@ -141,16 +155,7 @@ std::vector<CorpusMetafile> enhancedMetafileCorpus() {
   path.record(59).ellipse(100, 0, 300, 200).record(60).record(67, ByteWriter().u32(5));
 
   return {
-      {"pens",
-       emfPens(),
-       {{{100, 100}, kGreen},
-        {{20, 100}, kRed},
-        {{16, 100}, kRed},
-        {{5, 100}, kWhite},
-        {{300, 103}, kBlue},
-        {{300, 110}, kWhite},
-        {{300, 50}, kGreen}},
-       false},
+      {"pens", emfPens(), kPensSeen, false},
       {"text",
        emfText(),
        {{{30, 80}, kRed},
@@ -160,10 +165,8 @@ std::vector<CorpusMetafile> enhancedMetafileCorpus() {
         {{300, 80}, kWhite},
         {{70, 80}, kWhite}},
        false},
-      emfClip("clip to a rectangle", intersected,
-              {{{100, 100}, kRed}, {{40, 100}, kWhite}, {{160, 100}, kWhite}}),
-      emfClip("clip without a rectangle", excluded,
-              {{{100, 100}, kWhite}, {{40, 100}, kRed}, {{160, 100}, kRed}}),
+      emfClip("clip to a rectangle", intersected, kInsideSeen),
+      emfClip("clip without a rectangle", excluded, kOutsideSeen),
       emfClip("clip to a region", region,
               {{{100, 100}, kRed}, {{200, 100}, kWhite}, {{300, 100}, kRed}, {{100, 40}, kWhite}}),
       emfClip("clip to a path", path, {{{200, 100}, kRed}, {{110, 10}, kWhite}, {{110, 100}, kRed}}),
@@ -191,26 +194,15 @@ std::vector<CorpusMetafile> enhancedMetafileCorpus() {
         {{300, 130}, kBlue},
         {{300, 80}, kWhite},
         {{260, 180}, kBlue}}},
-      {"window and viewport",
-       emfWindow(),
-       {{{200, 100}, kRed}, {{90, 100}, kWhite}, {{310, 100}, kWhite}, {{110, 60}, kRed}}},
+      {"window and viewport", emfWindow(), kWindowSeen},
       {"millimetres",
        emfMillimetres(),
        {{{100, 50}, kRed}, {{250, 50}, kWhite}, {{100, 150}, kWhite}},
        false},
       {"world", emfWorld(), {{{150, 70}, kRed}, {{195, 115}, kRed}, {{90, 50}, kWhite}, {{340, 170}, kRed}}},
-      {"saved state", emfStates(), {{{50, 50}, kBlue}, {{250, 50}, kRed}}},
-      {"arcs",
-       emfArcs(),
-       {{{130, 70}, kRed},
-        {{70, 70}, kWhite},
-        {{130, 130}, kWhite},
-        {{300, 50}, kRed},
-        {{300, 150}, kWhite}}},
-      {"polygons",
-       emfPolygons(),
-       {{{100, 120}, kGreen}, {{30, 40}, kWhite}, {{240, 100}, kGreen}, {{300, 100}, kWhite}},
-       false},
+      {"saved state", emfStates(), kSavedStateSeen},
+      {"arcs", emfArcs(), kArcsSeen},
+      {"polygons", emfPolygons(), kPolygonsSeen, false},
       {"hatches",
        EmfWriter()
            .select(kNoPen)
@@ -275,47 +267,33 @@ std::vector<CorpusMetafile> windowsMetafileCorpus() {
                               QPoint(260, 60), QPoint(340, 60), QPoint(340, 140), QPoint(260, 140)}) {
     two.u16(point.x()).u16(point.y());
   }
-  const QList<SeenPoint> insideOnly = {{{100, 100}, kRed}, {{40, 100}, kWhite}, {{160, 100}, kWhite}};
   return {
-      {"pens",
-       wmfPens(),
-       {{{100, 100}, kGreen},
-        {{20, 100}, kRed},
-        {{16, 100}, kRed},
-        {{5, 100}, kWhite},
-        {{300, 103}, kBlue},
-        {{300, 110}, kWhite},
-        {{300, 50}, kGreen}},
-       false},
+      {"pens", wmfPens(), kPensSeen, false},
       {"text",
        wmfText(),
        {{{30, 70}, kYellow}, {{120, 70}, kYellow}, {{10, 70}, kWhite}, {{300, 70}, kWhite}},
        false},
-      clipped("clip to a rectangle", filledWmf(kRed).box(0x0416, 50, 50, 150, 150), insideOnly, true),
-      clipped("clip without a rectangle", filledWmf(kRed).box(0x0415, 50, 50, 150, 150),
-              {{{100, 100}, kWhite}, {{40, 100}, kRed}, {{160, 100}, kRed}}, false),
+      clipped("clip to a rectangle", filledWmf(kRed).box(0x0416, 50, 50, 150, 150), kInsideSeen, true),
+      clipped("clip without a rectangle", filledWmf(kRed).box(0x0415, 50, 50, 150, 150), kOutsideSeen, false),
       clipped("clip to a region",
-              filledWmf(kRed).region({50, 50, 100, 100}).record(0x012C, ByteWriter().u16(3)), insideOnly,
+              filledWmf(kRed).region({50, 50, 100, 100}).record(0x012C, ByteWriter().u16(3)), kInsideSeen,
               false),
       {"bitmap", sheetWmf().stretchDib(place, image.size(), dib).file(), fourColoursIn(place)},
-      {"polygons",
-       filledWmf(kGreen).polygon({{20, 180}, {100, 20}, {180, 180}}).record(0x0538, two).file(),
-       {{{100, 120}, kGreen}, {{30, 40}, kWhite}, {{240, 100}, kGreen}, {{300, 100}, kWhite}}},
+      {"polygons", filledWmf(kGreen).polygon({{20, 180}, {100, 20}, {180, 180}}).record(0x0538, two).file(),
+       kPolygonsSeen},
       {"arcs",
        filledWmf(kRed)
            .record(0x081A, ByteWriter().u16(0).u16(100).u16(100).u16(200).u16(200).u16(200).u16(0).u16(0))
            .record(0x0830, ByteWriter().u16(100).u16(200).u16(100).u16(400).u16(200).u16(400).u16(0).u16(200))
            .file(),
-       {{{130, 70}, kRed}, {{70, 70}, kWhite}, {{130, 130}, kWhite}, {{300, 50}, kRed}, {{300, 150}, kWhite}},
-       false},
+       kArcsSeen, false},
       {"window",
        filledWmf(kRed)
            .place(0x020B, -1000, -500)
            .place(0x020C, 2000, 1000)
            .rectangle(-500, -250, 500, 250)
            .file(),
-       {{{200, 100}, kRed}, {{90, 100}, kWhite}, {{310, 100}, kWhite}, {{110, 60}, kRed}},
-       false},
+       kWindowSeen, false},
       {"saved state",
        filledWmf(kRed)
            .record(0x001E)
@@ -325,7 +303,7 @@ std::vector<CorpusMetafile> windowsMetafileCorpus() {
            .record(0x0127, ByteWriter().u16(-1))
            .rectangle(200, 0, 300, 100)
            .file(),
-       {{{50, 50}, kBlue}, {{250, 50}, kRed}}},
+       kSavedStateSeen},
       {"without placeable header",
        filledWmf(kRed).rectangle(100, 50, 300, 150).file(false),
        {{{200, 100}, kRed}, {{50, 100}, kWhite}, {{350, 100}, kWhite}}},

@@ -2,7 +2,7 @@
 #include "search/hit_path.h"
 
 #include "platform/file_lookup.h"
-#include "platform/runtime_fault.h"
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -14,15 +14,6 @@
 namespace quorvin::test {
 
 namespace {
-
-int faultNumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeFault& fault) {
-    return fault.number();
-  }
-  return 0;
-}
 
 // The full folder path.
 

@@ -1,0 +1,20 @@
+// Which fault an action throws.
+#pragma once
+
+#include "platform/runtime_fault.h"
+
+#include <functional>
+
+namespace quorvin::test {
+
+/// The number of the RuntimeFault that `action` throws; 0 when it throws none.
+inline int faultNumberOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const RuntimeFault& fault) {
+    return fault.number();
+  }
+  return 0;
+}
+
+}  // namespace quorvin::test
