@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QByteArrayView>
-#include <QPoint>
-#include <QRect>
-#include <QString>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
 #include <QtEndian>
 
 #include <bit>
@@ -48,6 +48,9 @@ class MetafileBytes {
   /// A point of two 32-bit or two 16-bit numbers, x first.
   QPointF point32(std::int64_t offset) const { return {double(i32(offset)), double(i32(offset + 4))}; }
   QPointF point16(std::int64_t offset) const { return {double(i16(offset)), double(i16(offset + 2))}; }
+
+  /// A width and a height of two 32-bit numbers.
+  QSizeF size32(std::int64_t offset) const { return {double(i32(offset)), double(i32(offset + 4))}; }
 
   /// A rectangle of four 32-bit numbers: left, top, right, bottom.
   QRectF rect32(std::int64_t offset) const { return {point32(offset), point32(offset + 8)}; }

@@ -87,7 +87,7 @@ void MetafileCanvas::select(const MetafileObject& object) {
   if (const auto* pen = std::get_if<MetafilePen>(&object)) state.pen = *pen;
   if (const auto* brush = std::get_if<MetafileBrush>(&object)) state.brush = *brush;
   if (const auto* font = std::get_if<MetafileFont>(&object)) state.font = *font;
-  if (const auto* region = std::get_if<QRegion>(&object)) clip(*region, 5);
+  if (const auto* region = std::get_if<QRegion>(&object)) clip(*region, MetafileClip::Instead);
 }
 
 QTransform MetafileCanvas::toImage() const {
@@ -210,7 +210,7 @@ void MetafileCanvas::paintPath(MetafilePaint paintWhat) {
   dropPath();
 }
 
-void MetafileCanvas::clipToPath(int mode) {
+void MetafileCanvas::clipToPath(MetafileClip mode) {
   QRegion region;
   for (const QPolygonF& polygon : path_.toFillPolygons()) {
     region ^= QRegion(pixelsAt(polygon), state.fillRule);
@@ -219,11 +219,11 @@ void MetafileCanvas::clipToPath(int mode) {
   dropPath();
 }
 
-void MetafileCanvas::clip(const std::optional<QRegion>& device, int mode) {
+void MetafileCanvas::clip(const std::optional<QRegion>& device, MetafileClip mode) {
   combineClip(device ? std::optional(deviceToImage_.map(*device)) : std::nullopt, mode);
 }
 
-void MetafileCanvas::clip(const QRectF& box, int mode) {
+void MetafileCanvas::clip(const QRectF& box, MetafileClip mode) {
   combineClip(QRegion(pixelsAt(toImage().map(QPolygonF(box)))), mode);
 }
 
@@ -233,24 +233,23 @@ void MetafileCanvas::moveClip(const QPointF& offset) {
   state.clip->translate(pixelAt(transform.map(offset) - transform.map(QPointF())));
 }
 
-void MetafileCanvas::combineClip(const std::optional<QRegion>& image, int mode) {
-  constexpr int kInstead = 5;
-  if (mode == kInstead || !image) {
+void MetafileCanvas::combineClip(const std::optional<QRegion>& image, MetafileClip mode) {
+  if (mode == MetafileClip::Instead || !image) {
     state.clip = image;
     return;
   }
   const QRegion before = state.clip.value_or(QRegion(image_.rect()));
   switch (mode) {
-    case 1:
+    case MetafileClip::And:
       state.clip = before & *image;
       return;
-    case 2:
+    case MetafileClip::Or:
       state.clip = before | *image;
       return;
-    case 3:
+    case MetafileClip::ExclusiveOr:
       state.clip = before ^ *image;
       return;
-    case 4:
+    case MetafileClip::Without:
       state.clip = before - *image;
       return;
     default:

@@ -51,6 +51,9 @@ struct MetafileText {
 /// The ternary raster operation that draws a picture over what is there.
 inline constexpr std::uint32_t kCopyOperation = 0x00CC0020;
 
+/// How a clip changes the one before. The values are those of the file formats.
+enum class MetafileClip { And = 1, Or, ExclusiveOr, Without, Instead };
+
 enum class MetafilePaint { Fill, Stroke, FillAndStroke };
 
 /// Draws into an image. All places and sizes are in the drawing's own units unless it is said otherwise.
@@ -86,15 +89,17 @@ class MetafileCanvas {
   void endPath() { isRecording_ = false; }
   void dropPath();
   void paintPath(MetafilePaint paint);
-  void clipToPath(int mode);
+  void clipToPath(MetafileClip mode);
 
-  /// `mode`: 1 and, 2 or, 3 exclusive or, 4 without, 5 instead. Nothing as region: the whole sheet.
-  void clip(const std::optional<QRegion>& device, int mode);
-  void clip(const QRectF& box, int mode);
+  /// Nothing as region: the whole sheet. A mode that is none of the above throws MetafileFault.
+  void clip(const std::optional<QRegion>& device, MetafileClip mode);
+  void clip(const QRectF& box, MetafileClip mode);
   void moveClip(const QPointF& offset);
 
-  /// Draws the part `source` (in pixels of `image`) into `target` by the ternary raster operation.
-  void drawImage(const QRectF& target, const QImage& image, const QRectF& source, std::uint32_t operation);
+  /// Draws the part `source` (in pixels of `image`) into `target` by the ternary raster operation. `opacity`
+  /// goes from 0 to 1.
+  void drawImage(const QRectF& target, const QImage& image, const QRectF& source, std::uint32_t operation,
+                 double opacity = 1);
   void fill(const QRectF& target, std::uint32_t operation);
 
   void drawText(const MetafileText& text);
@@ -109,7 +114,7 @@ class MetafileCanvas {
   void paint(const QPainterPath& imagePath, MetafilePaint paint);
   QPen penInImage() const;
   QBrush brushInImage(const MetafileBrush& brush) const;
-  void combineClip(const std::optional<QRegion>& image, int mode);
+  void combineClip(const std::optional<QRegion>& image, MetafileClip mode);
 
   QImage image_;
   QPainter painter_;

@@ -37,8 +37,9 @@ QPainter::CompositionMode sourceComposition(std::uint32_t operation) {
 }  // namespace
 
 void MetafileCanvas::drawImage(const QRectF& target, const QImage& image, const QRectF& source,
-                               std::uint32_t operation) {
+                               std::uint32_t operation, double opacity) {
   beginPainting();
+  painter_.setOpacity(opacity);
   painter_.setCompositionMode(sourceComposition(operation));
   painter_.setTransform(toImage());
   painter_.translate(target.topLeft());
@@ -47,6 +48,7 @@ void MetafileCanvas::drawImage(const QRectF& target, const QImage& image, const 
   const QRectF place(QPointF(), QSizeF(std::abs(target.width()), std::abs(target.height())));
   painter_.drawImage(place, image, source);
   painter_.resetTransform();
+  painter_.setOpacity(1);
 }
 
 void MetafileCanvas::fill(const QRectF& target, std::uint32_t operation) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <numeric>
 
 namespace quorvin {
@@ -122,7 +123,7 @@ void MetafileCanvas::drawText(const MetafileText& text) {
   painter_.translate(transform.map(reference));
   const QPointF baseLine =
       QTransform(state.mapping.world).map(QPointF(1, 0)) - QTransform(state.mapping.world).map(QPointF());
-  painter_.rotate(std::atan2(baseLine.y(), baseLine.x()) * 180 / 3.14159265358979);
+  painter_.rotate(std::atan2(baseLine.y(), baseLine.x()) * 180 / std::numbers::pi);
   painter_.rotate(-state.font.escapement / 10.0);
   painter_.scale(yScale > 0 ? xScale / yScale : 1, 1);
   if (state.isBackOpaque && !text.opaque) {

@@ -1,6 +1,10 @@
 #include "preview/metafile_dib.h"
 
+#include "preview/bitmap_reading.h"
+
+#include <QBuffer>
 #include <QByteArray>
+#include <QImageReader>
 
 #include <algorithm>
 #include <cstdlib>
@@ -15,10 +19,14 @@ constexpr std::uint32_t kUsualHeaderSize = 40;
 constexpr std::uint32_t kMasks = 3;
 constexpr qsizetype kFileHeaderSize = 14;
 
+bool hasOldHeader(const MetafileBytes& dib) {
+  return dib.u32(0) == kOldHeaderSize;
+}
+
 /// The size of the header with its masks and its palette.
 std::int64_t headerSize(const MetafileBytes& dib) {
   const std::uint32_t size = dib.u32(0);
-  if (size == kOldHeaderSize) {
+  if (hasOldHeader(dib)) {
     const std::uint16_t depth = dib.u16(10);
     return size + (depth <= 8 ? (3LL << depth) : 0);
   }
@@ -31,10 +39,14 @@ std::int64_t headerSize(const MetafileBytes& dib) {
   return size + masks + colours * 4;
 }
 
+/// Below zero for a bitmap that begins with its first row.
+std::int64_t toldRows(const MetafileBytes& dib) {
+  return hasOldHeader(dib) ? dib.u16(6) : dib.i32(8);
+}
+
 void checkSize(const MetafileBytes& dib) {
-  const bool isOld = dib.u32(0) == kOldHeaderSize;
-  const std::int64_t width = isOld ? dib.u16(4) : dib.i32(4);
-  const std::int64_t height = isOld ? dib.u16(6) : std::llabs(dib.i32(8));
+  const std::int64_t width = hasOldHeader(dib) ? dib.u16(4) : dib.i32(4);
+  const std::int64_t height = std::abs(toldRows(dib));
   if (width <= 0 || height <= 0) throw MetafileFault("a bitmap in it is empty");
   if (width > kMostPixels / height) throw MetafileFault("a bitmap in it is too large");
 }
@@ -55,9 +67,32 @@ QImage imageOfDib(const MetafileBytes& header, const MetafileBytes& bits) {
   append32(file, kFileHeaderSize + size);
   file += header.slice(0, size).all();
   file += bits.all();
-  const QImage image = QImage::fromData(file, "BMP");
+  QBuffer buffer(&file);
+  buffer.open(QIODevice::ReadOnly);
+  QImageReader reader(&buffer, "bmp");
+  const QImage image = readBitmap(reader);
   if (image.isNull()) throw MetafileFault("a bitmap in it cannot be read");
   return image;
+}
+
+QImage imageOfDibWithAlpha(const MetafileBytes& header, const MetafileBytes& bits) {
+  constexpr std::uint16_t kDepth = 32;
+  const QImage opaque = imageOfDib(header, bits);
+  if (hasOldHeader(header) || header.u16(14) != kDepth) return opaque;
+  QImage image(opaque.size(), QImage::Format_ARGB32_Premultiplied);
+  const std::int64_t rowSize = 4LL * image.width();
+  for (int row = 0; row < image.height(); ++row) {
+    const int y = toldRows(header) < 0 ? row : image.height() - 1 - row;
+    qFromLittleEndian<QRgb>(bits.slice(row * rowSize, rowSize).all().data(), image.width(),
+                            image.scanLine(y));
+  }
+  return image;
+}
+
+QRectF partFromTop(const MetafileBytes& header, QRectF part) {
+  const std::int64_t rows = toldRows(header);
+  if (rows > 0) part.moveTop(static_cast<double>(rows) - part.y() - part.height());
+  return part;
 }
 
 QImage imageOfPackedDib(const MetafileBytes& dib) {

@@ -4,8 +4,6 @@
 
 #include <QTransform>
 
-#include <algorithm>
-
 namespace quorvin {
 
 namespace {

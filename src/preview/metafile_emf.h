@@ -46,6 +46,8 @@ class EmfPlayer {
   void polyPoly(const MetafileBytes& record, bool isShort, bool isClosed);
   void drawBitmap(const MetafileBytes& record, std::int64_t offsets, const QRectF& target, QRectF source,
                   std::uint32_t operation);
+  void blend(const MetafileBytes& record);
+  void drawWithoutColour(const MetafileBytes& record);
   void drawString(const MetafileBytes& record, std::int64_t at, std::uint32_t options, bool isWide);
 
   MetafileBytes file_;

@@ -4,7 +4,6 @@
 #include "preview/metafile_emf.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace quorvin {
 
@@ -16,14 +15,19 @@ constexpr std::int64_t kCopiedPart = 84;
 constexpr std::int64_t kStoredBitmap = 48;
 constexpr std::uint32_t kMostRectangles = 100'000;
 
-QSizeF sizeAt(const MetafileBytes& record, std::int64_t at) {
-  const QPointF size = record.point32(at);
-  return {size.x(), size.y()};
+QRectF boxAt(const MetafileBytes& record, std::int64_t at) {
+  return {record.point32(at), record.size32(at + 8)};
 }
 
-QRectF boxAt(const MetafileBytes& record, std::int64_t at) {
-  return {record.point32(at), sizeAt(record, at + 8)};
-}
+/// The two stretches of a bitmap; their offsets and lengths stand at `offsets`.
+struct StoredBitmap {
+  StoredBitmap(const MetafileBytes& record, std::int64_t offsets)
+      : header(record.slice(record.u32(offsets), record.u32(offsets + 4))),
+        bits(record.slice(record.u32(offsets + 8), record.u32(offsets + 12))) {}
+
+  MetafileBytes header;
+  MetafileBytes bits;
+};
 
 /// Regions are calculated with ints, and so must their differences be.
 QPoint deviceUnitAt(const MetafileBytes& data, std::int64_t at) {
@@ -47,17 +51,15 @@ QRegion emfRegion(const MetafileBytes& data) {
 
 bool EmfPlayer::playClip(std::uint32_t type, const MetafileBytes& record) {
   enum { Offset = 26, Exclude = 29, Intersect, FillRegion = 71, PaintRegion = 74, SelectRegion };
-  constexpr int kAnd = 1;
-  constexpr int kWithout = 4;
   switch (type) {
     case Offset:
       canvas_.moveClip(record.point32(8));
       return true;
     case Exclude:
-      canvas_.clip(record.rect32(8), kWithout);
+      canvas_.clip(record.rect32(8), MetafileClip::Without);
       return true;
     case Intersect:
-      canvas_.clip(record.rect32(8), kAnd);
+      canvas_.clip(record.rect32(8), MetafileClip::And);
       return true;
     case FillRegion: {
       const std::uint32_t number = record.u32(28);
@@ -68,13 +70,13 @@ bool EmfPlayer::playClip(std::uint32_t type, const MetafileBytes& record) {
     case PaintRegion:
       canvas_.fillRegion(emfRegion(record.slice(28, record.u32(24))), canvas_.state.brush);
       return true;
-    case SelectRegion:
-      if (record.u32(8) == 0) {
-        canvas_.clip(std::optional<QRegion>(), record.i32(12));
-      } else {
-        canvas_.clip(emfRegion(record.slice(16, record.u32(8))), record.i32(12));
-      }
+    case SelectRegion: {
+      const auto mode = static_cast<MetafileClip>(record.i32(12));
+      std::optional<QRegion> region;
+      if (record.u32(8) != 0) region = emfRegion(record.slice(16, record.u32(8)));
+      canvas_.clip(region, mode);
       return true;
+    }
     default:
       return false;
   }
@@ -89,13 +91,14 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
       return true;
     }
     case StretchBlt:
-      drawBitmap(record, kCopiedPart, boxAt(record, 24), {record.point32(44), sizeAt(record, 100)},
+      drawBitmap(record, kCopiedPart, boxAt(record, 24), {record.point32(44), record.size32(100)},
                  record.u32(40));
       return true;
     case AlphaBlend:
+      blend(record);
+      return true;
     case TransparentBlt:
-      drawBitmap(record, kCopiedPart, boxAt(record, 24), {record.point32(44), sizeAt(record, 100)},
-                 kCopyOperation);
+      drawWithoutColour(record);
       return true;
     case SetDibits: {
       const QRectF source = boxAt(record, 32);
@@ -103,7 +106,7 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
       return true;
     }
     case StretchDibits:
-      drawBitmap(record, kStoredBitmap, {record.point32(24), sizeAt(record, 72)}, boxAt(record, 32),
+      drawBitmap(record, kStoredBitmap, {record.point32(24), record.size32(72)}, boxAt(record, 32),
                  record.u32(68));
       return true;
     default:
@@ -114,11 +117,25 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
 void EmfPlayer::drawBitmap(const MetafileBytes& record, std::int64_t offsets, const QRectF& target,
                            QRectF source, std::uint32_t operation) {
   if (record.u32(offsets + 4) == 0) return canvas_.fill(target, operation);
-  const QImage image = imageOfDib(record.slice(record.u32(offsets), record.u32(offsets + 4)),
-                                  record.slice(record.u32(offsets + 8), record.u32(offsets + 12)));
-  // Rows of stored bitmaps are counted from the last one on.
-  if (offsets == kStoredBitmap) source.moveTop(image.height() - source.y() - source.height());
-  canvas_.drawImage(target, image, source, operation);
+  const StoredBitmap bitmap(record, offsets);
+  if (offsets == kStoredBitmap) source = partFromTop(bitmap.header, source);
+  canvas_.drawImage(target, imageOfDib(bitmap.header, bitmap.bits), source, operation);
+}
+
+void EmfPlayer::blend(const MetafileBytes& record) {
+  constexpr std::uint8_t kPixelsHaveAlpha = 1;
+  const StoredBitmap bitmap(record, kCopiedPart);
+  const QImage image = record.u8(43) == kPixelsHaveAlpha ? imageOfDibWithAlpha(bitmap.header, bitmap.bits)
+                                                         : imageOfDib(bitmap.header, bitmap.bits);
+  canvas_.drawImage(boxAt(record, 24), image, {record.point32(44), record.size32(100)}, kCopyOperation,
+                    record.u8(42) / 255.0);
+}
+
+void EmfPlayer::drawWithoutColour(const MetafileBytes& record) {
+  const StoredBitmap bitmap(record, kCopiedPart);
+  QImage image = imageOfDib(bitmap.header, bitmap.bits);
+  image.setAlphaChannel(image.createMaskFromColor(colourOf(record.u32(40)).rgb(), Qt::MaskOutColor));
+  canvas_.drawImage(boxAt(record, 24), image, {record.point32(44), record.size32(100)}, kCopyOperation);
 }
 
 bool EmfPlayer::playText(std::uint32_t type, const MetafileBytes& record) {

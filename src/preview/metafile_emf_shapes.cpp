@@ -185,7 +185,7 @@ bool EmfPlayer::playPath(std::uint32_t type, const MetafileBytes& record) {
       canvas_.paintPath(MetafilePaint::Stroke);
       return true;
     case SelectClip:
-      canvas_.clipToPath(record.i32(8));
+      canvas_.clipToPath(static_cast<MetafileClip>(record.i32(8)));
       return true;
     case Abort:
       canvas_.dropPath();

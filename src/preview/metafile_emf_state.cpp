@@ -18,11 +18,6 @@ QTransform transformAt(const MetafileBytes& record, std::int64_t at) {
   return transform;
 }
 
-QSizeF sizeAt(const MetafileBytes& record, std::int64_t at) {
-  const QPointF point = record.point32(at);
-  return {point.x(), point.y()};
-}
-
 /// `extent` times the first and third of four numbers, through the second and fourth.
 QSizeF scaled(const QSizeF& extent, const MetafileBytes& record) {
   const auto ratio = [&](std::int64_t at) {
@@ -87,13 +82,13 @@ bool EmfPlayer::playMapping(std::uint32_t type, const MetafileBytes& record) {
   MetafileMapping& mapping = canvas_.state.mapping;
   switch (type) {
     case WindowExtent:
-      mapping.windowExtent = sizeAt(record, 8);
+      mapping.windowExtent = record.size32(8);
       return true;
     case WindowOrigin:
       mapping.windowOrigin = record.point32(8);
       return true;
     case ViewportExtent:
-      mapping.viewportExtent = sizeAt(record, 8);
+      mapping.viewportExtent = record.size32(8);
       return true;
     case ViewportOrigin:
       mapping.viewportOrigin = record.point32(8);

@@ -3,7 +3,6 @@
 #include "preview/metafile_whole.h"
 #include "preview/metafile_wmf_points.h"
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -41,15 +40,15 @@ void forEachRecord(const MetafileBytes& records, Use&& use) {
 
 /// The window in which the drawing is placed, in its own units, as its first records say.
 std::optional<QRectF> firstWindow(const MetafileBytes& records) {
-  QPointF origin;
-  std::optional<QRectF> window;
+  std::optional<QPointF> origin;
+  std::optional<QSizeF> extent;
   forEachRecord(records, [&](std::uint16_t function, const MetafileBytes& parameters) {
-    if (function == kSetWindowOrigin) origin = wmfPoint(parameters, 0);
-    if (function == kSetWindowExtent) window = QRectF(origin, wmfSize(parameters, 0));
-    return !window || origin.isNull();
+    if (function == kSetWindowOrigin && !origin) origin = wmfPoint(parameters, 0);
+    if (function == kSetWindowExtent && !extent) extent = wmfSize(parameters, 0);
+    return !origin || !extent;
   });
-  if (window) window->moveTopLeft(origin);
-  return window;
+  if (!extent) return std::nullopt;
+  return QRectF(origin.value_or(QPointF()), *extent);
 }
 
 struct WmfPlace {

@@ -39,7 +39,8 @@ class WmfPlayer {
   void polyPolygon(const MetafileBytes& parameters);
   void textOut(const MetafileBytes& parameters);
   void extTextOut(const MetafileBytes& parameters);
-  void drawStored(const MetafileBytes& dib, const QRectF& target, QRectF source, std::uint32_t operation);
+  void drawStored(const MetafileBytes& dib, const QRectF& target, const QRectF& source,
+                  std::uint32_t operation);
 
   MetafileBytes records_;
   QSize ownSize_;

@@ -145,12 +145,9 @@ bool WmfPlayer::playBitmap(std::uint16_t function, const MetafileBytes& paramete
   }
 }
 
-void WmfPlayer::drawStored(const MetafileBytes& dib, const QRectF& target, QRectF source,
+void WmfPlayer::drawStored(const MetafileBytes& dib, const QRectF& target, const QRectF& source,
                            std::uint32_t operation) {
-  const QImage image = imageOfPackedDib(dib);
-  // Rows of stored bitmaps are counted from the last one on.
-  source.moveTop(image.height() - source.y() - source.height());
-  canvas_->drawImage(target, image, source, operation);
+  canvas_->drawImage(target, imageOfPackedDib(dib), partFromTop(dib, source), operation);
 }
 
 bool WmfPlayer::playText(std::uint16_t function, const MetafileBytes& parameters) {

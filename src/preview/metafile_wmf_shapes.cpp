@@ -93,24 +93,21 @@ void WmfPlayer::polyPolygon(const MetafileBytes& parameters) {
 bool WmfPlayer::playClip(std::uint16_t function, const MetafileBytes& parameters) {
   enum { SelectRegion = 0x012C, Offset = 0x0220, Exclude = 0x0415, Intersect = 0x0416 };
   enum { PaintRegion = 0x012B, FillRegion = 0x0228 };
-  constexpr int kAnd = 1;
-  constexpr int kWithout = 4;
-  constexpr int kInstead = 5;
   switch (function) {
     case SelectRegion: {
       // Anything but a region takes the clip away.
       const auto* region = std::get_if<QRegion>(&object(parameters.u16(0)));
-      canvas_->clip(region != nullptr ? std::optional(*region) : std::nullopt, kInstead);
+      canvas_->clip(region != nullptr ? std::optional(*region) : std::nullopt, MetafileClip::Instead);
       return true;
     }
     case Offset:
       canvas_->moveClip(wmfPoint(parameters, 0));
       return true;
     case Exclude:
-      canvas_->clip(wmfCorners(parameters, 0), kWithout);
+      canvas_->clip(wmfCorners(parameters, 0), MetafileClip::Without);
       return true;
     case Intersect:
-      canvas_->clip(wmfCorners(parameters, 0), kAnd);
+      canvas_->clip(wmfCorners(parameters, 0), MetafileClip::And);
       return true;
     case PaintRegion:
     case FillRegion: {

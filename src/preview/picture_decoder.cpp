@@ -1,13 +1,13 @@
 #include "preview/picture_decoder.h"
 
 #include "platform/runtime_fault.h"
+#include "preview/bitmap_reading.h"
 #include "preview/picture_icon.h"
 
 #include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace quorvin {
@@ -59,11 +59,6 @@ QSize keptSize(const QSize& size) {
   return (QSizeF(sides) * std::sqrt(kMostPixelsKept / pixels)).toSize();
 }
 
-/// A bitmap that begins with its first row tells a height below zero.
-int rowsOf(int height) {
-  return height < 0 ? -std::max(height, -std::numeric_limits<int>::max()) : height;
-}
-
 bool hasOldBitmapHeader(QByteArrayView start) {
   constexpr qsizetype kSizePlace = 14;
   return qFromLittleEndian<quint32>(start.data() + kSizePlace) == 12;
@@ -86,7 +81,7 @@ QSize toldSize(PictureFormat format, QByteArrayView start) {
   const auto number = [start](qsizetype at) { return qFromLittleEndian<qint32>(start.data() + at); };
   if (format == PictureFormat::Gif) return {number(6) & 0xFFFF, (number(6) >> 16) & 0xFFFF};
   if (format != PictureFormat::Bitmap || hasOldBitmapHeader(start)) return {};
-  return {number(18), rowsOf(number(22))};
+  return {number(18), bitmapRows(number(22))};
 }
 
 /// Whether a large bitmap's file has less than half of the bytes that its pixels take, or could take in runs.
@@ -122,7 +117,7 @@ PictureDecoder::PictureDecoder(std::unique_ptr<PictureFile> file, PictureFormat 
   refuseTooLarge(toldSize(format, file_->part(0, kFormatBytes)));
   rewind();
   size_ = reader_->size();
-  size_.setHeight(rowsOf(size_.height()));
+  size_.setHeight(bitmapRows(size_.height()));
   if (size_.isEmpty()) refuse(QStringLiteral("it is damaged, or of a kind that is not supported"));
   refuseTooLarge(size_);
   if (format == PictureFormat::Bitmap && lacksPixels(file_->part(0, kFormatBytes), size_, file_->size())) {
@@ -157,19 +152,15 @@ void PictureDecoder::rewind() {
 void PictureDecoder::chooseIcon() {
   constexpr qint64 kLargestIcon = 4LL * 1024 * 1024;
   const QByteArray directory = file_->part(0, kLongestIconDirectory);
-  iconNumber_ = bestIcon(directory);
+  iconNumber_ =
+      bestIcon(directory, [this](qint64 offset, qsizetype count) { return file_->part(offset, count); });
   const IconPlace place = iconPlace(directory, iconNumber_);
   iconPart_ = file_->part(place.offset, std::min(place.length, kLargestIcon));
 }
 
 std::optional<PictureFrame> PictureDecoder::read() {
-  QImage image;
-  if (format_ == PictureFormat::Bitmap) {
-    // The reader leaves pixels that a bitmap jumps over as they were.
-    image = QImage(size_, reader_->imageFormat());
-    image.fill(0);
-  }
-  if (!reader_->read(&image)) return std::nullopt;
+  QImage image = format_ == PictureFormat::Bitmap ? readBitmap(*reader_) : reader_->read();
+  if (image.isNull()) return std::nullopt;
   mend(image);
   if (format_ != PictureFormat::Jpeg) image = reduced(image, keptSize(image.size()));
   ++framesRead_;

@@ -22,9 +22,25 @@ qint64 rowSize(qint64 width, int depth) {
   return (width * depth + 31) / 32 * 4;
 }
 
+/// The bits of a pixel as the picture itself tells them; 0 where it does not.
+int depthOfPart(const QByteArray& start) {
+  constexpr qsizetype kDepthPlace = 14;
+  constexpr int kCompressedDepth = 32;
+  if (start.startsWith("\x89PNG")) return kCompressedDepth;
+  return start.size() < kDepthPlace + 2 ? 0 : qFromLittleEndian<quint16>(start.data() + kDepthPlace);
+}
+
+/// Files of pointers have the hot spot where others have the depth.
+int toldDepth(QByteArrayView directory, QByteArrayView entry) {
+  constexpr quint16 kPointers = 2;
+  const bool isPointer = qFromLittleEndian<quint16>(directory.data() + 2) == kPointers;
+  return isPointer ? 0 : qFromLittleEndian<quint16>(entry.data() + 6);
+}
+
 }  // namespace
 
-int bestIcon(QByteArrayView directory) {
+int bestIcon(QByteArrayView directory, const IconBytes& bytes) {
+  constexpr qsizetype kPartStart = 16;
   if (directory.size() < kHeaderSize) return 0;
   const int told = qFromLittleEndian<quint16>(directory.data() + 4);
   const auto held = static_cast<int>((directory.size() - kHeaderSize) / kEntrySize);
@@ -32,8 +48,9 @@ int bestIcon(QByteArrayView directory) {
   std::pair<int, int> bestWorth;
   for (int number = 0; number < std::min(told, held); ++number) {
     const QByteArrayView entry = directory.sliced(kHeaderSize + number * kEntrySize, kEntrySize);
-    const std::pair<int, int> worth(side(entry[0]) * side(entry[1]),
-                                    qFromLittleEndian<quint16>(entry.data() + 6));
+    int depth = toldDepth(directory, entry);
+    if (depth == 0) depth = depthOfPart(bytes(iconPlace(directory, number).offset, kPartStart));
+    const std::pair<int, int> worth(side(entry[0]) * side(entry[1]), depth);
     if (worth <= bestWorth) continue;
     best = number;
     bestWorth = worth;

@@ -1,17 +1,24 @@
 // The pictures in an icon file.
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QImage>
+
+#include <functional>
 
 namespace quorvin {
 
 /// So many bytes of an icon file hold its directory, whatever it contains.
 inline constexpr qsizetype kLongestIconDirectory = 6 + 16 * 256;
 
+/// Gives so many bytes of an icon file from an offset on, or as many as there are.
+using IconBytes = std::function<QByteArray(qint64 offset, qsizetype count)>;
+
 /// The number of the best picture in an icon file that begins with `directory`: the largest, and among those
-/// the one with the most colours; counted from 0.
-int bestIcon(QByteArrayView directory);
+/// the one with the most colours; counted from 0. Where the directory does not tell the colours, as in the
+/// files of pointers, the pictures do.
+int bestIcon(QByteArrayView directory, const IconBytes& bytes);
 
 /// Where that picture stands in the file, as the directory says; not checked.
 struct IconPlace {

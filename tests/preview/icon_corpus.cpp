@@ -23,7 +23,7 @@ QByteArray iconFile(const QList<IconPart>& parts, int type = 1) {
     const int colours = part.depth < 8 ? 1 << part.depth : 0;
     file.u8(part.size.width() % 256).u8(part.size.height() % 256).u8(colours).u8(0);
     // A pointer has its hot spot there.
-    file.u16(type == 2 ? 1 : 1).u16(type == 2 ? 2 : part.depth).u32(part.bytes.size()).u32(offset);
+    file.u16(1).u16(type == 2 ? 2 : part.depth).u32(part.bytes.size()).u32(offset);
     offset += part.bytes.size();
   }
   for (const IconPart& part : parts) file.raw(part.bytes);

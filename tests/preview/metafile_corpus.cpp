@@ -1,24 +1,18 @@
 #include "preview/metafile_corpus.h"
 
 #include "preview/dib_writer.h"
-#include "preview/metafile_writer.h"
 
 namespace quorvin::test {
 
 namespace {
 
-constexpr QRgb kWhite = qRgb(255, 255, 255);
-constexpr QRgb kRed = qRgb(255, 0, 0);
-constexpr QRgb kGreen = qRgb(0, 255, 0);
-constexpr QRgb kBlue = qRgb(0, 0, 255);
-constexpr QRgb kYellow = qRgb(255, 255, 0);
-constexpr QRgb kBlack = qRgb(0, 0, 0);
 constexpr std::uint32_t kNoPen = 0x80000008;
 constexpr std::uint32_t kNoBrush = 0x80000005;
 constexpr int kSolid = 0;
 constexpr int kNone = 5;
 
-/// A hundred pixels each way: blue and yellow over red and green.
+}  // namespace
+
 QImage fourColours() {
   QImage image(2, 2, QImage::Format_ARGB32);
   image.setPixel(0, 0, kBlue);
@@ -40,6 +34,8 @@ EmfWriter filledEmf(QRgb colour) {
   emf.select(kNoPen).brush(1, kSolid, colour).select(1);
   return emf;
 }
+
+namespace {
 
 QByteArray emfPens() {
   EmfWriter emf;
@@ -221,20 +217,21 @@ std::vector<CorpusMetafile> enhancedMetafileCorpus() {
 
 namespace {
 
-/// A white sheet: the second decoder enlarges what is drawn until it fills the picture. Its pen (none) is
-/// object 0 and its brush object 1.
 WmfWriter sheetWmf() {
   WmfWriter wmf;
   wmf.pen(kNone, 0, kBlack).select(0).brush(kSolid, kWhite).select(1).rectangle(0, 0, 400, 200);
   return wmf;
 }
 
-/// A brush of that colour is selected; it is object 2.
+}  // namespace
+
 WmfWriter filledWmf(QRgb colour) {
   WmfWriter wmf = sheetWmf();
   wmf.brush(kSolid, colour).select(2);
   return wmf;
 }
+
+namespace {
 
 QByteArray wmfPens() {
   WmfWriter wmf = sheetWmf();
@@ -246,8 +243,7 @@ QByteArray wmfPens() {
 QByteArray wmfText() {
   WmfWriter wmf;
   wmf.record(0x0102, ByteWriter().u16(2)).record(0x0201, ByteWriter().u32(metafileColour(kYellow)));
-  wmf.record(0x0209, ByteWriter().u32(metafileColour(kYellow))).font(60, "DejaVu Sans Mono").select(0);
-  // Letters of the background's colour: their whole line is filled.
+  wmf.record(0x0209, ByteWriter().u32(metafileColour(kBlue))).font(60, "DejaVu Sans Mono").select(0);
   return wmf.text(20, 40, "MMMM").file();
 }
 
@@ -271,7 +267,7 @@ std::vector<CorpusMetafile> windowsMetafileCorpus() {
       {"pens", wmfPens(), kPensSeen, false},
       {"text",
        wmfText(),
-       {{{30, 70}, kYellow}, {{120, 70}, kYellow}, {{10, 70}, kWhite}, {{300, 70}, kWhite}},
+       {{{30, 44}, kYellow}, {{120, 44}, kYellow}, {{10, 70}, kWhite}, {{300, 70}, kWhite}},
        false},
       clipped("clip to a rectangle", filledWmf(kRed).box(0x0416, 50, 50, 150, 150), kInsideSeen, true),
       clipped("clip without a rectangle", filledWmf(kRed).box(0x0415, 50, 50, 150, 150), kOutsideSeen, false),

@@ -7,6 +7,15 @@ namespace {
 constexpr int kWidth = 400;
 constexpr int kHeight = 200;
 
+QByteArray regionData(const QList<QRect>& parts) {
+  ByteWriter data;
+  data.u32(32).u32(1).u32(parts.size()).u32(16 * parts.size()).zeros(16);
+  for (const QRect& part : parts) {
+    data.u32(part.left()).u32(part.top()).u32(part.right() + 1).u32(part.bottom() + 1);
+  }
+  return data.bytes();
+}
+
 }  // namespace
 
 std::uint32_t metafileColour(QRgb colour) {
@@ -50,15 +59,16 @@ EmfWriter& EmfWriter::points16(std::uint32_t type, const QList<QPoint>& points) 
   return record(type, content);
 }
 
-EmfWriter& EmfWriter::text(int x, int y, const QString& letters, int step) {
+EmfWriter& EmfWriter::text(int x, int y, const QString& letters, int step, int options, const QRect& box) {
   constexpr int kLettersAt = 76;
   ByteWriter wide;
   for (const QChar letter : letters) wide.u16(letter.unicode());
   if (wide.size() % 4 != 0) wide.u16(0);
   const qsizetype steps = step == 0 ? 0 : kLettersAt + wide.size();
   ByteWriter content;
-  content.zeros(16).u32(1).f32(1).f32(1).u32(x).u32(y).u32(letters.size()).u32(kLettersAt).u32(0);
-  content.zeros(16).u32(steps).raw(wide.bytes());
+  content.zeros(16).u32(1).f32(1).f32(1).u32(x).u32(y).u32(letters.size()).u32(kLettersAt).u32(options);
+  content.u32(box.left()).u32(box.top()).u32(box.right() + 1).u32(box.bottom() + 1);
+  content.u32(steps).raw(wide.bytes());
   for (qsizetype letter = 0; step != 0 && letter < letters.size(); ++letter) content.u32(step);
   return record(84, content);
 }
@@ -74,12 +84,13 @@ EmfWriter& EmfWriter::stretchDib(const QRect& target, const QSize& size, const Q
 }
 
 EmfWriter& EmfWriter::clipRegion(const QList<QRect>& parts, int mode) {
-  ByteWriter data;
-  data.u32(32).u32(1).u32(parts.size()).u32(16 * parts.size()).zeros(16);
-  for (const QRect& part : parts) {
-    data.u32(part.left()).u32(part.top()).u32(part.right() + 1).u32(part.bottom() + 1);
-  }
-  return record(75, ByteWriter().u32(data.size()).u32(mode).raw(data.bytes()));
+  const QByteArray data = regionData(parts);
+  return record(75, ByteWriter().u32(data.size()).u32(mode).raw(data));
+}
+
+EmfWriter& EmfWriter::paintRegion(const QList<QRect>& parts) {
+  const QByteArray data = regionData(parts);
+  return record(74, ByteWriter().zeros(16).u32(data.size()).raw(data));
 }
 
 QByteArray EmfWriter::file() const {

@@ -33,11 +33,14 @@ class EmfWriter {
   EmfWriter& moveTo(int x, int y) { return place(27, x, y); }
   EmfWriter& lineTo(int x, int y) { return place(54, x, y); }
   EmfWriter& points16(std::uint32_t type, const QList<QPoint>& points);
-  EmfWriter& text(int x, int y, const QString& letters, int step = 0);
+  /// `step` from each letter to the next, 0 as the font has it; `options` and `box` as the record has them.
+  EmfWriter& text(int x, int y, const QString& letters, int step = 0, int options = 0,
+                  const QRect& box = QRect());
   /// `bitmap` is a header with palette, and the pixels; drawn into `target` whole.
   EmfWriter& stretchDib(const QRect& target, const QSize& size, const QByteArray& header,
                         const QByteArray& bits, std::uint32_t operation = 0x00CC0020);
   EmfWriter& clipRegion(const QList<QRect>& parts, int mode);
+  EmfWriter& paintRegion(const QList<QRect>& parts);
 
   /// The whole file.
   QByteArray file() const;
