@@ -21,7 +21,8 @@ int listCache() {
 
 int clearCache() {
   int status = 0;
-  for (const QString& path : imageFiles(userCacheFolder())) {
+  const QString folder = userCacheFolder();
+  for (const QString& path : imageFiles(folder) + unfinishedImageFiles(folder)) {
     if (QFile::remove(path)) continue;
     std::fprintf(stderr, "quorvin-cli: %s could not be removed\n", path.toLocal8Bit().constData());
     status = 2;

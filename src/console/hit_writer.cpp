@@ -60,7 +60,6 @@ void HitWriter::beginListing(SourceKind kind) {
 
 void HitWriter::addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) {
   if (!countOnly_) addLines(*image, hits);
-  hitCount_ += static_cast<std::int64_t>(hits.size());
   if (buffer_.size() >= kBufferSize) flush();
 }
 

@@ -26,7 +26,6 @@ class HitWriter : public HitReceiver {
   /// `output` must outlive the writer. With `countOnly` hits are counted and not written.
   HitWriter(std::FILE* output, HitFormat format, bool countOnly, const QLocale& locale);
 
-  std::int64_t hitCount() const { return hitCount_; }
   /// Whether all output so far has been taken; false once a write failed.
   bool good() const { return good_; }
   /// Hands what is still buffered to the output.
@@ -35,7 +34,6 @@ class HitWriter : public HitReceiver {
   void beginListing(SourceKind kind) override;
   void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override;
   bool countsOnly() const override { return countOnly_; }
-  void addCount(std::int64_t hits) override { hitCount_ += hits; }
   void endImage(const std::shared_ptr<const SearchImage>& image,
                 const std::shared_ptr<const SearchImage>& kept) override;
 
@@ -49,7 +47,6 @@ class HitWriter : public HitReceiver {
   SourceKind kind_ = SourceKind::Online;
   /// Size and date last read in the current listing.
   EntryValues values_;
-  std::int64_t hitCount_ = 0;
   std::string buffer_;
   bool good_ = true;
 };

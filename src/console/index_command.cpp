@@ -84,8 +84,9 @@ class Indexing {
   void writeListing(FileWriter& writer) {
     QString folder = folder_;
     const int flags = kToOutput1 | (request_.foldersOnly ? kFoldersOnly : 0);
-    dirIO_.walk(folder, QStringLiteral("*.*"), {&writer, nullptr}, labelOf(request_, folder_), flags);
-    if (!folders_->topIsStillAt(folder_)) throw faultOfSystemError(ENOENT, request_.folder);
+    const bool opened =
+        dirIO_.walk(folder, QStringLiteral("*.*"), {&writer, nullptr}, labelOf(request_, folder_), flags);
+    if (!opened || !folders_->topIsStillAt(folder_)) throw faultOfSystemError(ENOENT, request_.folder);
   }
 
   const IndexRequest& request_;

@@ -14,6 +14,8 @@ struct FileIdentity {
   std::int64_t size = 0;
   /// Nanoseconds since 1970.
   std::int64_t modified = 0;
+  /// The same, of the last change of any kind: it cannot be set, as the modification time can.
+  std::int64_t changed = 0;
   std::uint64_t device = 0;
   std::uint64_t file = 0;
 

@@ -1,15 +1,13 @@
 #include "search/hit_path.h"
 
 #include "platform/runtime_fault.h"
+#include "search/listing_columns.h"
 
 #include <algorithm>
 
 namespace quorvin {
 
 namespace {
-
-/// A listing cuts names to this many characters.
-constexpr qsizetype kNameColumns = 65;
 
 /// How many units the first `characters` characters of `text` take up; its size when it has fewer.
 qsizetype unitsOfCharacters(QStringView text, qsizetype characters) {

@@ -31,7 +31,8 @@ class HitReceiver {
   /// the image has let go of it. May throw DamagedImage, and has then taken none of these hits.
   virtual void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) = 0;
 
-  /// Whether it only counts: then hits may come as addCount() in place of addHits().
+  /// Whether hits are of no use to it but for their number: then they may come as addCount() in place of
+  /// addHits().
   virtual bool countsOnly() const { return false; }
 
   /// So many hits more. Called only if countsOnly().

@@ -41,10 +41,13 @@ const HitTable::ImageRows& HitTable::imageRows(std::int64_t row) const {
 }
 
 std::int64_t HitTable::valueRowOf(std::int64_t row) const {
-  const auto found =
-      std::lower_bound(carried_.begin(), carried_.end(), row,
-                       [](const CarriedRow& carried, std::int64_t r) { return carried.row < r; });
-  return found != carried_.end() && found->row == row ? found->valueRow : row;
+  const auto next =
+      std::upper_bound(carried_.begin(), carried_.end(), row,
+                       [](std::int64_t r, const CarriedRows& carried) { return r < carried.firstRow; });
+  if (next == carried_.begin()) return row;
+  const CarriedRows& carried = *std::prev(next);
+  if (row >= carried.firstRow + carried.count) return row;
+  return carried.beginListing ? kNoRow : carried.firstRow - 1;
 }
 
 HitRow HitTable::row(std::int64_t row) const {
@@ -83,20 +86,29 @@ void HitTable::clear() {
   carried_.clear();
   rowCount_ = 0;
   listingBegins_ = true;
-  valueRow_ = kNoRow;
+  valuesSeen_ = false;
 }
 
 void HitTable::beginListing(SourceKind kind) {
   kind_ = kind;
   listingBegins_ = true;
-  valueRow_ = kNoRow;
+  valuesSeen_ = false;
 }
 
 void HitTable::addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) {
   if (hits.empty()) return;
+  // First what may throw: then none of these hits has been taken.
+  const bool allOwn = findOwnValues(*image, hits);
   if (listingBegins_ || images_.back().image != image) images_.push_back({rowCount_, image, kind_});
   listingBegins_ = false;
-  noteValueRows(*image, hits);
+  if (allOwn) valuesSeen_ = true;
+  for (std::size_t i = 0; !allOwn && i < hits.size(); ++i) {
+    if (ownValues_[i] != 0) {
+      valuesSeen_ = true;
+    } else {
+      noteCarriedRow(rowCount_ + static_cast<std::int64_t>(i));
+    }
+  }
   while (!hits.empty()) {
     const auto slot = static_cast<std::size_t>(rowCount_ % kPageSize);
     // Not cleared first: every place is written before it is read.
@@ -110,21 +122,26 @@ void HitTable::addHits(const std::shared_ptr<const SearchImage>& image, std::spa
   }
 }
 
-/// For hits that are about to become the rows from rowCount_ on.
-void HitTable::noteValueRows(const SearchImage& image, std::span<const FoundEntry> hits) {
-  if (image.allOwn(hits.front().entry, hits.back().entry)) {
-    valueRow_ = rowCount_ + static_cast<std::int64_t>(hits.size()) - 1;
-    return;
-  }
-  std::int64_t row = rowCount_;
+/// Fills `ownValues_`, but for the usual case that all hits have values of their own: then it gives true.
+bool HitTable::findOwnValues(const SearchImage& image, std::span<const FoundEntry> hits) {
+  if (image.allOwn(hits.front().entry, hits.back().entry)) return true;
+  ownValues_.clear();
   for (const FoundEntry& found : hits) {
-    if (image.valueState(found.entry) == ValueState::Own) {
-      valueRow_ = row;
-    } else {
-      carried_.push_back({row, valueRow_});
-    }
-    ++row;
+    ownValues_.push_back(image.valueState(found.entry) == ValueState::Own ? 1 : 0);
   }
+  return false;
+}
+
+/// The row joins those before it, but for those of a listing before that have values to show.
+void HitTable::noteCarriedRow(std::int64_t row) {
+  if (!carried_.empty()) {
+    CarriedRows& last = carried_.back();
+    if (last.firstRow + last.count == row && last.beginListing == !valuesSeen_) {
+      ++last.count;
+      return;
+    }
+  }
+  carried_.push_back({row, 1, !valuesSeen_});
 }
 
 void HitTable::endImage(const std::shared_ptr<const SearchImage>& image,

@@ -35,7 +35,8 @@ struct HitRow {
 /// The text of one column of `row`, as the hit list and the console show it.
 QString hitText(const HitRow& row, HitColumn column, const QLocale& locale);
 
-/// Keeps hits as references into images, 8 bytes each.
+/// Keeps hits as references into images, 8 bytes each, and 16 for each stretch of hits without values of
+/// their own.
 class HitTable : public HitReceiver {
  public:
   /// The number of rows so far.
@@ -61,10 +62,12 @@ class HitTable : public HitReceiver {
     std::shared_ptr<const SearchImage> image;
     SourceKind kind;
   };
-  /// A row whose own entry has no values, and the row whose values it shows (kNoRow for none).
-  struct CarriedRow {
-    std::int64_t row;
-    std::int64_t valueRow;
+  /// Rows one after another whose own entries have no values. They show those of the row before the first of
+  /// them, or none where the listing begins with them.
+  struct CarriedRows {
+    std::int64_t firstRow;
+    std::uint32_t count;
+    bool beginListing;
   };
   static constexpr std::int64_t kNoRow = -1;
   /// Hits stand in pages, so that growing never copies them.
@@ -77,18 +80,21 @@ class HitTable : public HitReceiver {
   FoundEntry& hit(std::int64_t row);
   const ImageRows& imageRows(std::int64_t row) const;
   std::int64_t valueRowOf(std::int64_t row) const;
-  void noteValueRows(const SearchImage& image, std::span<const FoundEntry> hits);
+  bool findOwnValues(const SearchImage& image, std::span<const FoundEntry> hits);
+  void noteCarriedRow(std::int64_t row);
 
   std::vector<std::unique_ptr<FoundEntry[]>> pages_;
   std::int64_t rowCount_ = 0;
   std::vector<ImageRows> images_;
-  std::vector<CarriedRow> carried_;
+  std::vector<CarriedRows> carried_;
+  /// Of the hits at hand: the entry has values of its own.
+  std::vector<std::uint8_t> ownValues_;
   SourceKind kind_ = SourceKind::Online;
   /// No hit of the listing has come yet. The same listing may come again as another kind of source, with the
   /// same images.
   bool listingBegins_ = true;
-  /// The last row of the listing that has values of its own.
-  std::int64_t valueRow_ = kNoRow;
+  /// A row of the listing has values of its own.
+  bool valuesSeen_ = false;
 };
 
 }  // namespace quorvin

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -17,7 +18,11 @@ namespace quorvin {
 
 namespace {
 
-constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '4'};
+/// The system keeps what is written at once in one piece of memory, and maps each piece whole when any of it
+/// is touched: of larger ones a window would seem to use nearly all, whatever little it looked at.
+constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
+
+constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '5'};
 /// Arrays begin at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 
@@ -35,7 +40,7 @@ QByteArray directoryBytes(const ImageKey& key, const std::vector<SegmentRecord>&
   QDataStream stream(&bytes, QIODevice::WriteOnly);
   stream.setVersion(QDataStream::Qt_6_4);
   stream << key.listing << key.readingRules << qint64{key.identity.size} << qint64{key.identity.modified}
-         << quint64{key.identity.device} << quint64{key.identity.file}
+         << qint64{key.identity.changed} << quint64{key.identity.device} << quint64{key.identity.file}
          << static_cast<quint32>(segments.size());
   for (std::size_t i = 0; i < segments.size(); ++i) {
     stream << QByteArray(reinterpret_cast<const char*>(&segments[i]), sizeof(SegmentRecord))
@@ -56,12 +61,13 @@ bool readDirectory(const QByteArray& bytes, Directory& directory) {
   stream.setVersion(QDataStream::Qt_6_4);
   qint64 size = 0;
   qint64 modified = 0;
+  qint64 changed = 0;
   quint64 device = 0;
   quint64 file = 0;
   quint32 count = 0;
-  stream >> directory.key.listing >> directory.key.readingRules >> size >> modified >> device >> file >>
-      count;
-  directory.key.identity = {size, modified, device, file};
+  stream >> directory.key.listing >> directory.key.readingRules >> size >> modified >> changed >> device >>
+      file >> count;
+  directory.key.identity = {size, modified, changed, device, file};
   for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
     QByteArray record;
     QByteArray sums;
@@ -144,10 +150,6 @@ ImageFileWriter::ImageFileWriter(const QString& path)
     throw faultOfSystemError(errno, file_.fileName());
   }
 }
-
-/// The system keeps what is written at once in one piece of memory, and maps each piece whole when any of it
-/// is touched: of larger ones a window would seem to use nearly all, whatever little it looked at.
-constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
 
 ImageFileWriter::~ImageFileWriter() {
   if (!finished_) file_.remove();

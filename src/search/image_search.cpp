@@ -45,7 +45,8 @@ ImageSearch::ImageSearch(const SearchQuery& query)
     : query_(query),
       fewWords_(query.words().size() <= 8),
       wordDecides_(query.words().size() == 1 && query.emptyWords() < query.fewestForHit()),
-      words_(query),
+      entryWords_(query),
+      folderWords_(query),
       inEntries_(wordDecides_),
       inFolders_(wordDecides_) {
   if (!fewWords_) return;
@@ -81,10 +82,10 @@ bool ImageSearch::findCandidates(const SearchImage& image, std::uint32_t first, 
   if (first == last || query_.fewestForHit() > query_.wordCount()) return false;
   searchFolders(image, first, last);
   if (wordDecides_) {
-    words_.find(image.arrays().entries, first, last, inEntries_);
+    entryWords_.find(image.arrays().entries, first, last, inEntries_);
   } else {
     const int mostMissing = query_.wordCount() - query_.fewestForHit();
-    words_.find(image.arrays().entries, first, last, inEntries_, inFolders_.all(), mostMissing);
+    entryWords_.find(image.arrays().entries, first, last, inEntries_, inFolders_.all(), mostMissing);
   }
   candidates_ = inEntries_.touched();
   addCandidatesOfFolders(image.arrays(), first, last);
@@ -100,7 +101,7 @@ std::int64_t ImageSearch::candidateCount() const {
 void ImageSearch::searchFolders(const SearchImage& image, std::uint32_t first, std::uint32_t last) {
   firstBlock_ = image.blockOf(first);
   lastBlock_ = firstNotBelow(image.arrays().blockStarts, firstBlock_ + 1, last);
-  words_.find(image.arrays().folders, firstBlock_, lastBlock_, inFolders_);
+  folderWords_.find(image.arrays().folders, firstBlock_, lastBlock_, inFolders_);
 }
 
 void ImageSearch::addCandidatesOfFolders(const ImageArrays& arrays, std::uint32_t first, std::uint32_t last) {

@@ -44,7 +44,9 @@ class ImageSearch {
   /// There is one different word, and nothing is a hit without it: then every candidate is a hit.
   bool wordDecides_;
   std::array<int, 256> counts_{};
-  WordSearch words_;
+  /// One for each, since each remembers what words its texts are likely to hold.
+  WordSearch entryWords_;
+  WordSearch folderWords_;
   SeenWords inEntries_;
   SeenWords inFolders_;
   std::uint32_t firstBlock_ = 0;

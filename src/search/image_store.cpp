@@ -24,6 +24,15 @@ QString readingRulesOf(const QLocale& locale) {
   return rules.join(u'\n');
 }
 
+QStringList filesThatFit(const QString& folderPath, const QString& pattern) {
+  const QDir folder(folderPath);
+  QStringList paths;
+  for (const QString& name : folder.entryList({pattern}, QDir::Files, QDir::Name)) {
+    paths += folder.filePath(name);
+  }
+  return paths;
+}
+
 }  // namespace
 
 std::optional<ImageKey> imageKeyOf(const QString& listing, const QLocale& locale) {
@@ -40,13 +49,11 @@ QString imageFilePath(const QString& cacheFolder, const QString& listing) {
 }
 
 QStringList imageFiles(const QString& cacheFolder) {
-  const QDir folder(cacheFolder);
-  QStringList paths;
-  for (const QString& name :
-       folder.entryList({u'*' + QString::fromUtf16(kImageEnding)}, QDir::Files, QDir::Name)) {
-    paths += folder.filePath(name);
-  }
-  return paths;
+  return filesThatFit(cacheFolder, u'*' + QString::fromUtf16(kImageEnding));
+}
+
+QStringList unfinishedImageFiles(const QString& cacheFolder) {
+  return filesThatFit(cacheFolder, u'*' + QString::fromUtf16(kImageEnding) + QStringLiteral(".*.new"));
 }
 
 ImageStore::Options ImageStore::defaultOptions(ImageUse use) {

@@ -87,5 +87,8 @@ QString imageFilePath(const QString& cacheFolder, const QString& listing);
 
 /// All image files in `cacheFolder`, by name.
 QStringList imageFiles(const QString& cacheFolder);
+/// What programs that were ended while they wrote left in `cacheFolder`; what others write just now is among
+/// it.
+QStringList unfinishedImageFiles(const QString& cacheFolder);
 
 }  // namespace quorvin

@@ -12,6 +12,8 @@ inline constexpr std::string_view kDirectoryMark = "Directory:";
 inline constexpr std::string_view kSubFolderMark = "<DIR>";
 inline constexpr std::string_view kSeparatorMark = "---------------";
 
+/// The name's columns, and the characters to which a listing cuts names.
+inline constexpr int kNameColumns = 65;
 /// The entry text of a longer line runs to this column; the tail begins in it.
 inline constexpr int kEntryColumns = 69;
 /// Size and date are read only from a tail longer than this.

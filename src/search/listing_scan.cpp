@@ -99,6 +99,12 @@ class BuildingScan {
   std::uint32_t nextEntry_ = 0;
 };
 
+/// Whether it is the same file with another content.
+bool wasWritten(const FileIdentity& before, const FileIdentity& now) {
+  return before.device == now.device && before.file == now.file &&
+         (before.size != now.size || before.modified != now.modified);
+}
+
 /// Searches images that are known. False where one was damaged; what was searched before it stands.
 bool searchImages(const ImageStore::Images& images, EntrySearch& search, HitReceiver& hits) {
   try {
@@ -128,18 +134,20 @@ void scanListingFile(const QString& path, ImageStore* store, const SearchQuery& 
                      ScanOutcome& outcome, const ScanLimits& limits) {
   outcome = {};
   EntrySearch search(query, searchedCount, hits, listener, outcome);
-  const std::optional<ImageKey> key = store == nullptr ? std::nullopt : imageKeyOf(path, locale);
-  if (key) {
+  const std::optional<ImageKey> key = imageKeyOf(path, locale);
+  if (store != nullptr && key) {
     const ImageStore::Images images = store->find(*key);
     if (!images.empty() && searchImages(images, search, hits)) return;
     if (!images.empty()) store->forget(key->listing);
   }
   FileSource source(path);
   std::optional<ImageStore::Recorder> recorder;
-  if (key) recorder.emplace(*store, *key);
+  if (store != nullptr && key) recorder.emplace(*store, *key);
   BuildingScan(source, locale, search, hits, search.searched(), recorder ? &*recorder : nullptr, limits)
       .run();
-  if (recorder && !outcome.stopped && imageKeyOf(path, locale) == key) recorder->finish();
+  const std::optional<ImageKey> keyNow = imageKeyOf(path, locale);
+  outcome.changedMeanwhile = key && keyNow && wasWritten(key->identity, keyNow->identity);
+  if (recorder && !outcome.stopped && keyNow == key) recorder->finish();
 }
 
 }  // namespace quorvin

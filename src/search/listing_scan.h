@@ -32,6 +32,9 @@ struct ScanOutcome {
   /// Hits whose size or date could not be read, and the line of the first of them (from 1; 0 if none).
   std::int64_t unreadableHits = 0;
   std::int64_t firstUnreadableLine = 0;
+  /// The file was written to while it was read, so that what was found may be partly of the old and partly of
+  /// the new content. One that was replaced is not meant: it is read to its end as it was.
+  bool changedMeanwhile = false;
 };
 
 /// How a listing is read; the defaults are the program's, tests take small ones.

@@ -68,7 +68,6 @@ class SearchRun::Listener : public ScanListener, public HitReceiver {
   bool countsOnly() const override { return run_.hits_.countsOnly(); }
 
   void addCount(std::int64_t hits) override {
-    run_.hits_.addCount(hits);
     run_.hitCount_ += hits;
     newHits_ = newHits_ || hits > 0;
   }
@@ -113,6 +112,7 @@ void SearchRun::Find_Click(const QString& searchText, const QString& desMatch) {
     if (searchSources()) view_.showSearched(searchedCount_);
   }
   tellUnreadable();
+  tellChanged();
 }
 
 void SearchRun::searchListings(const QString& searchText, const QString& desMatch,
@@ -126,6 +126,7 @@ void SearchRun::searchListings(const QString& searchText, const QString& desMatc
     view_.showSearched(searchedCount_);
   }
   tellUnreadable();
+  tellChanged();
 }
 
 bool SearchRun::begin(const QString& searchText, const QString& desMatch) {
@@ -138,6 +139,7 @@ bool SearchRun::begin(const QString& searchText, const QString& desMatch) {
   searchedCount_ = 0;
   failedListings_ = 0;
   unreadable_.clear();
+  changed_.clear();
   view_.showFound(0);
   view_.setFindCaption(text(kRunningCaption));
   view_.clearHits();
@@ -200,6 +202,7 @@ void SearchRun::scan(const QString& path, SourceKind kind) {
   listener.showHits();
   view_.showSearched(searchedCount_);
   if (outcome.unreadableHits > 0) unreadable_.push_back({path, outcome});
+  if (outcome.changedMeanwhile) changed_ += path;
 }
 
 void SearchRun::tellUnreadable() {
@@ -217,6 +220,20 @@ void SearchRun::tellUnreadable() {
   }
   if (unreadable_.size() > named) {
     message += QStringLiteral("\r\nand in %1 more listings").arg(unreadable_.size() - named);
+  }
+  messages_.inform(message);
+}
+
+void SearchRun::tellChanged() {
+  if (changed_.isEmpty() || view_.endRequested()) return;
+  const auto named = std::min(changed_.size(), static_cast<qsizetype>(kMostListingsNamed));
+  QString message =
+      QStringLiteral(
+          "These listings were written to while they were searched. Hits in them may be partly of the "
+          "old and partly of the new content; press Find again for the new one.\r\n") +
+      changed_.first(named).join(QStringLiteral("\r\n"));
+  if (changed_.size() > named) {
+    message += QStringLiteral("\r\nand %1 more listings").arg(changed_.size() - named);
   }
   messages_.inform(message);
 }

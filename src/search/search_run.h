@@ -9,6 +9,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <vector>
@@ -74,6 +75,7 @@ class SearchRun {
   bool searchIfFound(const QString& path, SourceKind kind);
   void scan(const QString& path, SourceKind kind);
   void tellUnreadable();
+  void tellChanged();
 
   struct Unreadable {
     QString path;
@@ -92,6 +94,8 @@ class SearchRun {
   std::int64_t searchedCount_ = 0;
   int failedListings_ = 0;
   std::vector<Unreadable> unreadable_;
+  /// Listings that were written to while they were read.
+  QStringList changed_;
 };
 
 }  // namespace quorvin

@@ -15,7 +15,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 // Counting bits and finding the lowest one are single instructions only where the processor is known to have
 // them, so that this is compiled anew for each set though nothing here is a vector.
 
-#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
+#if HWY_ARCH_X86_64 && HWY_TARGET <= HWY_AVX3
 
 /// Sets bit k of an array for each text k (from 0) that has a place. Gathering bits is a single instruction
 /// on every processor that has these vectors; on some older ones it is slower than a loop. No branch depends
@@ -101,7 +101,7 @@ HWY_INLINE std::uint64_t bitsOf(Mask mask) {
 template <std::size_t kLength>
 bool scanTextsFor(std::string_view text, const char* word, char end, std::uint64_t* texts) {
   const Lanes d;
-  const auto byteAt = [&](std::size_t i) {
+  const auto byteAt = [&](std::size_t i) HWY_ATTR {
     return hn::Set(d, static_cast<std::uint8_t>(i < kLength ? word[i] : 0));
   };
   const auto b0 = byteAt(0);

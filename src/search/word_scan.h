@@ -1,5 +1,5 @@
 // Which texts hold a word. Bits stand 64 to an element, lowest first: for the bytes of a text of many texts,
-// or for those texts.
+// or for those texts. kScanPadding and the quicker look for rare words are in byte_pair_scan.h.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@ namespace quorvin {
 /// The longest word that scanTexts() looks for.
 inline constexpr std::size_t kLongestScannedWord = 8;
 
-/// `text` is many texts, each with `end` behind it. Sets bit k of `texts` (64 to an element, lowest first)
+/// `text` is many texts, each with `end` behind it. Sets bit k of `texts`
 /// for each text k that holds `word`, which is 1 to kLongestScannedWord bytes long and has no `end` in it;
 /// clears the others. True if any holds it. `texts` has room for one element more than the texts need.
 /// kScanPadding bytes can be read behind `text`.

@@ -37,7 +37,7 @@ WordSet SeenWords::all() const {
   return words;
 }
 
-void SeenWords::seeAll(std::uint32_t text, std::span<std::uint64_t> bits, std::size_t word) {
+void SeenWords::seeAll(std::uint32_t text, std::span<const std::uint64_t> bits, std::size_t word) {
   if (!oneWord_) {
     for (std::size_t block = 0; block < bits.size(); ++block) {
       const auto base = text + static_cast<std::uint32_t>(block * 64);

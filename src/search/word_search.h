@@ -4,10 +4,9 @@
 #include "search/search_query.h"
 #include "search/text_table.h"
 
-#include <climits>
-
 #include <bit>
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -50,8 +49,8 @@ class SeenWords {
   }
 
   /// see() for each text whose bit is set: bit k stands for text `text` + k, and only those of this stretch
-  /// may be set. `bits` may be changed.
-  void seeAll(std::uint32_t text, std::span<std::uint64_t> bits, std::size_t word);
+  /// may be set.
+  void seeAll(std::uint32_t text, std::span<const std::uint64_t> bits, std::size_t word);
 
   const WordSet& in(std::uint32_t text) const { return words_[text - first_]; }
 
@@ -76,7 +75,7 @@ class WordSearch {
 
   /// Fills `seen` with texts `first` to `last` - 1 of `table` and the words that each holds.
   void find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen) {
-    find(table, first, last, seen, {}, INT_MAX);
+    find(table, first, last, seen, {}, std::numeric_limits<int>::max());
   }
 
   /// As above, but words may be left unseen in a text that lacks more than `mostMissing` words of the search

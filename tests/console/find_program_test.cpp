@@ -142,8 +142,20 @@ TEST_F(FindProgram, NoCacheNeitherReadsNorWritesCacheFiles) {
   EXPECT_FALSE(QFile::exists(file));
 }
 
+TEST_F(FindProgram, CountTellsOfHitsThatCannotBeReadWholeToo) {
+  const QString listing = folder_.writeFile(u"cd.lst"_qs, test::entryLine("song", "n/a"));
+  // The second run counts in the cache file.
+  for (int round = 1; round <= 2; ++round) {
+    const Ended ended = run({u"find"_qs, u"--count"_qs, u"song"_qs, listing});
+    EXPECT_EQ(ended.output, u"1\n"_qs);
+    EXPECT_TRUE(ended.errors.contains(u": 1 line(s), the first is line 1"_qs)) << ended.errors.toStdString();
+  }
+}
+
 TEST_F(FindProgram, ClearRemovesTheCacheFiles) {
   run({u"find"_qs, u"--count"_qs, u"rock"_qs, sample()});
+  // As a program leaves it that is ended while it writes.
+  folder_.writeFile(u"cache/quorvin/0123456789abcdef.qimage.1.new"_qs, "begun");
   EXPECT_EQ(run({u"cache"_qs, u"--clear"_qs}).status, 0);
   EXPECT_EQ(run({u"cache"_qs}).output, QString());
   EXPECT_TRUE(QDir(folder_.pathOf(u"cache/quorvin"_qs)).isEmpty());

@@ -89,6 +89,27 @@ TEST(HitTable, CarriedValuesStartAfreshWithEachListing) {
   EXPECT_EQ(table.row(1).size, 0);
 }
 
+TEST(HitTable, RowsWithoutValuesShowThoseBeforeThemInTheirListing) {
+  static_assert(sizeof(FoundEntry) == 8);
+  const SearchQuery query(u"song", 50);
+  HitTable table;
+  test::YieldLog yields;
+  ScanOutcome outcome;
+  std::int64_t searched = 0;
+  const QByteArray none = "song without\r\n";
+  const QByteArray one = test::entryLine("song", "1");
+  const QByteArray seven = test::entryLine("song", "7");
+  for (const QByteArray& listing :
+       {none + one + none + none + seven + none, none + none, none + one + none, seven, one + none}) {
+    test::MemoryListing source(listing);
+    table.beginListing(SourceKind::Online);
+    scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
+  }
+  std::vector<std::int64_t> sizes;
+  for (std::int64_t row = 0; row < table.rowCount(); ++row) sizes.push_back(table.row(row).size);
+  EXPECT_EQ(sizes, (std::vector<std::int64_t>{0, 1, 1, 1, 7, 7, 0, 0, 0, 1, 1, 7, 1, 1}));
+}
+
 TEST(HitTable, ClearedTableHasNoRowsAndStartsAgain) {
   HitTable table = scanned("song 1\r\nsong 2\r\n", SourceKind::Online);
   ASSERT_EQ(table.rowCount(), 2);

@@ -8,9 +8,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdio>
 #include <sys/resource.h>
 
 namespace quorvin {
@@ -112,6 +114,46 @@ TEST_F(ImageStoreTest, ChangedListingIsReadAnew) {
   expectRight(store);
   EXPECT_EQ(table_.rowCount() > 0, true);
   EXPECT_EQ(imageFiles(cache_).size(), 1);
+}
+
+TEST_F(ImageStoreTest, TruncatedOrReplacedListingIsReadAnew) {
+  ImageStore store({cache_, kPlenty});
+  expectRight(store);
+  bytes_.truncate(bytes_.size() / 2);
+  folder_.writeFile(u"cd.lst"_qs, bytes_);
+  expectRight(store);
+  bytes_.replace("Song", "Sang");
+  const QString other = folder_.writeFile(u"other.lst"_qs, bytes_);
+  ASSERT_EQ(::rename(QFile::encodeName(other).constData(), QFile::encodeName(listing_).constData()), 0);
+  expectRight(store);
+}
+
+TEST_F(ImageStoreTest, DamageWhereOnlySomeEntriesHaveValuesNeverChangesAResult) {
+  // No value is unreadable, and whole stretches have none: these show those of a hit before them.
+  bytes_ = test::blockHead("V", "\\Music\\");
+  for (int i = 0; i < 5000; ++i) {
+    const QByteArray name = "Song " + QByteArray::number(i);
+    const bool hasValues = i < 2000 || i == 2010 || i % 997 == 0;
+    bytes_ += hasValues ? test::entryLine(name, QByteArray::number(i)) : name + "\r\n";
+  }
+  folder_.writeFile(u"cd.lst"_qs, bytes_);
+  limits_ = {};
+  ImageStore writer({cache_, kPlenty});
+  scan(writer, u"song"_qs);
+  QFile file(cacheFile());
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray good = file.readAll();
+  file.close();
+  const test::ReferenceResult expected = reference(u"song"_qs);
+  constexpr qsizetype kStride = 1500;
+  for (qsizetype place = 0; place < good.size(); place += kStride) {
+    QByteArray damaged = good;
+    damaged[place] = static_cast<char>(~damaged[place]);
+    folder_.writeFile(u"cache/"_qs + QFileInfo(cacheFile()).fileName(), damaged);
+    ImageStore store({cache_, kPlenty});
+    ASSERT_EQ(scan(store, u"song"_qs).hits, expected.hits) << "byte " << place;
+    folder_.writeFile(u"cache/"_qs + QFileInfo(imageFilePath(cache_, listing_)).fileName(), good);
+  }
 }
 
 TEST_F(ImageStoreTest, AnotherLocaleReadsAnew) {
@@ -259,7 +301,29 @@ TEST_F(ImageStoreTest, ListingThatChangesWhileItIsReadIsNotKept) {
   };
   ImageStore store({cache_, kPlenty});
   scan(store, u"song"_qs);
+  EXPECT_TRUE(outcome_.changedMeanwhile);
   EXPECT_TRUE(QDir(cache_).isEmpty());
+  onYield_ = {};
+  bytes_ = folder_.readFile(u"cd.lst"_qs);
+  expectRight(store);
+  EXPECT_FALSE(outcome_.changedMeanwhile);
+}
+
+TEST_F(ImageStoreTest, ListingThatIsReplacedWhileItIsReadIsReadToItsEndAndNotKept) {
+  bool isReplaced = false;
+  onYield_ = [this, &isReplaced](std::int64_t) {
+    if (isReplaced) return false;
+    isReplaced = true;
+    const QString other = folder_.writeFile(u"other.lst"_qs, "song elsewhere\r\n");
+    EXPECT_EQ(::rename(QFile::encodeName(other).constData(), QFile::encodeName(listing_).constData()), 0);
+    return false;
+  };
+  ImageStore store({cache_, kPlenty});
+  EXPECT_EQ(scan(store, u"song"_qs).hits, reference(u"song"_qs).hits);
+  EXPECT_FALSE(outcome_.changedMeanwhile);
+  EXPECT_TRUE(QDir(cache_).isEmpty());
+  bytes_ = "song elsewhere\r\n";
+  expectRight(store);
 }
 
 TEST_F(ImageStoreTest, FullDiskLeavesNoFileAndTheRightHits) {

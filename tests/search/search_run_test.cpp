@@ -190,6 +190,25 @@ TEST_F(SearchRunTest, HitsThatCannotBeReadWholeAreToldOncePerRunWithTheirListing
       "before them.\r\n%1: 2 line(s), the first is line 2"_qs.arg(path));
 }
 
+TEST_F(SearchRunTest, ListingsThatAreWrittenToWhileTheyAreSearchedAreTold) {
+  const QString path = folder_.writeFile(u"off.lst"_qs, QByteArray("song\r\n").repeated(100'000));
+  addOffline(path);
+  view_.onEvents = [&] {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::Append));
+    file.write("song more\r\n");
+    view_.onEvents = {};
+  };
+  find(u"song");
+  ASSERT_EQ(messages_.informed.size(), 1U);
+  EXPECT_EQ(
+      messages_.informed[0],
+      u"These listings were written to while they were searched. Hits in them may be partly of the old and "
+      "partly of the new content; press Find again for the new one.\r\n%1"_qs.arg(path));
+  find(u"song");
+  EXPECT_EQ(messages_.informed.size(), 1U);
+}
+
 TEST_F(SearchRunTest, ClosingEndsTheWholeRunWithoutMessages) {
   folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(9000));
   addOnline(u"A"_qs);

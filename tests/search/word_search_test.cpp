@@ -122,6 +122,28 @@ TEST_P(Words, RangesMayBeginAndEndAnywhere) {
   }
 }
 
+TEST_P(Words, OneWordIsToldByABitForEachTextOfAnyRange) {
+  std::mt19937 random(32);
+  std::vector<std::string> texts;
+  for (int i = 0; i < 2600; ++i) texts.push_back(random() % 3 == 0 ? "live at" : "alone");
+  const auto builder = tableOf(texts);
+  builder->completeTrigrams();
+  const SearchQuery query = queryOf({"live"});
+  WordSearch search(query);
+  SeenWords seen(true);
+  for (int round = 0; round < 400; ++round) {
+    const auto first = static_cast<std::uint32_t>(random() % 2600);
+    const auto last = first + static_cast<std::uint32_t>(random() % (2601 - first));
+    search.find(builder->table(), first, last, seen);
+    std::vector<std::uint64_t> expected((last - first + 63) / 64);
+    for (std::uint32_t text = first; text < last; ++text) {
+      const std::uint32_t i = text - first;
+      if (texts[text] == "live at") expected[i / 64] |= std::uint64_t{1} << (i % 64);
+    }
+    ASSERT_EQ(seen.touched(), expected) << "range " << first << " to " << last;
+  }
+}
+
 TEST_P(Words, GeneratedTablesAgreeWithAPlainSearch) {
   std::mt19937 random(37);
   for (int round = 0; round < 300; ++round) {
