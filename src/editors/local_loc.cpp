@@ -3,7 +3,6 @@
 #include "editors/local_loc_layout.h"
 
 #include <QKeySequence>
-#include <QScopeGuard>
 #include <QScreen>
 #include <QShortcut>
 
@@ -108,16 +107,8 @@ bool LocalLoc::store(SourceTable& table, int& count) {
 }
 
 void LocalLoc::rescan() {
-  SourceEditorHost& host = editing_.host;
-  host.setReScanEnabled(false);
-  host.setBusyPointer();
-  // A refresh that fails must not leave the program as if it were still running.
-  const auto afterwards = qScopeGuard([&host] {
-    host.setReScanEnabled(true);
-    host.setDefaultPointer();
-  });
   hide();
-  host.refreshLocalLists();
+  editing_.host.refreshLocalLists();
 }
 
 void LocalLoc::resizeEvent(QResizeEvent* event) {

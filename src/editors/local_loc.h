@@ -34,8 +34,9 @@ class LocalLoc : public QDialog {
   Q_OBJECT
 
  public:
-  /// `LocMode` is the opener's, which may set it later on.
   LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget* owner);
+
+  void setLocMode(const QString& LocMode) { LocMode_ = LocMode; }
 
   const LocalLocControls& controls() const { return controls_; }
   SourceListModel& entries() { return entries_; }
@@ -62,7 +63,7 @@ class LocalLoc : public QDialog {
   void rescan();
 
   SourceEditing editing_;
-  const QString& LocMode_;
+  QString LocMode_;
   SourceListModel entries_;
   LocalLocControls controls_;
   /// The inner size for which the controls stand where they are.

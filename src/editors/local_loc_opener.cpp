@@ -30,7 +30,6 @@ void LocalLocOpener::EditOffline_Click() {
 
 void LocalLocOpener::arrangeForOffline(LocalLoc& dialog) {
   const LocalLocControls& controls = dialog.controls();
-  dialog.entries().fill({});
   dialog.setWindowTitle(QStringLiteral("Offline Search List files"));
   controls.OK->hide();
   controls.OK->setEnabled(false);
@@ -39,6 +38,7 @@ void LocalLocOpener::arrangeForOffline(LocalLoc& dialog) {
   setPathCaption(controls, QStringLiteral("Path to List file"));
   widenPathOverDescription(controls);
   LocMode_ = QString::fromUtf16(kOfflineMode);
+  dialog.setLocMode(LocMode_);
   controls.Label1->hide();
   controls.Desc->hide();
   controls.LocalDataFolder->setFocus();

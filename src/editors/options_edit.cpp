@@ -1,6 +1,5 @@
 #include "editors/options_edit.h"
 
-#include "platform/file_lookup.h"
 #include "platform/general_date.h"
 
 #include <exception>
@@ -9,12 +8,6 @@
 namespace quorvin {
 
 namespace {
-
-/// A folder is accepted only if at least one ordinary file is in it.
-bool isValidDataFolder(const QString& folder, const OptionsConditions& conditions) {
-  const QString pattern = folder + QStringLiteral("*.*");
-  return conditions.holdsFiles ? conditions.holdsFiles(pattern) : ordinaryFileExists(pattern);
-}
 
 OptionsOutcome storeInOrder(const OptionTexts& texts, ProgramState& state, MessageBoxes& messages,
                             const OptionsConditions& conditions) {
@@ -27,7 +20,7 @@ OptionsOutcome storeInOrder(const OptionTexts& texts, ProgramState& state, Messa
   state.NickName = texts.Nic;
   const QString folder = texts.LocalDataFolder.isEmpty() ? conditions.programFolder() : texts.LocalDataFolder;
   state.LocalFolder = withTrailingSeparator(folder, conditions.pathStyle);
-  if (!isValidDataFolder(state.LocalFolder, conditions)) {
+  if (!conditions.isValidFolder(state.LocalFolder)) {
     messages.inform(
         QStringLiteral("The Local Data Folder path is invalid.\r\n\r\nPlease Pick a valid path!"));
     return OptionsOutcome::FolderRefused;

@@ -3,6 +3,7 @@
 
 #include "platform/message_box.h"
 #include "platform/path_style.h"
+#include "state/data_folder.h"
 #include "state/program_state.h"
 
 #include <QLocale>
@@ -28,8 +29,8 @@ struct OptionsConditions {
   QLocale locale;
   /// The folder that an empty data folder stands for; may throw.
   std::function<QString()> programFolder;
-  /// Whether any ordinary file fits a pattern; may throw. By default ordinaryFileExists().
-  std::function<bool(const QString& pattern)> holdsFiles;
+  /// Whether a folder can be the data folder; may throw.
+  std::function<bool(const QString& folder)> isValidFolder = isValidDataFolder;
   PathStyle pathStyle = nativePathStyle();
 };
 

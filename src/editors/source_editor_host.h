@@ -10,14 +10,10 @@ class SourceEditorHost {
   // Whether the main window's menu items can be chosen.
   virtual void setAddLocalEnabled(bool enabled) = 0;
   virtual void setEditOfflineEnabled(bool enabled) = 0;
-  virtual void setReScanEnabled(bool enabled) = 0;
 
-  /// Makes the mouse pointer the arrow with the hourglass, over the whole program.
-  virtual void setBusyPointer() = 0;
-  /// Sets the mouse pointer back to the default.
-  virtual void setDefaultPointer() = 0;
-
-  /// Runs the local list refresh to its end; events are processed meanwhile.
+  /// Runs the local list refresh to its end, with the menu item `ReScan` disabled and the mouse pointer told
+  /// of work; events are processed meanwhile. While a refresh is running already, another follows it, and the
+  /// call returns at once.
   virtual void refreshLocalLists() = 0;
 };
 

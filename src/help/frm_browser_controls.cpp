@@ -134,10 +134,6 @@ void placeAddressRow(const BrowserControls& controls) {
 
 }  // namespace
 
-QString keyOf(BrowserButton button) {
-  return lookOf(button).key;
-}
-
 BrowserControls makeBrowserControls(QWidget* window, const HelpFiles& files) {
   BrowserControls made{};
   makeToolbar(window, made);

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QPalette>
 #include <QProgressBar>
-#include <QString>
 #include <QToolBar>
 #include <QWidget>
 
@@ -19,9 +18,6 @@ namespace quorvin {
 
 enum class BrowserButton { Back, Forward, Refresh, Home, Search, Stop };
 inline constexpr int kBrowserButtons = 6;
-
-/// The key of a toolbar button: "Back".
-QString keyOf(BrowserButton button);
 
 /// The window owns them.
 struct BrowserControls {

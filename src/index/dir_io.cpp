@@ -1,6 +1,7 @@
 #include "index/dir_io.h"
 
 #include "platform/text_encoding.h"
+#include "search/listing_columns.h"
 
 #include <QScopeGuard>
 
@@ -72,7 +73,8 @@ void DirIO::walkOn() {
 }
 
 void DirIO::walkSubFolder(std::string_view name) {
-  if (listedPath_.size() + name.size() >= kLongestListedFolder) {
+  const std::size_t withSeparator = name.size() + 1;
+  if (listedPath_.size() + withSeparator > kLongestListedFolder) {
     faults_.note(name, QStringLiteral(" was left out: its path is too long for a listing"));
     return;
   }

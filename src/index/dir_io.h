@@ -26,7 +26,8 @@ namespace quorvin {
 /// Events are processed at every so many files of a folder.
 inline constexpr std::size_t kFilesBetweenEvents = 50;
 
-/// A folder whose path in the listing has more bytes is left out: readers refuse lines of 1 MiB and more.
+/// A folder whose path in the listing, with the backslash at its end, has more bytes is left out: readers
+/// refuse lines of 1 MiB and more.
 inline constexpr std::size_t kLongestListedFolder = 1'000'000;
 
 /// The walk, depth first, each folder's block before those of its sub-folders, nothing sorted. One object

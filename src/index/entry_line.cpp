@@ -3,6 +3,7 @@
 #include "index/listed_name.h"
 #include "platform/general_number.h"
 #include "platform/text_encoding.h"
+#include "search/listing_columns.h"
 
 #include <algorithm>
 #include <array>

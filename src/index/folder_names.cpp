@@ -105,7 +105,9 @@ bool FolderNames::checkFileCount() {
 
 void FolderNames::noteLeftOut(std::size_t count, const QString& kind) {
   if (count == 0) return;
-  faults_.note({}, QStringLiteral(" holds too many %1; %2 names were left out").arg(kind).arg(count));
+  const QString names =
+      count == 1 ? QStringLiteral("1 name was") : QStringLiteral("%1 names were").arg(count);
+  faults_.note({}, QStringLiteral(" holds too many %1; %2 left out").arg(kind, names));
 }
 
 }  // namespace quorvin

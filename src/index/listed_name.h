@@ -26,9 +26,6 @@ std::string listedText(std::string_view name);
 /// LF, NUL and byte that is no text.
 std::string lineText(std::string_view text);
 
-/// The columns of an entry line that the name has.
-inline constexpr std::size_t kNameColumns = 65;
-
 /// `listed` cut to its first `columns` characters.
 std::string_view cutToColumns(std::string_view listed, std::size_t columns);
 

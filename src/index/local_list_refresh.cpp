@@ -1,6 +1,7 @@
 #include "index/local_list_refresh.h"
 
 #include "index/dir_io.h"
+#include "index/own_files.h"
 #include "platform/runtime_fault.h"
 #include "platform/text_encoding.h"
 
@@ -15,12 +16,11 @@ namespace {
 /// One refresh, from its first source to its last.
 class Refresh {
  public:
-  Refresh(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
-          PathStyle style)
+  Refresh(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale)
       : state_(state),
         view_(view),
         folders_(makeFolderReader()),
-        dirIO_(state, *folders_, view, messages, locale, style) {}
+        dirIO_(state, *folders_, view, messages, locale) {}
 
   void run() {
     for (int row = 1; row <= state_.OnlineSourceCount; ++row) {
@@ -37,20 +37,26 @@ class Refresh {
  private:
   // False when the refresh was asked to stop.
   bool refreshSource(const QString& description, const QString& path) {
+    const QString base = state_.LocalFolder + trimBlanks(description).toString();
+    const QString temporary = base + QStringLiteral(".tmp");
+    const QString finished = base + QStringLiteral(".txt");
+    for (const QString& file : {temporary, finished}) {
+      if (!isOwnFile(file, state_)) continue;
+      noteNotMade(description, file);
+      return true;
+    }
     if (!canBeOpened(path)) {
       noteKept(path, description);
       return true;
     }
-    const QString base = state_.LocalFolder + trimBlanks(description).toString();
-    const QString temporary = base + QStringLiteral(".tmp");
-    const QString finished = base + QStringLiteral(".txt");
-    writeListing(temporary, description, path, QFile::exists(finished));
+    const bool opened = writeListing(temporary, description, path, QFile::exists(finished));
     if (state_.RescanAbort) {
       state_.RescanAbort = false;
       return false;
     }
-    // Pulled while it was read: the walk has met errors only, which would cost the catalogue.
-    if (folders_->topIsStillAt(path)) {
+    // Pulled while it was read, be it for a moment: the walk has met errors only, which would cost the
+    // catalogue.
+    if (opened && folders_->topIsStillAt(path)) {
       putInPlace(temporary, finished);
     } else {
       QFile::remove(temporary);
@@ -69,13 +75,22 @@ class Refresh {
     state_.errorLog += QStringLiteral("%1 not found; the listing of %2 was kept\r\n").arg(path, description);
   }
 
-  void writeListing(const QString& file, const QString& description, QString path, bool replacesAnother) {
+  void noteNotMade(const QString& description, const QString& file) {
+    state_.errorLog += QStringLiteral(
+                           "The listing of %1 was not made, since it would overwrite %2; please give it "
+                           "another description\r\n")
+                           .arg(description, file);
+  }
+
+  // False when the folder could not be opened any more; the listing is its head alone then.
+  bool writeListing(const QString& file, const QString& description, QString path, bool replacesAnother) {
     FileWriter writer(file);
-    dirIO_.walk(path, QStringLiteral("*.*"), {&writer, nullptr}, description, kToOutput1);
+    const bool opened = dirIO_.walk(path, QStringLiteral("*.*"), {&writer, nullptr}, description, kToOutput1);
     writer.flush();
     // A listing is given up only for one that a failing machine cannot take away again.
     if (replacesAnother) writer.sync();
     writer.close();
+    return opened;
   }
 
   ProgramState& state_;
@@ -85,8 +100,7 @@ class Refresh {
 };
 
 // False when a fault ended it.
-bool refreshAll(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
-                PathStyle style) {
+bool refreshAll(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale) {
   view.createProgress();
   const QString title = view.progressTitle();
   state.RescanRunning = true;
@@ -96,7 +110,7 @@ bool refreshAll(ProgramState& state, RefreshView& view, MessageBoxes& messages, 
     view.refreshEnded();
   });
   try {
-    Refresh(state, view, messages, locale, style).run();
+    Refresh(state, view, messages, locale).run();
   } catch (const RuntimeFault& fault) {
     messages.inform(QStringLiteral("Error Refreshing Local Lists:") + fault.description());
     return false;
@@ -108,8 +122,8 @@ bool refreshAll(ProgramState& state, RefreshView& view, MessageBoxes& messages, 
 }  // namespace
 
 void refreshLocalLists(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
-                       const QString& versionCaption, PathStyle style) {
-  if (state.RescanRunning || !refreshAll(state, view, messages, locale, style)) return;
+                       const QString& versionCaption) {
+  if (state.RescanRunning || !refreshAll(state, view, messages, locale)) return;
   view.setDefaultPointer();
   view.setStatus(versionCaption);
   if (state.errorLog.isEmpty()) return;

@@ -3,7 +3,6 @@
 
 #include "index/index_view.h"
 #include "platform/message_box.h"
-#include "platform/path_style.h"
 #include "state/program_state.h"
 
 #include <QLocale>
@@ -15,12 +14,13 @@ namespace quorvin {
 /// description + ".tmp" and then put in the place of the ".txt" file; a search never reads a half-written
 /// one. `RescanRunning` is set meanwhile. `RescanAbort` ends the refresh after the current source, whose old
 /// listing stays. A source whose folder cannot be opened, or whose path leads to another folder after the
-/// walk (a drive was pulled), keeps its old listing, and a line in the error log says so. At the end the
-/// title of `Progress` is as before, its status shows `versionCaption`, and a non-empty error log is shown
-/// and emptied. A fault is told as "Error Refreshing Local Lists:" with its description and ends the refresh;
-/// every listing on disk is then the old or the new one, whole. Does nothing while a refresh is already
-/// running. User-interface thread only.
+/// walk (a drive was pulled), keeps its old listing, and a line in the error log says so. A source whose
+/// listing would overwrite the main data file or a source list is passed over, which is logged too. At the
+/// end the title of `Progress` is as before, its status shows `versionCaption`, and a non-empty error log is
+/// shown and emptied. A fault is told as "Error Refreshing Local Lists:" with its description and ends the
+/// refresh; every listing on disk is then the old or the new one, whole. Does nothing while a refresh is
+/// already running. User-interface thread only.
 void refreshLocalLists(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
-                       const QString& versionCaption, PathStyle style = nativePathStyle());
+                       const QString& versionCaption);
 
 }  // namespace quorvin

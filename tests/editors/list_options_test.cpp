@@ -135,7 +135,7 @@ TEST_F(OptionsDialog, AfterARefusedFolderAndCancelNicknameAndDateStay) {
 }
 
 TEST_F(OptionsDialog, AFailureKeepsTheDialogOpenWithoutAMessage) {
-  conditions_.holdsFiles = [](const QString&) -> bool { throw RuntimeFault(FaultNumber::DeviceError); };
+  conditions_.isValidFolder = [](const QString&) -> bool { throw RuntimeFault(FaultNumber::DeviceError); };
   click(controls().OKButton);
   EXPECT_TRUE(dialog().isVisible());
   EXPECT_TRUE(messages_.informed.empty());
@@ -213,6 +213,31 @@ TEST_F(OptionsDialog, EdgesAreAligned) {
   EXPECT_EQ(all.GetLocalFolder->geometry().right(), right);
   EXPECT_EQ(all.GetListName->geometry().right(), right);
   EXPECT_EQ(all.CancelButton->geometry().right(), right);
+}
+
+TEST_F(OptionsDialog, AnEmptyDataFolderIsTheProgramsFolder) {
+  conditions_.programFolder = [this] { return folder_.path().chopped(1); };
+  type(controls().LocalDataFolder, QString());
+  click(controls().OKButton);
+  EXPECT_FALSE(dialog().isVisible());
+  EXPECT_EQ(state_.LocalFolder, folder_.path());
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(OptionsDialog, ADataFolderIsCompletedByASeparator) {
+  folder_.writeFile(QStringLiteral("data/any.txt"), "x");
+  type(controls().LocalDataFolder, folder_.pathOf(QStringLiteral("data")));
+  click(controls().OKButton);
+  EXPECT_FALSE(dialog().isVisible());
+  EXPECT_EQ(state_.LocalFolder, folder_.pathOf(QStringLiteral("data")) + QDir::separator());
+}
+
+TEST_F(OptionsDialog, ATimeAloneIsAJoinDate) {
+  type(controls().JoinD, QStringLiteral("6:00 AM"));
+  click(controls().OKButton);
+  EXPECT_EQ(state_.JoinDate, 0.25);
+  ListOptions again(editing(), nullptr);
+  EXPECT_EQ(again.controls().JoinD->text(), QStringLiteral("6:00:00 AM"));
 }
 
 }  // namespace

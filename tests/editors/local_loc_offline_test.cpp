@@ -133,7 +133,14 @@ TEST_F(OfflineEditor, SaveStoresTheOfflineListAndAsksNothing) {
   EXPECT_EQ(host_.log, QStringList());
 }
 
-TEST_F(OfflineEditor, CancelAndEscapeDiscardTheEdits) {
+TEST_F(OfflineEditor, TheCloseBoxCancelAndEscapeDiscardTheEdits) {
+  edit([](LocalLoc& dialog) {
+    dialog.controls().Online->selectRow(1);
+    click(dialog.controls().LocDel);
+    ASSERT_NE(dialog.entries().entries(), twoLists());
+    dialog.close();
+    EXPECT_FALSE(dialog.isVisible());
+  });
   edit([](LocalLoc& dialog) {
     dialog.controls().Online->selectRow(1);
     click(dialog.controls().LocDel);

@@ -41,9 +41,9 @@ class OptionsEdit : public testing::Test {
 
   OptionsOutcome store() { return storeOptions(texts_, state_, messages_, conditions_); }
   /// The folder check asks for files of other systems' folders.
-  void answerForFolders(const QString& validPattern) {
+  void answerForFolders(const QString& validFolder) {
     conditions_.pathStyle = kWindowsPaths;
-    conditions_.holdsFiles = [validPattern](const QString& pattern) { return pattern == validPattern; };
+    conditions_.isValidFolder = [validFolder](const QString& folder) { return folder == validFolder; };
   }
   /// What the steps after the folder check store.
   void expectTheRestUntouched() {
@@ -122,7 +122,7 @@ TEST_F(OptionsEdit, AnEmptyFolderBecomesTheProgramsOwn) {
 }
 
 TEST_F(OptionsEdit, TheProgramsOwnFolderGetsItsBackslash) {
-  answerForFolders(QStringLiteral("C:\\Quorvin\\*.*"));
+  answerForFolders(QStringLiteral("C:\\Quorvin\\"));
   conditions_.programFolder = [] { return QStringLiteral("C:\\Quorvin"); };
   texts_.LocalDataFolder = QString();
   EXPECT_EQ(store(), OptionsOutcome::Stored);
@@ -139,14 +139,14 @@ TEST_F(OptionsEdit, TheProgramsOwnFolderIsRefusedWhenItHoldsNoFile) {
 }
 
 TEST_F(OptionsEdit, AFolderWithoutATrailingBackslashGetsOne) {
-  answerForFolders(QStringLiteral("D:\\Lists\\*.*"));
+  answerForFolders(QStringLiteral("D:\\Lists\\"));
   texts_.LocalDataFolder = QStringLiteral("D:\\Lists");
   EXPECT_EQ(store(), OptionsOutcome::Stored);
   EXPECT_EQ(state_.LocalFolder, QStringLiteral("D:\\Lists\\"));
 }
 
 TEST_F(OptionsEdit, AFolderWithATrailingBackslashIsStoredAsItStands) {
-  answerForFolders(QStringLiteral("D:\\Lists\\*.*"));
+  answerForFolders(QStringLiteral("D:\\Lists\\"));
   texts_.LocalDataFolder = QStringLiteral("D:\\Lists\\");
   EXPECT_EQ(store(), OptionsOutcome::Stored);
   EXPECT_EQ(state_.LocalFolder, QStringLiteral("D:\\Lists\\"));
@@ -182,7 +182,7 @@ TEST_F(OptionsEdit, ARefusedFolderLeavesDateNicknameAndFolderStored) {
 }
 
 TEST_F(OptionsEdit, AFailingFolderCheckEndsSilently) {
-  conditions_.holdsFiles = [](const QString&) -> bool { throw RuntimeFault(FaultNumber::DeviceError); };
+  conditions_.isValidFolder = [](const QString&) -> bool { throw RuntimeFault(FaultNumber::DeviceError); };
   EXPECT_EQ(store(), OptionsOutcome::Failed);
   EXPECT_TRUE(messages_.informed.empty());
   EXPECT_EQ(state_.NickName, QStringLiteral("ann"));

@@ -14,15 +14,12 @@ class RecordingEditorHost : public SourceEditorHost {
  public:
   void setAddLocalEnabled(bool enabled) override { note(QStringLiteral("AddLocal"), enabled); }
   void setEditOfflineEnabled(bool enabled) override { note(QStringLiteral("EditOffline"), enabled); }
-  void setReScanEnabled(bool enabled) override { note(QStringLiteral("ReScan"), enabled); }
-  void setBusyPointer() override { log.append(QStringLiteral("busy pointer")); }
-  void setDefaultPointer() override { log.append(QStringLiteral("default pointer")); }
   void refreshLocalLists() override {
     log.append(QStringLiteral("refresh"));
     if (duringRefresh) duringRefresh();
   }
 
-  /// What was asked of the window, in order: "ReScan off", "busy pointer", "refresh".
+  /// What was asked of the window, in order: "AddLocal off", "refresh".
   QStringList log;
   std::function<void()> duringRefresh;
 
