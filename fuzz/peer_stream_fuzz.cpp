@@ -37,7 +37,7 @@ class OrderCheck : public PeerStreamSink {
     endArchive();
   }
   // Asked for once more only once, as a client does that does not go on for ever.
-  bool requestLost(const QByteArray& name) override { return askedAgain_.insert(name).second; }
+  bool requestLost(const QByteArray&, bool isFirstTime) override { return isFirstTime; }
 
  private:
   void endArchive() {

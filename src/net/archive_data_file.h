@@ -20,8 +20,6 @@ class DataFileExtraction : public ArchiveExtraction {
   void extractArchive(const QString& archivePath, const QString& targetFolder) override;
 
  private:
-  void unpack(const QString& archivePath, const QString& targetFolder);
-
   ProgramState& state_;
   ArchiveView& view_;
   MessageBoxes& boxes_;

@@ -8,12 +8,17 @@
 
 namespace quorvin {
 
-/// Shows the events of an unpacking: errors in a message box, the percentage on the bar of `Progress`. The
-/// `CancelButton` ends the unpacking.
+/// Shows how far an unpacking is on the bar of `Progress`, and keeps what was wrong. The `CancelButton` ends
+/// the unpacking.
 class ArchiveDisplay : public ArchiveEvents {
  public:
-  /// All must outlive the object.
-  ArchiveDisplay(const ProgramState& state, ArchiveView& view, MessageBoxes& boxes);
+  /// Both must outlive the object.
+  ArchiveDisplay(const ProgramState& state, ArchiveView& view) : state_(state), view_(view) {}
+
+  /// What the error event told; empty when there was none.
+  const QString& error() const { return error_; }
+  /// Tells it in a message box.
+  void tellError(MessageBoxes& boxes) const;
 
   void archiveError(std::int32_t code, const QString& description) override;
   void percentDone(double percentage) override;
@@ -24,7 +29,24 @@ class ArchiveDisplay : public ArchiveEvents {
  private:
   const ProgramState& state_;
   ArchiveView& view_;
-  MessageBoxes& boxes_;
+  QString error_;
+};
+
+/// `Progress` as long as an unpacking lasts: shown with its bar from 0 to 100, and taken away on every way
+/// out. A cancel request is dropped before and after, unless the program is closing.
+class ShownUnpacking {
+ public:
+  /// Both must outlive the object.
+  ShownUnpacking(ProgramState& state, ArchiveView& view, const QString& status);
+  ~ShownUnpacking();
+  ShownUnpacking(const ShownUnpacking&) = delete;
+  ShownUnpacking& operator=(const ShownUnpacking&) = delete;
+
+ private:
+  void dropCancelRequest();
+
+  ProgramState& state_;
+  ArchiveView& view_;
 };
 
 }  // namespace quorvin

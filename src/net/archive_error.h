@@ -39,6 +39,9 @@ class ArchiveError : public std::runtime_error {
   QString description_;
 };
 
+/// Thrown where looking at an archive was ended by the one who asked for it.
+struct ArchiveStopped {};
+
 /// A name from an archive as a message can show it: what cannot be printed is a "?", and the middle of a long
 /// one is left out.
 QString shownEntryName(const QString& name);

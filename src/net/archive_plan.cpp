@@ -53,15 +53,30 @@ void checkPacking(const ArchiveEntry& entry) {
   }
 }
 
-/// Tells whether places stand in each other's way.
+/// A name in the folder that has this number.
+struct PlaceKey {
+  quint64 folder = 0;
+  QString part;
+
+  bool operator==(const PlaceKey&) const = default;
+};
+
+size_t qHash(const PlaceKey& key, size_t seed) {
+  return qHashMulti(seed, key.folder, key.part);
+}
+
+/// Tells whether places stand in each other's way, and counts them: the folders that entries only imply are
+/// made too, and one entry may imply many.
 class TakenPlaces {
  public:
-  void take(const ArchivePlace& place, const QString& name) {
-    QString path;
+  explicit TakenPlaces(std::uint64_t most) : most_(most) {}
+
+  /// Names that were met before are replaced by the earlier ones, which then are in memory only once.
+  void take(ArchivePlace& place, const QString& name) {
+    quint64 folder = 0;
     for (qsizetype i = 0; i < place.path.size(); ++i) {
-      path += u'/' + place.path[i];
       const bool isLast = i + 1 == place.path.size();
-      takeOne(path, isLast ? Use{place.isFolder, true} : Use{true, false}, name);
+      folder = takeOne(folder, place.path[i], isLast ? Use{place.isFolder, true} : Use{true, false}, name);
     }
   }
 
@@ -70,14 +85,14 @@ class TakenPlaces {
     bool isFolder = false;
     /// By an entry of its own, not only as the folder of another.
     bool isNamed = false;
+    /// The number of the place, from 1 on; 0 is the target folder.
+    quint64 number = 0;
   };
 
-  void takeOne(const QString& path, Use use, const QString& name) {
-    const auto before = uses_.find(path);
-    if (before == uses_.end()) {
-      uses_.insert(path, use);
-      return;
-    }
+  quint64 takeOne(quint64 folder, QString& part, Use use, const QString& name) {
+    const auto before = uses_.find({folder, part});
+    if (before == uses_.end()) return takeNew(folder, part, use);
+    part = before.key().part;
     if (before->isFolder != use.isFolder) {
       refuseEntry(ArchiveErrorCode::DuplicateName,
                   QStringLiteral("In the archive a file and a folder have the same name: \"%1\"."), name);
@@ -87,9 +102,21 @@ class TakenPlaces {
                   QStringLiteral("The archive holds two entries of the same name: \"%1\"."), name);
     }
     before->isNamed = before->isNamed || use.isNamed;
+    return before->number;
   }
 
-  QHash<QString, Use> uses_;
+  quint64 takeNew(quint64 folder, const QString& part, Use use) {
+    use.number = static_cast<quint64>(uses_.size()) + 1;
+    if (use.number > most_) {
+      refuse(ArchiveErrorCode::TooManyEntries,
+             QStringLiteral("The archive holds more than %1 files and folders.").arg(most_));
+    }
+    uses_.insert({folder, part}, use);
+    return use.number;
+  }
+
+  std::uint64_t most_;
+  QHash<PlaceKey, Use> uses_;
 };
 
 /// Adds up what the entries announce; every sum stays far below the largest number, since each step checks.
@@ -128,7 +155,7 @@ class Totals {
 
 ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits) {
   ArchivePlan plan;
-  TakenPlaces taken;
+  TakenPlaces taken(limits.entries);
   Totals totals(archive.length(), limits);
   const std::uint64_t count = archive.entryCount();
   if (count > limits.entries) {

@@ -11,6 +11,7 @@ namespace quorvin {
 
 /// How much an archive may ask for.
 struct ArchiveLimits {
+  /// Entries, and the folders that these only imply.
   std::uint64_t entries = 50'000;
   /// Bytes of all files together, unpacked.
   std::uint64_t bytes = std::uint64_t{4} << 30;
@@ -31,7 +32,7 @@ struct ArchivePlan {
 /// Looks at every entry of `archive`. Throws ArchiveError when one of them is
 /// not to be unpacked: for its name, because it is no regular file or folder, because it is encrypted or
 /// packed by an unknown method, because two have the same place, because they share packed bytes, or because
-/// there are more of them, or of their bytes, than `limits` allow.
+/// there are more of them, of their folders, or of their bytes, than `limits` allow.
 ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits);
 
 }  // namespace quorvin

@@ -1,7 +1,6 @@
 #include "net/archive_reader.h"
 
 #include "net/archive_error.h"
-#include "net/archive_tail.h"
 #include "platform/runtime_fault.h"
 
 #include <QFile>
@@ -66,7 +65,8 @@ void checkAnnounced(const QString& path, std::int64_t length, std::uint64_t most
 
 // Behind an archive that was written over a longer one stands the rest of that, with an end record of its own
 // that fits nothing any more.
-zip* openArchive(const QString& path, std::int64_t length, std::uint64_t mostEntries) {
+zip* openArchive(const QString& path, std::int64_t length, std::uint64_t mostEntries,
+                 const ArchivePause& pause) {
   checkAnnounced(path, length, mostEntries);
   try {
     return openFirstBytes(path, length);
@@ -74,7 +74,7 @@ zip* openArchive(const QString& path, std::int64_t length, std::uint64_t mostEnt
     const bool mayHaveLeftovers =
         error.code() == ArchiveErrorCode::NotAnArchive || error.code() == ArchiveErrorCode::Contradictory;
     if (!mayHaveLeftovers) throw;
-    const std::optional<std::int64_t> front = lengthOfArchiveAtFront(path, length);
+    const std::optional<std::int64_t> front = lengthOfArchiveAtFront(path, length, pause);
     if (!front) throw;
     checkAnnounced(path, *front, mostEntries);
     return openFirstBytes(path, *front);
@@ -111,14 +111,15 @@ QString textOfReadError(int code) {
 
 }  // namespace
 
-ArchiveReader::ArchiveReader(const QString& path, std::int64_t length, std::uint64_t mostEntries) {
+ArchiveReader::ArchiveReader(const QString& path, std::int64_t length, std::uint64_t mostEntries,
+                             const ArchivePause& pause) {
   const QFileInfo file(path);
   if (!file.isFile()) throw openingError(path, ZIP_ER_NOENT);
   length_ = length < 0 ? file.size() : std::min<std::int64_t>(length, file.size());
   // For the library a length of 0 stands for the whole file.
   if (length_ == 0) throw openingError(path, ZIP_ER_NOZIP);
   try {
-    archive_ = openArchive(path, length_, mostEntries);
+    archive_ = openArchive(path, length_, mostEntries, pause);
   } catch (const RuntimeFault&) {
     throw openingError(path, ZIP_ER_READ);
   }

@@ -1,6 +1,8 @@
 // Reading a zip archive.
 #pragma once
 
+#include "net/archive_tail.h"
+
 #include <QString>
 
 #include <cstddef>
@@ -32,8 +34,10 @@ class ArchiveReader {
  public:
   /// Opens the archive in the first `length` bytes of the file at `path`; all of them when `length` is
   /// negative. Throws ArchiveError when it cannot be read, is none, is damaged, cut or contradictory, holds a
-  /// name twice, or announces more than `mostEntries` entries.
-  ArchiveReader(const QString& path, std::int64_t length, std::uint64_t mostEntries);
+  /// name twice, or announces more than `mostEntries` entries. Of a damaged one the whole file may have to be
+  /// read; ArchiveStopped is thrown when `pause` ends that.
+  ArchiveReader(const QString& path, std::int64_t length, std::uint64_t mostEntries,
+                const ArchivePause& pause = {});
   ~ArchiveReader();
   ArchiveReader(const ArchiveReader&) = delete;
   ArchiveReader& operator=(const ArchiveReader&) = delete;

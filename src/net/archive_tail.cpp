@@ -1,5 +1,6 @@
 #include "net/archive_tail.h"
 
+#include "net/archive_error.h"
 #include "net/peer_archive_end.h"
 #include "net/zip_records.h"
 #include "platform/random_access_file.h"
@@ -51,14 +52,18 @@ std::uint64_t announcedEntries(const QString& path, std::int64_t length) {
   return most;
 }
 
-std::optional<std::int64_t> lengthOfArchiveAtFront(const QString& path, std::int64_t length) {
+std::optional<std::int64_t> lengthOfArchiveAtFront(const QString& path, std::int64_t length,
+                                                   const ArchivePause& pause) {
   const RandomAccessFile file(path);
   PeerArchiveEnd end;
   for (std::int64_t position = 0; position < length; position += kBlockSize) {
     const QByteArray block = bytesAt(file, position, std::min(kBlockSize, length - position));
     if (position == 0 && PeerArchiveEnd::canBeginWith(block) != true) return std::nullopt;
     const std::optional<qsizetype> last = end.feed(block);
-    if (!last) continue;
+    if (!last) {
+      if (pause && pause()) throw ArchiveStopped();
+      continue;
+    }
     const std::int64_t found = position + *last;
     if (found < length) return found;
     return std::nullopt;

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace quorvin {
@@ -13,9 +14,13 @@ namespace quorvin {
 /// numbers are to be known before. Throws RuntimeFault when the file cannot be read.
 std::uint64_t announcedEntries(const QString& path, std::int64_t length);
 
+/// Called every few milliseconds while a file is looked through; true ends that.
+using ArchivePause = std::function<bool()>;
+
 /// The length of the archive at the front of the file, when it ends before `length`: a shorter archive that
-/// was written over a longer one. Nothing when there is no such archive. Throws RuntimeFault when the file
-/// cannot be read.
-std::optional<std::int64_t> lengthOfArchiveAtFront(const QString& path, std::int64_t length);
+/// was written over a longer one. Nothing when there is no such archive. The whole file may have to be read.
+/// Throws RuntimeFault when it cannot be, and ArchiveStopped when `pause` ends it.
+std::optional<std::int64_t> lengthOfArchiveAtFront(const QString& path, std::int64_t length,
+                                                   const ArchivePause& pause);
 
 }  // namespace quorvin

@@ -16,11 +16,32 @@ constexpr std::size_t kBlockSize = std::size_t{1} << 16;
 constexpr int kEntriesPerTick = 16;
 constexpr std::uint64_t kFull = 100;
 
+/// The running number of the ticks, which goes on from the look at the archive to its unpacking.
+class Ticker {
+ public:
+  explicit Ticker(ArchiveEvents& events) : events_(events) {}
+
+  /// True when the work is to end.
+  bool tick() {
+    events_.idleTick(++ticks_);
+    return events_.stopRequested();
+  }
+
+ private:
+  ArchiveEvents& events_;
+  std::int32_t ticks_ = 0;
+};
+
 class Unpacking {
  public:
   Unpacking(const ArchiveReader& archive, const ArchivePlan& plan, const QString& targetFolder,
-            ArchiveEvents& events)
-      : archive_(archive), plan_(plan), target_(targetFolder), events_(events), buffer_(kBlockSize) {}
+            ArchiveEvents& events, Ticker& ticker)
+      : archive_(archive),
+        plan_(plan),
+        target_(targetFolder),
+        events_(events),
+        ticker_(ticker),
+        buffer_(kBlockSize) {}
 
   UnpackingOutcome run() {
     events_.percentDone(0);
@@ -58,18 +79,17 @@ class Unpacking {
     const std::uint64_t percent = plan_.bytes == 0 ? 0 : done_ * kFull / plan_.bytes;
     if (percent != shownPercent_) events_.percentDone(static_cast<double>(percent));
     shownPercent_ = percent;
-    events_.idleTick(++ticks_);
-    isStopped_ = events_.stopRequested();
+    isStopped_ = ticker_.tick();
   }
 
   const ArchiveReader& archive_;
   const ArchivePlan& plan_;
   FolderWriter target_;
   ArchiveEvents& events_;
+  Ticker& ticker_;
   std::vector<char> buffer_;
   std::uint64_t done_ = 0;
   std::uint64_t shownPercent_ = 0;
-  std::int32_t ticks_ = 0;
   int entries_ = 0;
   int filesInPlace_ = 0;
   bool isStopped_ = false;
@@ -82,8 +102,8 @@ QString afterFailure(int filesInPlace) {
 }
 
 UnpackingOutcome unpackEntries(const ArchiveReader& archive, const ArchivePlan& plan,
-                               const QString& targetFolder, ArchiveEvents& events) {
-  Unpacking unpacking(archive, plan, targetFolder, events);
+                               const QString& targetFolder, ArchiveEvents& events, Ticker& ticker) {
+  Unpacking unpacking(archive, plan, targetFolder, events, ticker);
   try {
     return unpacking.run();
   } catch (const ArchiveError& error) {
@@ -95,13 +115,17 @@ UnpackingOutcome unpackEntries(const ArchiveReader& archive, const ArchivePlan& 
 
 UnpackingOutcome unpackArchive(const QString& archivePath, const QString& targetFolder, ArchiveEvents& events,
                                const ArchiveLimits& limits, std::int64_t archiveLength) {
+  Ticker ticker(events);
   try {
-    const ArchiveReader archive(archivePath, archiveLength, limits.entries);
+    const ArchiveReader archive(archivePath, archiveLength, limits.entries,
+                                [&ticker] { return ticker.tick(); });
     const ArchivePlan plan = planOf(archive, limits);
-    return unpackEntries(archive, plan, targetFolder, events);
+    return unpackEntries(archive, plan, targetFolder, events, ticker);
   } catch (const ArchiveError& error) {
     events.archiveError(static_cast<std::int32_t>(error.code()), error.description());
     return UnpackingOutcome::Failed;
+  } catch (const ArchiveStopped&) {
+    return UnpackingOutcome::Stopped;
   }
 }
 

@@ -7,6 +7,9 @@
 
 namespace quorvin {
 
+/// The end of a bar that shows per cent.
+inline constexpr std::int32_t kFullBar = 100;
+
 /// What unpacking shows, and how it lets the window live on.
 class ArchiveView {
  public:

@@ -2,6 +2,8 @@
 
 #include "net/peer_message.h"
 
+#include <QScopedValueRollback>
+
 #include <utility>
 
 namespace quorvin {
@@ -32,7 +34,7 @@ void PeerExchange::getLists(const QString& peer) {
   if (address.host.isEmpty()) {
     messages_.inform(
         QStringLiteral("\"%1\" is not the name or address of a computer.").arg(shownPeerText(peer)));
-  } else if (client_.isRunning() || outcome_) {
+  } else if (isBusy()) {
     messages_.inform(QStringLiteral("Lists are being got already."));
   } else {
     client_.start(address);
@@ -51,10 +53,15 @@ void PeerExchange::conversationEnded(const PeerOutcome& outcome) {
 void PeerExchange::offerWhenPossible() {
   if (state_.QuitPending || !outcome_ || (hooks_.mayAsk && !hooks_.mayAsk())) return;
   offer_.stop();
-  const PeerOutcome outcome = *outcome_;
-  const bool added = offerReceivedLists(outcome, state_, messages_, hooks_.unpack);
-  outcome_.reset();
+  // Events run meanwhile, and may come here again.
+  const PeerOutcome outcome = *std::exchange(outcome_, std::nullopt);
+  bool added = false;
+  {
+    const QScopedValueRollback offering(isOffering_, true);
+    added = offerReceivedLists(outcome, state_, messages_, hooks_.unpack);
+  }
   if (added) Q_EMIT offlineSourcesAdded();
+  Q_EMIT outcomeDealtWith();
 }
 
 }  // namespace quorvin

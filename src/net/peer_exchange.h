@@ -46,7 +46,7 @@ class PeerExchange : public QObject {
   PeerClient& client() { return client_; }
 
   /// Gets all lists of the peer that the user has named, "host" or "host:port". A name that makes no sense is
-  /// told, and so is that lists are being got already.
+  /// told, and so is that lists are being got already, or have come and are not dealt with yet.
   void getLists(const QString& peer);
 
  Q_SIGNALS:
@@ -54,12 +54,15 @@ class PeerExchange : public QObject {
   void gettingBegan(const QString& peer);
   /// No more lists are coming. What came is told and offered next.
   void gettingEnded();
+  /// What came has been told and offered: other lists may be got.
+  void outcomeDealtWith();
   /// Offline sources have been added.
   void offlineSourcesAdded();
 
  private:
   void conversationEnded(const PeerOutcome& outcome);
   void offerWhenPossible();
+  bool isBusy() const { return client_.isRunning() || outcome_ || isOffering_; }
 
   ProgramState& state_;
   MessageBoxes& messages_;
@@ -69,7 +72,9 @@ class PeerExchange : public QObject {
   PeerSharing sharing_;
   PeerClient client_;
   QTimer offer_;
+  /// What came of a conversation, until it is told and offered.
   std::optional<PeerOutcome> outcome_;
+  bool isOffering_ = false;
 };
 
 }  // namespace quorvin

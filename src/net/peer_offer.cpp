@@ -46,22 +46,27 @@ QString question(const PeerOutcome& outcome) {
          QStringLiteral("Add what came to the offline sources, so that the next search goes through it?");
 }
 
+QString leftOut(std::size_t count) {
+  const QString were = count == 1 ? QStringLiteral("was") : QStringLiteral("were");
+  return QStringLiteral("%1 %2 left out, since unpacking was cancelled. The archives stay in the folder.")
+      .arg(countOfLists(count), were);
+}
+
+QString withFullStop(const QString& text) {
+  return text.endsWith(u'.') ? text : text + u'.';
+}
+
 /// Adds the lists of one conversation.
 class ListAdder {
  public:
   ListAdder(const QString& peer, ProgramState& state) : peer_(peer), state_(state) {}
 
-  void add(const ReceivedList& list, const UnpackArchive& unpack) {
-    const QFileInfo archive(list.archivePath);
-    const QString folder = freePath(archive.absolutePath() + u'/', archive.completeBaseName(), {});
-    try {
-      if (!QDir().mkdir(folder)) throw RuntimeFault(FaultNumber::PathFileAccess);
-      unpack(list.archivePath, withTrailingSeparator(QDir::toNativeSeparators(folder), nativePathStyle()));
-      addListings(list, folder);
-    } catch (const RuntimeFault& fault) {
-      // Only if nothing was unpacked into it.
-      QDir().rmdir(folder);
-      problems_ += QStringLiteral("\"%1\": %2.").arg(shownPeerText(list.name), fault.description());
+  /// Up to the end, or until the user ends it or the program closes.
+  void addAll(const std::vector<ReceivedList>& lists, const UnpackArchive& unpack) {
+    for (std::size_t i = 0; i < lists.size() && !state_.QuitPending; ++i) {
+      if (add(lists[i], unpack)) continue;
+      problems_ += leftOut(lists.size() - i);
+      return;
     }
   }
 
@@ -69,6 +74,27 @@ class ListAdder {
   int addedCount() const { return addedCount_; }
 
  private:
+  /// False when the user ends the unpacking.
+  bool add(const ReceivedList& list, const UnpackArchive& unpack) {
+    const QFileInfo archive(list.archivePath);
+    const QString folder = freePath(archive.absolutePath() + u'/', archive.completeBaseName(), {});
+    try {
+      if (!QDir().mkdir(folder)) throw RuntimeFault(FaultNumber::PathFileAccess);
+      const QString target = withTrailingSeparator(QDir::toNativeSeparators(folder), nativePathStyle());
+      if (!unpack(list.archivePath, target)) {
+        QDir(folder).removeRecursively();
+        return false;
+      }
+      addListings(list, folder);
+    } catch (const RuntimeFault& fault) {
+      // Only if nothing was unpacked into it.
+      QDir().rmdir(folder);
+      problems_ +=
+          QStringLiteral("\"%1\": %2").arg(shownPeerText(list.name), withFullStop(fault.description()));
+    }
+    return true;
+  }
+
   void addListings(const ReceivedList& list, const QString& folder) {
     const QStringList listings = listingsIn(folder);
     if (listings.isEmpty()) {
@@ -130,9 +156,7 @@ bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, Message
   }
   if (!messages.askYesNo(question(outcome))) return false;
   ListAdder adder(shownPeerText(outcome.peer), state);
-  for (const ReceivedList& list : outcome.received) {
-    if (!state.QuitPending) adder.add(list, unpack);
-  }
+  adder.addAll(outcome.received, unpack);
   if (!adder.problems().isEmpty() && !state.QuitPending) messages.inform(shownProblems(adder.problems()));
   return adder.addedCount() > 0;
 }

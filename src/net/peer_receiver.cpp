@@ -79,8 +79,7 @@ void PeerReceiver::archiveCut(std::int64_t length) {
   cutLength_ = length;
 }
 
-bool PeerReceiver::requestLost(const QByteArray& name) {
-  const bool isFirstTime = askedAgain_.insert(name).second;
+bool PeerReceiver::requestLost(const QByteArray& name, bool isFirstTime) {
   if (isFirstTime && ask(name)) return true;
   name_ = decodeSystemText(name);
   archiveMissing();

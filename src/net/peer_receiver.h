@@ -10,7 +10,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <set>
 #include <vector>
 
 namespace quorvin {
@@ -73,7 +72,7 @@ class PeerReceiver : public PeerStreamSink {
   void archiveWhole() override;
   void archiveMissing() override;
   void archiveCut(std::int64_t length) override;
-  bool requestLost(const QByteArray& name) override;
+  bool requestLost(const QByteArray& name, bool isFirstTime) override;
 
  private:
   bool ask(const QByteArray& name);
@@ -88,7 +87,6 @@ class PeerReceiver : public PeerStreamSink {
   std::vector<ReceivedList> received_;
   QStringList problems_;
   bool queueIsFull_ = false;
-  std::set<QByteArray> askedAgain_;
   /// The list that is coming, and its archive from its first byte on.
   QString name_;
   std::unique_ptr<PeerReceivedArchive> archive_;

@@ -32,9 +32,7 @@ PeerSharing::PeerSharing(const ProgramState& state, MessageBoxes& messages, cons
       state_(state),
       messages_(messages),
       processEvents_(std::move(processEvents)),
-      server_(state, locale, limits) {
-  connect(&server_, &PeerServer::faulted, this, &PeerSharing::faulted);
-}
+      server_(state, locale, limits) {}
 
 bool PeerSharing::start(std::uint16_t port) {
   if (isSharing()) return true;

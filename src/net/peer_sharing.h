@@ -44,10 +44,6 @@ class PeerSharing : public QObject {
   bool isPacking() const { return isPacking_; }
   const PeerServer& server() const { return server_; }
 
- Q_SIGNALS:
-  /// A caller's message could not be answered; nothing needs to be done.
-  void faulted(const QString& description);
-
  private:
   QStringList packAll();
   QStringList packEach();

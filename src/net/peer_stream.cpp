@@ -84,7 +84,7 @@ bool PeerStream::takeName() {
   buffer_.remove(0, end + kLineEnd.size());
   ++namedLists_;
   if (!sink_.listNamed(name)) return true;
-  expected_.push_back(name);
+  expected_.push_back({name});
   if (expected_.size() <= kMostJoinedRequests) expectedChanged();
   return true;
 }
@@ -117,7 +117,7 @@ bool PeerStream::skipToAnnouncement() {
 }
 
 void PeerStream::announce(qsizetype length) {
-  const QByteArray name = expected_.front();
+  const QByteArray name = expected_.front().name;
   expected_.pop_front();
   expectedChanged();
   const QByteArray message = buffer_.first(length);
@@ -132,9 +132,9 @@ void PeerStream::announce(qsizetype length) {
 
 void PeerStream::askAgain(qsizetype requests) {
   for (qsizetype i = 0; i < requests; ++i) {
-    const QByteArray name = expected_.front();
+    const Expected lost = expected_.front();
     expected_.pop_front();
-    if (sink_.requestLost(name)) expected_.push_back(name);
+    if (sink_.requestLost(lost.name, !lost.wasAskedAgain)) expected_.push_back({lost.name, true});
   }
   expectedChanged();
 }
@@ -170,7 +170,7 @@ void PeerStream::giveArchiveBytes(QByteArrayView bytes) {
 /// archive turn out to be cut off, it was the end of it.
 void PeerStream::lookForNextAnnouncement(QByteArrayView bytes) {
   if (nextAnnouncement_ || expected_.empty()) return;
-  const QByteArray wanted = announcementMessage(expected_.front()) + "PK";
+  const QByteArray wanted = announcementMessage(expected_.front().name) + "PK";
   const std::int64_t tailStart = archiveLength_ - archiveTail_.size();
   archiveTail_.append(bytes.data(), bytes.size());
   const qsizetype at = archiveTail_.indexOf(wanted);
@@ -207,7 +207,8 @@ void PeerStream::expectedChanged() {
   possible_.clear();
   QByteArray joined;
   for (std::size_t i = 0; i < std::min(expected_.size(), kMostJoinedRequests); ++i) {
-    joined += i == 0 ? expected_[i] : listRequestMessage(expected_[i]);
+    const QByteArray& name = expected_[i].name;
+    joined += i == 0 ? name : listRequestMessage(name);
     possible_.push_back(announcementMessage(joined));
   }
 }

@@ -34,8 +34,9 @@ class PeerStreamSink {
   /// messages, and are to be fed once more, before any others.
   virtual void archiveCut(std::int64_t length) = 0;
   /// The server took several requests that reached it at once for a single one; these lists must be asked for
-  /// again. True for one that is going to be.
-  virtual bool requestLost(const QByteArray& name) = 0;
+  /// again. `isFirstTime` is false when the request for this very list was lost before. True for a list that
+  /// is going to be asked for.
+  virtual bool requestLost(const QByteArray& name, bool isFirstTime) = 0;
 };
 
 /// The order of a conversation is known, and that takes the place of a frame: the identity, the names of the
@@ -90,6 +91,11 @@ class PeerStream {
   void announce(qsizetype length);
   void askAgain(qsizetype requests);
 
+  /// A list that has been asked for. Several may have the same name.
+  struct Expected {
+    QByteArray name;
+    bool wasAskedAgain = false;
+  };
   struct Match {
     /// How many requests the announcement answers: one, or several that were joined.
     qsizetype requests = 0;
@@ -102,8 +108,8 @@ class PeerStream {
   PeerStreamSink& sink_;
   Part part_ = Part::Opening;
   QByteArray buffer_;
-  /// The names whose announcements have not come yet.
-  std::deque<QByteArray> expected_;
+  /// Those whose announcements have not come yet.
+  std::deque<Expected> expected_;
   /// The announcements that may come next: the one that answers the first name, and those that answer the
   /// first few as if they were one.
   std::vector<QByteArray> possible_;

@@ -8,8 +8,7 @@
 namespace quorvin {
 
 /// Unpacks an archive with `Progress` shown, whose `CancelButton` ends it. What is wrong with the archive is
-/// thrown as fault 75 with its description, and so is that the user cancelled. Both must outlive the
-/// function.
+/// thrown as fault 75 with its description. Both must outlive the function.
 UnpackArchive unpackingShownIn(ProgramState& state, ArchiveView& view);
 
 }  // namespace quorvin

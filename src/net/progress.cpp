@@ -1,5 +1,6 @@
 #include "net/progress.h"
 
+#include "net/archive_view.h"
 #include "net/progress_layout.h"
 
 #include <QCloseEvent>
@@ -13,7 +14,6 @@ namespace quorvin {
 namespace {
 
 constexpr int kWidthInCharacters = 72;
-constexpr int kFullBar = 100;
 
 QProgressBar* makeBar() {
   auto* bar = new QProgressBar;

@@ -17,7 +17,6 @@ namespace quorvin {
 namespace {
 
 constexpr qsizetype kChunkSize = 1024;
-constexpr std::int32_t kFullBar = 100;
 /// A server's copy must be newer by more minutes than this.
 constexpr std::int64_t kSameMinutes = 1;
 /// 1 January 1980, older than any copy on a server.
@@ -171,8 +170,9 @@ void WebUpdate::unpack() {
   view_.setBarMaximum(kFullBar);
   view_.setBar(0);
   view_.setStatus(QStringLiteral("Decompressing..."));
-  ArchiveDisplay display(state_, view_, boxes_);
+  ArchiveDisplay display(state_, view_);
   unpackArchive(archivePath(), localFolder_, display, {}, archiveLength_);
+  display.tellError(boxes_);
   if (!isClosing()) state_.AbortRequested = false;
 }
 

@@ -7,8 +7,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <set>
-
 namespace quorvin::test {
 
 namespace {
@@ -37,9 +35,9 @@ class StreamLog : public PeerStreamSink {
     lines.push_back("cut at " + std::to_string(length));
     rest = archive.mid(static_cast<qsizetype>(length));
   }
-  bool requestLost(const QByteArray& name) override {
-    lines.push_back("lost " + name.toStdString());
-    return asked.insert(name).second;
+  bool requestLost(const QByteArray& name, bool isFirstTime) override {
+    lines.push_back((isFirstTime ? "lost " : "lost again ") + name.toStdString());
+    return isFirstTime;
   }
 
   QByteArray identity;
@@ -47,7 +45,6 @@ class StreamLog : public PeerStreamSink {
   std::vector<QByteArray> archives;
   QByteArray archive;
   QByteArray rest;
-  std::set<QByteArray> asked;
 };
 
 struct Reading {
@@ -197,6 +194,23 @@ TEST_F(PeerStreamTest, RequestsThatWereTakenForOneAreLost) {
   reading.stream.feed(names_ + "List: AGetList: B.zip");
   EXPECT_THAT(reading.log.lines, ElementsAre("name A", "name B", "lost A", "lost B"));
   reading.stream.feed("List: A.zip" + first_ + "List: B.zip" + second_);
+  EXPECT_THAT(reading.log.archives, ElementsAre(first_, second_));
+  EXPECT_TRUE(reading.stream.isComplete());
+}
+
+TEST_F(PeerStreamTest, ARequestIsOnlyLostTwice) {
+  Reading reading;
+  reading.stream.feed(names_ + "List: AGetList: B.zip" + "List: AGetList: B.zip");
+  EXPECT_THAT(reading.log.lines,
+              ElementsAre("name A", "name B", "lost A", "lost B", "lost again A", "lost again B"));
+  EXPECT_TRUE(reading.stream.isComplete());
+}
+
+TEST_F(PeerStreamTest, EachOfTwoListsOfTheSameNameIsAskedForAgain) {
+  Reading reading;
+  reading.stream.feed("Lists:\r\nA\r\nA\r\nList: AGetList: A.zip");
+  EXPECT_THAT(reading.log.lines, ElementsAre("name A", "name A", "lost A", "lost A"));
+  reading.stream.feed("List: A.zip" + first_ + "List: A.zip" + second_);
   EXPECT_THAT(reading.log.archives, ElementsAre(first_, second_));
   EXPECT_TRUE(reading.stream.isComplete());
 }
