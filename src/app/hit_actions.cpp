@@ -41,29 +41,29 @@ HitActions::HitActions(const ProgramState& state, Shell& shell, MessageBoxes& me
     : state_(state), shell_(shell), messages_(messages), style_(style), lookUp_(std::move(lookUp)) {}
 
 /// What is known when a fault is thrown stands in `asFarAsKnown`.
-HitPath HitActions::find(const HitRow& hit, HitPath& asFarAsKnown) const {
+HitPath HitActions::find(const HitRow& hit, const FileLookUp& lookUp, HitPath& asFarAsKnown) const {
   asFarAsKnown.name = hit.name;
   const std::optional<QString> folder = folderOfHit(state_, hit, style_);
   if (!folder) return {};
   asFarAsKnown.folder = *folder;
-  const QString name = fileOfEntry(*folder, hit.name, style_, lookUp_);
+  const QString name = fileOfEntry(*folder, hit.name, style_, lookUp);
   return name.isEmpty() ? HitPath{} : HitPath{*folder, name};
 }
 
 HitPath HitActions::resolve(const HitRow& hit) const {
   HitPath asFarAsKnown;
   try {
-    return find(hit, asFarAsKnown);
+    return find(hit, lookUp_, asFarAsKnown);
   } catch (const RuntimeFault& fault) {
     tellFault(fault, asFarAsKnown);
     return {};
   }
 }
 
-HitPath HitActions::resolveQuietly(const HitRow& hit) const {
+HitPath HitActions::resolveQuietly(const HitRow& hit, const FileLookUp& lookUp) const {
   HitPath asFarAsKnown;
   try {
-    return find(hit, asFarAsKnown);
+    return find(hit, lookUp, asFarAsKnown);
   } catch (const RuntimeFault&) {
     return {};
   }

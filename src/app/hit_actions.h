@@ -35,8 +35,8 @@ class HitActions {
 
   /// The file of a hit; empty when it cannot be resolved.
   HitPath resolve(const HitRow& hit) const;
-  /// The same without a message: a fault is one more way of not being resolved.
-  HitPath resolveQuietly(const HitRow& hit) const;
+  /// The same without a message, by a look-up of the caller's: a fault is one more way of not being resolved.
+  HitPath resolveQuietly(const HitRow& hit, const FileLookUp& lookUp) const;
 
   /// Opens the file.
   void launch(const HitRow& hit) const;
@@ -48,7 +48,7 @@ class HitActions {
  private:
   template <typename Action>
   void act(const HitRow& hit, Action&& action) const;
-  HitPath find(const HitRow& hit, HitPath& asFarAsKnown) const;
+  HitPath find(const HitRow& hit, const FileLookUp& lookUp, HitPath& asFarAsKnown) const;
   void tellFault(const RuntimeFault& fault, const HitPath& path) const;
   void enqueueFile(const HitPath& path) const;
 

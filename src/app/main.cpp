@@ -1,4 +1,5 @@
 // The program with the window.
+#include "app/enqueue_setting.h"
 #include "app/main_application.h"
 #include "app/search_form.h"
 #include "app/shutdown.h"
@@ -34,12 +35,6 @@ StartUpConditions conditionsOfThisRun(const QLocale& locale) {
   return conditions;
 }
 
-/// Read anew each time, so that a player that was set while the program runs is taken.
-QString enqueueCommand(const SettingsStore& settings, const ProgramState& state) {
-  return settings.read(state.RegKey, QString::fromUtf16(kSettingsSection), QStringLiteral("EnqueueCommand"),
-                       QString());
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -54,7 +49,7 @@ int main(int argc, char** argv) {
   ImageStore images(ImageStore::defaultOptions());
   DesktopShell shell([&] { return enqueueCommand(settings, state); });
   SearchForm form(state, messages, shell, locale, &images);
-  StartUp startUp(state, settings, messages, form, &form.dataFileExtraction());
+  StartUp startUp(state, settings, messages, form, form.dataFileExtraction());
   startUp.Form_Load(conditionsOfThisRun(locale));
   Shutdown shutdown(state, settings, messages, form, locale);
   form.setUnloadHandler([&shutdown] { shutdown.Form_Unload(); });

@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quorvin {
 
@@ -147,14 +149,19 @@ void SearchForm::ReScan_Click() {
 }
 
 void SearchForm::startRefresh() {
-  if (state_.RescanRunning) return;
+  refreshAgain_ = true;
+  if (!menus_.ReScan->isEnabled()) return;
   menus_.ReScan->setEnabled(false);
-  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+  const auto afterwards = qScopeGuard([this] { menus_.ReScan->setEnabled(true); });
+  while (std::exchange(refreshAgain_, false) && !state_.ShuttingDown) refreshOnce();
+}
+
+void SearchForm::refreshOnce() {
+  refreshDisplay_.setBusyPointer();
   reportFaults(runMessages_, QStringLiteral("refreshing the local lists"), [&] {
     quorvin::refreshLocalLists(state_, refreshDisplay_, runMessages_, locale_, versionCaption());
   });
   refreshDisplay_.setDefaultPointer();
-  menus_.ReScan->setEnabled(true);
   network_.peers().sharing().sourcesRefreshed();
 }
 
@@ -344,7 +351,6 @@ void SearchForm::enableSndQTime() {
 /// Once nothing runs any more: the end of the program.
 void SearchForm::leave() {
   unloadOtherWindows();
-  network_.peers().SndQTime().disable();
   close();
   QCoreApplication::quit();
 }
@@ -355,18 +361,6 @@ void SearchForm::setAddLocalEnabled(bool enabled) {
 
 void SearchForm::setEditOfflineEnabled(bool enabled) {
   menus_.EditOffline->setEnabled(enabled);
-}
-
-void SearchForm::setReScanEnabled(bool enabled) {
-  menus_.ReScan->setEnabled(enabled && !state_.RescanRunning);
-}
-
-void SearchForm::setBusyPointer() {
-  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
-}
-
-void SearchForm::setDefaultPointer() {
-  refreshDisplay_.setDefaultPointer();
 }
 
 void SearchForm::refreshLocalLists() {

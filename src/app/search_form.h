@@ -47,7 +47,8 @@ class SearchForm : public QMainWindow,
   void sourcesChanged();
 
   /// Runs a local list refresh to its end, with `ReScan` disabled and the mouse pointer told of work; events
-  /// run meanwhile. Does nothing while one is running.
+  /// run meanwhile. While one is running, another follows it (unless the program is closing by then), and the
+  /// call returns at once.
   void startRefresh();
 
   /// What shows the picture of a hit; without one a message says that there is none.
@@ -110,9 +111,6 @@ class SearchForm : public QMainWindow,
   // For the editors.
   void setAddLocalEnabled(bool enabled) override;
   void setEditOfflineEnabled(bool enabled) override;
-  void setReScanEnabled(bool enabled) override;
-  void setBusyPointer() override;
-  void setDefaultPointer() override;
   void refreshLocalLists() override;
 
   void takeInitialPlace();
@@ -123,6 +121,7 @@ class SearchForm : public QMainWindow,
   void Find_Click();
   void WebUpdate_Click();
   void ReScan_Click();
+  void refreshOnce();
   void stopRun();
   bool isRunning() const;
   void layOut();
@@ -147,6 +146,8 @@ class SearchForm : public QMainWindow,
   SearchFormNetwork network_;
   std::function<void()> unloadHandler_;
   bool endRequested_ = false;
+  /// Wished for while a refresh was running.
+  bool refreshAgain_ = false;
   /// The outer size asked for before the window had a frame.
   std::optional<QSize> outerSizeWished_;
 };

@@ -1,6 +1,7 @@
 #include "app/search_form_hits.h"
 
 #include "app/fault_report.h"
+#include "app/folders_read_once.h"
 #include "app/hit_list_selection.h"
 
 #include <QClipboard>
@@ -84,9 +85,11 @@ void SearchFormHits::CopyRows_Click() {
 }
 
 void SearchFormHits::CopyPaths_Click() {
+  FoldersReadOnce folders;
+  const FileLookUp lookUp = [&folders](const QString& pattern) { return folders.find(pattern); };
   QStringList lines;
   for (const int row : rowsToCopy()) {
-    const HitPath path = actions_.resolveQuietly(table_.row(row));
+    const HitPath path = actions_.resolveQuietly(table_.row(row), lookUp);
     if (!path.isEmpty()) lines.append(path.fullPath());
   }
   copyLines(lines);

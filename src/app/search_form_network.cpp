@@ -14,6 +14,7 @@ SearchFormNetwork::SearchFormNetwork(ProgramState& state, MessageBoxes& messages
                                      const UpdateWindows& windows, const SearchFormMenus& menus,
                                      const QLocale& locale, std::function<bool()> isAtWork)
     : state_(state),
+      messages_(messages),
       owner_(windows.mainWindow),
       menus_(menus),
       locale_(locale),
@@ -25,22 +26,32 @@ SearchFormNetwork::SearchFormNetwork(ProgramState& state, MessageBoxes& messages
   connectPeers();
 }
 
-SearchFormNetwork::~SearchFormNetwork() = default;
-
 PeerHooks SearchFormNetwork::peerHooks() {
   PeerHooks hooks;
   hooks.processEvents = [] { QCoreApplication::processEvents(); };
-  hooks.unpack = unpackingShownIn(state_, display_);
+  hooks.unpack = [this, unpack = unpackingShownIn(state_, display_)](const QString& archivePath,
+                                                                     const QString& targetFolder) {
+    const QScopedValueRollback taken(isProgressTaken_, true);
+    return unpack(archivePath, targetFolder);
+  };
   hooks.mayAsk = [this] {
-    return !state_.QuitPending && QApplication::activeModalWidget() == nullptr && !isUpdating_ &&
+    return !state_.QuitPending && QApplication::activeModalWidget() == nullptr && !isProgressTaken_ &&
            !isAtWork_();
   };
   return hooks;
 }
 
 void SearchFormNetwork::WebUpdate_Click() {
-  const QScopedValueRollback updating(isUpdating_, true);
+  if (isProgressTaken_) {
+    return messages_.inform(QStringLiteral("An update can begin once the unpacking has ended."));
+  }
+  const QScopedValueRollback taken(isProgressTaken_, true);
   webUpdate_.WebUpdate_Click();
+}
+
+void SearchFormNetwork::extractArchive(const QString& archivePath, const QString& targetFolder) {
+  const QScopedValueRollback taken(isProgressTaken_, true);
+  dataFile_.extractArchive(archivePath, targetFolder);
 }
 
 void SearchFormNetwork::connectPeers() {
@@ -51,9 +62,10 @@ void SearchFormNetwork::connectPeers() {
   QObject::connect(&peers_.client(), &PeerClient::progressed, &peers_,
                    [this] { peerProgress().showFigures(peers_.client().figures()); });
   QObject::connect(&peers_, &PeerExchange::gettingEnded, &peers_, [this] {
-    menus_.GetLists->setEnabled(true);
     if (peerProgress_) peerProgress_->hide();
   });
+  QObject::connect(&peers_, &PeerExchange::outcomeDealtWith, &peers_,
+                   [this] { menus_.GetLists->setEnabled(true); });
 }
 
 PeerProgress& SearchFormNetwork::peerProgress() {

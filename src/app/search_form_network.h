@@ -3,6 +3,7 @@
 
 #include "app/search_form_menus.h"
 #include "net/archive_data_file.h"
+#include "net/archive_extraction.h"
 #include "net/http_network_transfer.h"
 #include "net/peer_exchange.h"
 #include "net/peer_progress.h"
@@ -18,16 +19,17 @@
 
 namespace quorvin {
 
-/// Wires the network's features to the windows. Nothing goes on until the user asks for it.
-class SearchFormNetwork {
+/// Wires the network's features to the windows. Nothing goes on until the user asks for it. The update, the
+/// unpacking of received lists and that of the main data file show the same `Progress` and are cancelled by
+/// the same request, so only one of them goes on at a time.
+class SearchFormNetwork : private ArchiveExtraction {
  public:
   /// Everything must outlive the object; the main window owns the windows that are opened. `isAtWork` tells
-  /// whether a search or a refresh runs: lists that a peer sent wait for its end, since unpacking them shows
-  /// the same `Progress` and is cancelled by the same request.
+  /// whether a search or a refresh runs: lists that a peer sent wait for its end.
   SearchFormNetwork(ProgramState& state, MessageBoxes& messages, const UpdateWindows& windows,
                     const SearchFormMenus& menus, const QLocale& locale, std::function<bool()> isAtWork);
-  ~SearchFormNetwork();
 
+  /// While one of the others shows `Progress`, it only says so.
   void WebUpdate_Click();
 
   /// Connects ("true") or disconnects the listener; the menu item shows what came of it.
@@ -36,23 +38,25 @@ class SearchFormNetwork {
   void GetLists_Click();
 
   /// What start-up unpacks the main data file with.
-  ArchiveExtraction& dataFileExtraction() { return dataFile_; }
+  ArchiveExtraction& dataFileExtraction() { return *this; }
   PeerExchange& peers() { return peers_; }
 
   /// The program ends: no more connections, and no more windows.
   void unload();
 
  private:
+  void extractArchive(const QString& archivePath, const QString& targetFolder) override;
   PeerProgress& peerProgress();
   PeerHooks peerHooks();
   void connectPeers();
 
   ProgramState& state_;
+  MessageBoxes& messages_;
   QWidget& owner_;
   const SearchFormMenus& menus_;
   QLocale locale_;
   std::function<bool()> isAtWork_;
-  bool isUpdating_ = false;
+  bool isProgressTaken_ = false;
   ProgressDisplay display_;
   DataFileExtraction dataFile_;
   HttpNetworkTransfer web_;

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace quorvin {
 
 namespace {
@@ -104,8 +106,12 @@ void RefreshDisplay::showSource(int row, int) {
   share_.beginSource(row);
 }
 
+void RefreshDisplay::setBusyPointer() {
+  if (!std::exchange(isPointerBusy_, true)) QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+}
+
 void RefreshDisplay::setDefaultPointer() {
-  while (QGuiApplication::overrideCursor()) QGuiApplication::restoreOverrideCursor();
+  if (std::exchange(isPointerBusy_, false)) QGuiApplication::restoreOverrideCursor();
 }
 
 void RefreshDisplay::showErrorLog(const QString& log) {

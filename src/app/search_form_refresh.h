@@ -37,6 +37,9 @@ class RefreshDisplay : public RefreshView {
   void refreshBegins() override;
   void refreshEnded() override;
   void showSource(int row, int count) override;
+  /// Sets the mouse pointer, over the whole program, to the arrow with the hourglass.
+  void setBusyPointer();
+  /// Takes back setBusyPointer(); who else has set a pointer keeps it.
   void setDefaultPointer() override;
   void showErrorLog(const QString& log) override;
 
@@ -50,6 +53,7 @@ class RefreshDisplay : public RefreshView {
   QPointer<Progress> progress_;
   bool isClosed_ = false;
   bool isRunning_ = false;
+  bool isPointerBusy_ = false;
   QString status_;
   IndexCounts counts_;
   RefreshShare share_;

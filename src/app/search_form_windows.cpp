@@ -3,7 +3,6 @@
 #include "app/fault_report.h"
 #include "app/version.h"
 #include "help/help_files.h"
-#include "platform/file_lookup.h"
 #include "platform/standard_folders.h"
 
 namespace quorvin {
@@ -14,7 +13,6 @@ OptionsConditions optionsConditions(const QLocale& locale) {
   OptionsConditions conditions;
   conditions.locale = locale;
   conditions.programFolder = [] { return programFolder(); };
-  conditions.holdsFiles = [](const QString& pattern) { return ordinaryFileExists(pattern); };
   return conditions;
 }
 

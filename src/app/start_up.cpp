@@ -9,7 +9,7 @@
 namespace quorvin {
 
 StartUp::StartUp(ProgramState& state, const SettingsStore& store, MessageBoxes& boxes, StartUpView& view,
-                 ArchiveExtraction* extraction)
+                 ArchiveExtraction& extraction)
     : state_(state), store_(store), boxes_(boxes), view_(view), extraction_(extraction) {}
 
 void StartUp::Form_Load(const StartUpConditions& conditions) {
@@ -39,7 +39,9 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   }
 
   loadSourceLists(state_);
-  if (dataFileIsOnlyInArchive()) prepareDataFile();
+  if (dataFileIsOnlyInArchive()) {
+    extraction_.extractArchive(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
+  }
   view_.processEvents();
 }
 
@@ -63,16 +65,6 @@ bool StartUp::dataFileIsOnlyInArchive() const {
   if (state_.TextFile.isEmpty() || state_.ArchiveFile.isEmpty()) return false;
   return !ordinaryFileExists(state_.LocalFolder + state_.TextFile) &&
          ordinaryFileExists(state_.LocalFolder + state_.ArchiveFile);
-}
-
-void StartUp::prepareDataFile() {
-  if (extraction_ != nullptr) {
-    extraction_->extractArchive(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
-    return;
-  }
-  boxes_.inform(QStringLiteral("The archive \"%1\" is there, but this version cannot unpack it. "
-                               "Nothing was changed.")
-                    .arg(state_.ArchiveFile));
 }
 
 }  // namespace quorvin

@@ -46,9 +46,8 @@ struct StartUpConditions {
 /// outlive the object.
 class StartUp {
  public:
-  /// `extraction` may be null: then an archive that ought to be unpacked is only told of.
   StartUp(ProgramState& state, const SettingsStore& store, MessageBoxes& boxes, StartUpView& view,
-          ArchiveExtraction* extraction);
+          ArchiveExtraction& extraction);
 
   /// Shows the version, takes the command line, gathers defaults, restores settings and placement, loads both
   /// source lists, and has the main data file unpacked when only its archive is there. A fault on the way is
@@ -60,14 +59,13 @@ class StartUp {
   void runSteps(const StartUpConditions& conditions);
   void takeCommandLine(const QString& commandLine, PathStyle style);
   void takeDefaultsFile();
-  void prepareDataFile();
   bool dataFileIsOnlyInArchive() const;
 
   ProgramState& state_;
   const SettingsStore& store_;
   MessageBoxes& boxes_;
   StartUpView& view_;
-  ArchiveExtraction* extraction_;
+  ArchiveExtraction& extraction_;
 };
 
 }  // namespace quorvin

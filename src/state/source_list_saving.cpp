@@ -1,11 +1,15 @@
 #include "state/source_list_saving.h"
 
+#include "platform/file_identity.h"
 #include "platform/file_lookup.h"
 #include "platform/file_replacement.h"
 #include "platform/sequential_file.h"
+#include "state/data_folder.h"
 #include "state/source_list_file.h"
 
 #include <QByteArray>
+
+#include <optional>
 
 namespace quorvin {
 
@@ -19,8 +23,15 @@ struct List {
   int count;
 };
 
-bool isValidDataFolder(const QString& folder) {
-  return ordinaryFileExists(folder + QStringLiteral("*.*"));
+/// A folder may be written in many ways, "data/" and "data/./", so paths alone do not tell.
+bool isSameFile(const QString& path, const QString& other) {
+  const std::optional<FileIdentity> identity = fileIdentity(path);
+  return path == other || (identity && identity == fileIdentity(other));
+}
+
+/// Whether a list stands there whose records are in no table.
+bool holdsUnknownRecords(const List& list) {
+  return ordinaryFileExists(list.path) && !isSameFile(list.path, list.read);
 }
 
 QByteArray contentOf(const QString& path) {
@@ -40,13 +51,27 @@ QString nameForCopy(const QString& path) {
   return name;
 }
 
-void keepCopy(const QString& path, MessageBoxes& messages) {
-  const QString copy = nameForCopy(path);
-  replaceFile(copy, contentOf(path));
+/// The sentence that tells why the records of the list on disk are unknown.
+QString whyUnknown(const List& list) {
+  const QString reason =
+      list.read.isEmpty()
+          ? QStringLiteral("The list %1 was not read whole when the program started.")
+          : QStringLiteral("The list %1 was not read, since its folder became the data folder later on.");
+  return reason.arg(list.path);
+}
+
+void keepCopy(const List& list, MessageBoxes& messages) {
+  const QString copy = nameForCopy(list.path);
+  replaceFile(copy, contentOf(list.path));
   messages.inform(
-      QStringLiteral("The list %1 was not read whole when the program started.\r\nIt is kept as %2, "
-                     "and the list as it is now is saved in its place.")
-          .arg(path, copy));
+      whyUnknown(list) +
+      QStringLiteral("\r\nIt is kept as %1, and the list as it is now is saved in its place.").arg(copy));
+}
+
+/// An empty table is no gain over records that somebody has entered once.
+void leaveAsItIs(const List& list, MessageBoxes& messages) {
+  messages.inform(whyUnknown(list) +
+                  QStringLiteral("\r\nIt stays as it is; the list in use is empty and was not saved."));
 }
 
 void save(const ProgramState& state, const List& list, MessageBoxes& messages) {
@@ -56,9 +81,11 @@ void save(const ProgramState& state, const List& list, MessageBoxes& messages) {
                        "Unable to save the online sources list."));
     return;
   }
-  const bool holdsUnknownRecords = list.read != list.path && ordinaryFileExists(list.path);
-  if (list.count == 0 && (holdsUnknownRecords || list.read.isEmpty())) return;
-  if (holdsUnknownRecords) keepCopy(list.path, messages);
+  const bool isUnknown = holdsUnknownRecords(list);
+  if (isUnknown && list.count == 0) return leaveAsItIs(list, messages);
+  // Start-up did not come as far as the lists, so that nothing is known of this folder.
+  if (list.read.isEmpty() && list.count == 0) return;
+  if (isUnknown) keepCopy(list, messages);
   saveSourceList(list.path, list.table, list.count);
 }
 

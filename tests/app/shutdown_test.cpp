@@ -218,6 +218,18 @@ TEST_F(ShutdownTest, AnUnreadListIsNotReplacedByAnEmptyTable) {
   folder_.writeFile(QStringLiteral("Locations.txt"), "\"a\",\"/a/\"\r\n\"half");
   shutdown_.Form_Unload();
   EXPECT_EQ(onlineList(), "\"a\",\"/a/\"\r\n\"half");
+  EXPECT_FALSE(folder_.has(QStringLiteral("Locations.txt.kept")));
+  const QString path = folder_.pathOf(QStringLiteral("Locations.txt"));
+  EXPECT_EQ(boxes_.informed,
+            std::vector<QString>({QStringLiteral("The list ") + path +
+                                  QStringLiteral(" was not read whole when the program started.\r\nIt stays "
+                                                 "as it is; the list in use is empty and was not saved.")}));
+}
+
+TEST_F(ShutdownTest, WhereNothingWasReadAndNothingStandsAnEmptyTableWritesNothing) {
+  state_.onlineListRead.clear();
+  shutdown_.Form_Unload();
+  EXPECT_FALSE(folder_.has(QStringLiteral("Locations.txt")));
   EXPECT_TRUE(boxes_.informed.empty());
 }
 
@@ -254,6 +266,73 @@ TEST_F(ShutdownTest, TheListOfAnotherDataFolderIsKept) {
   shutdown_.Form_Unload();
   EXPECT_EQ(other.readFile(QStringLiteral("Locations.txt")), "\"My music\",\"/music/\"\r\n");
   EXPECT_EQ(other.readFile(QStringLiteral("Locations.txt.kept")), "\"theirs\",\"/theirs/\"\r\n");
+  const QString path = other.pathOf(QStringLiteral("Locations.txt"));
+  EXPECT_EQ(boxes_.informed,
+            std::vector<QString>(
+                {QStringLiteral("The list ") + path +
+                 QStringLiteral(" was not read, since its folder became the data folder later on.\r\nIt is "
+                                "kept as ") +
+                 path + QStringLiteral(".kept, and the list as it is now is saved in its place.")}));
+}
+
+TEST_F(ShutdownTest, TheListOfAnotherDataFolderIsNotReplacedByAnEmptyTable) {
+  TemporaryFolder other;
+  other.writeFile(QStringLiteral("Locations.txt"), "\"theirs\",\"/theirs/\"\r\n");
+  state_.LocalFolder = other.path();
+  shutdown_.Form_Unload();
+  EXPECT_EQ(other.readFile(QStringLiteral("Locations.txt")), "\"theirs\",\"/theirs/\"\r\n");
+  EXPECT_EQ(other.names(),
+            QStringList({QStringLiteral("Locations.txt"), QStringLiteral("OfflineLocations.txt")}));
+  const QString path = other.pathOf(QStringLiteral("Locations.txt"));
+  EXPECT_EQ(boxes_.informed,
+            std::vector<QString>(
+                {QStringLiteral("The list ") + path +
+                 QStringLiteral(" was not read, since its folder became the data folder later on.\r\nIt "
+                                "stays as it is; the list in use is empty and was not saved.")}));
+}
+
+// The folder of the lists that were read, written in another way.
+
+class OtherSpelling : public ShutdownTest {
+ protected:
+  OtherSpelling() {
+    folder_.writeFile(QStringLiteral("Locations.txt"), "\"old\",\"/old/\"\r\n");
+    folder_.writeFile(QStringLiteral("OfflineLocations.txt"), "\"old\",\"/old.txt\"\r\n");
+  }
+
+  void expectNothingKeptAndNothingTold() {
+    EXPECT_EQ(folder_.names(),
+              QStringList({QStringLiteral("Locations.txt"), QStringLiteral("OfflineLocations.txt"),
+                           QStringLiteral("any.txt")}));
+    EXPECT_TRUE(boxes_.informed.empty());
+  }
+};
+
+TEST_F(OtherSpelling, AnEmptiedListIsSavedEmpty) {
+  state_.LocalFolder = folder_.path() + QStringLiteral("./");
+  shutdown_.Form_Unload();
+  EXPECT_EQ(onlineList(), "");
+  EXPECT_EQ(offlineList(), "");
+  expectNothingKeptAndNothingTold();
+}
+
+TEST_F(OtherSpelling, AListIsSavedWithoutACopy) {
+  addSources();
+  state_.LocalFolder = folder_.path() + QStringLiteral("./");
+  shutdown_.Form_Unload();
+  EXPECT_EQ(onlineList(), "\"My music\",\"/music/\"\r\n");
+  EXPECT_EQ(offlineList(), "\"Offline\",\"/lists/a,b.txt\"\r\n\"Offline\",\"/lists/c.txt\"\r\n");
+  expectNothingKeptAndNothingTold();
+}
+
+TEST_F(OtherSpelling, ALinkToTheFolderIsTheFolder) {
+  TemporaryFolder links;
+  ASSERT_TRUE(QFile::link(folder_.path().chopped(1), links.pathOf(QStringLiteral("data"))));
+  state_.LocalFolder = links.pathOf(QStringLiteral("data")) + QDir::separator();
+  shutdown_.Form_Unload();
+  EXPECT_EQ(onlineList(), "");
+  EXPECT_EQ(offlineList(), "");
+  expectNothingKeptAndNothingTold();
 }
 
 TEST_F(ShutdownTest, SettingsThatCouldNotBeReadAreNotEmptied) {
@@ -285,7 +364,7 @@ TEST_F(StartUpTest, WhatShutdownSavedStartUpRestores) {
   Shutdown(state_, store_, boxes_, windows, conditions_.locale).Form_Unload();
 
   ProgramState again;
-  StartUp(again, store_, boxes_, view_, nullptr).Form_Load(conditions_);
+  StartUp(again, store_, boxes_, view_, extraction_).Form_Load(conditions_);
   EXPECT_EQ(again.NickName, QStringLiteral("Ann"));
   EXPECT_EQ(again.JoinDate, 38306);
   EXPECT_EQ(again.OnlineSourceCount, 1);

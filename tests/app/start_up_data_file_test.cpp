@@ -98,15 +98,5 @@ TEST_F(StartUpDataFile, ThatCannotBeUnpackedIsAStartUpError) {
   EXPECT_EQ(log_.last(), QStringLiteral("extract"));
 }
 
-TEST_F(StartUpDataFile, WithoutAnExtractionIsOnlyToldOf) {
-  data_.writeFile(QStringLiteral("main.zip"), "PK");
-  StartUp(state_, store_, boxes_, view_, nullptr).Form_Load(conditions_);
-  EXPECT_THAT(boxes_.informed,
-              ElementsAre(QStringLiteral("The archive \"main.zip\" is there, but this version cannot unpack "
-                                         "it. Nothing was changed.")));
-  EXPECT_EQ(data_.names(), QStringList{QStringLiteral("main.zip")});
-  EXPECT_EQ(log_.last(), QStringLiteral("events"));
-}
-
 }  // namespace
 }  // namespace quorvin

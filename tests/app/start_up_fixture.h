@@ -97,7 +97,7 @@ class StartUpTest : public testing::Test {
     conditions_.pathStyle = kUnixPaths;
   }
 
-  void start() { StartUp(state_, store_, boxes_, view_, &extraction_).Form_Load(conditions_); }
+  void start() { StartUp(state_, store_, boxes_, view_, extraction_).Form_Load(conditions_); }
 
   void startWithCommandLine(const QString& commandLine, PathStyle style) {
     conditions_.commandLine = commandLine;

@@ -28,7 +28,7 @@ class WholeProgram {
     conditions.programFolder = [programFolder] { return programFolder; };
     conditions.now = 38001.5;
     conditions.locale = locale_;
-    StartUp(state, settings_, messages, form, &form.dataFileExtraction()).Form_Load(conditions);
+    StartUp(state, settings_, messages, form, form.dataFileExtraction()).Form_Load(conditions);
     form.setUnloadHandler([this] { shutdown_.Form_Unload(); });
     form.sourcesChanged();
     form.show();

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <map>
+#include <stdexcept>
 
 namespace quorvin::test {
 
@@ -32,6 +33,14 @@ class PlacedWindow : public StartUpView, public ShutdownView {
                                          {PlacementKey::Height, 6000}};
 };
 
+/// There is never only an archive.
+class NoArchive : public ArchiveExtraction {
+ public:
+  void extractArchive(const QString& archivePath, const QString&) override {
+    throw std::logic_error("nothing unpacks " + archivePath.toStdString());
+  }
+};
+
 /// Starts up when it is made.
 class WindowlessProgram {
  public:
@@ -42,7 +51,8 @@ class WindowlessProgram {
     conditions.programFolder = [] { return QStringLiteral("/nowhere/"); };
     conditions.now = 38001.5;
     conditions.locale = locale_;
-    StartUp(state, settings_, messages, window, nullptr).Form_Load(conditions);
+    NoArchive noArchive;
+    StartUp(state, settings_, messages, window, noArchive).Form_Load(conditions);
   }
 
   void setOnline(const SourceRecords& records) {

@@ -1,0 +1,11 @@
+#include "state/data_folder.h"
+
+#include "platform/file_lookup.h"
+
+namespace quorvin {
+
+bool isValidDataFolder(const QString& folder) {
+  return ordinaryFileExists(folder + QStringLiteral("*.*"));
+}
+
+}  // namespace quorvin
