@@ -30,7 +30,8 @@ class SilentView : public SearchRunView {
 }  // namespace
 
 struct BareSearch::Parts {
-  Parts(ImageStore& images, const QLocale& locale) : run(state, view, messages, hits, &images, locale) {}
+  Parts(SegmentStore& segments, const QLocale& locale)
+      : run(state, view, messages, hits, &segments, locale) {}
 
   ProgramState state;
   SilentView view;
@@ -39,8 +40,8 @@ struct BareSearch::Parts {
   SearchRun run;
 };
 
-BareSearch::BareSearch(const QString& listing, ImageStore& images, const QLocale& locale)
-    : parts_(std::make_unique<Parts>(images, locale)) {
+BareSearch::BareSearch(const QString& listing, SegmentStore& segments, const QLocale& locale)
+    : parts_(std::make_unique<Parts>(segments, locale)) {
   parts_->state.resetFileNames();
   parts_->state.TextFile = listing;
 }

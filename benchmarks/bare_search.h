@@ -2,7 +2,7 @@
 #pragma once
 
 #include "run_figures.h"
-#include "search/image_store.h"
+#include "search/segment/segment_store.h"
 
 #include <QLocale>
 #include <QString>
@@ -14,8 +14,8 @@ namespace quorvin {
 /// Searches one listing as its main data file. Nothing is shown, hits are dropped.
 class BareSearch {
  public:
-  /// `listing` is a whole path. `images` must outlive the search; the window's own makes both do the same.
-  BareSearch(const QString& listing, ImageStore& images, const QLocale& locale);
+  /// `listing` is a whole path. `segments` must outlive the search; the window's own makes both do the same.
+  BareSearch(const QString& listing, SegmentStore& segments, const QLocale& locale);
   ~BareSearch();
   BareSearch(const BareSearch&) = delete;
   BareSearch& operator=(const BareSearch&) = delete;

@@ -1,6 +1,6 @@
 #include "date_texts.h"
 
-#include "platform/general_date.h"
+#include "dates/general_date.h"
 #include "platform/text_encoding.h"
 
 #include <QDateTime>

@@ -1,7 +1,7 @@
 // Where hits go that nobody wants to see.
 #pragma once
 
-#include "search/hit_receiver.h"
+#include "search/match/hit_receiver.h"
 
 #include <cstdint>
 
@@ -13,11 +13,10 @@ class DroppedHits : public HitReceiver {
   std::int64_t count() const { return count_; }
 
   void beginListing(SourceKind) override {}
-  void addHits(const std::shared_ptr<const SearchImage>&, std::span<const FoundEntry> hits) override {
+  void addHits(const std::shared_ptr<const Segment>&, std::span<const FoundEntry> hits) override {
     count_ += static_cast<std::int64_t>(hits.size());
   }
-  void endImage(const std::shared_ptr<const SearchImage>&,
-                const std::shared_ptr<const SearchImage>&) override {}
+  void endSegment(const std::shared_ptr<const Segment>&, const std::shared_ptr<const Segment>&) override {}
 
  private:
   std::int64_t count_ = 0;

@@ -1,5 +1,5 @@
 // Runs the server of the peer exchange under a load of hostile callers and prints how it fared.
-#include "net/peer_load.h"
+#include "peers/peer_load.h"
 
 #include "support/descriptors.h"
 

@@ -1,11 +1,11 @@
-// Google Benchmark cases of the search itself: reading a listing that is in memory, and searching its image.
-// Each case first proves its number of hits against the plain reference.
+// Google Benchmark cases of the search itself: reading a listing that is in memory, and searching its
+// segment. Each case first proves its number of hits against the plain reference.
 #include "catalogue_writer.h"
 #include "dropped_hits.h"
 #include "generated_tree.h"
-#include "search/image_builder.h"
-#include "search/image_search.h"
 #include "search/listing_scan.h"
+#include "search/match/segment_search.h"
+#include "search/segment/segment_builder.h"
 #include "support/reference_scan.h"
 #include "support/scan_of.h"
 
@@ -59,16 +59,16 @@ QByteArray generatedListing() {
   return file.readAll();
 }
 
-/// One image of the whole listing, as it is kept for later searches. The listing's last line has an end.
+/// One segment of the whole listing, as it is kept for later searches. The listing's last line has an end.
 /// `padded` has kLinePadding bytes before and behind the listing.
-std::shared_ptr<const SearchImage> builtImage(std::string_view padded) {
-  ImageBuilder builder(QLocale::c());
+std::shared_ptr<const Segment> builtSegment(std::string_view padded) {
+  SegmentBuilder builder(QLocale::c());
   builder.addLines(padded.data() + kLinePadding, padded.size() - 2 * kLinePadding);
   builder.readAllValues();
   builder.finishText();
-  builder.image()->complete();
-  builder.image()->publish();
-  return builder.image();
+  builder.segment()->complete();
+  builder.segment()->publish();
+  return builder.segment();
 }
 
 class NeverStop : public ScanListener {
@@ -76,7 +76,7 @@ class NeverStop : public ScanListener {
   bool reached(std::int64_t) override { return false; }
 };
 
-/// Hits of a search that reads the listing and keeps no image.
+/// Hits of a search that reads the listing and keeps no segment.
 std::int64_t hitsInPassing(const QByteArray& listing, const SearchQuery& query) {
   test::MemoryListing source(listing);
   std::int64_t searched = 0;
@@ -87,9 +87,9 @@ std::int64_t hitsInPassing(const QByteArray& listing, const SearchQuery& query) 
   return hits.count();
 }
 
-std::int64_t hitsIn(const SearchImage& image, const SearchQuery& query) {
+std::int64_t hitsIn(const Segment& segment, const SearchQuery& query) {
   std::vector<FoundEntry> hits;
-  ImageSearch(query).search(image, 0, image.entryCount(), hits);
+  SegmentSearch(query).search(segment, 0, segment.entryCount(), hits);
   return static_cast<std::int64_t>(hits.size());
 }
 
@@ -129,13 +129,13 @@ void addBuildingCases(const QByteArray& listing, std::string_view padded) {
       [&listing, nothing = queryOf(kNothing)] { benchmark::DoNotOptimize(hitsInPassing(listing, nothing)); },
       [&listing] { return hitsInPassing(listing, queryOf(proof.words)); });
   addCase(
-      "build/to_keep", proof, listing, [padded] { benchmark::DoNotOptimize(builtImage(padded)); },
-      [padded] { return hitsIn(*builtImage(padded), queryOf(proof.words)); });
+      "build/to_keep", proof, listing, [padded] { benchmark::DoNotOptimize(builtSegment(padded)); },
+      [padded] { return hitsIn(*builtSegment(padded), queryOf(proof.words)); });
 }
 
-void addSearchCases(const QByteArray& listing, const SearchImage& image) {
+void addSearchCases(const QByteArray& listing, const Segment& segment) {
   for (const Case& tried : kSearches) {
-    const auto found = [&image, query = queryOf(tried.words)] { return hitsIn(image, query); };
+    const auto found = [&segment, query = queryOf(tried.words)] { return hitsIn(segment, query); };
     addCase(
         tried.name, tried, listing, [found] { benchmark::DoNotOptimize(found()); }, found);
   }
@@ -151,9 +151,9 @@ int main(int argumentCount, char** arguments) {
     const QByteArray listing = quorvin::generatedListing();
     const std::string padding(quorvin::kLinePadding, '\0');
     const std::string padded = padding + listing.toStdString() + padding;
-    const std::shared_ptr<const quorvin::SearchImage> image = quorvin::builtImage(padded);
+    const std::shared_ptr<const quorvin::Segment> segment = quorvin::builtSegment(padded);
     quorvin::addBuildingCases(listing, padded);
-    quorvin::addSearchCases(listing, *image);
+    quorvin::addSearchCases(listing, *segment);
     benchmark::RunSpecifiedBenchmarks();
   } catch (const std::exception& failure) {
     std::cerr << "search_benchmark: " << failure.what() << '\n';

@@ -34,8 +34,8 @@ double secondsOf(const QElapsedTimer& clock) {
 struct SearchWindow::Parts {
   Parts(const QString& settingsPath, const QLocale& locale)
       : settings(settingsPath),
-        images(ImageStore::defaultOptions()),
-        form(state, messages, shell, locale, &images),
+        segments(SegmentStore::defaultOptions()),
+        form(state, messages, shell, locale, &segments),
         startUp(state, settings, messages, form, nullptr) {}
 
   void press() { QTest::mouseClick(form.controls().Find, Qt::LeftButton); }
@@ -46,7 +46,7 @@ struct SearchWindow::Parts {
   RecordedMessages messages;
   DesktopShell shell{[] { return QString(); }};
   IniSettingsStore settings;
-  ImageStore images;
+  SegmentStore segments;
   SearchForm form;
   StartUp startUp;
 };
@@ -67,8 +67,8 @@ SearchWindow::SearchWindow(const QString& listing, const QString& folder, const 
 
 SearchWindow::~SearchWindow() = default;
 
-ImageStore& SearchWindow::images() {
-  return parts_->images;
+SegmentStore& SearchWindow::segments() {
+  return parts_->segments;
 }
 
 void SearchWindow::type(const QString& words, const QString& match) {

@@ -3,7 +3,7 @@
 
 #include "event_watch.h"
 #include "run_figures.h"
-#include "search/image_store.h"
+#include "search/segment/segment_store.h"
 
 #include <QLocale>
 #include <QString>
@@ -25,15 +25,15 @@ struct StopFigures {
 /// thread only. Every press throws std::runtime_error when the program shows a message.
 class SearchWindow {
  public:
-  /// `listing` is a whole path. Settings are kept in `folder`, which exists; images where the environment
+  /// `listing` is a whole path. Settings are kept in `folder`, which exists; segments where the environment
   /// says.
   SearchWindow(const QString& listing, const QString& folder, const QLocale& locale);
   ~SearchWindow();
   SearchWindow(const SearchWindow&) = delete;
   SearchWindow& operator=(const SearchWindow&) = delete;
 
-  /// The images that the window searches.
-  ImageStore& images();
+  /// The segments that the window searches.
+  SegmentStore& segments();
 
   /// Types the search text and the desired match over what stands in their fields.
   void type(const QString& words, const QString& match);

@@ -101,7 +101,7 @@ QJsonObject measureFirstSearch(const WindowTask& task) {
 QJsonObject measureLaterSearches(const WindowTask& task) {
   SearchWindow window(task.listing, task.folder, task.locale);
   QJsonObject result = firstRun(window, task);
-  BareSearch bare(task.listing, window.images(), task.locale);
+  BareSearch bare(task.listing, window.segments(), task.locale);
   secondsBare(bare, task);
   secondsInWindow(window, task);
   takeTurns(window, bare, task, result);

@@ -1,7 +1,7 @@
 // Unpacking: nothing may appear outside the target folder, and nothing may stay half-written in it. An input
 // is the archive.
-#include "net/archive_unpacking.h"
-#include "platform/runtime_fault.h"
+#include "archive/archive_unpacking.h"
+#include "faults/runtime_fault.h"
 
 #include <QDir>
 #include <QDirIterator>

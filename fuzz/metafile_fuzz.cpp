@@ -1,6 +1,6 @@
 // Drawing a metafile, without the limits of the process that draws it for the program. An input is the file.
-#include "preview/metafile_bytes.h"
-#include "preview/metafile_play.h"
+#include "metafile/metafile_bytes.h"
+#include "metafile/metafile_play.h"
 
 #include <QByteArrayView>
 #include <QGuiApplication>

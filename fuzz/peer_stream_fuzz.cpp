@@ -1,7 +1,7 @@
 // What a peer's server sends, held against the order that PeerStreamSink promises. An input is a byte for the
 // size of the pieces in which the stream comes, and the stream.
-#include "net/peer_stream.h"
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
+#include "peers/client/peer_stream.h"
 
 #include <algorithm>
 #include <cstdint>

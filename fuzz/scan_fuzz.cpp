@@ -1,6 +1,6 @@
 // The scan of a listing, held against the plain reference. An input is a byte for the size of the chunks, a
 // byte for the desired match and the way to scan, a line with the search text, and the listing.
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "platform/text_encoding.h"
 #include "search/quick_scan.h"
 #include "support/reference_scan.h"
@@ -45,9 +45,9 @@ void compareParts(const Input& input, const test::PlainResult& expected) {
   test::RepeatedSearch search(input.searchText.toStdString(), input.desiredMatch);
   const std::size_t segment = input.chunkSize * 3;
   require(scan.scan(input.listing.toStdString(), search, {input.chunkSize, segment, 2000, false}), expected,
-          "while images grow");
+          "while segments grow");
   require(scan.scan(input.listing.toStdString(), search, {input.chunkSize, segment, 3, true}), expected,
-          "when images are complete");
+          "when segments are complete");
 }
 
 void compareWholeScan(const Input& input, const test::PlainResult& expected) {

@@ -1,6 +1,6 @@
 // The reader of source lists, held against the rules of docs/formats/source-lists.md written down as plainly
 // as can be, over the whole file at once. An input is the file.
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "platform/text_encoding.h"
 #include "state/source_list_file.h"
 

@@ -1,8 +1,8 @@
 // Telling the user of a fault that nothing else has dealt with.
 #pragma once
 
+#include "faults/runtime_fault.h"
 #include "platform/message_box.h"
-#include "platform/runtime_fault.h"
 
 #include <QString>
 

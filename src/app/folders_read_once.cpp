@@ -1,7 +1,7 @@
 #include "app/folders_read_once.h"
 
-#include "platform/file_lookup.h"
-#include "platform/path_style.h"
+#include "files/file_lookup.h"
+#include "files/path_style.h"
 
 #include <QDirIterator>
 

@@ -1,10 +1,10 @@
 // What the user can do with a hit, without the window that he does it in.
 #pragma once
 
-#include "platform/file_lookup.h"
+#include "faults/runtime_fault.h"
+#include "files/file_lookup.h"
+#include "files/path_style.h"
 #include "platform/message_box.h"
-#include "platform/path_style.h"
-#include "platform/runtime_fault.h"
 #include "platform/shell.h"
 #include "search/hit_path.h"
 #include "state/program_state.h"

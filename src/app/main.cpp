@@ -6,11 +6,11 @@
 #include "app/start_up.h"
 #include "app/version.h"
 #include "app/widget_message_boxes.h"
-#include "platform/general_date.h"
+#include "dates/general_date.h"
 #include "platform/ini_settings_store.h"
 #include "platform/shell_desktop.h"
 #include "platform/standard_folders.h"
-#include "search/image_store.h"
+#include "search/segment/segment_store.h"
 #include "state/program_state.h"
 
 #include <QDateTime>
@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
   const QLocale locale;
   ProgramState state;
   IniSettingsStore settings(userSettingsPath());
-  ImageStore images(ImageStore::defaultOptions());
+  SegmentStore images(SegmentStore::defaultOptions());
   DesktopShell shell([&] { return enqueueCommand(settings, state); });
   SearchForm form(state, messages, shell, locale, &images);
   StartUp startUp(state, settings, messages, form, form.dataFileExtraction());

@@ -39,7 +39,7 @@ float toTwips(int pixels) {
 }  // namespace
 
 SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
-                       ImageStore* images, FilePicker* picker)
+                       SegmentStore* images, FilePicker* picker)
     : state_(state),
       messages_(messages),
       locale_(locale),

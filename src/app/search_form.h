@@ -37,7 +37,7 @@ class SearchForm : public QMainWindow,
   /// `state`, `messages`, `shell` and `images` must outlive the window.
   /// Files are picked with `picker`, or, where that is null, with the system's dialogs.
   SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
-             ImageStore* images = nullptr, FilePicker* picker = nullptr);
+             SegmentStore* images = nullptr, FilePicker* picker = nullptr);
 
   /// What closing the window does before it closes; it may throw, which is told and keeps the window open.
   void setUnloadHandler(std::function<void()> handler) { unloadHandler_ = std::move(handler); }

@@ -1,6 +1,6 @@
 #include "app/search_form_network.h"
 
-#include "net/peer_unpacking.h"
+#include "peers/client/peer_unpacking.h"
 
 #include <QApplication>
 #include <QInputDialog>

@@ -2,15 +2,15 @@
 #pragma once
 
 #include "app/search_form_menus.h"
-#include "net/archive_data_file.h"
-#include "net/archive_extraction.h"
-#include "net/http_network_transfer.h"
-#include "net/peer_exchange.h"
-#include "net/peer_progress.h"
-#include "net/progress_display.h"
-#include "net/web_update.h"
+#include "peers/client/peer_progress.h"
+#include "peers/peer_exchange.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
+#include "update/archive_data_file.h"
+#include "update/archive_extraction.h"
+#include "update/http_network_transfer.h"
+#include "update/progress_display.h"
+#include "update/web_update.h"
 
 #include <QLocale>
 #include <QPointer>

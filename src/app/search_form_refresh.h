@@ -3,8 +3,8 @@
 
 #include "app/refresh_share.h"
 #include "index/index_view.h"
-#include "net/progress.h"
 #include "state/program_state.h"
+#include "work/progress.h"
 
 #include <QElapsedTimer>
 #include <QLocale>

@@ -1,9 +1,9 @@
 #include "app/start_up.h"
 
 #include "app/version.h"
+#include "faults/runtime_fault.h"
+#include "files/file_lookup.h"
 #include "index/base_name.h"
-#include "platform/file_lookup.h"
-#include "platform/runtime_fault.h"
 #include "state/defaults_file.h"
 
 namespace quorvin {

@@ -1,13 +1,13 @@
 // Start-up: everything that happens between the making of the main window and the user's first action.
 #pragma once
 
-#include "net/archive_extraction.h"
-#include "platform/general_date.h"
+#include "dates/general_date.h"
+#include "files/path_style.h"
 #include "platform/message_box.h"
-#include "platform/path_style.h"
 #include "platform/settings_store.h"
 #include "state/program_state.h"
 #include "state/settings.h"
+#include "update/archive_extraction.h"
 
 #include <QLocale>
 #include <QString>

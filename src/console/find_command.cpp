@@ -2,8 +2,8 @@
 
 #include "console/error_lines.h"
 #include "console/own_sources.h"
+#include "faults/runtime_fault.h"
 #include "platform/ini_settings_store.h"
-#include "platform/runtime_fault.h"
 #include "platform/stop_signal.h"
 #include "search/search_run.h"
 
@@ -53,9 +53,9 @@ int runFind(const FindRequest& request) {
   ErrorLines messages;
   ConsoleView view;
   HitWriter writer(stdout, request.format, request.countOnly, locale);
-  std::optional<ImageStore> images;
-  if (request.useCache) images.emplace(ImageStore::defaultOptions(ImageUse::Once));
-  SearchRun run(state, view, messages, writer, images ? &*images : nullptr, locale);
+  std::optional<SegmentStore> segments;
+  if (request.useCache) segments.emplace(SegmentStore::defaultOptions(SegmentUse::Once));
+  SearchRun run(state, view, messages, writer, segments ? &*segments : nullptr, locale);
   bool failed = false;
   try {
     if (request.listings.empty()) loadOwnSources(state, locale);

@@ -17,7 +17,7 @@ struct FindRequest {
   HitFormat format = HitFormat::Tsv;
   /// Only the number of hits is written.
   bool countOnly = false;
-  /// Whether images of listings are taken from and written to the user's cache folder.
+  /// Whether segments of listings are taken from and written to the user's cache folder.
   bool useCache = true;
   /// The listings to search; empty for the user's own sources.
   std::vector<QString> listings;

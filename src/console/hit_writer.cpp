@@ -58,25 +58,29 @@ void HitWriter::beginListing(SourceKind kind) {
   values_ = {};
 }
 
-void HitWriter::addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) {
-  if (!countOnly_) addLines(*image, hits);
+void HitWriter::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
+  if (!countOnly_) addLines(*segment, hits);
   if (buffer_.size() >= kBufferSize) flush();
 }
 
-void HitWriter::addLines(const SearchImage& image, std::span<const FoundEntry> hits) {
+void HitWriter::addLines(const Segment& segment, std::span<const FoundEntry> hits) {
   const std::size_t sizeBefore = buffer_.size();
   const EntryValues valuesBefore = values_;
   try {
     for (const FoundEntry& hit : hits) {
-      if (image.valueState(hit.entry) == ValueState::Own) values_ = image.values(hit.entry);
-      const HitRow row{
-          hit.match,    kind_,       image.volume(hit.entry), image.folder(hit.entry), image.name(hit.entry),
-          values_.size, values_.date};
+      if (segment.valueState(hit.entry) == ValueState::Own) values_ = segment.values(hit.entry);
+      const HitRow row{hit.match,
+                       kind_,
+                       segment.volume(hit.entry),
+                       segment.folder(hit.entry),
+                       segment.name(hit.entry),
+                       values_.size,
+                       values_.date};
       const QByteArray line = hitLine(row, format_, locale_).toLocal8Bit();
       buffer_.append(line.constData(), static_cast<std::size_t>(line.size()));
       buffer_ += '\n';
     }
-  } catch (const DamagedImage&) {
+  } catch (const DamagedSegment&) {
     // The same hits will come again out of the listing itself.
     buffer_.resize(sizeBefore);
     values_ = valuesBefore;
@@ -84,8 +88,7 @@ void HitWriter::addLines(const SearchImage& image, std::span<const FoundEntry> h
   }
 }
 
-void HitWriter::endImage(const std::shared_ptr<const SearchImage>&,
-                         const std::shared_ptr<const SearchImage>&) {
+void HitWriter::endSegment(const std::shared_ptr<const Segment>&, const std::shared_ptr<const Segment>&) {
   flush();
 }
 

@@ -1,8 +1,8 @@
 // Hits as lines of text.
 #pragma once
 
-#include "search/hit_receiver.h"
 #include "search/hit_table.h"
+#include "search/match/hit_receiver.h"
 
 #include <QLocale>
 #include <QString>
@@ -32,13 +32,13 @@ class HitWriter : public HitReceiver {
   void flush();
 
   void beginListing(SourceKind kind) override;
-  void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override;
+  void addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
   bool countsOnly() const override { return countOnly_; }
-  void endImage(const std::shared_ptr<const SearchImage>& image,
-                const std::shared_ptr<const SearchImage>& kept) override;
+  void endSegment(const std::shared_ptr<const Segment>& segment,
+                  const std::shared_ptr<const Segment>& kept) override;
 
  private:
-  void addLines(const SearchImage& image, std::span<const FoundEntry> hits);
+  void addLines(const Segment& segment, std::span<const FoundEntry> hits);
 
   std::FILE* output_;
   HitFormat format_;

@@ -2,8 +2,8 @@
 
 #include "console/console_progress.h"
 #include "console/error_lines.h"
+#include "faults/runtime_fault.h"
 #include "index/dir_io.h"
-#include "platform/runtime_fault.h"
 #include "platform/stop_signal.h"
 
 #include <QCoreApplication>

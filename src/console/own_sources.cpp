@@ -1,6 +1,6 @@
 #include "console/own_sources.h"
 
-#include "platform/file_lookup.h"
+#include "files/file_lookup.h"
 #include "platform/ini_settings_store.h"
 #include "platform/standard_folders.h"
 #include "state/defaults_file.h"

@@ -4,8 +4,8 @@
 #include "console/error_lines.h"
 #include "console/index_command.h"
 #include "console/own_sources.h"
+#include "faults/runtime_fault.h"
 #include "index/local_list_refresh.h"
-#include "platform/runtime_fault.h"
 #include "platform/stop_signal.h"
 
 #include <QLocale>

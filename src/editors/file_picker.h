@@ -1,7 +1,7 @@
 // Asking the user for a file or a folder, without knowing how: the program shows dialogs, a test answers.
 #pragma once
 
-#include "platform/path_style.h"
+#include "files/path_style.h"
 
 #include <QString>
 

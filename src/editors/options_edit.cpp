@@ -1,6 +1,6 @@
 #include "editors/options_edit.h"
 
-#include "platform/general_date.h"
+#include "dates/general_date.h"
 
 #include <exception>
 #include <optional>

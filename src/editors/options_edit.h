@@ -1,8 +1,8 @@
 // What the options dialog shows and stores, without its window.
 #pragma once
 
+#include "files/path_style.h"
 #include "platform/message_box.h"
-#include "platform/path_style.h"
 #include "state/data_folder.h"
 #include "state/program_state.h"
 

@@ -1,8 +1,8 @@
 #include "help/help_files.h"
 
-#include "platform/path_style.h"
-#include "platform/runtime_fault.h"
-#include "platform/sequential_file.h"
+#include "faults/runtime_fault.h"
+#include "files/path_style.h"
+#include "files/sequential_file.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 // DirIO: the base name of a path.
 #pragma once
 
-#include "platform/path_style.h"
+#include "files/path_style.h"
 
 #include <QString>
 

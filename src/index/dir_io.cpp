@@ -1,7 +1,7 @@
 #include "index/dir_io.h"
 
 #include "platform/text_encoding.h"
-#include "search/listing_columns.h"
+#include "search/format/listing_columns.h"
 
 #include <QScopeGuard>
 

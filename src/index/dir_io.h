@@ -2,6 +2,8 @@
 // listing: docs/formats/listing.md.
 #pragma once
 
+#include "files/folder_reader.h"
+#include "files/path_style.h"
 #include "index/entry_line.h"
 #include "index/folder_names.h"
 #include "index/index_view.h"
@@ -9,8 +11,6 @@
 #include "index/listed_name.h"
 #include "index/name_table.h"
 #include "index/walk_faults.h"
-#include "platform/folder_reader.h"
-#include "platform/path_style.h"
 
 #include <QLocale>
 #include <QString>

@@ -1,9 +1,9 @@
 #include "index/entry_line.h"
 
+#include "dates/general_number.h"
 #include "index/listed_name.h"
-#include "platform/general_number.h"
 #include "platform/text_encoding.h"
-#include "search/listing_columns.h"
+#include "search/format/listing_columns.h"
 
 #include <algorithm>
 #include <array>

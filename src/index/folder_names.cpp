@@ -1,7 +1,7 @@
 #include "index/folder_names.h"
 
+#include "files/file_lookup.h"
 #include "index/listed_name.h"
-#include "platform/file_lookup.h"
 #include "platform/text_encoding.h"
 
 namespace quorvin {

@@ -1,9 +1,9 @@
 // The names of one folder, sorted into sub-folders and files.
 #pragma once
 
+#include "files/folder_reader.h"
 #include "index/name_table.h"
 #include "index/walk_faults.h"
-#include "platform/folder_reader.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "index/line_output.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 
 namespace quorvin {
 namespace {

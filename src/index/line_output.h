@@ -1,7 +1,7 @@
 // Where the lines of a walk go.
 #pragma once
 
-#include "platform/file_writer.h"
+#include "files/file_writer.h"
 
 #include <string_view>
 

@@ -1,8 +1,8 @@
 // Dates of files as a listing holds them.
 #pragma once
 
-#include "platform/day_and_second.h"
-#include "platform/general_date_writer.h"
+#include "dates/day_and_second.h"
+#include "dates/general_date_writer.h"
 
 #include <QLocale>
 

@@ -1,8 +1,8 @@
 #include "index/local_list_refresh.h"
 
+#include "faults/runtime_fault.h"
 #include "index/dir_io.h"
 #include "index/own_files.h"
-#include "platform/runtime_fault.h"
 #include "platform/text_encoding.h"
 
 #include <QFile>

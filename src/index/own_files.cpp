@@ -1,7 +1,7 @@
 #include "index/own_files.h"
 
-#include "platform/file_identity.h"
-#include "platform/path_style.h"
+#include "files/file_identity.h"
+#include "files/path_style.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 // What a walk does when a step of it fails, and what it tells about single names.
 #pragma once
 
+#include "faults/runtime_fault.h"
 #include "platform/message_box.h"
-#include "platform/runtime_fault.h"
 #include "state/program_state.h"
 
 #include <QString>

@@ -1,5 +1,5 @@
+#include "faults/runtime_fault.h"
 #include "platform/ini_settings_lock.h"
-#include "platform/runtime_fault.h"
 
 #include <QDeadlineTimer>
 #include <QFile>

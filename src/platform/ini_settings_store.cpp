@@ -1,9 +1,9 @@
 #include "platform/ini_settings_store.h"
 
-#include "platform/file_replacement.h"
+#include "faults/runtime_fault.h"
+#include "files/file_replacement.h"
 #include "platform/ini_settings_lock.h"
 #include "platform/ini_text.h"
-#include "platform/runtime_fault.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "platform/standard_folders.h"
 
-#include "platform/file_replacement.h"
-#include "platform/path_style.h"
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
+#include "files/file_replacement.h"
+#include "files/path_style.h"
 
 #include <QCoreApplication>
 #include <QDir>

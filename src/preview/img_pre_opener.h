@@ -1,7 +1,7 @@
 // Previewing pictures.
 #pragma once
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "preview/img_pre.h"
 #include "preview/img_pre_loading.h"
 #include "preview/metafile_child.h"

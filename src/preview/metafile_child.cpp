@@ -1,7 +1,7 @@
 #include "preview/metafile_child.h"
 
-#include "preview/metafile_answer.h"
-#include "preview/metafile_bytes.h"
+#include "metafile/metafile_answer.h"
+#include "metafile/metafile_bytes.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 #include "preview/picture_file.h"
 
-#include "platform/runtime_fault.h"
-#include "platform/sequential_file.h"
+#include "faults/runtime_fault.h"
+#include "files/sequential_file.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "preview/picture_format.h"
 
-#include "preview/metafile_play.h"
+#include "metafile/metafile_play.h"
 
 namespace quorvin {
 

@@ -1,7 +1,7 @@
 #include "preview/picture_load.h"
 
-#include "platform/runtime_fault.h"
-#include "preview/metafile_bytes.h"
+#include "faults/runtime_fault.h"
+#include "metafile/metafile_bytes.h"
 #include "preview/picture_file.h"
 #include "preview/picture_format.h"
 

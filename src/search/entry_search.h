@@ -1,9 +1,9 @@
-// Searching the entries of one listing, image after image, in steps between which events can run.
+// Searching the entries of one listing, segment after segment, in steps between which events can run.
 #pragma once
 
-#include "search/hit_receiver.h"
-#include "search/image_search.h"
 #include "search/listing_scan.h"
+#include "search/match/hit_receiver.h"
+#include "search/match/segment_search.h"
 
 #include <cstdint>
 #include <functional>
@@ -11,16 +11,17 @@
 
 namespace quorvin {
 
-/// One listing's search, however its images come about.
+/// One listing's search, however its segments come about.
 class EntrySearch {
  public:
   /// Everything handed over must outlive the search.
   EntrySearch(const SearchQuery& query, std::int64_t& searchedCount, HitReceiver& hits,
               ScanListener& listener, ScanOutcome& outcome);
 
-  /// Searches entries `first` to `last` - 1 of `image`, yielding at every 2000th entry of the run. `prepare`,
-  /// if any, is called with the hits before their values are looked at. Stops where the listener says so.
-  void search(const std::shared_ptr<const SearchImage>& image, std::uint32_t first, std::uint32_t last,
+  /// Searches entries `first` to `last` - 1 of `segment`, yielding at every 2000th entry of the run.
+  /// `prepare`, if any, is called with the hits before their values are looked at. Stops where the listener
+  /// says so.
+  void search(const std::shared_ptr<const Segment>& segment, std::uint32_t first, std::uint32_t last,
               const std::function<void(std::span<const FoundEntry>)>& prepare = {});
 
   /// Entries of the listing searched so far.
@@ -28,11 +29,11 @@ class EntrySearch {
   bool stopped() const { return outcome_.stopped; }
 
  private:
-  void searchStep(const std::shared_ptr<const SearchImage>& image, std::uint32_t first, std::uint32_t last,
+  void searchStep(const std::shared_ptr<const Segment>& segment, std::uint32_t first, std::uint32_t last,
                   const std::function<void(std::span<const FoundEntry>)>& prepare);
-  void report(const std::shared_ptr<const SearchImage>& image);
+  void report(const std::shared_ptr<const Segment>& segment);
 
-  ImageSearch search_;
+  SegmentSearch search_;
   std::int64_t& searchedCount_;
   HitReceiver& receiver_;
   ScanListener& listener_;

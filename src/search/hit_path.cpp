@@ -1,7 +1,7 @@
 #include "search/hit_path.h"
 
-#include "platform/runtime_fault.h"
-#include "search/listing_columns.h"
+#include "faults/runtime_fault.h"
+#include "search/format/listing_columns.h"
 
 #include <algorithm>
 

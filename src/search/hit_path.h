@@ -1,7 +1,7 @@
 // From a hit back to the file on disk: a hit names its file only by volume, folder and entry text.
 #pragma once
 
-#include "platform/path_style.h"
+#include "files/path_style.h"
 #include "search/hit_table.h"
 #include "state/program_state.h"
 

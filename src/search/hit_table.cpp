@@ -1,8 +1,8 @@
 #include "search/hit_table.h"
 
-#include "platform/general_number.h"
-#include "search/growing_image.h"
-#include "search/search_words.h"
+#include "dates/general_number.h"
+#include "search/match/search_words.h"
+#include "search/segment/growing_segment.h"
 
 #include <algorithm>
 
@@ -35,7 +35,7 @@ FoundEntry& HitTable::hit(std::int64_t row) {
 }
 
 const HitTable::ImageRows& HitTable::imageRows(std::int64_t row) const {
-  const auto next = std::upper_bound(images_.begin(), images_.end(), row,
+  const auto next = std::upper_bound(segments_.begin(), segments_.end(), row,
                                      [](std::int64_t r, const ImageRows& rows) { return r < rows.firstRow; });
   return *std::prev(next);
 }
@@ -56,7 +56,7 @@ HitRow HitTable::row(std::int64_t row) const {
   result.kind = imageRows(row).kind;
   try {
     readRow(row, result);
-  } catch (const DamagedImage&) {
+  } catch (const DamagedSegment&) {
     // What can be read of it stays. The next search finds the damage noted and reads the listing again.
     result.name = QStringLiteral("(damaged in the search cache; press Find again)");
   }
@@ -64,14 +64,14 @@ HitRow HitTable::row(std::int64_t row) const {
 }
 
 void HitTable::readRow(std::int64_t row, HitRow& result) const {
-  const SearchImage& image = *imageRows(row).image;
+  const Segment& segment = *imageRows(row).segment;
   const std::uint32_t entry = hit(row).entry;
-  result.volume = image.volume(entry);
-  result.folder = image.folder(entry);
-  result.name = image.name(entry);
+  result.volume = segment.volume(entry);
+  result.folder = segment.folder(entry);
+  result.name = segment.name(entry);
   const std::int64_t valueRow = valueRowOf(row);
   if (valueRow == kNoRow) return;
-  const EntryValues values = imageRows(valueRow).image->values(hit(valueRow).entry);
+  const EntryValues values = imageRows(valueRow).segment->values(hit(valueRow).entry);
   result.size = values.size;
   result.date = values.date;
 }
@@ -82,7 +82,7 @@ SourceKind HitTable::kind(std::int64_t row) const {
 
 void HitTable::clear() {
   pages_.resize(std::min(pages_.size(), kPagesKept));
-  images_.clear();
+  segments_.clear();
   carried_.clear();
   rowCount_ = 0;
   listingBegins_ = true;
@@ -95,11 +95,11 @@ void HitTable::beginListing(SourceKind kind) {
   valuesSeen_ = false;
 }
 
-void HitTable::addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) {
+void HitTable::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
   if (hits.empty()) return;
   // First what may throw: then none of these hits has been taken.
-  const bool allOwn = findOwnValues(*image, hits);
-  if (listingBegins_ || images_.back().image != image) images_.push_back({rowCount_, image, kind_});
+  const bool allOwn = findOwnValues(*segment, hits);
+  if (listingBegins_ || segments_.back().segment != segment) segments_.push_back({rowCount_, segment, kind_});
   listingBegins_ = false;
   if (allOwn) valuesSeen_ = true;
   for (std::size_t i = 0; !allOwn && i < hits.size(); ++i) {
@@ -123,11 +123,11 @@ void HitTable::addHits(const std::shared_ptr<const SearchImage>& image, std::spa
 }
 
 /// Fills `ownValues_`, but for the usual case that all hits have values of their own: then it gives true.
-bool HitTable::findOwnValues(const SearchImage& image, std::span<const FoundEntry> hits) {
-  if (image.allOwn(hits.front().entry, hits.back().entry)) return true;
+bool HitTable::findOwnValues(const Segment& segment, std::span<const FoundEntry> hits) {
+  if (segment.allOwn(hits.front().entry, hits.back().entry)) return true;
   ownValues_.clear();
   for (const FoundEntry& found : hits) {
-    ownValues_.push_back(image.valueState(found.entry) == ValueState::Own ? 1 : 0);
+    ownValues_.push_back(segment.valueState(found.entry) == ValueState::Own ? 1 : 0);
   }
   return false;
 }
@@ -144,24 +144,24 @@ void HitTable::noteCarriedRow(std::int64_t row) {
   carried_.push_back({row, 1, !valuesSeen_});
 }
 
-void HitTable::endImage(const std::shared_ptr<const SearchImage>& image,
-                        const std::shared_ptr<const SearchImage>& kept) {
-  if (images_.empty() || images_.back().image != image) return;
+void HitTable::endSegment(const std::shared_ptr<const Segment>& segment,
+                          const std::shared_ptr<const Segment>& kept) {
+  if (segments_.empty() || segments_.back().segment != segment) return;
   if (kept) {
-    images_.back().image = kept;
+    segments_.back().segment = kept;
     return;
   }
-  const std::int64_t firstRow = images_.back().firstRow;
+  const std::int64_t firstRow = segments_.back().firstRow;
   const auto hits = static_cast<std::size_t>(rowCount_ - firstRow);
-  // Where most entries are hits the image itself is the smallest way to keep them.
-  if (hits > image->entryCount() / 2) return;
+  // Where most entries are hits the segment itself is the smallest way to keep them.
+  if (hits > segment->entryCount() / 2) return;
   std::vector<std::uint32_t> chosen;
   chosen.reserve(hits);
   for (std::int64_t row = firstRow; row < rowCount_; ++row) {
     chosen.push_back(hit(row).entry);
     hit(row).entry = static_cast<std::uint32_t>(chosen.size() - 1);
   }
-  images_.back().image = copyOfEntries(*image, chosen);
+  segments_.back().segment = copyOfEntries(*segment, chosen);
 }
 
 }  // namespace quorvin

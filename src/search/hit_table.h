@@ -1,8 +1,8 @@
 // The hits of the last run, as rows of six columns. Rows are made into text only when they are asked for.
 #pragma once
 
-#include "platform/general_date.h"
-#include "search/hit_receiver.h"
+#include "dates/general_date.h"
+#include "search/match/hit_receiver.h"
 
 #include <QLocale>
 #include <QString>
@@ -35,7 +35,7 @@ struct HitRow {
 /// The text of one column of `row`, as the hit list and the console show it.
 QString hitText(const HitRow& row, HitColumn column, const QLocale& locale);
 
-/// Keeps hits as references into images, 8 bytes each, and 16 for each stretch of hits without values of
+/// Keeps hits as references into segments, 8 bytes each, and 16 for each stretch of hits without values of
 /// their own.
 class HitTable : public HitReceiver {
  public:
@@ -47,19 +47,19 @@ class HitTable : public HitReceiver {
   HitRow row(std::int64_t row) const;
   SourceKind kind(std::int64_t row) const;
 
-  /// Removes all rows and lets go of the images.
+  /// Removes all rows and lets go of the segments.
   void clear();
 
   void beginListing(SourceKind kind) override;
-  void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override;
-  void endImage(const std::shared_ptr<const SearchImage>& image,
-                const std::shared_ptr<const SearchImage>& kept) override;
+  void addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
+  void endSegment(const std::shared_ptr<const Segment>& segment,
+                  const std::shared_ptr<const Segment>& kept) override;
 
  private:
-  /// Rows that stand one after another and belong to one image.
+  /// Rows that stand one after another and belong to one segment.
   struct ImageRows {
     std::int64_t firstRow;
-    std::shared_ptr<const SearchImage> image;
+    std::shared_ptr<const Segment> segment;
     SourceKind kind;
   };
   /// Rows one after another whose own entries have no values. They show those of the row before the first of
@@ -80,18 +80,18 @@ class HitTable : public HitReceiver {
   FoundEntry& hit(std::int64_t row);
   const ImageRows& imageRows(std::int64_t row) const;
   std::int64_t valueRowOf(std::int64_t row) const;
-  bool findOwnValues(const SearchImage& image, std::span<const FoundEntry> hits);
+  bool findOwnValues(const Segment& segment, std::span<const FoundEntry> hits);
   void noteCarriedRow(std::int64_t row);
 
   std::vector<std::unique_ptr<FoundEntry[]>> pages_;
   std::int64_t rowCount_ = 0;
-  std::vector<ImageRows> images_;
+  std::vector<ImageRows> segments_;
   std::vector<CarriedRows> carried_;
   /// Of the hits at hand: the entry has values of its own.
   std::vector<std::uint8_t> ownValues_;
   SourceKind kind_ = SourceKind::Online;
   /// No hit of the listing has come yet. The same listing may come again as another kind of source, with the
-  /// same images.
+  /// same segments.
   bool listingBegins_ = true;
   /// A row of the listing has values of its own.
   bool valuesSeen_ = false;

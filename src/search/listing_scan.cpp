@@ -1,10 +1,10 @@
 #include "search/listing_scan.h"
 
-#include "platform/runtime_fault.h"
-#include "platform/sequential_file.h"
+#include "faults/runtime_fault.h"
+#include "files/sequential_file.h"
 #include "search/entry_search.h"
-#include "search/image_builder.h"
-#include "search/listing_text.h"
+#include "search/format/listing_text.h"
+#include "search/segment/segment_builder.h"
 
 #include <algorithm>
 
@@ -21,12 +21,12 @@ class FileSource : public ListingSource {
   SequentialFile file_;
 };
 
-/// A scan that reads the listing: chunks become entries of an image, and the entries are searched.
+/// A scan that reads the listing: chunks become entries of an segment, and the entries are searched.
 class BuildingScan {
  public:
   /// The first `alreadySearched` entries are read but not searched again. `recorder` may be null.
   BuildingScan(ListingSource& source, const QLocale& locale, EntrySearch& search, HitReceiver& hits,
-               std::int64_t alreadySearched, ImageStore::Recorder* recorder, const ScanLimits& limits)
+               std::int64_t alreadySearched, SegmentStore::Recorder* recorder, const ScanLimits& limits)
       : builder_(locale),
         text_(source, limits.chunkSize),
         search_(search),
@@ -45,57 +45,57 @@ class BuildingScan {
       builder_.addLine(text_.lastLine());
       searchText(0);
     }
-    endImage();
+    endSegment();
   }
 
  private:
   void searchText(std::size_t bytes) {
     if (recorder_ != nullptr) builder_.readAllValues();
-    builder_.image()->publish();
+    builder_.segment()->publish();
     searchNewEntries();
     builder_.finishText();
-    imageBytes_ += bytes;
-    if (imageBytes_ >= (recorder_ != nullptr ? limits_.keptSegment : limits_.passingSegment)) endImage();
+    segmentBytes_ += bytes;
+    if (segmentBytes_ >= (recorder_ != nullptr ? limits_.keptSegment : limits_.passingSegment)) endSegment();
   }
 
   void searchNewEntries() {
-    const std::uint32_t count = builder_.image()->entryCount();
+    const std::uint32_t count = builder_.segment()->entryCount();
     const auto skipped = static_cast<std::uint32_t>(std::min<std::int64_t>(toSkip_, count - nextEntry_));
     toSkip_ -= skipped;
-    search_.search(builder_.image(), nextEntry_ + skipped, count, [this](std::span<const FoundEntry> hits) {
+    search_.search(builder_.segment(), nextEntry_ + skipped, count, [this](std::span<const FoundEntry> hits) {
       for (const FoundEntry& hit : hits) builder_.readValues(hit.entry);
-      builder_.image()->publish();
+      builder_.segment()->publish();
     });
     nextEntry_ = count;
   }
 
   [[noreturn]] void throwLineTooLong() {
-    endImage();
+    endSegment();
     throw RuntimeFault(FaultNumber::Overflow, QStringLiteral("Line %1 is longer than %2 bytes")
                                                   .arg(builder_.lineCount() + 1)
                                                   .arg(limits_.longestLine));
   }
 
-  void endImage() {
-    std::shared_ptr<const SearchImage> kept;
-    if (recorder_ != nullptr && !search_.stopped() && builder_.image()->entryCount() > 0) {
-      builder_.image()->complete();
-      kept = recorder_->add(builder_.image());
+  void endSegment() {
+    std::shared_ptr<const Segment> kept;
+    if (recorder_ != nullptr && !search_.stopped() && builder_.segment()->entryCount() > 0) {
+      builder_.segment()->complete();
+      kept = recorder_->add(builder_.segment());
     }
-    receiver_.endImage(builder_.image(), kept);
-    builder_.beginImage();
+    receiver_.endSegment(builder_.segment(), kept);
+    builder_.beginSegment();
     nextEntry_ = 0;
-    imageBytes_ = 0;
+    segmentBytes_ = 0;
   }
 
-  ImageBuilder builder_;
+  SegmentBuilder builder_;
   ListingText text_;
   EntrySearch& search_;
   HitReceiver& receiver_;
   std::int64_t toSkip_;
-  ImageStore::Recorder* recorder_;
+  SegmentStore::Recorder* recorder_;
   const ScanLimits& limits_;
-  std::size_t imageBytes_ = 0;
+  std::size_t segmentBytes_ = 0;
   std::uint32_t nextEntry_ = 0;
 };
 
@@ -105,15 +105,15 @@ bool wasWritten(const FileIdentity& before, const FileIdentity& now) {
          (before.size != now.size || before.modified != now.modified);
 }
 
-/// Searches images that are known. False where one was damaged; what was searched before it stands.
-bool searchImages(const ImageStore::Images& images, EntrySearch& search, HitReceiver& hits) {
+/// Searches segments that are known. False where one was damaged; what was searched before it stands.
+bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search, HitReceiver& hits) {
   try {
-    for (const auto& image : images) {
-      search.search(image, 0, image->entryCount());
-      image->searched();
-      hits.endImage(image, image);
+    for (const auto& segment : segments) {
+      search.search(segment, 0, segment->entryCount());
+      segment->searched();
+      hits.endSegment(segment, segment);
     }
-  } catch (const DamagedImage&) {
+  } catch (const DamagedSegment&) {
     return false;
   }
   return true;
@@ -129,23 +129,23 @@ void scanListing(ListingSource& source, const SearchQuery& query, const QLocale&
   BuildingScan(source, locale, search, hits, 0, nullptr, limits).run();
 }
 
-void scanListingFile(const QString& path, ImageStore* store, const SearchQuery& query, const QLocale& locale,
-                     std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener,
-                     ScanOutcome& outcome, const ScanLimits& limits) {
+void scanListingFile(const QString& path, SegmentStore* store, const SearchQuery& query,
+                     const QLocale& locale, std::int64_t& searchedCount, HitReceiver& hits,
+                     ScanListener& listener, ScanOutcome& outcome, const ScanLimits& limits) {
   outcome = {};
   EntrySearch search(query, searchedCount, hits, listener, outcome);
-  const std::optional<ImageKey> key = imageKeyOf(path, locale);
+  const std::optional<SegmentKey> key = segmentKeyOf(path, locale);
   if (store != nullptr && key) {
-    const ImageStore::Images images = store->find(*key);
-    if (!images.empty() && searchImages(images, search, hits)) return;
-    if (!images.empty()) store->forget(key->listing);
+    const SegmentStore::Segments segments = store->find(*key);
+    if (!segments.empty() && searchSegments(segments, search, hits)) return;
+    if (!segments.empty()) store->forget(key->listing);
   }
   FileSource source(path);
-  std::optional<ImageStore::Recorder> recorder;
+  std::optional<SegmentStore::Recorder> recorder;
   if (store != nullptr && key) recorder.emplace(*store, *key);
   BuildingScan(source, locale, search, hits, search.searched(), recorder ? &*recorder : nullptr, limits)
       .run();
-  const std::optional<ImageKey> keyNow = imageKeyOf(path, locale);
+  const std::optional<SegmentKey> keyNow = segmentKeyOf(path, locale);
   outcome.changedMeanwhile = key && keyNow && wasWritten(key->identity, keyNow->identity);
   if (recorder && !outcome.stopped && keyNow == key) recorder->finish();
 }

@@ -1,10 +1,10 @@
 // Scanning one listing from its start to its end.
 #pragma once
 
-#include "search/hit_receiver.h"
-#include "search/image_store.h"
-#include "search/listing_source.h"
-#include "search/search_query.h"
+#include "search/format/listing_source.h"
+#include "search/match/hit_receiver.h"
+#include "search/match/search_query.h"
+#include "search/segment/segment_store.h"
 
 #include <QLocale>
 #include <QString>
@@ -44,23 +44,23 @@ struct ScanLimits {
   std::size_t chunkSize = std::size_t{1} << 18;
   /// A line with more bytes is no line of a listing: the scan ends there with a fault.
   std::size_t longestLine = std::size_t{1} << 20;
-  /// Listing bytes in one image that is not kept, and in one that is.
+  /// Listing bytes in one segment that is not kept, and in one that is.
   std::size_t passingSegment = std::size_t{1} << 18;
   std::size_t keptSegment = std::size_t{64} << 20;
 };
 
 /// Scans a listing for `query`. `searchedCount` is the run's and is raised by one for each entry; hits go to
-/// `hits` in file order. Only one chunk, one image and the hits are in memory. Throws RuntimeFault when
+/// `hits` in file order. Only one chunk, one segment and the hits are in memory. Throws RuntimeFault when
 /// reading fails or a line is too long (fault 6, naming the line); `outcome` and the hits up to there stand.
 void scanListing(ListingSource& source, const SearchQuery& query, const QLocale& locale,
                  std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome,
                  const ScanLimits& limits = {});
 
-/// The same for the listing file at `path`, from its images in `store` where they are known; else they are
-/// built and handed to the store. `store` may be null. Images that turn out to be damaged are built anew, and
-/// the scan goes on where it was.
-void scanListingFile(const QString& path, ImageStore* store, const SearchQuery& query, const QLocale& locale,
-                     std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener,
-                     ScanOutcome& outcome, const ScanLimits& limits = {});
+/// The same for the listing file at `path`, from its segments in `store` where they are known; else they are
+/// built and handed to the store. `store` may be null. Segments that turn out to be damaged are built anew,
+/// and the scan goes on where it was.
+void scanListingFile(const QString& path, SegmentStore* store, const SearchQuery& query,
+                     const QLocale& locale, std::int64_t& searchedCount, HitReceiver& hits,
+                     ScanListener& listener, ScanOutcome& outcome, const ScanLimits& limits = {});
 
 }  // namespace quorvin

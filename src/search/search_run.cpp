@@ -1,8 +1,8 @@
 #include "search/search_run.h"
 
-#include "platform/file_lookup.h"
-#include "platform/general_number.h"
-#include "platform/runtime_fault.h"
+#include "dates/general_number.h"
+#include "faults/runtime_fault.h"
+#include "files/file_lookup.h"
 #include "platform/text_encoding.h"
 
 #include <algorithm>
@@ -59,8 +59,8 @@ class SearchRun::Listener : public ScanListener, public HitReceiver {
 
   void beginListing(SourceKind kind) override { run_.hits_.beginListing(kind); }
 
-  void addHits(const std::shared_ptr<const SearchImage>& image, std::span<const FoundEntry> hits) override {
-    run_.hits_.addHits(image, hits);
+  void addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override {
+    run_.hits_.addHits(segment, hits);
     run_.hitCount_ += static_cast<std::int64_t>(hits.size());
     newHits_ = true;
   }
@@ -72,11 +72,11 @@ class SearchRun::Listener : public ScanListener, public HitReceiver {
     newHits_ = newHits_ || hits > 0;
   }
 
-  void endImage(const std::shared_ptr<const SearchImage>& image,
-                const std::shared_ptr<const SearchImage>& kept) override {
-    // The rows first: they were announced by nobody yet, and the image may now be replaced under them.
+  void endSegment(const std::shared_ptr<const Segment>& segment,
+                  const std::shared_ptr<const Segment>& kept) override {
+    // The rows first: they were announced by nobody yet, and the segment may now be replaced under them.
     showHits();
-    run_.hits_.endImage(image, kept);
+    run_.hits_.endSegment(segment, kept);
   }
 
   void showHits() {
@@ -92,12 +92,12 @@ class SearchRun::Listener : public ScanListener, public HitReceiver {
 };
 
 SearchRun::SearchRun(ProgramState& state, SearchRunView& view, MessageBoxes& messages, HitReceiver& hits,
-                     ImageStore* images, const QLocale& locale, PathStyle style)
+                     SegmentStore* segments, const QLocale& locale, PathStyle style)
     : state_(state),
       view_(view),
       messages_(messages),
       hits_(hits),
-      images_(images),
+      segments_(segments),
       locale_(locale),
       style_(style) {}
 
@@ -189,7 +189,7 @@ void SearchRun::scan(const QString& path, SourceKind kind) {
   ScanOutcome outcome;
   listener.beginListing(kind);
   try {
-    scanListingFile(path, images_, query_, locale_, searchedCount_, listener, listener, outcome);
+    scanListingFile(path, segments_, query_, locale_, searchedCount_, listener, listener, outcome);
   } catch (const RuntimeFault& fault) {
     ++failedListings_;
     messages_.inform(

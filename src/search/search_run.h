@@ -1,10 +1,10 @@
 // The search run: what the Find button starts.
 #pragma once
 
+#include "files/path_style.h"
 #include "platform/message_box.h"
-#include "platform/path_style.h"
-#include "search/hit_receiver.h"
 #include "search/listing_scan.h"
+#include "search/match/hit_receiver.h"
 #include "state/program_state.h"
 
 #include <QLocale>
@@ -43,9 +43,9 @@ class SearchRunView {
 /// Runs a search over all sources. User-interface thread only; everything handed over must outlive it.
 class SearchRun {
  public:
-  /// `images` keeps what was read for later runs; null to read every listing anew.
+  /// `segments` keeps what was read for later runs; null to read every listing anew.
   SearchRun(ProgramState& state, SearchRunView& view, MessageBoxes& messages, HitReceiver& hits,
-            ImageStore* images, const QLocale& locale, PathStyle style = nativePathStyle());
+            SegmentStore* segments, const QLocale& locale, PathStyle style = nativePathStyle());
 
   /// The click handler of `Find`. While the caption is not "Find" it only sets `AbortRequested`. Otherwise:
   /// corrects the desired match, lower-cases the search text (an empty one ends the run before anything
@@ -86,7 +86,7 @@ class SearchRun {
   SearchRunView& view_;
   MessageBoxes& messages_;
   HitReceiver& hits_;
-  ImageStore* images_;
+  SegmentStore* segments_;
   QLocale locale_;
   PathStyle style_;
   SearchQuery query_;

@@ -1,6 +1,6 @@
 #include "state/data_folder.h"
 
-#include "platform/file_lookup.h"
+#include "files/file_lookup.h"
 
 namespace quorvin {
 

@@ -1,6 +1,6 @@
 #include "state/defaults_file.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "state/text_line_reader.h"
 
 namespace quorvin {

@@ -1,7 +1,7 @@
 // What the whole program shares while it runs.
 #pragma once
 
-#include "platform/general_date.h"
+#include "dates/general_date.h"
 #include "state/source_table.h"
 
 #include <QString>

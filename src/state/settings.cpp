@@ -1,8 +1,8 @@
 #include "state/settings.h"
 
-#include "platform/file_lookup.h"
-#include "platform/general_number.h"
-#include "platform/runtime_fault.h"
+#include "dates/general_number.h"
+#include "faults/runtime_fault.h"
+#include "files/file_lookup.h"
 #include "state/source_list_file.h"
 
 #include <array>

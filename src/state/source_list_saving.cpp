@@ -1,9 +1,9 @@
 #include "state/source_list_saving.h"
 
-#include "platform/file_identity.h"
-#include "platform/file_lookup.h"
-#include "platform/file_replacement.h"
-#include "platform/sequential_file.h"
+#include "files/file_identity.h"
+#include "files/file_lookup.h"
+#include "files/file_replacement.h"
+#include "files/sequential_file.h"
 #include "state/data_folder.h"
 #include "state/source_list_file.h"
 

@@ -1,6 +1,6 @@
 #include "state/source_table.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 
 namespace quorvin {
 

@@ -1,7 +1,7 @@
 // Reading a small text file line by line.
 #pragma once
 
-#include "platform/sequential_file.h"
+#include "files/sequential_file.h"
 
 #include <QByteArray>
 #include <QString>

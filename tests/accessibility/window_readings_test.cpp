@@ -5,7 +5,7 @@
 #include "editors/dialog_driving.h"
 #include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
-#include "net/peer_progress.h"
+#include "peers/client/peer_progress.h"
 #include "preview/img_pre.h"
 #include "preview/img_pre_loading.h"
 #include "preview/res_win.h"

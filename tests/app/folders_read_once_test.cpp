@@ -1,7 +1,7 @@
 // Many look-ups in the same folders, with no folder read twice.
 #include "app/folders_read_once.h"
 
-#include "platform/file_lookup.h"
+#include "files/file_lookup.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

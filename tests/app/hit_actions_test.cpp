@@ -40,12 +40,14 @@ class HitActionsTest : public testing::Test {
     hit_.folder = QStringLiteral("\\Music\\Rock\\");
     hit_.name = QStringLiteral("song.mp3");
   }
+  QString lookUp(const QString& pattern) {
+    if (lookUpFault_) throw RuntimeFault(*lookUpFault_);
+    const bool fits = pattern == wanted_ || pattern == QStringLiteral("D:\\Music\\Rock\\") + found_;
+    return fits ? found_ : QString();
+  }
   HitActions actions() {
-    return HitActions(state_, shell_, messages_, kWindowsPaths, [this](const QString& pattern) {
-      if (lookUpFault_) throw RuntimeFault(*lookUpFault_);
-      const bool fits = pattern == wanted_ || pattern == QStringLiteral("D:\\Music\\Rock\\") + found_;
-      return fits ? found_ : QString();
-    });
+    return HitActions(state_, shell_, messages_, kWindowsPaths,
+                      [this](const QString& pattern) { return lookUp(pattern); });
   }
   void doEverything() {
     actions().launch(hit_);
@@ -155,10 +157,12 @@ TEST_F(HitActionsTest, OtherFaultsOfTheResolverTellNumberAndDescription) {
 
 TEST_F(HitActionsTest, AQuietLookTellsNoFault) {
   lookUpFault_ = RuntimeFault(FaultNumber::BadFileName);
-  EXPECT_TRUE(actions().resolveQuietly(hit_).isEmpty());
+  const auto theirLookUp = [this](const QString& pattern) { return lookUp(pattern); };
+  EXPECT_TRUE(actions().resolveQuietly(hit_, theirLookUp).isEmpty());
   EXPECT_TRUE(messages_.informed.empty());
   lookUpFault_.reset();
-  EXPECT_EQ(actions().resolveQuietly(hit_).fullPath(), QStringLiteral("D:\\Music\\Rock\\song.mp3"));
+  EXPECT_EQ(actions().resolveQuietly(hit_, theirLookUp).fullPath(),
+            QStringLiteral("D:\\Music\\Rock\\song.mp3"));
 }
 
 TEST_F(HitActionsTest, WithoutAPlayerOneMessageSaysSo) {

@@ -1,7 +1,7 @@
 #include "app/shutdown.h"
 
 #include "app/start_up.h"
-#include "start_up_fixture.h"
+#include "app/start_up_fixture.h"
 #include "support/memory_settings_store.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"

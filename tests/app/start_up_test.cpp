@@ -1,4 +1,4 @@
-#include "start_up_fixture.h"
+#include "app/start_up_fixture.h"
 #include "support/qt_printing.h"
 
 #include <gmock/gmock.h>

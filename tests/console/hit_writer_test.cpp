@@ -1,6 +1,6 @@
 #include "console/hit_writer.h"
 
-#include "search/growing_image.h"
+#include "search/segment/growing_segment.h"
 
 #include <gtest/gtest.h>
 
@@ -40,13 +40,13 @@ TEST(HitWriter, TellsWhenTheOutputTakesNoMore) {
   std::setvbuf(full, nullptr, _IONBF, 0);
   HitWriter writer(full, HitFormat::Tsv, false, QLocale::c());
   EXPECT_TRUE(writer.good());
-  const auto image = std::make_shared<GrowingImage>();
-  image->beginBlock("V", "\\", true);
-  image->addEntry("song", true);
-  image->publish();
+  const auto segment = std::make_shared<GrowingSegment>();
+  segment->beginBlock("V", "\\", true);
+  segment->addEntry("song", true);
+  segment->publish();
   const FoundEntry hit{0, 100};
   writer.beginListing(SourceKind::Online);
-  writer.addHits(image, {&hit, 1});
+  writer.addHits(segment, {&hit, 1});
   writer.flush();
   EXPECT_FALSE(writer.good());
   std::fclose(full);

@@ -1,6 +1,6 @@
 // "quorvin-cli index" as a user runs it.
 #include "console/console_program.h"
-#include "platform/path_style.h"
+#include "files/path_style.h"
 #include "support/plain_walker.h"
 #include "support/qt_printing.h"
 

@@ -1,4 +1,4 @@
-#include "desktop.h"
+#include "e2e/desktop.h"
 
 #include <QDeadlineTimer>
 #include <QThread>

@@ -1,4 +1,4 @@
-#include "killed_process.h"
+#include "e2e/killed_process.h"
 
 #include <csignal>
 #include <stdexcept>

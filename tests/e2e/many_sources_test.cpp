@@ -1,11 +1,11 @@
 // As many sources as a list can hold, through a whole life of the program, and one more.
+#include "e2e/source_records.h"
+#include "e2e/whole_program.h"
 #include "editors/dialog_driving.h"
 #include "editors/local_loc.h"
-#include "source_records.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
-#include "whole_program.h"
 
 #include <QAction>
 

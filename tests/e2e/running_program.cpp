@@ -1,4 +1,4 @@
-#include "running_program.h"
+#include "e2e/running_program.h"
 
 #include "support/listing_lines.h"
 

@@ -1,7 +1,7 @@
 // The real program, used by keyboard as a person uses it.
 #pragma once
 
-#include "desktop.h"
+#include "e2e/desktop.h"
 #include "support/temporary_folder.h"
 
 #include <QProcess>

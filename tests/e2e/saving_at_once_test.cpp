@@ -1,7 +1,7 @@
 // Programs that close at the same moment.
+#include "e2e/windowless_program.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
-#include "windowless_program.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // Closing the program where something cannot be saved: what is told, what stays, what is saved all the same.
-#include "ordinary_user.h"
-#include "platform/full_disk.h"
-#include "source_records.h"
+#include "e2e/ordinary_user.h"
+#include "e2e/source_records.h"
+#include "e2e/whole_program.h"
+#include "files/full_disk.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
-#include "whole_program.h"
 
 #include <sys/stat.h>
 

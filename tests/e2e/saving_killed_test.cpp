@@ -1,10 +1,10 @@
 // A program that is killed while it saves, at any moment.
-#include "killed_process.h"
+#include "e2e/killed_process.h"
+#include "e2e/windowless_program.h"
+#include "faults/runtime_fault.h"
 #include "platform/ini_settings_lock.h"
-#include "platform/runtime_fault.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
-#include "windowless_program.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Two real programs, each with settings and folders of its own, exchange their lists over TCP.
-#include "running_program.h"
-#include "source_records.h"
+#include "e2e/running_program.h"
+#include "e2e/source_records.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 

@@ -3,8 +3,8 @@
 
 #include "app/shutdown.h"
 #include "app/start_up.h"
+#include "e2e/source_records.h"
 #include "platform/ini_settings_store.h"
-#include "source_records.h"
 #include "support/recording_message_boxes.h"
 
 #include <QLocale>

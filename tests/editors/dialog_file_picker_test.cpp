@@ -1,5 +1,5 @@
 // The dialogs for picking files and folders, answered as a person would.
-#include "dialog_driving.h"
+#include "editors/dialog_driving.h"
 #include "editors/local_loc_file_picker.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

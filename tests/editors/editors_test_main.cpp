@@ -1,5 +1,5 @@
 // Runs the tests of the editors with an application object, and without a screen unless one is asked for.
-#include "last_resort_faults.h"
+#include "editors/last_resort_faults.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "editors/file_picker.h"
 
-#include "recording_file_picker.h"
+#include "editors/recording_file_picker.h"
 #include "support/qt_printing.h"
 
 #include <gtest/gtest.h>

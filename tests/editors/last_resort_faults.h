@@ -1,7 +1,7 @@
 // The faults that no handler of a window has dealt with.
 #pragma once
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
 // The options dialog on a state and a data folder of the test's own.
 #pragma once
 
-#include "dialog_driving.h"
+#include "editors/dialog_driving.h"
 #include "editors/list_options.h"
-#include "recording_file_picker.h"
+#include "editors/recording_file_picker.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
 #include "support/temporary_folder.h"

@@ -1,7 +1,7 @@
 // Opening the options dialog from the main window.
 #include "editors/list_options_opener.h"
 
-#include "list_options_fixture.h"
+#include "editors/list_options_fixture.h"
 
 #include <QMainWindow>
 

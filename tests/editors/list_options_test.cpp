@@ -1,5 +1,5 @@
 // The options dialog by clicks and keys.
-#include "list_options_fixture.h"
+#include "editors/list_options_fixture.h"
 
 #include <QLabel>
 

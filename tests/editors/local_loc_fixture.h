@@ -1,11 +1,11 @@
 // The source editor on a state of the test's own.
 #pragma once
 
-#include "dialog_driving.h"
+#include "editors/dialog_driving.h"
 #include "editors/local_loc.h"
 #include "editors/local_loc_opener.h"
-#include "recording_editor_host.h"
-#include "recording_file_picker.h"
+#include "editors/recording_editor_host.h"
+#include "editors/recording_file_picker.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
 

@@ -1,5 +1,5 @@
 // The source editor by keys alone.
-#include "local_loc_fixture.h"
+#include "editors/local_loc_fixture.h"
 
 namespace quorvin::test {
 

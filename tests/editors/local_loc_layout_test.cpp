@@ -1,7 +1,7 @@
 // The layout of the source editor.
 #include "editors/local_loc_layout.h"
 
-#include "local_loc_fixture.h"
+#include "editors/local_loc_fixture.h"
 
 #include <QHeaderView>
 

@@ -1,5 +1,5 @@
 // As many sources as a list can hold, and one more.
-#include "local_loc_fixture.h"
+#include "editors/local_loc_fixture.h"
 #include "state/source_list_file.h"
 #include "support/temporary_folder.h"
 

@@ -1,5 +1,5 @@
 // The source editor for offline list files.
-#include "local_loc_fixture.h"
+#include "editors/local_loc_fixture.h"
 
 #include <QHeaderView>
 

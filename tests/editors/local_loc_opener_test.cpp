@@ -1,5 +1,5 @@
 // Opening the source editor from the main window.
-#include "local_loc_fixture.h"
+#include "editors/local_loc_fixture.h"
 
 #include <QMainWindow>
 

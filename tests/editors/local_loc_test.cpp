@@ -1,6 +1,6 @@
 // The source editor in the mode for folders, by clicks.
-#include "last_resort_faults.h"
-#include "local_loc_fixture.h"
+#include "editors/last_resort_faults.h"
+#include "editors/local_loc_fixture.h"
 
 #include <QHeaderView>
 #include <QSignalSpy>

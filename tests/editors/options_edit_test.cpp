@@ -1,7 +1,7 @@
 // Storing the options, step by step.
 #include "editors/options_edit.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
 #include "support/temporary_folder.h"

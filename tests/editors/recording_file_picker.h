@@ -2,7 +2,7 @@
 #pragma once
 
 #include "editors/file_picker.h"
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 
 #include <vector>
 

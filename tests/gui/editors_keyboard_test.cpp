@@ -2,8 +2,8 @@
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
 #include "editors/recording_file_picker.h"
-#include "keys.h"
-#include "search_form_fixture.h"
+#include "gui/keys.h"
+#include "gui/search_form_fixture.h"
 
 namespace quorvin::test {
 

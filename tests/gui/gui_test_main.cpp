@@ -1,6 +1,6 @@
 // Runs the tests of the windows with an application object, and without a screen unless one is asked for.
 #include "app/main_application.h"
-#include "last_resort_messages.h"
+#include "gui/last_resort_messages.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The help browser by keys alone, with the real pages, opened from the menu of the main window.
+#include "gui/keys.h"
+#include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
-#include "keys.h"
-#include "search_form_fixture.h"
 
 #include <QLabel>
 #include <QLineEdit>

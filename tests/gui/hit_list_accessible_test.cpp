@@ -1,5 +1,5 @@
 // What assistive technology is told of the main window.
-#include "search_form_fixture.h"
+#include "gui/search_form_fixture.h"
 
 #include <QAccessible>
 

@@ -2,7 +2,7 @@
 #include "app/hit_list.h"
 #include "app/hit_list_delegate.h"
 #include "app/hit_list_model.h"
-#include "scan_into.h"
+#include "gui/scan_into.h"
 #include "support/listing_lines.h"
 
 #include <QHeaderView>

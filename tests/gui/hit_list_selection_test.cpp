@@ -2,7 +2,7 @@
 #include "app/hit_list_selection.h"
 
 #include "app/hit_list.h"
-#include "many_rows_model.h"
+#include "gui/many_rows_model.h"
 #include "support/qt_printing.h"
 
 #include <QContextMenuEvent>

@@ -1,8 +1,8 @@
 // Faults that reach the edge of the event loop.
 #include "app/main_application.h"
 
-#include "last_resort_messages.h"
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
+#include "gui/last_resort_messages.h"
 #include "support/qt_printing.h"
 
 #include <QEvent>

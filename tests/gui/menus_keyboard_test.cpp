@@ -1,7 +1,7 @@
 // The menus by keys alone: every item of the menu bar is reached and does what it names.
+#include "gui/keys.h"
+#include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
-#include "keys.h"
-#include "search_form_fixture.h"
 
 #include <QDialog>
 

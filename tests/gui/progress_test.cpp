@@ -1,5 +1,5 @@
 // The window that shows the progress of a long piece of work.
-#include "net/progress.h"
+#include "work/progress.h"
 
 #include "support/qt_printing.h"
 

@@ -1,4 +1,4 @@
-#include "search_form_fixture.h"
+#include "gui/search_form_fixture.h"
 
 #include <QAction>
 #include <QDialog>

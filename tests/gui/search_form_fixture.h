@@ -114,7 +114,7 @@ class SearchFormTest : public testing::Test {
   RecordingShell shell_;
   MemorySettingsStore settings_;
   /// What keeps listings that were read; may be set before the window is made.
-  ImageStore* images_ = nullptr;
+  SegmentStore* images_ = nullptr;
 
  private:
   std::unique_ptr<SearchForm> form_;

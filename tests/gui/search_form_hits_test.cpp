@@ -1,5 +1,5 @@
 // Acting on hits with the mouse and the keys of the real window.
-#include "search_form_fixture.h"
+#include "gui/search_form_fixture.h"
 
 #include <QApplication>
 #include <QClipboard>

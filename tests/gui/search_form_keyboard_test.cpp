@@ -1,8 +1,8 @@
 // The main window by keys alone: searching, going through the hits, and doing something with one.
 #include "app/hit_list.h"
-#include "keys.h"
+#include "gui/keys.h"
+#include "gui/search_form_fixture.h"
 #include "search/hit_path.h"
-#include "search_form_fixture.h"
 
 #include <QClipboard>
 

@@ -1,7 +1,7 @@
 // The layout of the main window, to the number.
 #include "app/search_form_layout.h"
 
-#include "search_form_fixture.h"
+#include "gui/search_form_fixture.h"
 
 #include <QHeaderView>
 #include <QMenuBar>

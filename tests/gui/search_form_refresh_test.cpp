@@ -1,7 +1,7 @@
 // The local list refresh, started and watched in the real window.
+#include "gui/search_form_fixture.h"
 #include "preview/res_win.h"
-#include "search/image_store.h"
-#include "search_form_fixture.h"
+#include "search/segment/segment_store.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>
@@ -173,7 +173,7 @@ TEST_F(WindowRefresh, ASearchMeanwhileReadsTheLastFinishedListings) {
 
 TEST_F(WindowRefresh, ListingsThatWereKeptInMemoryAreReadAnewAfterARefresh) {
   const TemporaryFolder cache;
-  ImageStore images({cache.path(), 100'000'000, ImageUse::Repeated});
+  SegmentStore images({cache.path(), 100'000'000, SegmentUse::Repeated});
   images_ = &images;
   addFolder(QStringLiteral("Music"), {QStringLiteral("first song.mp3")});
   rescan();

@@ -1,5 +1,5 @@
 // Searching with the real window: typing, pressing Find and Stop, reading rows, colours and labels.
-#include "search_form_fixture.h"
+#include "gui/search_form_fixture.h"
 
 namespace quorvin::test {
 

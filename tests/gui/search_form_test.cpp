@@ -1,6 +1,6 @@
 // The main window before a run: its controls, menus, keys and what it tells.
 #include "app/search_form_menus.h"
-#include "search_form_fixture.h"
+#include "gui/search_form_fixture.h"
 
 #include <QApplication>
 #include <QMenuBar>

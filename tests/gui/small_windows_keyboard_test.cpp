@@ -1,12 +1,12 @@
 // The small windows by keys alone: what they are for is done, and they are left.
 #include "app/widget_message_boxes.h"
+#include "gui/keys.h"
+#include "gui/search_form_fixture.h"
 #include "help/frm_splash.h"
-#include "keys.h"
-#include "net/peer_progress.h"
+#include "peers/client/peer_progress.h"
 #include "preview/img_pre.h"
 #include "preview/img_pre_loading.h"
 #include "preview/res_win.h"
-#include "search_form_fixture.h"
 
 #include <QClipboard>
 #include <QInputDialog>

@@ -1,6 +1,6 @@
 #include "index/line_output.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

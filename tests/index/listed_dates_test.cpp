@@ -1,6 +1,6 @@
 #include "index/listed_dates.h"
 
-#include "platform/general_date.h"
+#include "dates/general_date.h"
 #include "support/qt_printing.h"
 #include "support/time_zone.h"
 

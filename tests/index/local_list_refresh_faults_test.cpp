@@ -1,6 +1,6 @@
 // The refresh when listings cannot be written.
+#include "files/full_disk.h"
 #include "index/refresh_fixture.h"
-#include "platform/full_disk.h"
 
 #include <sys/stat.h>
 

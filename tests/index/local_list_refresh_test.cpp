@@ -1,5 +1,5 @@
+#include "faults/runtime_fault.h"
 #include "index/refresh_fixture.h"
-#include "platform/runtime_fault.h"
 
 namespace quorvin {
 namespace {

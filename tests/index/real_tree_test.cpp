@@ -76,7 +76,7 @@ class RealTree : public test::RefreshTest {
 
  private:
   TemporaryFolder cache_;
-  ImageStore images_{{cache_.path(), std::size_t{1} << 30, ImageUse::Repeated}};
+  SegmentStore images_{{cache_.path(), std::size_t{1} << 30, SegmentUse::Repeated}};
 };
 
 TEST_F(RealTree, ListingEqualsAPlainWalkBlockByBlock) {

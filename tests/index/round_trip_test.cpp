@@ -1,6 +1,6 @@
 // What the walk writes, the scan reads back, in every locale tried.
+#include "dates/day_and_second.h"
 #include "index/walk_fixture.h"
-#include "platform/day_and_second.h"
 #include "support/scan_of.h"
 
 namespace quorvin {

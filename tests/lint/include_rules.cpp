@@ -1,8 +1,10 @@
 #include "lint/include_rules.h"
 
 #include <algorithm>
+#include <set>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace quorvin::lint {
 namespace {
@@ -23,9 +25,9 @@ std::string joined(const std::vector<std::string>& words) {
   return text.empty() ? "nothing of ours" : text;
 }
 
-/// "state" for "state/settings.h"; empty when there is no folder.
-std::string folderOf(std::string_view header) {
-  const std::size_t slash = header.find('/');
+/// "peers/server" for "peers/server/peer_server.h"; empty when there is no folder.
+std::string roomOf(std::string_view header) {
+  const std::size_t slash = header.rfind('/');
   return std::string(slash == std::string_view::npos ? "" : header.substr(0, slash));
 }
 
@@ -74,56 +76,87 @@ IncludeRules IncludeRules::parse(std::string_view text) {
     if (line.empty() || line.starts_with('#')) continue;
     const std::size_t colon = line.find(':');
     const std::vector<std::string> head = wordsOf(line.substr(0, colon));
-    const bool isFolder = head.size() == 2 && head[0] == "folder";
+    const bool isRoom = head.size() == 2 && head[0] == "room";
     const bool isWidgets = head.size() == 1 && head[0] == "widgets";
-    if (colon == std::string::npos || (!isFolder && !isWidgets)) {
+    if (colon == std::string::npos || (!isRoom && !isWidgets)) {
       throw std::invalid_argument("line " + std::to_string(number) +
-                                  " is neither \"folder NAME: ...\" nor \"widgets: ...\"");
+                                  " is neither \"room NAME: ...\" nor \"widgets: ...\"");
     }
     const std::vector<std::string> words = wordsOf(line.substr(colon + 1));
     if (isWidgets) {
       rules.widgetFiles_.insert(rules.widgetFiles_.end(), words.begin(), words.end());
-    } else if (!rules.allowed_.emplace(head[1], words).second) {
-      throw std::invalid_argument("line " + std::to_string(number) + " names the folder " + head[1] +
-                                  " again");
+    } else {
+      rules.addRoom(number, head[1], words);
     }
   }
   return rules;
 }
 
-std::vector<std::string> IncludeRules::folders() const {
+void IncludeRules::addRoom(int line, const std::string& room, const std::vector<std::string>& permits) {
+  const std::string place = "line " + std::to_string(line);
+  if (allowed_.contains(room)) throw std::invalid_argument(place + " names the room " + room + " again");
+  for (const std::string& permit : permits) {
+    const std::string permitted = permit.ends_with(".h") ? roomOf(permit) : permit;
+    if (allowed_.contains(permitted)) continue;
+    throw std::invalid_argument(place + " lets " + room + " include " + permit +
+                                ", which is no room of a line above; an arrow upwards would make a circle");
+  }
+  allowed_.emplace(room, permits);
+}
+
+std::vector<std::string> IncludeRules::rooms() const {
   std::vector<std::string> names;
-  for (const auto& [folder, allowed] : allowed_) names.push_back(folder);
+  for (const auto& [room, allowed] : allowed_) names.push_back(room);
   return names;
 }
 
-bool IncludeRules::mayInclude(const std::string& folder, const std::string& header) const {
-  if (folderOf(header) == folder) return true;
-  const std::vector<std::string>& allowed = allowed_.at(folder);
-  return std::ranges::any_of(
-      allowed, [&](const std::string& entry) { return entry == header || entry == folderOf(header); });
+bool IncludeRules::mayInclude(const std::string& room, const std::string& header) const {
+  if (roomOf(header) == room) return true;
+  return std::ranges::any_of(allowed_.at(room), [&](const std::string& permit) {
+    return permit == header || permit == roomOf(header);
+  });
 }
 
 std::vector<std::string> IncludeRules::brokenIncludes(const SourceFile& file) const {
-  const std::string folder = folderOf(belowSource(file));
-  if (!allowed_.contains(folder)) {
-    return {file.path + " is in a folder that " + std::string(kTable) + " does not know; add a line for it"};
+  const std::string room = roomOf(belowSource(file));
+  if (!allowed_.contains(room)) {
+    return {file.path + " is in a room that " + std::string(kTable) + " does not know; add a line for it"};
   }
   std::vector<std::string> broken;
   for (const Include& include : includesOf(file.text)) {
     if (!include.quoted || include.header.ends_with(".moc")) continue;
-    if (!allowed_.contains(folderOf(include.header))) {
-      broken.push_back(placeOf(file, include) + ", which is not written from src/ on; write \"FOLDER/" +
+    if (!allowed_.contains(roomOf(include.header))) {
+      broken.push_back(placeOf(file, include) + ", which is not written from src/ on; write \"ROOM/" +
                        include.header.substr(include.header.rfind('/') + 1) +
                        "\", or angle brackets if it is not ours");
-    } else if (!mayInclude(folder, include.header)) {
+    } else if (!mayInclude(room, include.header)) {
       broken.push_back(
-          placeOf(file, include) + ", but " + folder + " may include only: " + joined(allowed_.at(folder)) +
+          placeOf(file, include) + ", but " + room + " may include only: " + joined(allowed_.at(room)) +
           "; move what is needed into one of these, or hand it in through an interface (the table is " +
           std::string(kTable) + ")");
     }
   }
   return broken;
+}
+
+std::vector<std::string> IncludeRules::unusedPermits(const std::vector<SourceFile>& files) const {
+  std::set<std::pair<std::string, std::string>> used;
+  for (const SourceFile& file : files) {
+    const std::string room = roomOf(belowSource(file));
+    for (const Include& include : includesOf(file.text)) {
+      used.emplace(room, include.header);
+      used.emplace(room, roomOf(include.header));
+    }
+  }
+  std::vector<std::string> unused;
+  for (const auto& [room, permits] : allowed_) {
+    for (const std::string& permit : permits) {
+      if (used.contains({room, permit})) continue;
+      unused.push_back(room + " may include " + permit + " and does not; take the permit out of " +
+                       std::string(kTable));
+    }
+  }
+  return unused;
 }
 
 bool IncludeRules::mayUseWidgets(std::string_view path) const {

@@ -32,20 +32,26 @@ std::vector<Include> includesOf(std::string_view text);
 class IncludeRules {
  public:
   /// Throws std::invalid_argument, naming the line, when `text` is no such table.
+  /// A room may be permitted to include only rooms of lines above its own, so that there are no circles.
   static IncludeRules parse(std::string_view text);
 
-  std::vector<std::string> folders() const;
+  std::vector<std::string> rooms() const;
 
   /// What is wrong with the project's own headers that `file` includes, one sentence each, with how to mend
   /// it.
   std::vector<std::string> brokenIncludes(const SourceFile& file) const;
 
-  /// The same for its use of QtWidgets; `isWidgetsHeader` tells whether <header> belongs to it.
+  /// The permits of the table that none of `files` (all of the program's) makes use of, one sentence each.
+  std::vector<std::string> unusedPermits(const std::vector<SourceFile>& files) const;
+
+  /// The same as brokenIncludes() for its use of QtWidgets; `isWidgetsHeader` tells whether <header> belongs
+  /// to it.
   std::vector<std::string> brokenWidgets(
       const SourceFile& file, const std::function<bool(const std::string&)>& isWidgetsHeader) const;
 
  private:
-  bool mayInclude(const std::string& folder, const std::string& header) const;
+  void addRoom(int line, const std::string& room, const std::vector<std::string>& permits);
+  bool mayInclude(const std::string& room, const std::string& header) const;
   bool mayUseWidgets(std::string_view path) const;
 
   std::map<std::string, std::vector<std::string>> allowed_;

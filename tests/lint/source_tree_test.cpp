@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <regex>
+#include <set>
 
 namespace quorvin::lint {
 namespace {
@@ -48,9 +49,25 @@ std::string firstCodeLine(std::string_view text) {
   return {};
 }
 
-TEST(SourceTree, TheIncludeTableNamesEveryFolderAndNoOther) {
-  EXPECT_EQ(projectRules().folders(), foldersIn("src"))
-      << "Each folder of src/ has one \"folder NAME: ...\" line in tests/lint/include_rules.txt.";
+/// The folders below src/ that hold code.
+std::vector<std::string> roomsOfTheProgram() {
+  std::set<std::string> rooms;
+  for (const SourceFile& file : programFiles()) {
+    const std::string path = file.path.substr(std::string_view("src/").size());
+    rooms.insert(path.substr(0, path.rfind('/')));
+  }
+  return {rooms.begin(), rooms.end()};
+}
+
+TEST(SourceTree, TheIncludeTableNamesEveryRoomAndNoOther) {
+  EXPECT_EQ(projectRules().rooms(), roomsOfTheProgram())
+      << "Each folder of src/ that holds code has one \"room NAME: ...\" line in "
+         "tests/lint/include_rules.txt.";
+}
+
+TEST(SourceTree, EveryPermitOfTheIncludeTableIsUsed) {
+  const std::vector<std::string> unused = projectRules().unusedPermits(programFiles());
+  EXPECT_TRUE(unused.empty()) << asLines(unused);
 }
 
 TEST(SourceTree, IncludesKeepToTheTable) {

@@ -1,7 +1,7 @@
 #include "platform/ini_settings_store.h"
 
-#include "platform/full_disk.h"
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
+#include "files/full_disk.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

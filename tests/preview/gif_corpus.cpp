@@ -1,4 +1,4 @@
-#include "preview/byte_writer.h"
+#include "metafile/byte_writer.h"
 #include "preview/corpus_picture.h"
 
 #include <QColor>

@@ -1,5 +1,5 @@
+#include "metafile/dib_writer.h"
 #include "preview/corpus_picture.h"
-#include "preview/dib_writer.h"
 
 #include <QBuffer>
 

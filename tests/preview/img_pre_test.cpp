@@ -1,11 +1,11 @@
 // The preview window and what opens it.
 #include "preview/img_pre.h"
 
+#include "metafile/dib_writer.h"
+#include "metafile/metafile_corpus.h"
+#include "metafile/metafile_writer.h"
 #include "preview/corpus_picture.h"
-#include "preview/dib_writer.h"
 #include "preview/img_pre_opener.h"
-#include "preview/metafile_corpus.h"
-#include "preview/metafile_writer.h"
 #include "preview/picture_printing.h"
 #include "support/temporary_folder.h"
 

@@ -1,10 +1,10 @@
 // Metafiles are drawn by a process that can do no harm.
 #include "preview/metafile_child.h"
 
-#include "preview/metafile_answer.h"
-#include "preview/metafile_bytes.h"
-#include "preview/metafile_corpus.h"
-#include "preview/metafile_writer.h"
+#include "metafile/metafile_answer.h"
+#include "metafile/metafile_bytes.h"
+#include "metafile/metafile_corpus.h"
+#include "metafile/metafile_writer.h"
 #include "preview/second_decoder.h"
 #include "support/temporary_folder.h"
 

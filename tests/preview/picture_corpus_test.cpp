@@ -1,6 +1,6 @@
 // Pictures of every kind look as they should: as they were put into their files, and as other people's
 // decoders see them.
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "preview/corpus_picture.h"
 #include "preview/picture_load.h"
 #include "preview/second_decoder.h"

@@ -1,10 +1,10 @@
 // Pictures that cannot be shown, and how long it takes to find out.
 #include "preview/picture_load.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
+#include "metafile/dib_writer.h"
+#include "metafile/metafile_writer.h"
 #include "preview/corpus_picture.h"
-#include "preview/dib_writer.h"
-#include "preview/metafile_writer.h"
 #include "preview/picture_printing.h"
 #include "support/temporary_folder.h"
 

@@ -1,6 +1,6 @@
 // Listings that are none: every one is told by its name, and the others are still searched.
-#include "platform/runtime_fault.h"
-#include "search_run_fixture.h"
+#include "faults/runtime_fault.h"
+#include "search/search_run_fixture.h"
 #include "support/listing_lines.h"
 #include "support/scan_of.h"
 

@@ -1,7 +1,7 @@
 // From a hit back to its file, in both styles of paths.
 #include "search/hit_path.h"
 
-#include "platform/file_lookup.h"
+#include "files/file_lookup.h"
 #include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

@@ -41,7 +41,7 @@ TEST(HitTable, KindsHaveTheirColours) {
   EXPECT_EQ(scanned("song", SourceKind::Offline).kind(0), SourceKind::Offline);
 }
 
-TEST(HitTable, RowsStayRightWhenTheirImageIsMadeSmaller) {
+TEST(HitTable, RowsStayRightWhenTheirSegmentIsMadeSmaller) {
   QByteArray listing;
   for (int i = 0; i < 1000; ++i) {
     listing += test::blockHead("V" + QByteArray::number(i / 100), "\\F" + QByteArray::number(i / 10) + "\\");
@@ -62,7 +62,7 @@ TEST(HitTable, RowsStayRightWhenTheirImageIsMadeSmaller) {
   }
 }
 
-TEST(HitTable, CarriedValuesCrossFromImageToImage) {
+TEST(HitTable, CarriedValuesCrossFromSegmentToSegment) {
   QByteArray listing = test::entryLine("song first", "4,711");
   for (int i = 0; i < 50; ++i) listing += test::entryLine("song short", "1", "1 May 99").chopped(2) + "\r\n";
   ScanLimits limits;

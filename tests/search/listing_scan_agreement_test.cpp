@@ -62,7 +62,7 @@ TEST(ListingScanAgreement, ChunksMayEndAtEveryByte) {
   }
 }
 
-TEST(ListingScanAgreement, ImagesMayEndAfterEveryChunk) {
+TEST(ListingScanAgreement, SegmentsMayEndAfterEveryChunk) {
   ListingMaker maker(11);
   QByteArray listing;
   while (listing.size() < 30000) listing += maker.listing(40);

@@ -1,6 +1,6 @@
 #include "search/listing_scan.h"
 
-#include "platform/general_date.h"
+#include "dates/general_date.h"
 #include "search/search_run.h"
 #include "support/listing_lines.h"
 #include "support/scan_of.h"

@@ -45,7 +45,7 @@ std::deque<RepeatedSearch> searchesOf(unsigned share) {
   return searches;
 }
 
-/// Chunks and images of all sizes, most of them so small that lines are cut and listings fall into pieces.
+/// Chunks and segments of all sizes, most of them so small that lines are cut and listings fall into pieces.
 QuickScanLimits someLimits(SmallListings& maker, bool isLong) {
   QuickScanLimits limits;
   limits.chunkSize = 1 + maker.below(maker.below(2) == 0 ? 40 : 400);
@@ -87,7 +87,7 @@ class Comparison {
     unreadable_ += static_cast<std::size_t>(expected.unreadable);
     if (result == expected) return;
     FAIL() << differenceOf(result, expected) << "\nwords \"" << search.text() << "\", desired "
-           << search.desiredMatch() << ", chunks of " << limits.chunkSize << ", images of "
+           << search.desiredMatch() << ", chunks of " << limits.chunkSize << ", segments of "
            << limits.segmentSize << ", " << limits.entriesAtOnce
            << " entries at once, when complete: " << limits.whenComplete << "\nlisting "
            << testing::PrintToString(std::string(listing));

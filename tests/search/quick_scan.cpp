@@ -29,20 +29,20 @@ PlainResult QuickScan::scan(std::string_view listing, RepeatedSearch& search, co
   limits_ = limits;
   BytesInMemory source(listing);
   ListingText text(source, limits.chunkSize);
-  std::size_t imageBytes = 0;
+  std::size_t segmentBytes = 0;
   while (text.readChunk()) {
     text.consume(builder_.addLines(text.begin(), text.size()));
     searchText(false);
-    imageBytes += text.lastChunkSize();
-    if (imageBytes < limits.segmentSize) continue;
-    endImage();
-    imageBytes = 0;
+    segmentBytes += text.lastChunkSize();
+    if (segmentBytes < limits.segmentSize) continue;
+    endSegment();
+    segmentBytes = 0;
   }
   if (text.size() > 0) {
     builder_.addLine(text.lastLine());
     searchText(false);
   }
-  endImage();
+  endSegment();
   return std::exchange(result_, {});
 }
 
@@ -51,54 +51,55 @@ void QuickScan::beginListing() {
                                    std::string(70, 'x') + "\n" + std::string(kLinePadding, ' ');
   builder_.addLines(reset.data() + kLinePadding, reset.size() - 2 * kLinePadding);
   builder_.finishText();
-  builder_.beginImage();
+  builder_.beginSegment();
   linesBefore_ = builder_.lineCount();
   nextEntry_ = 0;
   shown_ = {};
 }
 
-void QuickScan::searchText(bool imageIsComplete) {
-  if (limits_.whenComplete && !imageIsComplete) {
+void QuickScan::searchText(bool segmentIsComplete) {
+  if (limits_.whenComplete && !segmentIsComplete) {
     builder_.readAllValues();
     builder_.finishText();
     return;
   }
-  builder_.image()->publish();
-  const GrowingImage& image = *builder_.image();
+  builder_.segment()->publish();
+  const GrowingSegment& segment = *builder_.segment();
   found_.clear();
-  while (nextEntry_ < image.entryCount()) {
-    const std::uint32_t end = nextEntry_ + std::min(limits_.entriesAtOnce, image.entryCount() - nextEntry_);
-    search_->images().search(image, nextEntry_, end, found_);
+  while (nextEntry_ < segment.entryCount()) {
+    const std::uint32_t end = nextEntry_ + std::min(limits_.entriesAtOnce, segment.entryCount() - nextEntry_);
+    search_->segments().search(segment, nextEntry_, end, found_);
     result_.searched += end - nextEntry_;
     nextEntry_ = end;
   }
-  if (!imageIsComplete) {
+  if (!segmentIsComplete) {
     for (const FoundEntry& found : found_) builder_.readValues(found.entry);
-    builder_.image()->publish();
+    builder_.segment()->publish();
   }
   for (const FoundEntry& found : found_) note(found);
   builder_.finishText();
 }
 
-void QuickScan::endImage() {
+void QuickScan::endSegment() {
   if (limits_.whenComplete) {
-    builder_.image()->complete();
+    builder_.segment()->complete();
     searchText(true);
   }
-  builder_.beginImage();
+  builder_.beginSegment();
   nextEntry_ = 0;
 }
 
 void QuickScan::note(const FoundEntry& found) {
-  const GrowingImage& image = *builder_.image();
-  const ValueState state = image.valueState(found.entry);
-  if (state == ValueState::Own) shown_ = image.values(found.entry);
+  const GrowingSegment& segment = *builder_.segment();
+  const ValueState state = segment.valueState(found.entry);
+  if (state == ValueState::Own) shown_ = segment.values(found.entry);
   if (state == ValueState::Unreadable && ++result_.unreadable == 1) {
-    result_.firstUnreadableLine = image.unreadableLine(found.entry) - linesBefore_;
+    result_.firstUnreadableLine = segment.unreadableLine(found.entry) - linesBefore_;
   }
-  const std::uint32_t block = image.blockOf(found.entry);
-  result_.hits.push_back({found.match, std::string(image.volumeOfBlock(block)), image.folderOfBlock(block),
-                          image.arrays().entries.listedText(found.entry), shown_.size, shown_.date});
+  const std::uint32_t block = segment.blockOf(found.entry);
+  result_.hits.push_back({found.match, std::string(segment.volumeOfBlock(block)),
+                          segment.folderOfBlock(block), segment.arrays().entries.listedText(found.entry),
+                          shown_.size, shown_.date});
 }
 
 }  // namespace quorvin::test

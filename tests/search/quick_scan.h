@@ -1,9 +1,9 @@
 // Scans of very many short listings: what costs more than such a listing itself is made once and used again.
 #pragma once
 
-#include "search/image_builder.h"
-#include "search/image_search.h"
-#include "search/listing_text.h"
+#include "search/format/listing_text.h"
+#include "search/match/segment_search.h"
+#include "search/segment/segment_builder.h"
 #include "support/plain_scan.h"
 
 #include <cstdint>
@@ -21,31 +21,32 @@ class RepeatedSearch {
         desired_(desiredMatch),
         words_(plainWords(QString::fromStdString(text).toStdU32String())),
         query_(QString::fromStdString(text), static_cast<std::int16_t>(desiredMatch)),
-        images_(query_) {}
+        segments_(query_) {}
   RepeatedSearch(const RepeatedSearch&) = delete;
   RepeatedSearch& operator=(const RepeatedSearch&) = delete;
 
   const std::string& text() const { return text_; }
   int desiredMatch() const { return desired_; }
   const std::vector<std::u32string>& words() const { return words_; }
-  ImageSearch& images() { return images_; }
+  SegmentSearch& segments() { return segments_; }
 
  private:
   std::string text_;
   int desired_;
   std::vector<std::u32string> words_;
   SearchQuery query_;
-  ImageSearch images_;
+  SegmentSearch segments_;
 };
 
 /// How a listing is cut up on its way through the scan.
 struct QuickScanLimits {
   std::size_t chunkSize;
-  /// Listing bytes in an image.
+  /// Listing bytes in an segment.
   std::size_t segmentSize;
   /// Entries searched at a time.
   std::uint32_t entriesAtOnce;
-  /// Images are searched when they are complete, as those of the image store are, and not while they grow.
+  /// Segments are searched when they are complete, as those of the segment store are, and not while they
+  /// grow.
   bool whenComplete;
 };
 
@@ -59,11 +60,11 @@ class QuickScan {
 
  private:
   void beginListing();
-  void searchText(bool imageIsComplete);
-  void endImage();
+  void searchText(bool segmentIsComplete);
+  void endSegment();
   void note(const FoundEntry& found);
 
-  ImageBuilder builder_;
+  SegmentBuilder builder_;
   std::int64_t linesBefore_ = 0;
   RepeatedSearch* search_ = nullptr;
   QuickScanLimits limits_{};

@@ -1,7 +1,7 @@
 #include "search/search_run.h"
 
-#include "platform/runtime_fault.h"
-#include "search_run_fixture.h"
+#include "faults/runtime_fault.h"
+#include "search/search_run_fixture.h"
 #include "support/listing_lines.h"
 
 namespace quorvin {

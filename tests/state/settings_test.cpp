@@ -1,6 +1,6 @@
 #include "state/settings.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "support/memory_settings_store.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

@@ -1,4 +1,4 @@
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "state/source_list_file.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

@@ -1,6 +1,6 @@
 #include "state/source_table.h"
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "state/program_state.h"
 #include "support/qt_printing.h"
 

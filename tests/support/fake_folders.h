@@ -1,7 +1,7 @@
 // A tree of folders in memory, with faults on request.
 #pragma once
 
-#include "platform/folder_reader.h"
+#include "files/folder_reader.h"
 
 #include <cerrno>
 #include <cstddef>

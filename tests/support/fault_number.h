@@ -1,7 +1,7 @@
 // Which fault an action throws.
 #pragma once
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // Running a test once with each set of vector instructions that the search was compiled for.
 #pragma once
 
-#include "search/instruction_set.h"
+#include "platform/instruction_set.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // A settings store for tests: it keeps its values in memory and remembers what was read and written.
 #pragma once
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "platform/settings_store.h"
 
 #include <QString>

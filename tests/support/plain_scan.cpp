@@ -1,6 +1,6 @@
 #include "support/plain_scan.h"
 
-#include "platform/general_number.h"
+#include "dates/general_number.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 // but the readers of sizes and dates, and is itself held against the slow reference.
 #pragma once
 
-#include "platform/general_date_reader.h"
+#include "dates/general_date_reader.h"
 #include "support/reference_scan.h"
 
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "support/plain_walker.h"
 
-#include "platform/general_date.h"
+#include "dates/general_date.h"
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,7 +1,7 @@
 // A shell for tests: it records what it is asked for and starts nothing.
 #pragma once
 
-#include "platform/runtime_fault.h"
+#include "faults/runtime_fault.h"
 #include "platform/shell.h"
 
 #include <QString>

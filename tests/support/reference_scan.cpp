@@ -1,7 +1,7 @@
 #include "support/reference_scan.h"
 
-#include "platform/general_date_reader.h"
-#include "platform/general_number.h"
+#include "dates/general_date_reader.h"
+#include "dates/general_number.h"
 #include "platform/text_encoding.h"
 
 #include <QList>

@@ -1,7 +1,7 @@
 // A folder of a test's own, removed with everything in it at the end of the test.
 #pragma once
 
-#include "platform/path_style.h"
+#include "files/path_style.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -1,0 +1,181 @@
+#include "archive/archive_packing.h"
+
+#include "faults/runtime_fault.h"
+#include "files/file_writer.h"
+#include "files/sequential_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstddef>
+#include <ctime>
+#include <memory>
+#include <optional>
+#include <span>
+#include <utility>
+#include <zip.h>
+
+namespace quorvin {
+
+namespace {
+
+// By this an archive is known as one that the program made, and may make again.
+constexpr char kMark[] = "Quorvin Utility: a listing packed for sharing";
+constexpr zip_uint16_t kMarkLength = sizeof kMark - 1;
+
+struct Discard {
+  void operator()(zip_t* archive) const { zip_discard(archive); }
+};
+using Archive = std::unique_ptr<zip_t, Discard>;
+
+RuntimeFault faultOf(zip_error_t* error, const QString& path) {
+  if (zip_error_system_type(error) == ZIP_ET_SYS)
+    return faultOfSystemError(zip_error_code_system(error), path);
+  return {FaultNumber::PathFileAccess,
+          QString::fromUtf8(zip_error_strerror(error)) + QStringLiteral(": ") + path};
+}
+
+RuntimeFault faultOf(zip_t* archive, const QString& path) {
+  return faultOf(zip_get_error(archive), path);
+}
+
+Archive openArchive(const QString& path, int flags) {
+  int code = 0;
+  Archive archive(zip_open(QFile::encodeName(path).constData(), flags, &code));
+  if (archive) return archive;
+  zip_error_t error;
+  zip_error_init_with_code(&error, code);
+  const RuntimeFault fault = faultOf(&error, path);
+  zip_error_fini(&error);
+  throw fault;
+}
+
+/// The listing as libzip reads it. libzip has a way of its own to be stopped, but looks at it only when it
+/// has written something, which with a listing that packs well is seldom.
+class ListingReader {
+ public:
+  ListingReader(const QString& path, const PackingPause& pause)
+      : file_(path), bytesLeft_(static_cast<std::size_t>(file_.sizeWhenOpened())), pause_(pause) {}
+
+  bool isStopped() const { return isStopped_; }
+  const std::optional<RuntimeFault>& fault() const { return fault_; }
+
+  static zip_int64_t serve(void* reader, void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    return static_cast<ListingReader*>(reader)->answer(data, length, command);
+  }
+
+ private:
+  zip_int64_t answer(void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    switch (command) {
+      case ZIP_SOURCE_READ:
+        return read({static_cast<char*>(data), static_cast<std::size_t>(length)});
+      case ZIP_SOURCE_STAT:
+        return stat(static_cast<zip_stat_t*>(data));
+      case ZIP_SOURCE_ERROR:
+        return zip_error_to_data(&error_, data, length);
+      case ZIP_SOURCE_SUPPORTS:
+        return zip_source_make_command_bitmap(ZIP_SOURCE_OPEN, ZIP_SOURCE_READ, ZIP_SOURCE_CLOSE,
+                                              ZIP_SOURCE_STAT, ZIP_SOURCE_ERROR, ZIP_SOURCE_FREE, -1);
+      default:
+        return 0;
+    }
+  }
+
+  /// No exception may pass through libzip, which is written in C.
+  zip_int64_t read(std::span<char> buffer) {
+    try {
+      isStopped_ = pause_();
+      if (!isStopped_) return static_cast<zip_int64_t>(readFile(buffer));
+    } catch (const RuntimeFault& fault) {
+      fault_ = fault;
+    }
+    zip_error_set(&error_, ZIP_ER_READ, 0);
+    return -1;
+  }
+
+  /// Not beyond the length that was announced.
+  std::size_t readFile(std::span<char> buffer) {
+    const std::size_t count =
+        bytesLeft_ == 0 ? 0 : file_.read(buffer.first(std::min(buffer.size(), bytesLeft_)));
+    bytesLeft_ -= count;
+    return count;
+  }
+
+  /// Without the size the archive would be of the kind for large files, which not every program can read.
+  zip_int64_t stat(zip_stat_t* status) const {
+    zip_stat_init(status);
+    status->mtime = std::time(nullptr);
+    status->size = static_cast<zip_uint64_t>(file_.sizeWhenOpened());
+    status->valid = ZIP_STAT_MTIME | ZIP_STAT_SIZE;
+    return static_cast<zip_int64_t>(sizeof *status);
+  }
+
+  SequentialFile file_;
+  std::size_t bytesLeft_;
+  const PackingPause& pause_;
+  zip_error_t error_{};
+  bool isStopped_ = false;
+  std::optional<RuntimeFault> fault_;
+};
+
+void addListing(zip_t* archive, ListingReader& listing, const QByteArray& name) {
+  zip_source_t* source = zip_source_function(archive, ListingReader::serve, &listing);
+  if (source && zip_file_add(archive, name.constData(), source, ZIP_FL_ENC_UTF_8) >= 0) return;
+  zip_source_free(source);
+  throw faultOf(archive, QString::fromUtf8(name));
+}
+
+/// False when the work was stopped.
+bool writeArchive(Archive archive, const ListingReader& listing, const QString& archivePath) {
+  if (zip_close(archive.get()) == 0) {
+    static_cast<void>(archive.release());
+    return true;
+  }
+  if (listing.isStopped()) return false;
+  throw listing.fault() ? *listing.fault() : faultOf(archive.get(), archivePath);
+}
+
+bool hasMark(zip_t* archive) {
+  int length = 0;
+  const char* comment = zip_get_archive_comment(archive, &length, ZIP_FL_ENC_RAW);
+  return comment && QByteArrayView(comment, length) == QByteArrayView(kMark, kMarkLength);
+}
+
+/// A folder beside the archive, so that the finished file can be renamed into its place.
+QTemporaryDir workFolderBeside(const QString& path) {
+  return QTemporaryDir(QFileInfo(path).absolutePath() + QStringLiteral("/.quorvin-XXXXXX"));
+}
+
+}  // namespace
+
+PackingOutcome packListing(const QString& listingPath, const QString& archivePath,
+                           const PackingPause& pause) {
+  ListingReader listing(listingPath, pause);
+  const QTemporaryDir work = workFolderBeside(archivePath);
+  if (!work.isValid()) {
+    throw RuntimeFault(FaultNumber::PathFileAccess, work.errorString() + QStringLiteral(": ") + archivePath);
+  }
+  const QString aside = work.filePath(QStringLiteral("list.zip"));
+  Archive archive = openArchive(aside, ZIP_CREATE | ZIP_EXCL);
+  addListing(archive.get(), listing, QFileInfo(listingPath).fileName().toUtf8());
+  zip_set_archive_comment(archive.get(), kMark, kMarkLength);
+  if (!writeArchive(std::move(archive), listing, archivePath)) return PackingOutcome::Stopped;
+  putInPlace(aside, archivePath);
+  return PackingOutcome::Packed;
+}
+
+bool mayBeReplacedByPacking(const QString& path) {
+  const QFileInfo file(path);
+  if (!file.exists() && !file.isSymLink()) return true;
+  if (!file.isFile() || file.isSymLink()) return false;
+  if (file.size() == 0) return true;
+  try {
+    return hasMark(openArchive(path, ZIP_RDONLY).get());
+  } catch (const RuntimeFault&) {
+    return false;
+  }
+}
+
+}  // namespace quorvin

@@ -1,0 +1,182 @@
+#include "archive/archive_plan.h"
+
+#include "archive/archive_error.h"
+
+#include <QHash>
+#include <QLocale>
+
+namespace quorvin {
+namespace {
+
+// The file types of Unix, which archives carry whatever system they are read on.
+constexpr std::uint32_t kTypeBits = 0170000;
+constexpr std::uint32_t kRegularFile = 0100000;
+constexpr std::uint32_t kFolder = 0040000;
+constexpr std::uint32_t kLink = 0120000;
+
+/// What each entry takes at least beside its packed bytes: a header before them and a line in the directory.
+constexpr std::uint64_t kBytesAroundEntry = 30 + 46;
+
+[[noreturn]] void refuse(ArchiveErrorCode code, const QString& text) {
+  throw ArchiveError(code, text + QStringLiteral(" Nothing was unpacked."));
+}
+
+[[noreturn]] void refuseEntry(ArchiveErrorCode code, const QString& text, const QString& name) {
+  refuse(code, text.arg(shownEntryName(name)));
+}
+
+void checkKind(const ArchiveEntry& entry, ArchivePlace& place) {
+  const std::uint32_t type = entry.mode & kTypeBits;
+  if (type == kLink) {
+    refuseEntry(ArchiveErrorCode::NotAFile, QStringLiteral("The archive holds a link: \"%1\"."), entry.name);
+  }
+  if (type != 0 && type != kRegularFile && type != kFolder) {
+    refuseEntry(ArchiveErrorCode::NotAFile, QStringLiteral("The archive holds a device or a pipe: \"%1\"."),
+                entry.name);
+  }
+  place.isFolder = place.isFolder || type == kFolder;
+  if (place.isFolder && entry.size > 0) {
+    refuseEntry(ArchiveErrorCode::NotAFile,
+                QStringLiteral("The archive holds a folder with content: \"%1\"."), entry.name);
+  }
+}
+
+void checkPacking(const ArchiveEntry& entry) {
+  if (entry.isEncrypted) {
+    refuseEntry(ArchiveErrorCode::Encrypted, QStringLiteral("\"%1\" in the archive is encrypted."),
+                entry.name);
+  }
+  if (!entry.hasKnownMethod) {
+    refuseEntry(ArchiveErrorCode::UnknownMethod,
+                QStringLiteral("\"%1\" in the archive is packed in a way that this program does not know."),
+                entry.name);
+  }
+}
+
+/// A name in the folder that has this number.
+struct PlaceKey {
+  quint64 folder = 0;
+  QString part;
+
+  bool operator==(const PlaceKey&) const = default;
+};
+
+size_t qHash(const PlaceKey& key, size_t seed) {
+  return qHashMulti(seed, key.folder, key.part);
+}
+
+/// Tells whether places stand in each other's way, and counts them: the folders that entries only imply are
+/// made too, and one entry may imply many.
+class TakenPlaces {
+ public:
+  explicit TakenPlaces(std::uint64_t most) : most_(most) {}
+
+  /// Names that were met before are replaced by the earlier ones, which then are in memory only once.
+  void take(ArchivePlace& place, const QString& name) {
+    quint64 folder = 0;
+    for (qsizetype i = 0; i < place.path.size(); ++i) {
+      const bool isLast = i + 1 == place.path.size();
+      folder = takeOne(folder, place.path[i], isLast ? Use{place.isFolder, true} : Use{true, false}, name);
+    }
+  }
+
+ private:
+  struct Use {
+    bool isFolder = false;
+    /// By an entry of its own, not only as the folder of another.
+    bool isNamed = false;
+    /// The number of the place, from 1 on; 0 is the target folder.
+    quint64 number = 0;
+  };
+
+  quint64 takeOne(quint64 folder, QString& part, Use use, const QString& name) {
+    const auto before = uses_.find({folder, part});
+    if (before == uses_.end()) return takeNew(folder, part, use);
+    part = before.key().part;
+    if (before->isFolder != use.isFolder) {
+      refuseEntry(ArchiveErrorCode::DuplicateName,
+                  QStringLiteral("In the archive a file and a folder have the same name: \"%1\"."), name);
+    }
+    if (before->isNamed && use.isNamed) {
+      refuseEntry(ArchiveErrorCode::DuplicateName,
+                  QStringLiteral("The archive holds two entries of the same name: \"%1\"."), name);
+    }
+    before->isNamed = before->isNamed || use.isNamed;
+    return before->number;
+  }
+
+  quint64 takeNew(quint64 folder, const QString& part, Use use) {
+    use.number = static_cast<quint64>(uses_.size()) + 1;
+    if (use.number > most_) {
+      refuse(ArchiveErrorCode::TooManyEntries,
+             QStringLiteral("The archive holds more than %1 files and folders.").arg(most_));
+    }
+    uses_.insert({folder, part}, use);
+    return use.number;
+  }
+
+  std::uint64_t most_;
+  QHash<PlaceKey, Use> uses_;
+};
+
+/// Adds up what the entries announce; every sum stays far below the largest number, since each step checks.
+class Totals {
+ public:
+  Totals(std::int64_t archiveLength, const ArchiveLimits& limits)
+      : archiveLength_(static_cast<std::uint64_t>(archiveLength)), limits_(limits) {}
+
+  void add(const ArchiveEntry& entry) {
+    if (entry.size > limits_.bytes - unpacked_) {
+      refuse(ArchiveErrorCode::TooLarge,
+             QStringLiteral("The archive would unpack to more than %1.")
+                 .arg(QLocale::c().formattedDataSize(static_cast<qint64>(limits_.bytes), 1)));
+    }
+    unpacked_ += entry.size;
+    if (entry.packedSize > archiveLength_ || packed_ > archiveLength_ - entry.packedSize) overlap();
+    packed_ += entry.packedSize + kBytesAroundEntry;
+    if (packed_ > archiveLength_) overlap();
+  }
+
+  std::uint64_t unpacked() const { return unpacked_; }
+
+ private:
+  [[noreturn]] static void overlap() {
+    refuse(ArchiveErrorCode::Overlapping,
+           QStringLiteral("The entries of the archive lie over each other; it was made to do harm."));
+  }
+
+  std::uint64_t archiveLength_;
+  ArchiveLimits limits_;
+  std::uint64_t unpacked_ = 0;
+  std::uint64_t packed_ = 0;
+};
+
+}  // namespace
+
+ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits) {
+  ArchivePlan plan;
+  TakenPlaces taken(limits.entries);
+  Totals totals(archive.length(), limits);
+  const std::uint64_t count = archive.entryCount();
+  if (count > limits.entries) {
+    refuse(ArchiveErrorCode::TooManyEntries,
+           QStringLiteral("The archive holds more than %1 entries.").arg(limits.entries));
+  }
+  for (std::uint64_t index = 0; index < count; ++index) {
+    const ArchiveEntry entry = archive.entry(index);
+    ArchivePlace place = archivePlaceOf(entry.name);
+    checkKind(entry, place);
+    checkPacking(entry);
+    totals.add(entry);
+    taken.take(place, entry.name);
+    if (place.path.isEmpty() && !place.isFolder) {
+      refuseEntry(ArchiveErrorCode::BadName, QStringLiteral("The archive has a file without a name: \"%1\"."),
+                  entry.name);
+    }
+    plan.entries.push_back({entry, place});
+  }
+  plan.bytes = totals.unpacked();
+  return plan;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,61 @@
+// Reading many dates of one locale.
+#pragma once
+
+#include "dates/date_form.h"
+#include "dates/date_text.h"
+#include "dates/general_date.h"
+#include "dates/loose_date.h"
+
+#include <QDate>
+
+#include <optional>
+#include <string_view>
+
+namespace quorvin {
+
+/// Reads dates as readGeneralDate does. Making one looks up the locale's patterns and words; after that
+/// nothing is looked up or allocated, so whoever reads more than a few dates keeps one. Reading is safe from
+/// several threads at once.
+class GeneralDateReader {
+ public:
+  /// `currentYear` is the year of dates that name none.
+  explicit GeneralDateReader(const QLocale& locale, int currentYear = QDate::currentDate().year());
+
+  std::optional<DateValue> read(QStringView text) const;
+
+  /// The same as read() for ASCII text, and quick for the locale's own form. Text with other bytes is taken
+  /// as UTF-8 and read the slow way.
+  std::optional<DateValue> readAscii(std::string_view text) const;
+
+ private:
+  using View = std::u16string_view;
+
+  template <typename Unit>
+  std::optional<DateValue> readOwnForm(std::basic_string_view<Unit> text) const;
+  template <typename Unit>
+  std::optional<int> wholeTime(const DateForm& form, std::basic_string_view<Unit> text) const;
+
+  std::optional<DateValue> readFolded(const DateText& text) const;
+  std::optional<DateValue> readDateFirst(View text) const;
+  std::optional<DateValue> readTimeAlone(View text) const;
+  std::optional<DateValue> readTimeFirst(View text) const;
+  std::optional<DateValue> finishAfterDate(const LooseReading& date, View text) const;
+  std::optional<int> wholeDate(View text) const;
+  std::optional<int> wholeTime(View text) const;
+
+  // Every way to read a date or a time at the front of a text, the locale's own ways first.
+  static constexpr int kDateWays = 4;
+  static constexpr int kTimeWays = 3;
+  std::optional<LooseReading> dateAt(int way, View text) const;
+  std::optional<LooseReading> timeAt(int way, View text) const;
+
+  DateVocabulary words_;
+  LooseRules rules_;
+  DateForm generalDate_;
+  DateForm generalTime_;
+  DateForm shortDate_;
+  DateForm longDate_;
+  DateForm shortTime_;
+};
+
+}  // namespace quorvin

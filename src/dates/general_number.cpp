@@ -1,0 +1,137 @@
+#include "dates/general_number.h"
+
+#include "dates/locale_digits.h"
+#include "faults/runtime_fault.h"
+
+#include <QString>
+
+#include <cmath>
+#include <limits>
+
+namespace quorvin {
+
+namespace {
+
+constexpr bool isAsciiDigit(QChar sign) {
+  return sign >= u'0' && sign <= u'9';
+}
+
+// Appends the digits at `place` to `number` and moves behind them; how many there were.
+qsizetype takeDigits(QStringView text, qsizetype& place, QString& number) {
+  const qsizetype first = place;
+  while (place < text.size() && isAsciiDigit(text[place])) {
+    number += text[place];
+    ++place;
+  }
+  return place - first;
+}
+
+// Digits with an optional point among or around them; false without any digit.
+bool takeMantissa(QStringView text, qsizetype& place, QString& number) {
+  qsizetype digits = takeDigits(text, place, number);
+  if (place < text.size() && text[place] == u'.') {
+    number += u'.';
+    ++place;
+    digits += takeDigits(text, place, number);
+  }
+  return digits > 0;
+}
+
+// An exponent counts only when it is whole: "2e" is 2.
+void takeExponent(QStringView text, qsizetype place, QString& number) {
+  if (place >= text.size() || (text[place] != u'e' && text[place] != u'E')) return;
+  ++place;
+  QString exponent = QStringLiteral("e");
+  if (place < text.size() && (text[place] == u'-' || text[place] == u'+')) {
+    exponent += text[place];
+    ++place;
+  }
+  if (takeDigits(text, place, exponent) > 0) number += exponent;
+}
+
+bool isGroupingSign(QChar sign) {
+  constexpr QChar kRightSingleQuote(0x2019);
+  constexpr QChar kArabicThousands(0x066C);
+  return sign == u',' || sign == u'.' || sign == u'\'' || sign == kRightSingleQuote ||
+         sign == kArabicThousands || sign.category() == QChar::Separator_Space;
+}
+
+bool isMinus(QChar sign) {
+  constexpr QChar kMinusSign(0x2212);
+  return sign == u'-' || sign == kMinusSign;
+}
+
+QStringView withoutOuterBlanks(QStringView text) {
+  const auto isBlank = [](QChar sign) { return sign == u'\t' || sign.category() == QChar::Separator_Space; };
+  while (!text.isEmpty() && isBlank(text.front())) text = text.mid(1);
+  while (!text.isEmpty() && isBlank(text.back())) text.chop(1);
+  return text;
+}
+
+// Adds `digit` behind the digits of `value`, which is kept below zero, where one more number fits.
+bool appendDigit(std::int64_t& value, int digit) {
+  constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
+  if (value < (kLeast + digit) / 10) return false;
+  value = value * 10 - digit;
+  return true;
+}
+
+}  // namespace
+
+double leadingNumber(QStringView text) {
+  qsizetype place = 0;
+  while (place < text.size() && (text[place] == u' ' || text[place] == u'\t')) ++place;
+  QString number;
+  if (place < text.size() && (text[place] == u'-' || text[place] == u'+')) {
+    if (text[place] == u'-') number += u'-';
+    ++place;
+  }
+  if (!takeMantissa(text, place, number)) return 0;
+  takeExponent(text, place, number);
+  // Too large a number is infinite here, too small a one 0.
+  return number.toDouble();
+}
+
+std::int16_t roundToInt16(double value) {
+  // The rounding mode is never changed, so this takes halves to the even neighbour.
+  const double rounded = std::nearbyint(value);
+  const bool fits = rounded >= std::numeric_limits<std::int16_t>::min() &&
+                    rounded <= std::numeric_limits<std::int16_t>::max();
+  if (!fits) throw RuntimeFault(FaultNumber::Overflow);
+  return static_cast<std::int16_t>(rounded);
+}
+
+std::optional<std::int64_t> readByteCount(QStringView text) {
+  QStringView rest = withoutOuterBlanks(text);
+  const bool negative = !rest.isEmpty() && isMinus(rest.front());
+  if (negative) rest = rest.mid(1);
+  std::int64_t value = 0;
+  bool digitBefore = false;
+  for (const QChar sign : rest) {
+    const bool digit = sign.isDigit();
+    if (digit && !appendDigit(value, sign.digitValue())) return std::nullopt;
+    if (!digit && !(digitBefore && isGroupingSign(sign))) return std::nullopt;
+    digitBefore = digit;
+  }
+  if (!digitBefore) return std::nullopt;
+  if (negative) return value;
+  if (value == std::numeric_limits<std::int64_t>::min()) return std::nullopt;
+  return -value;
+}
+
+QString mebibytesText(std::int64_t bytes, const QLocale& locale) {
+  constexpr unsigned kMebibyteBits = 20;
+  constexpr std::uint64_t kMebibyte = std::uint64_t{1} << kMebibyteBits;
+  const bool negative = bytes < 0;
+  const auto magnitude = negative ? 0 - static_cast<std::uint64_t>(bytes) : static_cast<std::uint64_t>(bytes);
+  // Whole mebibytes are split off first, so that the hundredfold of the largest size still fits.
+  const std::uint64_t partHundredths = ((magnitude % kMebibyte) * 100 + kMebibyte / 2) >> kMebibyteBits;
+  const std::uint64_t hundredths = (magnitude >> kMebibyteBits) * 100 + partHundredths;
+  const QString sign = negative && hundredths > 0 ? QStringLiteral("-") : QString();
+  const QString whole = QString::number(hundredths / 100);
+  const QString part = QString::number(hundredths % 100).rightJustified(2, u'0');
+  return sign + withLocaleDigits(whole, locale) + locale.decimalPoint() + withLocaleDigits(part, locale) +
+         QStringLiteral("mb");
+}
+
+}  // namespace quorvin

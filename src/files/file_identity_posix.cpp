@@ -1,0 +1,19 @@
+#include "files/file_identity.h"
+
+#include <QFile>
+
+#include <sys/stat.h>
+
+namespace quorvin {
+
+std::optional<FileIdentity> fileIdentity(const QString& path) {
+  struct stat status {};
+  if (::stat(QFile::encodeName(path).constData(), &status) != 0) return std::nullopt;
+  const auto nanoseconds = [](const timespec& time) {
+    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+  };
+  return FileIdentity{status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim), status.st_dev,
+                      status.st_ino};
+}
+
+}  // namespace quorvin

@@ -1,0 +1,84 @@
+#include "metafile/metafile_answer.h"
+
+#include "metafile/metafile_bytes.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace quorvin {
+
+namespace {
+
+constexpr std::uint32_t kMark = 0x4D465151;
+constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kLargestOwnSize = 0x7FFFFFFF;
+constexpr std::uint32_t kLongestSide = 2000;
+constexpr std::uint32_t kLongestReason = 200;
+
+QByteArray headerOf(const QSize& ownSize, const QSize& pixels, qsizetype textLength) {
+  const std::array<qint64, 8> numbers = {kMark,          kVersion,        ownSize.width(), ownSize.height(),
+                                         pixels.width(), pixels.height(), textLength,      0};
+  QByteArray bytes;
+  for (const qint64 number : numbers) {
+    const auto little = qToLittleEndian(static_cast<std::uint32_t>(number));
+    bytes.append(reinterpret_cast<const char*>(&little), sizeof little);
+  }
+  return bytes;
+}
+
+/// The reason of a refusal, in letters that harm no message box.
+QByteArray cleanReason(QByteArrayView text) {
+  QByteArray reason = text.first(std::min<qsizetype>(text.size(), kLongestReason)).toByteArray();
+  for (char& letter : reason) {
+    if (letter < ' ' || letter > '~') letter = '?';
+  }
+  return reason;
+}
+
+QImage imageOf(const MetafileBytes& rows, std::uint32_t width, std::uint32_t height) {
+  QImage image(static_cast<int>(width), static_cast<int>(height), QImage::Format_RGB32);
+  if (image.isNull()) throw MetafileFault("there is not enough memory for it");
+  const std::size_t rowSize = std::size_t{4} * width;
+  for (int y = 0; y < image.height(); ++y) {
+    std::memcpy(image.scanLine(y), rows.all().data() + static_cast<std::size_t>(y) * rowSize, rowSize);
+  }
+  // Nothing relies on the unused bytes, which anybody may have written.
+  return image.convertToFormat(QImage::Format_RGB888).convertToFormat(QImage::Format_RGB32);
+}
+
+}  // namespace
+
+QByteArray metafileAnswer(const MetafilePicture& picture) {
+  const QImage image = picture.image.convertToFormat(QImage::Format_RGB32);
+  QByteArray answer = headerOf(picture.ownSize, image.size(), 0);
+  for (int y = 0; y < image.height(); ++y) {
+    answer.append(reinterpret_cast<const char*>(image.constScanLine(y)), 4LL * image.width());
+  }
+  return answer;
+}
+
+QByteArray metafileRefusal(QByteArrayView why) {
+  return headerOf({}, {0, 0}, why.size()) + why.toByteArray();
+}
+
+MetafilePicture pictureOfMetafileAnswer(QByteArrayView answer) {
+  const MetafileBytes bytes(answer);
+  constexpr auto kNoAnswer = "the program that draws metafiles has not answered as it should";
+  if (answer.size() < kMetafileHeaderSize || bytes.u32(0) != kMark || bytes.u32(4) != kVersion) {
+    throw MetafileFault(kNoAnswer);
+  }
+  const std::uint32_t width = bytes.u32(16);
+  const std::uint32_t height = bytes.u32(20);
+  const MetafileBytes body = bytes.from(kMetafileHeaderSize);
+  if (width == 0 && height == 0) throw MetafileFault(cleanReason(body.all()).constData());
+  const bool isAllowed = width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide &&
+                         body.size() == 4LL * width * height;
+  const std::uint32_t ownWidth = bytes.u32(8);
+  const std::uint32_t ownHeight = bytes.u32(12);
+  const auto isSize = [](std::uint32_t side) { return side > 0 && side <= kLargestOwnSize; };
+  if (!isAllowed || !isSize(ownWidth) || !isSize(ownHeight)) throw MetafileFault(kNoAnswer);
+  return {QSize(static_cast<int>(ownWidth), static_cast<int>(ownHeight)), imageOf(body, width, height)};
+}
+
+}  // namespace quorvin

@@ -1,0 +1,197 @@
+// Enhanced metafiles: clips and regions, bitmaps and text.
+#include "metafile/metafile_dib.h"
+#include "metafile/metafile_emf.h"
+#include "platform/text_encoding.h"
+
+#include <algorithm>
+
+namespace quorvin {
+
+namespace {
+
+/// Where the records for copied parts of a device, and those for stored bitmaps, tell where the bitmap
+/// stands.
+constexpr std::int64_t kCopiedPart = 84;
+constexpr std::int64_t kStoredBitmap = 48;
+constexpr std::uint32_t kMostRectangles = 100'000;
+
+QRectF boxAt(const MetafileBytes& record, std::int64_t at) {
+  return {record.point32(at), record.size32(at + 8)};
+}
+
+/// The two stretches of a bitmap; their offsets and lengths stand at `offsets`.
+struct StoredBitmap {
+  StoredBitmap(const MetafileBytes& record, std::int64_t offsets)
+      : header(record.slice(record.u32(offsets), record.u32(offsets + 4))),
+        bits(record.slice(record.u32(offsets + 8), record.u32(offsets + 12))) {}
+
+  MetafileBytes header;
+  MetafileBytes bits;
+};
+
+/// Regions are calculated with ints, and so must their differences be.
+QPoint deviceUnitAt(const MetafileBytes& data, std::int64_t at) {
+  constexpr int kFarthest = 100'000'000;
+  return {std::clamp(data.i32(at), -kFarthest, kFarthest),
+          std::clamp(data.i32(at + 4), -kFarthest, kFarthest)};
+}
+
+}  // namespace
+
+QRegion emfRegion(const MetafileBytes& data) {
+  const std::uint32_t count = data.u32(8);
+  if (count > kMostRectangles) throw MetafileFault("a region in it has too many parts");
+  QRegion region;
+  for (std::uint32_t index = 0; index < count; ++index) {
+    const std::int64_t at = data.u32(0) + std::int64_t{16} * index;
+    region |= QRect(deviceUnitAt(data, at), deviceUnitAt(data, at + 8) - QPoint(1, 1));
+  }
+  return region;
+}
+
+bool EmfPlayer::playClip(std::uint32_t type, const MetafileBytes& record) {
+  enum { Offset = 26, Exclude = 29, Intersect, FillRegion = 71, PaintRegion = 74, SelectRegion };
+  switch (type) {
+    case Offset:
+      canvas_.moveClip(record.point32(8));
+      return true;
+    case Exclude:
+      canvas_.clip(record.rect32(8), MetafileClip::Without);
+      return true;
+    case Intersect:
+      canvas_.clip(record.rect32(8), MetafileClip::And);
+      return true;
+    case FillRegion: {
+      const std::uint32_t number = record.u32(28);
+      const auto* brush = number < objects_.size() ? std::get_if<MetafileBrush>(&objects_[number]) : nullptr;
+      if (brush != nullptr) canvas_.fillRegion(emfRegion(record.slice(32, record.u32(24))), *brush);
+      return true;
+    }
+    case PaintRegion:
+      canvas_.fillRegion(emfRegion(record.slice(28, record.u32(24))), canvas_.state.brush);
+      return true;
+    case SelectRegion: {
+      const auto mode = static_cast<MetafileClip>(record.i32(12));
+      std::optional<QRegion> region;
+      if (record.u32(8) != 0) region = emfRegion(record.slice(16, record.u32(8)));
+      canvas_.clip(region, mode);
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
+  enum { BitBlt = 76, StretchBlt, SetDibits = 80, StretchDibits, AlphaBlend = 114, TransparentBlt = 116 };
+  switch (type) {
+    case BitBlt: {
+      const QRectF target = boxAt(record, 24);
+      drawBitmap(record, kCopiedPart, target, {record.point32(44), target.size()}, record.u32(40));
+      return true;
+    }
+    case StretchBlt:
+      drawBitmap(record, kCopiedPart, boxAt(record, 24), {record.point32(44), record.size32(100)},
+                 record.u32(40));
+      return true;
+    case AlphaBlend:
+      blend(record);
+      return true;
+    case TransparentBlt:
+      drawWithoutColour(record);
+      return true;
+    case SetDibits: {
+      const QRectF source = boxAt(record, 32);
+      drawBitmap(record, kStoredBitmap, {record.point32(24), source.size()}, source, kCopyOperation);
+      return true;
+    }
+    case StretchDibits:
+      drawBitmap(record, kStoredBitmap, {record.point32(24), record.size32(72)}, boxAt(record, 32),
+                 record.u32(68));
+      return true;
+    default:
+      return false;
+  }
+}
+
+void EmfPlayer::drawBitmap(const MetafileBytes& record, std::int64_t offsets, const QRectF& target,
+                           QRectF source, std::uint32_t operation) {
+  if (record.u32(offsets + 4) == 0) return canvas_.fill(target, operation);
+  const StoredBitmap bitmap(record, offsets);
+  if (offsets == kStoredBitmap) source = partFromTop(bitmap.header, source);
+  canvas_.drawImage(target, imageOfDib(bitmap.header, bitmap.bits), source, operation);
+}
+
+void EmfPlayer::blend(const MetafileBytes& record) {
+  constexpr std::uint8_t kPixelsHaveAlpha = 1;
+  const StoredBitmap bitmap(record, kCopiedPart);
+  const QImage image = record.u8(43) == kPixelsHaveAlpha ? imageOfDibWithAlpha(bitmap.header, bitmap.bits)
+                                                         : imageOfDib(bitmap.header, bitmap.bits);
+  canvas_.drawImage(boxAt(record, 24), image, {record.point32(44), record.size32(100)}, kCopyOperation,
+                    record.u8(42) / 255.0);
+}
+
+void EmfPlayer::drawWithoutColour(const MetafileBytes& record) {
+  const StoredBitmap bitmap(record, kCopiedPart);
+  QImage image = imageOfDib(bitmap.header, bitmap.bits);
+  image.setAlphaChannel(image.createMaskFromColor(colourOf(record.u32(40)).rgb(), Qt::MaskOutColor));
+  canvas_.drawImage(boxAt(record, 24), image, {record.point32(44), record.size32(100)}, kCopyOperation);
+}
+
+bool EmfPlayer::playText(std::uint32_t type, const MetafileBytes& record) {
+  enum { Narrow = 83, Wide = 84, PolyNarrow = 96, PolyWide = 97, Small = 108 };
+  switch (type) {
+    case Narrow:
+    case Wide:
+      drawString(record, 36, record.u32(52), type == Wide);
+      return true;
+    case PolyNarrow:
+    case PolyWide:
+      for (std::uint32_t index = 0; index < record.u32(36); ++index) {
+        drawString(record, 40 + 40LL * index, record.u32(40 + 40LL * index + 16), type == PolyWide);
+      }
+      return true;
+    case Small: {
+      constexpr std::uint32_t kNoBox = 0x100;
+      constexpr std::uint32_t kNarrow = 0x200;
+      const std::uint32_t count = record.u32(16);
+      const std::uint32_t options = record.u32(20);
+      const std::int64_t at = (options & kNoBox) != 0 ? 36 : 52;
+      MetafileText text{record.point32(8), {}, {}, {}, {}};
+      for (std::uint32_t unit = 0; unit < count; ++unit) {
+        text.text.append((options & kNarrow) != 0 ? QChar(char16_t{record.u8(at + unit)})
+                                                  : QChar(record.u16(at + 2LL * unit)));
+      }
+      canvas_.drawText(text);
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+void EmfPlayer::drawString(const MetafileBytes& record, std::int64_t at, std::uint32_t options, bool isWide) {
+  constexpr std::uint32_t kOpaque = 2;
+  constexpr std::uint32_t kClipped = 4;
+  constexpr std::uint32_t kGlyphNumbers = 0x10;
+  const std::uint32_t count = record.u32(at + 8);
+  const MetafileBytes letters = record.slice(record.u32(at + 12), count * (isWide ? 2LL : 1LL));
+  MetafileText text{record.point32(at), {}, {}, {}, {}};
+  if (isWide) {
+    for (std::uint32_t unit = 0; unit < count; ++unit) text.text.append(QChar(letters.u16(2LL * unit)));
+  } else {
+    text.text = decodeSystemText(letters.all());
+  }
+  // The numbers of glyphs mean something in one version of one font only.
+  if ((options & kGlyphNumbers) != 0) text.text.clear();
+  if ((options & kOpaque) != 0) text.opaque = record.rect32(at + 20);
+  if ((options & kClipped) != 0) text.clip = record.rect32(at + 20);
+  const std::uint32_t steps = record.u32(at + 36);
+  if (steps != 0 && text.text.size() == static_cast<qsizetype>(count)) {
+    const MetafileBytes widths = record.slice(steps, 4LL * count);
+    for (std::uint32_t unit = 0; unit < count; ++unit) text.steps.push_back(widths.i32(4LL * unit));
+  }
+  canvas_.drawText(text);
+}
+
+}  // namespace quorvin

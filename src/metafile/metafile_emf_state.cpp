@@ -1,0 +1,210 @@
+// Enhanced metafiles: where and with what they draw.
+#include "metafile/metafile_dib.h"
+#include "metafile/metafile_emf.h"
+
+#include <cmath>
+
+namespace quorvin {
+
+namespace {
+
+constexpr std::uint32_t kStockMark = 0x80000000;
+constexpr std::uint32_t kMostObjects = 0x10000;
+
+QTransform transformAt(const MetafileBytes& record, std::int64_t at) {
+  const QTransform transform(record.f32(at), record.f32(at + 4), record.f32(at + 8), record.f32(at + 12),
+                             record.f32(at + 16), record.f32(at + 20));
+  if (!isUsable(transform)) throw MetafileFault("its scale makes no sense");
+  return transform;
+}
+
+/// `extent` times the first and third of four numbers, through the second and fourth.
+QSizeF scaled(const QSizeF& extent, const MetafileBytes& record) {
+  const auto ratio = [&](std::int64_t at) {
+    if (record.i32(at + 4) == 0) throw MetafileFault("its scale makes no sense");
+    return double(record.i32(at)) / record.i32(at + 4);
+  };
+  return {extent.width() * ratio(8), extent.height() * ratio(16)};
+}
+
+QTransform changedWorld(const QTransform& world, const MetafileBytes& record) {
+  enum { Reset = 1, Before, After, Instead };
+  switch (record.u32(32)) {
+    case Reset:
+      return {};
+    case Before:
+      return transformAt(record, 8) * world;
+    case After:
+      return world * transformAt(record, 8);
+    case Instead:
+      return transformAt(record, 8);
+    default:
+      return world;
+  }
+}
+
+QString wideText(const MetafileBytes& bytes, std::int64_t at, std::int64_t mostUnits) {
+  QString text;
+  for (std::int64_t unit = 0; unit < mostUnits; ++unit) {
+    const char16_t character = bytes.u16(at + unit * 2);
+    if (character == 0) break;
+    text.append(QChar(character));
+  }
+  return text;
+}
+
+MetafileFont fontOf(const MetafileBytes& record) {
+  MetafileFont font;
+  font.height = record.i32(12);
+  font.width = record.i32(16);
+  font.escapement = record.i32(20);
+  font.weight = record.i32(28);
+  font.isItalic = record.u8(32) != 0;
+  font.isUnderlined = record.u8(33) != 0;
+  font.isStruckOut = record.u8(34) != 0;
+  font.charset = record.u8(35);
+  font.family = wideText(record, 40, 32);
+  return font;
+}
+
+MetafilePen extendedPenOf(const MetafileBytes& record) {
+  constexpr std::uint32_t kGeometric = 0x10000;
+  const std::uint32_t style = record.u32(28);
+  const double width = (style & kGeometric) != 0 ? record.u32(32) : 0;
+  return {style, width, colourOf(record.u32(40))};
+}
+
+}  // namespace
+
+bool EmfPlayer::playMapping(std::uint32_t type, const MetafileBytes& record) {
+  enum { WindowExtent = 9, WindowOrigin, ViewportExtent, ViewportOrigin };
+  enum { MapMode = 17, ScaleViewport = 31, ScaleWindow, SetWorld = 35, ModifyWorld };
+  MetafileMapping& mapping = canvas_.state.mapping;
+  switch (type) {
+    case WindowExtent:
+      mapping.windowExtent = record.size32(8);
+      return true;
+    case WindowOrigin:
+      mapping.windowOrigin = record.point32(8);
+      return true;
+    case ViewportExtent:
+      mapping.viewportExtent = record.size32(8);
+      return true;
+    case ViewportOrigin:
+      mapping.viewportOrigin = record.point32(8);
+      return true;
+    case MapMode:
+      mapping.mode = record.i32(8);
+      return true;
+    case ScaleViewport:
+      mapping.viewportExtent = scaled(mapping.viewportExtent, record);
+      return true;
+    case ScaleWindow:
+      mapping.windowExtent = scaled(mapping.windowExtent, record);
+      return true;
+    case SetWorld:
+      mapping.world = transformAt(record, 8);
+      return true;
+    case ModifyWorld:
+      mapping.world = changedWorld(mapping.world, record);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool EmfPlayer::playSetting(std::uint32_t type, const MetafileBytes& record) {
+  enum { BackMode = 18, PolygonFill, RasterOperation, TextAlign = 22, TextColour = 24, BackColour };
+  enum { MoveTo = 27, Save = 33, Restore, ArcDirection = 57 };
+  constexpr std::uint32_t kTransparent = 1;
+  constexpr std::uint32_t kWinding = 2;
+  constexpr std::uint32_t kClockwise = 2;
+  MetafileState& state = canvas_.state;
+  switch (type) {
+    case BackMode:
+      state.isBackOpaque = record.u32(8) != kTransparent;
+      return true;
+    case PolygonFill:
+      state.fillRule = record.u32(8) == kWinding ? Qt::WindingFill : Qt::OddEvenFill;
+      return true;
+    case RasterOperation:
+      state.rasterOperation = record.i32(8);
+      return true;
+    case TextAlign:
+      state.textAlign = record.u32(8);
+      return true;
+    case TextColour:
+      state.textColour = colourOf(record.u32(8));
+      return true;
+    case BackColour:
+      state.backColour = colourOf(record.u32(8));
+      return true;
+    case MoveTo:
+      state.position = record.point32(8);
+      return true;
+    case Save:
+      canvas_.save();
+      return true;
+    case Restore:
+      canvas_.restore(record.i32(8));
+      return true;
+    case ArcDirection:
+      state.arcsRunClockwise = record.u32(8) == kClockwise;
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool EmfPlayer::playObject(std::uint32_t type, const MetafileBytes& record) {
+  enum { Select = 37, Pen, Brush, Delete, Font = 82, MonoBrush = 93, PatternBrush, ExtendedPen };
+  switch (type) {
+    case Select:
+      select(record.u32(8));
+      return true;
+    case Pen:
+      store(record.u32(8),
+            MetafilePen{record.u32(12), std::abs(double(record.i32(16))), colourOf(record.u32(24))});
+      return true;
+    case Brush:
+      store(record.u32(8), plainBrush(record.u32(12), record.u32(16), record.u32(20)));
+      return true;
+    case Delete:
+      store(record.u32(8), {});
+      return true;
+    case Font:
+      store(record.u32(8), fontOf(record));
+      return true;
+    case MonoBrush:
+    case PatternBrush:
+      storePatternBrush(record);
+      return true;
+    case ExtendedPen:
+      store(record.u32(8), extendedPenOf(record));
+      return true;
+    default:
+      return false;
+  }
+}
+
+void EmfPlayer::store(std::uint32_t number, MetafileObject object) {
+  if (number == 0 || number >= kMostObjects) throw MetafileFault("it has too many objects");
+  if (number >= objects_.size()) objects_.resize(number + 1);
+  objects_[number] = std::move(object);
+}
+
+void EmfPlayer::select(std::uint32_t number) {
+  if ((number & kStockMark) != 0) {
+    canvas_.select(stockObject(number & ~kStockMark));
+  } else if (number < objects_.size()) {
+    canvas_.select(objects_[number]);
+  }
+}
+
+void EmfPlayer::storePatternBrush(const MetafileBytes& record) {
+  const QImage pattern =
+      imageOfDib(record.slice(record.u32(16), record.u32(20)), record.slice(record.u32(24), record.u32(28)));
+  store(record.u32(8), MetafileBrush{Qt::TexturePattern, {}, pattern});
+}
+
+}  // namespace quorvin

@@ -1,0 +1,125 @@
+// The side of the peer exchange that connects: asks a peer for its lists, and for the archive of each.
+#pragma once
+
+#include "files/random_access_file.h"
+#include "peers/client/peer_receiver.h"
+#include "peers/client/peer_stream.h"
+#include "peers/messages/peer_names.h"
+#include "peers/messages/peer_send_queue.h"
+#include "peers/messages/peer_send_timer.h"
+#include "state/program_state.h"
+
+#include <QLocale>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quorvin {
+
+/// How long a peer may say nothing, and how much it may say.
+struct PeerClientLimits {
+  /// After this long without data, what may be the begin of an answer is taken for all of it.
+  std::chrono::milliseconds settle = std::chrono::seconds(2);
+  /// After this long, an archive that seems to have broken off is given up for those after it.
+  std::chrono::milliseconds stall = std::chrono::seconds(15);
+  /// After this long the conversation ends; for connecting too.
+  std::chrono::milliseconds silence = std::chrono::seconds(60);
+  std::int64_t archiveBytes = std::int64_t{4} << 30;
+};
+
+/// What came of a conversation.
+struct PeerOutcome {
+  /// The peer as the user named it.
+  QString peer;
+  std::vector<ReceivedList> received;
+  /// What went wrong, each a sentence; may be there although lists have come.
+  QStringList problems;
+  bool isCancelled = false;
+};
+
+/// `IPClient`: one conversation at a time. It sends one message after the other through the send queue and
+/// keeps every archive that comes in `LocalFolder` + "Received" + separator + peer + separator.
+class PeerClient : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Everything handed over must outlive the client. Messages are sent by `timer`.
+  PeerClient(ProgramState& state, PeerSendQueue& queue, PeerSendTimer& timer, const QLocale& locale,
+             PeerClientLimits limits = {}, QObject* parent = nullptr);
+  ~PeerClient() override;
+
+  /// Begins a conversation; ended() tells its end. Does nothing while one goes on.
+  void start(const PeerAddressText& peer);
+  /// Ends the conversation at once, without the archive that is coming. Those that have come stay.
+  void cancel();
+
+  bool isRunning() const { return receiver_ != nullptr; }
+  /// As long as it is running.
+  const PeerFigures& figures() const { return receiver_->figures(); }
+
+  /// The identity that a server announced last, the address it had then, and the archive announced last.
+  const QString& PeerIdent() const { return peerIdent_; }
+  const QString& PeerAddress() const { return peerAddress_; }
+  const QString& PeerListName() const { return peerListName_; }
+
+ Q_SIGNALS:
+  /// figures() have changed; at most about 20 times a second.
+  void progressed();
+  void ended(const quorvin::PeerOutcome& outcome);
+
+ private:
+  void IPClient_Connect();
+  void IPClient_DataArrival();
+  void send(const QByteArray& payload);
+  void connectionFailed();
+  void connectionClosed();
+  void feed(QByteArrayView bytes);
+  void noteAnnounced();
+  void endStream();
+  void beginRest();
+  void feedRestPiece();
+  void endRest();
+  void dropRest();
+  void settle();
+  void stalled();
+  void silent();
+  void restartTimers();
+  void stopTimers();
+  void finish(const QString& problem = {});
+  template <typename Action>
+  bool succeeds(Action&& action);
+
+  ProgramState& state_;
+  PeerSendQueue& queue_;
+  PeerSendTimer& sndQTime_;
+  QLocale locale_;
+  PeerClientLimits limits_;
+  QTcpSocket IPClient_;
+  QTimer settle_;
+  QTimer stall_;
+  QTimer silence_;
+  QTimer restPiece_;
+  QTimer progressPace_;
+  PeerAddressText peer_;
+  /// Only during a conversation.
+  std::unique_ptr<PeerReceiver> receiver_;
+  std::unique_ptr<PeerStream> stream_;
+  /// What is read of an archive that broke off, before anything else is taken.
+  std::optional<PeerReceiver::Rest> rest_;
+  std::unique_ptr<RandomAccessFile> restFile_;
+  bool isClosed_ = false;
+  bool isCancelled_ = false;
+  QString peerIdent_;
+  QString peerAddress_;
+  QString peerListName_;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,164 @@
+#include "peers/client/peer_offer.h"
+
+#include "faults/runtime_fault.h"
+#include "files/path_style.h"
+#include "peers/messages/peer_message.h"
+#include "peers/messages/peer_names.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+
+namespace quorvin {
+
+namespace {
+
+constexpr qsizetype kMostToldProblems = 10;
+const QLatin1String kLineEnd("\r\n");
+
+QString countOfLists(std::size_t count) {
+  return count == 1 ? QStringLiteral("1 list") : QStringLiteral("%1 lists").arg(count);
+}
+
+QString shownProblems(const QStringList& problems) {
+  QString text = problems.first(qMin(problems.size(), kMostToldProblems)).join(kLineEnd);
+  const qsizetype more = problems.size() - kMostToldProblems;
+  if (more > 0) text += kLineEnd + QStringLiteral("There were %1 more problems.").arg(more);
+  return text;
+}
+
+QString folderOfFirst(const PeerOutcome& outcome) {
+  return QDir::toNativeSeparators(QFileInfo(outcome.received.front().archivePath).absolutePath());
+}
+
+void tellNothingCame(const PeerOutcome& outcome, MessageBoxes& messages) {
+  QString text = QStringLiteral("No lists came from %1.").arg(shownPeerText(outcome.peer));
+  if (!outcome.problems.isEmpty()) text += kLineEnd + kLineEnd + shownProblems(outcome.problems);
+  messages.inform(text);
+}
+
+QString question(const PeerOutcome& outcome) {
+  QString text = QStringLiteral("%1 came from %2 into the folder")
+                     .arg(countOfLists(outcome.received.size()), shownPeerText(outcome.peer)) +
+                 kLineEnd + folderOfFirst(outcome) + kLineEnd + kLineEnd;
+  if (!outcome.problems.isEmpty()) text += shownProblems(outcome.problems) + kLineEnd + kLineEnd;
+  return text +
+         QStringLiteral("Add what came to the offline sources, so that the next search goes through it?");
+}
+
+QString leftOut(std::size_t count) {
+  const QString were = count == 1 ? QStringLiteral("was") : QStringLiteral("were");
+  return QStringLiteral("%1 %2 left out, since unpacking was cancelled. The archives stay in the folder.")
+      .arg(countOfLists(count), were);
+}
+
+QString withFullStop(const QString& text) {
+  return text.endsWith(u'.') ? text : text + u'.';
+}
+
+/// Adds the lists of one conversation.
+class ListAdder {
+ public:
+  ListAdder(const QString& peer, ProgramState& state) : peer_(peer), state_(state) {}
+
+  /// Up to the end, or until the user ends it or the program closes.
+  void addAll(const std::vector<ReceivedList>& lists, const UnpackArchive& unpack) {
+    for (std::size_t i = 0; i < lists.size() && !state_.QuitPending; ++i) {
+      if (add(lists[i], unpack)) continue;
+      problems_ += leftOut(lists.size() - i);
+      return;
+    }
+  }
+
+  const QStringList& problems() const { return problems_; }
+  int addedCount() const { return addedCount_; }
+
+ private:
+  /// False when the user ends the unpacking.
+  bool add(const ReceivedList& list, const UnpackArchive& unpack) {
+    const QFileInfo archive(list.archivePath);
+    const QString folder = freePath(archive.absolutePath() + u'/', archive.completeBaseName(), {});
+    try {
+      if (!QDir().mkdir(folder)) throw RuntimeFault(FaultNumber::PathFileAccess);
+      const QString target = withTrailingSeparator(QDir::toNativeSeparators(folder), nativePathStyle());
+      if (!unpack(list.archivePath, target)) {
+        QDir(folder).removeRecursively();
+        return false;
+      }
+      addListings(list, folder);
+    } catch (const RuntimeFault& fault) {
+      // Only if nothing was unpacked into it.
+      QDir().rmdir(folder);
+      problems_ +=
+          QStringLiteral("\"%1\": %2").arg(shownPeerText(list.name), withFullStop(fault.description()));
+    }
+    return true;
+  }
+
+  void addListings(const ReceivedList& list, const QString& folder) {
+    const QStringList listings = listingsIn(folder);
+    if (listings.isEmpty()) {
+      problems_ += QStringLiteral("The archive of \"%1\" holds no listing.").arg(shownPeerText(list.name));
+    }
+    for (const QString& path : listings) {
+      addSource(listings.size() == 1 ? list.name : QFileInfo(path).completeBaseName(), path);
+    }
+  }
+
+  QStringList listingsIn(const QString& folder) {
+    QStringList listings;
+    QDirIterator files(folder, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+      const QString path = files.next();
+      if (path.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) listings += path;
+    }
+    listings.sort();
+    return listings;
+  }
+
+  void addSource(const QString& name, const QString& path) {
+    // The file of the sources has no way to write a quote.
+    if (path.contains(u'"')) {
+      problems_ += QStringLiteral("%1 has a name that no source can have.").arg(shownPeerText(path));
+    } else if (state_.OfflineSourceCount == SourceTable::kLastRow) {
+      tellFull();
+    } else {
+      const QString from = QStringLiteral(" from ") + peer_;
+      QString description = shownPeerText(name) + from;
+      description.replace(u'"', u'\'');
+      state_.OfflineSources.set(state_.OfflineSourceCount + 1, description, QDir::toNativeSeparators(path));
+      ++state_.OfflineSourceCount;
+      ++addedCount_;
+    }
+  }
+
+  void tellFull() {
+    const QString text = QStringLiteral(
+                             "There is no room for more than %1 offline sources. What came stays "
+                             "unpacked beside its archives.")
+                             .arg(SourceTable::kLastRow);
+    if (!problems_.contains(text)) problems_ += text;
+  }
+
+  QString peer_;
+  ProgramState& state_;
+  QStringList problems_;
+  int addedCount_ = 0;
+};
+
+}  // namespace
+
+bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, MessageBoxes& messages,
+                        const UnpackArchive& unpack) {
+  if (outcome.received.empty()) {
+    if (!outcome.isCancelled || !outcome.problems.isEmpty()) tellNothingCame(outcome, messages);
+    return false;
+  }
+  if (!messages.askYesNo(question(outcome))) return false;
+  ListAdder adder(shownPeerText(outcome.peer), state);
+  adder.addAll(outcome.received, unpack);
+  if (!adder.problems().isEmpty() && !state.QuitPending) messages.inform(shownProblems(adder.problems()));
+  return adder.addedCount() > 0;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,99 @@
+// What is done with what a peer sends: its lists are asked for, and their archives kept.
+#pragma once
+
+#include "peers/client/peer_received_archive.h"
+#include "peers/client/peer_stream.h"
+#include "peers/messages/peer_send_queue.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace quorvin {
+
+/// A list that has come from a peer.
+struct ReceivedList {
+  /// Its name as the peer told it.
+  QString name;
+  /// The path of its archive.
+  QString archivePath;
+
+  bool operator==(const ReceivedList&) const = default;
+};
+
+/// How far the getting of lists has come.
+struct PeerFigures {
+  /// The list that is coming, as it may be shown; empty before the first.
+  QString list;
+  /// Its number, and how many there are.
+  std::int64_t listNumber = 0;
+  std::int64_t listCount = 0;
+  /// The bytes of it that have come.
+  std::int64_t bytes = 0;
+};
+
+/// One conversation's receiving end.
+class PeerReceiver : public PeerStreamSink {
+ public:
+  /// Bytes of an archive that broke off, in which other messages follow.
+  struct Rest {
+    QString path;
+    /// From this byte to before that one.
+    std::int64_t from = 0;
+    std::int64_t to = 0;
+  };
+
+  /// Archives go into `folder`, which ends in a separator and is made when the first one comes; none may grow
+  /// beyond `mostBytes`. `queue` must outlive the object.
+  PeerReceiver(PeerSendQueue& queue, const QString& folder, std::int64_t mostBytes);
+
+  /// The identity last announced, and the name of the archive last announced, each without its first
+  /// character.
+  const QString& PeerIdent() const { return peerIdent_; }
+  const QString& PeerListName() const { return peerListName_; }
+
+  const PeerFigures& figures() const { return figures_; }
+  const std::vector<ReceivedList>& received() const { return received_; }
+  /// What went wrong with single lists, each a sentence.
+  const QStringList& problems() const { return problems_; }
+
+  bool hasRest() const { return cut_ != nullptr; }
+  /// What is to be fed to the stream once more. Throws RuntimeFault when it cannot be read.
+  Rest takeRest();
+
+  // For the stream. Each may throw RuntimeFault when a file cannot be written.
+  void identityArrived(const QByteArray& message) override;
+  bool listNamed(const QByteArray& name) override;
+  void archiveAnnounced(const QByteArray& name, const QByteArray& message) override;
+  void archiveBytes(QByteArrayView bytes) override;
+  void archiveWhole() override;
+  void archiveMissing() override;
+  void archiveCut(std::int64_t length) override;
+  bool requestLost(const QByteArray& name, bool isFirstTime) override;
+
+ private:
+  bool ask(const QByteArray& name);
+  QString shownName() const;
+
+  PeerSendQueue& queue_;
+  QString folder_;
+  std::int64_t mostBytes_;
+  QString peerIdent_;
+  QString peerListName_;
+  PeerFigures figures_;
+  std::vector<ReceivedList> received_;
+  QStringList problems_;
+  bool queueIsFull_ = false;
+  /// The list that is coming, and its archive from its first byte on.
+  QString name_;
+  std::unique_ptr<PeerReceivedArchive> archive_;
+  /// An archive that broke off, as long as what follows in it has not been taken.
+  std::unique_ptr<PeerReceivedArchive> cut_;
+  std::unique_ptr<PeerReceivedArchive> cutBeingRead_;
+  std::int64_t cutLength_ = 0;
+};
+
+}  // namespace quorvin

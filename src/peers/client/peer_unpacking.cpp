@@ -1,0 +1,22 @@
+#include "peers/client/peer_unpacking.h"
+
+#include "archive/archive_display.h"
+#include "faults/runtime_fault.h"
+
+#include <QFileInfo>
+
+namespace quorvin {
+
+UnpackArchive unpackingShownIn(ProgramState& state, ArchiveView& view) {
+  return [&state, &view](const QString& archivePath, const QString& targetFolder) {
+    const ShownUnpacking shown(state, view, QStringLiteral("Unpacking ") + QFileInfo(archivePath).fileName());
+    ArchiveDisplay display(state, view);
+    const UnpackingOutcome outcome = unpackArchive(archivePath, targetFolder, display);
+    if (outcome == UnpackingOutcome::Failed) {
+      throw RuntimeFault(FaultNumber::PathFileAccess, display.error());
+    }
+    return outcome == UnpackingOutcome::Unpacked;
+  };
+}
+
+}  // namespace quorvin

@@ -1,0 +1,80 @@
+// The peer list exchange as a whole: what the menu "Peers" works with.
+#pragma once
+
+#include "peers/client/peer_client.h"
+#include "peers/client/peer_offer.h"
+#include "peers/messages/peer_send_queue.h"
+#include "peers/messages/peer_send_timer.h"
+#include "peers/server/peer_sharing.h"
+#include "platform/message_box.h"
+#include "state/program_state.h"
+
+#include <QLocale>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+
+namespace quorvin {
+
+/// What the exchange needs of the program round it.
+struct PeerHooks {
+  /// Lets pending window events run.
+  std::function<void()> processEvents;
+  UnpackArchive unpack;
+  /// Whether the user may be asked something now, that is no dialog is open: one might write back sources as
+  /// they were before lists were added.
+  std::function<bool()> mayAsk;
+};
+
+/// Sharing and getting, which go on beside each other, and the timer `SndQTime`. One object for the program.
+/// Neither goes on at first. User-interface thread only.
+class PeerExchange : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `state` and `messages` must outlive the object.
+  PeerExchange(ProgramState& state, MessageBoxes& messages, const QLocale& locale, PeerHooks hooks,
+               PeerServerLimits serverLimits = {}, PeerClientLimits clientLimits = {},
+               QObject* parent = nullptr);
+
+  /// The timer that ends the program too; see PeerSendTimer::setQuit().
+  PeerSendTimer& SndQTime() { return sndQTime_; }
+  PeerSharing& sharing() { return sharing_; }
+  PeerClient& client() { return client_; }
+
+  /// Gets all lists of the peer that the user has named, "host" or "host:port". A name that makes no sense is
+  /// told, and so is that lists are being got already, or have come and are not dealt with yet.
+  void getLists(const QString& peer);
+
+ Q_SIGNALS:
+  /// Lists are being got; `peer` as it may be shown.
+  void gettingBegan(const QString& peer);
+  /// No more lists are coming. What came is told and offered next.
+  void gettingEnded();
+  /// What came has been told and offered: other lists may be got.
+  void outcomeDealtWith();
+  /// Offline sources have been added.
+  void offlineSourcesAdded();
+
+ private:
+  void conversationEnded(const PeerOutcome& outcome);
+  void offerWhenPossible();
+  bool isBusy() const { return client_.isRunning() || outcome_ || isOffering_; }
+
+  ProgramState& state_;
+  MessageBoxes& messages_;
+  PeerHooks hooks_;
+  PeerSendQueue queue_;
+  PeerSendTimer sndQTime_;
+  PeerSharing sharing_;
+  PeerClient client_;
+  QTimer offer_;
+  /// What came of a conversation, until it is told and offered.
+  std::optional<PeerOutcome> outcome_;
+  bool isOffering_ = false;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,49 @@
+// What is searched for: words and the match that an entry must exceed.
+#pragma once
+
+#include "search/match/search_words.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace quorvin {
+
+/// A search text made ready: its different words as UTF-8, each with the number of times it stands in the
+/// text. Empty words are found in every entry.
+class SearchQuery {
+ public:
+  struct Word {
+    std::string bytes;
+    int times;
+  };
+
+  SearchQuery() = default;
+
+  /// `lowerSearchText` is in lower case already; `desiredMatch` is 1 to 100. Throws fault 9 for more than 101
+  /// words.
+  SearchQuery(QStringView lowerSearchText, std::int16_t desiredMatch);
+
+  /// The different words, the empty one left out.
+  const std::vector<Word>& words() const { return words_; }
+  /// How many empty words the text has; each counts as found.
+  int emptyWords() const { return emptyWords_; }
+  /// All words, with repetitions and empty ones.
+  int wordCount() const { return wordCount_; }
+  /// The fewest words found that make a hit; wordCount() + 1 when nothing can.
+  int fewestForHit() const { return fewestForHit_; }
+  /// The match of an entry in which `found` words (repetitions and empty ones counted) were found.
+  std::int16_t match(int found) const { return matches_[static_cast<std::size_t>(found)]; }
+
+ private:
+  std::vector<Word> words_;
+  int emptyWords_ = 0;
+  int wordCount_ = 0;
+  int fewestForHit_ = 1;
+  std::array<std::int16_t, kMostWords + 1> matches_{};
+};
+
+}  // namespace quorvin

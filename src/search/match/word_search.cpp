@@ -1,0 +1,149 @@
+#include "search/match/word_search.h"
+
+#include "search/match/word_scan.h"
+
+#include <algorithm>
+
+namespace quorvin {
+
+void SeenWords::reset(std::uint32_t first, std::uint32_t count) {
+  first_ = first;
+  if (oneWord_) {
+    touched_.assign((count + 63) / 64, 0);
+    return;
+  }
+  // Only what was touched is cleared: most stretches hold no word at all.
+  for (std::size_t block = 0; block < touched_.size(); ++block) {
+    for (std::uint64_t left = touched_[block]; left != 0; left &= left - 1) {
+      words_[block * 64 + static_cast<std::size_t>(std::countr_zero(left))] = {};
+    }
+    touched_[block] = 0;
+  }
+  if (words_.size() < count) words_.resize(count);
+  touched_.resize((count + 63) / 64);
+}
+
+bool SeenWords::none() const {
+  return std::all_of(touched_.begin(), touched_.end(), [](std::uint64_t bits) { return bits == 0; });
+}
+
+WordSet SeenWords::all() const {
+  WordSet words;
+  for (std::size_t block = 0; block < touched_.size(); ++block) {
+    for (std::uint64_t left = touched_[block]; left != 0; left &= left - 1) {
+      words = words | words_[block * 64 + static_cast<std::size_t>(std::countr_zero(left))];
+    }
+  }
+  return words;
+}
+
+void SeenWords::seeAll(std::uint32_t text, std::span<const std::uint64_t> bits, std::size_t word) {
+  if (!oneWord_) {
+    for (std::size_t block = 0; block < bits.size(); ++block) {
+      const auto base = text + static_cast<std::uint32_t>(block * 64);
+      for (std::uint64_t left = bits[block]; left != 0; left &= left - 1) {
+        see(base + static_cast<std::uint32_t>(std::countr_zero(left)), word);
+      }
+    }
+    return;
+  }
+  // The first bits may stand for texts before the stretch; they are not set.
+  const std::uint32_t skipped = text < first_ ? first_ - text : 0;
+  const std::uint32_t begin = text + skipped - first_;
+  for (std::size_t block = 0; block < bits.size(); ++block) {
+    const std::uint64_t next = block + 1 < bits.size() ? bits[block + 1] : 0;
+    const std::uint64_t wanted = skipped == 0 ? bits[block] : bits[block] >> skipped | next << (64 - skipped);
+    if (wanted == 0) continue;
+    const std::size_t at = begin / 64 + block;
+    touched_[at] |= wanted << (begin % 64);
+    const std::uint64_t over = (wanted >> 1) >> (63 - begin % 64);
+    if (over != 0) touched_[at + 1] |= over;
+  }
+}
+
+WordSearch::WordSearch(const SearchQuery& query) {
+  for (const SearchQuery::Word& word : query.words()) {
+    needles_.push_back({word.bytes, rarestPair(word.bytes), TrigramProbe(word.bytes), word.times});
+  }
+}
+
+void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen,
+                      const WordSet& elsewhere, int mostMissing) {
+  seen.reset(first, last - first);
+  while (first < last) {
+    const std::uint32_t pageEnd = std::min((first / kTextsPerPage + 1) * kTextsPerPage, table.count);
+    const std::uint32_t stretchLast = std::min(last, pageEnd);
+    const std::uint32_t beginMark = first / kTextsPerMark;
+    const std::uint32_t endMark = (stretchLast + kTextsPerMark - 1) / kTextsPerMark;
+    findInPage(table, {table.between(beginMark, endMark), beginMark * kTextsPerMark, first, stretchLast},
+               seen, {elsewhere, mostMissing});
+    first = stretchLast;
+  }
+}
+
+void WordSearch::makeRoom(std::size_t blocks) {
+  if (places_.size() >= blocks) return;
+  places_.resize(blocks);
+  ends_.resize(blocks);
+}
+
+/// Rules out the words that cannot be in a page with these trigrams, if they are known. Gives how many words
+/// are missing for certain.
+int WordSearch::ruleOut(const TrigramSet* trigrams, const Slack& slack) {
+  int missing = 0;
+  for (std::size_t word = 0; word < needles_.size(); ++word) {
+    Needle& needle = needles_[word];
+    needle.isRuledOut = trigrams != nullptr && !needle.probe.mayBeIn(*trigrams);
+    if (needle.isRuledOut && !slack.elsewhere.has(word)) missing += needle.times;
+  }
+  return missing;
+}
+
+void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& seen, const Slack& slack) {
+  const TrigramSet* trigrams =
+      table.trigrams.empty() ? nullptr : &table.trigrams[stretch.first / kTextsPerPage];
+  if (trigrams != nullptr) table.require(trigrams, sizeof(TrigramSet));
+  int missing = ruleOut(trigrams, slack);
+  bool textChecked = false;
+  bool endsKnown = false;
+  makeRoom((stretch.text.size() + 63) / 64);
+  for (std::size_t word = 0; word < needles_.size() && missing <= slack.most; ++word) {
+    Needle& needle = needles_[word];
+    if (needle.isRuledOut) continue;
+    if (!textChecked) stretch.text = table.toSearch(stretch.text);
+    textChecked = true;
+    needle.isLikely = findTexts(stretch.text, needle, endsKnown);
+    if (needle.isLikely) {
+      seeTexts(stretch, word, seen);
+    } else if (!slack.elsewhere.has(word)) {
+      missing += needle.times;
+    }
+  }
+}
+
+/// Whether the word stands anywhere in the text; then `texts_` are known.
+bool WordSearch::findTexts(std::string_view text, const Needle& needle, bool& endsKnown) {
+  if (needle.isLikely && needle.bytes.size() <= kLongestScannedWord) {
+    return scanTexts(text, needle.bytes, kTextEnd, texts_.data());
+  }
+  if (!scanBytePair(text.data(), text.size(), needle.pair, places_.data())) return false;
+  if (!keepPlacesOf(needle.bytes, text, places_.data())) return false;
+  constexpr auto kEnd = static_cast<std::uint8_t>(kTextEnd);
+  if (!endsKnown) scanBytePair(text.data(), text.size(), {kEnd, kEnd, 0, 0}, ends_.data());
+  endsKnown = true;
+  textsWithPlaces({places_.data(), (text.size() + 63) / 64}, ends_.data(), texts_.data());
+  return true;
+}
+
+/// The word has been found in the stretch: takes the texts with it, but for those before and behind what is
+/// wanted.
+void WordSearch::seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen) {
+  const std::uint32_t before = stretch.first - stretch.firstText;
+  const std::uint32_t end = stretch.last - stretch.firstText;
+  const std::size_t elements = (end + 63) / 64;
+  texts_[0] &= ~std::uint64_t{0} << before;
+  if (end % 64 != 0) texts_[elements - 1] &= (std::uint64_t{1} << (end % 64)) - 1;
+  seen.seeAll(stretch.firstText, {texts_.data(), elements}, word);
+}
+
+}  // namespace quorvin

@@ -1,0 +1,124 @@
+// Finding the words of a query in a table of texts.
+#pragma once
+
+#include "search/match/search_query.h"
+#include "search/segment/text_table.h"
+
+#include <bit>
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <vector>
+
+namespace quorvin {
+
+/// A set of words of a query, by their numbers in SearchQuery::words().
+class WordSet {
+ public:
+  void add(std::size_t word) { bits_[word / 64] |= std::uint64_t{1} << (word % 64); }
+  bool has(std::size_t word) const { return (bits_[word / 64] >> (word % 64) & 1U) != 0; }
+  bool empty() const { return (bits_[0] | bits_[1]) == 0; }
+  int size() const { return std::popcount(bits_[0]) + std::popcount(bits_[1]); }
+  /// The first eight words as bits.
+  std::uint8_t firstEight() const { return static_cast<std::uint8_t>(bits_[0]); }
+  WordSet operator|(const WordSet& other) const {
+    WordSet both;
+    both.bits_[0] = bits_[0] | other.bits_[0];
+    both.bits_[1] = bits_[1] | other.bits_[1];
+    return both;
+  }
+
+ private:
+  std::uint64_t bits_[2] = {0, 0};
+};
+static_assert(kMostWords <= 128);
+
+/// Which words were seen in which texts of a stretch.
+class SeenWords {
+ public:
+  /// With `oneWord` there is but one to be seen: then touched() says it all, and in() must not be asked.
+  explicit SeenWords(bool oneWord) : oneWord_(oneWord) {}
+
+  /// Forgets everything and takes texts `first` to `first` + `count` - 1.
+  void reset(std::uint32_t first, std::uint32_t count);
+
+  void see(std::uint32_t text, std::size_t word) {
+    const std::uint32_t i = text - first_;
+    if (!oneWord_) words_[i].add(word);
+    touched_[i / 64] |= std::uint64_t{1} << (i % 64);
+  }
+
+  /// see() for each text whose bit is set: bit k stands for text `text` + k, and only those of this stretch
+  /// may be set.
+  void seeAll(std::uint32_t text, std::span<const std::uint64_t> bits, std::size_t word);
+
+  const WordSet& in(std::uint32_t text) const { return words_[text - first_]; }
+
+  /// A bit for each text of the stretch: some word was seen in it.
+  const std::vector<std::uint64_t>& touched() const { return touched_; }
+  bool none() const;
+  /// The words seen in any text. Not to be asked with `oneWord`.
+  WordSet all() const;
+
+ private:
+  bool oneWord_;
+  std::uint32_t first_ = 0;
+  std::vector<WordSet> words_;
+  std::vector<std::uint64_t> touched_;
+};
+
+/// Searches tables of texts for the words of one query.
+class WordSearch {
+ public:
+  /// `query` must outlive the search.
+  explicit WordSearch(const SearchQuery& query);
+
+  /// Fills `seen` with texts `first` to `last` - 1 of `table` and the words that each holds.
+  void find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen) {
+    find(table, first, last, seen, {}, std::numeric_limits<int>::max());
+  }
+
+  /// As above, but words may be left unseen in a text that lacks more than `mostMissing` words of the search
+  /// text, repetitions counted, even when it is given those of `elsewhere`.
+  void find(const TextTable& table, std::uint32_t first, std::uint32_t last, SeenWords& seen,
+            const WordSet& elsewhere, int mostMissing);
+
+ private:
+  struct Needle {
+    std::string_view bytes;
+    BytePair pair;
+    TrigramProbe probe;
+    int times;
+    /// It is not worth looking for in the page at hand: it is not there.
+    bool isRuledOut = false;
+    /// The stretch that was searched before held it, so the next one is likely to.
+    bool isLikely = false;
+  };
+  /// Texts of one page, from a marked one on, and the part of the answer that is wanted of them.
+  struct Stretch {
+    std::string_view text;
+    std::uint32_t firstText;
+    std::uint32_t first;
+    std::uint32_t last;
+  };
+  /// Words that may be missing yet before a page is given up.
+  struct Slack {
+    const WordSet& elsewhere;
+    int most;
+  };
+
+  void makeRoom(std::size_t blocks);
+  void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen, const Slack& slack);
+  int ruleOut(const TrigramSet* trigrams, const Slack& slack);
+  bool findTexts(std::string_view text, const Needle& needle, bool& endsKnown);
+  void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);
+
+  std::vector<Needle> needles_;
+  /// For the stretch at hand, a bit for each byte: the word at hand begins here; a text ends here.
+  std::vector<std::uint64_t> places_;
+  std::vector<std::uint64_t> ends_;
+  /// And a bit for each text, which holds the word.
+  std::vector<std::uint64_t> texts_ = std::vector<std::uint64_t>(kTextsPerPage / 64 + 2);
+};
+
+}  // namespace quorvin

@@ -1,0 +1,65 @@
+// Size and date out of the tail of an entry line, and the compact form in which segments keep them.
+#pragma once
+
+#include "dates/general_date_reader.h"
+
+#include <QLocale>
+
+#include <cstdint>
+#include <string_view>
+
+namespace quorvin {
+
+/// Where an entry's size and date come from.
+enum class ValueState : std::uint8_t {
+  /// Its line, or the tail in force at its line, gives them.
+  Own,
+  /// The tail in force is too short to hold any.
+  Absent,
+  /// There is text where they should be, but it cannot be read.
+  Unreadable,
+};
+
+struct EntryValues {
+  /// Bytes.
+  std::int64_t size = 0;
+  DateValue date = 0;
+
+  bool operator==(const EntryValues&) const = default;
+};
+
+/// Reads tails by the rules of one locale.
+class EntryValuesReader {
+ public:
+  explicit EntryValuesReader(const QLocale& locale);
+
+  /// Reads the UTF-8 text `tail` into `values`. They are changed only where the result is Own. Where `ascii`
+  /// is true a column is a byte.
+  ValueState read(std::string_view tail, bool ascii, EntryValues& values) const;
+
+ private:
+  GeneralDateReader dates_;
+};
+
+/// As readByteCount, for ASCII text. `bytes` is changed only where the result is true.
+bool readAsciiByteCount(std::string_view text, std::int64_t& bytes);
+
+/// Size and date in eight bytes. Sizes of 4 GiB and more, negative ones and dates outside 1899 to 2035 do not
+/// fit; those are kept aside.
+struct CompactValues {
+  std::uint32_t size;
+  /// Seconds since 30 December 1899, or one of the marks below.
+  std::uint32_t second;
+
+  static constexpr std::uint32_t kAbsent = 0xFFFFFFFF;
+  static constexpr std::uint32_t kUnreadable = 0xFFFFFFFE;
+  static constexpr std::uint32_t kKeptAside = 0xFFFFFFFD;
+};
+
+/// The compact form; its `second` is kKeptAside where the values do not fit without loss.
+CompactValues compact(ValueState state, const EntryValues& values);
+
+/// The values of a compact form whose `second` is none of the marks.
+EntryValues expand(const CompactValues& compact);
+
+}  // namespace quorvin

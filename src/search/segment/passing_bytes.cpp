@@ -1,0 +1,77 @@
+#include "search/segment/passing_bytes.h"
+
+#include "search/segment/byte_pair_scan.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace quorvin {
+
+namespace {
+
+constexpr std::size_t kBlock = ByteCheck::kBlockSize;
+/// Enough to keep the number of calls small, and little enough to stay in the processor's cache until it has
+/// been searched.
+constexpr std::size_t kBlocksAhead = (std::size_t{1} << 17) / kBlock;
+/// Single pieces here and there are cheaper to look at where they are mapped.
+constexpr int kPiecesUntilPassing = 4;
+/// What is left of the piece before, then the blocks read in one go, then what a scan may look at.
+constexpr std::size_t kBufferSize = PassingBytes::kLongestPiece + kBlocksAhead * kBlock + kScanPadding;
+static_assert(PassingBytes::kLongestPiece + 2 * kBlock <= kBlocksAhead * kBlock);
+
+}  // namespace
+
+PassingBytes::PassingBytes(const QString& path, std::int64_t offset, const ByteCheck& check,
+                           PassingBuffer& buffer)
+    : path_(path), offset_(offset), check_(check), buffer_(buffer) {}
+
+std::optional<std::string_view> PassingBytes::take(std::size_t begin, std::size_t size) {
+  const std::size_t end = begin + size;
+  piecesInARow_ = goesOn(begin) ? piecesInARow_ + 1 : 0;
+  pieceEnd_ = end;
+  if (piecesInARow_ < kPiecesUntilPassing || size > kLongestPiece || end > check_.size()) return std::nullopt;
+  claimBuffer();
+  if (begin < begin_ || end > end_) {
+    keepFrom(begin);
+    readBlocks();
+  }
+  return std::string_view(reinterpret_cast<const char*>(buffer_.bytes_.get()) + (begin - begin_), size);
+}
+
+bool PassingBytes::goesOn(std::size_t begin) const {
+  return begin <= pieceEnd_ && pieceEnd_ - begin < kBlock;
+}
+
+void PassingBytes::claimBuffer() {
+  if (!buffer_.bytes_) buffer_.bytes_ = std::make_unique_for_overwrite<std::byte[]>(kBufferSize);
+  if (buffer_.user_ != this) begin_ = end_ = 0;
+  buffer_.user_ = this;
+}
+
+/// What stands in the buffer from `begin` on goes to its front; where nothing does, the block of `begin`
+/// will.
+void PassingBytes::keepFrom(std::size_t begin) {
+  if (begin < begin_ || begin >= end_) {
+    begin_ = end_ = begin / kBlock * kBlock;
+    return;
+  }
+  std::memmove(buffer_.bytes_.get(), buffer_.bytes_.get() + (begin - begin_), end_ - begin);
+  begin_ = begin;
+}
+
+void PassingBytes::readBlocks() {
+  const std::size_t size = std::min(kBlocksAhead * kBlock, check_.size() - end_);
+  const std::span<std::byte> room(buffer_.bytes_.get() + (end_ - begin_), size);
+  try {
+    if (!file_) file_.emplace(path_);
+    file_->read(offset_ + static_cast<std::int64_t>(end_), room);
+    for (std::size_t at = 0; at < size; at += kBlock) {
+      check_.requireBlock((end_ + at) / kBlock, room.subspan(at, std::min(kBlock, size - at)));
+    }
+  } catch (const RuntimeFault&) {
+    throw DamagedSegment();
+  }
+  end_ += size;
+}
+
+}  // namespace quorvin

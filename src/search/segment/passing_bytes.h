@@ -1,0 +1,67 @@
+// Bytes of a cache file that are read once, from front to back.
+#pragma once
+
+#include "files/random_access_file.h"
+#include "search/segment/byte_check.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace quorvin {
+
+class PassingBytes;
+
+/// Memory through which bytes pass. Several PassingBytes may share one; whoever uses it loses what the others
+/// had in it.
+class PassingBuffer {
+ private:
+  friend class PassingBytes;
+  std::unique_ptr<std::byte[]> bytes_;
+  const PassingBytes* user_ = nullptr;
+};
+
+/// Reads a stretch of a mapped file through a small buffer, each block checked as it passes. For a single
+/// pass this takes half the time of touching mapped pages, whose making and unmaking costs more than copying
+/// them.
+class PassingBytes {
+ public:
+  /// The stretch begins at `offset` in the file at `path`, which is opened when bytes are first read. `check`
+  /// has the sums of its blocks; it and `buffer` must outlive the object.
+  PassingBytes(const QString& path, std::int64_t offset, const ByteCheck& check, PassingBuffer& buffer);
+
+  /// The longest piece that take() gives.
+  static constexpr std::size_t kLongestPiece = std::size_t{1} << 16;
+
+  /// The `size` bytes of the stretch from `begin` on, with kScanPadding readable bytes behind them; valid
+  /// until the next call. None unless some pieces before went on from one another as this one does (it may
+  /// begin a little before the end of the one before), and for too long a piece: then the mapped bytes are
+  /// the better ones to look at. Throws DamagedSegment, also when the file cannot be read.
+  std::optional<std::string_view> take(std::size_t begin, std::size_t size);
+
+  /// Closes the file until bytes are read again.
+  void rest() { file_.reset(); }
+
+ private:
+  bool goesOn(std::size_t begin) const;
+  void claimBuffer();
+  void keepFrom(std::size_t begin);
+  void readBlocks();
+
+  QString path_;
+  std::int64_t offset_;
+  const ByteCheck& check_;
+  PassingBuffer& buffer_;
+  std::optional<RandomAccessFile> file_;
+  /// The part of the stretch that stands in the buffer; its end is a block's end.
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+  /// Where the piece before ended.
+  std::size_t pieceEnd_ = 0;
+  /// How many went on from the one before.
+  int piecesInARow_ = 0;
+};
+
+}  // namespace quorvin

@@ -1,0 +1,159 @@
+#include "search/segment/segment_builder.h"
+
+#include "platform/text_encoding.h"
+#include "search/format/entry_columns.h"
+#include "search/format/listing_columns.h"
+#include "search/format/listing_line.h"
+
+#include <bit>
+
+namespace quorvin {
+
+namespace {
+
+QByteArrayView bytesOf(std::string_view text) {
+  return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+static_assert(kFoldWidth <= kLinePadding);
+static_assert(kEntryColumns <= kFoldWidth);
+
+}  // namespace
+
+SegmentBuilder::SegmentBuilder(const QLocale& locale) : valuesReader_(locale) {}
+
+void SegmentBuilder::beginSegment() {
+  if (segment_.use_count() == 1) {
+    segment_->clear();
+  } else {
+    segment_ = std::make_shared<GrowingSegment>();
+  }
+  blockPending_ = true;
+  unread_.clear();
+  firstUnread_ = 0;
+  nextToRead_ = 0;
+}
+
+std::size_t SegmentBuilder::addLines(const char* text, std::size_t size) {
+  const std::size_t blocks = (size + 63) / 64;
+  if (lineEnds_.size() < blocks) {
+    lineEnds_.resize(blocks);
+    care_.resize(blocks);
+  }
+  markLines(text, size, lineEnds_.data(), care_.data());
+  std::size_t start = 0;
+  bool careful = false;
+  for (std::size_t block = 0; block < blocks; ++block) {
+    std::uint64_t care = care_[block];
+    for (std::uint64_t ends = lineEnds_[block]; ends != 0; ends &= ends - 1) {
+      const std::uint64_t upToEnd = ends ^ (ends - 1);
+      const std::size_t end = block * 64 + static_cast<std::size_t>(std::countr_zero(ends));
+      careful |= (care & upToEnd) != 0;
+      care &= ~upToEnd;
+      const std::size_t length = end - start - (end > start && text[end - 1] == '\r' ? 1 : 0);
+      if (careful) {
+        addLine({text + start, length});
+      } else {
+        addPlainLine(text + start, length);
+      }
+      careful = false;
+      start = end + 1;
+    }
+    careful |= care != 0;
+  }
+  return start;
+}
+
+void SegmentBuilder::addPlainLine(const char* line, std::size_t length) {
+  ++lineCount_;
+  if (length == 0) return;
+  beginBlockIfNeeded();
+  const bool hasTail = length > kEntryColumns;
+  if (hasTail) {
+    tail_ = line + (kEntryColumns - 1);
+    tailLength_ = static_cast<std::uint32_t>(length - (kEntryColumns - 1));
+  }
+  segment_->addEntryColumns(line, hasTail ? kEntryColumns : length, hasTail);
+  noteEntry();
+}
+
+void SegmentBuilder::addLine(std::string_view line) {
+  ++lineCount_;
+  const bool ascii = isAscii(line);
+  if (!ascii && !isUtf8AsItStands(bytesOf(line))) {
+    decoded_.push_back(decodeSystemText(bytesOf(line)).toStdString());
+    line = decoded_.back();
+  }
+  switch (classifyLine(line)) {
+    case LineKind::Volume:
+      volume_ = withoutMark(line, kVolumeMark);
+      blockPending_ = true;
+      break;
+    case LineKind::Directory:
+      folder_ = withoutMark(line, kDirectoryMark);
+      blockPending_ = true;
+      break;
+    case LineKind::Entry:
+      addEntry(line, ascii);
+      break;
+    case LineKind::Empty:
+    case LineKind::SubFolder:
+    case LineKind::Separator:
+      break;
+  }
+}
+
+void SegmentBuilder::addEntry(std::string_view line, bool ascii) {
+  const EntryLine parts = splitEntryLine(line, ascii);
+  if (!parts.tail.empty()) {
+    tail_ = parts.tail.data();
+    tailLength_ = static_cast<std::uint32_t>(parts.tail.size());
+  }
+  beginBlockIfNeeded();
+  segment_->addEntry(parts.text, ascii);
+  noteEntry();
+}
+
+void SegmentBuilder::beginBlockIfNeeded() {
+  if (blockPending_) segment_->beginBlock(volume_, folder_, isAscii(folder_));
+  blockPending_ = false;
+}
+
+void SegmentBuilder::noteEntry() {
+  unread_.push_back({tail_, tailLength_, static_cast<std::uint32_t>(lineCount_ - textFirstLine_)});
+}
+
+ValueState SegmentBuilder::readTail(const Unread& unread, EntryValues& values) const {
+  if (unread.tail == nullptr) {
+    values = tailValues_;
+    return tailState_;
+  }
+  const std::string_view tail(unread.tail, unread.tailLength);
+  return valuesReader_.read(tail, isAscii(tail), values);
+}
+
+void SegmentBuilder::readValues(std::uint32_t entry) {
+  if (entry < nextToRead_) return;
+  nextToRead_ = entry + 1;
+  const Unread& unread = unread_[entry - firstUnread_];
+  EntryValues values;
+  const ValueState state = readTail(unread, values);
+  segment_->setValues(entry, state, values, textFirstLine_ + unread.line);
+}
+
+void SegmentBuilder::readAllValues() {
+  const auto end = firstUnread_ + static_cast<std::uint32_t>(unread_.size());
+  for (std::uint32_t entry = nextToRead_; entry < end; ++entry) readValues(entry);
+}
+
+void SegmentBuilder::finishText() {
+  if (tail_ != nullptr) tailState_ = readTail({tail_, tailLength_, 0}, tailValues_);
+  tail_ = nullptr;
+  firstUnread_ += static_cast<std::uint32_t>(unread_.size());
+  nextToRead_ = firstUnread_;
+  unread_.clear();
+  decoded_.clear();
+  textFirstLine_ = lineCount_;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,95 @@
+// Turning the text of a listing into segments.
+#pragma once
+
+#include "search/segment/growing_segment.h"
+#include "search/format/line_marks.h"
+
+#include <QLocale>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvin {
+
+/// Applies all rules of the listing format to the lines of one listing, in order. Volume, folder and tail are
+/// carried from line to line and from segment to segment.
+///
+/// Sizes and dates are the dearest part of a line to read, and most are never shown: the builder notes where
+/// they stand and reads them when they are asked for, at the latest when the text goes away.
+class SegmentBuilder {
+ public:
+  explicit SegmentBuilder(const QLocale& locale);
+
+  /// Adds the lines of text[0..size) that have an end and returns how many bytes they take up. The text must
+  /// stay until finishText(); kLinePadding bytes before and behind it can be read.
+  std::size_t addLines(const char* text, std::size_t size);
+
+  /// Adds one line, given without its line end, that addLines left over; the same holds for its bytes.
+  void addLine(std::string_view line);
+
+  /// Reads size and date of entry `entry` of the segment, if that has not been done; entries come in ascending
+  /// order.
+  void readValues(std::uint32_t entry);
+  void readAllValues();
+
+  /// The text of the lines added so far may go away; values that have not been read will never be asked for.
+  void finishText();
+
+  /// The segment that lines are being added to. Entries are seen in it after its publish().
+  const std::shared_ptr<GrowingSegment>& segment() const { return segment_; }
+
+  /// Begins a new segment; the one before is complete. Its memory is used again if nobody else has it.
+  void beginSegment();
+
+  /// How many lines have been added.
+  std::int64_t lineCount() const { return lineCount_; }
+
+ private:
+  /// The tail in force at an entry whose values have not been read.
+  struct Unread {
+    /// Null where the tail's values are known: then they are those of an earlier text.
+    const char* tail;
+    std::uint32_t tailLength;
+    /// Counted from the first line of the text.
+    std::uint32_t line;
+  };
+
+  void addPlainLine(const char* line, std::size_t length);
+  void addEntry(std::string_view line, bool ascii);
+  void beginBlockIfNeeded();
+  void noteEntry();
+  ValueState readTail(const Unread& unread, EntryValues& values) const;
+
+  EntryValuesReader valuesReader_;
+  std::shared_ptr<GrowingSegment> segment_ = std::make_shared<GrowingSegment>();
+  std::int64_t lineCount_ = 0;
+  /// The line count when the text at hand began.
+  std::int64_t textFirstLine_ = 0;
+
+  std::string volume_;
+  std::string folder_;
+  /// Volume or folder have changed since the segment's last block.
+  bool blockPending_ = true;
+
+  /// The tail in force: where it stands in the text at hand, else (null) what it said.
+  const char* tail_ = nullptr;
+  std::uint32_t tailLength_ = 0;
+  ValueState tailState_ = ValueState::Absent;
+  EntryValues tailValues_;
+
+  /// The entries of the text at hand, from firstUnread_ on.
+  std::vector<Unread> unread_;
+  std::uint32_t firstUnread_ = 0;
+  /// Entries before this one have been read or passed over.
+  std::uint32_t nextToRead_ = 0;
+
+  std::vector<std::uint64_t> lineEnds_;
+  std::vector<std::uint64_t> care_;
+  /// Lines of the text at hand that had to be decoded; tails point into them.
+  std::vector<std::string> decoded_;
+};
+
+}  // namespace quorvin

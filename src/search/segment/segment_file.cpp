@@ -1,0 +1,237 @@
+#include "search/segment/segment_file.h"
+
+#include "faults/runtime_fault.h"
+#include "search/segment/byte_check.h"
+#include "search/segment/mapped_segment.h"
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace quorvin {
+
+namespace {
+
+/// The system keeps what is written at once in one piece of memory, and maps each piece whole when any of it
+/// is touched: of larger ones a window would seem to use nearly all, whatever little it looked at.
+constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
+
+constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '5'};
+/// Arrays begin at multiples of this, the width of the widest vectors.
+constexpr std::size_t kArrayAlignment = 64;
+
+/// The end of the file: where the directory stands and its checksum.
+struct Trailer {
+  std::uint64_t directoryOffset;
+  std::uint64_t directorySize;
+  std::uint64_t directorySum;
+  char magic[8];
+};
+
+QByteArray directoryBytes(const SegmentKey& key, const std::vector<SegmentRecord>& segments,
+                          const std::vector<std::vector<std::uint64_t>>& sums) {
+  QByteArray bytes;
+  QDataStream stream(&bytes, QIODevice::WriteOnly);
+  stream.setVersion(QDataStream::Qt_6_4);
+  stream << key.listing << key.readingRules << qint64{key.identity.size} << qint64{key.identity.modified}
+         << qint64{key.identity.changed} << quint64{key.identity.device} << quint64{key.identity.file}
+         << static_cast<quint32>(segments.size());
+  for (std::size_t i = 0; i < segments.size(); ++i) {
+    stream << QByteArray(reinterpret_cast<const char*>(&segments[i]), sizeof(SegmentRecord))
+           << QByteArray(reinterpret_cast<const char*>(sums[i].data()),
+                         static_cast<qsizetype>(sums[i].size() * sizeof(std::uint64_t)));
+  }
+  return bytes;
+}
+
+struct Directory {
+  SegmentKey key;
+  std::vector<SegmentRecord> segments;
+  std::vector<std::vector<std::uint64_t>> sums;
+};
+
+bool readDirectory(const QByteArray& bytes, Directory& directory) {
+  QDataStream stream(bytes);
+  stream.setVersion(QDataStream::Qt_6_4);
+  qint64 size = 0;
+  qint64 modified = 0;
+  qint64 changed = 0;
+  quint64 device = 0;
+  quint64 file = 0;
+  quint32 count = 0;
+  stream >> directory.key.listing >> directory.key.readingRules >> size >> modified >> changed >> device >>
+      file >> count;
+  directory.key.identity = {size, modified, changed, device, file};
+  for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+    QByteArray record;
+    QByteArray sums;
+    stream >> record >> sums;
+    if (record.size() != sizeof(SegmentRecord)) return false;
+    std::memcpy(&directory.segments.emplace_back(), record.constData(), sizeof(SegmentRecord));
+    auto& own = directory.sums.emplace_back(static_cast<std::size_t>(sums.size()) / sizeof(std::uint64_t));
+    std::memcpy(own.data(), sums.constData(), own.size() * sizeof(std::uint64_t));
+  }
+  return stream.status() == QDataStream::Ok;
+}
+
+bool readDirectoryOf(const QString& path, Directory& directory) {
+  QFile file(path);
+  Trailer trailer;
+  constexpr qint64 kTrailerSize = sizeof trailer;
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() < kTrailerSize) return false;
+  if (!file.seek(file.size() - kTrailerSize)) return false;
+  if (file.read(reinterpret_cast<char*>(&trailer), kTrailerSize) != kTrailerSize) return false;
+  if (std::memcmp(trailer.magic, kMagic, sizeof kMagic) != 0) return false;
+  const auto end = static_cast<std::uint64_t>(file.size() - kTrailerSize);
+  if (trailer.directoryOffset > end || trailer.directorySize != end - trailer.directoryOffset) return false;
+  if (!file.seek(static_cast<qint64>(trailer.directoryOffset))) return false;
+  const QByteArray bytes = file.read(static_cast<qint64>(trailer.directorySize));
+  if (static_cast<std::uint64_t>(bytes.size()) != trailer.directorySize) return false;
+  if (checksumOf(std::as_bytes(std::span(bytes.constData(), trailer.directorySize))) != trailer.directorySum)
+    return false;
+  return readDirectory(bytes, directory);
+}
+
+/// Lays the arrays of an segment out one behind another.
+class SegmentLayout {
+ public:
+  explicit SegmentLayout(SegmentRecord& record) : record_(record) {}
+
+  template <typename Element>
+  void operator()(std::span<const Element>& array) {
+    add(array.size(), array.size_bytes(), 0);
+  }
+  void operator()(std::string_view& text) { add(text.size(), text.size(), kScanPadding); }
+
+  std::uint64_t size() const { return size_; }
+
+ private:
+  void add(std::size_t count, std::size_t bytes, std::size_t padding) {
+    record_.arrays[next_++] = {size_, count};
+    size_ += (bytes + padding + kArrayAlignment - 1) / kArrayAlignment * kArrayAlignment;
+  }
+
+  SegmentRecord& record_;
+  std::size_t next_ = 0;
+  std::uint64_t size_ = 0;
+};
+
+/// Copies the arrays to their places.
+class SegmentCopier {
+ public:
+  SegmentCopier(std::vector<std::byte>& bytes, const SegmentRecord& record)
+      : bytes_(bytes), record_(record) {}
+
+  template <typename Array>
+  void operator()(Array& array) {
+    const std::size_t size = array.size() * sizeof(array[0]);
+    if (size > 0) std::memcpy(bytes_.data() + record_.arrays[next_].offset, array.data(), size);
+    ++next_;
+  }
+
+ private:
+  std::vector<std::byte>& bytes_;
+  const SegmentRecord& record_;
+  std::size_t next_ = 0;
+};
+
+}  // namespace
+
+SegmentFileWriter::SegmentFileWriter(const QString& path)
+    : path_(path), file_(path + QStringLiteral(".%1.new").arg(QCoreApplication::applicationPid())) {
+  QDir().mkpath(QFileInfo(path).path());
+  if (!file_.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
+    throw faultOfSystemError(errno, file_.fileName());
+  }
+}
+
+SegmentFileWriter::~SegmentFileWriter() {
+  if (!finished_) file_.remove();
+}
+
+void SegmentFileWriter::write(const void* data, std::size_t size) {
+  const auto* bytes = static_cast<const char*>(data);
+  for (std::size_t left = size; left > 0;) {
+    const std::size_t piece = std::min(left, kLargestWrite);
+    const auto wanted = static_cast<qint64>(piece);
+    if (file_.write(bytes, wanted) != wanted) {
+      throw faultOfSystemError(errno == 0 ? ENOSPC : errno, file_.fileName());
+    }
+    bytes += piece;
+    left -= piece;
+  }
+  position_ += size;
+}
+
+void SegmentFileWriter::pad() {
+  const std::size_t over = position_ % kMappingAlignment;
+  if (over == 0) return;
+  const std::vector<char> zeros(kMappingAlignment - over, 0);
+  write(zeros.data(), zeros.size());
+}
+
+std::shared_ptr<const Segment> SegmentFileWriter::append(const Segment& segment) {
+  pad();
+  SegmentArrays arrays = segment.arrays();
+  SegmentRecord record{};
+  SegmentLayout layout(record);
+  visitArrays(arrays, layout);
+  record.offset = position_;
+  record.size = layout.size();
+  record.entryCount = arrays.entries.count;
+  record.blockCount = arrays.folders.count;
+  record.allOwn = arrays.allOwn ? 1 : 0;
+  std::vector<std::byte> bytes(record.size);
+  visitArrays(arrays, SegmentCopier(bytes, record));
+  write(bytes.data(), bytes.size());
+  sums_.push_back(checksumsOf(bytes));
+  segments_.push_back(record);
+  return std::make_shared<MappedSegment>(file_.fileName(), record, sums_.back());
+}
+
+void SegmentFileWriter::finish(const SegmentKey& key) {
+  const QByteArray directory = directoryBytes(key, segments_, sums_);
+  Trailer trailer{};
+  trailer.directoryOffset = position_;
+  trailer.directorySize = static_cast<std::uint64_t>(directory.size());
+  trailer.directorySum = checksumOf(std::as_bytes(std::span(directory.constData(), trailer.directorySize)));
+  std::memcpy(trailer.magic, kMagic, sizeof kMagic);
+  write(directory.constData(), static_cast<std::size_t>(directory.size()));
+  write(&trailer, sizeof trailer);
+  file_.close();
+  if (std::rename(QFile::encodeName(file_.fileName()).constData(), QFile::encodeName(path_).constData()) !=
+      0) {
+    throw faultOfSystemError(errno, path_);
+  }
+  finished_ = true;
+}
+
+std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,
+                                                            SegmentUse use) {
+  Directory directory;
+  if (!readDirectoryOf(path, directory) || directory.key != key) return {};
+  const auto buffers = use == SegmentUse::Once ? std::make_shared<PassingBuffers>() : nullptr;
+  std::vector<std::shared_ptr<const Segment>> segments;
+  try {
+    for (std::size_t i = 0; i < directory.segments.size(); ++i) {
+      segments.push_back(std::make_shared<MappedSegment>(path, directory.segments[i],
+                                                         std::move(directory.sums[i]), buffers));
+    }
+  } catch (const RuntimeFault&) {
+    return {};
+  }
+  return segments;
+}
+
+QString listingOfSegmentFile(const QString& path) {
+  Directory directory;
+  return readDirectoryOf(path, directory) ? directory.key.listing : QString();
+}
+
+}  // namespace quorvin

@@ -1,0 +1,94 @@
+// The segments of listings that have been read before: in memory and in the user's cache folder.
+#pragma once
+
+#include "search/segment/growing_segment.h"
+#include "search/segment/segment_file.h"
+
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+#include <list>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quorvin {
+
+/// The key under which the segments of `listing` are kept now; nothing if the file cannot be looked at. The
+/// path is made absolute.
+std::optional<SegmentKey> segmentKeyOf(const QString& listing, const QLocale& locale);
+
+/// Keeps segments. User-interface thread only. A store that fails to keep something is no fault: the listing
+/// is read again the next time.
+class SegmentStore {
+ public:
+  using Segments = std::vector<std::shared_ptr<const Segment>>;
+
+  struct Options {
+    /// Where segment files stand, with a trailing separator; empty for none.
+    QString cacheFolder;
+    /// Bytes that segments without a file may take up in memory.
+    std::size_t memoryBudget = 0;
+    /// Once where the program ends after one search.
+    SegmentUse use = SegmentUse::Repeated;
+  };
+
+  /// The user's cache folder and a quarter of the machine's memory.
+  static Options defaultOptions(SegmentUse use = SegmentUse::Repeated);
+
+  explicit SegmentStore(Options options);
+
+  /// The segments of a listing, in file order, if they are known and the listing is as it was; else none.
+  Segments find(const SegmentKey& key);
+
+  /// Lets go of a listing's segments, in memory and on disk.
+  void forget(const QString& listing);
+
+  /// Takes the segments of one listing while they are built. Unless finish() is called nothing is kept.
+  class Recorder {
+   public:
+    Recorder(SegmentStore& store, const SegmentKey& key);
+
+    /// Takes a complete segment and returns the one to be used from now on instead: an equal one in a file,
+    /// or itself. Null if there is no room for it; then nothing of the listing will be kept.
+    std::shared_ptr<const Segment> add(const std::shared_ptr<GrowingSegment>& segment);
+
+    /// The listing has been read to its end and has not changed.
+    void finish();
+
+   private:
+    SegmentStore& store_;
+    SegmentKey key_;
+    std::unique_ptr<SegmentFileWriter> writer_;
+    Segments segments_;
+    std::size_t memory_ = 0;
+    bool keeping_ = true;
+  };
+
+ private:
+  struct Kept {
+    SegmentKey key;
+    Segments segments;
+    /// Bytes in memory that no file backs.
+    std::size_t memory;
+  };
+
+  void keep(Kept kept);
+
+  Options options_;
+  /// The one used last stands first.
+  std::list<Kept> kept_;
+};
+
+/// The file for a listing's segments in `cacheFolder`.
+QString segmentFilePath(const QString& cacheFolder, const QString& listing);
+
+/// All segment files in `cacheFolder`, by name.
+QStringList segmentFiles(const QString& cacheFolder);
+/// What programs that were ended while they wrote left in `cacheFolder`; what others write just now is among
+/// it.
+QStringList unfinishedSegmentFiles(const QString& cacheFolder);
+
+}  // namespace quorvin

@@ -1,0 +1,218 @@
+#include "search/segment/text_table.h"
+
+#include "platform/text_encoding.h"
+#include "search/format/entry_columns.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+namespace quorvin {
+
+namespace {
+
+/// Room that is made at a time, beyond what is needed now.
+constexpr std::size_t kGrowth = std::size_t{1} << 16;
+
+constexpr std::uint64_t lowBits(std::size_t count) {
+  return (std::uint64_t{1} << count) - 1;
+}
+
+const char* endOfText(const char* begin) {
+  return static_cast<const char*>(::rawmemchr(begin, kTextEnd));
+}
+
+bool bitAt(std::span<const std::uint64_t> bits, std::uint32_t index) {
+  return (bits[index / 64] >> (index % 64) & 1U) != 0;
+}
+
+/// Capitals back into place.
+void raise(std::string& text, const std::uint8_t* upperBits) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if ((static_cast<unsigned>(upperBits[i / 8]) >> (i % 8) & 1U) != 0)
+      text[i] = static_cast<char>(text[i] - ('a' - 'A'));
+  }
+}
+
+}  // namespace
+
+std::string_view TextTable::toSearch(std::string_view stretch) const {
+  if (passing != nullptr) {
+    const auto copy = passing->take(check->offsetOf(stretch.data()), stretch.size());
+    if (copy) return *copy;
+  }
+  require(stretch.data(), stretch.size());
+  return stretch;
+}
+
+std::string_view TextTable::between(std::size_t beginMark, std::size_t endMark) const {
+  require(&marks[beginMark], sizeof(Mark));
+  const std::size_t begin = marks[beginMark].text;
+  if (endMark >= marks.size()) return folded.substr(begin);
+  require(&marks[endMark], sizeof(Mark));
+  return folded.substr(begin, marks[endMark].text - begin);
+}
+
+std::string_view TextTable::foldedText(std::uint32_t text) const {
+  const std::string_view group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
+  require(group.data(), group.size());
+  const char* begin = group.data();
+  for (std::uint32_t i = text % kTextsPerMark; i > 0; --i) begin = endOfText(begin) + 1;
+  return {begin, static_cast<std::size_t>(endOfText(begin) - begin)};
+}
+
+std::string TextTable::listedText(std::uint32_t text) const {
+  require(exceptions.data(), exceptions.size_bytes());
+  const auto exception = std::lower_bound(exceptions.begin(), exceptions.end(), text,
+                                          [](const Exception& e, std::uint32_t t) { return e.text < t; });
+  if (exception != exceptions.end() && exception->text == text) {
+    const std::uint32_t size = std::next(exception)->start - exception->start;
+    require(exceptionTexts.data() + exception->start, size);
+    return std::string(exceptionTexts.substr(exception->start, size));
+  }
+  const std::string_view group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
+  require(group.data(), group.size());
+  require(&hasUpper[text / 64], sizeof(std::uint64_t));
+  const char* begin = group.data();
+  std::size_t upper = marks[text / kTextsPerMark].upper;
+  for (std::uint32_t i = text - text % kTextsPerMark; i < text; ++i) {
+    const char* end = endOfText(begin);
+    if (bitAt(hasUpper, i)) upper += (static_cast<std::size_t>(end - begin) + 7) / 8;
+    begin = end + 1;
+  }
+  std::string listed(begin, static_cast<std::size_t>(endOfText(begin) - begin));
+  if (!bitAt(hasUpper, text)) return listed;
+  require(&upperBits[upper], (listed.size() + 7) / 8);
+  raise(listed, upperBits.data() + upper);
+  return listed;
+}
+
+void TextTableBuilder::add(std::string_view listed, bool ascii) {
+  beginText();
+  if (ascii) {
+    addAscii(listed);
+  } else {
+    addOther(listed);
+  }
+}
+
+void TextTableBuilder::addColumns(const char* line, std::size_t columns, bool trimmed) {
+  beginText();
+  makeRoom(kFoldWidth + 1);
+  FoldedColumns folded = foldColumns(line, folded_.data() + foldedSize_);
+  std::size_t length = columns;
+  if (trimmed) {
+    const std::uint64_t high = columns > 64 ? folded.textHigh & lowBits(columns - 64) : 0;
+    const std::uint64_t low = columns < 64 ? folded.textLow & lowBits(columns) : folded.textLow;
+    length = high != 0 ? 128 - static_cast<std::size_t>(std::countl_zero(high))
+                       : 64 - static_cast<std::size_t>(std::countl_zero(low));
+  }
+  folded.upperLow = length < 64 ? folded.upperLow & lowBits(length) : folded.upperLow;
+  folded.upperHigh = length > 64 ? folded.upperHigh & lowBits(length - 64) : 0;
+  if ((folded.upperLow | folded.upperHigh) != 0) {
+    hasUpper_.back() |= std::uint64_t{1} << (count_ % 64);
+    addUpperBits(folded, length);
+  }
+  endText(length);
+}
+
+void TextTableBuilder::completeTrigrams() {
+  trigrams_.assign((count_ + kTextsPerPage - 1) / kTextsPerPage, {});
+  constexpr std::uint32_t kMarksPerPage = kTextsPerPage / kTextsPerMark;
+  for (std::size_t page = 0; page < trigrams_.size(); ++page) {
+    const std::size_t nextMark = (page + 1) * kMarksPerPage;
+    const std::size_t begin = marks_[page * kMarksPerPage].text;
+    const std::size_t end = nextMark < marks_.size() ? marks_[nextMark].text : foldedSize_;
+    // Trigrams across two texts are taken along: they cost a few bits and no test for each byte.
+    addTrigrams(trigrams_[page], std::string_view(folded_).substr(begin, end - begin));
+  }
+}
+
+void TextTableBuilder::clear() {
+  count_ = 0;
+  foldedSize_ = 0;
+  marks_.clear();
+  trigrams_.clear();
+  hasUpper_.clear();
+  upperBits_.clear();
+  exceptions_.assign(1, {kNoText, 0});
+  exceptionTexts_.clear();
+}
+
+void TextTableBuilder::beginText() {
+  if (count_ % kTextsPerMark == 0) {
+    marks_.push_back(
+        {static_cast<std::uint32_t>(foldedSize_), static_cast<std::uint32_t>(upperBits_.size())});
+  }
+  if (count_ % 64 == 0) hasUpper_.push_back(0);
+}
+
+void TextTableBuilder::endText(std::size_t length) {
+  foldedSize_ += length;
+  folded_[foldedSize_++] = kTextEnd;
+  ++count_;
+}
+
+void TextTableBuilder::makeRoom(std::size_t bytes) {
+  const std::size_t needed = foldedSize_ + bytes + kScanPadding;
+  if (folded_.size() < needed) folded_.resize(std::max(folded_.size() * 3 / 2, needed + kGrowth));
+}
+
+void TextTableBuilder::addAscii(std::string_view listed) {
+  makeRoom(listed.size() + kFoldWidth + 1);
+  const std::size_t bits = upperBits_.size();
+  bool anyUpper = false;
+  for (std::size_t at = 0; at < listed.size(); at += kFoldWidth) {
+    const std::string_view piece = listed.substr(at, kFoldWidth);
+    char padded[kFoldWidth] = {};
+    std::memcpy(padded, piece.data(), piece.size());
+    const FoldedColumns folded = foldColumns(padded, folded_.data() + foldedSize_ + at);
+    anyUpper |= (folded.upperLow | folded.upperHigh) != 0;
+    // A full piece has a whole number of bytes of bits, so those of the next one follow without a gap.
+    addUpperBits(folded, piece.size());
+  }
+  if (anyUpper) {
+    hasUpper_.back() |= std::uint64_t{1} << (count_ % 64);
+  } else {
+    upperBits_.resize(bits);
+  }
+  endText(listed.size());
+}
+
+void TextTableBuilder::addUpperBits(const FoldedColumns& folded, std::size_t length) {
+  const std::uint64_t upper[2] = {folded.upperLow, folded.upperHigh};
+  const auto* bits = reinterpret_cast<const std::uint8_t*>(upper);
+  upperBits_.insert(upperBits_.end(), bits, bits + (length + 7) / 8);
+}
+
+void TextTableBuilder::addOther(std::string_view listed) {
+  const std::string lower = simpleLowerCase(textOfUtf8(listed)).toStdString();
+  const std::uint32_t number = count_;
+  addAscii(lower);
+  if (lower == listed) return;
+  exceptions_.back().text = number;
+  exceptionTexts_ += listed;
+  exceptions_.push_back({kNoText, static_cast<std::uint32_t>(exceptionTexts_.size())});
+}
+
+TextTable TextTableBuilder::table() const {
+  TextTable table;
+  table.count = count_;
+  table.folded = std::string_view(folded_).substr(0, foldedSize_);
+  table.marks = marks_;
+  table.trigrams = trigrams_;
+  table.hasUpper = hasUpper_;
+  table.upperBits = upperBits_;
+  table.exceptions = exceptions_;
+  table.exceptionTexts = exceptionTexts_;
+  return table;
+}
+
+std::size_t TextTableBuilder::memorySize() const {
+  return folded_.capacity() + marks_.capacity() * sizeof(TextTable::Mark) +
+         trigrams_.capacity() * sizeof(TrigramSet) + hasUpper_.capacity() * sizeof(std::uint64_t) +
+         upperBits_.capacity() + exceptions_.capacity() * sizeof(TextTable::Exception) +
+         exceptionTexts_.capacity();
+}
+
+}  // namespace quorvin

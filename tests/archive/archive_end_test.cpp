@@ -1,0 +1,120 @@
+// Where an archive ends.
+#include "archive/archive_end.h"
+
+#include "peers/peer_program.h"
+
+#include <QtEndian>
+#include <gtest/gtest.h>
+
+namespace quorvin::test {
+
+namespace {
+
+/// How many bytes belong to the archive when they come in pieces of `piece`; -1 when the end was not seen.
+qsizetype endIn(const QByteArray& bytes, qsizetype piece) {
+  PeerArchiveEnd end;
+  for (qsizetype at = 0; at < bytes.size(); at += piece) {
+    const QByteArray part = bytes.mid(at, piece);
+    const std::optional<qsizetype> taken = end.feed(part);
+    if (taken) return at + *taken;
+  }
+  return -1;
+}
+
+template <typename Number>
+QByteArray little(Number number) {
+  QByteArray bytes(sizeof number, '\0');
+  qToLittleEndian(number, bytes.data());
+  return bytes;
+}
+
+/// An end record for a directory of `size` bytes at `offset`.
+QByteArray endRecord(quint32 offset, quint32 size, quint16 entries, const QByteArray& comment = {}) {
+  return QByteArray("PK\x05\x06\0\0\0\0", 8) + little(entries) + little(entries) + little(size) +
+         little(offset) + little(static_cast<quint16>(comment.size())) + comment;
+}
+
+/// The archive that a stored file `content` makes; its checksum is nobody's concern here.
+QByteArray stored(const QByteArray& content, const QByteArray& comment = {}) {
+  const QByteArray name = "a.txt";
+  const auto size = static_cast<quint32>(content.size());
+  const QByteArray sizes = little(quint32{0}) + little(size) + little(size);
+  const QByteArray nameSize = little(static_cast<quint16>(name.size()));
+  const QByteArray local = QByteArray("PK\x03\x04\x0a\0\0\0\0\0\0\0\0\0", 14) + sizes + nameSize +
+                           little(quint16{0}) + name + content;
+  const QByteArray directory = QByteArray("PK\x01\x02\x0a\0\x0a\0\0\0\0\0\0\0\0\0", 16) + sizes + nameSize +
+                               QByteArray(16, '\0') + name;
+  return local + directory +
+         endRecord(static_cast<quint32>(local.size()), static_cast<quint32>(directory.size()), 1, comment);
+}
+
+TEST(PeerArchiveEnd, IsSeenHoweverTheBytesCome) {
+  const QByteArray archive = smallArchive();
+  const QByteArray more = archive + "List: next.zip" + archive;
+  for (qsizetype piece = 1; piece <= more.size(); ++piece) {
+    EXPECT_EQ(endIn(more, piece), archive.size()) << piece;
+  }
+}
+
+TEST(PeerArchiveEnd, TheCommentBelongsToTheArchive) {
+  const QByteArray archive = stored("some text", "a comment");
+  EXPECT_EQ(endIn(archive + "x", archive.size() + 1), archive.size());
+  for (qsizetype piece = 1; piece <= archive.size(); ++piece)
+    EXPECT_EQ(endIn(archive, piece), archive.size());
+  EXPECT_EQ(endIn(archive.chopped(1), 7), -1);
+}
+
+TEST(PeerArchiveEnd, AnArchiveWithoutEntriesIsItsEndRecord) {
+  EXPECT_EQ(endIn(endRecord(0, 0, 0) + "List: x.zip", 5), 22);
+}
+
+TEST(PeerArchiveEnd, AnArchiveInsideAnotherIsNotItsEnd) {
+  const QByteArray inner = stored("some text");
+  const QByteArray outer = stored(inner + inner);
+  EXPECT_EQ(endIn(outer, 3), outer.size());
+  EXPECT_EQ(endIn(stored(outer), 1000), stored(outer).size());
+}
+
+TEST(PeerArchiveEnd, AnEndRecordThatPointsElsewhereIsNone) {
+  EXPECT_EQ(endIn("PK\x03\x04" + endRecord(1, 4, 0), 100), -1);
+  EXPECT_EQ(endIn("PK\x03\x04" + endRecord(0xFFFFFFFF, 5, 0), 100), -1);
+  EXPECT_EQ(endIn("PK\x03\x04" + endRecord(0, 4, 1), 100), -1);
+}
+
+/// The three records at the end of an archive beyond the limits of the plain one.
+QByteArray largeEnd(quint64 offset, quint64 size, quint64 recordPlace) {
+  const QByteArray record = QByteArray("PK\x06\x06", 4) + little(quint64{44}) + little(quint16{45}) +
+                            little(quint16{45}) + little(quint32{0}) + little(quint32{0}) +
+                            little(quint64{1}) + little(quint64{1}) + little(size) + little(offset);
+  const QByteArray locator =
+      QByteArray("PK\x06\x07", 4) + little(quint32{0}) + little(recordPlace) + little(quint32{1});
+  return record + locator + endRecord(0xFFFFFFFF, 0xFFFFFFFF, 0xFFFF);
+}
+
+TEST(PeerArchiveEnd, ALargeArchiveIsKnownByItsLargeRecord) {
+  const QByteArray start = "PK\x03\x04" + QByteArray(200, 'x');
+  const QByteArray archive = start + largeEnd(104, 100, 204);
+  for (const qsizetype piece : {1, 2, 3, 7, 50, 1000}) {
+    EXPECT_EQ(endIn(archive + "more", piece), archive.size()) << piece;
+  }
+}
+
+TEST(PeerArchiveEnd, ALargeRecordThatPointsElsewhereIsNone) {
+  const QByteArray start = "PK\x03\x04" + QByteArray(200, 'x');
+  EXPECT_EQ(endIn(start + largeEnd(105, 100, 204), 1000), -1);
+  EXPECT_EQ(endIn(start + largeEnd(104, 100, 203), 1000), -1);
+  EXPECT_EQ(endIn(start + largeEnd(104, 100, 0xFFFFFFFFFFFFFFF0U), 1000), -1);
+  EXPECT_EQ(endIn(start + largeEnd(0xFFFFFFFFFFFFFFF0U, 0x10000000000000DCU, 204), 1000), -1);
+}
+
+TEST(PeerArchiveEnd, KnowsWhatAnArchiveBeginsWith) {
+  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK\x03\x04..."), true);
+  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK\x05\x06"), true);
+  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK"), std::nullopt);
+  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK\x03x"), false);
+  EXPECT_EQ(PeerArchiveEnd::canBeginWith("List: "), false);
+}
+
+}  // namespace
+
+}  // namespace quorvin::test

@@ -1,0 +1,226 @@
+// Metafiles look as their records say, and as other people's programs draw them.
+#include "metafile/metafile_play.h"
+
+#include "metafile/metafile_answer.h"
+#include "metafile/metafile_bytes.h"
+#include "metafile/metafile_seen.h"
+#include "metafile/metafile_writer.h"
+#include "preview/picture_printing.h"
+#include "preview/second_decoder.h"
+#include "support/temporary_folder.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quorvin::test {
+
+namespace {
+
+void expectAllSeen(const std::vector<CorpusMetafile>& corpus) {
+  ASSERT_FALSE(corpus.empty());
+  for (const CorpusMetafile& metafile : corpus) {
+    SCOPED_TRACE(metafile.name);
+    const QImage image = playMetafile(metafile.bytes).image;
+    ASSERT_EQ(image.size(), QSize(600, 300));
+    expectSeen(image, metafile.points);
+  }
+}
+
+/// The share of points, of every third each way, whose colours differ clearly.
+double differingShare(const QImage& one, const QImage& other) {
+  constexpr int kClearly = 64;
+  int differing = 0;
+  int compared = 0;
+  for (int y = 1; y < kUnits.height(); y += 3) {
+    for (int x = 1; x < kUnits.width(); x += 3) {
+      const QRgb a = colourAt(one, {x, y});
+      const QRgb b = colourAt(other, {x, y});
+      const bool differs = std::abs(qRed(a) - qRed(b)) > kClearly ||
+                           std::abs(qGreen(a) - qGreen(b)) > kClearly ||
+                           std::abs(qBlue(a) - qBlue(b)) > kClearly;
+      differing += differs ? 1 : 0;
+      ++compared;
+    }
+  }
+  return double(differing) / compared;
+}
+
+QImage drawnByEmf2svg(const QByteArray& metafile) {
+  const TemporaryFolder folder;
+  const QString input = folder.writeFile(QStringLiteral("a.emf"), metafile);
+  outputOf(QStringLiteral(QUORVIN_EMF2SVG),
+           {QStringLiteral("-i"), input, QStringLiteral("-o"), folder.pathOf(QStringLiteral("a.svg"))});
+  QSvgRenderer svg(folder.readFile(QStringLiteral("a.svg")));
+  QImage image(600, 300, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  // It leaves the last column and row out.
+  svg.setViewBox(QRectF(0, 0, 400, 200));
+  svg.render(&painter);
+  return image;
+}
+
+QImage drawnByLibwmf(const QByteArray& metafile) {
+  const TemporaryFolder folder;
+  const QString input = folder.writeFile(QStringLiteral("a.wmf"), metafile);
+  outputOf(QStringLiteral(QUORVIN_WMF2GD), {QStringLiteral("-t"), QStringLiteral("png"), QStringLiteral("-o"),
+                                            folder.pathOf(QStringLiteral("a.png")), input});
+  QImage image(600, 300, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.drawImage(image.rect(), QImage(folder.pathOf(QStringLiteral("a.png"))));
+  return image;
+}
+
+/// Edges fall on other pixels, and no more.
+constexpr double kTolerance = 0.03;
+
+TEST(MetafilePlay, EnhancedMetafilesLookAsTheirRecordsSay) {
+  expectAllSeen(enhancedMetafileCorpus());
+}
+
+TEST(MetafilePlay, WindowsMetafilesLookAsTheirRecordsSay) {
+  expectAllSeen(windowsMetafileCorpus());
+}
+
+TEST(MetafilePlay, EnhancedMetafilesLookAsTheSecondDecoderDrawsThem) {
+  int compared = 0;
+  for (const CorpusMetafile& metafile : enhancedMetafileCorpus()) {
+    if (!metafile.isForSecondDecoder) continue;
+    ++compared;
+    EXPECT_LE(differingShare(playMetafile(metafile.bytes).image, drawnByEmf2svg(metafile.bytes)), kTolerance)
+        << metafile.name;
+  }
+  EXPECT_GE(compared, 5);
+}
+
+TEST(MetafilePlay, WindowsMetafilesLookAsTheSecondDecoderDrawsThem) {
+  int compared = 0;
+  for (const CorpusMetafile& metafile : windowsMetafileCorpus()) {
+    if (!metafile.isForSecondDecoder) continue;
+    ++compared;
+    EXPECT_LE(differingShare(playMetafile(metafile.bytes).image, drawnByLibwmf(metafile.bytes)), kTolerance)
+        << metafile.name;
+  }
+  EXPECT_GE(compared, 5);
+}
+
+TEST(MetafilePlay, TheOwnSizeIsInHundredthMillimetres) {
+  EXPECT_EQ(playMetafile(EmfWriter().file()).ownSize, QSize(10000, 5000));
+  EXPECT_EQ(playMetafile(WmfWriter().file()).ownSize, QSize(10583, 5291));
+}
+
+TEST(MetafilePlay, WithoutPlaceableHeaderTheFirstWindowTellsTheSize) {
+  WmfWriter wmf;
+  // The writer begins with the origin 0, 0 and the extent 400 by 200.
+  wmf.rectangle(0, 0, 10, 10).place(0x020B, 10, 10).place(0x020C, 800, 400);
+  EXPECT_EQ(playMetafile(wmf.file(false)).ownSize, QSize(10583, 5291));
+}
+
+TEST(MetafilePlay, AnOwnSizeBeyondAllNumbersIsCutToAKilometre) {
+  QByteArray emf = EmfWriter().file();
+  // The bounds end at nearly the largest number, and the frame is empty: then the bounds count.
+  emf.replace(16, 4, QByteArray("\xFF\xFF\xFF\x7F", 4)).replace(24, 16, QByteArray(16, '\0'));
+  EXPECT_EQ(playMetafile(emf).ownSize.width(), 100'000'000);
+}
+
+TEST(MetafilePlay, LettersStretchedVeryWideAreDrawn) {
+  constexpr int kHeight = 10;
+  constexpr int kWidth = 400;
+  WmfWriter wmf;
+  wmf.record(0x02FB, ByteWriter().u16(kHeight).u16(kWidth).zeros(4).u16(400).zeros(40)).select(0);
+  const QImage image = playMetafile(wmf.text(0, 100, "H").file()).image;
+  int darkPoints = 0;
+  for (int x = 0; x < kUnits.width(); ++x) {
+    for (int y = 0; y < kUnits.height(); ++y) darkPoints += qGray(colourAt(image, {x, y})) < 128 ? 1 : 0;
+  }
+  EXPECT_GT(darkPoints, kWidth / 2);
+}
+
+TEST(MetafilePlay, ARecordThatMakesNoSenseDoesNotSpoilTheOthers) {
+  EmfWriter emf;
+  emf.select(0x80000008).brush(1, 0, qRgb(255, 0, 0)).select(1);
+  emf.record(43).record(86, ByteWriter().zeros(16).u32(0xFFFFFFFF)).record(4711).rectangle(0, 0, 400, 200);
+  EXPECT_EQ(colourAt(playMetafile(emf.file()).image, {200, 100}), qRgb(255, 0, 0));
+}
+
+std::string faultOf(const QByteArray& metafile) {
+  try {
+    playMetafile(metafile);
+  } catch (const MetafileFault& fault) {
+    return fault.what();
+  }
+  return "none";
+}
+
+TEST(MetafilePlay, AFileThatEndsBeforeItsLastRecordIsRefused) {
+  const QByteArray emf = EmfWriter().rectangle(0, 0, 10, 10).file();
+  const QByteArray wmf = WmfWriter().rectangle(0, 0, 10, 10).file();
+  EXPECT_EQ(faultOf(emf.chopped(20)), "it is damaged or cut short");
+  EXPECT_EQ(faultOf(emf.chopped(1)), "it is damaged or cut short");
+  EXPECT_EQ(faultOf(wmf.chopped(6)), "it is damaged or cut short");
+  EXPECT_EQ(faultOf(wmf.chopped(1)), "it is damaged or cut short");
+}
+
+TEST(MetafilePlay, ARecordWithoutLengthIsNotAnEndlessLoop) {
+  QByteArray emf = EmfWriter().record(43).file();
+  emf[88 + 4] = '\0';
+  EXPECT_EQ(faultOf(emf), "it is damaged or cut short");
+}
+
+TEST(MetafilePlay, WithoutSizeItIsRefused) {
+  QByteArray wmf = WmfWriter().file();
+  // Right is left, and bottom is top.
+  wmf.replace(10, 4, QByteArray(4, '\0'));
+  EXPECT_EQ(faultOf(wmf), "it has no size");
+  QByteArray bare = WmfWriter().file(false);
+  EXPECT_EQ(faultOf(bare.left(18) + QByteArray("\x03\0\0\0\0\0", 6)), "it does not say how large it is");
+}
+
+TEST(MetafileAnswer, APictureComesBackAsItWent) {
+  const MetafilePicture picture = playMetafile(enhancedMetafileCorpus().front().bytes);
+  const MetafilePicture back = pictureOfMetafileAnswer(metafileAnswer(picture));
+  EXPECT_EQ(back.ownSize, picture.ownSize);
+  EXPECT_EQ(back.image, picture.image.convertToFormat(QImage::Format_RGB32));
+}
+
+std::string answerFault(const QByteArray& answer) {
+  try {
+    pictureOfMetafileAnswer(answer);
+  } catch (const MetafileFault& fault) {
+    return fault.what();
+  }
+  return "none";
+}
+
+TEST(MetafileAnswer, ARefusalTellsItsReasonInHarmlessLetters) {
+  EXPECT_EQ(answerFault(metafileRefusal("it has no size")), "it has no size");
+  EXPECT_EQ(answerFault(metafileRefusal("a\nb\x01\xC3\xA4")), "a?b???");
+  EXPECT_EQ(answerFault(metafileRefusal(QByteArray(5000, 'x'))), std::string(200, 'x'));
+}
+
+TEST(MetafileAnswer, WhateverIsNotExactlyAnAnswerIsRefused) {
+  const std::string kNone = "the program that draws metafiles has not answered as it should";
+  const QByteArray good = metafileAnswer({QSize(100, 100), QImage(3, 2, QImage::Format_RGB32)});
+  EXPECT_EQ(answerFault(good), "none");
+  EXPECT_EQ(answerFault({}), kNone);
+  EXPECT_EQ(answerFault(good.chopped(1)), kNone);
+  EXPECT_EQ(answerFault(good + 'x'), kNone);
+  EXPECT_EQ(answerFault('x' + good), kNone);
+  const auto with = [&good](qsizetype at, std::uint32_t value) {
+    QByteArray bytes = good;
+    return bytes.replace(at, 4, ByteWriter().u32(value).bytes());
+  };
+  for (const qsizetype size : {8, 12, 16, 20}) {
+    EXPECT_EQ(answerFault(with(size, 0)), kNone) << size;
+    EXPECT_EQ(answerFault(with(size, 0xFFFFFFFF)), kNone) << size;
+  }
+  EXPECT_EQ(answerFault(with(16, 2001)), kNone);
+  EXPECT_EQ(answerFault(with(4, 2)), kNone);
+}
+
+}  // namespace
+
+}  // namespace quorvin::test

@@ -1,0 +1,93 @@
+// The parts of a program that the peer exchange works with, with a data folder of its own.
+#pragma once
+
+#include "archive/archive_packing.h"
+#include "peers/client/peer_client.h"
+#include "peers/server/peer_server.h"
+#include "state/program_state.h"
+#include "support/qt_printing.h"
+#include "support/recording_message_boxes.h"
+#include "support/temporary_folder.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+#include <stdexcept>
+
+namespace quorvin::test {
+
+/// Bob, who joined on a day without a time: number 37622.
+struct PeerProgram {
+  PeerProgram() {
+    state.LocalFolder = folder.path();
+    state.NickName = QStringLiteral("Bob");
+    state.JoinDate = 37622;
+  }
+
+  void addSource(const QString& description) {
+    state.OnlineSources.set(++state.OnlineSourceCount, description, QStringLiteral("/nowhere/"));
+  }
+  /// A source whose archive holds these bytes.
+  void addSource(const QString& description, const QByteArray& archive) {
+    addSource(description);
+    folder.writeFile(description + QStringLiteral(".zip"), archive);
+  }
+  /// A source that has been listed.
+  void addListedSource(const QString& description, const QByteArray& listing) {
+    addSource(description);
+    folder.writeFile(description + QStringLiteral(".txt"), listing);
+  }
+
+  TemporaryFolder folder;
+  ProgramState state;
+  RecordingMessageBoxes messages;
+};
+
+/// A real, small archive of a listing with this text in it.
+inline QByteArray smallArchive(const QByteArray& text = "a listing") {
+  const TemporaryFolder folder;
+  const QString listing = folder.writeFile(QStringLiteral("list.txt"), text);
+  packListing(listing, folder.pathOf(QStringLiteral("list.zip")), [] { return false; });
+  return folder.readFile(QStringLiteral("list.zip"));
+}
+
+/// Lets events run until `isDone`; false when that takes longer than `milliseconds`. Unlike QTest::qWaitFor
+/// it never sleeps while there are events, so that what is waited for has its usual speed.
+inline bool waitFor(const std::function<bool()>& isDone, int milliseconds = 5000) {
+  const QDeadlineTimer deadline(milliseconds);
+  QTimer wake;
+  wake.start(2);
+  while (!isDone()) {
+    if (deadline.hasExpired()) return false;
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+  return true;
+}
+
+/// A program that gets lists.
+struct GettingProgram : PeerProgram {
+  explicit GettingProgram(const PeerClientLimits& limits = {})
+      : timer(state, queue), client(state, queue, timer, QLocale::c(), limits) {
+    QObject::connect(&client, &PeerClient::ended, &client, [this](const PeerOutcome& it) { outcome = it; });
+  }
+
+  void start(quint16 port) { client.start({QStringLiteral("127.0.0.1"), port}); }
+  bool waitForEnd(int milliseconds = 10000) {
+    return waitFor([this] { return outcome.has_value(); }, milliseconds);
+  }
+  /// What was received under this name in the folder of the peer at `port`.
+  QString receivedName(const QString& file, quint16 port) const {
+    return QStringLiteral("Received/127.0.0.1_%1/").arg(port) + file;
+  }
+
+  PeerSendQueue queue;
+  PeerSendTimer timer;
+  PeerClient client;
+  std::optional<PeerOutcome> outcome;
+};
+
+}  // namespace quorvin::test

@@ -1,0 +1,154 @@
+// The send queue and its timer.
+#include "peers/messages/peer_send_queue.h"
+
+#include "faults/runtime_fault.h"
+#include "peers/messages/peer_send_timer.h"
+#include "peers/peer_program.h"
+
+#include <QElapsedTimer>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quorvin::test {
+
+namespace {
+
+TEST(PeerSendQueue, NothingIsAwaitedAtFirst) {
+  const PeerSendQueue queue;
+  EXPECT_EQ(queue.SendQueueCount(), 0);
+  EXPECT_EQ(queue.SendQueueHead(), 0);
+  EXPECT_TRUE(queue.isDrained());
+  EXPECT_FALSE(queue.isReplyAwaited());
+}
+
+TEST(PeerSendQueue, TheFirstEntryIsNumberOne) {
+  PeerSendQueue queue;
+  queue.append("hello");
+  EXPECT_EQ(queue.SendQueueCount(), 1);
+  EXPECT_EQ(queue.entry(1).Kind, QStringLiteral("sndstr"));
+  EXPECT_EQ(queue.entry(1).Payload, QByteArray("hello"));
+  EXPECT_EQ(queue.entry(1).State, 0);
+  EXPECT_EQ(queue.entry(0).Kind, QString());
+}
+
+TEST(PeerSendQueue, AnEntryThatWasTakenAwaitsItsReply) {
+  PeerSendQueue queue;
+  queue.append("hello");
+  EXPECT_EQ(queue.takeNext().Payload, QByteArray("hello"));
+  EXPECT_EQ(queue.SendQueueHead(), 1);
+  EXPECT_EQ(queue.entry(1).State, 2);
+  EXPECT_TRUE(queue.isReplyAwaited());
+  queue.replyArrived();
+  EXPECT_EQ(queue.entry(1).State, 0);
+  EXPECT_FALSE(queue.isReplyAwaited());
+}
+
+TEST(PeerSendQueue, TheMessageAfterTheThousandthIsAFault) {
+  PeerSendQueue queue;
+  for (int i = 0; i < 1000; ++i) queue.append("x");
+  try {
+    queue.append("y");
+    ADD_FAILURE() << "no fault";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.number(), 9);
+  }
+  EXPECT_EQ(queue.SendQueueCount(), 1000);
+  EXPECT_EQ(queue.entry(1000).Payload, QByteArray("x"));
+}
+
+TEST(PeerSendQueue, AnAbandonedQueueDoesNotBeginAnew) {
+  PeerSendQueue queue;
+  queue.append("a");
+  queue.append("b");
+  queue.append("c");
+  queue.takeNext();
+  queue.abandon();
+  EXPECT_EQ(queue.SendQueueCount(), 3);
+  EXPECT_EQ(queue.SendQueueHead(), 3);
+  EXPECT_FALSE(queue.isReplyAwaited());
+  EXPECT_TRUE(queue.isDrained());
+}
+
+class PeerSendTimerTest : public testing::Test {
+ protected:
+  PeerSendTimerTest() {
+    timer_.setSender([this](const QByteArray& payload) { sent_.push_back(payload); });
+    timer_.setQuit([this] { ++quits_; });
+  }
+
+  ProgramState state_;
+  PeerSendQueue queue_;
+  PeerSendTimer timer_{state_, queue_};
+  std::vector<QByteArray> sent_;
+  int quits_ = 0;
+};
+
+TEST_F(PeerSendTimerTest, IsOffAtFirst) {
+  EXPECT_FALSE(timer_.isEnabled());
+}
+
+TEST_F(PeerSendTimerTest, SendsAtTheFirstTickAndSwitchesItselfOff) {
+  queue_.append("a");
+  queue_.append("b");
+  QElapsedTimer clock;
+  clock.start();
+  timer_.enable();
+  ASSERT_TRUE(waitFor([this] { return !sent_.empty(); }));
+  EXPECT_GE(clock.elapsed(), 90);
+  EXPECT_FALSE(timer_.isEnabled());
+  QTest::qWait(250);
+  EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("a")));
+}
+
+TEST_F(PeerSendTimerTest, KeepsTickingWhileAReplyIsAwaited) {
+  queue_.append("a");
+  queue_.append("b");
+  queue_.takeNext();
+  timer_.enable();
+  QTest::qWait(250);
+  EXPECT_TRUE(timer_.isEnabled());
+  EXPECT_TRUE(sent_.empty());
+  queue_.replyArrived();
+  ASSERT_TRUE(waitFor([this] { return !sent_.empty(); }));
+  EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("b")));
+}
+
+TEST_F(PeerSendTimerTest, SwitchesItselfOffWhenTheQueueIsDrained) {
+  timer_.enable();
+  EXPECT_TRUE(waitFor([this] { return !timer_.isEnabled(); }, 1000));
+}
+
+TEST_F(PeerSendTimerTest, EnablingItAgainKeepsItsPace) {
+  queue_.append("a");
+  for (int i = 0; i < 20 && sent_.empty(); ++i) {
+    timer_.enable();
+    QTest::qWait(20);
+  }
+  EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("a")));
+}
+
+TEST_F(PeerSendTimerTest, AClosingProgramSendsNothingAndQuitsOnce) {
+  queue_.append("a");
+  state_.QuitPending = true;
+  timer_.enable();
+  ASSERT_TRUE(waitFor([this] { return quits_ > 0; }));
+  QTest::qWait(250);
+  EXPECT_EQ(quits_, 1);
+  EXPECT_FALSE(timer_.isEnabled());
+  EXPECT_TRUE(sent_.empty());
+}
+
+TEST_F(PeerSendTimerTest, QuittingWaitsForTheRefresh) {
+  state_.QuitPending = true;
+  state_.RescanRunning = true;
+  timer_.enable();
+  QTest::qWait(250);
+  EXPECT_EQ(quits_, 0);
+  EXPECT_TRUE(timer_.isEnabled());
+  state_.RescanRunning = false;
+  EXPECT_TRUE(waitFor([this] { return quits_ == 1; }, 1000));
+}
+
+}  // namespace
+
+}  // namespace quorvin::test

@@ -1,0 +1,79 @@
+// Getting the main data file out of its archive at start-up.
+#include "update/archive_data_file.h"
+
+#include "archive/archive_maker.h"
+#include "update/web_update_fixture.h"
+
+namespace quorvin::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DataFileExtractionTest : public testing::Test {
+ protected:
+  void extract(const QByteArray& archive) {
+    const QString path = data_.writeFile(u"main.zip"_qs, archive);
+    DataFileExtraction(state_, view_, boxes_).extractArchive(path, data_.path());
+  }
+
+  TemporaryFolder data_;
+  UpdateLog log_;
+  ProgramState state_;
+  LoggingUpdateView view_{log_};
+  RecordingMessageBoxes boxes_;
+};
+
+TEST_F(DataFileExtractionTest, ShowsTheWindowsAndUnpacksEverything) {
+  MadeEntry main;
+  main.name = "main.txt";
+  main.content = "content";
+  MadeEntry other = main;
+  other.name = "other/notes.txt";
+  extract(archiveOf({main, other}));
+  EXPECT_EQ(log_,
+            QStringList({u"main window"_qs, u"progress shown"_qs,
+                         u"status Decompressing Compressed Data File."_qs, u"maximum 100"_qs, u"bar 0"_qs,
+                         u"bar 0"_qs, u"bar 50"_qs, u"bar 100"_qs, u"progress unloaded"_qs}));
+  EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("content"));
+  EXPECT_EQ(data_.readFile(u"other/notes.txt"_qs), QByteArray("content"));
+  EXPECT_THAT(boxes_.informed, IsEmpty());
+}
+
+TEST_F(DataFileExtractionTest, DoesNotMindThatNoDataFileCameOut) {
+  extract(archiveOf("else.txt", "content"));
+  EXPECT_EQ(data_.names(), QStringList({u"else.txt"_qs, u"main.zip"_qs}));
+  EXPECT_THAT(boxes_.informed, IsEmpty());
+}
+
+TEST_F(DataFileExtractionTest, TellsWhatIsWrongWithTheArchiveAndFails) {
+  try {
+    extract("no archive");
+    ADD_FAILURE() << "nothing was wrong";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.number(), 75);
+    EXPECT_EQ(fault.description(),
+              u"Path/File access error: "_qs + data_.pathOf(u"main.zip"_qs) + u" could not be unpacked"_qs);
+  }
+  EXPECT_THAT(boxes_.informed, ElementsAre(u"Archive Error: \"main.zip\" is no zip archive, or its end is "
+                                           u"missing. Nothing was unpacked."_qs));
+  EXPECT_FALSE(view_.progressShown);
+}
+
+TEST_F(DataFileExtractionTest, FailsWhereAFileCannotBeWritten) {
+  data_.writeFile(u"main.txt/inside.txt"_qs, "mine");
+  EXPECT_THROW(extract(archiveOf("main.txt", "content")), RuntimeFault);
+  EXPECT_FALSE(view_.progressShown);
+  EXPECT_THAT(boxes_.informed, IsEmpty());
+}
+
+TEST_F(DataFileExtractionTest, IsEndedByTheUserWithoutAFault) {
+  view_.onEvents = [this] { state_.AbortRequested = true; };
+  extract(archiveOf("main.txt", QByteArray(1 << 20, 'x')));
+  EXPECT_EQ(data_.names(), QStringList{u"main.zip"_qs});
+  EXPECT_FALSE(state_.AbortRequested);
+  EXPECT_FALSE(view_.progressShown);
+}
+
+}  // namespace
+}  // namespace quorvin::test

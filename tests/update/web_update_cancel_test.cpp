@@ -1,0 +1,109 @@
+// Updates that the user ends, or that the closing of the window ends.
+#include "archive/archive_maker.h"
+#include "update/web_update_fixture.h"
+
+namespace quorvin::test {
+namespace {
+
+using testing::IsEmpty;
+
+const QString kDate = QStringLiteral("15 Nov 2004 10:20:30");
+
+class WebUpdateCancel : public WebUpdateTest {
+ protected:
+  WebUpdateCancel() {
+    haveArchive("the earlier archive", utc(2001, 1, 1, 0, 0));
+    serve(kDate, archiveOf("main.txt", "content") + QByteArray(5000, 'x'));
+    boxes_.answers = {true};
+  }
+
+  /// The user presses `CancelButton` while the events run for the `pass`th time.
+  void cancelInPass(int pass) {
+    view_.onEvents = [this, pass] {
+      state_.AbortRequested = state_.AbortRequested || view_.eventPasses == pass;
+    };
+  }
+
+  void expectCancelled() const {
+    EXPECT_FALSE(view_.webUpdateEnabled);
+    EXPECT_FALSE(view_.progressShown);
+    EXPECT_FALSE(state_.AbortRequested);
+    EXPECT_EQ(log_.mid(log_.size() - 2), QStringList({u"cancel"_qs, u"progress unloaded"_qs}));
+    EXPECT_EQ(data_.names(), QStringList());
+    EXPECT_THAT(boxes_.informed, IsEmpty());
+  }
+};
+
+TEST_F(WebUpdateCancel, DeletesThePartialArchiveAndLeavesTheCommandDisabled) {
+  cancelInPass(3);
+  click();
+  expectCancelled();
+  EXPECT_EQ(view_.eventPasses, 3);
+}
+
+TEST_F(WebUpdateCancel, ActsInTheVeryFirstPass) {
+  cancelInPass(1);
+  click();
+  expectCancelled();
+}
+
+TEST_F(WebUpdateCancel, ActsAfterTheLastChunkToo) {
+  cancelInPass(5);
+  click();
+  expectCancelled();
+}
+
+TEST_F(WebUpdateCancel, ActsWhileHeadersAreAwaited) {
+  web_.answers[1].pollsUntilHeaders = 1'000'000;
+  view_.onWait = [this] { state_.AbortRequested = view_.waits == 10; };
+  click();
+  expectCancelled();
+  EXPECT_EQ(view_.waits, 10);
+}
+
+TEST_F(WebUpdateCancel, ActsWhileTheFirstChunkIsAwaited) {
+  web_.answers[1].pollsUntilChunk = 1'000'000;
+  view_.onWait = [this] { state_.AbortRequested = view_.waits == 10; };
+  click();
+  expectCancelled();
+}
+
+TEST_F(WebUpdateCancel, OfTheUnpackingEndsItAndEnablesTheCommand) {
+  data_.writeFile(u"main.txt"_qs, "earlier");
+  serve(kDate, archiveOf("main.txt", QByteArray(1 << 20, 'x')));
+  view_.onEvents = [this] { state_.AbortRequested = log_.contains(u"status Decompressing..."_qs); };
+  click();
+  EXPECT_TRUE(view_.webUpdateEnabled);
+  EXPECT_FALSE(view_.progressShown);
+  EXPECT_FALSE(state_.AbortRequested);
+  EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("earlier"));
+  EXPECT_EQ(data_.names(), QStringList({u"main.txt"_qs, u"main.zip"_qs}));
+  EXPECT_THAT(boxes_.informed, IsEmpty());
+}
+
+TEST_F(WebUpdateCancel, ClosingTheWindowWhileHeadersAreAwaitedEndsQuietly) {
+  web_.answers[0].pollsUntilHeaders = 1'000'000;
+  view_.onWait = [this] { view_.closed = view_.waits == 10; };
+  click();
+  EXPECT_EQ(view_.waits, 10);
+  EXPECT_THAT(boxes_.informed, IsEmpty());
+  EXPECT_THAT(boxes_.asked, IsEmpty());
+  EXPECT_EQ(data_.readFile(u"main.zip"_qs), QByteArray("the earlier archive"));
+}
+
+TEST_F(WebUpdateCancel, ClosingTheWindowDuringTheDownloadCancelsIt) {
+  view_.onEvents = [this] {
+    state_.AbortRequested = true;
+    state_.QuitPending = true;
+    view_.closed = true;
+  };
+  click();
+  EXPECT_EQ(view_.eventPasses, 1);
+  EXPECT_EQ(data_.names(), QStringList());
+  EXPECT_THAT(boxes_.informed, IsEmpty());
+  // Others who have to stop must still find the request.
+  EXPECT_TRUE(state_.AbortRequested);
+}
+
+}  // namespace
+}  // namespace quorvin::test

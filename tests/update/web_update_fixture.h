@@ -1,0 +1,161 @@
+// An update with the window, the message boxes and the web server made up.
+#pragma once
+
+#include "faults/runtime_fault.h"
+#include "support/qt_printing.h"
+#include "support/recording_message_boxes.h"
+#include "support/temporary_folder.h"
+#include "update/web_update.h"
+
+#include <QDateTime>
+#include <QMap>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <optional>
+
+namespace quorvin::test {
+
+/// What is shown and asked for, in order: "WebUpdate off", "GET http://...", "status ...", "bar 1024".
+using UpdateLog = QStringList;
+
+class LoggingUpdateView : public WebUpdateView {
+ public:
+  explicit LoggingUpdateView(UpdateLog& log) : log_(log) {}
+
+  void showMainWindow() override { log_ += QStringLiteral("main window"); }
+  void showProgress() override {
+    progressShown = true;
+    log_ += QStringLiteral("progress shown");
+  }
+  void unloadProgress() override {
+    progressShown = false;
+    log_ += QStringLiteral("progress unloaded");
+  }
+  void setStatus(const QString& text) override { log_ += QStringLiteral("status ") + text; }
+  void setBarMaximum(std::int32_t maximum) override { log_ += QStringLiteral("maximum %1").arg(maximum); }
+  void setBar(std::int32_t value) override { log_ += QStringLiteral("bar %1").arg(value); }
+  void processEvents() override {
+    ++eventPasses;
+    if (onEvents) onEvents();
+  }
+  bool endRequested() const override { return closed; }
+  void setWebUpdateEnabled(bool enabled) override {
+    webUpdateEnabled = enabled;
+    log_ += enabled ? QStringLiteral("WebUpdate on") : QStringLiteral("WebUpdate off");
+  }
+  void setBusyPointer(bool busy) override { pointerIsBusy = busy; }
+  void waitForEvents() override {
+    ++waits;
+    if (onWait) onWait();
+  }
+  void leaveProgress() override { log_ += QStringLiteral("progress left"); }
+
+  bool webUpdateEnabled = true;
+  bool progressShown = false;
+  bool pointerIsBusy = false;
+  bool closed = false;
+  int eventPasses = 0;
+  int waits = 0;
+  /// What the user does while events run.
+  std::function<void()> onEvents;
+  std::function<void()> onWait;
+
+ private:
+  UpdateLog& log_;
+};
+
+/// An answer of the server.
+struct MadeAnswer {
+  QMap<QString, QString> headers;
+  QByteArray body;
+  /// How often it is still executing when asked, and how often a chunk is not there yet.
+  int pollsUntilHeaders = 0;
+  int pollsUntilChunk = 0;
+  /// Instead of headers.
+  std::optional<FaultNumber> failure;
+  /// Instead of the chunk that begins at this place.
+  std::optional<qsizetype> failsAt;
+};
+
+class MadeTransfer : public HttpTransfer {
+ public:
+  explicit MadeTransfer(UpdateLog& log) : log_(log) {}
+
+  void execute(const QUrl& address) override {
+    log_ += QStringLiteral("GET ") + address.toString(QUrl::FullyEncoded);
+    if (answers.empty()) throw std::logic_error("the test has no answer left");
+    answer_ = answers.front();
+    answers.pop_front();
+    place_ = 0;
+  }
+  bool stillExecuting() const override { return answer_.pollsUntilHeaders-- > 0; }
+  QString header(const QString& name) const override {
+    if (answer_.failure) throw RuntimeFault(*answer_.failure);
+    log_ += QStringLiteral("header ") + name;
+    return answer_.headers.value(name.chopped(1));
+  }
+  bool chunkIsReady(qsizetype) const override { return answer_.pollsUntilChunk-- <= 0; }
+  QByteArray chunk(qsizetype size) override {
+    if (answer_.failure) throw RuntimeFault(*answer_.failure);
+    if (answer_.failsAt == place_) throw RuntimeFault(FaultNumber::InputPastEnd);
+    const QByteArray bytes = answer_.body.mid(place_, size);
+    place_ += bytes.size();
+    chunkSizes.push_back(size);
+    return bytes;
+  }
+  void cancel() override { log_ += QStringLiteral("cancel"); }
+
+  std::deque<MadeAnswer> answers;
+  std::vector<qsizetype> chunkSizes;
+
+ private:
+  UpdateLog& log_;
+  mutable MadeAnswer answer_;
+  qsizetype place_ = 0;
+};
+
+class WebUpdateTest : public testing::Test {
+ protected:
+  WebUpdateTest() {
+    state_.LocalFolder = data_.path();
+    state_.WebServer = QStringLiteral("lists.example.org");
+    state_.ArchiveFile = QStringLiteral("main.zip");
+  }
+
+  /// The server has `body`, modified at `date` ("15 Nov 2004 10:20:30"), and sends it as often as asked.
+  void serve(const QString& date, const QByteArray& body) {
+    MadeAnswer answer;
+    answer.headers = {{QStringLiteral("Last-Modified"), QStringLiteral("Mon, %1 GMT").arg(date)},
+                      {QStringLiteral("Content-Length"), QString::number(body.size())}};
+    answer.body = body;
+    web_.answers = {answer, answer};
+  }
+
+  void click() { WebUpdate(state_, view_, boxes_, web_, QLocale::c()).WebUpdate_Click(); }
+
+  /// The archive of an earlier update, with the date of its file in UTC.
+  void haveArchive(const QByteArray& bytes, const QDateTime& modified) const {
+    QFile file(data_.writeFile(state_.ArchiveFile, bytes));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(modified, QFileDevice::FileModificationTime));
+  }
+
+  static QDateTime utc(int year, int month, int day, int hour, int minute, int second = 0) {
+    return {QDate(year, month, day), QTime(hour, minute, second), Qt::UTC};
+  }
+
+  bool wasOffered() const { return !boxes_.asked.empty(); }
+
+  TemporaryFolder data_;
+  UpdateLog log_;
+  ProgramState state_;
+  LoggingUpdateView view_{log_};
+  RecordingMessageBoxes boxes_;
+  MadeTransfer web_{log_};
+};
+
+}  // namespace quorvin::test
