@@ -167,7 +167,9 @@ TEST_F(PeerExchangeTest, UnpackingIsShownAndMayBeCancelled) {
   client_.unpacking.onEvents = [this] { client_.state.AbortRequested = true; };
   client_.getFrom(port);
   ASSERT_TRUE(waitFor([&] { return !client_.messages.informed.empty(); }, 10000));
-  EXPECT_EQ(client_.messages.informed[0], QStringLiteral("\"Long\": It was not unpacked to its end."));
+  EXPECT_EQ(client_.messages.informed[0],
+            QStringLiteral("1 list was left out, since unpacking was cancelled. "
+                           "The archives stay in the folder."));
   EXPECT_EQ(client_.unpacking.status, QStringLiteral("Unpacking Long.zip"));
   EXPECT_EQ(client_.unpacking.showings, 1);
   EXPECT_EQ(client_.unpacking.unloadings, 1);
