@@ -19,19 +19,32 @@ void require(bool holds) {
   if (!holds) std::abort();
 }
 
-class FileLog : public ArchiveEvents {
- public:
-  void archiveError(std::int32_t, const QString& description) override { require(!description.isEmpty()); }
-  void percentDone(double percentage) override { require(percentage >= 0 && percentage <= 100); }
-  void idleTick(std::int32_t) override {}
-  void fileNotice(const QString& name, std::int64_t bytes) override { files[name] = bytes; }
-  bool stopRequested() const override { return false; }
+using Sizes = std::map<QString, std::int64_t>;
 
-  std::map<QString, std::int64_t> files;
-};
+/// The files that the archive may put in place, with their sizes; none when it is not to be unpacked.
+Sizes plannedFiles(const QString& archivePath, const ArchiveLimits& limits) {
+  Sizes files;
+  try {
+    const ArchiveReader archive(archivePath, -1, limits.entries);
+    for (const PlannedEntry& planned : planOf(archive, limits).entries) {
+      if (planned.place.isFolder) continue;
+      files[planned.place.path.join(u'/')] = static_cast<std::int64_t>(planned.entry.size);
+    }
+  } catch (const ArchiveError&) {
+    return {};
+  }
+  return files;
+}
 
-std::map<QString, std::int64_t> filesBelow(const QString& folder) {
-  std::map<QString, std::int64_t> files;
+void requireOnly(const Sizes& planned, const Sizes& found) {
+  for (const auto& [name, size] : found) {
+    const auto wanted = planned.find(name);
+    require(wanted != planned.end() && wanted->second == size);
+  }
+}
+
+Sizes filesBelow(const QString& folder) {
+  Sizes files;
   QDirIterator all(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                    QDirIterator::Subdirectories);
   while (all.hasNext()) {
@@ -56,13 +69,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(QDir(folder.path()).mkdir(QStringLiteral("target")));
   ArchiveLimits limits;
   limits.bytes = 1 << 20;
-  FileLog log;
+  const QString target = folder.filePath(QStringLiteral("target/"));
+  const Sizes planned = plannedFiles(archivePath, limits);
+  const auto pause = [](int percent) {
+    require(percent >= 0 && percent <= 100);
+    return false;
+  };
   try {
-    unpackArchive(archivePath, folder.filePath(QStringLiteral("target/")), log, limits);
+    const UnpackingResult result = unpackArchive(archivePath, target, pause, limits);
+    require(result.error.isEmpty() == (result.outcome == UnpackingOutcome::Unpacked));
+    requireOnly(planned, filesBelow(target));
+    if (result.outcome == UnpackingOutcome::Unpacked) require(filesBelow(target).size() == planned.size());
   } catch (const RuntimeFault&) {
     // A name that no file can have here, or a folder in the way.
+    requireOnly(planned, filesBelow(target));
   }
-  require(filesBelow(folder.filePath(QStringLiteral("target"))) == log.files);
   require(QDir(folder.path())
               .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)
               .size() == 2);

@@ -2,27 +2,20 @@
 
 namespace quorvin {
 
-void ArchiveDisplay::tellError(MessageBoxes& boxes) const {
-  if (!error_.isEmpty()) boxes.inform(QStringLiteral("Archive Error: ") + error_);
+UnpackingResult unpackArchiveShownIn(ArchiveView& view, const ProgramState& state, const QString& archivePath,
+                                     const QString& targetFolder, std::int64_t archiveLength) {
+  int shownPercent = -1;
+  const auto pause = [&view, &state, &shownPercent](int percent) {
+    if (percent != shownPercent) view.setBar(percent);
+    shownPercent = percent;
+    view.processEvents();
+    return state.AbortRequested || state.QuitPending || view.endRequested();
+  };
+  return unpackArchive(archivePath, targetFolder, pause, {}, archiveLength);
 }
 
-void ArchiveDisplay::archiveError(std::int32_t, const QString& description) {
-  error_ = description;
-}
-
-void ArchiveDisplay::percentDone(double percentage) {
-  view_.setBar(static_cast<std::int32_t>(percentage));
-  view_.processEvents();
-}
-
-void ArchiveDisplay::idleTick(std::int32_t) {
-  view_.processEvents();
-}
-
-void ArchiveDisplay::fileNotice(const QString&, std::int64_t) {}
-
-bool ArchiveDisplay::stopRequested() const {
-  return state_.AbortRequested || state_.QuitPending || view_.endRequested();
+void showArchiveError(MessageBoxes& boxes, const UnpackingResult& result) {
+  if (!result.error.isEmpty()) boxes.inform(QStringLiteral("Archive Error: ") + result.error);
 }
 
 ShownUnpacking::ShownUnpacking(ProgramState& state, ArchiveView& view, const QString& status)

@@ -8,29 +8,13 @@
 
 namespace quorvin {
 
-/// Shows how far an unpacking is on the bar of `Progress`, and keeps what was wrong. The `CancelButton` ends
-/// the unpacking.
-class ArchiveDisplay : public ArchiveEvents {
- public:
-  /// Both must outlive the object.
-  ArchiveDisplay(const ProgramState& state, ArchiveView& view) : state_(state), view_(view) {}
+/// Unpacks as unpackArchive() does, with the progress on the bar of `Progress`. Its `CancelButton` and the
+/// closing of the program end the unpacking.
+UnpackingResult unpackArchiveShownIn(ArchiveView& view, const ProgramState& state, const QString& archivePath,
+                                     const QString& targetFolder, std::int64_t archiveLength = -1);
 
-  /// What the error event told; empty when there was none.
-  const QString& error() const { return error_; }
-  /// Tells it in a message box.
-  void tellError(MessageBoxes& boxes) const;
-
-  void archiveError(std::int32_t code, const QString& description) override;
-  void percentDone(double percentage) override;
-  void idleTick(std::int32_t number) override;
-  void fileNotice(const QString& name, std::int64_t bytes) override;
-  bool stopRequested() const override;
-
- private:
-  const ProgramState& state_;
-  ArchiveView& view_;
-  QString error_;
-};
+/// Shows the user in a message box what was wrong with the archive; nothing when nothing was.
+void showArchiveError(MessageBoxes& boxes, const UnpackingResult& result);
 
 /// `Progress` as long as an unpacking lasts: shown with its bar from 0 to 100, and taken away on every way
 /// out. A cancel request is dropped before and after, unless the program is closing.

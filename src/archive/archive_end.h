@@ -1,25 +1,25 @@
-// Where a zip archive ends, seen while its bytes arrive.
+// Where a zip archive ends, and what its end says.
 #pragma once
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QString>
 
 #include <cstdint>
 #include <optional>
 
 namespace quorvin {
 
-/// Watches the bytes of an archive, from its first one on, for its end record: the one whose central
-/// directory begins and ends where the record says, counted from the archive's own begin. An archive that
-/// lies unpacked inside another has its own begin, so its end record is not taken for the end of the outer
-/// one.
-class PeerArchiveEnd {
+/// Watches the bytes of an archive, from the first one on, for its end record: the one whose central
+/// directory starts and ends where the record says, counted from the start of the archive. An archive stored
+/// inside another starts elsewhere, so its end record is not mistaken for the end of the outer one.
+class ArchiveEnd {
  public:
-  /// Whether an archive can begin with these bytes; nothing while there are too few to tell.
-  static std::optional<bool> canBeginWith(QByteArrayView bytes);
+  /// Whether an archive can start with these bytes; nothing while there are too few to decide.
+  static std::optional<bool> canStartWith(QByteArrayView bytes);
 
-  /// Takes the next bytes. Gives how many of them still belong to the archive once its end has been seen
-  /// (0 to their count), nothing as long as it goes on. Not to be called after the end.
+  /// Takes the next bytes. Returns how many of them still belong to the archive once its end has been seen
+  /// (0 to their count), nothing while it goes on. Not to be called after the end.
   std::optional<qsizetype> feed(QByteArrayView bytes);
 
  private:
@@ -27,13 +27,18 @@ class PeerArchiveEnd {
   bool isEndRecord(qsizetype at) const;
   bool isEndOfLargeArchive(qsizetype at) const;
 
-  /// The bytes seen last, and the place of their first one in the archive.
+  /// The bytes seen last, and the place of the first of them in the archive.
   QByteArray window_;
   std::int64_t windowStart_ = 0;
-  /// Up to where the window has been searched.
+  /// How far the window has been searched.
   qsizetype searched_ = 0;
   /// The archive's length once its end record has been found; its comment may still be to come.
   std::optional<std::int64_t> length_;
 };
+
+/// The largest number of entries that any end record near the end of the first `length` bytes of the file at
+/// `path` announces; 0 when there is none. Opening an archive takes memory for each entry, so absurd numbers
+/// have to be known before. Throws RuntimeFault when the file cannot be read.
+std::uint64_t announcedEntries(const QString& path, std::int64_t length);
 
 }  // namespace quorvin

@@ -56,8 +56,11 @@ Archive openArchive(const QString& path, int flags) {
 /// has written something, which with a listing that packs well is seldom.
 class ListingReader {
  public:
-  ListingReader(const QString& path, const PackingPause& pause)
-      : file_(path), bytesLeft_(static_cast<std::size_t>(file_.sizeWhenOpened())), pause_(pause) {}
+  ListingReader(const QString& path, const ArchivePause& pause)
+      : file_(path),
+        size_(static_cast<std::size_t>(file_.sizeWhenOpened())),
+        bytesLeft_(size_),
+        pause_(pause) {}
 
   bool isStopped() const { return isStopped_; }
   const std::optional<RuntimeFault>& fault() const { return fault_; }
@@ -86,13 +89,18 @@ class ListingReader {
   /// No exception may pass through libzip, which is written in C.
   zip_int64_t read(std::span<char> buffer) {
     try {
-      isStopped_ = pause_();
+      isStopped_ = pause_(percentRead());
       if (!isStopped_) return static_cast<zip_int64_t>(readFile(buffer));
     } catch (const RuntimeFault& fault) {
       fault_ = fault;
     }
     zip_error_set(&error_, ZIP_ER_READ, 0);
     return -1;
+  }
+
+  int percentRead() const {
+    constexpr std::size_t kFull = 100;
+    return size_ == 0 ? 0 : static_cast<int>((size_ - bytesLeft_) * kFull / size_);
   }
 
   /// Not beyond the length that was announced.
@@ -107,14 +115,15 @@ class ListingReader {
   zip_int64_t stat(zip_stat_t* status) const {
     zip_stat_init(status);
     status->mtime = std::time(nullptr);
-    status->size = static_cast<zip_uint64_t>(file_.sizeWhenOpened());
+    status->size = size_;
     status->valid = ZIP_STAT_MTIME | ZIP_STAT_SIZE;
     return static_cast<zip_int64_t>(sizeof *status);
   }
 
   SequentialFile file_;
+  std::size_t size_;
   std::size_t bytesLeft_;
-  const PackingPause& pause_;
+  const ArchivePause& pause_;
   zip_error_t error_{};
   bool isStopped_ = false;
   std::optional<RuntimeFault> fault_;
@@ -151,7 +160,7 @@ QTemporaryDir workFolderBeside(const QString& path) {
 }  // namespace
 
 PackingOutcome packListing(const QString& listingPath, const QString& archivePath,
-                           const PackingPause& pause) {
+                           const ArchivePause& pause) {
   ListingReader listing(listingPath, pause);
   const QTemporaryDir work = workFolderBeside(archivePath);
   if (!work.isValid()) {

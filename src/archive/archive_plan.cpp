@@ -1,20 +1,25 @@
 #include "archive/archive_plan.h"
 
-#include "archive/archive_error.h"
-
+#include <QFile>
 #include <QHash>
 #include <QLocale>
+
+#include <algorithm>
 
 namespace quorvin {
 namespace {
 
-// The file types of Unix, which archives carry whatever system they are read on.
+// The file types of Unix, which archives carry on whatever system they are read.
 constexpr std::uint32_t kTypeBits = 0170000;
 constexpr std::uint32_t kRegularFile = 0100000;
 constexpr std::uint32_t kFolder = 0040000;
 constexpr std::uint32_t kLink = 0120000;
 
-/// What each entry takes at least beside its packed bytes: a header before them and a line in the directory.
+// How deep an entry may lie, and how many bytes each of its names may take in the file system.
+constexpr qsizetype kMostArchiveFolders = 64;
+constexpr qsizetype kMostNameBytes = 255;
+
+// What each entry takes at least besides its packed bytes: a header before them and a line in the directory.
 constexpr std::uint64_t kBytesAroundEntry = 30 + 46;
 
 [[noreturn]] void refuse(ArchiveErrorCode code, const QString& text) {
@@ -23,6 +28,63 @@ constexpr std::uint64_t kBytesAroundEntry = 30 + 46;
 
 [[noreturn]] void refuseEntry(ArchiveErrorCode code, const QString& text, const QString& name) {
   refuse(code, text.arg(shownEntryName(name)));
+}
+
+bool isControl(QChar character) {
+  switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool hasDrive(QStringView name) {
+  return name.size() >= 2 && name[1] == u':' && name[0].unicode() < 128 && name[0].isLetter();
+}
+
+[[noreturn]] void refuseName(const QString& name, const QString& why) {
+  refuse(ArchiveErrorCode::BadName,
+         QStringLiteral("The archive has an entry whose name %1: \"%2\".").arg(why, shownEntryName(name)));
+}
+
+void checkWhole(const QString& name, QStringView separated) {
+  if (name.isEmpty()) refuseName(name, QStringLiteral("is empty"));
+  if (std::any_of(name.begin(), name.end(), isControl)) {
+    refuseName(name, QStringLiteral("holds control characters"));
+  }
+  if (separated.startsWith(u'/')) refuseName(name, QStringLiteral("is an absolute path"));
+}
+
+void checkPart(const QString& name, const QString& part) {
+  if (part == QStringLiteral("..")) refuseName(name, QStringLiteral("leads out of the folder"));
+  if (hasDrive(part)) refuseName(name, QStringLiteral("has a drive"));
+  if (QFile::encodeName(part).size() > kMostNameBytes) refuseName(name, QStringLiteral("is too long"));
+}
+
+// The place that the entry name `name` stands for. Both "/" and "\" separate names, since programs differ;
+// names that are empty or "." are skipped.
+ArchivePlace archivePlaceOf(const QString& name) {
+  QString separated = name;
+  separated.replace(u'\\', u'/');
+  checkWhole(name, separated);
+  ArchivePlace place;
+  place.isFolder = separated.endsWith(u'/') || separated.endsWith(QStringLiteral("/.")) ||
+                   separated == QStringLiteral(".");
+  for (const QString& part : separated.split(u'/', Qt::SkipEmptyParts)) {
+    if (part == QStringLiteral(".")) continue;
+    checkPart(name, part);
+    place.path += part;
+  }
+  if (place.path.size() > kMostArchiveFolders + 1) {
+    refuse(ArchiveErrorCode::TooDeep,
+           QStringLiteral("The archive has an entry that lies more than %1 folders deep: \"%2\".")
+               .arg(kMostArchiveFolders)
+               .arg(shownEntryName(name)));
+  }
+  return place;
 }
 
 void checkKind(const ArchiveEntry& entry, ArchivePlace& place) {

@@ -1,8 +1,9 @@
-// Deciding what of an archive is unpacked, before anything is.
+// Deciding what of an archive is unpacked, and where to, before anything is.
 #pragma once
 
-#include "archive/archive_name.h"
 #include "archive/archive_reader.h"
+
+#include <QStringList>
 
 #include <cstdint>
 #include <vector>
@@ -11,10 +12,18 @@ namespace quorvin {
 
 /// How much an archive may ask for.
 struct ArchiveLimits {
-  /// Entries, and the folders that these only imply.
+  /// Entries, including the folders that these only imply.
   std::uint64_t entries = 50'000;
   /// Bytes of all files together, unpacked.
   std::uint64_t bytes = std::uint64_t{4} << 30;
+};
+
+/// The place of an entry below the target folder.
+struct ArchivePlace {
+  /// The names of the folders and, last, of the file; none is empty, "." or "..".
+  QStringList path;
+  /// The entry stands for a folder.
+  bool isFolder = false;
 };
 
 /// An entry that may be unpacked, and its place.
@@ -29,10 +38,12 @@ struct ArchivePlan {
   std::uint64_t bytes = 0;
 };
 
-/// Looks at every entry of `archive`. Throws ArchiveError when one of them is
-/// not to be unpacked: for its name, because it is no regular file or folder, because it is encrypted or
-/// packed by an unknown method, because two have the same place, because they share packed bytes, or because
-/// there are more of them, of their folders, or of their bytes, than `limits` allow.
+/// Looks at every entry of `archive`. Throws ArchiveError when one of them must not be unpacked:
+/// - its name leads or might lead out of the folder (an absolute path, a drive, ".."), holds control
+///   characters, is too long (255 bytes) or lies too deep (64 folders),
+/// - it is no regular file or folder, is encrypted or packed by an unknown method,
+/// - two entries have the same place or share packed bytes,
+/// - there are more entries, folders or bytes than `limits` allow.
 ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits);
 
 }  // namespace quorvin

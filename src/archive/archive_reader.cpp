@@ -1,18 +1,22 @@
 #include "archive/archive_reader.h"
 
-#include "archive/archive_error.h"
+#include "archive/archive_end.h"
 #include "faults/runtime_fault.h"
+#include "files/random_access_file.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <zip.h>
 
 namespace quorvin {
 namespace {
+
+constexpr std::int64_t kBlockSize = std::int64_t{1} << 16;
 
 QString fileNameOf(const QString& path) {
   return shownEntryName(QFileInfo(path).fileName());
@@ -63,8 +67,31 @@ void checkAnnounced(const QString& path, std::int64_t length, std::uint64_t most
                          .arg(mostEntries));
 }
 
-// Behind an archive that was written over a longer one stands the rest of that, with an end record of its own
-// that fits nothing any more.
+// The length of the archive at the front of the file, when it ends before `length`: a shorter archive that
+// was written over a longer one. The whole file may have to be read.
+std::optional<std::int64_t> lengthOfArchiveAtFront(const QString& path, std::int64_t length,
+                                                   const ArchivePause& pause) {
+  const RandomAccessFile file(path);
+  ArchiveEnd end;
+  for (std::int64_t position = 0; position < length; position += kBlockSize) {
+    QByteArray block(static_cast<qsizetype>(std::min(kBlockSize, length - position)), Qt::Uninitialized);
+    file.read(position,
+              std::as_writable_bytes(std::span(block.data(), static_cast<std::size_t>(block.size()))));
+    if (position == 0 && ArchiveEnd::canStartWith(block) != true) return std::nullopt;
+    const std::optional<qsizetype> last = end.feed(block);
+    if (!last) {
+      if (pause && pause(0)) throw ArchiveStopped();
+      continue;
+    }
+    const std::int64_t found = position + *last;
+    if (found < length) return found;
+    return std::nullopt;
+  }
+  return std::nullopt;
+}
+
+// An archive that was written over a longer one is followed by the rest of that, with an end record of its
+// own that no longer fits anything.
 zip* openArchive(const QString& path, std::int64_t length, std::uint64_t mostEntries,
                  const ArchivePause& pause) {
   checkAnnounced(path, length, mostEntries);
@@ -111,6 +138,17 @@ QString textOfReadError(int code) {
 
 }  // namespace
 
+QString shownEntryName(const QString& name) {
+  constexpr qsizetype kMostShown = 120;
+  constexpr qsizetype kEndShown = 40;
+  QString shown = name;
+  for (QChar& character : shown) {
+    if (!character.isPrint() && !character.isSurrogate()) character = u'?';
+  }
+  if (shown.size() <= kMostShown) return shown;
+  return shown.left(kMostShown - kEndShown) + QStringLiteral("...") + shown.right(kEndShown);
+}
+
 ArchiveReader::ArchiveReader(const QString& path, std::int64_t length, std::uint64_t mostEntries,
                              const ArchivePause& pause) {
   const QFileInfo file(path);
@@ -143,7 +181,7 @@ ArchiveEntry ArchiveReader::entry(std::uint64_t index) const {
   if (!isKnown) {
     throw ArchiveError(
         ArchiveErrorCode::Contradictory,
-        QStringLiteral("The archive is damaged: it does not tell what its entry %1 is. Nothing was unpacked.")
+        QStringLiteral("The archive is damaged: it does not say what its entry %1 is. Nothing was unpacked.")
             .arg(index + 1));
   }
   ArchiveEntry entry{index, nameOfEntry(archive_, index, status.name), status.size, status.comp_size};

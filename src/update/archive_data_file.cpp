@@ -1,7 +1,6 @@
 #include "update/archive_data_file.h"
 
 #include "archive/archive_display.h"
-#include "archive/archive_unpacking.h"
 #include "faults/runtime_fault.h"
 
 namespace quorvin {
@@ -12,10 +11,9 @@ DataFileExtraction::DataFileExtraction(ProgramState& state, ArchiveView& view, M
 void DataFileExtraction::extractArchive(const QString& archivePath, const QString& targetFolder) {
   view_.showMainWindow();
   const ShownUnpacking shown(state_, view_, QStringLiteral("Decompressing Compressed Data File."));
-  ArchiveDisplay display(state_, view_);
-  const UnpackingOutcome outcome = unpackArchive(archivePath, targetFolder, display);
-  display.tellError(boxes_);
-  if (outcome != UnpackingOutcome::Failed) return;
+  const UnpackingResult result = unpackArchiveShownIn(view_, state_, archivePath, targetFolder);
+  showArchiveError(boxes_, result);
+  if (result.outcome != UnpackingOutcome::Failed) return;
   throw RuntimeFault(FaultNumber::PathFileAccess, describe(FaultNumber::PathFileAccess) +
                                                       QStringLiteral(": ") + archivePath +
                                                       QStringLiteral(" could not be unpacked"));

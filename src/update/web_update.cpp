@@ -1,7 +1,6 @@
 #include "update/web_update.h"
 
 #include "archive/archive_display.h"
-#include "archive/archive_unpacking.h"
 #include "dates/day_and_second.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
@@ -170,9 +169,7 @@ void WebUpdate::unpack() {
   view_.setBarMaximum(kFullBar);
   view_.setBar(0);
   view_.setStatus(QStringLiteral("Decompressing..."));
-  ArchiveDisplay display(state_, view_);
-  unpackArchive(archivePath(), localFolder_, display, {}, archiveLength_);
-  display.tellError(boxes_);
+  showArchiveError(boxes_, unpackArchiveShownIn(view_, state_, archivePath(), localFolder_, archiveLength_));
   if (!isClosing()) state_.AbortRequested = false;
 }
 

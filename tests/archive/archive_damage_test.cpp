@@ -42,8 +42,8 @@ TEST_F(ArchiveDamage, CutAtAnyByteIsRefusedWithAMessage) {
     const QByteArray whole = goodArchive(isLarge);
     for (qsizetype length = 0; length < whole.size(); ++length) {
       ASSERT_EQ(unpack(whole.first(length)), UnpackingOutcome::Failed) << length;
-      ASSERT_EQ(events_.descriptions.size(), 1);
-      ASSERT_TRUE(events_.descriptions[0].endsWith(u" Nothing was unpacked."_qs));
+      ASSERT_EQ(record_.descriptions.size(), 1);
+      ASSERT_TRUE(record_.descriptions[0].endsWith(u" Nothing was unpacked."_qs));
       ASSERT_EQ(tree(), (Tree{{u"a.txt"_qs, "earlier"}}));
     }
     EXPECT_EQ(unpack(whole), UnpackingOutcome::Unpacked);

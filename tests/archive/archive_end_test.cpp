@@ -1,7 +1,7 @@
 // Where an archive ends.
 #include "archive/archive_end.h"
 
-#include "peers/peer_program.h"
+#include "archive/archive_maker.h"
 
 #include <QtEndian>
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ namespace {
 
 /// How many bytes belong to the archive when they come in pieces of `piece`; -1 when the end was not seen.
 qsizetype endIn(const QByteArray& bytes, qsizetype piece) {
-  PeerArchiveEnd end;
+  ArchiveEnd end;
   for (qsizetype at = 0; at < bytes.size(); at += piece) {
     const QByteArray part = bytes.mid(at, piece);
     const std::optional<qsizetype> taken = end.feed(part);
@@ -48,15 +48,15 @@ QByteArray stored(const QByteArray& content, const QByteArray& comment = {}) {
          endRecord(static_cast<quint32>(local.size()), static_cast<quint32>(directory.size()), 1, comment);
 }
 
-TEST(PeerArchiveEnd, IsSeenHoweverTheBytesCome) {
-  const QByteArray archive = smallArchive();
+TEST(ArchiveEnd, IsSeenHoweverTheBytesCome) {
+  const QByteArray archive = archiveOf("list.txt", "a listing");
   const QByteArray more = archive + "List: next.zip" + archive;
   for (qsizetype piece = 1; piece <= more.size(); ++piece) {
     EXPECT_EQ(endIn(more, piece), archive.size()) << piece;
   }
 }
 
-TEST(PeerArchiveEnd, TheCommentBelongsToTheArchive) {
+TEST(ArchiveEnd, TheCommentBelongsToTheArchive) {
   const QByteArray archive = stored("some text", "a comment");
   EXPECT_EQ(endIn(archive + "x", archive.size() + 1), archive.size());
   for (qsizetype piece = 1; piece <= archive.size(); ++piece)
@@ -64,18 +64,18 @@ TEST(PeerArchiveEnd, TheCommentBelongsToTheArchive) {
   EXPECT_EQ(endIn(archive.chopped(1), 7), -1);
 }
 
-TEST(PeerArchiveEnd, AnArchiveWithoutEntriesIsItsEndRecord) {
+TEST(ArchiveEnd, AnArchiveWithoutEntriesIsItsEndRecord) {
   EXPECT_EQ(endIn(endRecord(0, 0, 0) + "List: x.zip", 5), 22);
 }
 
-TEST(PeerArchiveEnd, AnArchiveInsideAnotherIsNotItsEnd) {
+TEST(ArchiveEnd, AnArchiveInsideAnotherIsNotItsEnd) {
   const QByteArray inner = stored("some text");
   const QByteArray outer = stored(inner + inner);
   EXPECT_EQ(endIn(outer, 3), outer.size());
   EXPECT_EQ(endIn(stored(outer), 1000), stored(outer).size());
 }
 
-TEST(PeerArchiveEnd, AnEndRecordThatPointsElsewhereIsNone) {
+TEST(ArchiveEnd, AnEndRecordThatPointsElsewhereIsNone) {
   EXPECT_EQ(endIn("PK\x03\x04" + endRecord(1, 4, 0), 100), -1);
   EXPECT_EQ(endIn("PK\x03\x04" + endRecord(0xFFFFFFFF, 5, 0), 100), -1);
   EXPECT_EQ(endIn("PK\x03\x04" + endRecord(0, 4, 1), 100), -1);
@@ -91,7 +91,7 @@ QByteArray largeEnd(quint64 offset, quint64 size, quint64 recordPlace) {
   return record + locator + endRecord(0xFFFFFFFF, 0xFFFFFFFF, 0xFFFF);
 }
 
-TEST(PeerArchiveEnd, ALargeArchiveIsKnownByItsLargeRecord) {
+TEST(ArchiveEnd, ALargeArchiveIsKnownByItsLargeRecord) {
   const QByteArray start = "PK\x03\x04" + QByteArray(200, 'x');
   const QByteArray archive = start + largeEnd(104, 100, 204);
   for (const qsizetype piece : {1, 2, 3, 7, 50, 1000}) {
@@ -99,7 +99,7 @@ TEST(PeerArchiveEnd, ALargeArchiveIsKnownByItsLargeRecord) {
   }
 }
 
-TEST(PeerArchiveEnd, ALargeRecordThatPointsElsewhereIsNone) {
+TEST(ArchiveEnd, ALargeRecordThatPointsElsewhereIsNone) {
   const QByteArray start = "PK\x03\x04" + QByteArray(200, 'x');
   EXPECT_EQ(endIn(start + largeEnd(105, 100, 204), 1000), -1);
   EXPECT_EQ(endIn(start + largeEnd(104, 100, 203), 1000), -1);
@@ -107,12 +107,12 @@ TEST(PeerArchiveEnd, ALargeRecordThatPointsElsewhereIsNone) {
   EXPECT_EQ(endIn(start + largeEnd(0xFFFFFFFFFFFFFFF0U, 0x10000000000000DCU, 204), 1000), -1);
 }
 
-TEST(PeerArchiveEnd, KnowsWhatAnArchiveBeginsWith) {
-  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK\x03\x04..."), true);
-  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK\x05\x06"), true);
-  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK"), std::nullopt);
-  EXPECT_EQ(PeerArchiveEnd::canBeginWith("PK\x03x"), false);
-  EXPECT_EQ(PeerArchiveEnd::canBeginWith("List: "), false);
+TEST(ArchiveEnd, KnowsWhatAnArchiveStartsWith) {
+  EXPECT_EQ(ArchiveEnd::canStartWith("PK\x03\x04..."), true);
+  EXPECT_EQ(ArchiveEnd::canStartWith("PK\x05\x06"), true);
+  EXPECT_EQ(ArchiveEnd::canStartWith("PK"), std::nullopt);
+  EXPECT_EQ(ArchiveEnd::canStartWith("PK\x03x"), false);
+  EXPECT_EQ(ArchiveEnd::canStartWith("List: "), false);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // Unpacking made archives into a folder of the test's own, which stands in another that must stay as it is.
 #pragma once
 
-#include "archive/archive_error.h"
 #include "archive/archive_maker.h"
 #include "archive/archive_unpacking.h"
 #include "support/qt_printing.h"
@@ -17,29 +16,24 @@
 
 namespace quorvin::test {
 
-class RecordingArchiveEvents : public ArchiveEvents {
- public:
-  void archiveError(std::int32_t code, const QString& description) override {
-    codes.push_back(static_cast<ArchiveErrorCode>(code));
-    descriptions += description;
+/// Keeps what an unpacking reports, and stops it when asked to.
+struct RecordedUnpacking {
+  ArchivePause pause() {
+    return [this](int percent) {
+      if (percentages.empty() || percentages.back() != percent) percentages.push_back(percent);
+      ++pauses;
+      if (onPause) onPause();
+      return stops;
+    };
   }
-  void percentDone(double percentage) override { percentages.push_back(percentage); }
-  void idleTick(std::int32_t number) override {
-    ticks = number;
-    if (onTick) onTick();
-  }
-  void fileNotice(const QString& name, std::int64_t bytes) override {
-    notices += QStringLiteral("%1 %2").arg(name).arg(bytes);
-  }
-  bool stopRequested() const override { return stops; }
 
+  /// Each percentage once.
+  std::vector<int> percentages;
+  int pauses = 0;
   std::vector<ArchiveErrorCode> codes;
   QStringList descriptions;
-  std::vector<double> percentages;
-  std::int32_t ticks = 0;
-  QStringList notices;
   bool stops = false;
-  std::function<void()> onTick;
+  std::function<void()> onPause;
 };
 
 /// Every file and link below `folder`, hidden ones too, with its content; folders end in "/".
@@ -65,24 +59,33 @@ class ArchiveTest : public testing::Test {
   using Tree = std::map<QString, QByteArray>;
 
   UnpackingOutcome unpack(const QByteArray& archive, const ArchiveLimits& limits = {}) {
-    events_ = {};
     archivePath_ = outer_.writeFile(QStringLiteral("lists.zip"), archive);
-    return unpackArchive(archivePath_, target_, events_, limits);
+    record_ = {};
+    return unpackFile(archivePath_, target_, limits);
   }
 
   UnpackingOutcome unpack(const std::vector<MadeEntry>& entries, const ArchiveLimits& limits = {}) {
     return unpack(archiveOf(entries), limits);
   }
 
+  UnpackingOutcome unpackFile(const QString& archivePath, const QString& target,
+                              const ArchiveLimits& limits = {}, std::int64_t length = -1) {
+    const UnpackingResult result = unpackArchive(archivePath, target, record_.pause(), limits, length);
+    if (result.outcome == UnpackingOutcome::Failed) {
+      record_.codes.push_back(result.errorCode);
+      record_.descriptions += result.error;
+    }
+    return result.outcome;
+  }
+
   /// Unpacks what must be refused before anything is written, and gives the message.
   QString refusalOf(const QByteArray& archive, ArchiveErrorCode code, const ArchiveLimits& limits = {}) {
     const Tree before = treeOf(target_);
     EXPECT_EQ(unpack(archive, limits), UnpackingOutcome::Failed);
-    EXPECT_THAT(events_.codes, testing::ElementsAre(code));
+    EXPECT_THAT(record_.codes, testing::ElementsAre(code));
     EXPECT_EQ(treeOf(target_), before);
     EXPECT_THAT(outer_.names(), testing::UnorderedElementsAre(u"lists.zip"_qs, u"target"_qs));
-    EXPECT_EQ(events_.notices, QStringList());
-    return events_.descriptions.join(u'|');
+    return record_.descriptions.join(u'|');
   }
   QString refusalOf(const std::vector<MadeEntry>& entries, ArchiveErrorCode code,
                     const ArchiveLimits& limits = {}) {
@@ -94,7 +97,7 @@ class ArchiveTest : public testing::Test {
   TemporaryFolder outer_;
   QString target_ = outer_.makeFolder(QStringLiteral("target"));
   QString archivePath_;
-  RecordingArchiveEvents events_;
+  RecordedUnpacking record_;
 };
 
 }  // namespace quorvin::test

@@ -37,8 +37,7 @@ TEST_F(ArchiveUnpacking, PutsEveryFileAndFolderIntoTheTarget) {
                           {u"sub/"_qs, ""},
                           {u"sub/deep/"_qs, ""},
                           {u"sub/deep/b.txt"_qs, "bb"}}));
-  EXPECT_EQ(events_.notices, QStringList({u"a.txt 3"_qs, u"sub/deep/b.txt 2"_qs}));
-  EXPECT_THAT(events_.codes, IsEmpty());
+  EXPECT_THAT(record_.codes, IsEmpty());
 }
 
 TEST_F(ArchiveUnpacking, TakesAnArchiveWithoutEntries) {
@@ -49,7 +48,7 @@ TEST_F(ArchiveUnpacking, TakesAnArchiveWithoutEntries) {
 TEST_F(ArchiveUnpacking, TakesFilesWithoutContent) {
   EXPECT_EQ(unpack({file("a.txt", "")}), UnpackingOutcome::Unpacked);
   EXPECT_EQ(tree(), (Tree{{u"a.txt"_qs, ""}}));
-  EXPECT_THAT(events_.percentages, ElementsAre(0, 100));
+  EXPECT_THAT(record_.percentages, ElementsAre(0, 100));
 }
 
 TEST_F(ArchiveUnpacking, ReplacesFilesOfTheSameNameAndLeavesOthers) {
@@ -111,7 +110,7 @@ TEST_F(ArchiveUnpacking, OfAFullDiskLeavesTheEarlierFileAndNothingElse) {
   const rlimit small{100'000, limit.rlim_max};
   ::setrlimit(RLIMIT_FSIZE, &small);
   try {
-    unpackArchive(archivePath_, target_, events_);
+    unpackFile(archivePath_, target_);
     ADD_FAILURE() << "the disk was not full";
   } catch (const RuntimeFault& fault) {
     EXPECT_EQ(fault.number(), 61);
@@ -124,7 +123,7 @@ TEST_F(ArchiveUnpacking, OfAFullDiskLeavesTheEarlierFileAndNothingElse) {
 TEST_F(ArchiveUnpacking, OfAMissingTargetIsAFault) {
   const QString archive = outer_.writeFile(u"lists.zip"_qs, archiveOf("a.txt", "a"));
   try {
-    unpackArchive(archive, outer_.pathOf(u"nowhere/"_qs), events_);
+    unpackFile(archive, outer_.pathOf(u"nowhere/"_qs));
     ADD_FAILURE() << "the folder was found";
   } catch (const RuntimeFault& fault) {
     EXPECT_EQ(fault.number(), 53);
@@ -132,45 +131,46 @@ TEST_F(ArchiveUnpacking, OfAMissingTargetIsAFault) {
 }
 
 TEST_F(ArchiveUnpacking, OfAMissingArchiveIsAnError) {
-  EXPECT_EQ(unpackArchive(outer_.pathOf(u"none.zip"_qs), target_, events_), UnpackingOutcome::Failed);
-  EXPECT_EQ(events_.descriptions,
+  EXPECT_EQ(unpackFile(outer_.pathOf(u"none.zip"_qs), target_), UnpackingOutcome::Failed);
+  EXPECT_EQ(record_.descriptions,
             QStringList{u"The archive \"none.zip\" cannot be read. Nothing was unpacked."_qs});
 }
 
-TEST_F(ArchiveUnpacking, TellsThePercentageOnceEach) {
+TEST_F(ArchiveUnpacking, ReportsEachPercentage) {
   EXPECT_EQ(unpack({file("a.txt", QByteArray(10 << 20, 'a')), file("b.txt", QByteArray(10 << 20, 'b'))}),
             UnpackingOutcome::Unpacked);
-  EXPECT_EQ(events_.percentages.front(), 0);
-  EXPECT_EQ(events_.percentages.back(), 100);
-  EXPECT_GT(events_.percentages.size(), 90U);
-  EXPECT_TRUE(std::is_sorted(events_.percentages.begin(), events_.percentages.end()));
-  // Every 64 KiB.
-  EXPECT_EQ(events_.ticks, 320);
+  EXPECT_EQ(record_.percentages.front(), 0);
+  EXPECT_EQ(record_.percentages.back(), 100);
+  EXPECT_GT(record_.percentages.size(), 90U);
+  EXPECT_TRUE(std::is_sorted(record_.percentages.begin(), record_.percentages.end()));
+  // Every 64 KiB, and at the start and the end.
+  EXPECT_EQ(record_.pauses, 320 + 2);
 }
 
-TEST_F(ArchiveUnpacking, TicksAmongManySmallFiles) {
+TEST_F(ArchiveUnpacking, PausesAmongManySmallFiles) {
   std::vector<MadeEntry> entries;
   for (int i = 0; i < 2000; ++i) entries.push_back(file("f" + QByteArray::number(i), ""));
   EXPECT_EQ(unpack(entries), UnpackingOutcome::Unpacked);
   EXPECT_EQ(tree().size(), 2000U);
-  EXPECT_EQ(events_.ticks, 125);
+  // Every 16 entries, and at the start and the end.
+  EXPECT_EQ(record_.pauses, 125 + 2);
 }
 
 TEST_F(ArchiveUnpacking, StopsWhenAsked) {
   outer_.writeFile(u"target/b.txt"_qs, "old");
   archivePath_ = outer_.writeFile(u"lists.zip"_qs,
                                   archiveOf({file("a.txt", "aaa"), file("b.txt", QByteArray(1 << 20, 'b'))}));
-  events_.onTick = [this] { events_.stops = events_.ticks == 4; };
-  EXPECT_EQ(unpackArchive(archivePath_, target_, events_), UnpackingOutcome::Stopped);
-  EXPECT_EQ(events_.ticks, 4);
+  record_.onPause = [this] { record_.stops = record_.pauses == 4; };
+  EXPECT_EQ(unpackFile(archivePath_, target_), UnpackingOutcome::Stopped);
+  EXPECT_EQ(record_.pauses, 4);
   EXPECT_EQ(tree(), (Tree{{u"a.txt"_qs, "aaa"}, {u"b.txt"_qs, "old"}}));
-  EXPECT_THAT(events_.codes, IsEmpty());
+  EXPECT_THAT(record_.codes, IsEmpty());
 }
 
 TEST_F(ArchiveUnpacking, ReplacesTheArchiveItselfWhenItHoldsOneOfThatName) {
   const QByteArray archive = archiveOf({file("lists.zip", "inner"), file("z.txt", "zz")});
   const QString path = outer_.writeFile(u"target/lists.zip"_qs, archive);
-  EXPECT_EQ(unpackArchive(path, target_, events_), UnpackingOutcome::Unpacked);
+  EXPECT_EQ(unpackFile(path, target_), UnpackingOutcome::Unpacked);
   EXPECT_EQ(tree(), (Tree{{u"lists.zip"_qs, "inner"}, {u"z.txt"_qs, "zz"}}));
 }
 
@@ -205,7 +205,7 @@ TEST_F(ArchiveUnpacking, TakesOnlyAsMuchOfTheFileAsItIsTold) {
   const QByteArray earlier = archiveOf({file("a.txt", "same"), file("b.txt", "stale content")});
   const QByteArray bytes = later + earlier.sliced(later.size());
   const QString path = outer_.writeFile(u"lists.zip"_qs, bytes);
-  EXPECT_EQ(unpackArchive(path, target_, events_, {}, later.size()), UnpackingOutcome::Unpacked);
+  EXPECT_EQ(unpackFile(path, target_, {}, later.size()), UnpackingOutcome::Unpacked);
   EXPECT_EQ(tree(), (Tree{{u"a.txt"_qs, "same"}}));
 }
 

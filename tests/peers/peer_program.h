@@ -51,7 +51,7 @@ struct PeerProgram {
 inline QByteArray smallArchive(const QByteArray& text = "a listing") {
   const TemporaryFolder folder;
   const QString listing = folder.writeFile(QStringLiteral("list.txt"), text);
-  packListing(listing, folder.pathOf(QStringLiteral("list.zip")), [] { return false; });
+  packListing(listing, folder.pathOf(QStringLiteral("list.zip")), [](int) { return false; });
   return folder.readFile(QStringLiteral("list.zip"));
 }
 

@@ -32,74 +32,8 @@ std::string contentOf(const QString& path) {
   return entry.name.toStdString() + ": " + text;
 }
 
-bool neverStop() {
+bool neverStop(int) {
   return false;
-}
-
-TEST(PeerPacking, AnArchiveHoldsTheListing) {
-  const TemporaryFolder folder;
-  const QString listing = folder.writeFile(QStringLiteral("B\u00fccher.txt"), "a listing\r\n");
-  const QString archive = folder.pathOf(QStringLiteral("x.zip"));
-  EXPECT_EQ(packListing(listing, archive, neverStop), PackingOutcome::Packed);
-  EXPECT_EQ(contentOf(archive),
-            "B\xc3\xbc"
-            "cher.txt: a listing\r\n");
-  EXPECT_EQ(folder.names(), (QStringList{QStringLiteral("B\u00fccher.txt"), QStringLiteral("x.zip")}));
-}
-
-TEST(PeerPacking, ProgramsThatKnowOnlyThePlainFormCanReadAnArchive) {
-  const QByteArray archive = smallArchive();
-  // The version needed to unpack: 2.0.
-  EXPECT_EQ(archive.mid(4, 2), QByteArray("\x14\0", 2));
-  EXPECT_FALSE(archive.contains("PK\x06\x06"));
-}
-
-TEST(PeerPacking, AnEmptyListingIsPackedToo) {
-  const TemporaryFolder folder;
-  const QString listing = folder.writeFile(QStringLiteral("a.txt"), "");
-  packListing(listing, folder.pathOf(QStringLiteral("a.zip")), neverStop);
-  EXPECT_EQ(contentOf(folder.pathOf(QStringLiteral("a.zip"))), "a.txt: ");
-}
-
-TEST(PeerPacking, StoppingLeavesTheArchiveThatWasThere) {
-  const TemporaryFolder folder;
-  const QString listing = folder.writeFile(QStringLiteral("a.txt"), QByteArray(10000000, 'x'));
-  folder.writeFile(QStringLiteral("a.zip"), "old");
-  int pauses = 0;
-  const auto pause = [&pauses] { return ++pauses == 20; };
-  EXPECT_EQ(packListing(listing, folder.pathOf(QStringLiteral("a.zip")), pause), PackingOutcome::Stopped);
-  EXPECT_EQ(pauses, 20);
-  EXPECT_EQ(folder.readFile(QStringLiteral("a.zip")), QByteArray("old"));
-  EXPECT_EQ(folder.names(), (QStringList{QStringLiteral("a.txt"), QStringLiteral("a.zip")}));
-}
-
-TEST(PeerPacking, AFullDiskLeavesTheArchiveThatWasThere) {
-  const TemporaryFolder folder;
-  QByteArray noise(3000000, '\0');
-  unsigned value = 1;
-  for (char& byte : noise) byte = static_cast<char>((value = value * 1664525U + 1013904223U) >> 24U);
-  const QString listing = folder.writeFile(QStringLiteral("a.txt"), noise);
-  folder.writeFile(QStringLiteral("a.zip"), "old");
-  const FullDisk full(1000000);
-  EXPECT_THROW(packListing(listing, folder.pathOf(QStringLiteral("a.zip")), neverStop), RuntimeFault);
-  EXPECT_EQ(folder.readFile(QStringLiteral("a.zip")), QByteArray("old"));
-  EXPECT_EQ(folder.names(), (QStringList{QStringLiteral("a.txt"), QStringLiteral("a.zip")}));
-}
-
-TEST(PeerPacking, OnlyItsOwnArchivesAndEmptyFilesMayBeReplaced) {
-  const TemporaryFolder folder;
-  const QString listing = folder.writeFile(QStringLiteral("a.txt"), "x");
-  const QString archive = folder.pathOf(QStringLiteral("a.zip"));
-  EXPECT_TRUE(mayBeReplacedByPacking(archive));
-  packListing(listing, archive, neverStop);
-  EXPECT_TRUE(mayBeReplacedByPacking(archive));
-  EXPECT_TRUE(mayBeReplacedByPacking(folder.writeFile(QStringLiteral("empty.zip"), "")));
-  EXPECT_FALSE(mayBeReplacedByPacking(folder.writeFile(QStringLiteral("text.zip"), "mine")));
-  EXPECT_FALSE(mayBeReplacedByPacking(folder.makeFolder(QStringLiteral("folder.zip")).chopped(1)));
-  ASSERT_TRUE(QFile::link(archive, folder.pathOf(QStringLiteral("link.zip"))));
-  EXPECT_FALSE(mayBeReplacedByPacking(folder.pathOf(QStringLiteral("link.zip"))));
-  const QByteArray unmarked("PK\x05\x06\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 22);
-  EXPECT_FALSE(mayBeReplacedByPacking(folder.writeFile(QStringLiteral("other.zip"), unmarked)));
 }
 
 class PeerSharingTest : public testing::Test {

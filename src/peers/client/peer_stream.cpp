@@ -141,7 +141,7 @@ void PeerStream::askAgain(qsizetype requests) {
 
 bool PeerStream::takeArchiveStart() {
   if (buffer_.isEmpty()) return false;
-  const std::optional<bool> isArchive = PeerArchiveEnd::canBeginWith(buffer_);
+  const std::optional<bool> isArchive = ArchiveEnd::canStartWith(buffer_);
   if (!isArchive) return false;
   part_ = *isArchive ? Part::Archive : Part::Announcement;
   if (!*isArchive) sink_.archiveMissing();

@@ -115,7 +115,7 @@ class PeerStream {
   std::vector<QByteArray> possible_;
   std::int64_t namedLists_ = 0;
   std::int64_t nameBytes_ = 0;
-  PeerArchiveEnd archiveEnd_;
+  ArchiveEnd archiveEnd_;
   std::int64_t archiveLength_ = 0;
   /// The last archive bytes, in which the next announcement may have begun, and where in the archive it did.
   QByteArray archiveTail_;

@@ -10,12 +10,11 @@ namespace quorvin {
 UnpackArchive unpackingShownIn(ProgramState& state, ArchiveView& view) {
   return [&state, &view](const QString& archivePath, const QString& targetFolder) {
     const ShownUnpacking shown(state, view, QStringLiteral("Unpacking ") + QFileInfo(archivePath).fileName());
-    ArchiveDisplay display(state, view);
-    const UnpackingOutcome outcome = unpackArchive(archivePath, targetFolder, display);
-    if (outcome == UnpackingOutcome::Failed) {
-      throw RuntimeFault(FaultNumber::PathFileAccess, display.error());
+    const UnpackingResult result = unpackArchiveShownIn(view, state, archivePath, targetFolder);
+    if (result.outcome == UnpackingOutcome::Failed) {
+      throw RuntimeFault(FaultNumber::PathFileAccess, result.error);
     }
-    return outcome == UnpackingOutcome::Unpacked;
+    return result.outcome == UnpackingOutcome::Unpacked;
   };
 }
 

@@ -89,7 +89,7 @@ QString PeerSharing::packRow(int row) {
   }
   QElapsedTimer sinceEvents;
   sinceEvents.start();
-  const auto pause = [this, &sinceEvents] {
+  const auto pause = [this, &sinceEvents](int) {
     if (!sinceEvents.hasExpired(kMillisecondsBetweenEvents)) return false;
     processEvents_();
     sinceEvents.restart();

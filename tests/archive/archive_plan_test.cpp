@@ -1,4 +1,6 @@
 // Archives made to do harm: each is refused with a message, and nothing is written outside or inside.
+#include "archive/archive_plan.h"
+
 #include "archive/archive_fixture.h"
 
 #include <QElapsedTimer>
@@ -83,43 +85,43 @@ INSTANTIATE_TEST_SUITE_P(
         BadName{"too long", QByteArray(256, 'x'),
                 refused(u"is too long"_qs, QString(80, u'x') + u"..."_qs + QString(40, u'x'))}));
 
-class ArchiveHostile : public ArchiveTest {};
+class ArchiveRefused : public ArchiveTest {};
 
-TEST_F(ArchiveHostile, NameWithANulIsNoPathToElsewhere) {
+TEST_F(ArchiveRefused, NameWithANulIsNoPathToElsewhere) {
   // The library takes a blank for it; what counts is that the name does not end there.
   const QByteArray name("good.txt\0/../../evil.txt", 24);
   refusalOf({named(name)}, ArchiveErrorCode::BadName);
 }
 
-TEST_F(ArchiveHostile, LinkIsRefused) {
+TEST_F(ArchiveRefused, LinkIsRefused) {
   EXPECT_EQ(refusalOf({ofMode(kLinkMode)}, ArchiveErrorCode::NotAFile),
             u"The archive holds a link: \"thing\". Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, LinkToAFolderWithAFileBehindItIsRefused) {
+TEST_F(ArchiveRefused, LinkToAFolderWithAFileBehindItIsRefused) {
   MadeEntry link = ofMode(kLinkMode);
   link.content = "/tmp";
   refusalOf({link, named("thing/evil.txt")}, ArchiveErrorCode::NotAFile);
 }
 
-TEST_F(ArchiveHostile, DevicesAndPipesAreRefused) {
+TEST_F(ArchiveRefused, DevicesAndPipesAreRefused) {
   for (const std::uint32_t mode : {kPipeMode, kCharacterDeviceMode, kBlockDeviceMode, kSocketMode}) {
     EXPECT_EQ(refusalOf({ofMode(mode)}, ArchiveErrorCode::NotAFile),
               u"The archive holds a device or a pipe: \"thing\". Nothing was unpacked."_qs);
   }
 }
 
-TEST_F(ArchiveHostile, FolderWithContentIsRefused) {
+TEST_F(ArchiveRefused, FolderWithContentIsRefused) {
   EXPECT_EQ(refusalOf({named("sub/")}, ArchiveErrorCode::NotAFile),
             u"The archive holds a folder with content: \"sub/\". Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, SameNameTwiceIsRefused) {
+TEST_F(ArchiveRefused, SameNameTwiceIsRefused) {
   EXPECT_EQ(refusalOf({named("a.txt"), named("a.txt")}, ArchiveErrorCode::DuplicateName),
             u"The archive \"lists.zip\" holds two entries of the same name. Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, SamePlaceUnderTwoNamesIsRefused) {
+TEST_F(ArchiveRefused, SamePlaceUnderTwoNamesIsRefused) {
   for (const char* other : {"./a.txt", "a.txt/.", ".\\a.txt", ".//a.txt"}) {
     refusalOf({named("a.txt"), named(other)},
               QByteArray(other).endsWith('.') ? ArchiveErrorCode::NotAFile : ArchiveErrorCode::DuplicateName);
@@ -128,13 +130,13 @@ TEST_F(ArchiveHostile, SamePlaceUnderTwoNamesIsRefused) {
             u"The archive holds two entries of the same name: \"sub\\a.txt\". Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, FileAndFolderOfTheSameNameAreRefused) {
+TEST_F(ArchiveRefused, FileAndFolderOfTheSameNameAreRefused) {
   EXPECT_EQ(refusalOf({named("a"), named("a/b.txt")}, ArchiveErrorCode::DuplicateName),
             u"In the archive a file and a folder have the same name: \"a/b.txt\". Nothing was unpacked."_qs);
   refusalOf({named("a/b.txt"), named("a")}, ArchiveErrorCode::DuplicateName);
 }
 
-TEST_F(ArchiveHostile, EncryptedEntryIsRefused) {
+TEST_F(ArchiveRefused, EncryptedEntryIsRefused) {
   MadeEntry entry = named("a.txt");
   entry.flags = 1;
   entry.packed = QByteArray(12, 'k') + "harm";
@@ -142,7 +144,7 @@ TEST_F(ArchiveHostile, EncryptedEntryIsRefused) {
             u"\"a.txt\" in the archive is encrypted. Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, EntryPackedByAnotherMethodIsRefused) {
+TEST_F(ArchiveRefused, EntryPackedByAnotherMethodIsRefused) {
   MadeEntry entry = named("a.txt");
   constexpr std::uint16_t kLzma = 14;
   constexpr std::uint16_t kBzip2 = 12;
@@ -155,7 +157,7 @@ TEST_F(ArchiveHostile, EntryPackedByAnotherMethodIsRefused) {
   }
 }
 
-TEST_F(ArchiveHostile, EntryFarDownIsRefused) {
+TEST_F(ArchiveRefused, EntryFarDownIsRefused) {
   QByteArray name;
   for (int i = 0; i < 5000; ++i) name += "d/";
   EXPECT_EQ(refusalOf({named("good.txt"), named(name + "evil.txt")}, ArchiveErrorCode::TooDeep),
@@ -164,7 +166,7 @@ TEST_F(ArchiveHostile, EntryFarDownIsRefused) {
                 QString::fromLatin1((name + "evil.txt").last(40)) + u"\". Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, EntryAtTheDeepestLevelIsTaken) {
+TEST_F(ArchiveRefused, EntryAtTheDeepestLevelIsTaken) {
   QByteArray folders;
   for (int i = 0; i < 64; ++i) folders += "d/";
   EXPECT_EQ(unpack({named(folders + "a.txt")}), UnpackingOutcome::Unpacked);
@@ -172,14 +174,14 @@ TEST_F(ArchiveHostile, EntryAtTheDeepestLevelIsTaken) {
   refusalOf({named(folders + "d/a.txt")}, ArchiveErrorCode::TooDeep);
 }
 
-TEST_F(ArchiveHostile, MoreEntriesThanAllowedAreRefused) {
+TEST_F(ArchiveRefused, MoreEntriesThanAllowedAreRefused) {
   std::vector<MadeEntry> entries;
   for (int i = 0; i < 50'001; ++i) entries.push_back(named("f" + QByteArray::number(i)));
   EXPECT_EQ(refusalOf(entries, ArchiveErrorCode::TooManyEntries),
             u"The archive \"lists.zip\" holds more than 50000 entries. Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, AbsurdNumberOfEntriesIsRefusedBeforeMemoryIsTaken) {
+TEST_F(ArchiveRefused, AbsurdNumberOfEntriesIsRefusedBeforeMemoryIsTaken) {
   ArchiveForm form;
   form.largeEnd = true;
   for (const std::uint64_t told : {std::uint64_t{1} << 40, ~std::uint64_t{0}}) {
@@ -188,13 +190,13 @@ TEST_F(ArchiveHostile, AbsurdNumberOfEntriesIsRefusedBeforeMemoryIsTaken) {
   }
 }
 
-TEST_F(ArchiveHostile, WrongNumberOfEntriesIsRefused) {
+TEST_F(ArchiveRefused, WrongNumberOfEntriesIsRefused) {
   ArchiveForm form;
   form.toldCount = 3;
   refusalOf(archiveOf({named("a.txt")}, form), ArchiveErrorCode::Contradictory);
 }
 
-TEST_F(ArchiveHostile, FlatBombIsRefused) {
+TEST_F(ArchiveRefused, FlatBombIsRefused) {
   // A megabyte of packed zeros is a gigabyte.
   MadeEntry bomb = named("a.txt");
   bomb.method = kDeflated;
@@ -209,7 +211,7 @@ TEST_F(ArchiveHostile, FlatBombIsRefused) {
             u"The archive would unpack to more than 4.0 GiB. Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, SizesThatWouldOverflowTheirSumAreRefused) {
+TEST_F(ArchiveRefused, SizesThatWouldOverflowTheirSumAreRefused) {
   MadeEntry huge = named("a.txt");
   huge.isLarge = true;
   huge.method = kDeflated;
@@ -219,26 +221,26 @@ TEST_F(ArchiveHostile, SizesThatWouldOverflowTheirSumAreRefused) {
   refusalOf({huge, other, named("c.txt")}, ArchiveErrorCode::TooLarge);
 }
 
-TEST_F(ArchiveHostile, BombThatHidesItsSizeIsStoppedAtTheToldSize) {
+TEST_F(ArchiveRefused, BombThatHidesItsSizeIsStoppedAtTheToldSize) {
   outer_.writeFile(u"target/a.txt"_qs, "earlier");
   MadeEntry bomb = named("a.txt");
   bomb.method = kDeflated;
   bomb.packed = deflated(QByteArray(64 << 20, 'x'));
   bomb.toldSize = 1000;
   EXPECT_EQ(unpack({bomb}), UnpackingOutcome::Failed);
-  EXPECT_THAT(events_.codes, ElementsAre(ArchiveErrorCode::DamagedEntry));
-  EXPECT_TRUE(events_.descriptions[0].startsWith(u"\"a.txt\" in the archive is damaged: "_qs));
+  EXPECT_THAT(record_.codes, ElementsAre(ArchiveErrorCode::DamagedEntry));
+  EXPECT_TRUE(record_.descriptions[0].startsWith(u"\"a.txt\" in the archive is damaged: "_qs));
   EXPECT_EQ(tree(), (Tree{{u"a.txt"_qs, "earlier"}}));
 }
 
-TEST_F(ArchiveHostile, BombsInsideAreNotUnpackedFurther) {
+TEST_F(ArchiveRefused, BombsInsideAreNotUnpackedFurther) {
   QByteArray inner = archiveOf("zeros.txt", QByteArray(10 << 20, '\0'));
   for (int level = 0; level < 5; ++level) inner = archiveOf("level.zip", inner);
   EXPECT_EQ(unpack(archiveOf("bomb.zip", inner)), UnpackingOutcome::Unpacked);
   EXPECT_EQ(tree(), (Tree{{u"bomb.zip"_qs, inner}}));
 }
 
-TEST_F(ArchiveHostile, EntriesThatShareTheirBytesAreRefused) {
+TEST_F(ArchiveRefused, EntriesThatShareTheirBytesAreRefused) {
   MadeEntry kernel = named("0");
   kernel.content = QByteArray(100'000, 'x');
   std::vector<MadeEntry> entries = {kernel};
@@ -252,14 +254,14 @@ TEST_F(ArchiveHostile, EntriesThatShareTheirBytesAreRefused) {
   refusalOf(entries, ArchiveErrorCode::Contradictory);
 }
 
-TEST_F(ArchiveHostile, EntriesThatHoldTheOnesBehindThemAreRefused) {
+TEST_F(ArchiveRefused, EntriesThatHoldTheOnesBehindThemAreRefused) {
   // Each stored entry covers all that follow, with their headers, so that every name is right.
   EXPECT_EQ(
       refusalOf(nestedOverlapOf(20, QByteArray(1000, 'x')), ArchiveErrorCode::Overlapping),
       u"The entries of the archive lie over each other; it was made to do harm. Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, NameThatDiffersInsideIsRefused) {
+TEST_F(ArchiveRefused, NameThatDiffersInsideIsRefused) {
   MadeEntry entry = named("good.txt");
   entry.innerName = "evil.txt";
   EXPECT_EQ(
@@ -267,7 +269,7 @@ TEST_F(ArchiveHostile, NameThatDiffersInsideIsRefused) {
       u"The archive \"lists.zip\" is damaged: its parts contradict each other. Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, WrongChecksumLeavesTheEarlierFile) {
+TEST_F(ArchiveRefused, WrongChecksumLeavesTheEarlierFile) {
   outer_.writeFile(u"target/a.txt"_qs, "earlier");
   for (const std::uint16_t method : {kStored, kDeflated}) {
     MadeEntry entry = named("a.txt");
@@ -275,36 +277,36 @@ TEST_F(ArchiveHostile, WrongChecksumLeavesTheEarlierFile) {
     entry.toldChecksum = 0x12345678;
     EXPECT_EQ(unpack({entry}), UnpackingOutcome::Failed);
     EXPECT_EQ(
-        events_.descriptions,
+        record_.descriptions,
         QStringList{u"\"a.txt\" in the archive is damaged: its checksum is wrong. Nothing was unpacked."_qs});
     EXPECT_EQ(tree(), (Tree{{u"a.txt"_qs, "earlier"}}));
   }
 }
 
-TEST_F(ArchiveHostile, FilesBeforeADamagedOneAreTold) {
+TEST_F(ArchiveRefused, FilesBeforeADamagedOneAreTold) {
   MadeEntry damaged = named("c.txt");
   damaged.toldChecksum = 1;
   EXPECT_EQ(unpack({named("a.txt"), damaged}), UnpackingOutcome::Failed);
-  EXPECT_EQ(events_.descriptions,
+  EXPECT_EQ(record_.descriptions,
             QStringList{u"\"c.txt\" in the archive is damaged: its checksum is wrong. "
                         u"One file before it was unpacked, nothing else was changed."_qs});
   EXPECT_EQ(unpack({named("a.txt"), named("b.txt"), damaged}), UnpackingOutcome::Failed);
-  EXPECT_EQ(events_.descriptions,
+  EXPECT_EQ(record_.descriptions,
             QStringList{u"\"c.txt\" in the archive is damaged: its checksum is wrong. "
                         u"The 2 files before it were unpacked, nothing else was changed."_qs});
 }
 
-TEST_F(ArchiveHostile, NamesInMessagesCannotBreakThem) {
+TEST_F(ArchiveRefused, NamesInMessagesCannotBreakThem) {
   const QString message = refusalOf({named("<b>evil</b>\n../x")}, ArchiveErrorCode::BadName);
   EXPECT_EQ(message, refused(kControl, u"<b>evil</b>?../x"_qs));
 }
 
-TEST_F(ArchiveHostile, HtmlIsNoArchive) {
+TEST_F(ArchiveRefused, HtmlIsNoArchive) {
   EXPECT_EQ(refusalOf(QByteArray("<html><body>Not here</body></html>"), ArchiveErrorCode::NotAnArchive),
             u"\"lists.zip\" is no zip archive, or its end is missing. Nothing was unpacked."_qs);
 }
 
-TEST_F(ArchiveHostile, NothingIsNoArchive) {
+TEST_F(ArchiveRefused, NothingIsNoArchive) {
   refusalOf(QByteArray(), ArchiveErrorCode::NotAnArchive);
 }
 
