@@ -1,6 +1,5 @@
 // Drawing a metafile, without the limits of the process that draws it for the program. An input is the file.
-#include "metafile/metafile_bytes.h"
-#include "metafile/metafile_play.h"
+#include "metafile/play_metafile.h"
 
 #include <QByteArrayView>
 #include <QGuiApplication>

@@ -1,5 +1,7 @@
-// Reading numbers out of a metafile, whose bytes nobody has checked.
+// Reading numbers out of a metafile, whose bytes nobody has checked before.
 #pragma once
+
+#include "metafile/boundary.h"
 
 #include <QByteArrayView>
 #include <QPointF>
@@ -9,19 +11,12 @@
 
 #include <bit>
 #include <cstdint>
-#include <stdexcept>
 
 namespace quorvin {
 
-/// Thrown for a metafile, or a record of it, that does not hold what it says it holds. what() is English and
-/// continues the words "because".
-class MetafileFault : public std::runtime_error {
- public:
-  explicit MetafileFault(const char* why) : std::runtime_error(why) {}
-};
-
-/// A stretch of a metafile. Numbers are little-endian and stand at any offset, counted from the start of the
-/// stretch. Every function throws MetafileFault when the stretch ends before what was asked for.
+/// Part of a metafile: the whole file, a record, or a piece of one. Does not own its bytes. Numbers are
+/// little-endian; offsets are counted from the start of the part and need not be aligned. Every function
+/// throws MetafileFault where the part ends before what was asked for.
 class MetafileBytes {
  public:
   explicit MetafileBytes(QByteArrayView bytes) : bytes_(bytes) {}
@@ -29,7 +24,8 @@ class MetafileBytes {
   qsizetype size() const { return bytes_.size(); }
   QByteArrayView all() const { return bytes_; }
 
-  /// `offset` and `length` come from the file as they are: negative ones and ends beyond the stretch throw.
+  /// `offset` and `length` may come straight from the file: negative ones, and ends outside of the part,
+  /// throw.
   MetafileBytes slice(std::int64_t offset, std::int64_t length) const {
     if (offset < 0 || length < 0 || offset > bytes_.size() || length > bytes_.size() - offset) {
       throw MetafileFault("it is damaged or cut short");

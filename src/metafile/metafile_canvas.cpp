@@ -1,7 +1,6 @@
 #include "metafile/metafile_canvas.h"
 
 #include "metafile/metafile_bytes.h"
-#include "metafile/metafile_whole.h"
 
 #include <algorithm>
 #include <array>
@@ -48,7 +47,32 @@ Qt::PenJoinStyle penJoin(std::uint32_t style) {
   return index < kJoins.size() ? kJoins.at(index) : Qt::RoundJoin;
 }
 
-/// In degrees against the clock as one sees it, from the right.
+/// So that the picture is sharp in a window of the usual size, and thin lines survive when it is made
+/// smaller.
+constexpr double kLeastLongSide = 600;
+constexpr double kMostLongSide = 2000;
+constexpr double kHundredthMillimetresPerPixel = 2540.0 / 96;
+
+QSize wholeHundredths(const QSizeF& size) {
+  constexpr int kLongest = 100'000'000;
+  return {wholeWithin(size.width(), 1, kLongest), wholeWithin(size.height(), 1, kLongest)};
+}
+
+/// A place on the sheet as a pixel. What is far outside is moved nearer, where it is outside still.
+QPoint pixelAt(const QPointF& place) {
+  constexpr int kFarthest = 100'000;
+  return {wholeWithin(std::round(place.x()), -kFarthest, kFarthest),
+          wholeWithin(std::round(place.y()), -kFarthest, kFarthest)};
+}
+
+QPolygon pixelsAt(const QPolygonF& places) {
+  QPolygon pixels;
+  pixels.reserve(places.size());
+  for (const QPointF& place : places) pixels += pixelAt(place);
+  return pixels;
+}
+
+/// In degrees from the right, counter-clockwise as one sees it.
 double angleOf(const QPointF& point, const QRectF& box) {
   const QPointF from = point - box.center();
   const double x = from.x() / std::max(box.width(), 1e-6);
@@ -58,8 +82,19 @@ double angleOf(const QPointF& point, const QRectF& box) {
 
 }  // namespace
 
-MetafileCanvas::MetafileCanvas(const QSize& pixels, const QTransform& deviceToImage, double thinnestLine)
-    : image_(pixels, QImage::Format_RGB32), deviceToImage_(deviceToImage), thinnestLine_(thinnestLine) {
+MetafileSheet sheetFor(const QSizeF& ownSize) {
+  if (!(ownSize.width() > 0 && ownSize.height() > 0)) throw MetafileFault("it has no size");
+  const QSizeF natural = ownSize / kHundredthMillimetresPerPixel;
+  const double longSide = std::max(natural.width(), natural.height());
+  const double scale = std::clamp(longSide, kLeastLongSide, kMostLongSide) / longSide;
+  const auto pixels = [scale](double side) {
+    return std::max(1, static_cast<int>(std::lround(side * scale)));
+  };
+  return {wholeHundredths(ownSize), {pixels(natural.width()), pixels(natural.height())}, scale};
+}
+
+MetafileCanvas::MetafileCanvas(const MetafileSheet& sheet, const QTransform& deviceToImage)
+    : image_(sheet.pixels, QImage::Format_RGB32), deviceToImage_(deviceToImage), thinnestLine_(sheet.scale) {
   if (image_.isNull()) throw MetafileFault("there is not enough memory for it");
   image_.fill(Qt::white);
   painter_.begin(&image_);
@@ -96,13 +131,17 @@ QTransform MetafileCanvas::toImage() const {
   return transform;
 }
 
+QRegion MetafileCanvas::regionInImage(const QRectF& box) const {
+  return QRegion(pixelsAt(toImage().map(QPolygonF(box))));
+}
+
 double MetafileCanvas::lengthInImage(double length) const {
   return length * std::sqrt(std::abs(toImage().determinant()));
 }
 
 void MetafileCanvas::beginPainting() {
   painter_.setCompositionMode(compositionOf(state.rasterOperation));
-  // Soft edges would mix with what a raster operation has turned round.
+  // Soft edges would mix with colours that a raster operation has inverted.
   painter_.setRenderHint(QPainter::Antialiasing, state.rasterOperation == kCopyPen);
   painter_.setClipping(state.clip.has_value());
   if (state.clip) painter_.setClipRegion(*state.clip);
@@ -165,7 +204,7 @@ QPainterPath MetafileCanvas::arc(const QRectF& box, const QPointF& start, const 
                                  int joint) const {
   const QRectF upright = box.normalized();
   const double from = angleOf(start, upright);
-  // The directions are those that one sees; a mapping that mirrors turns them round.
+  // The direction is the one that is seen, so a mapping that mirrors reverses it.
   const bool againstTheClock = state.arcsRunClockwise == (toImage().determinant() < 0);
   double sweep = std::fmod(angleOf(end, upright) - from + 720, 360);
   if (sweep == 0) sweep = 360;
@@ -224,7 +263,7 @@ void MetafileCanvas::clip(const std::optional<QRegion>& device, MetafileClip mod
 }
 
 void MetafileCanvas::clip(const QRectF& box, MetafileClip mode) {
-  combineClip(QRegion(pixelsAt(toImage().map(QPolygonF(box)))), mode);
+  combineClip(regionInImage(box), mode);
 }
 
 void MetafileCanvas::moveClip(const QPointF& offset) {

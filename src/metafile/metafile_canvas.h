@@ -1,14 +1,15 @@
 // The sheet that a metafile is drawn on.
 #pragma once
 
-#include "metafile/metafile_mapping.h"
-#include "metafile/metafile_objects.h"
+#include "metafile/metafile_state.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointF>
 #include <QRegion>
+#include <QSize>
+#include <QSizeF>
 #include <QString>
 
 #include <cstdint>
@@ -17,33 +18,28 @@
 
 namespace quorvin {
 
-/// Everything that a metafile sets before it draws, and that it can save and restore. Numbers have the
-/// values of the file formats.
-struct MetafileState {
-  MetafilePen pen;
-  MetafileBrush brush;
-  MetafileFont font;
-  QColor textColour = Qt::black;
-  QColor backColour = Qt::white;
-  bool isBackOpaque = true;
-  Qt::FillRule fillRule = Qt::OddEvenFill;
-  std::uint32_t textAlign = 0;
-  int rasterOperation = 13;
-  bool arcsRunClockwise = false;
-  QPointF position;
-  MetafileMapping mapping;
-  /// In pixels of the image; nothing is a whole sheet.
-  std::optional<QRegion> clip;
+/// The image for a picture of this size.
+struct MetafileSheet {
+  /// In hundredths of a millimetre, at most a kilometre.
+  QSize ownSize;
+  /// Some 96 to the inch, but enough for a sharp picture, and not more than 2000 each way.
+  QSize pixels;
+  /// How many of these pixels stand for one at 96 to the inch.
+  double scale = 1;
 };
+
+/// The sheet for a picture of `ownSize` hundredths of a millimetre. Throws MetafileFault when the size is not
+/// above zero.
+MetafileSheet sheetFor(const QSizeF& ownSize);
 
 /// How a text is written besides what the state says.
 struct MetafileText {
   QPointF at;
   QString text;
-  /// The step from each UTF-16 unit of the text to the next in the drawing's own units; empty: as the font
-  /// has it.
+  /// The step from each UTF-16 unit of the text to the next, in the drawing's own units. Empty: the font
+  /// decides.
   std::vector<double> steps;
-  /// Where it is to be filled with the background colour, and cut off.
+  /// A box that is filled with the background colour first, and one at which the text is cut off.
   std::optional<QRectF> opaque;
   std::optional<QRectF> clip;
 };
@@ -56,29 +52,30 @@ enum class MetafileClip { And = 1, Or, ExclusiveOr, Without, Instead };
 
 enum class MetafilePaint { Fill, Stroke, FillAndStroke };
 
-/// Draws into an image. All places and sizes are in the drawing's own units unless it is said otherwise.
+/// Draws into an image. All places and sizes are in the drawing's own units unless it says otherwise. Every
+/// function that draws throws MetafileFault while the state's mapping makes no sense.
 class MetafileCanvas {
  public:
-  /// A white sheet of `pixels`. `deviceToImage` places the device of the metafile on it; `thinnestLine`, in
-  /// pixels, is the width of lines that have none.
-  MetafileCanvas(const QSize& pixels, const QTransform& deviceToImage, double thinnestLine);
+  /// A white sheet. `deviceToImage` places the metafile's device on it. A line without width is one pixel at
+  /// 96 to the inch wide.
+  MetafileCanvas(const MetafileSheet& sheet, const QTransform& deviceToImage);
   MetafileCanvas(const MetafileCanvas&) = delete;
   MetafileCanvas& operator=(const MetafileCanvas&) = delete;
 
   MetafileState state;
 
   void save();
-  /// `depth` below zero counts back from the last save, above zero from the first. Wrong ones do nothing.
+  /// A negative `depth` counts back from the last save, a positive one from the first. Wrong ones do nothing.
   void restore(int depth);
   void select(const MetafileObject& object);
 
   /// Draws `path`, or adds it to the path that is being recorded.
   void draw(const QPainterPath& path, MetafilePaint paint);
-  /// Draws from the position on, which moves to the end.
+  /// Both draw from the state's position, and move it to the end.
   void lineTo(const QPointF& end);
   void continueWith(const QPainterPath& path);
   /// The part of the ellipse in `box` from the ray through `start` to the ray through `end`, in the state's
-  /// direction. `joint`: 0 leaves it open, 1 joins the ends, 2 joins both to the middle.
+  /// direction. `joint`: 0 leaves it open, 1 joins the ends, 2 joins both to the centre.
   QPainterPath arc(const QRectF& box, const QPointF& start, const QPointF& end, int joint) const;
   void setPixel(const QPointF& place, const QColor& colour);
   /// Fills a region of device units.
@@ -91,7 +88,7 @@ class MetafileCanvas {
   void paintPath(MetafilePaint paint);
   void clipToPath(MetafileClip mode);
 
-  /// Nothing as region: the whole sheet. A mode that is none of the above throws MetafileFault.
+  /// No region means the whole sheet. A mode that is none of the above throws MetafileFault.
   void clip(const std::optional<QRegion>& device, MetafileClip mode);
   void clip(const QRectF& box, MetafileClip mode);
   void moveClip(const QPointF& offset);
@@ -109,6 +106,7 @@ class MetafileCanvas {
 
  private:
   QTransform toImage() const;
+  QRegion regionInImage(const QRectF& box) const;
   double lengthInImage(double length) const;
   void beginPainting();
   void paint(const QPainterPath& imagePath, MetafilePaint paint);

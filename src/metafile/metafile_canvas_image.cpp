@@ -1,4 +1,4 @@
-// Pictures inside of metafiles.
+// The canvas: bitmaps.
 #include "metafile/metafile_canvas.h"
 
 namespace quorvin {
@@ -12,7 +12,7 @@ constexpr std::uint32_t kPattern = 0x00F00021;
 constexpr std::uint32_t kPatternInvert = 0x005A0049;
 constexpr std::uint32_t kWhiteness = 0x00FF0062;
 
-/// Those that nobody uses copy.
+/// Operations that are not listed copy.
 QPainter::CompositionMode sourceComposition(std::uint32_t operation) {
   switch (operation) {
     case 0x00EE0086:

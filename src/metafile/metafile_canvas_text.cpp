@@ -1,6 +1,5 @@
-// Text of metafiles.
+// The canvas: text.
 #include "metafile/metafile_canvas.h"
-#include "metafile/metafile_whole.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -20,7 +19,7 @@ constexpr int kCentre = 6;
 constexpr int kBottom = 8;
 constexpr int kBaseline = 24;
 constexpr int kUsualHeight = 16;
-/// Larger letters than any picture has pixels only cost time.
+/// Letters that are larger than any picture only cost time.
 constexpr int kTallestLetters = 4000;
 constexpr int kMostStretch = 4000;
 
@@ -67,7 +66,7 @@ QPointF startOfLine(std::uint32_t align, double width, const QFontMetricsF& metr
   return {x, (align & kBottom) != 0 ? -metrics.descent() : metrics.ascent()};
 }
 
-/// The toolkit's own way of drawing text fails over letters that are stretched very wide.
+/// The toolkit does not draw letters that are stretched very wide, but gives their outlines.
 void drawPiece(QPainter& painter, const QPointF& start, const QString& letters) {
   constexpr int kMostDrawnStretch = 400;
   if (painter.font().stretch() <= kMostDrawnStretch) return painter.drawText(start, letters);
@@ -103,8 +102,7 @@ void MetafileCanvas::drawText(const MetafileText& text) {
   const QTransform transform = toImage();
   beginPainting();
   if (text.opaque) painter_.fillPath(transform.map(boxPath(*text.opaque)), state.backColour);
-  const QRegion textClip =
-      text.clip ? QRegion(pixelsAt(transform.map(QPolygonF(*text.clip)))) : QRegion(image_.rect());
+  const QRegion textClip = text.clip ? regionInImage(*text.clip) : QRegion(image_.rect());
   painter_.setClipRegion(textClip, state.clip ? Qt::IntersectClip : Qt::ReplaceClip);
 
   // Letters stay upright in a drawing that counts upwards: only the scale and the turn are taken over.

@@ -1,8 +1,5 @@
 #include "preview/metafile_child.h"
 
-#include "metafile/metafile_answer.h"
-#include "metafile/metafile_bytes.h"
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>

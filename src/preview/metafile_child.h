@@ -1,7 +1,7 @@
 // Having a metafile drawn by a process of its own.
 #pragma once
 
-#include "metafile/metafile_play.h"
+#include "metafile/boundary.h"
 #include "preview/picture_stop.h"
 
 #include <QByteArray>

@@ -1,7 +1,7 @@
 #include "preview/picture_decoder.h"
 
 #include "faults/runtime_fault.h"
-#include "metafile/bitmap_reading.h"
+#include "platform/bitmap_reading.h"
 #include "preview/picture_icon.h"
 
 #include <QtEndian>

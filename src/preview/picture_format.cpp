@@ -1,6 +1,6 @@
 #include "preview/picture_format.h"
 
-#include "metafile/metafile_play.h"
+#include "metafile/boundary.h"
 
 namespace quorvin {
 
@@ -19,8 +19,8 @@ std::optional<PictureFormat> pictureFormatOf(QByteArrayView start) {
   if (beginsIcon(start)) return PictureFormat::Icon;
   if (start.startsWith("\xFF\xD8\xFF")) return PictureFormat::Jpeg;
   if (start.startsWith("GIF87a") || start.startsWith("GIF89a")) return PictureFormat::Gif;
-  if (beginsEnhancedMetafile(start)) return PictureFormat::EnhancedMetafile;
-  if (beginsWindowsMetafile(start)) return PictureFormat::WindowsMetafile;
+  if (isEnhancedMetafile(start)) return PictureFormat::EnhancedMetafile;
+  if (isWindowsMetafile(start)) return PictureFormat::WindowsMetafile;
   return std::nullopt;
 }
 

@@ -1,7 +1,7 @@
 #include "preview/picture_load.h"
 
 #include "faults/runtime_fault.h"
-#include "metafile/metafile_bytes.h"
+#include "metafile/boundary.h"
 #include "preview/picture_file.h"
 #include "preview/picture_format.h"
 
@@ -12,15 +12,13 @@ namespace quorvin {
 
 namespace {
 
-constexpr qint64 kLargestMetafile = 64LL * 1024 * 1024;
-
 [[noreturn]] void refuse(const QString& path, const QString& why) {
   throw RuntimeFault(FaultNumber::InvalidProcedureCall, pictureRefusal(path, why));
 }
 
 LoadedPicture loadMetafile(PictureFile& file, const QString& path, const MetafileChild& child,
                            const PictureStop& stop) {
-  if (file.size() > kLargestMetafile) refuse(path, QStringLiteral("it is larger than 64 MB"));
+  if (file.size() > kLargestMetafile) refuse(path, QString::fromLatin1(kMetafileTooLarge));
   try {
     const MetafilePicture picture = drawInChild(child, file.readAll(), stop);
     return {picture.ownSize, {picture.image, 0}, {}};

@@ -1,10 +1,9 @@
 // Metafiles are drawn by a process that can do no harm.
 #include "preview/metafile_child.h"
 
-#include "metafile/metafile_answer.h"
-#include "metafile/metafile_bytes.h"
 #include "metafile/metafile_corpus.h"
 #include "metafile/metafile_writer.h"
+#include "metafile/play_metafile.h"
 #include "preview/second_decoder.h"
 #include "support/temporary_folder.h"
 

@@ -1,9 +1,8 @@
 // Damaged pictures of every format: the program lives, and nobody waits long.
 //
 // Each test tries 300 mutations; QUORVIN_MUTATIONS=10000 tries so many, QUORVIN_MUTATION_SEED others.
-#include "metafile/metafile_bytes.h"
 #include "metafile/metafile_corpus.h"
-#include "metafile/metafile_play.h"
+#include "metafile/play_metafile.h"
 #include "preview/corpus_picture.h"
 #include "preview/img_pre_opener.h"
 #include "support/temporary_folder.h"

@@ -1,6 +1,6 @@
-#include "metafile/metafile_dib.h"
+#include "metafile/dib.h"
 
-#include "metafile/bitmap_reading.h"
+#include "platform/bitmap_reading.h"
 
 #include <QBuffer>
 #include <QByteArray>
@@ -39,14 +39,14 @@ std::int64_t headerSize(const MetafileBytes& dib) {
   return size + masks + colours * 4;
 }
 
-/// Below zero for a bitmap that begins with its first row.
-std::int64_t toldRows(const MetafileBytes& dib) {
+/// Negative for a bitmap whose top row comes first.
+std::int64_t signedRows(const MetafileBytes& dib) {
   return hasOldHeader(dib) ? dib.u16(6) : dib.i32(8);
 }
 
 void checkSize(const MetafileBytes& dib) {
   const std::int64_t width = hasOldHeader(dib) ? dib.u16(4) : dib.i32(4);
-  const std::int64_t height = std::abs(toldRows(dib));
+  const std::int64_t height = std::abs(signedRows(dib));
   if (width <= 0 || height <= 0) throw MetafileFault("a bitmap in it is empty");
   if (width > kMostPixels / height) throw MetafileFault("a bitmap in it is too large");
 }
@@ -82,7 +82,7 @@ QImage imageOfDibWithAlpha(const MetafileBytes& header, const MetafileBytes& bit
   QImage image(opaque.size(), QImage::Format_ARGB32_Premultiplied);
   const std::int64_t rowSize = 4LL * image.width();
   for (int row = 0; row < image.height(); ++row) {
-    const int y = toldRows(header) < 0 ? row : image.height() - 1 - row;
+    const int y = signedRows(header) < 0 ? row : image.height() - 1 - row;
     qFromLittleEndian<QRgb>(bits.slice(row * rowSize, rowSize).all().data(), image.width(),
                             image.scanLine(y));
   }
@@ -90,7 +90,7 @@ QImage imageOfDibWithAlpha(const MetafileBytes& header, const MetafileBytes& bit
 }
 
 QRectF partFromTop(const MetafileBytes& header, QRectF part) {
-  const std::int64_t rows = toldRows(header);
+  const std::int64_t rows = signedRows(header);
   if (rows > 0) part.moveTop(static_cast<double>(rows) - part.y() - part.height());
   return part;
 }

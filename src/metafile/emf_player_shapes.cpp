@@ -1,6 +1,7 @@
-// Enhanced metafiles: lines and areas.
-#include "metafile/metafile_emf.h"
+// Enhanced metafiles: lines and areas, regions and clips.
+#include "metafile/emf_player.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -20,6 +21,26 @@ std::vector<QPointF> pointsAt(const MetafileBytes& record, std::int64_t at, std:
     points.push_back(isShort ? all.point16(index * size) : all.point32(index * size));
   }
   return points;
+}
+
+/// Regions are calculated with ints, and the differences must fit into one, too.
+QPoint deviceUnitAt(const MetafileBytes& data, std::int64_t at) {
+  constexpr int kFarthest = 100'000'000;
+  return {std::clamp(data.i32(at), -kFarthest, kFarthest),
+          std::clamp(data.i32(at + 4), -kFarthest, kFarthest)};
+}
+
+/// In device units.
+QRegion regionOf(const MetafileBytes& data) {
+  constexpr std::uint32_t kMostRectangles = 100'000;
+  const std::uint32_t count = data.u32(8);
+  if (count > kMostRectangles) throw MetafileFault("a region in it has too many parts");
+  QRegion region;
+  for (std::uint32_t index = 0; index < count; ++index) {
+    const std::int64_t at = data.u32(0) + std::int64_t{16} * index;
+    region |= QRect(deviceUnitAt(data, at), deviceUnitAt(data, at + 8) - QPoint(1, 1));
+  }
+  return region;
 }
 
 }  // namespace
@@ -190,6 +211,39 @@ bool EmfPlayer::playPath(std::uint32_t type, const MetafileBytes& record) {
     case Abort:
       canvas_.dropPath();
       return true;
+    default:
+      return false;
+  }
+}
+
+bool EmfPlayer::playClip(std::uint32_t type, const MetafileBytes& record) {
+  enum { Offset = 26, Exclude = 29, Intersect, FillRegion = 71, PaintRegion = 74, SelectRegion };
+  switch (type) {
+    case Offset:
+      canvas_.moveClip(record.point32(8));
+      return true;
+    case Exclude:
+      canvas_.clip(record.rect32(8), MetafileClip::Without);
+      return true;
+    case Intersect:
+      canvas_.clip(record.rect32(8), MetafileClip::And);
+      return true;
+    case FillRegion: {
+      const std::uint32_t number = record.u32(28);
+      const auto* brush = number < objects_.size() ? std::get_if<MetafileBrush>(&objects_[number]) : nullptr;
+      if (brush != nullptr) canvas_.fillRegion(regionOf(record.slice(32, record.u32(24))), *brush);
+      return true;
+    }
+    case PaintRegion:
+      canvas_.fillRegion(regionOf(record.slice(28, record.u32(24))), canvas_.state.brush);
+      return true;
+    case SelectRegion: {
+      const auto mode = static_cast<MetafileClip>(record.i32(12));
+      std::optional<QRegion> region;
+      if (record.u32(8) != 0) region = regionOf(record.slice(16, record.u32(8)));
+      canvas_.clip(region, mode);
+      return true;
+    }
     default:
       return false;
   }

@@ -1,17 +1,17 @@
 // Enhanced metafiles.
 #pragma once
 
+#include "metafile/boundary.h"
 #include "metafile/metafile_bytes.h"
 #include "metafile/metafile_canvas.h"
-#include "metafile/metafile_play.h"
 
 #include <cstdint>
 #include <vector>
 
 namespace quorvin {
 
-/// Plays the records of an enhanced metafile on a canvas. Offsets in the code are those of the file format,
-/// counted from the start of a record, whose first eight bytes are its type and its size.
+/// Plays the records of an enhanced metafile on a canvas. Offsets are counted as in the file format, from the
+/// start of a record; its first eight bytes are its type and its size.
 class EmfPlayer {
  public:
   /// `file` must outlive the player. Throws MetafileFault when the header makes no sense.
@@ -24,7 +24,7 @@ class EmfPlayer {
   EmfPlayer(const MetafileBytes& file, const Header& header);
 
   void playRecord(std::uint32_t type, const MetafileBytes& record);
-  // Each tells whether the type is one of its kind.
+  // Each returns whether the type is one of its kind.
   bool playMapping(std::uint32_t type, const MetafileBytes& record);
   bool playSetting(std::uint32_t type, const MetafileBytes& record);
   bool playObject(std::uint32_t type, const MetafileBytes& record);
@@ -55,8 +55,5 @@ class EmfPlayer {
   MetafileCanvas canvas_;
   std::vector<MetafileObject> objects_;
 };
-
-/// The region of an enhanced metafile's region data, in device units.
-QRegion emfRegion(const MetafileBytes& data);
 
 }  // namespace quorvin

@@ -1,25 +1,22 @@
-// Enhanced metafiles: clips and regions, bitmaps and text.
-#include "metafile/metafile_dib.h"
-#include "metafile/metafile_emf.h"
+// Enhanced metafiles: bitmaps and text.
+#include "metafile/dib.h"
+#include "metafile/emf_player.h"
 #include "platform/text_encoding.h"
-
-#include <algorithm>
 
 namespace quorvin {
 
 namespace {
 
-/// Where the records for copied parts of a device, and those for stored bitmaps, tell where the bitmap
-/// stands.
+/// Where records that copy a part of a device, and those that draw a stored bitmap, give the place of the
+/// bitmap.
 constexpr std::int64_t kCopiedPart = 84;
 constexpr std::int64_t kStoredBitmap = 48;
-constexpr std::uint32_t kMostRectangles = 100'000;
 
 QRectF boxAt(const MetafileBytes& record, std::int64_t at) {
   return {record.point32(at), record.size32(at + 8)};
 }
 
-/// The two stretches of a bitmap; their offsets and lengths stand at `offsets`.
+/// The two parts of a bitmap; the record holds their offsets and lengths at `offsets`.
 struct StoredBitmap {
   StoredBitmap(const MetafileBytes& record, std::int64_t offsets)
       : header(record.slice(record.u32(offsets), record.u32(offsets + 4))),
@@ -29,58 +26,7 @@ struct StoredBitmap {
   MetafileBytes bits;
 };
 
-/// Regions are calculated with ints, and so must their differences be.
-QPoint deviceUnitAt(const MetafileBytes& data, std::int64_t at) {
-  constexpr int kFarthest = 100'000'000;
-  return {std::clamp(data.i32(at), -kFarthest, kFarthest),
-          std::clamp(data.i32(at + 4), -kFarthest, kFarthest)};
-}
-
 }  // namespace
-
-QRegion emfRegion(const MetafileBytes& data) {
-  const std::uint32_t count = data.u32(8);
-  if (count > kMostRectangles) throw MetafileFault("a region in it has too many parts");
-  QRegion region;
-  for (std::uint32_t index = 0; index < count; ++index) {
-    const std::int64_t at = data.u32(0) + std::int64_t{16} * index;
-    region |= QRect(deviceUnitAt(data, at), deviceUnitAt(data, at + 8) - QPoint(1, 1));
-  }
-  return region;
-}
-
-bool EmfPlayer::playClip(std::uint32_t type, const MetafileBytes& record) {
-  enum { Offset = 26, Exclude = 29, Intersect, FillRegion = 71, PaintRegion = 74, SelectRegion };
-  switch (type) {
-    case Offset:
-      canvas_.moveClip(record.point32(8));
-      return true;
-    case Exclude:
-      canvas_.clip(record.rect32(8), MetafileClip::Without);
-      return true;
-    case Intersect:
-      canvas_.clip(record.rect32(8), MetafileClip::And);
-      return true;
-    case FillRegion: {
-      const std::uint32_t number = record.u32(28);
-      const auto* brush = number < objects_.size() ? std::get_if<MetafileBrush>(&objects_[number]) : nullptr;
-      if (brush != nullptr) canvas_.fillRegion(emfRegion(record.slice(32, record.u32(24))), *brush);
-      return true;
-    }
-    case PaintRegion:
-      canvas_.fillRegion(emfRegion(record.slice(28, record.u32(24))), canvas_.state.brush);
-      return true;
-    case SelectRegion: {
-      const auto mode = static_cast<MetafileClip>(record.i32(12));
-      std::optional<QRegion> region;
-      if (record.u32(8) != 0) region = emfRegion(record.slice(16, record.u32(8)));
-      canvas_.clip(region, mode);
-      return true;
-    }
-    default:
-      return false;
-  }
-}
 
 bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
   enum { BitBlt = 76, StretchBlt, SetDibits = 80, StretchDibits, AlphaBlend = 114, TransparentBlt = 116 };
@@ -182,7 +128,7 @@ void EmfPlayer::drawString(const MetafileBytes& record, std::int64_t at, std::ui
   } else {
     text.text = decodeSystemText(letters.all());
   }
-  // The numbers of glyphs mean something in one version of one font only.
+  // The numbers of glyphs have a meaning only in one version of one font.
   if ((options & kGlyphNumbers) != 0) text.text.clear();
   if ((options & kOpaque) != 0) text.opaque = record.rect32(at + 20);
   if ((options & kClipped) != 0) text.clip = record.rect32(at + 20);

@@ -1,14 +1,14 @@
 // Metafiles look as their records say, and as other people's programs draw them.
-#include "metafile/metafile_play.h"
+#include "metafile/play_metafile.h"
 
-#include "metafile/metafile_answer.h"
-#include "metafile/metafile_bytes.h"
-#include "metafile/metafile_seen.h"
+#include "metafile/metafile_corpus.h"
 #include "metafile/metafile_writer.h"
 #include "preview/picture_printing.h"
 #include "preview/second_decoder.h"
 #include "support/temporary_folder.h"
 
+#include <QColor>
+#include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <gmock/gmock.h>
@@ -17,6 +17,21 @@
 namespace quorvin::test {
 
 namespace {
+
+/// The sheet of all the tests' metafiles, in their own units.
+constexpr QSize kUnits(400, 200);
+
+QRgb colourAt(const QImage& image, const QPoint& unit) {
+  return image.pixel(unit.x() * image.width() / kUnits.width(), unit.y() * image.height() / kUnits.height());
+}
+
+void expectSeen(const QImage& image, const QList<SeenPoint>& points) {
+  for (const SeenPoint& point : points) {
+    EXPECT_EQ(QColor(colourAt(image, point.at)).name().toStdString(),
+              QColor(point.colour).name().toStdString())
+        << "at " << point.at.x() << ", " << point.at.y();
+  }
+}
 
 void expectAllSeen(const std::vector<CorpusMetafile>& corpus) {
   ASSERT_FALSE(corpus.empty());
@@ -77,15 +92,15 @@ QImage drawnByLibwmf(const QByteArray& metafile) {
 /// Edges fall on other pixels, and no more.
 constexpr double kTolerance = 0.03;
 
-TEST(MetafilePlay, EnhancedMetafilesLookAsTheirRecordsSay) {
+TEST(PlayMetafile, EnhancedMetafilesLookAsTheirRecordsSay) {
   expectAllSeen(enhancedMetafileCorpus());
 }
 
-TEST(MetafilePlay, WindowsMetafilesLookAsTheirRecordsSay) {
+TEST(PlayMetafile, WindowsMetafilesLookAsTheirRecordsSay) {
   expectAllSeen(windowsMetafileCorpus());
 }
 
-TEST(MetafilePlay, EnhancedMetafilesLookAsTheSecondDecoderDrawsThem) {
+TEST(PlayMetafile, EnhancedMetafilesLookAsTheSecondDecoderDrawsThem) {
   int compared = 0;
   for (const CorpusMetafile& metafile : enhancedMetafileCorpus()) {
     if (!metafile.isForSecondDecoder) continue;
@@ -96,7 +111,7 @@ TEST(MetafilePlay, EnhancedMetafilesLookAsTheSecondDecoderDrawsThem) {
   EXPECT_GE(compared, 5);
 }
 
-TEST(MetafilePlay, WindowsMetafilesLookAsTheSecondDecoderDrawsThem) {
+TEST(PlayMetafile, WindowsMetafilesLookAsTheSecondDecoderDrawsThem) {
   int compared = 0;
   for (const CorpusMetafile& metafile : windowsMetafileCorpus()) {
     if (!metafile.isForSecondDecoder) continue;
@@ -107,26 +122,26 @@ TEST(MetafilePlay, WindowsMetafilesLookAsTheSecondDecoderDrawsThem) {
   EXPECT_GE(compared, 5);
 }
 
-TEST(MetafilePlay, TheOwnSizeIsInHundredthMillimetres) {
+TEST(PlayMetafile, TheOwnSizeIsInHundredthMillimetres) {
   EXPECT_EQ(playMetafile(EmfWriter().file()).ownSize, QSize(10000, 5000));
   EXPECT_EQ(playMetafile(WmfWriter().file()).ownSize, QSize(10583, 5291));
 }
 
-TEST(MetafilePlay, WithoutPlaceableHeaderTheFirstWindowTellsTheSize) {
+TEST(PlayMetafile, WithoutPlaceableHeaderTheFirstWindowTellsTheSize) {
   WmfWriter wmf;
   // The writer begins with the origin 0, 0 and the extent 400 by 200.
   wmf.rectangle(0, 0, 10, 10).place(0x020B, 10, 10).place(0x020C, 800, 400);
   EXPECT_EQ(playMetafile(wmf.file(false)).ownSize, QSize(10583, 5291));
 }
 
-TEST(MetafilePlay, AnOwnSizeBeyondAllNumbersIsCutToAKilometre) {
+TEST(PlayMetafile, AnOwnSizeBeyondAllNumbersIsCutToAKilometre) {
   QByteArray emf = EmfWriter().file();
   // The bounds end at nearly the largest number, and the frame is empty: then the bounds count.
   emf.replace(16, 4, QByteArray("\xFF\xFF\xFF\x7F", 4)).replace(24, 16, QByteArray(16, '\0'));
   EXPECT_EQ(playMetafile(emf).ownSize.width(), 100'000'000);
 }
 
-TEST(MetafilePlay, LettersStretchedVeryWideAreDrawn) {
+TEST(PlayMetafile, LettersStretchedVeryWideAreDrawn) {
   constexpr int kHeight = 10;
   constexpr int kWidth = 400;
   WmfWriter wmf;
@@ -139,7 +154,7 @@ TEST(MetafilePlay, LettersStretchedVeryWideAreDrawn) {
   EXPECT_GT(darkPoints, kWidth / 2);
 }
 
-TEST(MetafilePlay, ARecordThatMakesNoSenseDoesNotSpoilTheOthers) {
+TEST(PlayMetafile, ARecordThatMakesNoSenseDoesNotSpoilTheOthers) {
   EmfWriter emf;
   emf.select(0x80000008).brush(1, 0, qRgb(255, 0, 0)).select(1);
   emf.record(43).record(86, ByteWriter().zeros(16).u32(0xFFFFFFFF)).record(4711).rectangle(0, 0, 400, 200);
@@ -155,7 +170,7 @@ std::string faultOf(const QByteArray& metafile) {
   return "none";
 }
 
-TEST(MetafilePlay, AFileThatEndsBeforeItsLastRecordIsRefused) {
+TEST(PlayMetafile, AFileThatEndsBeforeItsLastRecordIsRefused) {
   const QByteArray emf = EmfWriter().rectangle(0, 0, 10, 10).file();
   const QByteArray wmf = WmfWriter().rectangle(0, 0, 10, 10).file();
   EXPECT_EQ(faultOf(emf.chopped(20)), "it is damaged or cut short");
@@ -164,61 +179,19 @@ TEST(MetafilePlay, AFileThatEndsBeforeItsLastRecordIsRefused) {
   EXPECT_EQ(faultOf(wmf.chopped(1)), "it is damaged or cut short");
 }
 
-TEST(MetafilePlay, ARecordWithoutLengthIsNotAnEndlessLoop) {
+TEST(PlayMetafile, ARecordWithoutLengthIsNotAnEndlessLoop) {
   QByteArray emf = EmfWriter().record(43).file();
   emf[88 + 4] = '\0';
   EXPECT_EQ(faultOf(emf), "it is damaged or cut short");
 }
 
-TEST(MetafilePlay, WithoutSizeItIsRefused) {
+TEST(PlayMetafile, WithoutSizeItIsRefused) {
   QByteArray wmf = WmfWriter().file();
   // Right is left, and bottom is top.
   wmf.replace(10, 4, QByteArray(4, '\0'));
   EXPECT_EQ(faultOf(wmf), "it has no size");
   QByteArray bare = WmfWriter().file(false);
   EXPECT_EQ(faultOf(bare.left(18) + QByteArray("\x03\0\0\0\0\0", 6)), "it does not say how large it is");
-}
-
-TEST(MetafileAnswer, APictureComesBackAsItWent) {
-  const MetafilePicture picture = playMetafile(enhancedMetafileCorpus().front().bytes);
-  const MetafilePicture back = pictureOfMetafileAnswer(metafileAnswer(picture));
-  EXPECT_EQ(back.ownSize, picture.ownSize);
-  EXPECT_EQ(back.image, picture.image.convertToFormat(QImage::Format_RGB32));
-}
-
-std::string answerFault(const QByteArray& answer) {
-  try {
-    pictureOfMetafileAnswer(answer);
-  } catch (const MetafileFault& fault) {
-    return fault.what();
-  }
-  return "none";
-}
-
-TEST(MetafileAnswer, ARefusalTellsItsReasonInHarmlessLetters) {
-  EXPECT_EQ(answerFault(metafileRefusal("it has no size")), "it has no size");
-  EXPECT_EQ(answerFault(metafileRefusal("a\nb\x01\xC3\xA4")), "a?b???");
-  EXPECT_EQ(answerFault(metafileRefusal(QByteArray(5000, 'x'))), std::string(200, 'x'));
-}
-
-TEST(MetafileAnswer, WhateverIsNotExactlyAnAnswerIsRefused) {
-  const std::string kNone = "the program that draws metafiles has not answered as it should";
-  const QByteArray good = metafileAnswer({QSize(100, 100), QImage(3, 2, QImage::Format_RGB32)});
-  EXPECT_EQ(answerFault(good), "none");
-  EXPECT_EQ(answerFault({}), kNone);
-  EXPECT_EQ(answerFault(good.chopped(1)), kNone);
-  EXPECT_EQ(answerFault(good + 'x'), kNone);
-  EXPECT_EQ(answerFault('x' + good), kNone);
-  const auto with = [&good](qsizetype at, std::uint32_t value) {
-    QByteArray bytes = good;
-    return bytes.replace(at, 4, ByteWriter().u32(value).bytes());
-  };
-  for (const qsizetype size : {8, 12, 16, 20}) {
-    EXPECT_EQ(answerFault(with(size, 0)), kNone) << size;
-    EXPECT_EQ(answerFault(with(size, 0xFFFFFFFF)), kNone) << size;
-  }
-  EXPECT_EQ(answerFault(with(16, 2001)), kNone);
-  EXPECT_EQ(answerFault(with(4, 2)), kNone);
 }
 
 }  // namespace

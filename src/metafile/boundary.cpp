@@ -1,4 +1,4 @@
-#include "metafile/metafile_answer.h"
+#include "metafile/boundary.h"
 
 #include "metafile/metafile_bytes.h"
 
@@ -27,7 +27,7 @@ QByteArray headerOf(const QSize& ownSize, const QSize& pixels, qsizetype textLen
   return bytes;
 }
 
-/// The reason of a refusal, in letters that harm no message box.
+/// The reason of a refusal, in characters that do no harm in a message box.
 QByteArray cleanReason(QByteArrayView text) {
   QByteArray reason = text.first(std::min<qsizetype>(text.size(), kLongestReason)).toByteArray();
   for (char& letter : reason) {
@@ -43,11 +43,24 @@ QImage imageOf(const MetafileBytes& rows, std::uint32_t width, std::uint32_t hei
   for (int y = 0; y < image.height(); ++y) {
     std::memcpy(image.scanLine(y), rows.all().data() + static_cast<std::size_t>(y) * rowSize, rowSize);
   }
-  // Nothing relies on the unused bytes, which anybody may have written.
+  // The way there and back sets the unused bytes, which are not trusted either.
   return image.convertToFormat(QImage::Format_RGB888).convertToFormat(QImage::Format_RGB32);
 }
 
 }  // namespace
+
+bool isEnhancedMetafile(QByteArrayView bytes) {
+  return bytes.size() >= 44 && bytes.startsWith(QByteArrayView("\x01\0\0\0", 4)) &&
+         bytes.sliced(40, 4) == QByteArrayView(" EMF");
+}
+
+bool isWindowsMetafile(QByteArrayView bytes) {
+  if (bytes.startsWith(QByteArrayView("\xD7\xCD\xC6\x9A", 4))) return true;
+  if (bytes.size() < 6) return false;
+  const MetafileBytes header(bytes);
+  return (header.u16(0) == 1 || header.u16(0) == 2) && header.u16(2) == 9 &&
+         (header.u16(4) == 0x0100 || header.u16(4) == 0x0300);
+}
 
 QByteArray metafileAnswer(const MetafilePicture& picture) {
   const QImage image = picture.image.convertToFormat(QImage::Format_RGB32);

@@ -1,6 +1,7 @@
-#include "metafile/metafile_mapping.h"
+#include "metafile/metafile_state.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace quorvin {
@@ -47,6 +48,20 @@ QSizeF scaleOf(const MetafileMapping& mapping) {
   return {std::copysign(least, x), std::copysign(least, y)};
 }
 
+constexpr std::uint32_t kHollow = 1;
+constexpr std::uint32_t kHatched = 2;
+constexpr std::uint32_t kNullPen = 5;
+
+MetafileBrush solid(const QColor& colour) {
+  return {Qt::SolidPattern, colour, {}};
+}
+
+Qt::BrushStyle hatchStyle(std::uint32_t hatch) {
+  constexpr std::array kStyles = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
+                                  Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
+  return hatch < kStyles.size() ? kStyles.at(hatch) : Qt::SolidPattern;
+}
+
 }  // namespace
 
 QTransform MetafileMapping::toDevice() const {
@@ -61,6 +76,49 @@ bool isUsable(const QTransform& transform) {
   const double determinant = transform.determinant();
   return std::isfinite(determinant) && determinant != 0 && std::isfinite(transform.dx()) &&
          std::isfinite(transform.dy());
+}
+
+int wholeWithin(double value, int least, int most) {
+  if (std::isnan(value)) return least;
+  return static_cast<int>(std::clamp<double>(value, least, most));
+}
+
+QColor colourOf(std::uint32_t value) {
+  const auto byteAt = [value](int shift) { return static_cast<int>((value >> shift) & 0xFF); };
+  return {byteAt(0), byteAt(8), byteAt(16)};
+}
+
+MetafileBrush plainBrush(std::uint32_t style, std::uint32_t colour, std::uint32_t hatch) {
+  if (style == kHollow) return {Qt::NoBrush, {}, {}};
+  if (style == kHatched) return {hatchStyle(hatch), colourOf(colour), {}};
+  return solid(colourOf(colour));
+}
+
+MetafileObject stockObject(std::uint32_t number) {
+  switch (number) {
+    case 0:
+    case 18:
+      return solid(Qt::white);
+    case 1:
+      return solid(QColor(192, 192, 192));
+    case 2:
+      return solid(QColor(128, 128, 128));
+    case 3:
+      return solid(QColor(64, 64, 64));
+    case 4:
+      return solid(Qt::black);
+    case 5:
+      return MetafileBrush{Qt::NoBrush, {}, {}};
+    case 6:
+      return MetafilePen{0, 0, Qt::white};
+    case 7:
+    case 19:
+      return MetafilePen{};
+    case 8:
+      return MetafilePen{kNullPen, 0, Qt::black};
+    default:
+      return number >= 10 && number <= 17 ? MetafileObject(MetafileFont{}) : MetafileObject();
+  }
 }
 
 }  // namespace quorvin
