@@ -1,14 +1,13 @@
 // The `Progress` window, as those need it who unpack and download.
 #pragma once
 
+#include "work/work_display.h"
+
 #include <QString>
 
 #include <cstdint>
 
 namespace quorvin {
-
-/// The end of a bar that shows per cent.
-inline constexpr std::int32_t kFullBar = 100;
 
 /// What unpacking shows, and how it lets the window live on.
 class ArchiveView {

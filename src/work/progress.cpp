@@ -1,19 +1,24 @@
 #include "work/progress.h"
 
-#include "work/archive_view.h"
-#include "work/progress_layout.h"
-
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvin {
 
 namespace {
 
 constexpr int kWidthInCharacters = 72;
+/// People see no more than some 60 pictures a second.
+constexpr qint64 kMillisecondsBetweenShowings = 16;
 
 QProgressBar* makeBar() {
   auto* bar = new QProgressBar;
@@ -37,6 +42,27 @@ void MiddleElidedLabel::paintEvent(QPaintEvent*) {
                         palette(), isEnabled(), shown, foregroundRole());
 }
 
+void layOutProgress(QDialog& dialog, const QList<QWidget*>& rows, QLabel& detail, QPushButton& cancel,
+                    int characters) {
+  dialog.setAttribute(Qt::WA_ShowWithoutActivating);
+  // Of a size that never changes: no button to make it larger.
+  dialog.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                        Qt::WindowCloseButtonHint);
+  detail.setTextFormat(Qt::PlainText);
+  detail.setForegroundRole(QPalette::PlaceholderText);
+  cancel.setObjectName(QStringLiteral("CancelButton"));
+
+  auto* lastRow = new QHBoxLayout;
+  lastRow->addWidget(&detail, 1);
+  lastRow->addWidget(&cancel);
+  auto* layout = new QVBoxLayout(&dialog);
+  for (QWidget* row : rows) layout->addWidget(row);
+  layout->addLayout(lastRow);
+  // The texts change all the time; the window must not change with them.
+  layout->setSizeConstraint(QLayout::SetNoConstraint);
+  dialog.setFixedSize(dialog.fontMetrics().averageCharWidth() * characters, layout->sizeHint().height());
+}
+
 Progress::Progress(ProgramState& state, QWidget* parent)
     : QDialog(parent),
       state_(state),
@@ -58,7 +84,9 @@ void Progress::begin() {
   isLeft_ = false;
   enableCancelButton();
   setDetail({});
+  maximum_ = kFullBar;
   setBar(0);
+  sinceDue_.invalidate();
   show();
 }
 
@@ -77,13 +105,38 @@ void Progress::showDetail() {
   detail_->setText(detailText_.isEmpty() ? stopping : stopping + u' ' + detailText_);
 }
 
-void Progress::setBar(int percent) {
+void Progress::setBar(std::int32_t value) {
+  const std::int64_t percent = maximum_ > 0 ? std::int64_t{value} * kFullBar / maximum_ : 0;
   bar_->setRange(0, kFullBar);
-  bar_->setValue(std::clamp(percent, 0, kFullBar));
+  bar_->setValue(static_cast<int>(std::clamp<std::int64_t>(percent, 0, kFullBar)));
 }
 
 void Progress::setBusy() {
   bar_->setRange(0, 0);
+}
+
+/// Whoever else has set a pointer keeps it.
+void Progress::setBusyPointer(bool busy) {
+  if (std::exchange(isPointerBusy_, busy) == busy) return;
+  if (busy) {
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+bool Progress::isDue() {
+  if (sinceDue_.isValid() && !sinceDue_.hasExpired(kMillisecondsBetweenShowings)) return false;
+  sinceDue_.start();
+  return true;
+}
+
+void Progress::processEvents() {
+  QCoreApplication::processEvents();
+}
+
+void Progress::waitForEvents() {
+  QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void Progress::leaveStanding() {
@@ -93,7 +146,7 @@ void Progress::leaveStanding() {
   showDetail();
 }
 
-/// A button that was disabled has lost the keyboard to nobody.
+/// While it was disabled, nothing in the window had the keyboard.
 void Progress::enableCancelButton() {
   cancelButton_->setEnabled(true);
   cancelButton_->setFocus();

@@ -2,16 +2,19 @@
 #pragma once
 
 #include "state/program_state.h"
+#include "work/work_display.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QLabel>
+#include <QList>
 #include <QProgressBar>
 #include <QPushButton>
 
 namespace quorvin {
 
-/// One line of text; what does not fit is left out in its middle, so that the begin and the end of a path are
-/// seen. text() is always the whole.
+/// One line of text; what does not fit is left out in its middle, so that both ends of a path can be seen.
+/// text() is always the whole.
 class MiddleElidedLabel : public QLabel {
   Q_OBJECT
 
@@ -23,30 +26,38 @@ class MiddleElidedLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// The `Progress` window: a label `Status`, a label for details, the bar and a `CancelButton`. It takes no
-/// focus when it is shown. Cancelling (the button, Esc, or closing the window) sets `AbortRequested` and says
-/// so in the window; the window stays until the work has come to its end and hides it.
-class Progress : public QDialog {
+/// What all windows have in common that show progress: lays `rows` out in `dialog`, one below the other, and
+/// in a last row `detail` in a dim colour with `cancel`, which becomes the `CancelButton`. The dialog takes
+/// no focus when it is shown, and keeps its size, `characters` wide, whatever its texts become.
+void layOutProgress(QDialog& dialog, const QList<QWidget*>& rows, QLabel& detail, QPushButton& cancel,
+                    int characters);
+
+/// The `Progress` window: a label `Status`, a label for details, the bar (0 to 100) and a `CancelButton`.
+/// Cancelling (the button, Esc, or closing the window) sets `AbortRequested` and says so in the window, which
+/// stays until the job has ended and takes it away. After leaveStanding() cancelling only hides it.
+class Progress : public QDialog, public WorkDisplay {
   Q_OBJECT
 
  public:
   /// `state` must outlive the window. The window is not shown yet.
   explicit Progress(ProgramState& state, QWidget* parent = nullptr);
 
-  /// Shows the window for a new piece of work: nothing is cancelled yet, the bar is at 0, no detail.
-  void begin();
-
-  void setStatus(const QString& text);
-  /// A second line below the status, for counts; empty for none.
-  void setDetail(const QString& text);
-  /// 0 to 100; values beyond are taken for the nearer end.
-  void setBar(int percent);
-  /// The bar only moves to and fro, since it is not known how much there is to do.
-  void setBusy();
-
-  /// The work has failed, and the window stays as it is: from now on the button, Esc, or closing the window
-  /// only hides it.
-  void leaveStanding();
+  void begin() override;
+  void end() override { hide(); }
+  void leaveStanding() override;
+  QString title() const override { return windowTitle(); }
+  void setTitle(const QString& title) override { setWindowTitle(title); }
+  void setStatus(const QString& text) override;
+  void setDetail(const QString& text) override;
+  void setBarMaximum(std::int32_t maximum) override { maximum_ = maximum; }
+  void setBar(std::int32_t value) override;
+  void setBusy() override;
+  void setBusyPointer(bool busy) override;
+  bool isDue() override;
+  void processEvents() override;
+  void waitForEvents() override;
+  bool isCancelled() const override { return isCancelled_; }
+  bool endRequested() const override { return false; }
 
   void reject() override;
 
@@ -64,9 +75,12 @@ class Progress : public QDialog {
   QProgressBar* bar_;
   QPushButton* cancelButton_;
   QString detailText_;
+  std::int32_t maximum_ = kFullBar;
+  QElapsedTimer sinceDue_;
   bool isCancelled_ = false;
-  /// There is no work any more that could be cancelled.
+  /// There is no job any more that could be cancelled.
   bool isLeft_ = false;
+  bool isPointerBusy_ = false;
 };
 
 }  // namespace quorvin

@@ -1,7 +1,5 @@
 #include "peers/client/peer_progress.h"
 
-#include "work/progress_layout.h"
-
 #include <QCloseEvent>
 #include <QProgressBar>
 

@@ -1,0 +1,93 @@
+#include "work/job_table.h"
+
+#include <array>
+#include <cstddef>
+
+namespace quorvin {
+
+namespace {
+
+using Row = std::array<Answer, kJobKinds>;
+
+constexpr Answer kStart = Answer::Starts;
+constexpr Answer kStop = Answer::Stops;
+constexpr Answer kWait = Answer::Waits;
+constexpr Answer kRefuse = Answer::Refused;
+
+// A search reads finished listings only, so it may run beside anything. Rescans that are asked for while
+// listings are searched, made or packed follow: the folders have changed, and nobody wants to ask twice. What
+// shows `Progress` excludes the others that do, since there is one window and one stop request for it.
+// Received lists and packing have nobody waiting in front of the screen, so they wait.
+//
+// Wanted:         Search  Refresh  Update   Extract. Packing Getting  Unpack.  Closing
+constexpr std::array<Row, kJobKinds> kTable = {{
+    /* Search */ {kStop, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
+    /* Refresh */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
+    /* Update */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
+    /* Extraction */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
+    /* Packing */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
+    /* Getting */ {kStart, kStart, kStart, kStart, kStart, kRefuse, kWait, kStop},
+    /* Unpacking */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kRefuse, kWait, kStop},
+    /* Closing */ {kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse},
+}};
+
+QString sentenceOf(JobKind running) {
+  switch (running) {
+    case JobKind::Search:
+      return QStringLiteral("A search is running.");
+    case JobKind::Refresh:
+      return QStringLiteral("The local folders are being rescanned.");
+    case JobKind::Update:
+      return QStringLiteral("A web update is running.");
+    case JobKind::Extraction:
+      return QStringLiteral("The main data file is being unpacked.");
+    case JobKind::Packing:
+      return QStringLiteral("Your lists are being packed for sharing.");
+    case JobKind::Getting:
+      return QStringLiteral("Lists are being received from a peer.");
+    case JobKind::Unpacking:
+      return QStringLiteral("Lists that came from a peer are being unpacked.");
+    case JobKind::Closing:
+      break;
+  }
+  return {};
+}
+
+QString subjectOf(JobKind wanted) {
+  switch (wanted) {
+    case JobKind::Search:
+      return QStringLiteral("A search");
+    case JobKind::Refresh:
+      return QStringLiteral("The rescan");
+    case JobKind::Update:
+      return QStringLiteral("The web update");
+    case JobKind::Extraction:
+      return QStringLiteral("Unpacking the main data file");
+    case JobKind::Packing:
+      return QStringLiteral("Packing your lists");
+    case JobKind::Getting:
+      return QStringLiteral("Getting lists");
+    case JobKind::Unpacking:
+      return QStringLiteral("Unpacking received lists");
+    case JobKind::Closing:
+      break;
+  }
+  return {};
+}
+
+}  // namespace
+
+Answer answerWhile(JobKind running, JobKind wanted) {
+  return kTable[static_cast<std::size_t>(running)][static_cast<std::size_t>(wanted)];
+}
+
+QString refusalText(JobKind running, JobKind wanted) {
+  if (running == JobKind::Closing || wanted == JobKind::Closing) return {};
+  if (running == JobKind::Getting && wanted == JobKind::Getting) {
+    return QStringLiteral("Lists are being got already.");
+  }
+  return sentenceOf(running) + u' ' + subjectOf(wanted) +
+         QStringLiteral(" can be started when that has ended.");
+}
+
+}  // namespace quorvin
