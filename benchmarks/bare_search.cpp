@@ -9,32 +9,10 @@
 
 namespace quorvin {
 
-namespace {
-
-class SilentView : public SearchRunView {
- public:
-  void setDesMatch(const QString&) override {}
-  QString findCaption() const override { return caption_; }
-  void setFindCaption(const QString& caption) override { caption_ = caption; }
-  void showFound(std::int64_t) override {}
-  void showSearched(std::int64_t) override {}
-  void clearHits() override {}
-  void hitsArrived() override {}
-  void processEvents() override {}
-  bool endRequested() const override { return false; }
-
- private:
-  QString caption_ = QStringLiteral("Find");
-};
-
-}  // namespace
-
 struct BareSearch::Parts {
-  Parts(SegmentStore& segments, const QLocale& locale)
-      : run(state, view, messages, hits, &segments, locale) {}
+  Parts(SegmentStore& segments, const QLocale& locale) : run({state, messages, locale, &hits, &segments}) {}
 
   ProgramState state;
-  SilentView view;
   RecordedMessages messages;
   DroppedHits hits;
   SearchRun run;

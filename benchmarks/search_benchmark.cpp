@@ -71,19 +71,13 @@ std::shared_ptr<const Segment> builtSegment(std::string_view padded) {
   return builder.segment();
 }
 
-class NeverStop : public ScanListener {
- public:
-  bool reached(std::int64_t) override { return false; }
-};
-
 /// Hits of a search that reads the listing and keeps no segment.
 std::int64_t hitsInPassing(const QByteArray& listing, const SearchQuery& query) {
-  test::MemoryListing source(listing);
-  std::int64_t searched = 0;
+  RunCounts counts;
   DroppedHits hits;
-  NeverStop listener;
   ScanOutcome outcome;
-  scanListing(source, query, QLocale::c(), searched, hits, listener, outcome);
+  const auto neverStop = [](std::int64_t) { return false; };
+  scanListing(test::MemoryListing(listing), {query, QLocale::c(), &hits, neverStop}, counts, outcome);
   return hits.count();
 }
 

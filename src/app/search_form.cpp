@@ -22,8 +22,6 @@ namespace quorvin {
 
 namespace {
 
-constexpr char16_t kIdleCaption[] = u"Find";
-
 /// Settings may hold anything; further out than this no window can be.
 constexpr float kFarthestPixel = 32767;
 
@@ -39,23 +37,24 @@ float toTwips(int pixels) {
 }  // namespace
 
 SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
-                       SegmentStore* images, FilePicker* picker)
+                       SegmentStore* segments, FilePicker* picker)
     : state_(state),
       messages_(messages),
       locale_(locale),
       rows_(hits_, locale),
       controls_(makeControls(new QWidget(this))),
       menus_(makeMenus(menuBar())),
-      display_(*controls_.lblFound, *controls_.lblSearched, rows_),
+      display_(controls_, rows_),
       runMessages_(*this),
-      searchRun_(state, *this, runMessages_, hits_, images, locale),
+      searchRun_(
+          {state, runMessages_, locale, &hits_, segments, &display_, [this] { return endRequested_; }}),
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
       refreshDisplay_(state, *this, locale),
       windows_(state, messages, *this, *this, locale, picker),
       network_(state, runMessages_,
                {*this, *controls_.WebUpdate, [this]() -> Progress& { return refreshDisplay_.progress(); },
                 [this] { return endRequested_; }},
-               menus_, locale, [this] { return isRunning() || state_.RescanRunning; }) {
+               menus_, locale, [this] { return searchRun_.isRunning() || state_.RescanRunning; }) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
   setCentralWidget(controls_.HitList->parentWidget());
@@ -166,50 +165,11 @@ void SearchForm::refreshOnce() {
 }
 
 void SearchForm::stopRun() {
-  if (isRunning()) controls_.Find->click();
-}
-
-bool SearchForm::isRunning() const {
-  return findCaption() != QString::fromUtf16(kIdleCaption);
-}
-
-void SearchForm::setDesMatch(const QString& text) {
-  controls_.DesMatch->setText(text);
-}
-
-QString SearchForm::findCaption() const {
-  return controls_.Find->text();
-}
-
-void SearchForm::setFindCaption(const QString& caption) {
-  controls_.Find->setText(caption);
-  display_.show();
-}
-
-void SearchForm::showFound(std::int64_t count) {
-  display_.setFound(count);
-}
-
-void SearchForm::showSearched(std::int64_t count) {
-  display_.setSearched(count);
-}
-
-void SearchForm::clearHits() {
-  display_.dropRows();
-  rows_.clear();
-}
-
-void SearchForm::hitsArrived() {
-  display_.rowsArrived();
-}
-
-bool SearchForm::endRequested() const {
-  return endRequested_;
+  if (searchRun_.isRunning()) controls_.Find->click();
 }
 
 void SearchForm::processEvents() {
-  display_.showIfDue();
-  QCoreApplication::processEvents();
+  display_.processEvents();
 }
 
 void SearchForm::setVersionCaption(const QString& caption) {

@@ -23,21 +23,17 @@
 
 namespace quorvin {
 
-/// The main window: it shows what the search run and start-up tell it, and hands over what the user does.
+/// The main window: it shows what start-up tells it, and hands over what the user does.
 /// Closing it during a run ends the run at its next yield; the window must live until the handler that
 /// started the run has returned.
-class SearchForm : public QMainWindow,
-                   public SearchRunView,
-                   public StartUpView,
-                   public ShutdownView,
-                   private SourceEditorHost {
+class SearchForm : public QMainWindow, public StartUpView, public ShutdownView, private SourceEditorHost {
   Q_OBJECT
 
  public:
-  /// `state`, `messages`, `shell` and `images` must outlive the window.
+  /// `state`, `messages`, `shell` and `segments` must outlive the window.
   /// Files are picked with `picker`, or, where that is null, with the system's dialogs.
   SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
-             SegmentStore* images = nullptr, FilePicker* picker = nullptr);
+             SegmentStore* segments = nullptr, FilePicker* picker = nullptr);
 
   /// What closing the window does before it closes; it may throw, which is told and keeps the window open.
   void setUnloadHandler(std::function<void()> handler) { unloadHandler_ = std::move(handler); }
@@ -66,19 +62,8 @@ class SearchForm : public QMainWindow,
   const ItemMenu& itemMenu() const { return hitActions_.itemMenu(); }
   const SearchFormMenus& menus() const { return menus_; }
 
-  // For the search run.
-  void setDesMatch(const QString& text) override;
-  QString findCaption() const override;
-  void setFindCaption(const QString& caption) override;
-  void showFound(std::int64_t count) override;
-  void showSearched(std::int64_t count) override;
-  void clearHits() override;
-  void hitsArrived() override;
-  bool endRequested() const override;
-  /// For start-up too.
-  void processEvents() override;
-
   // For start-up.
+  void processEvents() override;
   void setVersionCaption(const QString& caption) override;
   void setWebUpdateEnabled(bool enabled) override;
   float placement(PlacementKey key) const override;
@@ -123,7 +108,6 @@ class SearchForm : public QMainWindow,
   void ReScan_Click();
   void refreshOnce();
   void stopRun();
-  bool isRunning() const;
   void layOut();
   bool isRestored(const QEvent& event) const;
   void limitSize();
@@ -137,7 +121,7 @@ class SearchForm : public QMainWindow,
   HitListModel rows_;
   SearchFormControls controls_;
   SearchFormMenus menus_;
-  RunDisplay display_;
+  SearchFormDisplay display_;
   RunMessages runMessages_;
   SearchRun searchRun_;
   SearchFormHits hitActions_;

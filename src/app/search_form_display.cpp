@@ -1,5 +1,8 @@
 #include "app/search_form_display.h"
 
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QString>
 
 namespace quorvin {
@@ -16,18 +19,37 @@ void showCount(QLabel& label, std::optional<std::int64_t>& count) {
 
 }  // namespace
 
-RunDisplay::RunDisplay(QLabel& found, QLabel& searched, HitListModel& rows)
-    : foundLabel_(found), searchedLabel_(searched), rows_(rows) {}
+SearchFormDisplay::SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows)
+    : controls_(controls), rows_(rows) {}
 
-void RunDisplay::showIfDue() {
-  if (sinceShown_.isValid() && !sinceShown_.hasExpired(kMillisecondsBetweenShowings)) return;
+void SearchFormDisplay::setDesMatch(const QString& text) {
+  controls_.DesMatch->setText(text);
+}
+
+void SearchFormDisplay::runStarted() {
+  controls_.Find->setText(QStringLiteral("Stop"));
   show();
 }
 
-void RunDisplay::show() {
+void SearchFormDisplay::runEnded() {
+  controls_.Find->setText(QStringLiteral("Find"));
+  show();
+}
+
+void SearchFormDisplay::clearHits() {
+  hasNewRows_ = false;
+  rows_.clear();
+}
+
+void SearchFormDisplay::processEvents() {
+  if (!sinceShown_.isValid() || sinceShown_.hasExpired(kMillisecondsBetweenShowings)) show();
+  QCoreApplication::processEvents();
+}
+
+void SearchFormDisplay::show() {
   sinceShown_.start();
-  showCount(foundLabel_, found_);
-  showCount(searchedLabel_, searched_);
+  showCount(*controls_.lblFound, found_);
+  showCount(*controls_.lblSearched, searched_);
   if (!hasNewRows_) return;
   hasNewRows_ = false;
   rows_.hitsArrived();

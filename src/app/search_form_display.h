@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/hit_list_model.h"
+#include "app/search_form_controls.h"
+#include "search/search_run.h"
 
 #include <QElapsedTimer>
 #include <QLabel>
@@ -11,28 +13,28 @@
 
 namespace quorvin {
 
-/// Collects the counts and rows of a run and puts them on the screen 60 times a second at most. A run tells
-/// its counts at every 2000th entry, which is up to a million times a second; writing a label each time would
-/// cost more than the search itself.
-class RunDisplay {
+/// Shows a run in the window's controls. Counts and rows are collected and put on the screen 60 times a
+/// second at most: a run reports its counts at every 2000th entry, which is up to a million times a second,
+/// and writing a label each time would cost more than the search itself.
+class SearchFormDisplay : public RunDisplay {
  public:
-  /// All of these must outlive the display.
-  RunDisplay(QLabel& found, QLabel& searched, HitListModel& rows);
+  /// `controls` and `rows` must outlive the display.
+  SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows);
 
-  void setFound(std::int64_t count) { found_ = count; }
-  void setSearched(std::int64_t count) { searched_ = count; }
-  void rowsArrived() { hasNewRows_ = true; }
-  /// Rows that were told of and not shown yet are gone.
-  void dropRows() { hasNewRows_ = false; }
+  void setDesMatch(const QString& text) override;
+  void runStarted() override;
+  void runEnded() override;
+  void showFound(std::int64_t count) override { found_ = count; }
+  void showSearched(std::int64_t count) override { searched_ = count; }
+  void clearHits() override;
+  void hitsArrived() override { hasNewRows_ = true; }
+  void processEvents() override;
 
-  /// Shows what is new, unless something was shown a moment ago.
-  void showIfDue();
-  /// Shows what is new.
+  /// Shows what is new at once.
   void show();
 
  private:
-  QLabel& foundLabel_;
-  QLabel& searchedLabel_;
+  const SearchFormControls& controls_;
   HitListModel& rows_;
   std::optional<std::int64_t> found_;
   std::optional<std::int64_t> searched_;

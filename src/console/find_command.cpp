@@ -16,23 +16,6 @@ namespace quorvin {
 
 namespace {
 
-/// The run's view without a window: only the request to stop comes through.
-class ConsoleView : public SearchRunView {
- public:
-  void setDesMatch(const QString&) override {}
-  QString findCaption() const override { return caption_; }
-  void setFindCaption(const QString& caption) override { caption_ = caption; }
-  void showFound(std::int64_t) override {}
-  void showSearched(std::int64_t) override {}
-  void clearHits() override {}
-  void hitsArrived() override {}
-  void processEvents() override {}
-  bool endRequested() const override { return stopSignalled(); }
-
- private:
-  QString caption_ = QStringLiteral("Find");
-};
-
 void search(const FindRequest& request, SearchRun& run) {
   if (request.listings.empty()) {
     run.Find_Click(request.searchText, request.desiredMatch);
@@ -51,11 +34,14 @@ int runFind(const FindRequest& request) {
   const QLocale locale;
   ProgramState state;
   ErrorLines messages;
-  ConsoleView view;
-  HitWriter writer(stdout, request.format, request.countOnly, locale);
+  HitWriter writer(stdout, request.format, locale);
   std::optional<SegmentStore> segments;
   if (request.useCache) segments.emplace(SegmentStore::defaultOptions(SegmentUse::Once));
-  SearchRun run(state, view, messages, writer, segments ? &*segments : nullptr, locale);
+  RunParts parts{state, messages, locale};
+  parts.hits = request.countOnly ? nullptr : &writer;
+  parts.segments = segments ? &*segments : nullptr;
+  parts.endRequested = stopSignalled;
+  SearchRun run(std::move(parts));
   bool failed = false;
   try {
     if (request.listings.empty()) loadOwnSources(state, locale);

@@ -50,17 +50,18 @@ QString hitLine(const HitRow& row, HitFormat format, const QLocale& locale) {
   return line;
 }
 
-HitWriter::HitWriter(std::FILE* output, HitFormat format, bool countOnly, const QLocale& locale)
-    : output_(output), format_(format), countOnly_(countOnly), locale_(locale) {}
+HitWriter::HitWriter(std::FILE* output, HitFormat format, const QLocale& locale)
+    : output_(output), format_(format), locale_(locale) {}
 
-void HitWriter::beginListing(SourceKind kind) {
+void HitWriter::startListing(SourceKind kind) {
   kind_ = kind;
   values_ = {};
 }
 
-void HitWriter::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
-  if (!countOnly_) addLines(*segment, hits);
+bool HitWriter::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
+  addLines(*segment, hits);
   if (buffer_.size() >= kBufferSize) flush();
+  return good_;
 }
 
 void HitWriter::addLines(const Segment& segment, std::span<const FoundEntry> hits) {

@@ -1,8 +1,8 @@
 // Hits as lines of text.
 #pragma once
 
+#include "search/hit_sink.h"
 #include "search/hit_table.h"
-#include "search/match/hit_receiver.h"
 
 #include <QLocale>
 #include <QString>
@@ -20,20 +20,19 @@ enum class HitFormat { Tsv, Csv, Json };
 /// volume, folder, name, size and date.
 QString hitLine(const HitRow& row, HitFormat format, const QLocale& locale);
 
-/// Writes each hit as soon as it comes and keeps none.
-class HitWriter : public HitReceiver {
+/// Writes each hit as soon as it comes and keeps none. Wants no more of them once a write has failed.
+class HitWriter : public HitSink {
  public:
-  /// `output` must outlive the writer. With `countOnly` hits are counted and not written.
-  HitWriter(std::FILE* output, HitFormat format, bool countOnly, const QLocale& locale);
+  /// `output` must outlive the writer.
+  HitWriter(std::FILE* output, HitFormat format, const QLocale& locale);
 
   /// Whether all output so far has been taken; false once a write failed.
   bool good() const { return good_; }
   /// Hands what is still buffered to the output.
   void flush();
 
-  void beginListing(SourceKind kind) override;
-  void addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
-  bool countsOnly() const override { return countOnly_; }
+  void startListing(SourceKind kind) override;
+  bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
   void endSegment(const std::shared_ptr<const Segment>& segment,
                   const std::shared_ptr<const Segment>& kept) override;
 
@@ -42,7 +41,6 @@ class HitWriter : public HitReceiver {
 
   std::FILE* output_;
   HitFormat format_;
-  bool countOnly_;
   QLocale locale_;
   SourceKind kind_ = SourceKind::Online;
   /// Size and date last read in the current listing.

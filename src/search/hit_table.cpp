@@ -89,14 +89,14 @@ void HitTable::clear() {
   valuesSeen_ = false;
 }
 
-void HitTable::beginListing(SourceKind kind) {
+void HitTable::startListing(SourceKind kind) {
   kind_ = kind;
   listingBegins_ = true;
   valuesSeen_ = false;
 }
 
-void HitTable::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
-  if (hits.empty()) return;
+bool HitTable::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
+  if (hits.empty()) return true;
   // First what may throw: then none of these hits has been taken.
   const bool allOwn = findOwnValues(*segment, hits);
   if (listingBegins_ || segments_.back().segment != segment) segments_.push_back({rowCount_, segment, kind_});
@@ -120,6 +120,7 @@ void HitTable::addHits(const std::shared_ptr<const Segment>& segment, std::span<
     rowCount_ += static_cast<std::int64_t>(count);
     hits = hits.subspan(count);
   }
+  return true;
 }
 
 /// Fills `ownValues_`, but for the usual case that all hits have values of their own: then it gives true.

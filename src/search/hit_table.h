@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dates/general_date.h"
-#include "search/match/hit_receiver.h"
+#include "search/hit_sink.h"
 
 #include <QLocale>
 #include <QString>
@@ -37,7 +37,7 @@ QString hitText(const HitRow& row, HitColumn column, const QLocale& locale);
 
 /// Keeps hits as references into segments, 8 bytes each, and 16 for each stretch of hits without values of
 /// their own.
-class HitTable : public HitReceiver {
+class HitTable : public HitSink {
  public:
   /// The number of rows so far.
   std::int64_t rowCount() const { return rowCount_; }
@@ -50,8 +50,8 @@ class HitTable : public HitReceiver {
   /// Removes all rows and lets go of the segments.
   void clear();
 
-  void beginListing(SourceKind kind) override;
-  void addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
+  void startListing(SourceKind kind) override;
+  bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
   void endSegment(const std::shared_ptr<const Segment>& segment,
                   const std::shared_ptr<const Segment>& kept) override;
 

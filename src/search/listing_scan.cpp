@@ -2,36 +2,102 @@
 
 #include "faults/runtime_fault.h"
 #include "files/sequential_file.h"
-#include "search/entry_search.h"
-#include "search/format/listing_text.h"
 #include "search/segment/segment_builder.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace quorvin {
 
 namespace {
 
-class FileSource : public ListingSource {
+/// Searches the entries of one listing, however its segments come about, in steps between which events run.
+class EntrySearch {
  public:
-  explicit FileSource(const QString& path) : file_(path) {}
-  std::size_t read(std::span<char> buffer) override { return file_.read(buffer); }
+  EntrySearch(const ScanRequest& request, RunCounts& counts, ScanOutcome& outcome)
+      : request_(request), search_(request.query), counts_(counts), outcome_(outcome) {}
+
+  /// Searches entries `first` to `last` - 1 of `segment`, yielding at every 2000th entry of the run. For a
+  /// segment that is still being built, `builder` reads the values of the hits.
+  void search(const std::shared_ptr<const Segment>& segment, std::uint32_t first, std::uint32_t last,
+              SegmentBuilder* builder = nullptr) {
+    while (first < last && !outcome_.stopped) {
+      const std::int64_t toYield = kEntriesBetweenYields - counts_.searched % kEntriesBetweenYields;
+      const auto count = static_cast<std::uint32_t>(std::min<std::int64_t>(toYield, last - first));
+      searchStep(segment, first, first + count, builder);
+      first += count;
+      searched_ += count;
+      counts_.searched += count;
+      if (count == toYield && request_.yield(counts_.searched)) outcome_.stopped = true;
+    }
+  }
+
+  void endSegment(const std::shared_ptr<const Segment>& segment, const std::shared_ptr<const Segment>& kept) {
+    if (request_.hits != nullptr) request_.hits->endSegment(segment, kept);
+  }
+
+  /// Entries of the listing searched so far.
+  std::int64_t searched() const { return searched_; }
+  bool stopped() const { return outcome_.stopped; }
 
  private:
-  SequentialFile file_;
+  void searchStep(const std::shared_ptr<const Segment>& segment, std::uint32_t first, std::uint32_t last,
+                  SegmentBuilder* builder) {
+    if (request_.hits == nullptr && builder == nullptr && segment->arrays().unreadable.empty()) {
+      counts_.hits += search_.count(*segment, first, last);
+      return;
+    }
+    found_.clear();
+    search_.search(*segment, first, last, found_);
+    if (found_.empty()) return;
+    if (builder != nullptr) readValues(*builder);
+    report(segment);
+  }
+
+  void readValues(SegmentBuilder& builder) {
+    for (const FoundEntry& hit : found_) builder.readValues(hit.entry);
+    builder.segment()->publish();
+  }
+
+  void report(const std::shared_ptr<const Segment>& segment) {
+    // The values first: they may turn out to be damaged, and then none of these hits has been reported yet.
+    std::int64_t unreadable = 0;
+    std::int64_t firstLine = 0;
+    if (!segment->arrays().unreadable.empty() &&
+        !segment->allOwn(found_.front().entry, found_.back().entry)) {
+      for (const FoundEntry& hit : found_) {
+        if (segment->valueState(hit.entry) != ValueState::Unreadable) continue;
+        if (unreadable++ == 0) firstLine = segment->unreadableLine(hit.entry);
+      }
+    }
+    if (request_.hits != nullptr && !request_.hits->addHits(segment, found_)) {
+      outcome_.stopped = outcome_.enough = true;
+    }
+    counts_.hits += static_cast<std::int64_t>(found_.size());
+    if (unreadable > 0 && outcome_.unreadableHits == 0) outcome_.firstUnreadableLine = firstLine;
+    outcome_.unreadableHits += unreadable;
+  }
+
+  const ScanRequest& request_;
+  SegmentSearch search_;
+  RunCounts& counts_;
+  ScanOutcome& outcome_;
+  std::int64_t searched_ = 0;
+  std::vector<FoundEntry> found_;
 };
 
-/// A scan that reads the listing: chunks become entries of an segment, and the entries are searched.
+/// A scan that reads the listing: chunks become entries of a segment, and the entries are searched.
 class BuildingScan {
  public:
-  /// The first `alreadySearched` entries are read but not searched again. `recorder` may be null.
-  BuildingScan(ListingSource& source, const QLocale& locale, EntrySearch& search, HitReceiver& hits,
-               std::int64_t alreadySearched, SegmentStore::Recorder* recorder, const ScanLimits& limits)
+  /// Entries that `search` has been through already are read but not searched again. `recorder` may be null.
+  BuildingScan(ListingReader read, const QLocale& locale, EntrySearch& search,
+               SegmentStore::Recorder* recorder, const ScanLimits& limits)
       : builder_(locale),
-        text_(source, limits.chunkSize),
+        text_(std::move(read), limits.chunkSize),
         search_(search),
-        receiver_(hits),
-        toSkip_(alreadySearched),
+        toSkip_(search.searched()),
         recorder_(recorder),
         limits_(limits) {}
 
@@ -62,10 +128,7 @@ class BuildingScan {
     const std::uint32_t count = builder_.segment()->entryCount();
     const auto skipped = static_cast<std::uint32_t>(std::min<std::int64_t>(toSkip_, count - nextEntry_));
     toSkip_ -= skipped;
-    search_.search(builder_.segment(), nextEntry_ + skipped, count, [this](std::span<const FoundEntry> hits) {
-      for (const FoundEntry& hit : hits) builder_.readValues(hit.entry);
-      builder_.segment()->publish();
-    });
+    search_.search(builder_.segment(), nextEntry_ + skipped, count, &builder_);
     nextEntry_ = count;
   }
 
@@ -82,7 +145,7 @@ class BuildingScan {
       builder_.segment()->complete();
       kept = recorder_->add(builder_.segment());
     }
-    receiver_.endSegment(builder_.segment(), kept);
+    search_.endSegment(builder_.segment(), kept);
     builder_.beginSegment();
     nextEntry_ = 0;
     segmentBytes_ = 0;
@@ -91,7 +154,6 @@ class BuildingScan {
   SegmentBuilder builder_;
   ListingText text_;
   EntrySearch& search_;
-  HitReceiver& receiver_;
   std::int64_t toSkip_;
   SegmentStore::Recorder* recorder_;
   const ScanLimits& limits_;
@@ -106,12 +168,12 @@ bool wasWritten(const FileIdentity& before, const FileIdentity& now) {
 }
 
 /// Searches segments that are known. False where one was damaged; what was searched before it stands.
-bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search, HitReceiver& hits) {
+bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search) {
   try {
     for (const auto& segment : segments) {
       search.search(segment, 0, segment->entryCount());
       segment->searched();
-      hits.endSegment(segment, segment);
+      search.endSegment(segment, segment);
     }
   } catch (const DamagedSegment&) {
     return false;
@@ -121,31 +183,29 @@ bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search,
 
 }  // namespace
 
-void scanListing(ListingSource& source, const SearchQuery& query, const QLocale& locale,
-                 std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome,
+void scanListing(ListingReader read, const ScanRequest& request, RunCounts& counts, ScanOutcome& outcome,
                  const ScanLimits& limits) {
   outcome = {};
-  EntrySearch search(query, searchedCount, hits, listener, outcome);
-  BuildingScan(source, locale, search, hits, 0, nullptr, limits).run();
+  EntrySearch search(request, counts, outcome);
+  BuildingScan(std::move(read), request.locale, search, nullptr, limits).run();
 }
 
-void scanListingFile(const QString& path, SegmentStore* store, const SearchQuery& query,
-                     const QLocale& locale, std::int64_t& searchedCount, HitReceiver& hits,
-                     ScanListener& listener, ScanOutcome& outcome, const ScanLimits& limits) {
+void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest& request, RunCounts& counts,
+                     ScanOutcome& outcome, const ScanLimits& limits) {
   outcome = {};
-  EntrySearch search(query, searchedCount, hits, listener, outcome);
-  const std::optional<SegmentKey> key = segmentKeyOf(path, locale);
+  EntrySearch search(request, counts, outcome);
+  const std::optional<SegmentKey> key = segmentKeyOf(path, request.locale);
   if (store != nullptr && key) {
     const SegmentStore::Segments segments = store->find(*key);
-    if (!segments.empty() && searchSegments(segments, search, hits)) return;
+    if (!segments.empty() && searchSegments(segments, search)) return;
     if (!segments.empty()) store->forget(key->listing);
   }
-  FileSource source(path);
+  SequentialFile file(path);
   std::optional<SegmentStore::Recorder> recorder;
   if (store != nullptr && key) recorder.emplace(*store, *key);
-  BuildingScan(source, locale, search, hits, search.searched(), recorder ? &*recorder : nullptr, limits)
-      .run();
-  const std::optional<SegmentKey> keyNow = segmentKeyOf(path, locale);
+  const auto read = [&file](std::span<char> buffer) { return file.read(buffer); };
+  BuildingScan(read, request.locale, search, recorder ? &*recorder : nullptr, limits).run();
+  const std::optional<SegmentKey> keyNow = segmentKeyOf(path, request.locale);
   outcome.changedMeanwhile = key && keyNow && wasWritten(key->identity, keyNow->identity);
   if (recorder && !outcome.stopped && keyNow == key) recorder->finish();
 }

@@ -1,8 +1,8 @@
 // Scanning one listing from its start to its end.
 #pragma once
 
-#include "search/format/listing_source.h"
-#include "search/match/hit_receiver.h"
+#include "search/format/listing_text.h"
+#include "search/hit_sink.h"
 #include "search/match/search_query.h"
 #include "search/segment/segment_store.h"
 
@@ -11,24 +11,36 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 
 namespace quorvin {
 
-/// What a scan asks of the run around it.
-class ScanListener {
- public:
-  virtual ~ScanListener() = default;
-  /// Comes each time that the searched count of the run has become a multiple of 2000: the moment to show
-  /// counts and let events run. True asks the scan to stop at once.
-  virtual bool reached(std::int64_t searchedCount) = 0;
+/// The counts of a run. Each scan adds its own.
+struct RunCounts {
+  std::int64_t searched = 0;
+  std::int64_t hits = 0;
 };
 
 /// Events are let run each time this many entries have been searched.
 inline constexpr std::int64_t kEntriesBetweenYields = 2000;
 
+/// What a run hands to each of its scans. All of it must outlive the scan.
+struct ScanRequest {
+  const SearchQuery& query;
+  /// The locale in which the listings' sizes and dates are read.
+  QLocale locale;
+  /// Where hits go; null where only their number is wanted.
+  HitSink* hits;
+  /// Called each time that the run's searched count has become a multiple of 2000: the moment to show counts
+  /// and let events run. True stops the scan at once.
+  std::function<bool(std::int64_t searchedCount)> yield;
+};
+
 /// How a scan ended.
 struct ScanOutcome {
   bool stopped = false;
+  /// Stopped because the sink wants no more hits.
+  bool enough = false;
   /// Hits whose size or date could not be read, and the line of the first of them (from 1; 0 if none).
   std::int64_t unreadableHits = 0;
   std::int64_t firstUnreadableLine = 0;
@@ -49,18 +61,17 @@ struct ScanLimits {
   std::size_t keptSegment = std::size_t{64} << 20;
 };
 
-/// Scans a listing for `query`. `searchedCount` is the run's and is raised by one for each entry; hits go to
-/// `hits` in file order. Only one chunk, one segment and the hits are in memory. Throws RuntimeFault when
-/// reading fails or a line is too long (fault 6, naming the line); `outcome` and the hits up to there stand.
-void scanListing(ListingSource& source, const SearchQuery& query, const QLocale& locale,
-                 std::int64_t& searchedCount, HitReceiver& hits, ScanListener& listener, ScanOutcome& outcome,
+/// Scans the listing that `read` reads. `counts` is raised by the entries searched and the hits; hits go to
+/// the sink in file order. Only one chunk, one segment and the hits are in memory. Throws RuntimeFault when
+/// reading fails or a line is too long (fault 6, naming the line); `outcome`, `counts` and the hits up to
+/// there stand.
+void scanListing(ListingReader read, const ScanRequest& request, RunCounts& counts, ScanOutcome& outcome,
                  const ScanLimits& limits = {});
 
 /// The same for the listing file at `path`, from its segments in `store` where they are known; else they are
 /// built and handed to the store. `store` may be null. Segments that turn out to be damaged are built anew,
 /// and the scan goes on where it was.
-void scanListingFile(const QString& path, SegmentStore* store, const SearchQuery& query,
-                     const QLocale& locale, std::int64_t& searchedCount, HitReceiver& hits,
-                     ScanListener& listener, ScanOutcome& outcome, const ScanLimits& limits = {});
+void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest& request, RunCounts& counts,
+                     ScanOutcome& outcome, const ScanLimits& limits = {});
 
 }  // namespace quorvin

@@ -5,30 +5,18 @@
 #include "files/file_lookup.h"
 #include "platform/text_encoding.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 
 namespace quorvin {
 
 namespace {
 
-constexpr char16_t kIdleCaption[] = u"Find";
-constexpr char16_t kRunningCaption[] = u"Stop";
 constexpr char16_t kListingEnding[] = u".txt";
 
-/// Messages name at most this many listings; the rest is told as a number.
+/// Messages name at most this many listings; the rest is given as a number.
 constexpr std::size_t kMostListingsNamed = 10;
-
-/// Gives the button its idle caption back however a run ends.
-class RunningCaption {
- public:
-  explicit RunningCaption(SearchRunView& view) : view_(view) {}
-  ~RunningCaption() { view_.setFindCaption(QString::fromUtf16(kIdleCaption)); }
-  RunningCaption(const RunningCaption&) = delete;
-  RunningCaption& operator=(const RunningCaption&) = delete;
-
- private:
-  SearchRunView& view_;
-};
 
 QString text(const char16_t* literal) {
   return QString::fromUtf16(literal);
@@ -41,136 +29,85 @@ std::int16_t correctedMatch(const QString& desMatch) {
 
 }  // namespace
 
-/// Stands between the scan and the window: counts, rows and events at each yield.
-class SearchRun::Listener : public ScanListener, public HitReceiver {
- public:
-  explicit Listener(SearchRun& run) : run_(run) {}
-
-  bool reached(std::int64_t searchedCount) override {
-    showHits();
-    run_.view_.showSearched(searchedCount);
-    run_.view_.processEvents();
-    if (run_.view_.endRequested()) return true;
-    if (!run_.state_.AbortRequested) return false;
-    run_.view_.showSearched(searchedCount);
-    run_.state_.AbortRequested = false;
-    return true;
-  }
-
-  void beginListing(SourceKind kind) override { run_.hits_.beginListing(kind); }
-
-  void addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override {
-    run_.hits_.addHits(segment, hits);
-    run_.hitCount_ += static_cast<std::int64_t>(hits.size());
-    newHits_ = true;
-  }
-
-  bool countsOnly() const override { return run_.hits_.countsOnly(); }
-
-  void addCount(std::int64_t hits) override {
-    run_.hitCount_ += hits;
-    newHits_ = newHits_ || hits > 0;
-  }
-
-  void endSegment(const std::shared_ptr<const Segment>& segment,
-                  const std::shared_ptr<const Segment>& kept) override {
-    // The rows first: they were announced by nobody yet, and the segment may now be replaced under them.
-    showHits();
-    run_.hits_.endSegment(segment, kept);
-  }
-
-  void showHits() {
-    if (!newHits_) return;
-    newHits_ = false;
-    run_.view_.showFound(run_.hitCount_);
-    run_.view_.hitsArrived();
-  }
-
- private:
-  SearchRun& run_;
-  bool newHits_ = false;
-};
-
-SearchRun::SearchRun(ProgramState& state, SearchRunView& view, MessageBoxes& messages, HitReceiver& hits,
-                     SegmentStore* segments, const QLocale& locale, PathStyle style)
-    : state_(state),
-      view_(view),
-      messages_(messages),
-      hits_(hits),
-      segments_(segments),
-      locale_(locale),
-      style_(style) {}
-
 void SearchRun::Find_Click(const QString& searchText, const QString& desMatch) {
-  if (view_.findCaption() != text(kIdleCaption)) {
-    state_.AbortRequested = true;
+  if (isRunning_) {
+    parts_.state.AbortRequested = true;
     return;
   }
-  if (!begin(searchText, desMatch)) return;
-  {
-    const RunningCaption running(view_);
-    if (searchSources()) view_.showSearched(searchedCount_);
-  }
-  tellUnreadable();
-  tellChanged();
+  run(searchText, desMatch, [this] { searchSources(); });
 }
 
 void SearchRun::searchListings(const QString& searchText, const QString& desMatch,
                                const std::vector<QString>& paths) {
-  if (!begin(searchText, desMatch)) return;
-  {
-    const RunningCaption running(view_);
+  run(searchText, desMatch, [&] {
     for (const QString& path : paths) {
-      if (!view_.endRequested()) searchIfFound(path, SourceKind::Offline);
+      if (!isEnding()) searchIfFound(path, SourceKind::Offline);
     }
-    view_.showSearched(searchedCount_);
-  }
-  tellUnreadable();
-  tellChanged();
+    showSearched();
+  });
 }
 
-bool SearchRun::begin(const QString& searchText, const QString& desMatch) {
-  hitCount_ = 0;
+void SearchRun::run(const QString& searchText, const QString& desMatch,
+                    const std::function<void()>& searchListings) {
+  counts_.hits = 0;
   const std::int16_t desiredMatch = correctedMatch(desMatch);
-  view_.setDesMatch(QString::number(desiredMatch));
+  if (parts_.display != nullptr) parts_.display->setDesMatch(QString::number(desiredMatch));
   const QString lowered = simpleLowerCase(searchText);
-  if (lowered.isEmpty()) return false;
+  if (lowered.isEmpty()) return;
   query_ = SearchQuery(lowered, desiredMatch);
-  searchedCount_ = 0;
+  {
+    const auto ending = qScopeGuard([this] { end(); });
+    start();
+    searchListings();
+  }
+  reportUnreadable();
+  reportChanged();
+}
+
+void SearchRun::start() {
+  counts_ = {};
+  shownHits_ = 0;
+  enough_ = false;
   failedListings_ = 0;
   unreadable_.clear();
   changed_.clear();
-  view_.showFound(0);
-  view_.setFindCaption(text(kRunningCaption));
-  view_.clearHits();
-  return true;
+  isRunning_ = true;
+  if (parts_.display == nullptr) return;
+  parts_.display->showFound(0);
+  parts_.display->runStarted();
+  parts_.display->clearHits();
 }
 
-/// False when a missing main data file ended the run.
-bool SearchRun::searchSources() {
+void SearchRun::end() {
+  isRunning_ = false;
+  if (parts_.display != nullptr) parts_.display->runEnded();
+}
+
+void SearchRun::searchSources() {
   searchOnlineSources();
-  if (!searchMainDataFile()) return false;
+  if (!searchMainDataFile()) return;
   searchOfflineSources();
-  return true;
+  showSearched();
 }
 
 void SearchRun::searchOnlineSources() {
-  for (int row = 1; row <= state_.OnlineSourceCount && !view_.endRequested(); ++row) {
-    const QString& description = state_.OnlineSources.description(row);
-    searchIfFound(state_.LocalFolder + description + text(kListingEnding), SourceKind::Online);
+  for (int row = 1; row <= parts_.state.OnlineSourceCount && !isEnding(); ++row) {
+    const QString& description = parts_.state.OnlineSources.description(row);
+    searchIfFound(parts_.state.LocalFolder + description + text(kListingEnding), SourceKind::Online);
   }
 }
 
+/// False when it is missing, which ends the run.
 bool SearchRun::searchMainDataFile() {
-  const QString& file = state_.TextFile;
-  if (file.isEmpty() || view_.endRequested()) return true;
-  const QString path = isTakenAsItStands(file, style_) ? file : state_.LocalFolder + file;
+  const QString& file = parts_.state.TextFile;
+  if (file.isEmpty() || isEnding()) return true;
+  const QString path = isTakenAsItStands(file, parts_.style) ? file : parts_.state.LocalFolder + file;
   return searchIfFound(path, SourceKind::MainDataFile);
 }
 
 void SearchRun::searchOfflineSources() {
-  for (int row = 1; row <= state_.OfflineSourceCount && !view_.endRequested(); ++row) {
-    searchIfFound(state_.OfflineSources.path(row), SourceKind::Offline);
+  for (int row = 1; row <= parts_.state.OfflineSourceCount && !isEnding(); ++row) {
+    searchIfFound(parts_.state.OfflineSources.path(row), SourceKind::Offline);
   }
 }
 
@@ -180,33 +117,57 @@ bool SearchRun::searchIfFound(const QString& path, SourceKind kind) {
     return true;
   }
   ++failedListings_;
-  messages_.inform(QStringLiteral("Listing file not found: ") + path);
+  parts_.messages.inform(QStringLiteral("Listing file not found: ") + path);
   return false;
 }
 
 void SearchRun::scan(const QString& path, SourceKind kind) {
-  Listener listener(*this);
   ScanOutcome outcome;
-  listener.beginListing(kind);
+  if (parts_.hits != nullptr) parts_.hits->startListing(kind);
   try {
-    scanListingFile(path, segments_, query_, locale_, searchedCount_, listener, listener, outcome);
+    const ScanRequest request{query_, parts_.locale, parts_.hits, [this](std::int64_t) { return yield(); }};
+    scanListingFile(path, parts_.segments, request, counts_, outcome);
   } catch (const RuntimeFault& fault) {
     ++failedListings_;
-    messages_.inform(
+    parts_.messages.inform(
         QStringLiteral("The listing %1 could not be searched to its end.\r\nRun-time error '%2': "
                        "%3\r\nThe hits found in it so far are kept.")
             .arg(path)
             .arg(fault.number())
             .arg(fault.description()));
   }
-  listener.showHits();
-  view_.showSearched(searchedCount_);
+  enough_ = outcome.enough;
+  showHits();
+  showSearched();
   if (outcome.unreadableHits > 0) unreadable_.push_back({path, outcome});
   if (outcome.changedMeanwhile) changed_ += path;
 }
 
-void SearchRun::tellUnreadable() {
-  if (unreadable_.empty() || view_.endRequested()) return;
+/// Shows counts and rows and lets events run; true stops the scan.
+bool SearchRun::yield() {
+  showHits();
+  showSearched();
+  if (parts_.display != nullptr) parts_.display->processEvents();
+  if (parts_.endRequested()) return true;
+  if (!parts_.state.AbortRequested) return false;
+  showSearched();
+  parts_.state.AbortRequested = false;
+  return true;
+}
+
+void SearchRun::showHits() {
+  if (parts_.display == nullptr || counts_.hits == shownHits_) return;
+  shownHits_ = counts_.hits;
+  parts_.display->showFound(counts_.hits);
+  parts_.display->hitsArrived();
+}
+
+void SearchRun::showSearched() {
+  if (parts_.display != nullptr) parts_.display->showSearched(counts_.searched);
+}
+
+void SearchRun::reportUnreadable() {
+  if (unreadable_.empty() || isEnding()) return;
   QString message = QStringLiteral(
       "The size or date of some hits could not be read. They are shown with the size and date of the hit "
       "before them.");
@@ -221,11 +182,11 @@ void SearchRun::tellUnreadable() {
   if (unreadable_.size() > named) {
     message += QStringLiteral("\r\nand in %1 more listings").arg(unreadable_.size() - named);
   }
-  messages_.inform(message);
+  parts_.messages.inform(message);
 }
 
-void SearchRun::tellChanged() {
-  if (changed_.isEmpty() || view_.endRequested()) return;
+void SearchRun::reportChanged() {
+  if (changed_.isEmpty() || isEnding()) return;
   const auto named = std::min(changed_.size(), static_cast<qsizetype>(kMostListingsNamed));
   QString message =
       QStringLiteral(
@@ -235,7 +196,7 @@ void SearchRun::tellChanged() {
   if (changed_.size() > named) {
     message += QStringLiteral("\r\nand %1 more listings").arg(changed_.size() - named);
   }
-  messages_.inform(message);
+  parts_.messages.inform(message);
 }
 
 }  // namespace quorvin

@@ -38,17 +38,18 @@ TEST(HitWriter, TellsWhenTheOutputTakesNoMore) {
   std::FILE* full = std::fopen("/dev/full", "w");
   ASSERT_NE(full, nullptr);
   std::setvbuf(full, nullptr, _IONBF, 0);
-  HitWriter writer(full, HitFormat::Tsv, false, QLocale::c());
+  HitWriter writer(full, HitFormat::Tsv, QLocale::c());
   EXPECT_TRUE(writer.good());
   const auto segment = std::make_shared<GrowingSegment>();
   segment->beginBlock("V", "\\", true);
   segment->addEntry("song", true);
   segment->publish();
   const FoundEntry hit{0, 100};
-  writer.beginListing(SourceKind::Online);
+  writer.startListing(SourceKind::Online);
   writer.addHits(segment, {&hit, 1});
   writer.flush();
   EXPECT_FALSE(writer.good());
+  EXPECT_FALSE(writer.addHits(segment, {&hit, 1}));
   std::fclose(full);
 }
 

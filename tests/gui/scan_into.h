@@ -8,12 +8,11 @@ namespace quorvin::test {
 /// Adds the hits of `lowerSearchText` in `listing`, with a desired match of 50, to `table`.
 inline void scanInto(HitTable& table, SourceKind kind, const QByteArray& listing,
                      const QString& lowerSearchText) {
-  MemoryListing source(listing);
-  YieldLog yields;
+  const SearchQuery query(lowerSearchText, 50);
+  RunCounts counts;
   ScanOutcome outcome;
-  std::int64_t searched = 0;
-  table.beginListing(kind);
-  scanListing(source, SearchQuery(lowerSearchText, 50), QLocale::c(), searched, table, yields, outcome);
+  table.startListing(kind);
+  scanListing(MemoryListing(listing), {query, QLocale::c(), &table, YieldLog()}, counts, outcome);
 }
 
 }  // namespace quorvin::test

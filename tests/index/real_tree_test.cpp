@@ -42,15 +42,10 @@ class RealTree : public test::RefreshTest {
 
   // The hits of a search for `words`, in the listing that the refresh has made.
   HitTable search(const QString& words) {
-    HitTable table;
-    test::YieldLog yields;
-    ScanOutcome outcome;
-    std::int64_t searched = 0;
-    table.beginListing(SourceKind::Online);
-    scanListingFile(data.pathOf(u"Real.txt"_qs), &images_, SearchQuery(simpleLowerCase(words), 99),
-                    QLocale::c(), searched, table, yields, outcome);
-    EXPECT_EQ(outcome.unreadableHits, 0);
-    return table;
+    test::TestScan scan(simpleLowerCase(words), 99);
+    scan.runFile(data.pathOf(u"Real.txt"_qs), &segments_);
+    EXPECT_EQ(scan.outcome.unreadableHits, 0);
+    return std::move(scan.table);
   }
 
   // Midnight is a short line, and a name with "?" has neither: such hits show the values of the one before.
@@ -76,7 +71,7 @@ class RealTree : public test::RefreshTest {
 
  private:
   TemporaryFolder cache_;
-  SegmentStore images_{{cache_.path(), std::size_t{1} << 30, SegmentUse::Repeated}};
+  SegmentStore segments_{{cache_.path(), std::size_t{1} << 30, SegmentUse::Repeated}};
 };
 
 TEST_F(RealTree, ListingEqualsAPlainWalkBlockByBlock) {

@@ -7,7 +7,6 @@
 #include "search/hit_table.h"
 #include "search/search_run.h"
 #include "support/listing_lines.h"
-#include "support/recording_run_view.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -57,8 +56,7 @@ struct ExchangingProgram : PeerProgram {
 
   QStringList find(const QString& words) {
     HitTable hits;
-    RecordingRunView view(hits);
-    SearchRun run(state, view, messages, hits, nullptr, QLocale::c());
+    SearchRun run({state, messages, QLocale::c(), &hits});
     run.Find_Click(words, QStringLiteral("50"));
     QStringList names;
     for (std::int64_t row = 0; row < hits.rowCount(); ++row) names += hits.row(row).name;

@@ -49,13 +49,13 @@ TEST_F(BadInput, ListingThatCannotBeReadIsToldWithItsName) {
       u"The listing /proc/self/mem could not be searched to its end.\r\nRun-time error '57': Device I/O "
       "error: /proc/self/mem\r\nThe hits found in it so far are kept."_qs);
   EXPECT_EQ(names(), (QStringList{u"song good"_qs}));
-  EXPECT_EQ(view_.caption, u"Find"_qs);
+  EXPECT_FALSE(run_.isRunning());
 }
 
 TEST_F(BadInput, EmptyListingIsSearchedInSilence) {
   findWithGoodOneBehind(folder_.writeFile(u"empty.lst"_qs, ""));
   EXPECT_TRUE(messages_.informed.empty());
-  EXPECT_EQ(view_.searched.back(), 1);
+  EXPECT_EQ(display_.searched.back(), 1);
 }
 
 TEST_F(BadInput, BinaryListingHarmsNothing) {
@@ -78,10 +78,10 @@ TEST_F(BadInput, LineOverAMebibyteEndsTheListingWithItsNumber) {
 }
 
 /// A listing of one line without an end, made as it is read.
-class EndlessLine : public ListingSource {
+class EndlessLine {
  public:
   explicit EndlessLine(std::size_t bytes) : left_(bytes) {}
-  std::size_t read(std::span<char> buffer) override {
+  std::size_t operator()(std::span<char> buffer) {
     const std::size_t count = std::min(buffer.size(), left_);
     std::fill_n(buffer.begin(), count, 'x');
     left_ -= count;
@@ -96,20 +96,16 @@ class EndlessLine : public ListingSource {
 
 TEST(BadListing, LineOfAGigabyteIsRefusedAfterItsFirstChunks) {
   EndlessLine source(std::size_t{1} << 30);
-  HitTable table;
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
-  EXPECT_THROW(scanListing(source, SearchQuery(u"x", 50), QLocale::c(), searched, table, yields, outcome),
-               RuntimeFault);
+  test::TestScan scan(u"x"_qs);
+  EXPECT_THROW(scan.run(std::ref(source)), RuntimeFault);
   EXPECT_LE(source.taken, std::size_t{3} << 20);
-  EXPECT_EQ(searched, 0);
+  EXPECT_EQ(scan.counts.searched, 0);
 }
 
 TEST_F(BadInput, ListingThatIsCutWhileItIsReadIsToldAndItsHitsAreKept) {
   const QString path = folder_.writeFile(u"cut.lst"_qs, QByteArray("song\r\n").repeated(1000000));
-  view_.onEvents = [&] {
-    if (view_.eventPasses > 1) return;
+  display_.onEvents = [&] {
+    if (display_.eventPasses > 1) return;
     ASSERT_EQ(::truncate(QFile::encodeName(path).constData(), 100), 0);
   };
   findWithGoodOneBehind(path);

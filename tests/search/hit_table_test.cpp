@@ -9,15 +9,10 @@ namespace quorvin {
 namespace {
 
 HitTable scanned(const QByteArray& listing, SourceKind kind, const ScanLimits& limits = {}) {
-  test::MemoryListing source(listing);
-  const SearchQuery query(u"song", 50);
-  HitTable table;
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
-  table.beginListing(kind);
-  scanListing(source, query, QLocale::c(), searched, table, yields, outcome, limits);
-  return table;
+  test::TestScan scan(u"song"_qs);
+  scan.kind = kind;
+  scan.run(test::MemoryListing(listing), limits);
+  return std::move(scan.table);
 }
 
 TEST(HitTable, RowShowsSixColumns) {
@@ -74,16 +69,11 @@ TEST(HitTable, CarriedValuesCrossFromSegmentToSegment) {
 }
 
 TEST(HitTable, CarriedValuesStartAfreshWithEachListing) {
-  HitTable table;
-  const SearchQuery query(u"song", 50);
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
+  test::TestScan scan(u"song"_qs);
   for (const QByteArray& listing : {test::entryLine("song"), QByteArray("song")}) {
-    test::MemoryListing source(listing);
-    table.beginListing(SourceKind::Online);
-    scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
+    scan.run(test::MemoryListing(listing));
   }
+  const HitTable& table = scan.table;
   ASSERT_EQ(table.rowCount(), 2);
   EXPECT_EQ(table.row(0).size, 1024);
   EXPECT_EQ(table.row(1).size, 0);
@@ -91,20 +81,15 @@ TEST(HitTable, CarriedValuesStartAfreshWithEachListing) {
 
 TEST(HitTable, RowsWithoutValuesShowThoseBeforeThemInTheirListing) {
   static_assert(sizeof(FoundEntry) == 8);
-  const SearchQuery query(u"song", 50);
-  HitTable table;
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
+  test::TestScan scan(u"song"_qs);
   const QByteArray none = "song without\r\n";
   const QByteArray one = test::entryLine("song", "1");
   const QByteArray seven = test::entryLine("song", "7");
   for (const QByteArray& listing :
        {none + one + none + none + seven + none, none + none, none + one + none, seven, one + none}) {
-    test::MemoryListing source(listing);
-    table.beginListing(SourceKind::Online);
-    scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
+    scan.run(test::MemoryListing(listing));
   }
+  const HitTable& table = scan.table;
   std::vector<std::int64_t> sizes;
   for (std::int64_t row = 0; row < table.rowCount(); ++row) sizes.push_back(table.row(row).size);
   EXPECT_EQ(sizes, (std::vector<std::int64_t>{0, 1, 1, 1, 7, 7, 0, 0, 0, 1, 1, 7, 1, 1}));

@@ -8,7 +8,7 @@ namespace quorvin {
 namespace {
 
 /// 4.1 GB of entries and one last line, made as they are read.
-class HugeListing : public ListingSource {
+class HugeListing {
  public:
   static constexpr std::int64_t kSize = 4'100'000'000;
 
@@ -20,7 +20,7 @@ class HugeListing : public ListingSource {
   std::int64_t blocks() const { return kSize / block_.size(); }
   std::int64_t entriesInBlock() const { return block_.count('\n'); }
 
-  std::size_t read(std::span<char> buffer) override {
+  std::size_t operator()(std::span<char> buffer) {
     std::size_t filled = 0;
     while (filled < buffer.size()) {
       const QByteArray& from = left_ > 0 ? block_ : last_;
@@ -46,13 +46,10 @@ class HugeListing : public ListingSource {
 TEST(HugeListing, OnlyHitInTheLastLineBehindFourGigabytesIsFound) {
   HugeListing source;
   const std::int64_t entries = source.blocks() * source.entriesInBlock() + 1;
-  HitTable table;
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
-  table.beginListing(SourceKind::Online);
-  scanListing(source, SearchQuery(u"harbour", 50), QLocale::c(), searched, table, yields, outcome);
-  EXPECT_EQ(searched, entries);
+  test::TestScan scan(u"harbour"_qs);
+  scan.run(std::ref(source));
+  EXPECT_EQ(scan.counts.searched, entries);
+  const HitTable& table = scan.table;
   ASSERT_EQ(table.rowCount(), 1);
   EXPECT_EQ(table.row(0).name, u"Harbour at night.jpg"_qs);
   EXPECT_EQ(table.row(0).size, 1048576);

@@ -128,55 +128,36 @@ TEST(ListingScan, DesiredMatchOfAHundredYieldsNoHits) {
 }
 
 TEST(ListingScan, YieldsAtEvery2000thEntryOfTheRun) {
-  test::MemoryListing source(QByteArray("song\r\n").repeated(4000));
-  const SearchQuery query(u"song", 50);
-  HitTable table;
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
-  scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
-  EXPECT_EQ(yields.counts, (std::vector<std::int64_t>{2000, 4000}));
-  EXPECT_EQ(searched, 4000);
-  EXPECT_EQ(table.rowCount(), 4000);
+  test::TestScan scan(u"song"_qs);
+  scan.run(test::MemoryListing(QByteArray("song\r\n").repeated(4000)));
+  EXPECT_EQ(scan.yields.counts, (std::vector<std::int64_t>{2000, 4000}));
+  EXPECT_EQ(scan.counts.searched, 4000);
+  EXPECT_EQ(scan.table.rowCount(), 4000);
 }
 
 TEST(ListingScan, CountsOfEarlierListingsMoveTheYields) {
-  test::MemoryListing source(QByteArray("song\r\n").repeated(1000));
-  const SearchQuery query(u"song", 50);
-  HitTable table;
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 1500;
-  scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
-  EXPECT_EQ(yields.counts, (std::vector<std::int64_t>{2000}));
-  EXPECT_EQ(searched, 2500);
+  test::TestScan scan(u"song"_qs);
+  scan.counts.searched = 1500;
+  scan.run(test::MemoryListing(QByteArray("song\r\n").repeated(1000)));
+  EXPECT_EQ(scan.yields.counts, (std::vector<std::int64_t>{2000}));
+  EXPECT_EQ(scan.counts.searched, 2500);
 }
 
 TEST(ListingScan, StopRequestEndsTheListingAtOnce) {
-  test::MemoryListing source(QByteArray("song\r\n").repeated(10000));
-  const SearchQuery query(u"song", 50);
-  HitTable table;
-  test::YieldLog yields;
-  yields.onYield = [](std::int64_t count) { return count == 4000; };
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
-  scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
-  EXPECT_TRUE(outcome.stopped);
-  EXPECT_EQ(searched, 4000);
-  EXPECT_EQ(table.rowCount(), 4000);
+  test::TestScan scan(u"song"_qs);
+  scan.yields.onYield = [](std::int64_t count) { return count == 4000; };
+  scan.run(test::MemoryListing(QByteArray("song\r\n").repeated(10000)));
+  EXPECT_TRUE(scan.outcome.stopped);
+  EXPECT_EQ(scan.counts.searched, 4000);
+  EXPECT_EQ(scan.table.rowCount(), 4000);
 }
 
 TEST(ListingScan, ShortFirstHitShowsNoSizeAndTheZeroDate) {
-  test::MemoryListing source("song.mp3\r\n");
-  const SearchQuery query(u"song", 50);
-  HitTable table;
-  test::YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
-  scanListing(source, query, QLocale::c(), searched, table, yields, outcome);
-  ASSERT_EQ(table.rowCount(), 1);
-  EXPECT_EQ(hitText(table.row(0), HitColumn::Size, QLocale::c()), u"0.00mb"_qs);
-  EXPECT_EQ(hitText(table.row(0), HitColumn::Date, QLocale::c()), u"Dec, 30 99"_qs);
+  test::TestScan scan(u"song"_qs);
+  scan.run(test::MemoryListing("song.mp3\r\n"));
+  ASSERT_EQ(scan.table.rowCount(), 1);
+  EXPECT_EQ(hitText(scan.table.row(0), HitColumn::Size, QLocale::c()), u"0.00mb"_qs);
+  EXPECT_EQ(hitText(scan.table.row(0), HitColumn::Date, QLocale::c()), u"Dec, 30 99"_qs);
 }
 
 TEST(ListingScan, LinesThatAreNoEntriesAreNotCounted) {

@@ -5,30 +5,17 @@
 
 namespace quorvin::test {
 
-namespace {
-
-class BytesInMemory : public ListingSource {
- public:
-  explicit BytesInMemory(std::string_view bytes) : left_(bytes) {}
-
-  std::size_t read(std::span<char> buffer) override {
-    const std::size_t count = left_.copy(buffer.data(), buffer.size());
-    left_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view left_;
-};
-
-}  // namespace
-
 PlainResult QuickScan::scan(std::string_view listing, RepeatedSearch& search, const QuickScanLimits& limits) {
   beginListing();
   search_ = &search;
   limits_ = limits;
-  BytesInMemory source(listing);
-  ListingText text(source, limits.chunkSize);
+  ListingText text(
+      [&listing](std::span<char> buffer) {
+        const std::size_t count = listing.copy(buffer.data(), buffer.size());
+        listing.remove_prefix(count);
+        return count;
+      },
+      limits.chunkSize);
   std::size_t segmentBytes = 0;
   while (text.readChunk()) {
     text.consume(builder_.addLines(text.begin(), text.size()));

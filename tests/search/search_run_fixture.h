@@ -3,7 +3,7 @@
 
 #include "search/search_run.h"
 #include "support/recording_message_boxes.h"
-#include "support/recording_run_view.h"
+#include "support/recording_run_display.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,9 @@ namespace quorvin::test {
 
 class SearchRunFixture : public ::testing::Test {
  protected:
-  SearchRunFixture() : view_(hits_), run_(state_, view_, messages_, hits_, nullptr, QLocale::c()) {
+  SearchRunFixture()
+      : display_(hits_),
+        run_({state_, messages_, QLocale::c(), &hits_, nullptr, &display_, [this] { return closing_; }}) {
     state_.LocalFolder = folder_.path();
   }
 
@@ -34,8 +36,9 @@ class SearchRunFixture : public ::testing::Test {
   TemporaryFolder folder_;
   ProgramState state_;
   HitTable hits_;
-  RecordingRunView view_;
+  RecordingRunDisplay display_;
   RecordingMessageBoxes messages_;
+  bool closing_ = false;
   SearchRun run_;
 };
 

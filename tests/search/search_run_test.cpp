@@ -11,10 +11,10 @@ using SearchRunTest = test::SearchRunFixture;
 
 TEST_F(SearchRunTest, WithoutAnySourceTheRunClearsAndShowsNothing) {
   find(u"song");
-  EXPECT_EQ(view_.clearings, 1);
-  EXPECT_EQ(view_.found, (std::vector<std::int64_t>{0}));
-  EXPECT_EQ(view_.searched, (std::vector<std::int64_t>{0}));
-  EXPECT_EQ(view_.captions, (QStringList{u"Stop"_qs, u"Find"_qs}));
+  EXPECT_EQ(display_.clearings, 1);
+  EXPECT_EQ(display_.found, (std::vector<std::int64_t>{0}));
+  EXPECT_EQ(display_.searched, (std::vector<std::int64_t>{0}));
+  EXPECT_EQ(display_.running, (std::vector<bool>{true, false}));
   EXPECT_TRUE(messages_.informed.empty());
 }
 
@@ -26,30 +26,30 @@ TEST_F(SearchRunTest, DesiredMatchIsClampedAndRoundedToEven) {
   };
   for (const auto& [typed, shown] : cases) {
     run_.Find_Click(QString(), typed);
-    EXPECT_EQ(view_.desMatch, shown) << typed.toStdString();
+    EXPECT_EQ(display_.desMatch, shown) << typed.toStdString();
   }
 }
 
 TEST_F(SearchRunTest, DesiredMatchBeyond16BitsIsAFaultBeforeAnythingChanges) {
   EXPECT_THROW(find(u"song", u"40000"), RuntimeFault);
-  EXPECT_EQ(view_.clearings, 0);
-  EXPECT_EQ(view_.caption, u"Find"_qs);
+  EXPECT_EQ(display_.clearings, 0);
+  EXPECT_FALSE(run_.isRunning());
 }
 
 TEST_F(SearchRunTest, EmptySearchTextDoesNothingButCorrectTheMatch) {
   find(u"", u"0");
-  EXPECT_EQ(view_.desMatch, u"1"_qs);
-  EXPECT_EQ(view_.clearings, 0);
-  EXPECT_TRUE(view_.captions.empty());
-  EXPECT_TRUE(view_.found.empty());
+  EXPECT_EQ(display_.desMatch, u"1"_qs);
+  EXPECT_EQ(display_.clearings, 0);
+  EXPECT_TRUE(display_.running.empty());
+  EXPECT_TRUE(display_.found.empty());
 }
 
 TEST_F(SearchRunTest, TooManyWordsAreAFaultAndTheHitsStay) {
   QString words = QStringLiteral("w");
   for (int i = 0; i < 101; ++i) words += QStringLiteral(" w");
   EXPECT_THROW(run_.Find_Click(words, u"50"_qs), RuntimeFault);
-  EXPECT_EQ(view_.clearings, 0);
-  EXPECT_EQ(view_.caption, u"Find"_qs);
+  EXPECT_EQ(display_.clearings, 0);
+  EXPECT_FALSE(run_.isRunning());
 }
 
 TEST_F(SearchRunTest, SourcesAreSearchedInOrderWithTheirColours) {
@@ -67,9 +67,9 @@ TEST_F(SearchRunTest, SourcesAreSearchedInOrderWithTheirColours) {
   EXPECT_EQ(rowColour(hits_.kind(2)), 0xFF0000U);
   EXPECT_EQ(rowColour(hits_.kind(3)), 0xFF7F00U);
   EXPECT_EQ(run_.hitCount(), 4);
-  EXPECT_EQ(view_.found.back(), 4);
-  EXPECT_EQ(view_.searched.back(), 4);
-  EXPECT_EQ(view_.captions, (QStringList{u"Stop"_qs, u"Find"_qs}));
+  EXPECT_EQ(display_.found.back(), 4);
+  EXPECT_EQ(display_.searched.back(), 4);
+  EXPECT_EQ(display_.running, (std::vector<bool>{true, false}));
 }
 
 TEST_F(SearchRunTest, MainDataFileIsTakenAsItStandsOrInsideTheDataFolder) {
@@ -104,14 +104,14 @@ TEST_F(SearchRunTest, StopDuringTheFirstListingStillSearchesTheOthers) {
   addOnline(u"B"_qs);
   state_.TextFile = u"main.txt"_qs;
   addOffline(folder_.writeFile(u"off.lst"_qs, "song off\r\n"));
-  view_.onEvents = [this] {
-    if (view_.eventPasses == 1) find(u"ignored");
+  display_.onEvents = [this] {
+    if (display_.eventPasses == 1) find(u"ignored");
   };
   find(u"song");
   EXPECT_EQ(hits_.rowCount(), 2003);
   EXPECT_EQ(names().mid(2000), (QStringList{u"song b"_qs, u"song main"_qs, u"song off"_qs}));
   EXPECT_FALSE(state_.AbortRequested);
-  EXPECT_EQ(view_.caption, u"Find"_qs);
+  EXPECT_FALSE(run_.isRunning());
 }
 
 TEST_F(SearchRunTest, StopRequestThatNoScanSawCutsTheNextRunsFirstListing) {
@@ -124,11 +124,52 @@ TEST_F(SearchRunTest, StopRequestThatNoScanSawCutsTheNextRunsFirstListing) {
 }
 
 TEST_F(SearchRunTest, PressWhileRunningOnlyAsksToStop) {
-  view_.caption = u"Stop"_qs;
-  find(u"song", u"250");
-  EXPECT_TRUE(state_.AbortRequested);
-  EXPECT_EQ(view_.desMatch, QString());
-  EXPECT_EQ(view_.clearings, 0);
+  folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(9000));
+  addOnline(u"A"_qs);
+  display_.onEvents = [this] {
+    EXPECT_TRUE(run_.isRunning());
+    find(u"other", u"250");
+    EXPECT_TRUE(state_.AbortRequested);
+    EXPECT_EQ(display_.desMatch, u"50"_qs);
+  };
+  find(u"song");
+  EXPECT_EQ(display_.eventPasses, 1);
+  EXPECT_EQ(display_.clearings, 1);
+  EXPECT_EQ(display_.running, (std::vector<bool>{true, false}));
+  EXPECT_EQ(hits_.rowCount(), 2000);
+}
+
+/// Takes hits up to a number.
+class LimitedSink : public HitSink {
+ public:
+  void startListing(SourceKind) override { ++listings; }
+  bool addHits(const std::shared_ptr<const Segment>&, std::span<const FoundEntry> hits) override {
+    taken += hits.size();
+    return taken < 3000;
+  }
+  void endSegment(const std::shared_ptr<const Segment>&, const std::shared_ptr<const Segment>&) override {}
+  int listings = 0;
+  std::size_t taken = 0;
+};
+
+TEST_F(SearchRunTest, SinkThatWantsNoMoreHitsEndsTheWholeRun) {
+  addOffline(folder_.writeFile(u"1"_qs, QByteArray("song\r\n").repeated(9000)));
+  addOffline(folder_.writeFile(u"2"_qs, "song\r\n"));
+  LimitedSink sink;
+  SearchRun run({state_, messages_, QLocale::c(), &sink});
+  run.Find_Click(u"song"_qs, u"50"_qs);
+  EXPECT_EQ(sink.listings, 1);
+  EXPECT_EQ(sink.taken, 4000U);
+  EXPECT_EQ(run.hitCount(), 4000);
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(SearchRunTest, WithoutASinkHitsAreCounted) {
+  addOffline(folder_.writeFile(u"1"_qs, "song 1\r\nother\r\nsong 2\r\n"));
+  SearchRun run({state_, messages_, QLocale::c()});
+  run.Find_Click(u"song"_qs, u"50"_qs);
+  EXPECT_EQ(run.hitCount(), 2);
+  EXPECT_EQ(run.searchedCount(), 3);
 }
 
 TEST_F(SearchRunTest, MissingOnlineListingIsToldAndTheRunGoesOn) {
@@ -139,7 +180,7 @@ TEST_F(SearchRunTest, MissingOnlineListingIsToldAndTheRunGoesOn) {
   EXPECT_EQ(messages_.informed,
             (std::vector<QString>{u"Listing file not found: "_qs + folder_.pathOf(u"A.txt"_qs)}));
   EXPECT_EQ(names(), (QStringList{u"song b"_qs}));
-  EXPECT_EQ(view_.searched.back(), 1);
+  EXPECT_EQ(display_.searched.back(), 1);
 }
 
 TEST_F(SearchRunTest, MissingMainDataFileEndsTheRunAndLeavesTheSearchedLabel) {
@@ -149,8 +190,8 @@ TEST_F(SearchRunTest, MissingMainDataFileEndsTheRunAndLeavesTheSearchedLabel) {
   EXPECT_EQ(messages_.informed,
             (std::vector<QString>{u"Listing file not found: "_qs + folder_.pathOf(u"main.txt"_qs)}));
   EXPECT_EQ(hits_.rowCount(), 0);
-  EXPECT_TRUE(view_.searched.empty());
-  EXPECT_EQ(view_.caption, u"Find"_qs);
+  EXPECT_TRUE(display_.searched.empty());
+  EXPECT_FALSE(run_.isRunning());
 }
 
 TEST_F(SearchRunTest, MissingOfflineListingIsToldAndTheRunGoesOn) {
@@ -166,16 +207,16 @@ TEST_F(SearchRunTest, SearchedLabelMovesEvery2000EntriesAndAtTheEnd) {
   folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(4000));
   addOnline(u"A"_qs);
   find(u"song");
-  EXPECT_EQ(view_.searched, (std::vector<std::int64_t>{2000, 4000, 4000, 4000}));
-  EXPECT_EQ(view_.eventPasses, 2);
+  EXPECT_EQ(display_.searched, (std::vector<std::int64_t>{2000, 4000, 4000, 4000}));
+  EXPECT_EQ(display_.eventPasses, 2);
 }
 
 TEST_F(SearchRunTest, RowsArriveBeforeEventsRunAndAtTheEndOfAListing) {
   folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(2500));
   addOnline(u"A"_qs);
   find(u"song");
-  EXPECT_EQ(view_.rowsAtArrival, (std::vector<std::int64_t>{2000, 2500}));
-  EXPECT_EQ(view_.found, (std::vector<std::int64_t>{0, 2000, 2500}));
+  EXPECT_EQ(display_.rowsAtArrival, (std::vector<std::int64_t>{2000, 2500}));
+  EXPECT_EQ(display_.found, (std::vector<std::int64_t>{0, 2000, 2500}));
 }
 
 TEST_F(SearchRunTest, HitsThatCannotBeReadWholeAreToldOncePerRunWithTheirListing) {
@@ -193,11 +234,11 @@ TEST_F(SearchRunTest, HitsThatCannotBeReadWholeAreToldOncePerRunWithTheirListing
 TEST_F(SearchRunTest, ListingsThatAreWrittenToWhileTheyAreSearchedAreTold) {
   const QString path = folder_.writeFile(u"off.lst"_qs, QByteArray("song\r\n").repeated(100'000));
   addOffline(path);
-  view_.onEvents = [&] {
+  display_.onEvents = [&] {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::Append));
     file.write("song more\r\n");
-    view_.onEvents = {};
+    display_.onEvents = {};
   };
   find(u"song");
   ASSERT_EQ(messages_.informed.size(), 1U);
@@ -213,7 +254,7 @@ TEST_F(SearchRunTest, ClosingEndsTheWholeRunWithoutMessages) {
   folder_.writeFile(u"A.txt"_qs, QByteArray("song\r\n").repeated(9000));
   addOnline(u"A"_qs);
   addOnline(u"Missing"_qs);
-  view_.onEvents = [this] { view_.closing = true; };
+  display_.onEvents = [this] { closing_ = true; };
   find(u"song");
   EXPECT_EQ(hits_.rowCount(), 2000);
   EXPECT_TRUE(messages_.informed.empty());

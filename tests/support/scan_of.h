@@ -10,15 +10,17 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace quorvin::test {
 
-/// A listing in memory.
-class MemoryListing : public ListingSource {
+/// Reads a listing in memory.
+class MemoryListing {
  public:
   explicit MemoryListing(const QByteArray& bytes) : bytes_(bytes) {}
 
-  std::size_t read(std::span<char> buffer) override {
+  std::size_t operator()(std::span<char> buffer) {
     const auto left = static_cast<std::size_t>(bytes_.size() - position_);
     const std::size_t count = std::min(buffer.size(), left);
     std::copy_n(bytes_.constData() + position_, count, buffer.data());
@@ -32,9 +34,9 @@ class MemoryListing : public ListingSource {
 };
 
 /// Notes the counts at which the scan yielded; `onYield` decides whether it goes on (true stops it).
-class YieldLog : public ScanListener {
+class YieldLog {
  public:
-  bool reached(std::int64_t searchedCount) override {
+  bool operator()(std::int64_t searchedCount) {
     counts.push_back(searchedCount);
     return onYield && onYield(searchedCount);
   }
@@ -43,13 +45,48 @@ class YieldLog : public ScanListener {
   std::function<bool(std::int64_t)> onYield;
 };
 
-inline ReferenceResult resultOf(const HitTable& table, const ScanOutcome& outcome, std::int64_t searched) {
-  ReferenceResult result;
+/// One scan into a table.
+struct TestScan {
+  explicit TestScan(const QString& lowerSearchText, int desiredMatch = 50,
+                    const QLocale& listingLocale = QLocale::c())
+      : query(lowerSearchText, static_cast<std::int16_t>(desiredMatch)), locale(listingLocale) {}
+
+  ScanRequest request() { return {query, locale, &table, std::ref(yields)}; }
+
+  void run(ListingReader read, const ScanLimits& limits = {}) {
+    table.startListing(kind);
+    scanListing(std::move(read), request(), counts, outcome, limits);
+  }
+
+  void runFile(const QString& path, SegmentStore* store, const ScanLimits& limits = {}) {
+    table.startListing(kind);
+    scanListingFile(path, store, request(), counts, outcome, limits);
+  }
+
+  ReferenceResult result() const;
+
+  SearchQuery query;
+  QLocale locale;
+  SourceKind kind = SourceKind::Online;
+  HitTable table;
+  YieldLog yields;
+  RunCounts counts;
+  ScanOutcome outcome;
+};
+
+inline std::vector<ReferenceHit> hitsOf(const HitTable& table) {
+  std::vector<ReferenceHit> hits;
   for (std::int64_t i = 0; i < table.rowCount(); ++i) {
     const HitRow row = table.row(i);
-    result.hits.push_back({row.match, row.volume, row.folder, row.name, row.size, row.date});
+    hits.push_back({row.match, row.volume, row.folder, row.name, row.size, row.date});
   }
-  result.searched = searched;
+  return hits;
+}
+
+inline ReferenceResult TestScan::result() const {
+  ReferenceResult result;
+  result.hits = hitsOf(table);
+  result.searched = counts.searched;
   result.unreadable = outcome.unreadableHits;
   result.firstUnreadableLine = outcome.firstUnreadableLine;
   return result;
@@ -58,15 +95,9 @@ inline ReferenceResult resultOf(const HitTable& table, const ScanOutcome& outcom
 /// The program's own scan of `listing`.
 inline ReferenceResult scanOf(const QByteArray& listing, const QString& lowerSearchText, int desiredMatch,
                               const ScanLimits& limits = {}, const QLocale& locale = QLocale::c()) {
-  MemoryListing source(listing);
-  const SearchQuery query(lowerSearchText, static_cast<std::int16_t>(desiredMatch));
-  HitTable table;
-  YieldLog yields;
-  ScanOutcome outcome;
-  std::int64_t searched = 0;
-  table.beginListing(SourceKind::Online);
-  scanListing(source, query, locale, searched, table, yields, outcome, limits);
-  return resultOf(table, outcome, searched);
+  TestScan scan(lowerSearchText, desiredMatch, locale);
+  scan.run(MemoryListing(listing), limits);
+  return scan.result();
 }
 
 }  // namespace quorvin::test

@@ -3,11 +3,12 @@
 #include "search/format/line_marks.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvin {
 
-ListingText::ListingText(ListingSource& source, std::size_t chunkSize)
-    : source_(source), chunkSize_(chunkSize), begin_(kLinePadding) {}
+ListingText::ListingText(ListingReader read, std::size_t chunkSize)
+    : read_(std::move(read)), chunkSize_(chunkSize), begin_(kLinePadding) {}
 
 const char* ListingText::begin() const {
   return buffer_.data() + begin_;
@@ -18,7 +19,7 @@ bool ListingText::readChunk() {
   if (buffer_.size() < needed) buffer_.resize(needed);
   std::copy_n(buffer_.begin() + static_cast<std::ptrdiff_t>(begin_), size_, buffer_.begin() + kLinePadding);
   begin_ = kLinePadding;
-  lastChunkSize_ = source_.read(std::span(buffer_).subspan(begin_ + size_, chunkSize_));
+  lastChunkSize_ = read_(std::span(buffer_).subspan(begin_ + size_, chunkSize_));
   size_ += lastChunkSize_;
   return lastChunkSize_ > 0;
 }

@@ -1,23 +1,27 @@
 // The stretch of a listing that is in memory at a time.
 #pragma once
 
-#include "search/format/listing_source.h"
-
 #include <cstddef>
+#include <functional>
+#include <span>
 #include <string_view>
 #include <vector>
 
 namespace quorvin {
 
+/// Reads the bytes of a listing, front to back: fills `buffer` as far as there are bytes left and gives the
+/// number filled, 0 at the end. May throw RuntimeFault.
+using ListingReader = std::function<std::size_t(std::span<char> buffer)>;
+
 /// Reads a listing chunk by chunk; what is not consumed stands in front of the next chunk. There are always
 /// kLinePadding bytes to read on both sides of the text.
 class ListingText {
  public:
-  /// `source` must outlive the text; `chunkSize` is at least 1.
-  ListingText(ListingSource& source, std::size_t chunkSize);
+  /// `chunkSize` is at least 1.
+  ListingText(ListingReader read, std::size_t chunkSize);
 
   /// Adds the next chunk behind what is left of the text; false at the end of the listing. Pointers into the
-  /// text are invalid afterwards. Throws what the source throws.
+  /// text are invalid afterwards. Throws what the reader throws.
   bool readChunk();
 
   const char* begin() const;
@@ -31,7 +35,7 @@ class ListingText {
   std::string_view lastLine() const;
 
  private:
-  ListingSource& source_;
+  ListingReader read_;
   std::size_t chunkSize_;
   std::vector<char> buffer_;
   std::size_t begin_;

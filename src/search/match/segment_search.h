@@ -1,14 +1,22 @@
-// Searching an segment.
+// Searching a segment.
 #pragma once
 
-#include "search/match/hit_receiver.h"
 #include "search/match/word_search.h"
+#include "search/segment/segment.h"
 
 #include <array>
 #include <cstdint>
 #include <vector>
 
 namespace quorvin {
+
+/// One entry above the desired match.
+struct FoundEntry {
+  /// The entry's number in its segment.
+  std::uint32_t entry;
+  /// The match, 1 to 100.
+  std::int16_t match;
+};
 
 /// Searches segments for one query. A word holds no blank, so it stands in the folder or in the entry, never
 /// across: both are searched on their own, and an entry is looked at only where a word was seen in it or

@@ -97,11 +97,10 @@ TEST(ListingText, LastLineLosesTheFirstHalfOfALineEnd) {
 }
 
 TEST(ListingText, FaultsOfTheSourceComeThrough) {
-  class Failing : public ListingSource {
-   public:
-    std::size_t read(std::span<char> /*buffer*/) override { throw RuntimeFault(FaultNumber::Overflow); }
-  } source;
-  ListingText text(source, 10);
+  const ListingReader failing = [](std::span<char>) -> std::size_t {
+    throw RuntimeFault(FaultNumber::Overflow);
+  };
+  ListingText text(failing, 10);
   EXPECT_THROW(text.readChunk(), RuntimeFault);
 }
 

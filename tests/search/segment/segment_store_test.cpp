@@ -42,14 +42,13 @@ class SegmentStoreTest : public ::testing::Test {
 
   /// A scan of the listing; `reads` then tells whether the listing itself was read.
   test::ReferenceResult scan(SegmentStore& store, const QString& words) {
-    const SearchQuery query(words, 50);
-    test::YieldLog yields;
-    yields.onYield = [this](std::int64_t count) { return onYield_ && onYield_(count); };
-    std::int64_t searched = 0;
-    table_.clear();
-    table_.beginListing(SourceKind::Online);
-    scanListingFile(listing_, &store, query, QLocale::c(), searched, table_, yields, outcome_, limits_);
-    return test::resultOf(table_, outcome_, searched);
+    test::TestScan scan(words);
+    scan.yields.onYield = [this](std::int64_t count) { return onYield_ && onYield_(count); };
+    scan.runFile(listing_, &store, limits_);
+    const test::ReferenceResult result = scan.result();
+    table_ = std::move(scan.table);
+    outcome_ = scan.outcome;
+    return result;
   }
 
   void expectRight(SegmentStore& store) {
@@ -346,10 +345,10 @@ TEST_F(SegmentStoreTest, HitsStayRightWhenTheirListingIsReplacedOrDeleted) {
     scan(store, u"song"_qs);
     const test::ReferenceResult expected = reference(u"song"_qs);
     folder_.writeFile(u"cd.lst"_qs, "song of another disk\r\n");
-    EXPECT_EQ(test::resultOf(table_, outcome_, 3000).hits, expected.hits);
+    EXPECT_EQ(test::hitsOf(table_), expected.hits);
     ASSERT_TRUE(QFile::remove(listing_));
     store.forget(listing_);
-    EXPECT_EQ(test::resultOf(table_, outcome_, 3000).hits, expected.hits);
+    EXPECT_EQ(test::hitsOf(table_), expected.hits);
   }
 }
 
@@ -374,17 +373,15 @@ TEST_F(SegmentStoreTest, SameListingAsTwoKindsOfSourceKeepsItsKindsApart) {
   bytes_ = "song\r\n";
   listing_ = folder_.writeFile(u"one.lst"_qs, bytes_);
   SegmentStore store({cache_, kPlenty});
-  const SearchQuery query(u"song", 50);
-  test::YieldLog yields;
-  std::int64_t searched = 0;
+  test::TestScan scan(u"song"_qs);
   for (const SourceKind kind : {SourceKind::Online, SourceKind::Offline, SourceKind::MainDataFile}) {
-    table_.beginListing(kind);
-    scanListingFile(listing_, &store, query, QLocale::c(), searched, table_, yields, outcome_, limits_);
+    scan.kind = kind;
+    scan.runFile(listing_, &store, limits_);
   }
-  ASSERT_EQ(table_.rowCount(), 3);
-  EXPECT_EQ(table_.kind(0), SourceKind::Online);
-  EXPECT_EQ(table_.kind(1), SourceKind::Offline);
-  EXPECT_EQ(table_.kind(2), SourceKind::MainDataFile);
+  ASSERT_EQ(scan.table.rowCount(), 3);
+  EXPECT_EQ(scan.table.kind(0), SourceKind::Online);
+  EXPECT_EQ(scan.table.kind(1), SourceKind::Offline);
+  EXPECT_EQ(scan.table.kind(2), SourceKind::MainDataFile);
 }
 
 TEST_F(SegmentStoreTest, ForgottenListingIsGoneFromMemoryAndDisk) {

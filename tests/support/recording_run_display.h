@@ -1,11 +1,10 @@
-// The view of a search run without a window.
+// The display of a search run without a window.
 #pragma once
 
 #include "search/hit_table.h"
 #include "search/search_run.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 #include <vector>
@@ -13,16 +12,13 @@
 namespace quorvin::test {
 
 /// Records what a run shows; `onEvents` stands for what the user does while events run.
-class RecordingRunView : public SearchRunView {
+class RecordingRunDisplay : public RunDisplay {
  public:
-  explicit RecordingRunView(HitTable& hits) : hits_(hits) {}
+  explicit RecordingRunDisplay(HitTable& hits) : hits_(hits) {}
 
   void setDesMatch(const QString& text) override { desMatch = text; }
-  QString findCaption() const override { return caption; }
-  void setFindCaption(const QString& text) override {
-    caption = text;
-    captions.push_back(text);
-  }
+  void runStarted() override { running.push_back(true); }
+  void runEnded() override { running.push_back(false); }
   void showFound(std::int64_t count) override { found.push_back(count); }
   void showSearched(std::int64_t count) override { searched.push_back(count); }
   void clearHits() override {
@@ -34,17 +30,15 @@ class RecordingRunView : public SearchRunView {
     ++eventPasses;
     if (onEvents) onEvents();
   }
-  bool endRequested() const override { return closing; }
 
   QString desMatch;
-  QString caption = QStringLiteral("Find");
-  QStringList captions;
+  /// True for each start of a run, false for each end.
+  std::vector<bool> running;
   std::vector<std::int64_t> found;
   std::vector<std::int64_t> searched;
   std::vector<std::int64_t> rowsAtArrival;
   int clearings = 0;
   int eventPasses = 0;
-  bool closing = false;
   std::function<void()> onEvents;
 
  private:
