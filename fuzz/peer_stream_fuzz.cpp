@@ -1,7 +1,7 @@
-// What a peer's server sends, held against the order that PeerStreamSink promises. An input is a byte for the
+// What a peer's server sends, held against the order that AnswerSink promises. An input is a byte for the
 // size of the pieces in which the stream comes, and the stream.
 #include "faults/runtime_fault.h"
-#include "peers/client/peer_stream.h"
+#include "peers/client/answer_stream.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -15,7 +15,7 @@ void require(bool holds) {
   if (!holds) std::abort();
 }
 
-class OrderCheck : public PeerStreamSink {
+class OrderCheck : public AnswerSink {
  public:
   void identityArrived(const QByteArray& message) override { require(!message.isEmpty()); }
   bool listNamed(const QByteArray& name) override { return asked_.insert(name).second; }
@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const qsizetype piece = 1 + data[0];
   const QByteArrayView bytes(reinterpret_cast<const char*>(data) + 1, static_cast<qsizetype>(size) - 1);
   OrderCheck check;
-  PeerStream stream(check);
+  AnswerStream stream(check);
   try {
     for (qsizetype at = 0; at < bytes.size(); at += piece) {
       stream.feed(bytes.sliced(at, std::min(piece, bytes.size() - at)));

@@ -50,7 +50,7 @@ class SearchForm : public QMainWindow, public StartUpView, public ShutdownView, 
   /// What shows the picture of a hit; without one a message says that there is none.
   void setPreviewOpener(PreviewOpener opener) { hitActions_.setPreviewOpener(std::move(opener)); }
 
-  const PeerSendTimer& SndQTime() { return network_.peers().SndQTime(); }
+  const SendTimer& SndQTime() { return network_.peers().SndQTime(); }
 
   /// What start-up unpacks the main data file with.
   ArchiveExtraction& dataFileExtraction() { return network_.dataFileExtraction(); }

@@ -1,6 +1,5 @@
 #include "app/search_form_refresh.h"
 
-#include "platform/text_encoding.h"
 #include "preview/res_win.h"
 
 #include <QCoreApplication>
@@ -18,8 +17,7 @@ constexpr std::int64_t kMillisecondsBetweenShowings = 16;
 std::vector<std::int64_t> listingSizes(const ProgramState& state) {
   std::vector<std::int64_t> sizes;
   for (int row = 1; row <= state.OnlineSourceCount; ++row) {
-    const QString baseName = trimBlanks(state.OnlineSources.description(row)).toString();
-    sizes.push_back(QFileInfo(state.LocalFolder + baseName + QStringLiteral(".txt")).size());
+    sizes.push_back(QFileInfo(state.onlineListingPath(state.OnlineSources.description(row))).size());
   }
   return sizes;
 }

@@ -39,7 +39,7 @@ class Refresh {
   bool refreshSource(const QString& description, const QString& path) {
     const QString base = state_.LocalFolder + trimBlanks(description).toString();
     const QString temporary = base + QStringLiteral(".tmp");
-    const QString finished = base + QStringLiteral(".txt");
+    const QString finished = state_.onlineListingPath(description);
     for (const QString& file : {temporary, finished}) {
       if (!isOwnFile(file, state_)) continue;
       noteNotMade(description, file);

@@ -30,7 +30,7 @@ PeerExchange::PeerExchange(ProgramState& state, MessageBoxes& messages, const QL
 }
 
 void PeerExchange::getLists(const QString& peer) {
-  const PeerAddressText address = readPeerAddress(peer);
+  const HostAndPort address = readHostAndPort(peer);
   if (address.host.isEmpty()) {
     messages_.inform(
         QStringLiteral("\"%1\" is not the name or address of a computer.").arg(shownPeerText(peer)));

@@ -1,11 +1,10 @@
 // The peer list exchange as a whole: what the menu "Peers" works with.
 #pragma once
 
+#include "peers/client/list_offer.h"
 #include "peers/client/peer_client.h"
-#include "peers/client/peer_offer.h"
-#include "peers/messages/peer_send_queue.h"
-#include "peers/messages/peer_send_timer.h"
-#include "peers/server/peer_sharing.h"
+#include "peers/messages/send_queue.h"
+#include "peers/server/list_sharing.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 
@@ -40,9 +39,9 @@ class PeerExchange : public QObject {
                PeerServerLimits serverLimits = {}, PeerClientLimits clientLimits = {},
                QObject* parent = nullptr);
 
-  /// The timer that ends the program too; see PeerSendTimer::setQuit().
-  PeerSendTimer& SndQTime() { return sndQTime_; }
-  PeerSharing& sharing() { return sharing_; }
+  /// The timer that ends the program too; see SendTimer::setQuit().
+  SendTimer& SndQTime() { return sndQTime_; }
+  ListSharing& sharing() { return sharing_; }
   PeerClient& client() { return client_; }
 
   /// Gets all lists of the peer that the user has named, "host" or "host:port". A name that makes no sense is
@@ -67,9 +66,9 @@ class PeerExchange : public QObject {
   ProgramState& state_;
   MessageBoxes& messages_;
   PeerHooks hooks_;
-  PeerSendQueue queue_;
-  PeerSendTimer sndQTime_;
-  PeerSharing sharing_;
+  SendQueue queue_;
+  SendTimer sndQTime_;
+  ListSharing sharing_;
   PeerClient client_;
   QTimer offer_;
   /// What came of a conversation, until it is told and offered.

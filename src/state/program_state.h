@@ -62,6 +62,10 @@ struct ProgramState {
 
   /// Sets `RegKey`, `LocFile` and `OffLineFile` to the values of a run without a command line.
   void resetFileNames();
+
+  /// Where the listing of the online source of this description is kept: `LocalFolder`, the description
+  /// without blanks at its ends, ".txt".
+  QString onlineListingPath(const QString& description) const;
 };
 
 }  // namespace quorvin

@@ -1,8 +1,7 @@
 // What a server answers.
-#include "peers/server/peer_answers.h"
-
 #include "faults/runtime_fault.h"
 #include "peers/peer_program.h"
+#include "peers/server/peer_server.h"
 
 #include <gtest/gtest.h>
 

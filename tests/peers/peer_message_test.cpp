@@ -82,16 +82,6 @@ TEST(PeerMessage, ACharacterOfSeveralBytesIsSkippedAsAWhole) {
   EXPECT_EQ(argumentOf("I AM: \xc9va 1", ArgumentOffset::Client).toByteArray(), QByteArray("va 1"));
 }
 
-TEST(PeerMessage, ShownTextHasNoCharactersThatAct) {
-  EXPECT_EQ(shownPeerText(QStringLiteral("a\r\nb\u001b[1m\u007f")), QStringLiteral("a  b [1m "));
-  EXPECT_EQ(shownPeerText(QStringLiteral("a\u202eb\u2028c")), QStringLiteral("a b c"));
-  EXPECT_EQ(shownPeerText(QStringLiteral("<b>bold</b>")), QStringLiteral("<b>bold</b>"));
-}
-
-TEST(PeerMessage, ShownTextIsShort) {
-  EXPECT_EQ(shownPeerText(QString(100, u'x')), QString(80, u'x') + QStringLiteral("..."));
-}
-
 }  // namespace
 
 }  // namespace quorvin::test

@@ -84,8 +84,8 @@ struct GettingProgram : PeerProgram {
     return QStringLiteral("Received/127.0.0.1_%1/").arg(port) + file;
   }
 
-  PeerSendQueue queue;
-  PeerSendTimer timer;
+  SendQueue queue;
+  SendTimer timer;
   PeerClient client;
   std::optional<PeerOutcome> outcome;
 };

@@ -217,5 +217,11 @@ TEST_F(Settings, AFaultInTheOnlineListLeavesTheOfflineListUnread) {
   EXPECT_EQ(state_.OfflineSourceCount, 0);
 }
 
+TEST(ProgramState, AListingIsNamedByItsDescriptionWithoutBlanksAtTheEnds) {
+  ProgramState state;
+  state.LocalFolder = QStringLiteral("/lists/");
+  EXPECT_EQ(state.onlineListingPath(QStringLiteral(" Old Music ")), QStringLiteral("/lists/Old Music.txt"));
+}
+
 }  // namespace
 }  // namespace quorvin

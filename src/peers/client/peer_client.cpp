@@ -19,18 +19,14 @@ namespace {
 constexpr qint64 kReadBuffer = qint64{64} << 10;
 constexpr int kMillisecondsBetweenProgress = 50;
 
-QString folderOf(const ProgramState& state, const PeerAddressText& peer) {
+QString folderOf(const ProgramState& state, const HostAndPort& peer) {
   const QChar separator = nativePathStyle().separator;
   return state.LocalFolder + QStringLiteral("Received") + separator + safeFileName(peer.text()) + separator;
 }
 
-QString faultText(const RuntimeFault& fault) {
-  return QStringLiteral("Run-time error '%1': %2.").arg(fault.number()).arg(fault.description());
-}
-
 }  // namespace
 
-PeerClient::PeerClient(ProgramState& state, PeerSendQueue& queue, PeerSendTimer& timer, const QLocale& locale,
+PeerClient::PeerClient(ProgramState& state, SendQueue& queue, SendTimer& timer, const QLocale& locale,
                        PeerClientLimits limits, QObject* parent)
     : QObject(parent), state_(state), queue_(queue), sndQTime_(timer), locale_(locale), limits_(limits) {
   IPClient_.setObjectName(QStringLiteral("IPClient"));
@@ -55,13 +51,13 @@ PeerClient::~PeerClient() {
   IPClient_.abort();
 }
 
-void PeerClient::start(const PeerAddressText& peer) {
+void PeerClient::start(const HostAndPort& peer) {
   if (isRunning()) return;
   peer_ = peer;
   isClosed_ = false;
   isCancelled_ = false;
-  receiver_ = std::make_unique<PeerReceiver>(queue_, folderOf(state_, peer), limits_.archiveBytes);
-  stream_ = std::make_unique<PeerStream>(*receiver_);
+  receiver_ = std::make_unique<ListReceiver>(queue_, folderOf(state_, peer), limits_.archiveBytes);
+  stream_ = std::make_unique<AnswerStream>(*receiver_);
   silence_.start(limits_.silence);
   IPClient_.connectToHost(peer.host, peer.port);
 }
@@ -119,7 +115,7 @@ void PeerClient::connectionFailed() {
   if (!isRunning() || IPClient_.state() == QAbstractSocket::ConnectedState) return;
   if (IPClient_.error() == QAbstractSocket::RemoteHostClosedError) return;
   if (stream_->hasLists()) return;
-  finish(QStringLiteral("The peer could not be reached: %1.").arg(IPClient_.errorString()));
+  finish(sentence(QStringLiteral("The peer could not be reached: ") + IPClient_.errorString()));
 }
 
 void PeerClient::connectionClosed() {
@@ -200,7 +196,7 @@ void PeerClient::finish(const QString& problem) {
   stopTimers();
   dropRest();
   stream_.reset();
-  const std::unique_ptr<PeerReceiver> receiver = std::exchange(receiver_, nullptr);
+  const std::unique_ptr<ListReceiver> receiver = std::exchange(receiver_, nullptr);
   queue_.abandon();
   IPClient_.abort();
   PeerOutcome outcome{peer_.text(), receiver->received(), receiver->problems(), isCancelled_};
@@ -215,7 +211,7 @@ bool PeerClient::succeeds(Action&& action) {
     action();
     return true;
   } catch (const RuntimeFault& fault) {
-    finish(faultText(fault));
+    finish(faultSentence(fault));
     return false;
   }
 }

@@ -2,11 +2,10 @@
 #pragma once
 
 #include "files/random_access_file.h"
-#include "peers/client/peer_receiver.h"
-#include "peers/client/peer_stream.h"
+#include "peers/client/answer_stream.h"
+#include "peers/client/list_receiver.h"
 #include "peers/messages/peer_names.h"
-#include "peers/messages/peer_send_queue.h"
-#include "peers/messages/peer_send_timer.h"
+#include "peers/messages/send_queue.h"
 #include "state/program_state.h"
 
 #include <QLocale>
@@ -52,12 +51,12 @@ class PeerClient : public QObject {
 
  public:
   /// Everything handed over must outlive the client. Messages are sent by `timer`.
-  PeerClient(ProgramState& state, PeerSendQueue& queue, PeerSendTimer& timer, const QLocale& locale,
+  PeerClient(ProgramState& state, SendQueue& queue, SendTimer& timer, const QLocale& locale,
              PeerClientLimits limits = {}, QObject* parent = nullptr);
   ~PeerClient() override;
 
   /// Begins a conversation; ended() tells its end. Does nothing while one goes on.
-  void start(const PeerAddressText& peer);
+  void start(const HostAndPort& peer);
   /// Ends the conversation at once, without the archive that is coming. Those that have come stay.
   void cancel();
 
@@ -98,8 +97,8 @@ class PeerClient : public QObject {
   bool succeeds(Action&& action);
 
   ProgramState& state_;
-  PeerSendQueue& queue_;
-  PeerSendTimer& sndQTime_;
+  SendQueue& queue_;
+  SendTimer& sndQTime_;
   QLocale locale_;
   PeerClientLimits limits_;
   QTcpSocket IPClient_;
@@ -108,12 +107,12 @@ class PeerClient : public QObject {
   QTimer silence_;
   QTimer restPiece_;
   QTimer progressPace_;
-  PeerAddressText peer_;
+  HostAndPort peer_;
   /// Only during a conversation.
-  std::unique_ptr<PeerReceiver> receiver_;
-  std::unique_ptr<PeerStream> stream_;
+  std::unique_ptr<ListReceiver> receiver_;
+  std::unique_ptr<AnswerStream> stream_;
   /// What is read of an archive that broke off, before anything else is taken.
-  std::optional<PeerReceiver::Rest> rest_;
+  std::optional<ListReceiver::Rest> rest_;
   std::unique_ptr<RandomAccessFile> restFile_;
   bool isClosed_ = false;
   bool isCancelled_ = false;

@@ -1,7 +1,7 @@
 // Unpacking what came from a peer, with the Progress window shown.
 #pragma once
 
-#include "peers/client/peer_offer.h"
+#include "peers/client/list_offer.h"
 #include "state/program_state.h"
 #include "work/archive_view.h"
 

@@ -8,7 +8,6 @@ namespace quorvin {
 namespace {
 
 constexpr int kSignificantDigits = 15;
-constexpr qsizetype kMostShownCharacters = 80;
 
 qsizetype colonOf(QByteArrayView message) {
   const qsizetype colon = message.indexOf(':');
@@ -22,18 +21,6 @@ qsizetype frontCharacterLength(QByteArrayView text, bool isUtf8) {
   const auto goesOn = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
   while (isUtf8 && length < text.size() && goesOn(text[length])) ++length;
   return length;
-}
-
-bool isHarmless(QChar character) {
-  switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-      return false;
-    default:
-      return true;
-  }
 }
 
 }  // namespace
@@ -79,15 +66,6 @@ QByteArrayView argumentOf(QByteArrayView message, ArgumentOffset offset) {
     rest = rest.sliced(frontCharacterLength(rest, isUtf8));
   }
   return rest;
-}
-
-QString shownPeerText(const QString& text) {
-  QString shown;
-  for (const QChar character : text) {
-    if (shown.size() == kMostShownCharacters) return shown + QStringLiteral("...");
-    shown += isHarmless(character) ? character : QChar(u' ');
-  }
-  return shown;
 }
 
 }  // namespace quorvin

@@ -52,8 +52,4 @@ QByteArrayView keywordOf(QByteArrayView message);
 /// Throws fault 5 when there is no colon.
 QByteArrayView argumentOf(QByteArrayView message, ArgumentOffset offset);
 
-/// A text that came from a peer, as it may be shown: control characters and characters that turn the
-/// direction of writing replaced by blanks, at most 80 characters.
-QString shownPeerText(const QString& text);
-
 }  // namespace quorvin

@@ -1,5 +1,6 @@
 #include "peers/messages/peer_names.h"
 
+#include "faults/runtime_fault.h"
 #include "peers/messages/peer_message.h"
 
 #include <QFileInfo>
@@ -11,6 +12,8 @@ namespace quorvin {
 namespace {
 
 constexpr qsizetype kLongestName = 60;
+constexpr qsizetype kMostShownCharacters = 80;
+constexpr qsizetype kMostShownProblems = 10;
 constexpr char16_t kNoName[] = u"list";
 
 bool isAllowed(QChar character) {
@@ -56,14 +59,52 @@ bool isIp6(const QString& text) {
   return QHostAddress(text).protocol() == QAbstractSocket::IPv6Protocol;
 }
 
-PeerAddressText withPort(const QString& host, const QString& portText) {
+HostAndPort withPort(const QString& host, const QString& portText) {
   bool isNumber = false;
   const quint16 port = portText.toUShort(&isNumber);
   if (!isNumber || port == 0) return {};
   return {host, port};
 }
 
+bool isHarmless(QChar character) {
+  switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+      return false;
+    default:
+      return true;
+  }
+}
+
 }  // namespace
+
+QString shownPeerText(const QString& text) {
+  QString shown;
+  for (const QChar character : text) {
+    if (shown.size() == kMostShownCharacters) return shown + QStringLiteral("...");
+    shown += isHarmless(character) ? character : QChar(u' ');
+  }
+  return shown;
+}
+
+QString sentence(const QString& text) {
+  static const QRegularExpression end(QStringLiteral("[.\\s]+$"));
+  return QString(text).remove(end) + u'.';
+}
+
+QString faultSentence(const RuntimeFault& fault) {
+  return sentence(QStringLiteral("Run-time error '%1': %2").arg(fault.number()).arg(fault.description()));
+}
+
+QString shownProblems(const QStringList& problems) {
+  QStringList shown = problems.first(qMin(problems.size(), kMostShownProblems));
+  const qsizetype more = problems.size() - shown.size();
+  if (more == 1) shown += QStringLiteral("There was 1 more problem.");
+  if (more > 1) shown += QStringLiteral("There were %1 more problems.").arg(more);
+  return shown.join(QStringLiteral("\r\n"));
+}
 
 QString safeFileName(const QString& text) {
   const QString name = withoutEdges(shortened(withoutEdges(withAllowedCharacters(text))));
@@ -79,12 +120,12 @@ QString freePath(const QString& folder, const QString& name, const QString& endi
   return path;
 }
 
-QString PeerAddressText::text() const {
+QString HostAndPort::text() const {
   const QString shownHost = host.contains(u':') ? u'[' + host + u']' : host;
   return port == kPeerPort ? host : shownHost + u':' + QString::number(port);
 }
 
-PeerAddressText readPeerAddress(const QString& text) {
+HostAndPort readHostAndPort(const QString& text) {
   static const QRegularExpression bracketed(QStringLiteral("^\\[([^\\[\\]]+)\\](?::(.*))?$"));
   static const QRegularExpression plain(QStringLiteral("^([^:\\s\\[\\]/\\\\]+)(?::(.*))?$"));
   const QString trimmed = text.trimmed();

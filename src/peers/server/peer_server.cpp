@@ -1,12 +1,154 @@
 #include "peers/server/peer_server.h"
 
-#include <QNetworkInterface>
+#include "faults/runtime_fault.h"
+#include "files/file_writer.h"
+#include "platform/text_encoding.h"
+
+#include <QFileInfo>
 #include <QNetworkProxy>
 
 #include <algorithm>
-#include <memory>
+#include <array>
+#include <utility>
 
 namespace quorvin {
+
+namespace {
+
+constexpr std::size_t kPiece = std::size_t{64} << 10;
+
+/// The first source of that name whose archive exists, else the row after the last source.
+int rowOfArchive(QByteArrayView listName, const ProgramState& state) {
+  int row = 1;
+  for (; row <= state.OnlineSourceCount; ++row) {
+    const bool isNamedSo = encodeSystemText(state.OnlineSources.description(row)) == listName;
+    if (isNamedSo && QFileInfo(archivePathOf(state, row)).isFile()) break;
+  }
+  return row;
+}
+
+/// The file is made when it is missing, as it is part of the exchange that the look for an unknown list ends
+/// with opening one.
+std::unique_ptr<SequentialFile> openOrMake(const QString& path) {
+  if (!QFileInfo::exists(path)) FileWriter(path).close();
+  return std::make_unique<SequentialFile>(path);
+}
+
+}  // namespace
+
+PeerAnswer answerTo(QByteArrayView message, const ProgramState& state, const QLocale& locale) {
+  const QByteArrayView keyword = keywordOf(message);
+  const QByteArrayView argument = argumentOf(message, ArgumentOffset::Server);
+  if (keyword == "Req List Info") return {listsMessage(state), std::nullopt};
+  if (keyword == "Connecting from") return {kGreetingAnswer, std::nullopt};
+  if (keyword == "I AM") return {identityMessage(state, locale), std::nullopt};
+  if (keyword == "GetList") return {announcementMessage(argument), rowOfArchive(argument, state)};
+  return {kUnknownAnswer, std::nullopt};
+}
+
+QString archivePathOf(const ProgramState& state, int row) {
+  return state.LocalFolder + state.OnlineSources.description(row) + QStringLiteral(".zip");
+}
+
+PeerConnection::PeerConnection(std::unique_ptr<QTcpSocket> socket, const ProgramState& state,
+                               const QLocale& locale, const PeerServerLimits& limits, QObject* parent)
+    : QObject(parent), socket_(std::move(socket)), state_(state), locale_(locale), limits_(limits) {
+  // One byte more than a message may have, so that a longer one is seen as such.
+  socket_->setReadBufferSize(limits_.messageBytes + 1);
+  // An announcement is to leave before its archive, as a packet of its own.
+  socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+  idle_.setSingleShot(true);
+  connect(&idle_, &QTimer::timeout, this, &PeerConnection::end);
+  connect(socket_.get(), &QTcpSocket::readyRead, this, &PeerConnection::IPServ_DataArrival);
+  // Queued, so that other events have their turn between an announcement and its archive.
+  connect(socket_.get(), &QTcpSocket::bytesWritten, this, &PeerConnection::goOn, Qt::QueuedConnection);
+  connect(socket_.get(), &QTcpSocket::disconnected, this, &PeerConnection::end);
+  idle_.start(limits_.idle);
+}
+
+PeerConnection::~PeerConnection() {
+  socket_->disconnect(this);
+  socket_->abort();
+}
+
+void PeerConnection::IPServ_DataArrival() {
+  idle_.start(limits_.idle);
+  const QByteArray message = socket_->readAll();
+  if (message.isEmpty()) return;
+  if (!mayWait(message)) return end();
+  waiting_.push_back(message);
+  // What is read comes in a buffer of many kilobytes, however short it is.
+  waiting_.back().squeeze();
+  waitingBytes_ += message.size();
+  if (waiting_.size() == 1) goOn();
+}
+
+bool PeerConnection::mayWait(const QByteArray& message) const {
+  return message.size() <= limits_.messageBytes && waiting_.size() < limits_.waitingMessages &&
+         waitingBytes_ + message.size() <= limits_.waitingBytes;
+}
+
+/// Does what comes next, once everything before has been handed to the system.
+void PeerConnection::goOn() {
+  if (isOver_) return;
+  idle_.start(limits_.idle);
+  if (socket_->bytesToWrite() > 0) return;
+  endOnFault([this] {
+    if (archiveRow_) openArchive();
+    if (archive_) sendArchivePiece();
+    if (!archive_) answerNext();
+  });
+}
+
+void PeerConnection::answerNext() {
+  if (waiting_.empty()) return;
+  const QByteArray message = std::move(waiting_.front());
+  waiting_.pop_front();
+  waitingBytes_ -= message.size();
+  const PeerAnswer answer = answerTo(message, state_, locale_);
+  archiveRow_ = answer.archiveRow;
+  socket_->write(answer.message);
+  // At once: a caller that has said all it had to say ends its side, and then nothing more can be sent.
+  socket_->flush();
+}
+
+void PeerConnection::openArchive() {
+  const int row = *std::exchange(archiveRow_, std::nullopt);
+  archive_ = openOrMake(archivePathOf(state_, row));
+  archiveBytesLeft_ = archive_->sizeWhenOpened();
+}
+
+void PeerConnection::sendArchivePiece() {
+  std::array<char, kPiece> piece{};
+  const auto most = static_cast<std::size_t>(std::min<std::int64_t>(kPiece, archiveBytesLeft_));
+  const std::size_t count = most == 0 ? 0 : archive_->read({piece.data(), most});
+  archiveBytesLeft_ -= static_cast<std::int64_t>(count);
+  if (count == 0) {
+    archive_.reset();
+    return;
+  }
+  socket_->write(piece.data(), static_cast<qint64>(count));
+}
+
+void PeerConnection::end() {
+  if (std::exchange(isOver_, true)) return;
+  idle_.stop();
+  socket_->disconnect(this);
+  socket_->abort();
+  Q_EMIT closed();
+}
+
+/// What a stranger's message brings about must not stop the user's work: it costs the stranger the
+/// connection.
+template <typename Action>
+void PeerConnection::endOnFault(Action&& action) {
+  try {
+    action();
+  } catch (const RuntimeFault& fault) {
+    Q_EMIT faulted(fault.description());
+    end();
+  }
+}
 
 void PeerListener::setAccepting(bool accepting) {
   // The toolkit accepts everything that waits in one go, whatever it is told meanwhile, unless no connection
@@ -75,17 +217,6 @@ void PeerServer::remove(PeerConnection* connection) {
 
 void PeerServer::acceptAsFitting() {
   listener_.setAccepting(connectionCount() < limits_.connections);
-}
-
-QStringList ownNetworkAddresses() {
-  QStringList addresses;
-  QStringList longAddresses;
-  for (const QHostAddress& address : QNetworkInterface::allAddresses()) {
-    if (address.isLoopback() || address.isLinkLocal()) continue;
-    const bool isShort = address.protocol() == QAbstractSocket::IPv4Protocol;
-    (isShort ? addresses : longAddresses) += address.toString();
-  }
-  return addresses + longAddresses;
 }
 
 }  // namespace quorvin

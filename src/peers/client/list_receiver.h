@@ -1,10 +1,12 @@
 // What is done with what a peer sends: its lists are asked for, and their archives kept.
 #pragma once
 
-#include "peers/client/peer_received_archive.h"
-#include "peers/client/peer_stream.h"
-#include "peers/messages/peer_send_queue.h"
+#include "files/file_writer.h"
+#include "peers/client/answer_stream.h"
+#include "peers/messages/send_queue.h"
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
@@ -13,6 +15,37 @@
 #include <vector>
 
 namespace quorvin {
+
+/// Written aside in its folder, and given its name when it is whole; without that nothing of it stays.
+class ReceivedArchive {
+ public:
+  /// `folder` ends in a separator and is made with those above it; `name` is the archive's name without its
+  /// ending, safe for a file. Throws RuntimeFault when the folder or the file cannot be made.
+  ReceivedArchive(const QString& folder, const QString& name);
+  ~ReceivedArchive();
+  ReceivedArchive(const ReceivedArchive&) = delete;
+  ReceivedArchive& operator=(const ReceivedArchive&) = delete;
+
+  /// Throws RuntimeFault when the bytes cannot be written.
+  void write(QByteArrayView bytes);
+  std::int64_t size() const { return size_; }
+
+  /// Gives the archive its name and returns its path. No file is replaced: where one of that name stands, the
+  /// archive gets a number, unless that file holds the very same bytes and so is this archive already. Throws
+  /// RuntimeFault when it cannot be put in place.
+  QString keep();
+
+  /// Closes the file, which stays aside as long as the object lives, and gives its path for reading. Throws
+  /// RuntimeFault when the last bytes cannot be written.
+  QString closeForReading();
+
+ private:
+  QString folder_;
+  QString name_;
+  QString asidePath_;
+  std::unique_ptr<FileWriter> writer_;
+  std::int64_t size_ = 0;
+};
 
 /// A list that has come from a peer.
 struct ReceivedList {
@@ -36,7 +69,7 @@ struct PeerFigures {
 };
 
 /// One conversation's receiving end.
-class PeerReceiver : public PeerStreamSink {
+class ListReceiver : public AnswerSink {
  public:
   /// Bytes of an archive that broke off, in which other messages follow.
   struct Rest {
@@ -48,7 +81,7 @@ class PeerReceiver : public PeerStreamSink {
 
   /// Archives go into `folder`, which ends in a separator and is made when the first one comes; none may grow
   /// beyond `mostBytes`. `queue` must outlive the object.
-  PeerReceiver(PeerSendQueue& queue, const QString& folder, std::int64_t mostBytes);
+  ListReceiver(SendQueue& queue, const QString& folder, std::int64_t mostBytes);
 
   /// The identity last announced, and the name of the archive last announced, each without its first
   /// character.
@@ -78,7 +111,7 @@ class PeerReceiver : public PeerStreamSink {
   bool ask(const QByteArray& name);
   QString shownName() const;
 
-  PeerSendQueue& queue_;
+  SendQueue& queue_;
   QString folder_;
   std::int64_t mostBytes_;
   QString peerIdent_;
@@ -89,10 +122,10 @@ class PeerReceiver : public PeerStreamSink {
   bool queueIsFull_ = false;
   /// The list that is coming, and its archive from its first byte on.
   QString name_;
-  std::unique_ptr<PeerReceivedArchive> archive_;
+  std::unique_ptr<ReceivedArchive> archive_;
   /// An archive that broke off, as long as what follows in it has not been taken.
-  std::unique_ptr<PeerReceivedArchive> cut_;
-  std::unique_ptr<PeerReceivedArchive> cutBeingRead_;
+  std::unique_ptr<ReceivedArchive> cut_;
+  std::unique_ptr<ReceivedArchive> cutBeingRead_;
   std::int64_t cutLength_ = 0;
 };
 

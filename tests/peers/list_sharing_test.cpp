@@ -1,5 +1,5 @@
 // Offering the listings of the online sources.
-#include "peers/server/peer_sharing.h"
+#include "peers/server/list_sharing.h"
 
 #include "archive/archive_packing.h"
 #include "archive/archive_reader.h"
@@ -46,7 +46,7 @@ class PeerSharingTest : public testing::Test {
 
   PeerProgram program_;
   std::function<void()> onEvents_;
-  PeerSharing sharing_{program_.state, program_.messages, QLocale::c(), [this] {
+  ListSharing sharing_{program_.state, program_.messages, QLocale::c(), [this] {
                          QCoreApplication::processEvents();
                          if (onEvents_) onEvents_();
                        }};

@@ -1,4 +1,4 @@
-#include "peers/client/peer_stream.h"
+#include "peers/client/answer_stream.h"
 
 #include "faults/runtime_fault.h"
 #include "peers/messages/peer_message.h"
@@ -26,13 +26,13 @@ RuntimeFault noLists() {
 
 }  // namespace
 
-void PeerStream::feed(QByteArrayView bytes) {
+void AnswerStream::feed(QByteArrayView bytes) {
   buffer_.append(bytes.data(), bytes.size());
   while (step()) continue;
 }
 
 /// Takes one piece from the front of the buffer; false when there is none, or it is not whole yet.
-bool PeerStream::step() {
+bool AnswerStream::step() {
   switch (part_) {
     case Part::Opening:
       return takeOpening();
@@ -48,7 +48,7 @@ bool PeerStream::step() {
   return false;
 }
 
-bool PeerStream::takeOpening() {
+bool AnswerStream::takeOpening() {
   const qsizetype lists = buffer_.indexOf(kListsStart);
   tellIdentity(lists < 0 ? QByteArrayView(buffer_) : QByteArrayView(buffer_).first(lists));
   if (lists < 0 && buffer_.size() > kLongestPeerMessage) {
@@ -60,14 +60,14 @@ bool PeerStream::takeOpening() {
   return true;
 }
 
-void PeerStream::tellIdentity(QByteArrayView opening) {
+void AnswerStream::tellIdentity(QByteArrayView opening) {
   for (const QByteArrayView answer : {QByteArrayView(kGreetingAnswer), QByteArrayView(kUnknownAnswer)}) {
     if (opening.startsWith(answer)) opening = opening.sliced(answer.size());
   }
   if (opening.startsWith("I AM:")) sink_.identityArrived(opening.toByteArray());
 }
 
-bool PeerStream::takeName() {
+bool AnswerStream::takeName() {
   if (announcementAt(buffer_)) {
     part_ = Part::Announcement;
     return true;
@@ -89,7 +89,7 @@ bool PeerStream::takeName() {
   return true;
 }
 
-bool PeerStream::takeAnnouncement() {
+bool AnswerStream::takeAnnouncement() {
   if (buffer_.isEmpty()) return false;
   const std::optional<Match> match = announcementAt(buffer_);
   if (!match) return !mayBecomeAnnouncement(buffer_) && skipToAnnouncement();
@@ -103,7 +103,7 @@ bool PeerStream::takeAnnouncement() {
 }
 
 /// Drops what stands between an archive and the next announcement.
-bool PeerStream::skipToAnnouncement() {
+bool AnswerStream::skipToAnnouncement() {
   for (qsizetype at = 1; at < buffer_.size(); ++at) {
     at = buffer_.indexOf('L', at);
     if (at < 0) break;
@@ -116,7 +116,7 @@ bool PeerStream::skipToAnnouncement() {
   return false;
 }
 
-void PeerStream::announce(qsizetype length) {
+void AnswerStream::announce(qsizetype length) {
   const QByteArray name = expected_.front().name;
   expected_.pop_front();
   expectedChanged();
@@ -130,7 +130,7 @@ void PeerStream::announce(qsizetype length) {
   sink_.archiveAnnounced(name, message);
 }
 
-void PeerStream::askAgain(qsizetype requests) {
+void AnswerStream::askAgain(qsizetype requests) {
   for (qsizetype i = 0; i < requests; ++i) {
     const Expected lost = expected_.front();
     expected_.pop_front();
@@ -139,7 +139,7 @@ void PeerStream::askAgain(qsizetype requests) {
   expectedChanged();
 }
 
-bool PeerStream::takeArchiveStart() {
+bool AnswerStream::takeArchiveStart() {
   if (buffer_.isEmpty()) return false;
   const std::optional<bool> isArchive = ArchiveEnd::canStartWith(buffer_);
   if (!isArchive) return false;
@@ -148,7 +148,7 @@ bool PeerStream::takeArchiveStart() {
   return true;
 }
 
-bool PeerStream::takeArchive() {
+bool AnswerStream::takeArchive() {
   if (buffer_.isEmpty()) return false;
   const std::optional<qsizetype> end = archiveEnd_.feed(buffer_);
   const qsizetype taken = end.value_or(buffer_.size());
@@ -160,7 +160,7 @@ bool PeerStream::takeArchive() {
   return true;
 }
 
-void PeerStream::giveArchiveBytes(QByteArrayView bytes) {
+void AnswerStream::giveArchiveBytes(QByteArrayView bytes) {
   lookForNextAnnouncement(bytes);
   archiveLength_ += bytes.size();
   sink_.archiveBytes(bytes);
@@ -168,7 +168,7 @@ void PeerStream::giveArchiveBytes(QByteArrayView bytes) {
 
 /// Notes where the next announcement, followed by an archive, stands in this archive's bytes: should this
 /// archive turn out to be cut off, it was the end of it.
-void PeerStream::lookForNextAnnouncement(QByteArrayView bytes) {
+void AnswerStream::lookForNextAnnouncement(QByteArrayView bytes) {
   if (nextAnnouncement_ || expected_.empty()) return;
   const QByteArray wanted = announcementMessage(expected_.front().name) + "PK";
   const std::int64_t tailStart = archiveLength_ - archiveTail_.size();
@@ -178,12 +178,12 @@ void PeerStream::lookForNextAnnouncement(QByteArrayView bytes) {
   archiveTail_.remove(0, std::max<qsizetype>(0, archiveTail_.size() - wanted.size() + 1));
 }
 
-bool PeerStream::isComplete() const {
+bool AnswerStream::isComplete() const {
   const bool isBetween = part_ == Part::Announcement || part_ == Part::Names;
   return isBetween && expected_.empty() && namedLists_ > 0;
 }
 
-void PeerStream::settle() {
+void AnswerStream::settle() {
   if (part_ == Part::Names && namedLists_ == 0) throw noLists();
   if (part_ != Part::ArchiveStart || !expected_.empty()) return;
   part_ = Part::Announcement;
@@ -191,7 +191,7 @@ void PeerStream::settle() {
   sink_.archiveMissing();
 }
 
-void PeerStream::end() {
+void AnswerStream::end() {
   settle();
   if (part_ == Part::ArchiveStart) {
     part_ = Part::Announcement;
@@ -203,7 +203,7 @@ void PeerStream::end() {
   sink_.archiveCut(nextAnnouncement_.value_or(archiveLength_));
 }
 
-void PeerStream::expectedChanged() {
+void AnswerStream::expectedChanged() {
   possible_.clear();
   QByteArray joined;
   for (std::size_t i = 0; i < std::min(expected_.size(), kMostJoinedRequests); ++i) {
@@ -213,14 +213,14 @@ void PeerStream::expectedChanged() {
   }
 }
 
-std::optional<PeerStream::Match> PeerStream::announcementAt(QByteArrayView bytes) const {
+std::optional<AnswerStream::Match> AnswerStream::announcementAt(QByteArrayView bytes) const {
   for (std::size_t i = 0; i < possible_.size(); ++i) {
     if (bytes.startsWith(possible_[i])) return Match{static_cast<qsizetype>(i) + 1, possible_[i].size()};
   }
   return std::nullopt;
 }
 
-bool PeerStream::mayBecomeAnnouncement(QByteArrayView bytes) const {
+bool AnswerStream::mayBecomeAnnouncement(QByteArrayView bytes) const {
   return std::any_of(possible_.begin(), possible_.end(), [bytes](const QByteArray& message) {
     return QByteArrayView(message).startsWith(bytes);
   });

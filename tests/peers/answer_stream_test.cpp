@@ -1,5 +1,5 @@
 // The stream of a server, split and joined anywhere.
-#include "peers/client/peer_stream.h"
+#include "peers/client/answer_stream.h"
 
 #include "faults/runtime_fault.h"
 #include "peers/peer_program.h"
@@ -14,7 +14,7 @@ namespace {
 using testing::ElementsAre;
 
 /// Writes down what was found, an archive's bytes as one.
-class StreamLog : public PeerStreamSink {
+class StreamLog : public AnswerSink {
  public:
   void identityArrived(const QByteArray& message) override { identity = message; }
   bool listNamed(const QByteArray& name) override {
@@ -49,7 +49,7 @@ class StreamLog : public PeerStreamSink {
 
 struct Reading {
   StreamLog log;
-  PeerStream stream{log};
+  AnswerStream stream{log};
 };
 
 class PeerStreamTest : public testing::Test {
@@ -222,7 +222,7 @@ TEST_F(PeerStreamTest, ListsOfTheSameNameComeOneAfterTheOther) {
   EXPECT_TRUE(reading.stream.isComplete());
 }
 
-int faultOf(PeerStream& stream, const QByteArray& bytes, int times) {
+int faultOf(AnswerStream& stream, const QByteArray& bytes, int times) {
   try {
     for (int i = 0; i < times; ++i) stream.feed(bytes);
   } catch (const RuntimeFault& fault) {

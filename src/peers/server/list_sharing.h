@@ -19,13 +19,13 @@ namespace quorvin {
 /// online source that has a listing is made anew after each refresh. Archives stay when sharing ends; they
 /// are replaced by the next ones. An archive of the user's, by which is meant any that was not made here, is
 /// never replaced.
-class PeerSharing : public QObject {
+class ListSharing : public QObject {
   Q_OBJECT
 
  public:
   /// `state` and `messages` must outlive the object. `processEvents` lets pending window events run; it is
   /// called all the time while archives are made.
-  PeerSharing(const ProgramState& state, MessageBoxes& messages, const QLocale& locale,
+  ListSharing(const ProgramState& state, MessageBoxes& messages, const QLocale& locale,
               std::function<void()> processEvents, PeerServerLimits limits = {}, QObject* parent = nullptr);
 
   /// Opens the listener, makes the archives and tells the address and what could not be packed; or tells why

@@ -1,11 +1,13 @@
-#include "peers/server/peer_sharing.h"
+#include "peers/server/list_sharing.h"
 
 #include "archive/archive_packing.h"
 #include "faults/runtime_fault.h"
-#include "platform/text_encoding.h"
+#include "peers/messages/peer_names.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QHostAddress>
+#include <QNetworkInterface>
 #include <QSet>
 
 #include <utility>
@@ -16,17 +18,22 @@ namespace {
 
 // Often enough for a window to feel quick, seldom enough to cost nothing.
 constexpr qint64 kMillisecondsBetweenEvents = 5;
-constexpr qsizetype kMostToldProblems = 10;
 
-/// Where the refresh puts the listing of a source.
-QString listingPathOf(const ProgramState& state, int row) {
-  const QString baseName = trimBlanks(state.OnlineSources.description(row)).toString();
-  return state.LocalFolder + baseName + QStringLiteral(".txt");
+// This machine's addresses, without those that only it can reach; IPv4 first.
+QStringList ownNetworkAddresses() {
+  QStringList addresses;
+  QStringList longAddresses;
+  for (const QHostAddress& address : QNetworkInterface::allAddresses()) {
+    if (address.isLoopback() || address.isLinkLocal()) continue;
+    const bool isShort = address.protocol() == QAbstractSocket::IPv4Protocol;
+    (isShort ? addresses : longAddresses) += address.toString();
+  }
+  return addresses + longAddresses;
 }
 
 }  // namespace
 
-PeerSharing::PeerSharing(const ProgramState& state, MessageBoxes& messages, const QLocale& locale,
+ListSharing::ListSharing(const ProgramState& state, MessageBoxes& messages, const QLocale& locale,
                          std::function<void()> processEvents, PeerServerLimits limits, QObject* parent)
     : QObject(parent),
       state_(state),
@@ -34,12 +41,13 @@ PeerSharing::PeerSharing(const ProgramState& state, MessageBoxes& messages, cons
       processEvents_(std::move(processEvents)),
       server_(state, locale, limits) {}
 
-bool PeerSharing::start(std::uint16_t port) {
+bool ListSharing::start(std::uint16_t port) {
   if (isSharing()) return true;
   if (!server_.start(port)) {
-    messages_.inform(QStringLiteral("Your lists are not shared: port %1 could not be opened.\r\n\r\n%2.")
-                         .arg(port)
-                         .arg(server_.errorText()));
+    messages_.inform(
+        sentence(QStringLiteral("Your lists are not shared: port %1 could not be opened.\r\n\r\n%2")
+                     .arg(port)
+                     .arg(server_.errorText())));
     return false;
   }
   const QStringList problems = packAll();
@@ -47,18 +55,18 @@ bool PeerSharing::start(std::uint16_t port) {
   return isSharing();
 }
 
-void PeerSharing::stop() {
+void ListSharing::stop() {
   server_.stop();
 }
 
-void PeerSharing::sourcesRefreshed() {
+void ListSharing::sourcesRefreshed() {
   if (!isSharing()) return;
   const QStringList problems = packAll();
   if (isSharing() && !problems.isEmpty()) tell(QStringLiteral("Your lists are shared."), problems);
 }
 
 /// Events run meanwhile; a call that comes out of them only has it begin again at its end.
-QStringList PeerSharing::packAll() {
+QStringList ListSharing::packAll() {
   packAgain_ = true;
   if (isPacking_) return {};
   isPacking_ = true;
@@ -68,12 +76,14 @@ QStringList PeerSharing::packAll() {
   return problems;
 }
 
-QStringList PeerSharing::packEach() {
+QStringList ListSharing::packEach() {
   QStringList problems;
   QSet<QString> packed;
   for (int row = 1; row <= state_.OnlineSourceCount && !mustStop(); ++row) {
     const QString description = state_.OnlineSources.description(row);
-    if (packed.contains(description) || !QFileInfo(listingPathOf(state_, row)).isFile()) continue;
+    if (packed.contains(description) ||
+        !QFileInfo(state_.onlineListingPath(state_.OnlineSources.description(row))).isFile())
+      continue;
     packed.insert(description);
     const QString problem = packRow(row);
     if (!problem.isEmpty()) problems += problem;
@@ -81,7 +91,7 @@ QStringList PeerSharing::packEach() {
   return problems;
 }
 
-QString PeerSharing::packRow(int row) {
+QString ListSharing::packRow(int row) {
   const QString archive = archivePathOf(state_, row);
   const bool isMainArchive = archive == state_.LocalFolder + state_.ArchiveFile;
   if (isMainArchive || !mayBeReplacedByPacking(archive)) {
@@ -96,30 +106,24 @@ QString PeerSharing::packRow(int row) {
     return mustStop();
   };
   try {
-    packListing(listingPathOf(state_, row), archive, pause);
+    packListing(state_.onlineListingPath(state_.OnlineSources.description(row)), archive, pause);
     return {};
   } catch (const RuntimeFault& fault) {
-    return fault.description() + u'.';
+    return sentence(fault.description());
   }
 }
 
-bool PeerSharing::mustStop() const {
+bool ListSharing::mustStop() const {
   return !isSharing() || state_.QuitPending;
 }
 
-void PeerSharing::tell(const QString& first, const QStringList& problems) {
+void ListSharing::tell(const QString& first, const QStringList& problems) {
   if (state_.QuitPending) return;
   if (problems.isEmpty()) return messages_.inform(first);
-  QStringList told = problems.first(qMin(problems.size(), kMostToldProblems));
-  if (told.size() < problems.size()) {
-    told += QStringLiteral("There were %1 more problems.").arg(problems.size() - told.size());
-  }
-  const QString lineEnd = QStringLiteral("\r\n");
-  messages_.inform(first + lineEnd + lineEnd + QStringLiteral("Not all could be packed:") + lineEnd +
-                   told.join(lineEnd));
+  messages_.inform(first + QStringLiteral("\r\n\r\nNot all could be packed:\r\n") + shownProblems(problems));
 }
 
-QString PeerSharing::addressText() const {
+QString ListSharing::addressText() const {
   QStringList addresses = ownNetworkAddresses();
   if (addresses.isEmpty()) addresses += QStringLiteral("localhost");
   const QString which =

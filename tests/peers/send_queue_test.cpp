@@ -1,8 +1,7 @@
 // The send queue and its timer.
-#include "peers/messages/peer_send_queue.h"
+#include "peers/messages/send_queue.h"
 
 #include "faults/runtime_fault.h"
-#include "peers/messages/peer_send_timer.h"
 #include "peers/peer_program.h"
 
 #include <QElapsedTimer>
@@ -13,16 +12,16 @@ namespace quorvin::test {
 
 namespace {
 
-TEST(PeerSendQueue, NothingIsAwaitedAtFirst) {
-  const PeerSendQueue queue;
+TEST(SendQueue, NothingIsAwaitedAtFirst) {
+  const SendQueue queue;
   EXPECT_EQ(queue.SendQueueCount(), 0);
   EXPECT_EQ(queue.SendQueueHead(), 0);
   EXPECT_TRUE(queue.isDrained());
   EXPECT_FALSE(queue.isReplyAwaited());
 }
 
-TEST(PeerSendQueue, TheFirstEntryIsNumberOne) {
-  PeerSendQueue queue;
+TEST(SendQueue, TheFirstEntryIsNumberOne) {
+  SendQueue queue;
   queue.append("hello");
   EXPECT_EQ(queue.SendQueueCount(), 1);
   EXPECT_EQ(queue.entry(1).Kind, QStringLiteral("sndstr"));
@@ -31,8 +30,8 @@ TEST(PeerSendQueue, TheFirstEntryIsNumberOne) {
   EXPECT_EQ(queue.entry(0).Kind, QString());
 }
 
-TEST(PeerSendQueue, AnEntryThatWasTakenAwaitsItsReply) {
-  PeerSendQueue queue;
+TEST(SendQueue, AnEntryThatWasTakenAwaitsItsReply) {
+  SendQueue queue;
   queue.append("hello");
   EXPECT_EQ(queue.takeNext().Payload, QByteArray("hello"));
   EXPECT_EQ(queue.SendQueueHead(), 1);
@@ -43,8 +42,8 @@ TEST(PeerSendQueue, AnEntryThatWasTakenAwaitsItsReply) {
   EXPECT_FALSE(queue.isReplyAwaited());
 }
 
-TEST(PeerSendQueue, TheMessageAfterTheThousandthIsAFault) {
-  PeerSendQueue queue;
+TEST(SendQueue, TheMessageAfterTheThousandthIsAFault) {
+  SendQueue queue;
   for (int i = 0; i < 1000; ++i) queue.append("x");
   try {
     queue.append("y");
@@ -56,8 +55,8 @@ TEST(PeerSendQueue, TheMessageAfterTheThousandthIsAFault) {
   EXPECT_EQ(queue.entry(1000).Payload, QByteArray("x"));
 }
 
-TEST(PeerSendQueue, AnAbandonedQueueDoesNotBeginAnew) {
-  PeerSendQueue queue;
+TEST(SendQueue, AnAbandonedQueueDoesNotBeginAnew) {
+  SendQueue queue;
   queue.append("a");
   queue.append("b");
   queue.append("c");
@@ -77,8 +76,8 @@ class PeerSendTimerTest : public testing::Test {
   }
 
   ProgramState state_;
-  PeerSendQueue queue_;
-  PeerSendTimer timer_{state_, queue_};
+  SendQueue queue_;
+  SendTimer timer_{state_, queue_};
   std::vector<QByteArray> sent_;
   int quits_ = 0;
 };

@@ -1,4 +1,4 @@
-#include "peers/client/peer_offer.h"
+#include "peers/client/list_offer.h"
 
 #include "faults/runtime_fault.h"
 #include "files/path_style.h"
@@ -13,18 +13,10 @@ namespace quorvin {
 
 namespace {
 
-constexpr qsizetype kMostToldProblems = 10;
 const QLatin1String kLineEnd("\r\n");
 
 QString countOfLists(std::size_t count) {
   return count == 1 ? QStringLiteral("1 list") : QStringLiteral("%1 lists").arg(count);
-}
-
-QString shownProblems(const QStringList& problems) {
-  QString text = problems.first(qMin(problems.size(), kMostToldProblems)).join(kLineEnd);
-  const qsizetype more = problems.size() - kMostToldProblems;
-  if (more > 0) text += kLineEnd + QStringLiteral("There were %1 more problems.").arg(more);
-  return text;
 }
 
 QString folderOfFirst(const PeerOutcome& outcome) {
@@ -50,10 +42,6 @@ QString leftOut(std::size_t count) {
   const QString were = count == 1 ? QStringLiteral("was") : QStringLiteral("were");
   return QStringLiteral("%1 %2 left out, since unpacking was cancelled. The archives stay in the folder.")
       .arg(countOfLists(count), were);
-}
-
-QString withFullStop(const QString& text) {
-  return text.endsWith(u'.') ? text : text + u'.';
 }
 
 /// Adds the lists of one conversation.
@@ -89,8 +77,7 @@ class ListAdder {
     } catch (const RuntimeFault& fault) {
       // Only if nothing was unpacked into it.
       QDir().rmdir(folder);
-      problems_ +=
-          QStringLiteral("\"%1\": %2").arg(shownPeerText(list.name), withFullStop(fault.description()));
+      problems_ += QStringLiteral("\"%1\": %2").arg(shownPeerText(list.name), sentence(fault.description()));
     }
     return true;
   }

@@ -14,9 +14,9 @@
 namespace quorvin {
 
 /// Takes what was found in the stream. Texts are bytes in the peer's code page.
-class PeerStreamSink {
+class AnswerSink {
  public:
-  virtual ~PeerStreamSink() = default;
+  virtual ~AnswerSink() = default;
 
   /// The server's identity, the whole message. It comes again, longer, when more of it arrives.
   virtual void identityArrived(const QByteArray& message) = 0;
@@ -43,10 +43,10 @@ class PeerStreamSink {
 /// lists, and then for each list that was named its announcement and its archive, in the order named. An
 /// announcement is known by the name in it. Where an archive ends is told by its structure, and only when
 /// that fails, by the next announcement.
-class PeerStream {
+class AnswerStream {
  public:
   /// `sink` must outlive the stream.
-  explicit PeerStream(PeerStreamSink& sink) : sink_(sink) {}
+  explicit AnswerStream(AnswerSink& sink) : sink_(sink) {}
 
   /// Takes the next bytes. Throws fault 13 when they make no sense, and whatever the sink throws.
   void feed(QByteArrayView bytes);
@@ -105,7 +105,7 @@ class PeerStream {
   bool mayBecomeAnnouncement(QByteArrayView bytes) const;
   void expectedChanged();
 
-  PeerStreamSink& sink_;
+  AnswerSink& sink_;
   Part part_ = Part::Opening;
   QByteArray buffer_;
   /// Those whose announcements have not come yet.

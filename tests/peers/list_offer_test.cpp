@@ -1,5 +1,5 @@
 // Telling what came from a peer, and adding it to the offline sources.
-#include "peers/client/peer_offer.h"
+#include "peers/client/list_offer.h"
 
 #include "faults/runtime_fault.h"
 #include "peers/peer_program.h"

@@ -1,10 +1,16 @@
-// What a client has to say to its peer, one message after the other.
+// What a client has to say to its peer, one message after the other, and the timer that sends it.
 #pragma once
 
+#include "state/program_state.h"
+
 #include <QByteArray>
+#include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace quorvin {
@@ -20,11 +26,11 @@ struct SendQueueEntry {
 
 /// The send queue of the whole program: entries 1 to 1000, entry 0 being one that nothing is awaited for. It
 /// is never wrapped or emptied, so a run of the program can send 1000 messages.
-class PeerSendQueue {
+class SendQueue {
  public:
   static constexpr std::int32_t kLastEntry = 1000;
 
-  PeerSendQueue() : entries_(kLastEntry + 1) {}
+  SendQueue() : entries_(kLastEntry + 1) {}
 
   /// Appends a message to be sent. Throws fault 9 when there is no entry left; nothing changes then.
   void append(const QByteArray& payload);
@@ -52,6 +58,39 @@ class PeerSendQueue {
   std::vector<SendQueueEntry> entries_;
   std::int32_t count_ = 0;
   std::int32_t head_ = 0;
+};
+
+/// `SndQTime`, ticking every 100 ms while it is enabled; at first it is not. Each tick sends at most one
+/// message, and none while the reply to the last one is awaited. When the program is closing it sends nothing
+/// more, waits until no refresh is running, and then has the program end.
+class SendTimer : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr int kInterval = 100;
+
+  /// `state` and `queue` must outlive the timer.
+  SendTimer(const ProgramState& state, SendQueue& queue, QObject* parent = nullptr);
+
+  /// What sends a message to the peer.
+  void setSender(std::function<void(const QByteArray&)> send) { send_ = std::move(send); }
+  /// Called once `QuitPending` is set and no refresh is running: unloads the windows and closes the program.
+  void setQuit(std::function<void()> quit) { quit_ = std::move(quit); }
+
+  /// Ticks from now on; a timer that ticks already keeps its pace.
+  void enable();
+  void disable() { timer_.stop(); }
+  bool isEnabled() const { return timer_.isActive(); }
+
+ private:
+  void SndQTime_Timer();
+  void quitWhenIdle();
+
+  const ProgramState& state_;
+  SendQueue& queue_;
+  QTimer timer_;
+  std::function<void(const QByteArray&)> send_;
+  std::function<void()> quit_;
 };
 
 }  // namespace quorvin
