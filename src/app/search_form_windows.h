@@ -8,7 +8,7 @@
 #include "help/frm_splash.h"
 #include "help/network_page_transfer.h"
 #include "platform/message_box.h"
-#include "preview/img_pre_opener.h"
+#include "preview/image_preview.h"
 #include "state/program_state.h"
 
 #include <QLocale>
@@ -55,7 +55,7 @@ class SearchFormWindows {
   DialogFilePicker systemPicker_;
   LocalLocOpener sources_;
   ListOptionsOpener options_;
-  ImgPreOpener preview_;
+  ImagePreview preview_;
   QPointer<frmSplash> splash_;
   NetworkPageTransfer transfer_;
   /// A window of its own beside the main one, so it is not the main window's child.

@@ -1,13 +1,17 @@
 #include "preview/img_pre.h"
 
+#include "preview/in_background.h"
 #include "preview/picture_fit.h"
 
 #include <QFileInfo>
 #include <QKeySequence>
+#include <QPainter>
+#include <QPixmap>
 #include <QShortcut>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quorvin {
 
@@ -17,17 +21,104 @@ constexpr float kTwipsPerPixel = 15;
 constexpr QSize kFirstSize(640, 480);
 
 int pixelsOf(float twips) {
-  // A picture that is far longer than wide has no width left by the rule; a line of it can still be seen.
+  // The rule leaves no height to a picture that is far wider than high; a line of it can still be seen.
   return std::max(1, static_cast<int>(std::lround(twips / kTwipsPerPixel)));
 }
 
 }  // namespace
 
+PictureAnimation::PictureAnimation(QThreadPool& pool) : pool_(pool) {
+  timer_.setSingleShot(true);
+  timer_.setTimerType(Qt::PreciseTimer);
+  connect(&timer_, &QTimer::timeout, this, [this] {
+    isTimeOver_ = true;
+    showNext();
+  });
+}
+
+PictureAnimation::~PictureAnimation() {
+  stop();
+}
+
+void PictureAnimation::start(std::shared_ptr<PictureDecoder> decoder, int milliseconds) {
+  stop();
+  decoder_ = std::move(decoder);
+  if (!decoder_) return;
+  timer_.start(milliseconds);
+  decodeNext();
+}
+
+void PictureAnimation::stop() {
+  timer_.stop();
+  if (decoder_) decoder_->stop();
+  decoder_.reset();
+  next_.reset();
+  isTimeOver_ = false;
+}
+
+void PictureAnimation::setPaused(bool isPaused) {
+  isPaused_ = isPaused;
+  showNext();
+}
+
+void PictureAnimation::decodeNext() {
+  inBackground(
+      pool_, this, [decoder = decoder_] { return decoder->next(); },
+      [this, decoder = decoder_](const QFuture<std::optional<PictureFrame>>& frame) {
+        // Another picture may have come meanwhile.
+        if (decoder == decoder_) frameDecoded(frame.result());
+      });
+}
+
+void PictureAnimation::frameDecoded(const std::optional<PictureFrame>& frame) {
+  if (!frame) return stop();
+  next_ = frame;
+  showNext();
+}
+
+void PictureAnimation::showNext() {
+  if (!next_ || !isTimeOver_ || isPaused_) return;
+  const PictureFrame frame = *std::exchange(next_, std::nullopt);
+  isTimeOver_ = false;
+  timer_.start(frame.milliseconds);
+  decodeNext();
+  Q_EMIT frameReached(frame.image);
+}
+
+/// The control `Pic`: stretches its picture to whatever size it is given.
+class ImgPre::Picture : public QWidget {
+ public:
+  explicit Picture(QWidget* parent) : QWidget(parent) {}
+
+  void setImage(const QImage& image) {
+    image_ = image;
+    stretched_ = {};
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (image_.isNull()) return;
+    const QSize pixels = size() * devicePixelRatio();
+    if (stretched_.size() != pixels) stretched_ = stretchedTo(pixels);
+    QPainter(this).drawPixmap(rect(), stretched_);
+  }
+
+ private:
+  QPixmap stretchedTo(const QSize& pixels) const {
+    // What is made much larger shows its pixels; softened, they would look like a fault.
+    const bool isEnlarged = pixels.width() > 4 * image_.width();
+    const auto mode = isEnlarged ? Qt::FastTransformation : Qt::SmoothTransformation;
+    return QPixmap::fromImage(image_.scaled(pixels, Qt::IgnoreAspectRatio, mode));
+  }
+
+  QImage image_;
+  /// The image in the size in which it was painted last.
+  QPixmap stretched_;
+};
+
 ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
-    : QWidget(parent, Qt::Window),
-      PicBox_(new QWidget(this)),
-      Pic_(new ImgPrePic(PicBox_)),
-      animation_(pool) {
+    : QWidget(parent, Qt::Window), PicBox_(new QWidget(this)), Pic_(new Picture(PicBox_)), animation_(pool) {
   setObjectName(QStringLiteral("ImgPre"));
   setWindowTitle(QStringLiteral("Image Preview"));
   PicBox_->setObjectName(QStringLiteral("PicBox"));
@@ -36,13 +127,13 @@ ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
   Pic_->setAccessibleName(QStringLiteral("Picture"));
   Pic_->setGeometry(0, 0, 1, 1);
   resize(kFirstSize);
-  connect(&animation_, &PictureAnimation::frameReached, Pic_, &ImgPrePic::setPicture);
+  connect(&animation_, &PictureAnimation::frameReached, Pic_, &Picture::setImage);
   connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void ImgPre::setPicture(const LoadedPicture& picture, const QString& path) {
   pictureSize_ = picture.size;
-  Pic_->setPicture(picture.frame.image);
+  Pic_->setImage(picture.frame.image);
   Pic_->setAccessibleName(QStringLiteral("Picture ") + QFileInfo(path).fileName());
   Pic_->setToolTip(path.toHtmlEscaped());
   animation_.start(picture.decoder, picture.frame.milliseconds);

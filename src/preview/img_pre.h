@@ -1,20 +1,58 @@
 // The window that shows a picture.
 #pragma once
 
-#include "preview/img_pre_pic.h"
-#include "preview/picture_animation.h"
-#include "preview/picture_load.h"
+#include "preview/loaded_picture.h"
 
+#include <QImage>
+#include <QObject>
 #include <QSizeF>
 #include <QString>
 #include <QThreadPool>
+#include <QTimer>
 #include <QWidget>
+
+#include <memory>
+#include <optional>
 
 namespace quorvin {
 
-/// The preview window `ImgPre`: the frame `PicBox` fills it, and in its upper left corner `Pic` shows the
-/// picture as large as fitPicture says, again after each change of the window's size and each activation. Esc
-/// closes the window; a closed one only hides and keeps its picture.
+/// Hands out the frames of a moving picture, each when its time has come. While one is seen, the next is
+/// decoded in another thread, so that the user interface never waits for it.
+class PictureAnimation : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `pool` must outlive the object.
+  explicit PictureAnimation(QThreadPool& pool);
+  ~PictureAnimation() override;
+
+  /// Forgets the picture before. The first frame, which has been decoded already, is seen from now on for
+  /// `milliseconds`. Ends by itself when the picture has no further frame; `decoder` may be null.
+  void start(std::shared_ptr<PictureDecoder> decoder, int milliseconds);
+  void stop();
+
+  /// No frame comes while it is paused.
+  void setPaused(bool isPaused);
+
+ Q_SIGNALS:
+  void frameReached(const QImage& image);
+
+ private:
+  void decodeNext();
+  void frameDecoded(const std::optional<PictureFrame>& frame);
+  void showNext();
+
+  QThreadPool& pool_;
+  QTimer timer_;
+  std::shared_ptr<PictureDecoder> decoder_;
+  std::optional<PictureFrame> next_;
+  bool isTimeOver_ = false;
+  bool isPaused_ = false;
+};
+
+/// The preview window `ImgPre`. The frame `PicBox` fills it. In its upper left corner, `Pic` shows the
+/// picture in the size that fitPicture gives, which is applied again after each change of the window's size
+/// and each activation. Esc closes the window; a closed window is only hidden and keeps its picture.
 class ImgPre : public QWidget {
   Q_OBJECT
 
@@ -22,7 +60,7 @@ class ImgPre : public QWidget {
   /// Decodes the frames of moving pictures in threads of `pool`, which must outlive the window.
   ImgPre(QThreadPool& pool, QWidget* parent);
 
-  /// Takes the picture's place from now on; `path` tells screen readers and the tooltip which one it is.
+  /// Replaces the picture; `path` is its file, for screen readers and the tooltip.
   void setPicture(const LoadedPicture& picture, const QString& path);
 
  protected:
@@ -32,11 +70,13 @@ class ImgPre : public QWidget {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  class Picture;
+
   void Form_Activate();
   void Form_Resize();
 
   QWidget* PicBox_;
-  ImgPrePic* Pic_;
+  Picture* Pic_;
   QSizeF pictureSize_;
   PictureAnimation animation_;
 };

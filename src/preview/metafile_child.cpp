@@ -12,7 +12,7 @@ namespace {
 /// A request to stop is seen after at most this time.
 constexpr int kMillisecondsBetweenLooks = 50;
 
-/// Ends the process whichever way the waiting ends.
+/// Ends the process in whichever way the waiting ends.
 class ChildProcess {
  public:
   explicit ChildProcess(const QString& program) {
@@ -34,12 +34,12 @@ class ChildProcess {
   QProcess process_;
 };
 
-QByteArray answerOf(ChildProcess& process, std::chrono::milliseconds patience, const PictureStop& stop) {
+QByteArray answerOf(ChildProcess& process, std::chrono::milliseconds patience, const std::stop_token& stop) {
   QElapsedTimer clock;
   clock.start();
   QByteArray answer;
   while (process->state() != QProcess::NotRunning) {
-    if (stop.isRequested()) throw MetafileFault("its loading was cancelled");
+    if (stop.stop_requested()) throw MetafileFault("its loading was cancelled");
     if (clock.hasExpired(patience.count())) throw MetafileFault("drawing it takes too long");
     process->waitForReadyRead(kMillisecondsBetweenLooks);
     answer += process->readAllStandardOutput();
@@ -57,7 +57,8 @@ MetafileChild usualMetafileChild() {
   return {QFileInfo::exists(beside) ? beside : installed};
 }
 
-MetafilePicture drawInChild(const MetafileChild& child, const QByteArray& metafile, const PictureStop& stop) {
+MetafilePicture drawInChild(const MetafileChild& child, const QByteArray& metafile,
+                            const std::stop_token& stop) {
   ChildProcess process(child.program);
   if (!process->waitForStarted()) throw MetafileFault("the program that draws metafiles cannot be started");
   process->write(metafile);

@@ -1,13 +1,13 @@
-// Having a metafile drawn by a process of its own.
+// The process that draws a metafile, seen from the program with the windows.
 #pragma once
 
 #include "metafile/boundary.h"
-#include "preview/picture_stop.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <chrono>
+#include <stop_token>
 
 namespace quorvin {
 
@@ -17,13 +17,14 @@ struct MetafileChild {
   std::chrono::milliseconds patience = std::chrono::seconds(10);
 };
 
-/// quorvin-metafile beside the running program or, installed, in the folder ../libexec/quorvin seen from
-/// there.
+/// quorvin-metafile in the folder of the running program or, where it is installed, in ../libexec/quorvin
+/// from there.
 MetafileChild usualMetafileChild();
 
-/// Starts the program, gives it `metafile` and waits for its answer, which is checked. The process has ended
-/// when the function returns. To be called where waiting is allowed. Throws MetafileFault: the reason why
-/// there is no picture.
-MetafilePicture drawInChild(const MetafileChild& child, const QByteArray& metafile, const PictureStop& stop);
+/// Starts the program, gives it `metafile`, waits for its answer and checks it. The process has ended when
+/// the function returns. May take as long as `child` allows, so it is called outside of the user interface's
+/// thread. Throws MetafileFault with the reason why there is no picture.
+MetafilePicture drawInChild(const MetafileChild& child, const QByteArray& metafile,
+                            const std::stop_token& stop);
 
 }  // namespace quorvin

@@ -2,14 +2,52 @@
 
 #include "faults/runtime_fault.h"
 #include "files/sequential_file.h"
+#include "metafile/boundary.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace quorvin {
 
-PictureFile::PictureFile(const QString& path, PictureStop stop) : file_(path), stop_(std::move(stop)) {
-  // Opening it this way first tells what is wrong with a file that cannot be read, and never waits for a
+namespace {
+
+bool isIconFile(QByteArrayView start) {
+  const bool isIcon = start.startsWith(QByteArrayView("\0\0\1\0", 4));
+  const bool isPointer = start.startsWith(QByteArrayView("\0\0\2\0", 4));
+  return isIcon || isPointer;
+}
+
+}  // namespace
+
+std::optional<PictureFormat> pictureFormatOf(QByteArrayView start) {
+  if (start.startsWith("BM")) return PictureFormat::Bitmap;
+  if (isIconFile(start)) return PictureFormat::Icon;
+  if (start.startsWith("\xFF\xD8\xFF")) return PictureFormat::Jpeg;
+  if (start.startsWith("GIF87a") || start.startsWith("GIF89a")) return PictureFormat::Gif;
+  if (isEnhancedMetafile(start)) return PictureFormat::EnhancedMetafile;
+  if (isWindowsMetafile(start)) return PictureFormat::WindowsMetafile;
+  return std::nullopt;
+}
+
+bool isMetafile(PictureFormat format) {
+  return format == PictureFormat::WindowsMetafile || format == PictureFormat::EnhancedMetafile;
+}
+
+QByteArray imageReaderOf(PictureFormat format) {
+  switch (format) {
+    case PictureFormat::Icon:
+      return "ico";
+    case PictureFormat::Jpeg:
+      return "jpeg";
+    case PictureFormat::Gif:
+      return "gif";
+    default:
+      return "bmp";
+  }
+}
+
+PictureFile::PictureFile(const QString& path, std::stop_source stop) : file_(path), stop_(std::move(stop)) {
+  // Opening it this way first reports what is wrong with a file that cannot be read, and never waits for a
   // pipe.
   const SequentialFile check(path);
   if (!file_.open(QIODevice::ReadOnly)) {
@@ -36,7 +74,7 @@ bool PictureFile::seek(qint64 position) {
 }
 
 qint64 PictureFile::readData(char* buffer, qint64 wanted) {
-  if (stop_.isRequested()) return -1;
+  if (stop_.stop_requested()) return -1;
   const qint64 position = file_.pos();
   const qint64 count = file_.read(buffer, std::min(wanted, largestStep_));
   const qint64 replaced = replacedPosition_ - position;

@@ -1,37 +1,54 @@
-// A picture's file as the image readers see it.
+// The file of a picture: its format, and how the image readers see it.
 #pragma once
 
-#include "preview/picture_stop.h"
-
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QFile>
 #include <QIODevice>
 #include <QString>
 
 #include <limits>
+#include <optional>
+#include <stop_token>
 
 namespace quorvin {
 
-/// A regular file whose reading fails as soon as it is stopped: that is the only way to call an image reader
-/// off.
+/// The formats that can be shown.
+enum class PictureFormat { Bitmap, Icon, Jpeg, Gif, WindowsMetafile, EnhancedMetafile };
+
+/// So many bytes of a file are enough to recognise its format.
+inline constexpr qsizetype kFormatBytes = 64;
+
+/// The format of a file that starts with `start`, or nothing for every other file. Names do not count: a
+/// picture is what its bytes say.
+std::optional<PictureFormat> pictureFormatOf(QByteArrayView start);
+
+bool isMetafile(PictureFormat format);
+
+/// The toolkit's name of the image reader for a format that is no metafile.
+QByteArray imageReaderOf(PictureFormat format);
+
+/// A regular file that can be stopped: from then on every read fails. There is no other way to interrupt an
+/// image reader.
 class PictureFile : public QIODevice {
   Q_OBJECT
 
  public:
-  /// Opens `path`. Throws RuntimeFault as SequentialFile does, a file that is not a regular one included.
-  PictureFile(const QString& path, PictureStop stop);
+  /// Opens `path`. Throws RuntimeFault as SequentialFile does, also for what is not a regular file.
+  PictureFile(const QString& path, std::stop_source stop);
 
-  /// `count` bytes from `position` on, or as many as the file has; the place for reading is the start again.
+  /// `count` bytes from `position` on, or as many as the file has. Reading then goes on from the start.
   QByteArray part(qint64 position, qsizetype count);
 
-  /// From now on one read gives at most `bytes`, so that a reader that can do much with few bytes comes to
-  /// look more often. Only for readers that take less than they have asked for.
+  /// From now on one read gives at most `bytes`, so that a reader that can do much with a few bytes reads
+  /// more often, and can be stopped. Only for readers that accept less than they have asked for.
   void limitSteps(qint64 bytes) { largestStep_ = bytes; }
 
   /// From now on a read gives `byte` for the one at `position`, whatever the file says.
   void replaceByte(qint64 position, char byte);
 
-  /// May be called from another thread while this one reads.
-  void stop() const { stop_.request(); }
+  /// May be called while another thread reads.
+  void stop() { stop_.request_stop(); }
 
   qint64 size() const override { return file_.size(); }
   bool seek(qint64 position) override;
@@ -42,7 +59,7 @@ class PictureFile : public QIODevice {
 
  private:
   QFile file_;
-  PictureStop stop_;
+  std::stop_source stop_;
   qint64 largestStep_ = std::numeric_limits<qint64>::max();
   qint64 replacedPosition_ = -1;
   char replacement_ = 0;

@@ -22,7 +22,7 @@ qint64 rowSize(qint64 width, int depth) {
   return (width * depth + 31) / 32 * 4;
 }
 
-/// The bits of a pixel as the picture itself tells them; 0 where it does not.
+/// The bits of a pixel as the picture itself gives them; 0 where it does not.
 int depthOfPart(const QByteArray& start) {
   constexpr qsizetype kDepthPlace = 14;
   constexpr int kCompressedDepth = 32;
@@ -31,7 +31,7 @@ int depthOfPart(const QByteArray& start) {
 }
 
 /// Files of pointers have the hot spot where others have the depth.
-int toldDepth(QByteArrayView directory, QByteArrayView entry) {
+int depthInEntry(QByteArrayView directory, QByteArrayView entry) {
   constexpr quint16 kPointers = 2;
   const bool isPointer = qFromLittleEndian<quint16>(directory.data() + 2) == kPointers;
   return isPointer ? 0 : qFromLittleEndian<quint16>(entry.data() + 6);
@@ -42,13 +42,13 @@ int toldDepth(QByteArrayView directory, QByteArrayView entry) {
 int bestIcon(QByteArrayView directory, const IconBytes& bytes) {
   constexpr qsizetype kPartStart = 16;
   if (directory.size() < kHeaderSize) return 0;
-  const int told = qFromLittleEndian<quint16>(directory.data() + 4);
+  const int count = qFromLittleEndian<quint16>(directory.data() + 4);
   const auto held = static_cast<int>((directory.size() - kHeaderSize) / kEntrySize);
   int best = 0;
   std::pair<int, int> bestWorth;
-  for (int number = 0; number < std::min(told, held); ++number) {
+  for (int number = 0; number < std::min(count, held); ++number) {
     const QByteArrayView entry = directory.sliced(kHeaderSize + number * kEntrySize, kEntrySize);
-    int depth = toldDepth(directory, entry);
+    int depth = depthInEntry(directory, entry);
     if (depth == 0) depth = depthOfPart(bytes(iconPlace(directory, number).offset, kPartStart));
     const std::pair<int, int> worth(side(entry[0]) * side(entry[1]), depth);
     if (worth <= bestWorth) continue;

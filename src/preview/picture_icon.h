@@ -9,27 +9,27 @@
 
 namespace quorvin {
 
-/// So many bytes of an icon file hold its directory, whatever it contains.
+/// The directory of an icon file has at most so many bytes.
 inline constexpr qsizetype kLongestIconDirectory = 6 + 16 * 256;
 
-/// Gives so many bytes of an icon file from an offset on, or as many as there are.
+/// Returns `count` bytes of an icon file from `offset` on, or as many as there are.
 using IconBytes = std::function<QByteArray(qint64 offset, qsizetype count)>;
 
-/// The number of the best picture in an icon file that begins with `directory`: the largest, and among those
-/// the one with the most colours; counted from 0. Where the directory does not tell the colours, as in the
-/// files of pointers, the pictures do.
+/// The number, from 0, of the best picture in an icon file that starts with `directory`: the largest one, and
+/// of several of that size the one with the most colours. Where the directory does not give the colours, as
+/// in files of pointers, the pictures do.
 int bestIcon(QByteArrayView directory, const IconBytes& bytes);
 
-/// Where that picture stands in the file, as the directory says; not checked.
+/// The place of that picture in the file, as the directory gives it; it is not checked.
 struct IconPlace {
   qint64 offset = 0;
   qint64 length = 0;
 };
 IconPlace iconPlace(QByteArrayView directory, int number);
 
-/// Makes transparent what the mask of a picture of 24 bits hides, which the image reader overlooks. `part`
-/// are the bytes of the picture in the file; of other depths, and where they hold no whole mask, `image`
-/// stays as it is.
+/// Makes the pixels transparent that the mask of a picture of 24 bits hides; the image reader overlooks such
+/// masks. `part` holds the bytes of the picture in the file. With another depth, or without a whole mask,
+/// `image` stays as it is.
 void hideMaskedPixels(QImage& image, QByteArrayView part);
 
 }  // namespace quorvin

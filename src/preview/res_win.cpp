@@ -18,9 +18,9 @@ QPlainTextEdit* makeText() {
   text->setObjectName(QStringLiteral("ResultText"));
   text->setAccessibleName(QStringLiteral("Results"));
   text->setReadOnly(true);
-  // With the keyboard, too, a text that cannot be changed can be gone through and copied.
+  // A read-only text can be walked through and copied with the keyboard, too.
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  // What has happened stands at the end of each line, behind a path of any length.
+  // Each line says at its end what happened, after a path of any length.
   text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   text->setTabChangesFocus(true);
   text->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the results down"));

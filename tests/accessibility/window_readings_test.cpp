@@ -6,8 +6,7 @@
 #include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
 #include "peers/client/peer_progress.h"
-#include "preview/img_pre.h"
-#include "preview/img_pre_loading.h"
+#include "preview/image_preview.h"
 #include "preview/res_win.h"
 
 #include <QThreadPool>

@@ -33,11 +33,11 @@ class MetafileChildTest : public testing::Test {
     return {path, std::chrono::milliseconds(milliseconds)};
   }
 
-  std::string faultOf(const MetafileChild& child, const PictureStop& stop = {},
+  std::string faultOf(const MetafileChild& child, const std::stop_source& stop = {},
                       const QByteArray& metafile = EmfWriter().file()) {
     clock_.start();
     try {
-      drawInChild(child, metafile, stop);
+      drawInChild(child, metafile, stop.get_token());
     } catch (const MetafileFault& fault) {
       return fault.what();
     }
@@ -86,10 +86,10 @@ TEST_F(MetafileChildTest, TheUsualPatienceIsTenSeconds) {
 }
 
 TEST_F(MetafileChildTest, CancellingEndsItAtOnce) {
-  const PictureStop stop;
+  std::stop_source stop;
   std::thread canceller([&stop] {
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    stop.request();
+    stop.request_stop();
   });
   EXPECT_EQ(faultOf(fake("while :; do :; done"), stop), "its loading was cancelled");
   EXPECT_LT(clock_.elapsed(), 2000);

@@ -2,7 +2,7 @@
 // decoders see them.
 #include "faults/runtime_fault.h"
 #include "preview/corpus_picture.h"
-#include "preview/picture_load.h"
+#include "preview/loaded_picture.h"
 #include "preview/second_decoder.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
@@ -21,7 +21,7 @@ class PictureCorpus : public testing::Test {
     // The name says nothing of the format.
     const QString path = folder_.writeFile(QStringLiteral("picture.dat"), picture.bytes);
     try {
-      return loadPicture(path, {}, PictureStop());
+      return loadPicture(path, {}, std::stop_source());
     } catch (const RuntimeFault& fault) {
       ADD_FAILURE() << fault.what();
       return {{}, {QImage(1, 1, QImage::Format_RGB32), 0}, {}};

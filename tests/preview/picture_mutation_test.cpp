@@ -4,7 +4,7 @@
 #include "metafile/metafile_corpus.h"
 #include "metafile/play_metafile.h"
 #include "preview/corpus_picture.h"
-#include "preview/img_pre_opener.h"
+#include "preview/image_preview.h"
 #include "support/temporary_folder.h"
 
 #include <QElapsedTimer>
@@ -108,12 +108,12 @@ class PictureMutation : public testing::Test {
   Outcome showAll(const QString& name, const QList<QByteArray>& seeds) {
     Outcome outcome;
     const QString path = folder_.pathOf(name);
-    ImgPreOpener opener(&owner_, {QStringLiteral(QUORVIN_METAFILE_PROGRAM)},
-                        [&](const QString& told, const RuntimeFault& fault) {
-                          ++outcome.refused;
-                          EXPECT_EQ(told, path);
-                          EXPECT_TRUE(fault.description().contains(path));
-                        });
+    ImagePreview preview(&owner_, {QStringLiteral(QUORVIN_METAFILE_PROGRAM)},
+                         [&](const QString& told, const RuntimeFault& fault) {
+                           ++outcome.refused;
+                           EXPECT_EQ(told, path);
+                           EXPECT_TRUE(fault.description().contains(path));
+                         });
     QElapsedTimer sinceBeat;
     QTimer beat;
     QObject::connect(&beat, &QTimer::timeout,
@@ -126,8 +126,8 @@ class PictureMutation : public testing::Test {
       folder_.writeFile(name, mutator.next());
       QElapsedTimer clock;
       clock.start();
-      opener.PreviewImage(path);
-      while (opener.isLoading()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+      preview.PreviewImage(path);
+      while (preview.isLoading()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
       QCoreApplication::processEvents();
       outcome.longestLoad = std::max(outcome.longestLoad, clock.elapsed());
     }

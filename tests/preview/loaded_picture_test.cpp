@@ -1,5 +1,5 @@
 // Pictures that cannot be shown, and how long it takes to find out.
-#include "preview/picture_load.h"
+#include "preview/loaded_picture.h"
 
 #include "faults/runtime_fault.h"
 #include "metafile/dib_writer.h"
@@ -19,15 +19,15 @@ namespace quorvin::test {
 
 namespace {
 
-class PictureLoad : public testing::Test {
+class PictureLoading : public testing::Test {
  protected:
   LoadedPicture load(const QByteArray& bytes) {
-    return loadPicture(folder_.writeFile(QStringLiteral("a b.jpg"), bytes), {}, PictureStop());
+    return loadPicture(folder_.writeFile(QStringLiteral("a b.jpg"), bytes), {}, std::stop_source());
   }
 
   RuntimeFault faultOfPath(const QString& path) {
     try {
-      loadPicture(path, {}, PictureStop());
+      loadPicture(path, {}, std::stop_source());
     } catch (const RuntimeFault& fault) {
       return fault;
     }
@@ -53,30 +53,30 @@ CorpusPicture named(const std::vector<CorpusPicture>& corpus, const std::string&
 const QString kDamaged = QStringLiteral("it is damaged, or of a kind that is not supported");
 const QString kNoPicture = QStringLiteral("it is not a bitmap, icon, metafile, JPEG or GIF picture");
 
-TEST_F(PictureLoad, AMissingFileIsFault53WithItsName) {
+TEST_F(PictureLoading, AMissingFileIsFault53WithItsName) {
   const QString path = folder_.pathOf(QStringLiteral("gone.bmp"));
   const RuntimeFault fault = faultOfPath(path);
   EXPECT_EQ(fault.number(), 53);
   EXPECT_EQ(fault.description(), QStringLiteral("File not found: ") + path);
 }
 
-TEST_F(PictureLoad, AFolderIsNoPicture) {
+TEST_F(PictureLoading, AFolderIsNoPicture) {
   EXPECT_EQ(faultOfPath(folder_.makeFolder(QStringLiteral("pictures"))).number(), 75);
 }
 
-TEST_F(PictureLoad, APipeIsRefusedWithoutWaitingForIt) {
+TEST_F(PictureLoading, APipeIsRefusedWithoutWaitingForIt) {
   const QString path = folder_.pathOf(QStringLiteral("pipe.gif"));
   ASSERT_EQ(::mkfifo(path.toLocal8Bit().constData(), 0600), 0);
   EXPECT_EQ(faultOfPath(path).number(), 75);
 }
 
-TEST_F(PictureLoad, WhatIsNoPictureIsRefusedWhateverItsName) {
+TEST_F(PictureLoading, WhatIsNoPictureIsRefusedWhateverItsName) {
   expectRefused("", kNoPicture);
   expectRefused("Dear Sir or Madam", kNoPicture);
   expectRefused("\x89PNG\r\n\x1A\n", kNoPicture);
 }
 
-TEST_F(PictureLoad, ADamagedPictureIsRefused) {
+TEST_F(PictureLoading, ADamagedPictureIsRefused) {
   expectRefused("BM", kDamaged);
   expectRefused("GIF89a", kDamaged);
   expectRefused("\xFF\xD8\xFF", kDamaged);
@@ -84,14 +84,14 @@ TEST_F(PictureLoad, ADamagedPictureIsRefused) {
   expectRefused(gifCorpus().front().bytes.left(45), kDamaged);
 }
 
-TEST_F(PictureLoad, ACutBitmapShowsWhatThereIsAndBlackBelow) {
+TEST_F(PictureLoading, ACutBitmapShowsWhatThereIsAndBlackBelow) {
   const CorpusPicture whole = named(bitmapCorpus(), "24 bits from the top");
   const LoadedPicture cut = load(whole.bytes.chopped(40));
   EXPECT_EQ(cut.frame.image.pixel(3, 0), whole.expected().pixel(3, 0));
   EXPECT_EQ(cut.frame.image.pixel(3, 6), qRgb(0, 0, 0));
 }
 
-TEST_F(PictureLoad, BitmapsThatHoldOtherFormatsAreRefused) {
+TEST_F(PictureLoading, BitmapsThatHoldOtherFormatsAreRefused) {
   const QImage image = colouredPicture();
   for (const int compression : {4, 5}) {
     DibForm form;
@@ -117,7 +117,7 @@ QByteArray bitmapHeader(int width, int height) {
       .bytes();
 }
 
-TEST_F(PictureLoad, MoreThan256MegapixelsAreRefused) {
+TEST_F(PictureLoading, MoreThan256MegapixelsAreRefused) {
   const QString why = QStringLiteral("with %1 by %2 pixels it is larger than 256 megapixels");
   expectRefused(bitmapHeader(16000, 16001), why.arg(16000).arg(16001));
   expectRefused(bitmapHeader(2'000'000'000, 2'000'000'000), why.arg(2'000'000'000).arg(2'000'000'000));
@@ -127,14 +127,14 @@ TEST_F(PictureLoad, MoreThan256MegapixelsAreRefused) {
       why.arg(65535).arg(65535));
 }
 
-TEST_F(PictureLoad, AHundredMegapixelsAreShownButKeptSmaller) {
+TEST_F(PictureLoading, AHundredMegapixelsAreShownButKeptSmaller) {
   // One bit each: twelve megabytes of file.
   const LoadedPicture picture = load(bitmapHeader(10'000, 10'000) + QByteArray(12'520'000, '\x55'));
   EXPECT_EQ(picture.size, QSizeF(10'000, 10'000));
   EXPECT_EQ(picture.frame.image.size(), QSize(4000, 4000));
 }
 
-TEST_F(PictureLoad, ALargeBitmapWithAnOldHeaderIsShown) {
+TEST_F(PictureLoading, ALargeBitmapWithAnOldHeaderIsShown) {
   // 5,000 by 4,000 pixels of one bit, two colours.
   const QByteArray header = ByteWriter()
                                 .raw("BM")
@@ -156,18 +156,18 @@ TEST_F(PictureLoad, ALargeBitmapWithAnOldHeaderIsShown) {
   EXPECT_EQ(picture.frame.image.pixel(100, 100), qRgb(255, 0, 0));
 }
 
-TEST_F(PictureLoad, ALargeBitmapWithHardlyAnyPixelsIsRefused) {
+TEST_F(PictureLoading, ALargeBitmapWithHardlyAnyPixelsIsRefused) {
   expectRefused(bitmapHeader(10'000, 10'000) + QByteArray(5'000'000, '\x55'),
                 QStringLiteral("it is damaged or cut short"));
 }
 
-TEST_F(PictureLoad, AStoppedLoadEndsAtOnce) {
+TEST_F(PictureLoading, AStoppedLoadEndsAtOnce) {
   const QString path =
       folder_.writeFile(QStringLiteral("a.bmp"), bitmapHeader(16'000, 16'000) + QByteArray(33'000'000, 'x'));
-  const PictureStop stop;
+  std::stop_source stop;
   std::thread stopper([&stop] {
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    stop.request();
+    stop.request_stop();
   });
   QElapsedTimer clock;
   clock.start();
@@ -203,13 +203,13 @@ QByteArray endlessJpeg() {
   return jpeg + scan.repeated(kScans) + QByteArray("\xFF\xD9", 2);
 }
 
-TEST_F(PictureLoad, AJpegThatAsksForPassAfterPassCanBeStopped) {
+TEST_F(PictureLoading, AJpegThatAsksForPassAfterPassCanBeStopped) {
   const QString path = folder_.writeFile(QStringLiteral("a.jpg"), endlessJpeg());
-  const PictureStop stop;
+  std::stop_source stop;
   QElapsedTimer clock;
   std::thread stopper([&] {
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
-    stop.request();
+    stop.request_stop();
     clock.start();
   });
   try {
@@ -221,7 +221,7 @@ TEST_F(PictureLoad, AJpegThatAsksForPassAfterPassCanBeStopped) {
   EXPECT_LT(clock.elapsed(), 2000);
 }
 
-TEST_F(PictureLoad, AnAnimationGoesOnAsOftenAsItAsksFor) {
+TEST_F(PictureLoading, AnAnimationGoesOnAsOftenAsItAsksFor) {
   const CorpusPicture twice = named(gifCorpus(), "moving twice");
   const LoadedPicture picture = load(twice.bytes);
   EXPECT_EQ(picture.frame.milliseconds, 50);
@@ -231,7 +231,7 @@ TEST_F(PictureLoad, AnAnimationGoesOnAsOftenAsItAsksFor) {
   EXPECT_EQ(times, QList<int>({30, 50, 30}));
 }
 
-TEST_F(PictureLoad, AnEndlessAnimationBeginsAgain) {
+TEST_F(PictureLoading, AnEndlessAnimationBeginsAgain) {
   const CorpusPicture moving = named(gifCorpus(), "moving, disposal 1");
   const LoadedPicture picture = load(moving.bytes);
   for (int round = 0; round < 3; ++round) {
@@ -243,7 +243,7 @@ TEST_F(PictureLoad, AnEndlessAnimationBeginsAgain) {
   }
 }
 
-TEST_F(PictureLoad, AStillPictureHasNoNextFrame) {
+TEST_F(PictureLoading, AStillPictureHasNoNextFrame) {
   EXPECT_FALSE(load(gifCorpus().front().bytes).decoder->next());
   EXPECT_FALSE(load(bitmapCorpus().front().bytes).decoder->next());
 }

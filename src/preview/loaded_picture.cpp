@@ -1,6 +1,7 @@
-#include "preview/picture_decoder.h"
+#include "preview/loaded_picture.h"
 
 #include "faults/runtime_fault.h"
+#include "metafile/boundary.h"
 #include "platform/bitmap_reading.h"
 #include "preview/picture_icon.h"
 
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <utility>
 
 namespace quorvin {
@@ -15,20 +17,20 @@ namespace quorvin {
 namespace {
 
 constexpr qint64 kMostPixels = 256'000'000;
-/// Decoded pictures of more pixels than any screen has are kept smaller.
+/// Pictures with more pixels than any screen has are made smaller after decoding.
 constexpr double kMostPixelsKept = 16'000'000;
 constexpr int kLongestSideKept = 8000;
-/// Four bytes for each pixel of the largest picture, in megabytes of the reader's kind.
+/// Four bytes for each pixel of the largest picture, in the unit of the reader (2^20 bytes).
 constexpr int kAllocationLimit = 1024;
-/// The usual reading of files that ask for no time at all.
+/// How files that ask for no time at all are usually shown.
 constexpr int kUsualMilliseconds = 100;
 constexpr int kLeastMilliseconds = 20;
-/// A JPEG picture can ask for a pass over all its pixels with some hundred bytes. With steps of this size
-/// there is a chance to stop after each such pass.
+/// A JPEG picture can ask for a pass over all its pixels with some hundred bytes. With steps of this size it
+/// can be stopped after each such pass.
 constexpr qint64 kJpegStep = 256;
 
-/// Bitmaps with these headers hold what the usual one of 40 bytes holds, and behind it what it is followed
-/// by, but the reader knows neither.
+/// Bitmaps with these headers hold the usual header of 40 bytes and what usually follows it, but the reader
+/// knows neither.
 bool hasRareBitmapHeader(QByteArrayView start) {
   constexpr qsizetype kSizePlace = 14;
   const QByteArrayView size = start.size() < kSizePlace + 4 ? QByteArrayView() : start.sliced(kSizePlace, 4);
@@ -42,7 +44,7 @@ void useUsualBitmapHeader(PictureFile& file) {
 }
 
 /// The reader paints the background in its colour. Everybody else leaves it empty, and so does the reader
-/// when the colour's number is none of the palette's, for which there is room unless the palette is full.
+/// when the number of that colour is not in the palette. Unless the palette is full there is such a number.
 void leaveBackgroundEmpty(PictureFile& file) {
   constexpr qint64 kColourPlace = 11;
   constexpr int kFullPalette = 7;
@@ -51,7 +53,7 @@ void leaveBackgroundEmpty(PictureFile& file) {
   if (!isFull) file.replaceByte(kColourPlace, '\xFF');
 }
 
-/// The proportions may change: the picture is stretched anyway.
+/// The proportions may change, since the picture is stretched anyway.
 QSize keptSize(const QSize& size) {
   const QSize sides = size.boundedTo({kLongestSideKept, kLongestSideKept});
   const double pixels = double(sides.width()) * sides.height();
@@ -64,18 +66,18 @@ bool hasOldBitmapHeader(QByteArrayView start) {
   return qFromLittleEndian<quint32>(start.data() + kSizePlace) == 12;
 }
 
-/// Leaving pixels out first costs little, whatever the size; the rest is done softly.
+/// Leaving pixels out first is cheap for any size; the rest is done smoothly.
 QImage reduced(const QImage& image, const QSize& size) {
   if (image.size() == size) return image;
   const QSize few = (size * 2).boundedTo(image.size());
   const QImage sample = image.scaled(few, Qt::IgnoreAspectRatio, Qt::FastTransformation);
-  // Soft colours are not in a palette.
+  // The smooth colours are not in a palette.
   return sample.convertToFormat(QImage::Format_ARGB32_Premultiplied)
       .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-/// The size that a file tells, where the reader calls larger ones damaged.
-QSize toldSize(PictureFormat format, QByteArrayView start) {
+/// The size in the header of formats whose reader calls too large a picture damaged.
+QSize sizeInHeader(PictureFormat format, QByteArrayView start) {
   constexpr qsizetype kEnough = 26;
   if (start.size() < kEnough) return {};
   const auto number = [start](qsizetype at) { return qFromLittleEndian<qint32>(start.data() + at); };
@@ -84,7 +86,8 @@ QSize toldSize(PictureFormat format, QByteArrayView start) {
   return {number(18), bitmapRows(number(22))};
 }
 
-/// Whether a large bitmap's file has less than half of the bytes that its pixels take, or could take in runs.
+/// Whether a large bitmap's file has less than half of the bytes that its pixels take, or, run-length
+/// encoded, fewer than they can take.
 bool lacksPixels(QByteArrayView start, const QSize& size, qint64 fileSize) {
   constexpr qint64 kMostPixelsToAByte = 128;
   const qint64 pixels = qint64{size.width()} * size.height();
@@ -96,25 +99,26 @@ bool lacksPixels(QByteArrayView start, const QSize& size, qint64 fileSize) {
   return fileSize < (isInRuns ? pixels / kMostPixelsToAByte : pixels * depth / 8 / 2);
 }
 
+[[noreturn]] void refusePicture(const QString& name, const QString& why) {
+  throw RuntimeFault(FaultNumber::InvalidProcedureCall,
+                     QStringLiteral("%1 cannot be shown: %2.").arg(name, why));
+}
+
 int shownFor(int milliseconds) {
   return milliseconds <= 0 ? kUsualMilliseconds : std::max(milliseconds, kLeastMilliseconds);
 }
 
 }  // namespace
 
-QString pictureRefusal(const QString& name, const QString& why) {
-  return QStringLiteral("%1 cannot be shown: %2.").arg(name, why);
-}
-
 PictureDecoder::PictureDecoder(std::unique_ptr<PictureFile> file, PictureFormat format, const QString& name)
     : file_(std::move(file)), format_(format), name_(name) {
-  // Ours is the limit that tells its reason.
+  // The limit that counts is ours, which gives a reason.
   QImageReader::setAllocationLimit(kAllocationLimit);
   if (format == PictureFormat::Icon) chooseIcon();
   if (format == PictureFormat::Jpeg) file_->limitSteps(kJpegStep);
   if (format == PictureFormat::Gif) leaveBackgroundEmpty(*file_);
   if (format == PictureFormat::Bitmap) useUsualBitmapHeader(*file_);
-  refuseTooLarge(toldSize(format, file_->part(0, kFormatBytes)));
+  refuseTooLarge(sizeInHeader(format, file_->part(0, kFormatBytes)));
   rewind();
   size_ = reader_->size();
   size_.setHeight(bitmapRows(size_.height()));
@@ -123,15 +127,15 @@ PictureDecoder::PictureDecoder(std::unique_ptr<PictureFile> file, PictureFormat 
   if (format == PictureFormat::Bitmap && lacksPixels(file_->part(0, kFormatBytes), size_, file_->size())) {
     refuse(QStringLiteral("it is damaged or cut short"));
   }
-  // Only this reader saves work by it.
+  // Only this reader saves work that way.
   if (format == PictureFormat::Jpeg && keptSize(size_) != size_) reader_->setScaledSize(keptSize(size_));
   roundsLeft_ = reader_->loopCount();
-  // Cameras write down how they were held.
+  // Cameras record how they were held.
   if (reader_->transformation().testFlag(QImageIOHandler::TransformationRotate90)) size_.transpose();
 }
 
 void PictureDecoder::refuse(const QString& why) const {
-  throw RuntimeFault(FaultNumber::InvalidProcedureCall, pictureRefusal(name_, why));
+  refusePicture(name_, why);
 }
 
 void PictureDecoder::refuseTooLarge(const QSize& size) const {
@@ -169,7 +173,7 @@ std::optional<PictureFrame> PictureDecoder::read() {
 
 void PictureDecoder::mend(QImage& image) const {
   if (format_ == PictureFormat::Icon) hideMaskedPixels(image, iconPart_);
-  // When the first frame lets nothing through the reader says that none does; the pixels know better.
+  // When the first frame has no transparent pixel, the reader says so of all frames; the pixels know better.
   if (format_ == PictureFormat::Gif && image.format() == QImage::Format_RGB32) {
     image.reinterpretAsFormat(QImage::Format_ARGB32);
   }
@@ -190,6 +194,39 @@ std::optional<PictureFrame> PictureDecoder::next() {
   framesRead_ = 0;
   rewind();
   return read();
+}
+
+namespace {
+
+LoadedPicture loadMetafile(PictureFile& file, const QString& path, const MetafileChild& child,
+                           const std::stop_source& stop) {
+  if (file.size() > kLargestMetafile) refusePicture(path, QString::fromLatin1(kMetafileTooLarge));
+  try {
+    const MetafilePicture picture = drawInChild(child, file.readAll(), stop.get_token());
+    return {picture.ownSize, {picture.image, 0}, {}};
+  } catch (const MetafileFault& fault) {
+    refusePicture(path, QString::fromLatin1(fault.what()));
+  }
+}
+
+LoadedPicture loadAny(const QString& path, const MetafileChild& child, const std::stop_source& stop) {
+  auto file = std::make_unique<PictureFile>(path, stop);
+  const std::optional<PictureFormat> format = pictureFormatOf(file->part(0, kFormatBytes));
+  if (!format) refusePicture(path, QStringLiteral("it is not a bitmap, icon, metafile, JPEG or GIF picture"));
+  if (isMetafile(*format)) return loadMetafile(*file, path, child, stop);
+  auto decoder = std::make_shared<PictureDecoder>(std::move(file), *format, path);
+  PictureFrame frame = decoder->first();
+  return {decoder->size(), std::move(frame), std::move(decoder)};
+}
+
+}  // namespace
+
+LoadedPicture loadPicture(const QString& path, const MetafileChild& child, const std::stop_source& stop) {
+  try {
+    return loadAny(path, child, stop);
+  } catch (const std::bad_alloc&) {
+    refusePicture(path, QStringLiteral("there is not enough memory for it"));
+  }
 }
 
 }  // namespace quorvin

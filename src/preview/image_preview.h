@@ -1,37 +1,48 @@
-// Previewing pictures.
+// Previewing pictures: what the main window's "Preview Image" does.
 #pragma once
 
 #include "faults/runtime_fault.h"
 #include "preview/img_pre.h"
-#include "preview/img_pre_loading.h"
+#include "preview/loaded_picture.h"
 #include "preview/metafile_child.h"
-#include "preview/picture_stop.h"
 
 #include <QFuture>
 #include <QObject>
-#include <QPointer>
+#include <QProgressDialog>
 #include <QString>
 #include <QThreadPool>
 
 #include <functional>
 #include <memory>
+#include <stop_token>
 
 namespace quorvin {
 
-/// Told of a picture that cannot be shown: its path, and the fault, whose description names it and says why.
+/// The box that appears while a picture takes long to load: by itself after half a second, without taking the
+/// focus, with a bar that has no end and a button that cancels.
+class ImgPreLoading : public QProgressDialog {
+  Q_OBJECT
+
+ public:
+  /// `path` is the file that is being loaded.
+  ImgPreLoading(const QString& path, QWidget* parent);
+};
+
+/// Called for a picture that cannot be shown, with its path and the fault, whose description names the
+/// picture and says why. The call may run an event loop, as a message does.
 using PreviewFaultReport = std::function<void(const QString& path, const RuntimeFault& fault)>;
 
-/// What the main window's `ShowPreview` does in the end. Owns the window `ImgPre`, which is made when the
-/// first picture has been loaded and is used again for all later ones. Loading goes on aside: meanwhile the
-/// program can be used, and a box with a cancel button appears when it takes longer than half a second. The
-/// object may end at any time, and waits then for no longer than an image reader takes to see it.
-class ImgPreOpener : public QObject {
+/// Loads pictures and shows them in the window `ImgPre`, which is made when the first picture has been loaded
+/// and is used again for all later ones. Pictures are loaded in other threads, so that the program can be
+/// used meanwhile. The object may be destroyed at any time; it then waits no longer than an image reader
+/// takes to notice.
+class ImagePreview : public QObject {
   Q_OBJECT
 
  public:
   /// `owner` is the window above which the others are shown; it must outlive the object.
-  ImgPreOpener(QWidget* owner, MetafileChild child, PreviewFaultReport report);
-  ~ImgPreOpener() override;
+  ImagePreview(QWidget* owner, MetafileChild child, PreviewFaultReport report);
+  ~ImagePreview() override;
 
   /// Loads the picture `path`, shows it and brings the window to the front; returns at once. A picture that
   /// is still being loaded is given up. When this one cannot be loaded, the window stays as it is and the
@@ -43,11 +54,12 @@ class ImgPreOpener : public QObject {
   /// Gives up what is being loaded and deletes the window.
   void unload();
 
-  /// Nothing before the first picture.
+  /// Null before the first picture.
   ImgPre* window() const { return window_.get(); }
 
  private:
   void cancel();
+  void closeBox();
   void loadingEnded(const QFuture<LoadedPicture>& picture, const QString& path);
   void show(const LoadedPicture& picture, const QString& path);
   ImgPre& madeWindow();
@@ -55,7 +67,7 @@ class ImgPreOpener : public QObject {
   QWidget* owner_;
   MetafileChild child_;
   PreviewFaultReport report_;
-  PictureStop stop_;
+  std::stop_source stop_;
   std::unique_ptr<ImgPreLoading> loading_;
   QThreadPool pool_;
   std::unique_ptr<ImgPre> window_;
