@@ -84,7 +84,9 @@ void ImagePreview::cancel() {
 
 void ImagePreview::closeBox() {
   if (!loading_) return;
-  // The box may be the one that is asking.
+  // The box may be the one that is asking, so it is deleted later; and that is after a message that runs its
+  // own event loop has been closed. The reset hides the box, and stops the timer that would still open it.
+  loading_->reset();
   loading_.release()->deleteLater();
 }
 

@@ -178,6 +178,18 @@ TEST_F(WindowHits, AFaultOfThePreviewIsReported) {
                 .arg(files_.pathOf(QStringLiteral("a.jpg"))));
 }
 
+TEST_F(WindowHits, AMessageSaysWhyAPictureCannotBeShown) {
+  showFiles({QStringLiteral("a.jpg")});
+  click(0);
+  form().itemMenu().ShowPreview->trigger();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !messages_.informed.empty(); }));
+  EXPECT_EQ(messages_.informed,
+            std::vector{QStringLiteral("Run-time error '5': %1 cannot be shown: it is not a bitmap, icon, "
+                                       "metafile, JPEG or GIF picture.\r\n\r\n"
+                                       "This happened while loading the picture %1.")
+                            .arg(files_.pathOf(QStringLiteral("a.jpg")))});
+}
+
 TEST_F(WindowHits, WithoutAPreviewAMessageSaysSo) {
   form().setPreviewOpener({});
   showFiles({QStringLiteral("a.jpg")});

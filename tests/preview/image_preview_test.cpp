@@ -134,6 +134,67 @@ TEST_F(PreviewImageTest, AFaultLeavesTheWindowAsItWas) {
   EXPECT_EQ(seenAt(10, 10), QColor(Qt::red));
 }
 
+TEST_F(PreviewImageTest, NoBoxAppearsOverTheMessageOfAFault) {
+  bool wasSeen = false;
+  // A message runs an event loop of its own, which is longer here than the box stays unseen.
+  whileReporting_ = [&] {
+    QEventLoop message;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] { wasSeen = wasSeen || box() != nullptr; });
+    watch.start(5);
+    QTimer::singleShot(900, &message, &QEventLoop::quit);
+    message.exec();
+  };
+  QEventLoop program;
+  QTimer::singleShot(1500, &program, &QEventLoop::quit);
+  preview_.PreviewImage(write(QStringLiteral("a.jpg"), "no picture"));
+  program.exec();
+  EXPECT_EQ(reports_.size(), 1U);
+  EXPECT_FALSE(wasSeen);
+  EXPECT_EQ(box(), nullptr);
+}
+
+/// Does something as soon as pending events are let run after the picture was put into the window, which
+/// has the tooltip changed.
+class OnceInPicture : public QObject {
+ public:
+  OnceInPicture(QWidget* picture, std::function<void()> action) : action_(std::move(action)) {
+    picture->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::ToolTipChange) {
+      QMetaObject::invokeMethod(
+          this, [this] { action_(); }, Qt::QueuedConnection);
+    }
+    return false;
+  }
+
+ private:
+  std::function<void()> action_;
+};
+
+TEST_F(PreviewImageTest, PendingEventsRunBeforeTheWindowIsShown) {
+  preview(write(QStringLiteral("a.bmp"), bitmapOf(plain(20, 10, Qt::red))));
+  preview_.window()->hide();
+  QList<bool> visible;
+  OnceInPicture look(preview_.window()->findChild<QWidget*>(QStringLiteral("Pic")),
+                     [&] { visible.append(preview_.window()->isVisible()); });
+  preview(write(QStringLiteral("b.bmp"), bitmapOf(plain(20, 10, Qt::blue))));
+  EXPECT_EQ(visible, QList<bool>{false});
+  EXPECT_TRUE(preview_.window()->isVisible());
+}
+
+TEST_F(PreviewImageTest, TheProgramMayBeClosedByAPendingEvent) {
+  preview(write(QStringLiteral("a.bmp"), bitmapOf(plain(20, 10, Qt::red))));
+  OnceInPicture close(preview_.window()->findChild<QWidget*>(QStringLiteral("Pic")),
+                      [this] { preview_.unload(); });
+  preview(write(QStringLiteral("b.bmp"), bitmapOf(plain(20, 10, Qt::blue))));
+  EXPECT_EQ(preview_.window(), nullptr);
+  EXPECT_TRUE(reports_.empty());
+}
+
 TEST_F(PreviewImageTest, TheLastPictureAskedForIsTheOneShown) {
   const QString red = write(QStringLiteral("a.bmp"), bitmapOf(plain(2000, 2000, Qt::red)));
   const QString blue = write(QStringLiteral("b.bmp"), bitmapOf(plain(20, 10, Qt::blue)));

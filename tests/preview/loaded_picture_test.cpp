@@ -127,6 +127,16 @@ TEST_F(PictureLoading, MoreThan256MegapixelsAreRefused) {
       why.arg(65535).arg(65535));
 }
 
+TEST_F(PictureLoading, Exactly256MegapixelsAreNotTooMany) {
+  // Without any pixels behind the header, so that nothing is decoded.
+  expectRefused(bitmapHeader(16'000, 16'000), QStringLiteral("it is damaged or cut short"));
+  expectRefused(bitmapHeader(16'000, -16'000), QStringLiteral("it is damaged or cut short"));
+  // The next larger ones: one row or one column more.
+  const QString why = QStringLiteral("with %1 by %2 pixels it is larger than 256 megapixels");
+  expectRefused(bitmapHeader(256'000'001, 1), why.arg(256'000'001).arg(1));
+  expectRefused(bitmapHeader(1, -256'000'001), why.arg(1).arg(256'000'001));
+}
+
 TEST_F(PictureLoading, AHundredMegapixelsAreShownButKeptSmaller) {
   // One bit each: twelve megabytes of file.
   const LoadedPicture picture = load(bitmapHeader(10'000, 10'000) + QByteArray(12'520'000, '\x55'));
