@@ -42,14 +42,14 @@ class Unpacking {
       return true;
     }
     ArchiveContent content(archive_, planned.entry);
-    NewFile file = target_.newFile(planned.place.path);
+    FileAside file = target_.newFile(planned.place.path);
     while (const std::size_t count = content.read(buffer_)) {
       file.write(std::string_view(buffer_.data(), count));
       done_ += count;
       pause();
       if (isStopped_) return false;
     }
-    file.putInPlace();
+    file.commit();
     ++filesInPlace_;
     return true;
   }

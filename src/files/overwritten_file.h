@@ -1,8 +1,8 @@
 // Writing over a file from its start, without emptying it first.
 #pragma once
 
+#include "files/descriptor.h"
 #include "files/file_writer.h"
-#include "files/folder_writer.h"
 
 #include <QString>
 
@@ -23,7 +23,7 @@ class OverwrittenFile {
   void flush() { writer_.flush(); }
 
  private:
-  OwnedDescriptor file_;
+  Descriptor file_;
   FileWriter writer_;
 };
 

@@ -10,13 +10,13 @@
 namespace quorvin {
 namespace {
 
-OwnedDescriptor openRegularFile(const QString& path) {
+Descriptor openRegularFile(const QString& path) {
   // The system would end the path at a NUL and write another file.
   if (path.contains(QChar(u'\0'))) throw faultOfSystemError(EINVAL, path);
   // Not blocking, so that a pipe without a reader is refused instead of holding the program up.
   constexpr int kKeepContent = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK;
   constexpr mode_t kAllThatTheUserAllows = 0666;
-  OwnedDescriptor file(::open(QFile::encodeName(path).constData(), kKeepContent, kAllThatTheUserAllows));
+  Descriptor file(::open(QFile::encodeName(path).constData(), kKeepContent, kAllThatTheUserAllows));
   if (file.get() < 0) throw faultOfSystemError(errno, path);
   struct stat status {};
   if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) throw faultOfSystemError(EISDIR, path);

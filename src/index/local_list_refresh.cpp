@@ -1,11 +1,12 @@
 #include "index/local_list_refresh.h"
 
 #include "faults/runtime_fault.h"
+#include "files/file_aside.h"
 #include "index/dir_io.h"
 #include "index/own_files.h"
 #include "platform/text_encoding.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QScopeGuard>
 
 #include <memory>
@@ -49,7 +50,8 @@ class Refresh {
       noteKept(path, description);
       return true;
     }
-    const bool opened = writeListing(temporary, description, path, QFile::exists(finished));
+    FileAside listing(finished, {.nameAside = QFileInfo(temporary).fileName()});
+    const bool opened = writeListing(listing, description, path);
     if (state_.RescanAbort) {
       state_.RescanAbort = false;
       return false;
@@ -57,9 +59,9 @@ class Refresh {
     // Pulled while it was read, be it for a moment: the walk has met errors only, which would cost the
     // catalogue.
     if (opened && folders_->topIsStillAt(path)) {
-      putInPlace(temporary, finished);
+      listing.commit();
     } else {
-      QFile::remove(temporary);
+      listing.discard();
       noteKept(path, description);
     }
     return true;
@@ -83,13 +85,10 @@ class Refresh {
   }
 
   // False when the folder could not be opened any more; the listing is its head alone then.
-  bool writeListing(const QString& file, const QString& description, QString path, bool replacesAnother) {
-    FileWriter writer(file);
-    const bool opened = dirIO_.walk(path, QStringLiteral("*.*"), {&writer, nullptr}, description, kToOutput1);
-    writer.flush();
-    // A listing is given up only for one that a failing machine cannot take away again.
-    if (replacesAnother) writer.sync();
-    writer.close();
+  bool writeListing(FileAside& listing, const QString& description, QString path) {
+    const LineOutputs outputs{&listing.writer(), nullptr};
+    const bool opened = dirIO_.walk(path, QStringLiteral("*.*"), outputs, description, kToOutput1);
+    listing.finish();
     return opened;
   }
 

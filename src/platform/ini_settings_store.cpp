@@ -1,8 +1,8 @@
 #include "platform/ini_settings_store.h"
 
 #include "faults/runtime_fault.h"
-#include "files/file_replacement.h"
-#include "platform/ini_settings_lock.h"
+#include "files/file_aside.h"
+#include "files/file_lock.h"
 #include "platform/ini_text.h"
 
 #include <QDir>
@@ -57,10 +57,11 @@ QString IniSettingsStore::read(const QString& application, const QString& sectio
 void IniSettingsStore::write(const QString& application, const QString& section, const QString& key,
                              const QString& value) {
   if (!QDir().mkpath(QFileInfo(path_).path())) throw accessFault(path_);
-  const IniSettingsLock lock(path_, kLockWaitMilliseconds);
+  const FileLock lock(path_, kLockWaitMilliseconds);
   // A file that cannot be read is not replaced: it may hold all that the user has set.
   std::optional<IniText> ini = load(path_);
   if (!ini) throw accessFault(path_);
+  removeLeftovers(QFileInfo(path_).path());
   ini->setValue(groupOf(application, section), encoded(key), value);
   replaceFile(path_, ini->text());
 }

@@ -1,7 +1,7 @@
 #include "platform/standard_folders.h"
 
 #include "faults/runtime_fault.h"
-#include "files/file_replacement.h"
+#include "files/file_aside.h"
 #include "files/path_style.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "state/source_list_file.h"
 
 #include "faults/runtime_fault.h"
-#include "files/file_replacement.h"
+#include "files/file_aside.h"
 #include "platform/text_encoding.h"
 #include "state/source_list_fields.h"
 

@@ -1,8 +1,8 @@
 #include "state/source_list_saving.h"
 
+#include "files/file_aside.h"
 #include "files/file_identity.h"
 #include "files/file_lookup.h"
-#include "files/file_replacement.h"
 #include "files/sequential_file.h"
 #include "state/data_folder.h"
 #include "state/source_list_file.h"

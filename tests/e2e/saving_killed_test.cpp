@@ -1,8 +1,6 @@
 // A program that is killed while it saves, at any moment.
 #include "e2e/killed_process.h"
 #include "e2e/windowless_program.h"
-#include "faults/runtime_fault.h"
-#include "platform/ini_settings_lock.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -10,8 +8,6 @@
 
 #include <csignal>
 #include <set>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace quorvin::test {
 
@@ -147,50 +143,6 @@ TEST_F(KilledSaving, TheNextRunSavesEverything) {
     EXPECT_EQ(saved(), 12U);
     putOldFiles();
     if (HasFailure()) return;
-  }
-}
-
-int faultOfLocking(const QString& path) {
-  try {
-    const IniSettingsLock lock(path, 50);
-  } catch (const RuntimeFault& fault) {
-    return fault.number();
-  }
-  return 0;
-}
-
-TEST(SettingsLock, IsHeldByOneAtATime) {
-  const TemporaryFolder place;
-  const QString path = place.pathOf(QStringLiteral("settings.ini"));
-  {
-    const IniSettingsLock lock(path, 50);
-    EXPECT_EQ(faultOfLocking(path), 75);
-  }
-  EXPECT_EQ(faultOfLocking(path), 0);
-}
-
-TEST(SettingsLock, OfAKilledProgramIsFree) {
-  const TemporaryFolder place;
-  const QString path = place.pathOf(QStringLiteral("settings.ini"));
-  const pid_t child = ::fork();
-  if (child == 0) {
-    const IniSettingsLock lock(path, 50);
-    ::raise(SIGKILL);
-  }
-  int status = 0;
-  ASSERT_EQ(::waitpid(child, &status, 0), child);
-  ASSERT_TRUE(WIFSIGNALED(status));
-  EXPECT_EQ(faultOfLocking(path), 0);
-}
-
-TEST(SettingsLock, NamesTheSettingsWhenItCannotBeMade) {
-  const TemporaryFolder place;
-  const QString path = place.pathOf(QStringLiteral("none/settings.ini"));
-  try {
-    const IniSettingsLock lock(path, 50);
-    FAIL() << "a lock in a folder that is not there";
-  } catch (const RuntimeFault& fault) {
-    EXPECT_EQ(fault.description(), QStringLiteral("File not found: ") + path);
   }
 }
 

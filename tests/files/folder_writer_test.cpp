@@ -26,9 +26,9 @@ class FolderWriterTest : public testing::Test {
   }
 
   void write(const QStringList& path, std::string_view bytes) const {
-    NewFile file = FolderWriter(folder_.path()).newFile(path);
+    FileAside file = FolderWriter(folder_.path()).newFile(path);
     file.write(bytes);
-    file.putInPlace();
+    file.commit();
   }
 
   TemporaryFolder folder_;
@@ -45,7 +45,7 @@ TEST_F(FolderWriterTest, MakesFilesAndTheFoldersOnTheWay) {
 TEST_F(FolderWriterTest, ShowsNothingUntilTheFileIsPutInPlace) {
   folder_.writeFile(u"a.txt"_qs, "earlier");
   {
-    NewFile file = FolderWriter(folder_.path()).newFile({u"a.txt"_qs});
+    FileAside file = FolderWriter(folder_.path()).newFile({u"a.txt"_qs});
     file.write("new");
     EXPECT_EQ(folder_.readFile(u"a.txt"_qs), QByteArray("earlier"));
   }
@@ -55,12 +55,12 @@ TEST_F(FolderWriterTest, ShowsNothingUntilTheFileIsPutInPlace) {
 
 TEST_F(FolderWriterTest, SeveralFilesAreWrittenAsideAtOnce) {
   const FolderWriter writer(folder_.path());
-  NewFile first = writer.newFile({u"a.txt"_qs});
-  NewFile second = writer.newFile({u"b.txt"_qs});
+  FileAside first = writer.newFile({u"a.txt"_qs});
+  FileAside second = writer.newFile({u"b.txt"_qs});
   first.write("1");
   second.write("2");
-  second.putInPlace();
-  first.putInPlace();
+  second.commit();
+  first.commit();
   EXPECT_EQ(folder_.readFile(u"a.txt"_qs), QByteArray("1"));
   EXPECT_EQ(folder_.readFile(u"b.txt"_qs), QByteArray("2"));
 }
@@ -88,8 +88,8 @@ TEST_F(FolderWriterTest, MayBeReachedByALinkItself) {
   const TemporaryFolder elsewhere;
   const QString link = folder_.pathOf(u"link"_qs);
   ASSERT_TRUE(QFile::link(elsewhere.path(), link));
-  NewFile file = FolderWriter(link).newFile({u"a.txt"_qs});
-  file.putInPlace();
+  FileAside file = FolderWriter(link).newFile({u"a.txt"_qs});
+  file.commit();
   EXPECT_EQ(elsewhere.names(), QStringList{u"a.txt"_qs});
 }
 

@@ -1,6 +1,6 @@
 // A refresh that is killed at any moment leaves every listing as the old or the new one, whole.
 #include "index/refresh_fixture.h"
-#include "index/system_call_watch.h"
+#include "support/system_call_watch.h"
 
 #include <csignal>
 #include <map>

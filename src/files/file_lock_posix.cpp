@@ -1,15 +1,13 @@
 #include "faults/runtime_fault.h"
-#include "platform/ini_settings_lock.h"
+#include "files/file_lock.h"
 
 #include <QDeadlineTimer>
-#include <QFile>
 
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <thread>
-#include <unistd.h>
 
 namespace quorvin {
 
@@ -26,7 +24,7 @@ bool isHeldByAnother(int errorNumber) {
 bool takeLock(int descriptor, int milliseconds) {
   const QDeadlineTimer deadline(milliseconds);
   while (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-    // The settings file is replaced whole in any case; without locks it may only miss another's last change.
+    // The file is replaced whole in any case; without locks it may only miss another's last change.
     if (!isHeldByAnother(errno)) return true;
     if (deadline.hasExpired()) return false;
     std::this_thread::sleep_for(kBetweenLooks);
@@ -34,25 +32,17 @@ bool takeLock(int descriptor, int milliseconds) {
   return true;
 }
 
-int openLockFile(const QString& settingsPath) {
-  const QByteArray path = QFile::encodeName(settingsPath + QStringLiteral(".lock"));
+Descriptor openLockFile(const QString& path) {
+  constexpr int kNoLink = O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
   constexpr mode_t kOnlyTheUser = 0600;
-  return ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, kOnlyTheUser);
+  return Descriptor(::open(encodedPath(path + QStringLiteral(".lock")).constData(), kNoLink, kOnlyTheUser));
 }
 
 }  // namespace
 
-IniSettingsLock::IniSettingsLock(const QString& settingsPath, int milliseconds)
-    : descriptor_(openLockFile(settingsPath)) {
-  if (descriptor_ < 0) throw faultOfSystemError(errno, settingsPath);
-  if (takeLock(descriptor_, milliseconds)) return;
-  ::close(descriptor_);
-  throw faultOfSystemError(EBUSY, settingsPath);
-}
-
-// Closing gives the lock back.
-IniSettingsLock::~IniSettingsLock() {
-  ::close(descriptor_);
+FileLock::FileLock(const QString& path, int milliseconds) : file_(openLockFile(path)) {
+  if (!file_.isOpen()) throw faultOfSystemError(errno, path);
+  if (!takeLock(file_.get(), milliseconds)) throw faultOfSystemError(EBUSY, path);
 }
 
 }  // namespace quorvin

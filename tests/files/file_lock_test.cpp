@@ -1,0 +1,70 @@
+#include "files/file_lock.h"
+
+#include "faults/runtime_fault.h"
+#include "support/qt_printing.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quorvin {
+
+namespace {
+
+int faultOfLocking(const QString& path) {
+  try {
+    const FileLock lock(path, 50);
+  } catch (const RuntimeFault& fault) {
+    return fault.number();
+  }
+  return 0;
+}
+
+TEST(FileLock, IsHeldByOneAtATime) {
+  const TemporaryFolder place;
+  const QString path = place.pathOf(QStringLiteral("settings.ini"));
+  {
+    const FileLock lock(path, 50);
+    EXPECT_EQ(faultOfLocking(path), 75);
+  }
+  EXPECT_EQ(faultOfLocking(path), 0);
+}
+
+TEST(FileLock, OfAKilledProgramIsFree) {
+  const TemporaryFolder place;
+  const QString path = place.pathOf(QStringLiteral("settings.ini"));
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const FileLock lock(path, 50);
+    ::raise(SIGKILL);
+  }
+  int status = 0;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  ASSERT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(faultOfLocking(path), 0);
+}
+
+TEST(FileLock, NamesTheFileWhenItCannotBeMade) {
+  const TemporaryFolder place;
+  const QString path = place.pathOf(QStringLiteral("none/settings.ini"));
+  try {
+    const FileLock lock(path, 50);
+    FAIL() << "a lock in a folder that is not there";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.description(), QStringLiteral("File not found: ") + path);
+  }
+}
+
+TEST(FileLock, DoesNotFollowALink) {
+  const TemporaryFolder place;
+  ASSERT_TRUE(QFile::link(place.pathOf(u"elsewhere"_qs), place.pathOf(u"a.lock"_qs)));
+  EXPECT_NE(faultOfLocking(place.pathOf(u"a"_qs)), 0);
+  EXPECT_FALSE(place.has(u"elsewhere"_qs));
+}
+
+}  // namespace
+
+}  // namespace quorvin
