@@ -8,7 +8,7 @@ namespace {
 
 QString whatHappened(const std::exception& fault) {
   if (const auto* known = dynamic_cast<const RuntimeFault*>(&fault)) {
-    return QStringLiteral("Run-time error '%1': %2").arg(known->number()).arg(known->description());
+    return known->text();
   }
   if (dynamic_cast<const std::bad_alloc*>(&fault)) return QStringLiteral("Run-time error: Out of memory");
   return QStringLiteral("Run-time error: ") + QString::fromUtf8(fault.what());

@@ -1,8 +1,6 @@
 #include "app/hit_list.h"
 
-#include "app/hit_list_accessible.h"
 #include "app/hit_list_delegate.h"
-#include "app/hit_list_header.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>

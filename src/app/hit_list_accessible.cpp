@@ -1,5 +1,3 @@
-#include "app/hit_list_accessible.h"
-
 #include "app/hit_list.h"
 
 #include <QAccessible>

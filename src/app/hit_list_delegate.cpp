@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QStyleOptionHeader>
 #include <QToolTip>
 
 #include <algorithm>
@@ -37,6 +38,11 @@ bool isDark(const QColor& background) {
   // Where black and white text are equally far away.
   return luminance(background) < 0.179;
 }
+
+/// Narrow enough to follow the column division in a small window, wide enough to be taken hold of.
+constexpr int kLeastColumnWidth = 4;
+
+constexpr QChar kPadding = u' ';
 
 }  // namespace
 
@@ -96,6 +102,24 @@ void HitListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
   QStyledItemDelegate::initStyleOption(option, index);
   const QColor text = option->palette.color(QPalette::Text);
   option->palette.setColor(QPalette::Text, readableOn(text, option->palette.color(QPalette::Base)));
+}
+
+HitListHeader::HitListHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+  setMinimumSectionSize(kLeastColumnWidth);
+  setHighlightSections(false);
+  setSectionsClickable(false);
+  setStretchLastSection(false);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void HitListHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const {
+  QHeaderView::initStyleOptionForIndex(option, logicalIndex);
+  option->text = kPadding + option->text + kPadding;
+}
+
+QSize HitListHeader::sectionSizeFromContents(int logicalIndex) const {
+  const int padding = 2 * fontMetrics().horizontalAdvance(kPadding);
+  return QHeaderView::sectionSizeFromContents(logicalIndex) + QSize(padding, 0);
 }
 
 }  // namespace quorvin

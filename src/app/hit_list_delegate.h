@@ -1,8 +1,9 @@
-// How the cells of the hit list are drawn.
+// How the cells and column titles of the hit list are drawn.
 #pragma once
 
 #include <QBrush>
 #include <QColor>
+#include <QHeaderView>
 #include <QStyledItemDelegate>
 
 namespace quorvin {
@@ -30,6 +31,19 @@ class HitListDelegate : public QStyledItemDelegate {
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+/// Keeps titles a little away from the edges of their columns, so that one that stands at the right side of
+/// its column does not touch the next.
+class HitListHeader : public QHeaderView {
+  Q_OBJECT
+
+ public:
+  explicit HitListHeader(QWidget* parent);
+
+ protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
+  QSize sectionSizeFromContents(int logicalIndex) const override;
 };
 
 }  // namespace quorvin

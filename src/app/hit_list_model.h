@@ -1,11 +1,15 @@
-// The hit table as the hit list's model.
+// The hit table as the hit list's model, and which of its rows are selected.
 #pragma once
 
 #include "search/hit_table.h"
 
 #include <QAbstractTableModel>
+#include <QItemSelectionModel>
 #include <QLocale>
 #include <QString>
+
+#include <cstdint>
+#include <vector>
 
 namespace quorvin {
 
@@ -44,5 +48,11 @@ class HitListModel : public QAbstractTableModel {
   mutable HitRow readRow_;
   mutable int readRowNumber_ = -1;
 };
+
+/// How many rows are selected. Costs nothing for rows that were selected together.
+std::int64_t selectedRowCount(const QItemSelectionModel& selection);
+
+/// The numbers of the selected rows, in the order of the list.
+std::vector<int> selectedRows(const QItemSelectionModel& selection);
 
 }  // namespace quorvin

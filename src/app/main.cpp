@@ -1,11 +1,10 @@
 // The program with the window.
-#include "app/enqueue_setting.h"
+#include "app/hit_actions.h"
 #include "app/main_application.h"
 #include "app/search_form.h"
 #include "app/shutdown.h"
 #include "app/start_up.h"
 #include "app/version.h"
-#include "app/widget_message_boxes.h"
 #include "dates/general_date.h"
 #include "platform/ini_settings_store.h"
 #include "platform/shell_desktop.h"

@@ -1,10 +1,14 @@
 #include "app/main_application.h"
 
 #include "app/fault_report.h"
+#include "app/version.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QEvent>
+#include <QLabel>
+#include <QMessageBox>
 #include <QWidget>
 
 namespace quorvin {
@@ -19,6 +23,32 @@ QAccessibleInterface* makeWindowAccessible(const QString& className, QObject* ob
   return window ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
 }
 
+/// The icon is the only thing that tells which kind of message it is; a screen reader needs a word for it.
+void nameIcon(const QMessageBox& box) {
+  auto* icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+  if (!icon) return;
+  switch (box.icon()) {
+    case QMessageBox::Question:
+      return icon->setAccessibleName(QStringLiteral("Question"));
+    case QMessageBox::Warning:
+      return icon->setAccessibleName(QStringLiteral("Warning"));
+    default:
+      return icon->setAccessibleName(QStringLiteral("Information"));
+  }
+}
+
+QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
+                                 QMessageBox::StandardButtons buttons) {
+  QString lines = text;
+  lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  QMessageBox box(icon, applicationTitle(), lines, buttons, QApplication::activeWindow());
+  // Messages name files, and a file's name may look like markup.
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  nameIcon(box);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
 }  // namespace
 
 Application::Application(int& argc, char** argv, MessageBoxes& messages)
@@ -31,6 +61,27 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   reportFaults(messages_, QStringLiteral("handling an event of the window system"),
                [&] { result = QApplication::notify(receiver, event); });
   return result;
+}
+
+void WidgetMessageBoxes::inform(const QString& text) {
+  show(QMessageBox::Information, text, QMessageBox::Ok);
+}
+
+bool WidgetMessageBoxes::askYesNo(const QString& text) {
+  return show(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+FaultAnswer WidgetMessageBoxes::askAbortRetryIgnore(const QString& text) {
+  switch (show(QMessageBox::Warning, text, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore)) {
+    case QMessageBox::Abort:
+      return FaultAnswer::Abort;
+    case QMessageBox::Retry:
+      return FaultAnswer::Retry;
+    case QMessageBox::Ignore:
+      return FaultAnswer::Ignore;
+    default:
+      return FaultAnswer::Closed;
+  }
 }
 
 }  // namespace quorvin

@@ -1,4 +1,4 @@
-// The application object.
+// The application object and its message boxes.
 #pragma once
 
 #include "platform/message_box.h"
@@ -20,6 +20,15 @@ class Application : public QApplication {
 
  private:
   MessageBoxes& messages_;
+};
+
+/// Shows each message in a box of its own above the window in use, with the application title. A call
+/// returns when the user has answered; events run meanwhile.
+class WidgetMessageBoxes : public MessageBoxes {
+ public:
+  void inform(const QString& text) override;
+  bool askYesNo(const QString& text) override;
+  FaultAnswer askAbortRetryIgnore(const QString& text) override;
 };
 
 }  // namespace quorvin

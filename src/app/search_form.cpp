@@ -1,7 +1,6 @@
 #include "app/search_form.h"
 
 #include "app/fault_report.h"
-#include "app/search_form_layout.h"
 #include "app/version.h"
 #include "index/local_list_refresh.h"
 
@@ -50,7 +49,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
           {state, runMessages_, locale, &hits_, segments, &display_, [this] { return endRequested_; }}),
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
       refreshDisplay_(state, *this, locale),
-      windows_(state, messages, *this, *this, locale, picker),
+      windows_(
+          state, messages, menus_, [this] { startRefresh(); }, *this, locale, picker),
       network_(state, runMessages_,
                {*this, *controls_.WebUpdate, [this]() -> Progress& { return refreshDisplay_.progress(); },
                 [this] { return endRequested_; }},
@@ -313,18 +313,6 @@ void SearchForm::leave() {
   unloadOtherWindows();
   close();
   QCoreApplication::quit();
-}
-
-void SearchForm::setAddLocalEnabled(bool enabled) {
-  menus_.AddLocal->setEnabled(enabled);
-}
-
-void SearchForm::setEditOfflineEnabled(bool enabled) {
-  menus_.EditOffline->setEnabled(enabled);
-}
-
-void SearchForm::refreshLocalLists() {
-  startRefresh();
 }
 
 void SearchForm::RunMessages::inform(const QString& text) {

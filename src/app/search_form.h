@@ -5,7 +5,6 @@
 #include "app/search_form_controls.h"
 #include "app/search_form_display.h"
 #include "app/search_form_hits.h"
-#include "app/search_form_menus.h"
 #include "app/search_form_network.h"
 #include "app/search_form_refresh.h"
 #include "app/search_form_windows.h"
@@ -26,7 +25,7 @@ namespace quorvin {
 /// The main window: it shows what start-up tells it, and hands over what the user does.
 /// Closing it during a run ends the run at its next yield; the window must live until the handler that
 /// started the run has returned.
-class SearchForm : public QMainWindow, public StartUpView, public ShutdownView, private SourceEditorHost {
+class SearchForm : public QMainWindow, public StartUpView, public ShutdownView {
   Q_OBJECT
 
  public:
@@ -92,11 +91,6 @@ class SearchForm : public QMainWindow, public StartUpView, public ShutdownView, 
    private:
     SearchForm& form_;
   };
-
-  // For the editors.
-  void setAddLocalEnabled(bool enabled) override;
-  void setEditOfflineEnabled(bool enabled) override;
-  void refreshLocalLists() override;
 
   void takeInitialPlace();
   void connectControls();

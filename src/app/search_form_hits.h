@@ -1,12 +1,13 @@
-// The hit list's mouse and keys: what the main window does with single hits.
+// The hit list's mouse, keys and pop-up menu: what the main window does with single hits.
 #pragma once
 
 #include "app/hit_actions.h"
 #include "app/hit_list.h"
-#include "app/search_form_item_menu.h"
 #include "search/hit_table.h"
 
+#include <QAction>
 #include <QLocale>
+#include <QMenu>
 #include <QObject>
 #include <QPoint>
 
@@ -15,6 +16,22 @@
 #include <vector>
 
 namespace quorvin {
+
+/// The menu and its items.
+struct ItemMenu {
+  QMenu* menu;
+  QAction* CtLaunch;
+  QAction* CTOpFolder;
+  QAction* ShowPreview;
+  QAction* CTQueue;
+  /// The selected rows as text, and the full paths of their files.
+  QAction* CopyRows;
+  QAction* CopyPaths;
+};
+
+/// Makes the menu as a child of `parent`; nothing is connected. Its shortcuts work only where the actions are
+/// added to a widget.
+ItemMenu makeItemMenu(QWidget* parent);
 
 /// Shows the picture `name` of `folder` in the preview window. It may throw RuntimeFault.
 using PreviewOpener = std::function<void(const QString& folder, const QString& name)>;

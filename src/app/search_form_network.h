@@ -1,7 +1,7 @@
 // What the main window does over the network: the web update, and the exchange of lists with peers.
 #pragma once
 
-#include "app/search_form_menus.h"
+#include "app/search_form_controls.h"
 #include "peers/client/peer_progress.h"
 #include "peers/peer_exchange.h"
 #include "platform/message_box.h"

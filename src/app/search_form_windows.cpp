@@ -5,6 +5,10 @@
 #include "help/help_files.h"
 #include "platform/standard_folders.h"
 
+#include <QScopeGuard>
+
+#include <utility>
+
 namespace quorvin {
 
 namespace {
@@ -30,14 +34,46 @@ PreviewFaultReport previewReport(MessageBoxes& messages) {
 
 }  // namespace
 
-SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages, SourceEditorHost& host,
+SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages,
+                                     const SearchFormMenus& menus, std::function<void()> refreshLocalLists,
                                      QWidget& owner, const QLocale& locale, FilePicker* picker)
-    : owner_(owner),
-      sources_({state, messages, picker ? *picker : systemPicker_, host}, &owner),
-      options_({state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)}, &owner),
+    : menus_(menus),
+      owner_(owner),
+      sourceEditing_{state, messages, picker ? *picker : systemPicker_, std::move(refreshLocalLists)},
+      optionsEditing_{state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)},
       preview_(&owner, usualMetafileChild(), previewReport(messages)) {}
 
 SearchFormWindows::~SearchFormWindows() = default;
+
+void SearchFormWindows::AddLocal_Click() {
+  LocMode_ = QString::fromUtf16(kOnlineMode);
+  const auto enableBoth = [this](bool enabled) {
+    menus_.AddLocal->setEnabled(enabled);
+    menus_.EditOffline->setEnabled(enabled);
+  };
+  enableBoth(false);
+  const auto afterwards = qScopeGuard([&enableBoth] { enableBoth(true); });
+  LocalLoc dialog(sourceEditing_, LocMode_, &owner_);
+  showSources(dialog);
+}
+
+void SearchFormWindows::EditOffline_Click() {
+  LocalLoc dialog(sourceEditing_, LocMode_, &owner_);
+  dialog.arrangeForOffline();
+  LocMode_ = QString::fromUtf16(kOfflineMode);
+  showSources(dialog);
+}
+
+void SearchFormWindows::showSources(LocalLoc& dialog) {
+  sources_ = &dialog;
+  dialog.exec();
+}
+
+void SearchFormWindows::OptionsMenu_Click() {
+  ListOptions dialog(optionsEditing_, &owner_);
+  options_ = &dialog;
+  dialog.exec();
+}
 
 void SearchFormWindows::AboutMenu_Click() {
   frmSplash splash(productFacts(), &owner_);
@@ -60,6 +96,14 @@ void SearchFormWindows::showHelp(const QString& pageName) {
 
 void SearchFormWindows::unloadSplash() {
   if (splash_) splash_->reject();
+}
+
+void SearchFormWindows::unloadOptions() {
+  if (options_) options_->reject();
+}
+
+void SearchFormWindows::unloadSources() {
+  if (sources_) sources_->reject();
 }
 
 void SearchFormWindows::unloadBrowser() {

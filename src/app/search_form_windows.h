@@ -1,12 +1,12 @@
 // The windows that the main window's menus open.
 #pragma once
 
-#include "editors/list_options_opener.h"
-#include "editors/local_loc_file_picker.h"
-#include "editors/local_loc_opener.h"
+#include "app/search_form_controls.h"
+#include "editors/list_options.h"
+#include "editors/local_loc.h"
 #include "help/frm_browser.h"
 #include "help/frm_splash.h"
-#include "help/network_page_transfer.h"
+#include "help/page_transfer.h"
 #include "platform/message_box.h"
 #include "preview/image_preview.h"
 #include "state/program_state.h"
@@ -17,6 +17,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace quorvin {
 
@@ -24,16 +25,22 @@ namespace quorvin {
 /// unloads them when the program ends.
 class SearchFormWindows {
  public:
-  /// Everything must outlive the object; `owner` is the main window. `picker` may be null for the system's
-  /// own dialogs.
-  SearchFormWindows(ProgramState& state, MessageBoxes& messages, SourceEditorHost& host, QWidget& owner,
-                    const QLocale& locale, FilePicker* picker);
+  /// Everything must outlive the object; `owner` is the main window. `refreshLocalLists` is what the source
+  /// editor runs when the user wants a rescan (see SourceEditing). `picker` may be null for the system's own
+  /// dialogs.
+  SearchFormWindows(ProgramState& state, MessageBoxes& messages, const SearchFormMenus& menus,
+                    std::function<void()> refreshLocalLists, QWidget& owner, const QLocale& locale,
+                    FilePicker* picker);
   ~SearchFormWindows();
 
   // The handlers of the menu items. Those of the dialogs return when the dialog has been closed.
-  void AddLocal_Click() { sources_.AddLocal_Click(); }
-  void EditOffline_Click() { sources_.EditOffline_Click(); }
-  void OptionsMenu_Click() { options_.OptionsMenu_Click(); }
+
+  /// Edits the online sources, with the menu items `AddLocal` and `EditOffline` disabled meanwhile. Returns
+  /// when the rescan, if one was wanted, has ended too.
+  void AddLocal_Click();
+  /// Edits the offline sources.
+  void EditOffline_Click();
+  void OptionsMenu_Click();
   void AboutMenu_Click();
   void HlpGen_Click();
   void RelInfo_Click();
@@ -41,22 +48,31 @@ class SearchFormWindows {
   /// Loads a picture and shows it; returns at once.
   void PreviewImage(const QString& path) { preview_.PreviewImage(path); }
 
-  // Unloading; each does nothing where the window is not there.
+  /// The mode of the source editor's last opening; empty before the first.
+  const QString& LocMode() const { return LocMode_; }
+
+  // Unloading, without saving; each does nothing where the window is not there. The call that opened a dialog
+  // returns once the dialog's own events have ended.
   void unloadSplash();
-  void unloadOptions() { options_.unload(); }
-  void unloadSources() { sources_.unload(); }
+  void unloadOptions();
+  void unloadSources();
   void unloadPreview() { preview_.unload(); }
   void unloadBrowser();
 
  private:
+  void showSources(LocalLoc& dialog);
   void showHelp(const QString& pageName);
 
+  const SearchFormMenus& menus_;
   QWidget& owner_;
   DialogFilePicker systemPicker_;
-  LocalLocOpener sources_;
-  ListOptionsOpener options_;
-  ImagePreview preview_;
+  SourceEditing sourceEditing_;
+  OptionsEditing optionsEditing_;
+  QString LocMode_;
+  QPointer<LocalLoc> sources_;
+  QPointer<ListOptions> options_;
   QPointer<frmSplash> splash_;
+  ImagePreview preview_;
   NetworkPageTransfer transfer_;
   /// A window of its own beside the main one, so it is not the main window's child.
   std::unique_ptr<frmBrowser> browser_;

@@ -49,7 +49,7 @@ int runFind(const FindRequest& request) {
     search(request, run);
   } catch (const RuntimeFault& fault) {
     failed = true;
-    printError(QStringLiteral("Run-time error '%1': %2").arg(fault.number()).arg(fault.description()));
+    printError(fault.text());
   }
   if (request.countOnly) std::printf("%lld\n", static_cast<long long>(run.hitCount()));
   writer.flush();

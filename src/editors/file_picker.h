@@ -1,4 +1,4 @@
-// Asking the user for a file or a folder, without knowing how: the program shows dialogs, a test answers.
+// Asking the user for a file or a folder: the program shows dialogs, a test answers by itself.
 #pragma once
 
 #include "files/path_style.h"
@@ -9,7 +9,7 @@
 
 namespace quorvin {
 
-/// What a picker starts with.
+/// What a picker is opened with.
 struct FileQuestion {
   /// The prefilled file name; it need not exist.
   QString fileName;
@@ -24,13 +24,20 @@ class FilePicker {
  public:
   virtual ~FilePicker() = default;
 
-  /// The whole native path of the file that the user has picked, which need not exist; nothing when he has
-  /// cancelled.
+  /// The whole native path of the file that the user picks, which need not exist; nothing when the user
+  /// cancels.
   virtual std::optional<QString> openFile(const FileQuestion& question) = 0;
 
-  /// The native path of the folder that the user has picked; nothing when he has cancelled. Of the question
-  /// only the folder to start in is used.
+  /// The native path of the folder that the user picks; nothing when the user cancels. Only the question's
+  /// initial folder is used.
   virtual std::optional<QString> pickFolder(const FileQuestion& question) = 0;
+};
+
+/// Shows the native dialogs where the system has them, above the window in use.
+class DialogFilePicker : public FilePicker {
+ public:
+  std::optional<QString> openFile(const FileQuestion& question) override;
+  std::optional<QString> pickFolder(const FileQuestion& question) override;
 };
 
 /// A picked file. `FileTitle` is the last component of the whole path `FileName`; it is never empty.
@@ -42,8 +49,8 @@ struct PickedFile {
 /// Lets the user pick a file. A picker that fails counts as cancelled.
 std::optional<PickedFile> askForFile(FilePicker& picker, const FileQuestion& question, PathStyle style);
 
-/// Lets the user pick a folder; the answer is as if he had confirmed the prefilled file name in it. A picker
-/// that fails counts as cancelled.
+/// Lets the user pick a folder; the answer is as if the user had confirmed the prefilled file name in it. A
+/// picker that fails counts as cancelled.
 std::optional<PickedFile> askForFolder(FilePicker& picker, const FileQuestion& question, PathStyle style);
 
 /// The part of `FileName` before the first occurrence of `FileTitle`: the folder with its trailing separator,

@@ -1,7 +1,5 @@
 #include "editors/local_loc.h"
 
-#include "editors/local_loc_layout.h"
-
 #include <QKeySequence>
 #include <QScreen>
 #include <QShortcut>
@@ -23,6 +21,21 @@ void LocalLoc::Form_Load() {
   entries_.fill(entriesOf(editing_.state.OnlineSources, editing_.state.OnlineSourceCount));
   controls_.Desc->setFocus();
   controls_.Desc->selectAll();
+}
+
+void LocalLoc::arrangeForOffline() {
+  setWindowTitle(QStringLiteral("Offline Search List files"));
+  controls_.OK->hide();
+  controls_.OK->setEnabled(false);
+  controls_.SaveOffLine->show();
+  controls_.Desc->setText(QStringLiteral("Offline"));
+  setPathCaption(controls_, QStringLiteral("Path to List file"));
+  widenPathOverDescription(controls_);
+  LocMode_ = QString::fromUtf16(kOfflineMode);
+  controls_.Label1->hide();
+  controls_.Desc->hide();
+  controls_.LocalDataFolder->setFocus();
+  entries_.fill(entriesOf(editing_.state.OfflineSources, editing_.state.OfflineSourceCount));
 }
 
 void LocalLoc::takeInitialSize() {
@@ -92,7 +105,11 @@ std::optional<QString> LocalLoc::pickedPath(const FileQuestion& question) {
 
 void LocalLoc::OK_Click() {
   if (!store(editing_.state.OnlineSources, editing_.state.OnlineSourceCount)) return;
-  if (editing_.messages.askYesNo(QStringLiteral("Rescan Local Search Locations?"))) rescan();
+  if (editing_.messages.askYesNo(QStringLiteral("Rescan Local Search Locations?"))) {
+    // The main window can be used during the refresh.
+    hide();
+    editing_.refreshLocalLists();
+  }
   accept();
 }
 
@@ -104,11 +121,6 @@ bool LocalLoc::store(SourceTable& table, int& count) {
   const std::optional<QString> refusal = storeEntries(entries_.entries(), table, count);
   if (refusal) editing_.messages.inform(*refusal);
   return !refusal;
-}
-
-void LocalLoc::rescan() {
-  hide();
-  editing_.host.refreshLocalLists();
 }
 
 void LocalLoc::resizeEvent(QResizeEvent* event) {

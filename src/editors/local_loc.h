@@ -3,13 +3,13 @@
 
 #include "editors/file_picker.h"
 #include "editors/local_loc_controls.h"
-#include "editors/source_editor_host.h"
 #include "editors/source_list_model.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 
 #include <QDialog>
 
+#include <functional>
 #include <optional>
 
 namespace quorvin {
@@ -19,7 +19,9 @@ struct SourceEditing {
   ProgramState& state;
   MessageBoxes& messages;
   FilePicker& picker;
-  SourceEditorHost& host;
+  /// Runs the local list refresh to its end; events run meanwhile. While a refresh is running already,
+  /// another follows it, and the call returns at once.
+  std::function<void()> refreshLocalLists;
   PathStyle pathStyle = nativePathStyle();
 };
 
@@ -27,16 +29,19 @@ struct SourceEditing {
 inline constexpr char16_t kOnlineMode[] = u"Online";
 inline constexpr char16_t kOfflineMode[] = u"Offline";
 
-/// A modal dialog for one opening: when made it holds the online sources, laid out for them; the opener for
-/// offline sources rearranges it. What is edited is the list alone; a source table changes by a save only.
-/// Cancel, Esc and the close box leave the tables as they were.
+/// A modal dialog for one opening. When it is made, it holds the online sources and is laid out for them.
+/// Only the list is edited; a source table changes when the user saves. Cancel, Esc and the close box leave
+/// the tables as they were.
 class LocalLoc : public QDialog {
   Q_OBJECT
 
  public:
   LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget* owner);
 
-  void setLocMode(const QString& LocMode) { LocMode_ = LocMode; }
+  /// Makes it the editor of the offline list files; to be called before it is shown.
+  void arrangeForOffline();
+
+  const QString& LocMode() const { return LocMode_; }
 
   const LocalLocControls& controls() const { return controls_; }
   SourceListModel& entries() { return entries_; }
@@ -58,15 +63,14 @@ class LocalLoc : public QDialog {
   void takeInitialSize();
   void select(std::optional<int> row);
   std::optional<QString> pickedPath(const FileQuestion& question);
-  /// Whether the list could be stored; the user is told when not.
+  /// Whether the list could be stored; if not, a message has said why.
   bool store(SourceTable& table, int& count);
-  void rescan();
 
   SourceEditing editing_;
   QString LocMode_;
   SourceListModel entries_;
   LocalLocControls controls_;
-  /// The inner size for which the controls stand where they are.
+  /// The inner size that the controls are placed for.
   QSize laidOutFor_;
 };
 

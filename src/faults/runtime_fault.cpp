@@ -41,6 +41,10 @@ RuntimeFault::RuntimeFault(FaultNumber number) : RuntimeFault(number, describe(n
 RuntimeFault::RuntimeFault(FaultNumber number, const QString& description)
     : std::runtime_error(description.toStdString()), number_(number), description_(description) {}
 
+QString RuntimeFault::text() const {
+  return QStringLiteral("Run-time error '%1': ").arg(number()) + description_;
+}
+
 namespace {
 
 FaultNumber numberOfSystemError(int errorNumber) {

@@ -29,7 +29,7 @@ enum class FaultNumber : int {
 QString describe(FaultNumber number);
 
 /// Thrown where an operation cannot be completed. `description` says what happened and to what; it is shown
-/// to the user as it stands.
+/// to the user unchanged.
 class RuntimeFault : public std::runtime_error {
  public:
   /// The description is describe(number).
@@ -40,6 +40,8 @@ class RuntimeFault : public std::runtime_error {
   int number() const noexcept { return static_cast<int>(number_); }
   FaultNumber faultNumber() const noexcept { return number_; }
   const QString& description() const noexcept { return description_; }
+  /// How messages name the fault: "Run-time error 'N': DESCRIPTION".
+  QString text() const;
 
  private:
   FaultNumber number_;

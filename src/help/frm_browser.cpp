@@ -31,7 +31,7 @@ QSize initialSize(const QWidget& window) {
 
 frmBrowser::frmBrowser(const QString& helpFolder, PageTransfer& transfer, QWidget* parent)
     : QWidget(parent, Qt::Window),
-      loader_(helpFolder, transfer, *this),
+      loader_(helpFolder, transfer, pageDisplay()),
       controls_(makeBrowserControls(this, loader_.files())) {
   setObjectName(QStringLiteral("frmBrowser"));
   setWindowTitle(QString::fromUtf16(kCaption));
@@ -115,17 +115,14 @@ void frmBrowser::Form_Resize() {
   layOutBrowser(controls_);
 }
 
-void frmBrowser::showPage(const Page& page, int position) {
-  controls_.brwWebBrowser->showPage(page);
-  if (position > 0) controls_.brwWebBrowser->goTo(position);
-}
-
-void frmBrowser::showPlace(const QUrl& address) {
-  controls_.brwWebBrowser->showPlace(address.fragment());
-}
-
-int frmBrowser::position() const {
-  return controls_.brwWebBrowser->position();
+PageDisplay frmBrowser::pageDisplay() {
+  return {[this](const Page& page, int position) {
+            controls_.brwWebBrowser->showPage(page);
+            if (position > 0) controls_.brwWebBrowser->goTo(position);
+          },
+          [this](const QString& fragment) { controls_.brwWebBrowser->showPlace(fragment); },
+          [this] { return controls_.brwWebBrowser->position(); },
+          [this](const QString& address) { navigationFinished(address); }};
 }
 
 void frmBrowser::navigationFinished(const QString& address) {

@@ -1,8 +1,8 @@
 // The help browser.
 #pragma once
 
-#include "help/address_list.h"
 #include "help/frm_browser_controls.h"
+#include "help/page_history.h"
 #include "help/page_loader.h"
 
 #include <QString>
@@ -13,7 +13,7 @@ namespace quorvin {
 
 /// The help browser `frmBrowser`: pages of the program's help, and plain pages of the web. The window is
 /// loaded when it is shown, and unloaded when it is closed; shown again, it starts anew.
-class frmBrowser : public QWidget, private PageLoaderView {
+class frmBrowser : public QWidget {
   Q_OBJECT
 
  public:
@@ -38,12 +38,8 @@ class frmBrowser : public QWidget, private PageLoaderView {
   void changeEvent(QEvent* event) override;
 
  private:
-  // For the loader.
-  void showPage(const Page& page, int position) override;
-  void showPlace(const QUrl& address) override;
-  int position() const override;
-  void navigationFinished(const QString& address) override;
-
+  PageDisplay pageDisplay();
+  void navigationFinished(const QString& address);
   void connectControls();
   void addKeys();
   void Form_Load();

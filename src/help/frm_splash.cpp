@@ -1,11 +1,13 @@
 #include "help/frm_splash.h"
 
-#include "help/frm_splash_logo.h"
-
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quorvin {
 
@@ -31,6 +33,9 @@ QLabel* withText(QLabel* label, const QString& text) {
   label->setText(text);
   return label;
 }
+
+/// The height of the logo in lines of text.
+constexpr int kLogoLines = 8;
 
 }  // namespace
 
@@ -94,6 +99,25 @@ void frmSplash::Form_Load(const ProductFacts& facts) {
       QStringLiteral("Version %1.%2.%3").arg(facts.majorVersion).arg(facts.minorVersion).arg(facts.revision));
   lblProductName_->setText(facts.productName);
   AppDesc_->setText(facts.description);
+}
+
+LogoPicture::LogoPicture(QWidget* parent)
+    : QWidget(parent), drawing_(QStringLiteral(":/quorvin/help/quorvin.svg")) {
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize LogoPicture::sizeHint() const {
+  const int side = fontMetrics().height() * kLogoLines;
+  return {side, side};
+}
+
+void LogoPicture::paintEvent(QPaintEvent*) {
+  const int side = std::min(width(), height());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QRectF square(0, 0, side, side);
+  square.moveCenter(QRectF(rect()).center());
+  drawing_.render(&painter, square);
 }
 
 }  // namespace quorvin

@@ -31,4 +31,9 @@ void PageHistory::clear() {
   current_ = 0;
 }
 
+void AddressList::visit(const QString& address) {
+  addresses_.removeOne(address);
+  addresses_.prepend(address);
+}
+
 }  // namespace quorvin

@@ -1,6 +1,8 @@
-// The pages behind and ahead of the one that is shown.
+// Where the reader has been: the pages behind and ahead, and the addresses that the address box offers.
 #pragma once
 
+#include <QString>
+#include <QStringList>
 #include <QUrl>
 
 #include <cstddef>
@@ -42,6 +44,19 @@ class PageHistory {
  private:
   std::vector<VisitedPage> pages_;
   std::size_t current_ = 0;
+};
+
+/// Visited addresses, newest first, each once.
+class AddressList {
+ public:
+  /// Puts `address` first; where it stood before it is taken out.
+  void visit(const QString& address);
+  void clear() { addresses_.clear(); }
+
+  const QStringList& addresses() const { return addresses_; }
+
+ private:
+  QStringList addresses_;
 };
 
 }  // namespace quorvin

@@ -1,6 +1,6 @@
 #include "help/page_loader.h"
 
-#include "help/page_address.h"
+#include <utility>
 
 namespace quorvin {
 
@@ -20,8 +20,8 @@ Page fetchedPage(const QUrl& asked, const TransferResult& result) {
 
 }  // namespace
 
-PageLoader::PageLoader(const QString& helpFolder, PageTransfer& transfer, PageLoaderView& view)
-    : files_(helpFolder), transfer_(transfer), view_(view) {}
+PageLoader::PageLoader(const QString& helpFolder, PageTransfer& transfer, PageDisplay display)
+    : files_(helpFolder), transfer_(transfer), display_(std::move(display)) {}
 
 void PageLoader::open(const QString& address) {
   const QUrl target = pageAddress(address, files_.folder());
@@ -36,10 +36,10 @@ void PageLoader::follow(const QUrl& link) {
     return;
   }
   stop();
-  history_.keepPosition(view_.position());
+  history_.keepPosition(display_.position());
   history_.visit(target);
-  view_.showPlace(target);
-  view_.navigationFinished(addressText(target));
+  display_.showPlace(target.fragment());
+  display_.navigationFinished(addressText(target));
 }
 
 void PageLoader::goBack() {
@@ -51,7 +51,7 @@ void PageLoader::goForward() {
 }
 
 void PageLoader::reload() {
-  if (!history_.isEmpty()) load(history_.current().address, Move::Stay, view_.position());
+  if (!history_.isEmpty()) load(history_.current().address, Move::Stay, display_.position());
 }
 
 void PageLoader::stop() {
@@ -105,10 +105,10 @@ Page PageLoader::helpPage(const QUrl& address) const {
 }
 
 void PageLoader::show(const Page& page, Move move, int position) {
-  history_.keepPosition(view_.position());
+  history_.keepPosition(display_.position());
   moveInHistory(page.address, move);
-  view_.showPage(page, position);
-  view_.navigationFinished(addressText(page.address));
+  display_.showPage(page, position);
+  display_.navigationFinished(addressText(page.address));
 }
 
 void PageLoader::moveInHistory(const QUrl& address, Move move) {

@@ -2,28 +2,27 @@
 #pragma once
 
 #include "help/help_files.h"
+#include "help/page.h"
 #include "help/page_history.h"
-#include "help/page_text.h"
 #include "help/page_transfer.h"
 
 #include <QString>
 #include <QUrl>
 
+#include <functional>
+
 namespace quorvin {
 
-/// The window, as the loader sees it.
-class PageLoaderView {
- public:
-  virtual ~PageLoaderView() = default;
-
-  /// Shows `page`, from its top or from the fragment of its address on, or at `position` where that is not 0.
-  virtual void showPage(const Page& page, int position) = 0;
-  /// Goes to the fragment of `address` on the page that is shown.
-  virtual void showPlace(const QUrl& address) = 0;
-  /// How far down the shown page is being read.
-  virtual int position() const = 0;
-  /// A page is shown, be it one that tells why there is no other; `address` as addressText writes it.
-  virtual void navigationFinished(const QString& address) = 0;
+/// What the loader does with the window. All four are needed.
+struct PageDisplay {
+  /// Shows `page` from its top, or from the fragment of its address on, or at `position` where that is not 0.
+  std::function<void(const Page& page, int position)> showPage;
+  /// Goes to `fragment` on the page that is shown.
+  std::function<void(const QString& fragment)> showPlace;
+  /// How far down the shown page has been read.
+  std::function<int()> position;
+  /// A page is shown, perhaps one that says why there is no other; `address` as addressText writes it.
+  std::function<void(const QString& address)> navigationFinished;
 };
 
 /// Brings the pages that the reader asks for. Help pages come at once; those of the web come later, and until
@@ -31,8 +30,8 @@ class PageLoaderView {
 /// that says why.
 class PageLoader {
  public:
-  /// `transfer` and `view` must outlive the loader.
-  PageLoader(const QString& helpFolder, PageTransfer& transfer, PageLoaderView& view);
+  /// `transfer` must outlive the loader.
+  PageLoader(const QString& helpFolder, PageTransfer& transfer, PageDisplay display);
 
   const HelpFiles& files() const { return files_; }
 
@@ -67,7 +66,7 @@ class PageLoader {
 
   HelpFiles files_;
   PageTransfer& transfer_;
-  PageLoaderView& view_;
+  PageDisplay display_;
   PageHistory history_;
   bool busy_ = false;
   QUrl loading_;

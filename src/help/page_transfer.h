@@ -1,11 +1,17 @@
-// Fetching a page of the web, without knowing how.
+// Fetching the pages of the web.
 #pragma once
 
 #include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QUrl>
 
+#include <chrono>
 #include <functional>
+
+class QNetworkReply;
 
 namespace quorvin {
 
@@ -33,6 +39,43 @@ class PageTransfer {
 
   /// Ends the transfer, if there is one; its `done` is not called any more.
   virtual void stop() = 0;
+};
+
+/// A page is refused when it goes beyond these.
+struct PageTransferLimits {
+  qint64 bytes = qint64{2} << 20;
+  /// Without any data.
+  std::chrono::milliseconds silence = std::chrono::seconds(15);
+  /// From the first connection to the last byte.
+  std::chrono::milliseconds whole = std::chrono::seconds(60);
+};
+
+/// Fetches HTML and plain text by http and https. It follows redirects to the same or a safer scheme, takes
+/// no cookies and gives no passwords.
+class NetworkPageTransfer : public QObject, public PageTransfer {
+  Q_OBJECT
+
+ public:
+  explicit NetworkPageTransfer(PageTransferLimits limits = {}, QObject* parent = nullptr);
+  ~NetworkPageTransfer() override;
+
+  void start(const QUrl& address, Done done) override;
+  void stop() override;
+
+ private:
+  void headersArrived();
+  void dataArrived();
+  void finished();
+  void fail(const QString& why);
+  void deliver(const TransferResult& result);
+
+  PageTransferLimits limits_;
+  QNetworkAccessManager network_;
+  QTimer deadline_;
+  /// The manager's; null while nothing is being fetched.
+  QNetworkReply* reply_ = nullptr;
+  QByteArray body_;
+  Done done_;
 };
 
 }  // namespace quorvin

@@ -1,7 +1,7 @@
 // Every window as a screen reader finds it: which controls there are, by which names the program knows them
 // and by which names they are read.
 #include "accessibility/readings.h"
-#include "app/widget_message_boxes.h"
+#include "app/main_application.h"
 #include "editors/dialog_driving.h"
 #include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"

@@ -1,6 +1,6 @@
 // The dialogs for picking files and folders, answered as a person would.
 #include "editors/dialog_driving.h"
-#include "editors/local_loc_file_picker.h"
+#include "editors/file_picker.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

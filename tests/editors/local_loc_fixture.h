@@ -3,8 +3,6 @@
 
 #include "editors/dialog_driving.h"
 #include "editors/local_loc.h"
-#include "editors/local_loc_opener.h"
-#include "editors/recording_editor_host.h"
 #include "editors/recording_file_picker.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
@@ -41,7 +39,19 @@ class LocalLocTest : public testing::Test {
   const LocalLocControls& controls() { return dialog().controls(); }
   const Entries& edited() { return dialog().entries().entries(); }
 
-  SourceEditing editing() { return {state_, messages_, picker_, host_, pathStyle_}; }
+  SourceEditing editing() {
+    const auto refresh = [this] {
+      ++refreshes_;
+      if (duringRefresh_) duringRefresh_();
+    };
+    return {state_, messages_, picker_, refresh, pathStyle_};
+  }
+  /// Opens the editor for offline lists and does `action` in it.
+  void inOfflineEditor(const std::function<void(LocalLoc&)>& action) {
+    LocalLoc dialog(editing(), LocMode_, nullptr);
+    dialog.arrangeForOffline();
+    EXPECT_TRUE(duringModal<LocalLoc>([&] { dialog.exec(); }, action));
+  }
 
   void add(const QString& description, const QString& path) {
     type(controls().Desc, description);
@@ -61,7 +71,8 @@ class LocalLocTest : public testing::Test {
   ProgramState state_;
   RecordingMessageBoxes messages_;
   RecordingFilePicker picker_;
-  RecordingEditorHost host_;
+  int refreshes_ = 0;
+  std::function<void()> duringRefresh_;
   PathStyle pathStyle_ = kWindowsPaths;
   QString LocMode_ = QStringLiteral("Online");
 

@@ -1,6 +1,4 @@
 // The layout of the source editor.
-#include "editors/local_loc_layout.h"
-
 #include "editors/local_loc_fixture.h"
 
 #include <QHeaderView>

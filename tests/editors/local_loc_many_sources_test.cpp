@@ -73,17 +73,15 @@ TEST_F(ManySources, TheNextOneIsRefusedBeforeAnythingIsLost) {
 
 TEST_F(ManySources, TheOfflineListIsRefusedInTheSameWay) {
   haveOffline(sources(2000));
-  LocalLocOpener opener(editing(), nullptr);
-  EXPECT_TRUE(duringModal<LocalLoc>([&] { opener.EditOffline_Click(); },
-                                    [](LocalLoc& dialog) {
-                                      dialog.controls().Online->selectRow(0);
-                                      click(dialog.controls().MvDn);
-                                      type(dialog.controls().LocalDataFolder, QStringLiteral("C:\\"));
-                                      click(dialog.controls().LocAdd);
-                                      click(dialog.controls().SaveOffLine);
-                                      EXPECT_TRUE(dialog.isVisible());
-                                      EXPECT_EQ(dialog.entries().entries().size(), 2001U);
-                                    }));
+  inOfflineEditor([](LocalLoc& dialog) {
+    dialog.controls().Online->selectRow(0);
+    click(dialog.controls().MvDn);
+    type(dialog.controls().LocalDataFolder, QStringLiteral("C:\\"));
+    click(dialog.controls().LocAdd);
+    click(dialog.controls().SaveOffLine);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.entries().entries().size(), 2001U);
+  });
   EXPECT_EQ(messages_.informed, std::vector{kTooMany});
   EXPECT_EQ(offline(), sources(2000));
 }

@@ -9,7 +9,7 @@ namespace {
 
 class OfflineEditor : public LocalLocTest {
  protected:
-  OfflineEditor() : opener_(editing(), nullptr) {
+  OfflineEditor() {
     haveOnline(threeFolders());
     haveOffline(twoLists());
   }
@@ -18,12 +18,7 @@ class OfflineEditor : public LocalLocTest {
     return {{QStringLiteral("Offline"), QStringLiteral("E:\\Lists\\tapes.txt")},
             {QStringLiteral("Old disks"), QStringLiteral("E:\\Lists\\disks.txt")}};
   }
-  /// Opens the editor and does `action` in it.
-  void edit(const std::function<void(LocalLoc&)>& action) {
-    EXPECT_TRUE(duringModal<LocalLoc>([this] { opener_.EditOffline_Click(); }, action));
-  }
-
-  LocalLocOpener opener_;
+  void edit(const std::function<void(LocalLoc&)>& action) { inOfflineEditor(action); }
 };
 
 TEST_F(OfflineEditor, TitleLabelAndTheOneSaveButtonAreItsOwn) {
@@ -66,9 +61,8 @@ TEST_F(OfflineEditor, TheColumnHeadersStay) {
 }
 
 TEST_F(OfflineEditor, ShowsOnlyOfflineEntriesAfterTheFolderEditor) {
-  EXPECT_TRUE(
-      duringModal<LocalLoc>([this] { opener_.AddLocal_Click(); },
-                            [](LocalLoc& dialog) { EXPECT_EQ(dialog.entries().entries(), threeFolders()); }));
+  EXPECT_EQ(edited(), threeFolders());
+  dialog().hide();
   edit([](LocalLoc& dialog) { EXPECT_EQ(dialog.entries().entries(), twoLists()); });
 }
 
@@ -130,7 +124,7 @@ TEST_F(OfflineEditor, SaveStoresTheOfflineListAndAsksNothing) {
   EXPECT_EQ(offline(), (Entries{twoLists()[1], twoLists()[0]}));
   EXPECT_EQ(online(), threeFolders());
   EXPECT_TRUE(messages_.asked.empty());
-  EXPECT_EQ(host_.log, QStringList());
+  EXPECT_EQ(refreshes_, 0);
 }
 
 TEST_F(OfflineEditor, TheCloseBoxCancelAndEscapeDiscardTheEdits) {

@@ -196,7 +196,15 @@ TEST_F(FolderEditor, SaveStoresThenAsksThenCloses) {
   haveOnline(threeFolders());
   add(QStringLiteral("Music CDs"), QStringLiteral("C:\\"));
   const Entries expected = edited();
+  Entries whenAsked;
+  bool visibleWhenAsked = false;
+  messages_.whenAsked = [&] {
+    whenAsked = online();
+    visibleWhenAsked = dialog().isVisible();
+  };
   click(controls().OK);
+  EXPECT_EQ(whenAsked, expected);
+  EXPECT_TRUE(visibleWhenAsked);
   EXPECT_EQ(online(), expected);
   EXPECT_EQ(messages_.asked, std::vector{QStringLiteral("Rescan Local Search Locations?")});
   EXPECT_FALSE(dialog().isVisible());
@@ -207,7 +215,7 @@ TEST_F(FolderEditor, NoKeepsTheListWithoutARescan) {
   messages_.answers = {false};
   click(controls().OK);
   EXPECT_EQ(online(), threeFolders());
-  EXPECT_EQ(host_.log, QStringList());
+  EXPECT_EQ(refreshes_, 0);
 }
 
 TEST_F(FolderEditor, YesRescansWithTheDialogHidden) {
@@ -217,13 +225,13 @@ TEST_F(FolderEditor, YesRescansWithTheDialogHidden) {
   bool visibleMeanwhile = true;
   int countMeanwhile = 0;
   QSignalSpy closed(&dialog(), &QDialog::finished);
-  host_.duringRefresh = [&] {
+  duringRefresh_ = [&] {
     visibleMeanwhile = dialog().isVisible();
     countMeanwhile = state_.OnlineSourceCount;
     EXPECT_TRUE(closed.isEmpty());
   };
   click(controls().OK);
-  EXPECT_EQ(host_.log, QStringList(QStringLiteral("refresh")));
+  EXPECT_EQ(refreshes_, 1);
   EXPECT_FALSE(visibleMeanwhile);
   EXPECT_EQ(countMeanwhile, 4);
   EXPECT_EQ(closed.size(), 1);
@@ -231,7 +239,7 @@ TEST_F(FolderEditor, YesRescansWithTheDialogHidden) {
 
 TEST_F(FolderEditor, AFaultOfTheRefreshLeavesTheDialogHidden) {
   messages_.answers = {true};
-  host_.duringRefresh = [] { throw RuntimeFault(FaultNumber::DiskFull, QStringLiteral("Disk full")); };
+  duringRefresh_ = [] { throw RuntimeFault(FaultNumber::DiskFull, QStringLiteral("Disk full")); };
   click(controls().OK);
   EXPECT_FALSE(dialog().isVisible());
   EXPECT_EQ(lastResortFaults(), std::vector{QStringLiteral("Disk full")});

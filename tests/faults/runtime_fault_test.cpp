@@ -24,6 +24,11 @@ TEST(RuntimeFault, CarriesADescriptionOfTheThingConcerned) {
   EXPECT_EQ(std::string(fault.what()), "Row 2001 – Zürich");
 }
 
+TEST(RuntimeFault, MessagesNameItByNumberAndDescription) {
+  EXPECT_EQ(RuntimeFault(FaultNumber::DiskFull, QStringLiteral("Disk full: /a/%1.txt")).text(),
+            u"Run-time error '61': Disk full: /a/%1.txt");
+}
+
 TEST(RuntimeFault, EveryNumberHasItsWords) {
   struct Row {
     int number;

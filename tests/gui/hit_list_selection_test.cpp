@@ -1,7 +1,6 @@
 // Selecting several rows of the hit list, also very many, and the wishes for opening and for the menu.
-#include "app/hit_list_selection.h"
-
 #include "app/hit_list.h"
+#include "app/hit_list_model.h"
 #include "gui/many_rows_model.h"
 #include "support/qt_printing.h"
 

@@ -2,10 +2,13 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QImage>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
+
+#include <algorithm>
 
 namespace quorvin::test {
 
@@ -177,6 +180,60 @@ TEST_F(WindowMenus, TheHelpIsAWindowOfItsOwn) {
   EXPECT_EQ(browser->windowTitle(), QStringLiteral("Quorvin Utility Help"));
   form().close();
   EXPECT_FALSE(browser->isVisible());
+}
+
+/// The named windows in the order in which they vanish.
+class VanishingWindows : public QObject {
+ public:
+  VanishingWindows() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* object, QEvent* event) override {
+    const QString name = object->objectName();
+    const bool isOurs = object->isWidgetType() && kOthers.contains(name);
+    if (isOurs && event->type() == QEvent::Hide && !seen.contains(name)) seen.append(name);
+    return false;
+  }
+
+  const QStringList kOthers{QStringLiteral("frmSplash"), QStringLiteral("ListOptions"),
+                            QStringLiteral("LocalLoc"),  QStringLiteral("Progress"),
+                            QStringLiteral("ImgPre"),    QStringLiteral("frmBrowser")};
+  QStringList seen;
+};
+
+bool isShown(const QString& name) {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  return std::any_of(windows.begin(), windows.end(), [&](const QWidget* window) {
+    return window->objectName() == name && window->isVisible();
+  });
+}
+
+TEST_F(WindowMenus, ClosingUnloadsTheOtherWindowsInTheirOrder) {
+  TemporaryFolder pictures;
+  ASSERT_TRUE(QImage(20, 20, QImage::Format_RGB32).save(pictures.pathOf(QStringLiteral("a.bmp"))));
+  addOnlineSource(QStringLiteral("Pictures"),
+                  blockHead("Pictures", listedFolder(pictures.path(), nativePathStyle()).toUtf8()) + entryLine("a.bmp"));
+  state_.OnlineSources.set(1, QStringLiteral("Pictures"), pictures.path());
+  find(QStringLiteral("bmp"));
+  ASSERT_EQ(rows(), 1);
+  controls().HitList->setCurrentIndex(controls().HitList->model()->index(0, 0));
+  form().itemMenu().ShowPreview->trigger();
+  ASSERT_TRUE(QTest::qWaitFor([] { return isShown(QStringLiteral("ImgPre")); }));
+  form().menus().HlpGen->trigger();
+  form().progress().show();
+
+  VanishingWindows vanishing;
+  // Each dialog waits in its own event loop for the next one.
+  QTimer::singleShot(0, [this, &vanishing] {
+    QTimer::singleShot(0, [this, &vanishing] {
+      QTimer::singleShot(0, [this, &vanishing] {
+        for (const QString& name : vanishing.kOthers) EXPECT_TRUE(isShown(name)) << name.toStdString();
+        form().close();
+      });
+      form().menus().AboutMenu->trigger();
+    });
+    form().menus().OptionsMenu->trigger();
+  });
+  form().menus().AddLocal->trigger();
+  EXPECT_EQ(vanishing.seen.join(u' '), vanishing.kOthers.join(u' '));
 }
 
 TEST_F(WindowMenus, ClosingUnloadsAnOpenDialog) {

@@ -1,6 +1,5 @@
 // The layout of the main window, to the number.
-#include "app/search_form_layout.h"
-
+#include "app/search_form_controls.h"
 #include "gui/search_form_fixture.h"
 
 #include <QHeaderView>

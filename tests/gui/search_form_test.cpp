@@ -1,5 +1,5 @@
 // The main window before a run: its controls, menus, keys and what it tells.
-#include "app/search_form_menus.h"
+#include "app/search_form_controls.h"
 #include "gui/search_form_fixture.h"
 
 #include <QApplication>

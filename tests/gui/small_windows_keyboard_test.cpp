@@ -1,5 +1,5 @@
 // The small windows by keys alone: what they are for is done, and they are left.
-#include "app/widget_message_boxes.h"
+#include "app/main_application.h"
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"
 #include "help/frm_splash.h"

@@ -1,6 +1,5 @@
 // Message boxes on the screen, answered as a user would.
-#include "app/widget_message_boxes.h"
-
+#include "app/main_application.h"
 #include "support/qt_printing.h"
 
 #include <QApplication>

@@ -1,5 +1,4 @@
 // The measures of the help browser, and what its parts are called.
-#include "help/browser_measures.h"
 #include "help/frm_browser_fixture.h"
 
 #include <QImage>

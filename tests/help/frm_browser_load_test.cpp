@@ -13,6 +13,13 @@ TEST_F(FrmBrowserLoad, OpensTheStartingAddress) {
   EXPECT_EQ(addresses(), shown({"genhelp.htm"}));
 }
 
+TEST_F(FrmBrowserLoad, TheStartingAddressIsInTheListBeforeItsPageHasCome) {
+  window().showHelp(QStringLiteral("http://host/a"));
+  ASSERT_TRUE(transfer_.isWaiting());
+  EXPECT_EQ(addresses(), QStringLiteral("http://host/a"));
+  EXPECT_EQ(box().currentText(), QStringLiteral("http://host/a"));
+}
+
 TEST_F(FrmBrowserLoad, WithoutAStartingAddressItOpensNothing) {
   window().show();
   EXPECT_EQ(text(), QString());

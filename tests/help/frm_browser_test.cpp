@@ -105,6 +105,13 @@ TEST_F(FrmBrowser, AButtonStartsTheTimerAndTheTimerEndsItself) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return !isTimerRunning(); }));
 }
 
+TEST_F(FrmBrowser, ATypedAddressStartsTheTimer) {
+  show("genhelp.htm");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !isTimerRunning(); }));
+  openByTyping(QStringLiteral("relinfo.htm"));
+  EXPECT_TRUE(isTimerRunning());
+}
+
 TEST_F(FrmBrowser, KeysDoWhatTheButtonsDo) {
   show("genhelp.htm");
   view().setFocus();

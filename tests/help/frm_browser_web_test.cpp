@@ -1,7 +1,7 @@
 // Pages of the web in the help browser: being busy, and stopping.
 #include "help/frm_browser_fixture.h"
 #include "help/loopback_server.h"
-#include "help/network_page_transfer.h"
+#include "help/page_transfer.h"
 
 #include <QElapsedTimer>
 

@@ -23,6 +23,14 @@ QString placePattern(const QString& place) {
 
 class HelpPages : public testing::Test {
  protected:
+  /// Every test goes through the pages, and would pass if there were none.
+  void SetUp() override {
+    ASSERT_GE(manualPages().size(), 14);
+    for (const QString& page : manualPages()) {
+      ASSERT_TRUE(manualText(page).contains(QStringLiteral("<h1>"))) << page.toStdString();
+    }
+  }
+
   FakePageTransfer transfer_;
   frmBrowser window_{pagesFolder(), transfer_};
 };

@@ -10,15 +10,15 @@
 namespace quorvin::test {
 namespace {
 
-class RecordingView : public PageLoaderView {
- public:
-  void showPage(const Page& page, int position) override {
-    pages.append(page.text);
-    shownAt = position;
+struct RecordingView {
+  PageDisplay display() {
+    return {[this](const Page& page, int position) {
+              pages.append(page.text);
+              shownAt = position;
+            },
+            [this](const QString& fragment) { places.append(fragment); }, [this] { return readTo; },
+            [this](const QString& address) { finished.append(address); }};
   }
-  void showPlace(const QUrl& address) override { places.append(address.fragment()); }
-  int position() const override { return readTo; }
-  void navigationFinished(const QString& address) override { finished.append(address); }
 
   QStringList pages;
   QStringList places;
@@ -39,7 +39,7 @@ class PageLoaderTest : public testing::Test {
   TemporaryFolder folder_;
   FakePageTransfer transfer_;
   RecordingView view_;
-  PageLoader loader_{folder_.path(), transfer_, view_};
+  PageLoader loader_{folder_.path(), transfer_, view_.display()};
 };
 
 TEST_F(PageLoaderTest, AHelpPageComesAtOnce) {

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 namespace quorvin {
@@ -17,6 +18,7 @@ class RecordingMessageBoxes : public MessageBoxes {
   /// Records the question and gives the next of `answers`; No when there is none left.
   bool askYesNo(const QString& text) override {
     asked.push_back(text);
+    if (whenAsked) whenAsked();
     if (answers.empty()) return false;
     const bool answer = answers.front();
     answers.pop_front();
@@ -36,6 +38,8 @@ class RecordingMessageBoxes : public MessageBoxes {
   std::vector<QString> informed;
   std::vector<QString> asked;
   std::vector<QString> askedOfFaults;
+  /// Called while a question with Yes and No is shown; may be empty.
+  std::function<void()> whenAsked;
   /// What the coming questions are answered with: true for Yes.
   std::deque<bool> answers;
   std::deque<FaultAnswer> faultAnswers;

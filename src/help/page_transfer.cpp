@@ -1,6 +1,6 @@
-#include "help/network_page_transfer.h"
+#include "help/page_transfer.h"
 
-#include "help/page_text.h"
+#include "help/page.h"
 #include "platform/http_request.h"
 
 #include <QLocale>

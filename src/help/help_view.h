@@ -1,12 +1,18 @@
-// The pages of the help browser, on the screen.
+// The page that the help browser shows, and finding words on it.
 #pragma once
 
 #include "help/help_files.h"
-#include "help/page_text.h"
+#include "help/page.h"
 
 #include <QHash>
 #include <QImage>
 #include <QTextBrowser>
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QTextBrowser;
+class QToolButton;
 
 namespace quorvin {
 
@@ -62,6 +68,36 @@ class HelpView : public QTextBrowser {
   /// The pictures of the page as they are on disk, by the name that the page has for them.
   QHash<QUrl, QImage> pictures_;
   int fittedTo_ = 0;
+};
+
+/// A row with a text to find and buttons for the next and the one before. It looks while the reader types and
+/// goes on from the other end of the page when there is no further place.
+class FindBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `page` must outlive the bar.
+  explicit FindBar(QTextBrowser& page, QWidget* parent = nullptr);
+
+  /// Shows the bar, ready to type.
+  void open();
+  /// Hides it and gives the page the focus.
+  void dismiss();
+
+  void findNext();
+  void findPrevious();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QToolButton* addButton(const QString& caption, const QString& toolTip);
+  void findFromHere();
+  void find(bool backwards);
+
+  QTextBrowser& page_;
+  QLineEdit* text_;
+  QLabel* outcome_;
 };
 
 }  // namespace quorvin

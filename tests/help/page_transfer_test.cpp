@@ -1,4 +1,4 @@
-#include "help/network_page_transfer.h"
+#include "help/page_transfer.h"
 
 #include "help/loopback_server.h"
 #include "support/qt_printing.h"
