@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 namespace quorvin {
 
@@ -85,6 +86,25 @@ QImage imageOfDibWithAlpha(const MetafileBytes& header, const MetafileBytes& bit
     const int y = signedRows(header) < 0 ? row : image.height() - 1 - row;
     qFromLittleEndian<QRgb>(bits.slice(row * rowSize, rowSize).all().data(), image.width(),
                             image.scanLine(y));
+  }
+  return image;
+}
+
+QImage bitsOfDib(const MetafileBytes& header, const MetafileBytes& bits) {
+  checkSize(header);
+  const bool isOld = hasOldHeader(header);
+  const bool isPlain = isOld ? header.u16(10) == 1 : header.u16(14) == 1 && header.u32(16) == 0;
+  if (!isPlain) throw MetafileFault("a bitmap in it is not monochrome");
+  const int width = isOld ? header.u16(4) : header.i32(4);
+  const std::int64_t rows = signedRows(header);
+  QImage image(width, static_cast<int>(std::abs(rows)), QImage::Format_Mono);
+  if (image.isNull()) throw MetafileFault("there is not enough memory for it");
+  // Rows are padded to four bytes in both.
+  const std::int64_t rowSize = image.bytesPerLine();
+  for (int row = 0; row < image.height(); ++row) {
+    const int y = rows < 0 ? row : image.height() - 1 - row;
+    const MetafileBytes stored = bits.slice(row * rowSize, rowSize);
+    std::memcpy(image.scanLine(y), stored.all().data(), static_cast<std::size_t>(rowSize));
   }
   return image;
 }

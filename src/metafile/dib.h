@@ -19,6 +19,10 @@ QImage imageOfPackedDib(const MetafileBytes& dib);
 /// already. Bitmaps of other depths have no alpha.
 QImage imageOfDibWithAlpha(const MetafileBytes& header, const MetafileBytes& bits);
 
+/// The bits of a bitmap of one bit to the pixel, as QImage::Format_Mono; it need not have a palette. Throws
+/// MetafileFault for every other depth and for compressed bits, besides the reasons above.
+QImage bitsOfDib(const MetafileBytes& header, const MetafileBytes& bits);
+
 /// Some records count the rows of `part` as they are stored: from the bottom of the picture, unless `header`
 /// says that its top row comes first. The result counts from the top.
 QRectF partFromTop(const MetafileBytes& header, QRectF part);

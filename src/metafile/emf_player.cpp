@@ -252,7 +252,7 @@ bool EmfPlayer::playObject(std::uint32_t type, const MetafileBytes& record) {
       return true;
     case MonoBrush:
     case PatternBrush:
-      storePatternBrush(record);
+      storePatternBrush(record, type == MonoBrush);
       return true;
     case ExtendedPen:
       store(record.u32(8), extendedPenOf(record));
@@ -276,9 +276,11 @@ void EmfPlayer::select(std::uint32_t number) {
   }
 }
 
-void EmfPlayer::storePatternBrush(const MetafileBytes& record) {
+void EmfPlayer::storePatternBrush(const MetafileBytes& record, bool isMonochrome) {
+  const MetafileBytes header = record.slice(record.u32(16), record.u32(20));
+  const MetafileBytes bits = record.slice(record.u32(24), record.u32(28));
   const QImage pattern =
-      imageOfDib(record.slice(record.u32(16), record.u32(20)), record.slice(record.u32(24), record.u32(28)));
+      isMonochrome ? bitsOfDib(header, bits) : imageOfDib(header, bits).convertToFormat(QImage::Format_RGB32);
   store(record.u32(8), MetafileBrush{Qt::TexturePattern, {}, pattern});
 }
 

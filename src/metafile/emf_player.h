@@ -37,7 +37,7 @@ class EmfPlayer {
 
   void store(std::uint32_t number, MetafileObject object);
   void select(std::uint32_t number);
-  void storePatternBrush(const MetafileBytes& record);
+  void storePatternBrush(const MetafileBytes& record, bool isMonochrome);
   void drawArc(const MetafileBytes& record, int joint);
   void arcTo(const MetafileBytes& record);
   void angleArc(const MetafileBytes& record);

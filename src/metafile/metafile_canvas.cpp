@@ -156,7 +156,12 @@ QPen MetafileCanvas::penInImage() const {
 
 QBrush MetafileCanvas::brushInImage(const MetafileBrush& brush) const {
   if (brush.pattern.isNull()) return {brush.colour, brush.style};
-  QBrush result(brush.pattern);
+  QImage pattern = brush.pattern;
+  if (pattern.format() == QImage::Format_Mono) {
+    pattern.setColorTable({state.textColour.rgb(), state.backColour.rgb()});
+  }
+  // As an image of full colours: an image of one bit would be taken for a mask.
+  QBrush result(pattern.convertToFormat(QImage::Format_RGB32));
   result.setTransform(QTransform::fromScale(thinnestLine_, thinnestLine_));
   return result;
 }

@@ -232,7 +232,9 @@ bool WmfPlayer::playObject(std::uint16_t function, const WmfParameters& paramete
       store(regionOf(parameters));
       return true;
     case DibPattern:
-      store(MetafileBrush{Qt::TexturePattern, {}, imageOfPackedDib(parameters.from(4))});
+      store(MetafileBrush{Qt::TexturePattern,
+                          {},
+                          imageOfPackedDib(parameters.from(4)).convertToFormat(QImage::Format_RGB32)});
       return true;
     case Palette:
     case Pattern:

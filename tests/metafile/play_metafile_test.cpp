@@ -161,6 +161,28 @@ TEST(PlayMetafile, ARecordThatMakesNoSenseDoesNotSpoilTheOthers) {
   EXPECT_EQ(colourAt(playMetafile(emf.file()).image, {200, 100}), qRgb(255, 0, 0));
 }
 
+TEST(PlayMetafile, AMonochromePatternHasTheColoursOfTextAndBackground) {
+  constexpr int kHeaderAt = 32;
+  // 32 by 32 pixels; the left half is 0, the right half 1. There is no palette.
+  ByteWriter header;
+  header.u32(40).u32(32).u32(32).u16(1).u16(1).zeros(24);
+  ByteWriter brush;
+  brush.u32(1).u32(2).u32(kHeaderAt).u32(header.size()).u32(kHeaderAt + header.size()).u32(128);
+  brush.raw(header.bytes());
+  for (int row = 0; row < 32; ++row) brush.u16(0).u16(0xFFFF);
+  EmfWriter emf;
+  emf.record(93, brush).select(0x80000008).select(1);
+  emf.record(24, ByteWriter().u32(metafileColour(kRed)));
+  emf.record(25, ByteWriter().u32(metafileColour(kYellow)));
+  emf.rectangle(0, 0, 200, 200);
+  // The colours count that are set when it is painted.
+  emf.record(24, ByteWriter().u32(metafileColour(kBlue))).rectangle(200, 0, 400, 200);
+  const QImage image = playMetafile(emf.file()).image;
+  // The bitmap's pixels count at 96 to the inch: 32 of them are 33.9 units.
+  expectSeen(image, {{{8, 8}, kRed}, {{25, 8}, kYellow}, {{42, 100}, kRed}, {{59, 100}, kYellow}});
+  expectSeen(image, {{{212, 8}, kBlue}, {{229, 8}, kYellow}});
+}
+
 std::string faultOf(const QByteArray& metafile) {
   try {
     playMetafile(metafile);
