@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::size_t kDeepestSave = 1000;
 constexpr int kCopyPen = 13;
+/// In pixels of the image.
+constexpr double kThinnestLine = 1;
 
 QPainter::CompositionMode compositionOf(int rasterOperation) {
   constexpr std::array kModes = {
@@ -94,7 +96,7 @@ MetafileSheet sheetFor(const QSizeF& ownSize) {
 }
 
 MetafileCanvas::MetafileCanvas(const MetafileSheet& sheet, const QTransform& deviceToImage)
-    : image_(sheet.pixels, QImage::Format_RGB32), deviceToImage_(deviceToImage), thinnestLine_(sheet.scale) {
+    : image_(sheet.pixels, QImage::Format_RGB32), deviceToImage_(deviceToImage), scale_(sheet.scale) {
   if (image_.isNull()) throw MetafileFault("there is not enough memory for it");
   image_.fill(Qt::white);
   painter_.begin(&image_);
@@ -149,7 +151,7 @@ void MetafileCanvas::beginPainting() {
 
 QPen MetafileCanvas::penInImage() const {
   if (state.pen.isNull()) return Qt::NoPen;
-  const double width = std::max(lengthInImage(state.pen.width), thinnestLine_);
+  const double width = std::max(lengthInImage(state.pen.width), kThinnestLine);
   return {state.pen.colour, width, penStyle(state.pen.style), penCap(state.pen.style),
           penJoin(state.pen.style)};
 }
@@ -162,7 +164,7 @@ QBrush MetafileCanvas::brushInImage(const MetafileBrush& brush) const {
   }
   // As an image of full colours: an image of one bit would be taken for a mask.
   QBrush result(pattern.convertToFormat(QImage::Format_RGB32));
-  result.setTransform(QTransform::fromScale(thinnestLine_, thinnestLine_));
+  result.setTransform(QTransform::fromScale(scale_, scale_));
   return result;
 }
 
@@ -225,7 +227,7 @@ QPainterPath MetafileCanvas::arc(const QRectF& box, const QPointF& start, const 
 void MetafileCanvas::setPixel(const QPointF& place, const QColor& colour) {
   beginPainting();
   const QPointF corner = toImage().map(place);
-  painter_.fillRect(QRectF(corner, QSizeF(thinnestLine_, thinnestLine_)), colour);
+  painter_.fillRect(QRectF(corner, QSizeF(scale_, scale_)), colour);
 }
 
 void MetafileCanvas::fillRegion(const QRegion& region, const MetafileBrush& brush) {

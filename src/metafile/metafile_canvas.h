@@ -56,8 +56,8 @@ enum class MetafilePaint { Fill, Stroke, FillAndStroke };
 /// function that draws throws MetafileFault while the state's mapping makes no sense.
 class MetafileCanvas {
  public:
-  /// A white sheet. `deviceToImage` places the metafile's device on it. A line without width is one pixel at
-  /// 96 to the inch wide.
+  /// A white sheet. `deviceToImage` places the metafile's device on it. However small the drawing is, its
+  /// lines may be as thin as one pixel of the image.
   MetafileCanvas(const MetafileSheet& sheet, const QTransform& deviceToImage);
   MetafileCanvas(const MetafileCanvas&) = delete;
   MetafileCanvas& operator=(const MetafileCanvas&) = delete;
@@ -117,7 +117,7 @@ class MetafileCanvas {
   QImage image_;
   QPainter painter_;
   QTransform deviceToImage_;
-  double thinnestLine_;
+  double scale_;
   std::vector<MetafileState> saved_;
   bool isRecording_ = false;
   QPainterPath path_;

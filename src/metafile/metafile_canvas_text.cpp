@@ -108,7 +108,7 @@ void MetafileCanvas::drawText(const MetafileText& text) {
   // Letters stay upright in a drawing that counts upwards: only the scale and the turn are taken over.
   const double xScale = std::hypot(transform.m11(), transform.m12());
   const double yScale = std::hypot(transform.m21(), transform.m22());
-  const QFont font = fontOf(state.font, yScale, kUsualHeight * thinnestLine_);
+  const QFont font = fontOf(state.font, yScale, kUsualHeight * scale_);
   const QFontMetricsF metrics(font);
   const double pixelsPerUnit = yScale;
   const double width = widthOf(text, metrics, pixelsPerUnit);

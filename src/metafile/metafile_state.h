@@ -53,9 +53,9 @@ struct MetafilePen {
   bool isNull() const { return (style & 0xF) == 5; }
 };
 
-/// A pattern, where there is one, is repeated side by side from the corner of the picture. A pattern of one bit
-/// to the pixel (QImage::Format_Mono) has no colours of its own: 0 is painted in the text colour, and 1 in the
-/// background colour, that the state has at the time.
+/// A pattern, where there is one, is repeated side by side from the corner of the picture. A pattern of one
+/// bit to the pixel (QImage::Format_Mono) has no colours of its own: 0 is painted in the text colour, and 1
+/// in the background colour, that the state has at the time.
 struct MetafileBrush {
   Qt::BrushStyle style = Qt::SolidPattern;
   QColor colour = Qt::white;

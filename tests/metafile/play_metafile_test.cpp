@@ -183,6 +183,30 @@ TEST(PlayMetafile, AMonochromePatternHasTheColoursOfTextAndBackground) {
   expectSeen(image, {{{212, 8}, kBlue}, {{229, 8}, kYellow}});
 }
 
+TEST(PlayMetafile, LinesOfASmallDrawingAreAsThinAsTheirPens) {
+  // 40 by 20 pixels, which are drawn fifteen times as large.
+  WmfWriter wmf;
+  wmf.pen(0, 0, kRed).select(0).moveTo(0, 5).lineTo(40, 5);
+  wmf.pen(0, 2, kBlue).select(1).moveTo(0, 15).lineTo(40, 15);
+  QByteArray file = wmf.file();
+  file.replace(10, 4, ByteWriter().u16(40).u16(20).bytes());
+  // The extent of the window, in the second record.
+  file.replace(22 + 18 + 10 + 6, 4, ByteWriter().u16(20).u16(40).bytes());
+  const QImage image = playMetafile(file).image;
+  ASSERT_EQ(image.size(), QSize(600, 300));
+  int redRows = 0;
+  int blueRows = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    const QColor colour = image.pixelColor(300, y);
+    redRows += colour.red() > 127 && colour.blue() < 255 ? 1 : 0;
+    blueRows += colour == QColor(kBlue) ? 1 : 0;
+  }
+  EXPECT_GE(redRows, 1);
+  EXPECT_LE(redRows, 2) << "One row, or two for a line between them.";
+  EXPECT_GE(blueRows, 29);
+  EXPECT_LE(blueRows, 30);
+}
+
 std::string faultOf(const QByteArray& metafile) {
   try {
     playMetafile(metafile);
