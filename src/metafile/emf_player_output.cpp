@@ -1,4 +1,4 @@
-// Enhanced metafiles: bitmaps and text.
+// Enhanced metafiles: bitmaps, gradients and text.
 #include "metafile/dib.h"
 #include "metafile/emf_player.h"
 #include "platform/text_encoding.h"
@@ -29,7 +29,8 @@ struct StoredBitmap {
 }  // namespace
 
 bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
-  enum { BitBlt = 76, StretchBlt, SetDibits = 80, StretchDibits, AlphaBlend = 114, TransparentBlt = 116 };
+  enum { BitBlt = 76, StretchBlt, SetDibits = 80, StretchDibits };
+  enum { AlphaBlend = 114, TransparentBlt = 116, GradientFill = 118 };
   switch (type) {
     case BitBlt: {
       const QRectF target = boxAt(record, 24);
@@ -45,6 +46,9 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
       return true;
     case TransparentBlt:
       drawWithoutColour(record);
+      return true;
+    case GradientFill:
+      fillGradients(record);
       return true;
     case SetDibits: {
       const QRectF source = boxAt(record, 32);
@@ -66,6 +70,29 @@ void EmfPlayer::drawBitmap(const MetafileBytes& record, std::int64_t offsets, co
   const StoredBitmap bitmap(record, offsets);
   if (offsets == kStoredBitmap) source = partFromTop(bitmap.header, source);
   canvas_.drawImage(target, imageOfDib(bitmap.header, bitmap.bits), source, operation);
+}
+
+void EmfPlayer::fillGradients(const MetafileBytes& record) {
+  enum { LeftToRight, TopToBottom, Triangles };
+  constexpr std::int64_t kVertexSize = 16;
+  const MetafileBytes vertices = record.slice(36, kVertexSize * record.u32(24));
+  const auto vertex = [&vertices](std::uint32_t number) {
+    const MetafileBytes bytes = vertices.slice(kVertexSize * number, kVertexSize);
+    // The channels have 16 bits.
+    return MetafileVertex{bytes.point32(0), QColor(bytes.u8(9), bytes.u8(11), bytes.u8(13))};
+  };
+  const std::uint32_t mode = record.u32(32);
+  const std::int64_t size = mode == Triangles ? 12 : 8;
+  const MetafileBytes areas = record.slice(36 + vertices.size(), size * record.u32(28));
+  for (std::int64_t at = 0; at < areas.size(); at += size) {
+    const MetafileVertex one = vertex(areas.u32(at));
+    const MetafileVertex other = vertex(areas.u32(at + 4));
+    if (mode == Triangles) {
+      canvas_.fillGradient({one, other, vertex(areas.u32(at + 8))});
+    } else {
+      canvas_.fillGradient(one, other, mode == TopToBottom ? Qt::Vertical : Qt::Horizontal);
+    }
+  }
 }
 
 void EmfPlayer::blend(const MetafileBytes& record) {

@@ -133,6 +133,10 @@ QTransform MetafileCanvas::toImage() const {
   return transform;
 }
 
+QRect MetafileCanvas::pixelsAround(const QPolygonF& corners) const {
+  return pixelsAt(corners).boundingRect().adjusted(-1, -1, 1, 1) & image_.rect();
+}
+
 QRegion MetafileCanvas::regionInImage(const QRectF& box) const {
   return QRegion(pixelsAt(toImage().map(QPolygonF(box))));
 }

@@ -12,6 +12,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -49,6 +50,12 @@ inline constexpr std::uint32_t kCopyOperation = 0x00CC0020;
 
 /// How a clip changes the one before. The values are those of the file formats.
 enum class MetafileClip { And = 1, Or, ExclusiveOr, Without, Instead };
+
+/// A corner of an area whose colours run from corner to corner.
+struct MetafileVertex {
+  QPointF at;
+  QColor colour;
+};
 
 enum class MetafilePaint { Fill, Stroke, FillAndStroke };
 
@@ -99,6 +106,11 @@ class MetafileCanvas {
                  double opacity = 1);
   void fill(const QRectF& target, std::uint32_t operation);
 
+  /// Fills the rectangle with these two corners; the colour changes from left to right or from top to bottom.
+  void fillGradient(const MetafileVertex& one, const MetafileVertex& other, Qt::Orientation direction);
+  /// Fills a triangle.
+  void fillGradient(const std::array<MetafileVertex, 3>& corners);
+
   void drawText(const MetafileText& text);
 
   /// The finished sheet. Nothing can be drawn after it.
@@ -106,6 +118,8 @@ class MetafileCanvas {
 
  private:
   QTransform toImage() const;
+  /// The pixels of the sheet that may belong to an area with these corners, in pixels of the image.
+  QRect pixelsAround(const QPolygonF& corners) const;
   QRegion regionInImage(const QRectF& box) const;
   double lengthInImage(double length) const;
   void beginPainting();

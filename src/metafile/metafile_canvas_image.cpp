@@ -1,5 +1,10 @@
-// The canvas: bitmaps.
+// The canvas: bitmaps and gradients.
 #include "metafile/metafile_canvas.h"
+
+#include <QLinearGradient>
+
+#include <algorithm>
+#include <cmath>
 
 namespace quorvin {
 
@@ -34,7 +39,76 @@ QPainter::CompositionMode sourceComposition(std::uint32_t operation) {
   }
 }
 
+double crossProduct(const QPointF& one, const QPointF& other) {
+  return one.x() * other.y() - one.y() * other.x();
+}
+
+/// The shares of the three corners of a triangle in a place; they add up to one, and are all above zero
+/// inside.
+class TriangleShares {
+ public:
+  explicit TriangleShares(const std::array<QPointF, 3>& corners)
+      : corners_(corners), area_(crossProduct(corners[1] - corners[0], corners[2] - corners[0])) {}
+
+  bool isFlat() const { return !std::isfinite(area_) || area_ == 0; }
+
+  std::array<double, 3> at(const QPointF& place) const {
+    const double second = crossProduct(place - corners_[0], corners_[2] - corners_[0]) / area_;
+    const double third = crossProduct(corners_[1] - corners_[0], place - corners_[0]) / area_;
+    return {1 - second - third, second, third};
+  }
+
+ private:
+  std::array<QPointF, 3> corners_;
+  double area_;
+};
+
+QRgb mixed(const std::array<MetafileVertex, 3>& corners, const std::array<double, 3>& shares) {
+  double red = 0;
+  double green = 0;
+  double blue = 0;
+  for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+    red += shares.at(corner) * corners.at(corner).colour.red();
+    green += shares.at(corner) * corners.at(corner).colour.green();
+    blue += shares.at(corner) * corners.at(corner).colour.blue();
+  }
+  return qRgb(wholeWithin(std::round(red), 0, 255), wholeWithin(std::round(green), 0, 255),
+              wholeWithin(std::round(blue), 0, 255));
+}
+
 }  // namespace
+
+void MetafileCanvas::fillGradient(const MetafileVertex& one, const MetafileVertex& other,
+                                  Qt::Orientation direction) {
+  const QPointF end =
+      direction == Qt::Horizontal ? QPointF(other.at.x(), one.at.y()) : QPointF(one.at.x(), other.at.y());
+  QLinearGradient gradient(one.at, end);
+  gradient.setColorAt(0, one.colour);
+  gradient.setColorAt(1, other.colour);
+  beginPainting();
+  painter_.setTransform(toImage());
+  painter_.fillRect(QRectF(one.at, other.at).normalized(), gradient);
+  painter_.resetTransform();
+}
+
+void MetafileCanvas::fillGradient(const std::array<MetafileVertex, 3>& corners) {
+  const QTransform transform = toImage();
+  const std::array<QPointF, 3> places = {transform.map(corners[0].at), transform.map(corners[1].at),
+                                         transform.map(corners[2].at)};
+  const TriangleShares shares(places);
+  const QRect box = pixelsAround({places[0], places[1], places[2]});
+  if (shares.isFlat() || box.isEmpty()) return;
+  QImage triangle(box.size(), QImage::Format_ARGB32_Premultiplied);
+  triangle.fill(Qt::transparent);
+  for (int y = 0; y < box.height(); ++y) {
+    for (int x = 0; x < box.width(); ++x) {
+      const std::array<double, 3> share = shares.at(box.topLeft() + QPointF(x + 0.5, y + 0.5));
+      if (std::ranges::min(share) >= 0) triangle.setPixel(x, y, mixed(corners, share));
+    }
+  }
+  beginPainting();
+  painter_.drawImage(box.topLeft(), triangle);
+}
 
 void MetafileCanvas::drawImage(const QRectF& target, const QImage& image, const QRectF& source,
                                std::uint32_t operation, double opacity) {
