@@ -33,6 +33,8 @@ class EmfPlayer {
   bool playPath(std::uint32_t type, const MetafileBytes& record);
   bool playClip(std::uint32_t type, const MetafileBytes& record);
   bool playBitmap(std::uint32_t type, const MetafileBytes& record);
+  void drawMasked(const MetafileBytes& record);
+  void drawInParallelogram(const MetafileBytes& record);
   void fillGradients(const MetafileBytes& record);
   bool playText(std::uint32_t type, const MetafileBytes& record);
 

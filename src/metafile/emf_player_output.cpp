@@ -3,6 +3,8 @@
 #include "metafile/emf_player.h"
 #include "platform/text_encoding.h"
 
+#include <array>
+
 namespace quorvin {
 
 namespace {
@@ -11,6 +13,7 @@ namespace {
 /// bitmap.
 constexpr std::int64_t kCopiedPart = 84;
 constexpr std::int64_t kStoredBitmap = 48;
+constexpr std::int64_t kMaskOfMaskBlt = 112;
 
 QRectF boxAt(const MetafileBytes& record, std::int64_t at) {
   return {record.point32(at), record.size32(at + 8)};
@@ -26,10 +29,65 @@ struct StoredBitmap {
   MetafileBytes bits;
 };
 
+bool hasBitmap(const MetafileBytes& record, std::int64_t offsets) {
+  return record.u32(offsets + 4) != 0;
+}
+
+QImage imageAt(const MetafileBytes& record, std::int64_t offsets) {
+  const StoredBitmap bitmap(record, offsets);
+  return imageOfDib(bitmap.header, bitmap.bits);
+}
+
+/// A bitmap of one bit to the pixel that says which pixels of another are drawn.
+class Mask {
+ public:
+  /// The record holds the place in the mask that belongs to `place` in the bitmap, a number that does not
+  /// matter here, and then, at `offsets`, where the mask is.
+  Mask(const MetafileBytes& record, std::int64_t offsets, const QPointF& place)
+      : shift_(pixelsFrom(place, record.point32(offsets - 12))) {
+    const StoredBitmap bitmap(record, offsets);
+    bits_ = bitsOfDib(bitmap.header, bitmap.bits);
+  }
+
+  /// `image` with the pixels alone for which the mask's bit is set (or is not); those beside the mask are
+  /// left out.
+  QImage appliedTo(const QImage& image, bool isSet) const {
+    QImage result = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < result.height(); ++y) {
+      auto* pixels = reinterpret_cast<QRgb*>(result.scanLine(y));
+      for (int x = 0; x < result.width(); ++x) {
+        const QPoint place = QPoint(x, y) + shift_;
+        const bool isDrawn = bits_.valid(place) && (bits_.pixelIndex(place) != 0) == isSet;
+        if (!isDrawn) pixels[x] = 0;
+      }
+    }
+    return result;
+  }
+
+ private:
+  static QPoint pixelsFrom(const QPointF& one, const QPointF& other) {
+    constexpr int kFarthest = 1'000'000;
+    return {wholeWithin(other.x() - one.x(), -kFarthest, kFarthest),
+            wholeWithin(other.y() - one.y(), -kFarthest, kFarthest)};
+  }
+
+  QImage bits_;
+  QPoint shift_;
+};
+
+/// Of a ternary raster operation's first byte: whether it draws the bitmap over what is there, or leaves what
+/// is there. Throws MetafileFault for the others, which with a mask are hardly ever used.
+bool copies(std::uint32_t operation) {
+  enum { LeaveAsItIs = 0xAA, Copy = 0xCC };
+  if (operation != Copy && operation != LeaveAsItIs)
+    throw MetafileFault("it draws through a mask in a rare way");
+  return operation == Copy;
+}
+
 }  // namespace
 
 bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
-  enum { BitBlt = 76, StretchBlt, SetDibits = 80, StretchDibits };
+  enum { BitBlt = 76, StretchBlt, MaskBlt, PlgBlt, SetDibits = 80, StretchDibits };
   enum { AlphaBlend = 114, TransparentBlt = 116, GradientFill = 118 };
   switch (type) {
     case BitBlt: {
@@ -46,6 +104,12 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
       return true;
     case TransparentBlt:
       drawWithoutColour(record);
+      return true;
+    case MaskBlt:
+      drawMasked(record);
+      return true;
+    case PlgBlt:
+      drawInParallelogram(record);
       return true;
     case GradientFill:
       fillGradients(record);
@@ -70,6 +134,30 @@ void EmfPlayer::drawBitmap(const MetafileBytes& record, std::int64_t offsets, co
   const StoredBitmap bitmap(record, offsets);
   if (offsets == kStoredBitmap) source = partFromTop(bitmap.header, source);
   canvas_.drawImage(target, imageOfDib(bitmap.header, bitmap.bits), source, operation);
+}
+
+void EmfPlayer::drawMasked(const MetafileBytes& record) {
+  const QRectF target = boxAt(record, 24);
+  const QRectF source(record.point32(44), target.size());
+  const std::uint32_t operations = record.u32(40);
+  const std::uint32_t whereSet = operations & 0x00FFFFFF;
+  if (!hasBitmap(record, kMaskOfMaskBlt)) return drawBitmap(record, kCopiedPart, target, source, whereSet);
+  const QImage image = imageAt(record, kCopiedPart);
+  const Mask mask(record, kMaskOfMaskBlt, source.topLeft());
+  // Both are operations; the second one is given by its first byte alone.
+  if (copies(whereSet >> 16)) canvas_.drawImage(target, mask.appliedTo(image, true), source, kCopyOperation);
+  if (copies(operations >> 24))
+    canvas_.drawImage(target, mask.appliedTo(image, false), source, kCopyOperation);
+}
+
+void EmfPlayer::drawInParallelogram(const MetafileBytes& record) {
+  constexpr std::int64_t kBitmap = 96;
+  constexpr std::int64_t kMask = 124;
+  const std::array<QPointF, 3> corners = {record.point32(24), record.point32(32), record.point32(40)};
+  const QRectF source = boxAt(record, 48);
+  QImage image = imageAt(record, kBitmap);
+  if (hasBitmap(record, kMask)) image = Mask(record, kMask, source.topLeft()).appliedTo(image, true);
+  canvas_.drawImage(corners, image, source);
 }
 
 void EmfPlayer::fillGradients(const MetafileBytes& record) {

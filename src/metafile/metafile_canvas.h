@@ -104,6 +104,9 @@ class MetafileCanvas {
   /// goes from 0 to 1.
   void drawImage(const QRectF& target, const QImage& image, const QRectF& source, std::uint32_t operation,
                  double opacity = 1);
+  /// Draws the part over what is there, into the parallelogram with these upper left, upper right and lower
+  /// left corners.
+  void drawImage(const std::array<QPointF, 3>& corners, const QImage& image, const QRectF& source);
   void fill(const QRectF& target, std::uint32_t operation);
 
   /// Fills the rectangle with these two corners; the colour changes from left to right or from top to bottom.

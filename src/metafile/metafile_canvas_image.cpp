@@ -1,4 +1,5 @@
 // The canvas: bitmaps and gradients.
+#include "metafile/boundary.h"
 #include "metafile/metafile_canvas.h"
 
 #include <QLinearGradient>
@@ -123,6 +124,20 @@ void MetafileCanvas::drawImage(const QRectF& target, const QImage& image, const 
   painter_.drawImage(place, image, source);
   painter_.resetTransform();
   painter_.setOpacity(1);
+}
+
+void MetafileCanvas::drawImage(const std::array<QPointF, 3>& corners, const QImage& image,
+                               const QRectF& source) {
+  if (!source.isValid()) throw MetafileFault("a bitmap in it has no size");
+  const QPointF across = (corners[1] - corners[0]) / source.width();
+  const QPointF down = (corners[2] - corners[0]) / source.height();
+  const QTransform toUnits(across.x(), across.y(), down.x(), down.y(), corners[0].x(), corners[0].y());
+  const QTransform toPixels = toUnits * toImage();
+  if (!isUsable(toPixels)) throw MetafileFault("its scale makes no sense");
+  beginPainting();
+  painter_.setTransform(toPixels);
+  painter_.drawImage(QRectF(QPointF(), source.size()), image, source);
+  painter_.resetTransform();
 }
 
 void MetafileCanvas::fill(const QRectF& target, std::uint32_t operation) {

@@ -37,6 +37,76 @@ EmfWriter filledEmf(QRgb colour) {
 
 namespace {
 
+/// The four colours as a bitmap, and a mask that is set on its left half alone. `head` is the length of the
+/// record before them; `imagePlace` and `maskPlace` are what the record says of their places.
+struct MaskedBitmap {
+  explicit MaskedBitmap(int head) {
+    const QImage image = fourColours();
+    const QByteArray header = dibHeader(image.size(), {}, 0);
+    const QByteArray bits = dibBits(image, {});
+    ByteWriter maskHeader;
+    maskHeader.u32(40).u32(100).u32(100).u16(1).u16(1).zeros(24);
+    // Rows of 100 bits, of which 50 are set, and 28 to fill them up.
+    const QByteArray maskRow = QByteArray(6, '\xFF') + '\xC0' + QByteArray(9, '\0');
+    const QByteArray mask = maskRow.repeated(100);
+    const qsizetype maskAt = head + header.size() + bits.size();
+    imagePlace = ByteWriter().u32(head).u32(header.size()).u32(head + header.size()).u32(bits.size()).bytes();
+    maskPlace = ByteWriter()
+                    .u32(maskAt)
+                    .u32(maskHeader.size())
+                    .u32(maskAt + maskHeader.size())
+                    .u32(mask.size())
+                    .bytes();
+    noMask = QByteArray(16, '\0');
+    bytes = header + bits + maskHeader.bytes() + mask;
+  }
+
+  QByteArray imagePlace;
+  QByteArray maskPlace;
+  QByteArray noMask;
+  QByteArray bytes;
+};
+
+}  // namespace
+
+EmfWriter gradientEmf(int mode, const QList<SeenPoint>& corners, const QList<int>& areas) {
+  ByteWriter content;
+  content.zeros(16).u32(corners.size()).u32(areas.size() / (mode == 2 ? 3 : 2)).u32(mode);
+  for (const SeenPoint& corner : corners) {
+    content.u32(corner.at.x()).u32(corner.at.y());
+    content.u8(0)
+        .u8(qRed(corner.colour))
+        .u8(0)
+        .u8(qGreen(corner.colour))
+        .u8(0)
+        .u8(qBlue(corner.colour))
+        .u16(0);
+  }
+  for (const int number : areas) content.u32(number);
+  EmfWriter emf;
+  emf.record(118, content);
+  return emf;
+}
+
+QByteArray maskedEmf(std::uint32_t operations, bool hasMask) {
+  const MaskedBitmap bitmap(128);
+  ByteWriter content;
+  content.zeros(16).u32(100).u32(50).u32(100).u32(100).u32(operations).u32(0).u32(0).zeros(24 + 8);
+  content.raw(bitmap.imagePlace).u32(0).u32(0).u32(0).raw(hasMask ? bitmap.maskPlace : bitmap.noMask);
+  return EmfWriter().record(78, content.raw(bitmap.bytes)).file();
+}
+
+QByteArray leaningEmf(bool hasMask) {
+  const MaskedBitmap bitmap(140);
+  ByteWriter content;
+  content.zeros(16).u32(100).u32(50).u32(200).u32(50).u32(150).u32(150);
+  content.u32(0).u32(0).u32(100).u32(100).zeros(24 + 8).raw(bitmap.imagePlace);
+  content.u32(0).u32(0).u32(0).raw(hasMask ? bitmap.maskPlace : bitmap.noMask);
+  return EmfWriter().record(79, content.raw(bitmap.bytes)).file();
+}
+
+namespace {
+
 QByteArray emfPens() {
   EmfWriter emf;
   emf.pen(1, kSolid, 10, kRed).select(1).brush(2, kSolid, kGreen).select(2).rectangle(20, 20, 180, 180);
@@ -199,6 +269,12 @@ std::vector<CorpusMetafile> enhancedMetafileCorpus() {
       {"saved state", emfStates(), kSavedStateSeen},
       {"arcs", emfArcs(), kArcsSeen},
       {"polygons", emfPolygons(), kPolygonsSeen, false},
+      {"gradients",
+       gradientEmf(2, {{{0, 0}, kRed}, {{400, 0}, kRed}, {{0, 200}, kRed}}, {0, 1, 2}).file(),
+       {{{100, 50}, kRed}, {{300, 150}, kWhite}},
+       false},
+      {"bitmap through a mask", maskedEmf(0xAACC0020), {{{125, 75}, kBlue}, {{175, 75}, kWhite}}, false},
+      {"bitmap in a parallelogram", leaningEmf(true), {{{137, 75}, kBlue}, {{187, 75}, kWhite}}, false},
       {"hatches",
        EmfWriter()
            .select(kNoPen)

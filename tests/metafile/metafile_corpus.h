@@ -48,6 +48,15 @@ EmfWriter filledEmf(QRgb colour);
 /// (none) is object 0, its white brush object 1 and the other brush object 2.
 WmfWriter filledWmf(QRgb colour);
 
+/// A record that fills with gradients, alone: `mode` is 0 from left to right, 1 from top to bottom, 2 for
+/// triangles; `areas` are numbers of corners.
+EmfWriter gradientEmf(int mode, const QList<SeenPoint>& corners, const QList<int>& areas);
+/// The four colours, a unit for each pixel, at 100, 50, by these operations where a mask is set and where it
+/// is not. The mask is set on the left half.
+QByteArray maskedEmf(std::uint32_t operations, bool hasMask = true);
+/// The four colours in a parallelogram that leans to the right: from 100, 50 and 200, 50 to 150, 150.
+QByteArray leaningEmf(bool hasMask);
+
 std::vector<CorpusMetafile> enhancedMetafileCorpus();
 std::vector<CorpusMetafile> windowsMetafileCorpus();
 

@@ -1,6 +1,7 @@
 // Metafiles look as their records say, and as other people's programs draw them.
 #include "metafile/play_metafile.h"
 
+#include "metafile/dib_writer.h"
 #include "metafile/metafile_corpus.h"
 #include "metafile/metafile_writer.h"
 #include "preview/picture_printing.h"
@@ -207,26 +208,6 @@ TEST(PlayMetafile, LinesOfASmallDrawingAreAsThinAsTheirPens) {
   EXPECT_LE(blueRows, 30);
 }
 
-/// A record that fills with gradients; `areas` are numbers of corners.
-EmfWriter gradients(int mode, const QList<SeenPoint>& corners, const QList<int>& areas) {
-  ByteWriter content;
-  content.zeros(16).u32(corners.size()).u32(areas.size() / (mode == 2 ? 3 : 2)).u32(mode);
-  for (const SeenPoint& corner : corners) {
-    content.u32(corner.at.x()).u32(corner.at.y());
-    content.u8(0)
-        .u8(qRed(corner.colour))
-        .u8(0)
-        .u8(qGreen(corner.colour))
-        .u8(0)
-        .u8(qBlue(corner.colour))
-        .u16(0);
-  }
-  for (const int number : areas) content.u32(number);
-  EmfWriter emf;
-  emf.record(118, content);
-  return emf;
-}
-
 void expectNear(const QImage& image, const QList<SeenPoint>& points) {
   constexpr int kNearly = 4;
   for (const SeenPoint& point : points) {
@@ -243,38 +224,62 @@ TEST(PlayMetafile, RectanglesAreFilledWithGradients) {
   const QRgb quarter = qRgb(191, 0, 64);
   const QRgb half = qRgb(128, 0, 128);
   const QRgb threeQuarters = qRgb(64, 0, 191);
-  expectNear(playMetafile(gradients(0, corners, {0, 1}).file()).image, {{{150, 60}, quarter},
-                                                                        {{200, 60}, half},
-                                                                        {{200, 140}, half},
-                                                                        {{250, 100}, threeQuarters},
-                                                                        {{90, 100}, kWhite},
-                                                                        {{310, 100}, kWhite},
-                                                                        {{200, 40}, kWhite}});
-  expectNear(playMetafile(gradients(1, corners, {0, 1}).file()).image, {{{110, 75}, quarter},
-                                                                        {{110, 100}, half},
-                                                                        {{290, 100}, half},
-                                                                        {{200, 125}, threeQuarters},
-                                                                        {{200, 160}, kWhite}});
+  expectNear(playMetafile(gradientEmf(0, corners, {0, 1}).file()).image, {{{150, 60}, quarter},
+                                                                          {{200, 60}, half},
+                                                                          {{200, 140}, half},
+                                                                          {{250, 100}, threeQuarters},
+                                                                          {{90, 100}, kWhite},
+                                                                          {{310, 100}, kWhite},
+                                                                          {{200, 40}, kWhite}});
+  expectNear(playMetafile(gradientEmf(1, corners, {0, 1}).file()).image, {{{110, 75}, quarter},
+                                                                          {{110, 100}, half},
+                                                                          {{290, 100}, half},
+                                                                          {{200, 125}, threeQuarters},
+                                                                          {{200, 160}, kWhite}});
   // The corners in the other order.
-  expectNear(playMetafile(gradients(0, corners, {1, 0}).file()).image,
+  expectNear(playMetafile(gradientEmf(0, corners, {1, 0}).file()).image,
              {{{150, 60}, quarter}, {{250, 100}, threeQuarters}});
 }
 
 TEST(PlayMetafile, TrianglesAreFilledWithGradients) {
   const QList<SeenPoint> corners = {
       {{0, 0}, kRed}, {{400, 0}, kGreen}, {{0, 200}, kBlue}, {{400, 200}, kRed}};
-  expectNear(playMetafile(gradients(2, corners, {0, 1, 2}).file()).image, {{{2, 1}, kRed},
-                                                                           {{200, 0}, qRgb(128, 128, 0)},
-                                                                           {{100, 50}, qRgb(128, 64, 64)},
-                                                                           {{0, 100}, qRgb(128, 0, 128)},
-                                                                           {{300, 150}, kWhite}});
-  expectNear(playMetafile(gradients(2, corners, {0, 1, 2, 3, 1, 2}).file()).image,
+  expectNear(playMetafile(gradientEmf(2, corners, {0, 1, 2}).file()).image, {{{2, 1}, kRed},
+                                                                             {{200, 0}, qRgb(128, 128, 0)},
+                                                                             {{100, 50}, qRgb(128, 64, 64)},
+                                                                             {{0, 100}, qRgb(128, 0, 128)},
+                                                                             {{300, 150}, kWhite}});
+  expectNear(playMetafile(gradientEmf(2, corners, {0, 1, 2, 3, 1, 2}).file()).image,
              {{{100, 50}, qRgb(128, 64, 64)}, {{300, 150}, qRgb(128, 64, 64)}});
 }
 
 TEST(PlayMetafile, AGradientBetweenCornersThatAreNotThereIsLeftOut) {
-  EmfWriter emf = gradients(0, {{{0, 0}, kRed}, {{400, 200}, kRed}}, {0, 7});
+  EmfWriter emf = gradientEmf(0, {{{0, 0}, kRed}, {{400, 200}, kRed}}, {0, 7});
   EXPECT_EQ(colourAt(playMetafile(emf.file()).image, {200, 100}), kWhite);
+}
+
+TEST(PlayMetafile, ABitmapIsDrawnThroughAMask) {
+  const SeenPoint blue = {{125, 75}, kBlue};
+  const SeenPoint yellow = {{175, 75}, kYellow};
+  const SeenPoint red = {{125, 125}, kRed};
+  const SeenPoint green = {{175, 125}, kGreen};
+  const auto none = [](const SeenPoint& point) { return SeenPoint{point.at, kWhite}; };
+  // Copied where the mask is set, and left as it is elsewhere; the other way round; both; without a mask.
+  expectSeen(playMetafile(maskedEmf(0xAACC0020)).image, {blue, none(yellow), red, none(green)});
+  expectSeen(playMetafile(maskedEmf(0xCCAA0029)).image, {none(blue), yellow, none(red), green});
+  expectSeen(playMetafile(maskedEmf(0xCCCC0020)).image, {blue, yellow, red, green});
+  expectSeen(playMetafile(maskedEmf(0xAACC0020, false)).image, {blue, yellow, red, green});
+}
+
+TEST(PlayMetafile, ABitmapIsDrawnIntoAParallelogram) {
+  expectSeen(playMetafile(leaningEmf(false)).image, {{{137, 75}, kBlue},
+                                                     {{187, 75}, kYellow},
+                                                     {{162, 125}, kRed},
+                                                     {{212, 125}, kGreen},
+                                                     {{105, 140}, kWhite},
+                                                     {{245, 60}, kWhite}});
+  expectSeen(playMetafile(leaningEmf(true)).image,
+             {{{137, 75}, kBlue}, {{187, 75}, kWhite}, {{162, 125}, kRed}, {{212, 125}, kWhite}});
 }
 
 std::string faultOf(const QByteArray& metafile) {
