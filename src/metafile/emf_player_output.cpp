@@ -1,7 +1,6 @@
 // Enhanced metafiles: bitmaps, gradients and text.
 #include "metafile/dib.h"
 #include "metafile/emf_player.h"
-#include "platform/text_encoding.h"
 
 #include <array>
 
@@ -28,6 +27,13 @@ struct StoredBitmap {
   MetafileBytes header;
   MetafileBytes bits;
 };
+
+QString wideText(const MetafileBytes& letters) {
+  QString text;
+  text.reserve(letters.size() / 2);
+  for (qsizetype at = 0; at < letters.size(); at += 2) text.append(QChar(letters.u16(at)));
+  return text;
+}
 
 bool hasBitmap(const MetafileBytes& record, std::int64_t offsets) {
   return record.u32(offsets + 4) != 0;
@@ -219,9 +225,10 @@ bool EmfPlayer::playText(std::uint32_t type, const MetafileBytes& record) {
       const std::uint32_t options = record.u32(20);
       const std::int64_t at = (options & kNoBox) != 0 ? 36 : 52;
       MetafileText text{record.point32(8), {}, {}, {}, {}};
-      for (std::uint32_t unit = 0; unit < count; ++unit) {
-        text.text.append((options & kNarrow) != 0 ? QChar(char16_t{record.u8(at + unit)})
-                                                  : QChar(record.u16(at + 2LL * unit)));
+      if ((options & kNarrow) != 0) {
+        text.text = canvas_.state.font.textOf(record.slice(at, count).all());
+      } else {
+        text.text = wideText(record.slice(at, 2LL * count));
       }
       canvas_.drawText(text);
       return true;
@@ -239,9 +246,9 @@ void EmfPlayer::drawString(const MetafileBytes& record, std::int64_t at, std::ui
   const MetafileBytes letters = record.slice(record.u32(at + 12), count * (isWide ? 2LL : 1LL));
   MetafileText text{record.point32(at), {}, {}, {}, {}};
   if (isWide) {
-    for (std::uint32_t unit = 0; unit < count; ++unit) text.text.append(QChar(letters.u16(2LL * unit)));
+    text.text = wideText(letters);
   } else {
-    text.text = decodeSystemText(letters.all());
+    text.text = canvas_.state.font.textOf(letters.all());
   }
   // The numbers of glyphs have a meaning only in one version of one font.
   if ((options & kGlyphNumbers) != 0) text.text.clear();

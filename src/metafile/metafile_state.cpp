@@ -1,5 +1,9 @@
 #include "metafile/metafile_state.h"
 
+#include "platform/text_encoding.h"
+
+#include <QStringConverter>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -52,6 +56,40 @@ constexpr std::uint32_t kHollow = 1;
 constexpr std::uint32_t kHatched = 2;
 constexpr std::uint32_t kNullPen = 5;
 
+/// The encoding of a charset of fonts; null where it is the one of the system or has none.
+const char* codecOf(std::uint8_t charset) {
+  switch (charset) {
+    case 128:
+      return "Shift_JIS";
+    case 129:
+      return "windows-949";
+    case 134:
+      return "GBK";
+    case 136:
+      return "Big5";
+    case 161:
+      return "windows-1253";
+    case 162:
+      return "windows-1254";
+    case 163:
+      return "windows-1258";
+    case 177:
+      return "windows-1255";
+    case 178:
+      return "windows-1256";
+    case 186:
+      return "windows-1257";
+    case 204:
+      return "windows-1251";
+    case 222:
+      return "windows-874";
+    case 238:
+      return "windows-1250";
+    default:
+      return nullptr;
+  }
+}
+
 MetafileBrush solid(const QColor& colour) {
   return {Qt::SolidPattern, colour, {}};
 }
@@ -76,6 +114,14 @@ bool isUsable(const QTransform& transform) {
   const double determinant = transform.determinant();
   return std::isfinite(determinant) && determinant != 0 && std::isfinite(transform.dx()) &&
          std::isfinite(transform.dy());
+}
+
+QString MetafileFont::textOf(QByteArrayView bytes) const {
+  const char* codec = codecOf(charset);
+  if (codec == nullptr) return decodeSystemText(bytes);
+  // The toolkit may have been built without the tables.
+  QStringDecoder decoder(codec, QStringConverter::Flag::Stateless);
+  return decoder.isValid() ? QString(decoder.decode(bytes)) : decodeSystemText(bytes);
 }
 
 int wholeWithin(double value, int least, int most) {

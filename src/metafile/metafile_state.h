@@ -1,6 +1,7 @@
 // What a metafile sets before it draws: its units, its tools and its colours.
 #pragma once
 
+#include <QByteArrayView>
 #include <QColor>
 #include <QImage>
 #include <QPointF>
@@ -75,8 +76,13 @@ struct MetafileFont {
   bool isItalic = false;
   bool isUnderlined = false;
   bool isStruckOut = false;
+  /// The script of text that is stored as bytes.
   std::uint8_t charset = 0;
   QString family;
+
+  /// The text that these bytes mean in the font's charset. Where the charset is the usual one, or is not
+  /// known, they are in the system code page.
+  QString textOf(QByteArrayView bytes) const;
 };
 
 /// An object that only takes up a number.

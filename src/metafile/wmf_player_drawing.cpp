@@ -1,7 +1,6 @@
 // Windows metafiles: lines and areas, clips, bitmaps and text.
 #include "metafile/dib.h"
 #include "metafile/wmf_player.h"
-#include "platform/text_encoding.h"
 
 #include <cmath>
 #include <optional>
@@ -189,7 +188,8 @@ bool WmfPlayer::playText(std::uint16_t function, const WmfParameters& parameters
 void WmfPlayer::textOut(const WmfParameters& parameters) {
   const std::uint16_t count = parameters.u16(0);
   const QByteArrayView letters = parameters.slice(2, count).all();
-  canvas_->drawText({parameters.point(2 + count + count % 2), decodeSystemText(letters), {}, {}, {}});
+  canvas_->drawText(
+      {parameters.point(2 + count + count % 2), canvas_->state.font.textOf(letters), {}, {}, {}});
 }
 
 void WmfPlayer::extTextOut(const WmfParameters& parameters) {
@@ -199,7 +199,8 @@ void WmfPlayer::extTextOut(const WmfParameters& parameters) {
   const std::uint16_t options = parameters.u16(6);
   const bool hasBox = (options & (kOpaque | kClipped)) != 0;
   const std::int64_t at = hasBox ? 16 : 8;
-  MetafileText text{parameters.point(0), decodeSystemText(parameters.slice(at, count).all()), {}, {}, {}};
+  MetafileText text{
+      parameters.point(0), canvas_->state.font.textOf(parameters.slice(at, count).all()), {}, {}, {}};
   if ((options & kOpaque) != 0) text.opaque = QRectF(parameters.point16(8), parameters.point16(12));
   if ((options & kClipped) != 0) text.clip = QRectF(parameters.point16(8), parameters.point16(12));
   const std::int64_t steps = at + count + count % 2;

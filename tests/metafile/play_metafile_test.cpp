@@ -282,6 +282,43 @@ TEST(PlayMetafile, ABitmapIsDrawnIntoAParallelogram) {
              {{{137, 75}, kBlue}, {{187, 75}, kWhite}, {{162, 125}, kRed}, {{212, 125}, kWhite}});
 }
 
+/// Text of a font of that charset, as it is stored.
+QImage textInCharset(int charset, const QByteArray& letters) {
+  WmfWriter wmf;
+  ByteWriter font;
+  font.u16(-60).u16(0).u16(0).u16(0).u16(400).u8(0).u8(0).u8(0).u8(charset).zeros(4).raw("DejaVu Sans");
+  wmf.record(0x02FB, font.zeros(21)).select(0);
+  return playMetafile(wmf.text(20, 40, letters).file()).image;
+}
+
+TEST(PlayMetafile, BytesOfTextAreInTheCharsetOfTheirFont) {
+  // The system code page of the tests is UTF-8.
+  const auto expected = [](const char16_t* text) {
+    return textInCharset(0, QString::fromUtf16(text).toUtf8());
+  };
+  EXPECT_EQ(textInCharset(204, "\xCF\xF0"), expected(u"\u041F\u0440"));
+  EXPECT_EQ(textInCharset(161, "\xC1\xF9"), expected(u"\u0391\u03C9"));
+  EXPECT_EQ(textInCharset(238, "\xC8\xF8"), expected(u"\u010C\u0159"));
+  EXPECT_EQ(textInCharset(162, "\xDD\xFE"), expected(u"\u0130\u015F"));
+  EXPECT_EQ(textInCharset(0, "\xCF\xF0"), expected(u"\u00CF\u00F0"));
+  EXPECT_NE(textInCharset(204, "\xCF\xF0"), textInCharset(0, "\xCF\xF0"));
+}
+
+TEST(PlayMetafile, NarrowTextOfEnhancedMetafilesIsInTheCharsetOfItsFont) {
+  const auto drawn = [](int charset, const QByteArray& letters) {
+    EmfWriter emf;
+    ByteWriter font;
+    font.u32(1).u32(-60).u32(0).u32(0).u32(0).u32(400).u8(0).u8(0).u8(0).u8(charset).zeros(4);
+    for (const QChar letter : QStringLiteral("DejaVu Sans")) font.u16(letter.unicode());
+    emf.record(82, font.zeros(320 - font.size())).select(1);
+    ByteWriter text;
+    text.zeros(16).u32(1).f32(1).f32(1).u32(20).u32(40).u32(letters.size()).u32(76).zeros(24).raw(letters);
+    return playMetafile(emf.record(83, text).file()).image;
+  };
+  EXPECT_EQ(drawn(204, "\xCF\xF0"), drawn(0, "\xD0\x9F\xD1\x80"));
+  EXPECT_NE(drawn(204, "\xCF\xF0"), drawn(0, "\xCF\xF0"));
+}
+
 std::string faultOf(const QByteArray& metafile) {
   try {
     playMetafile(metafile);
