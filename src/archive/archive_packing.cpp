@@ -1,19 +1,20 @@
 #include "archive/archive_packing.h"
 
 #include "faults/runtime_fault.h"
-#include "files/file_writer.h"
+#include "files/file_aside.h"
 #include "files/sequential_file.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <ctime>
 #include <memory>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <utility>
 #include <zip.h>
 
@@ -41,9 +42,9 @@ RuntimeFault faultOf(zip_t* archive, const QString& path) {
   return faultOf(zip_get_error(archive), path);
 }
 
-Archive openArchive(const QString& path, int flags) {
+Archive openArchive(const QString& path) {
   int code = 0;
-  Archive archive(zip_open(QFile::encodeName(path).constData(), flags, &code));
+  Archive archive(zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, &code));
   if (archive) return archive;
   zip_error_t error;
   zip_error_init_with_code(&error, code);
@@ -129,6 +130,83 @@ class ListingReader {
   std::optional<RuntimeFault> fault_;
 };
 
+/// The archive as libzip writes it, which left alone would put a file of its own in place.
+class ArchiveWriter {
+ public:
+  explicit ArchiveWriter(FileAside& file) : file_(file) {}
+
+  const std::optional<RuntimeFault>& fault() const { return fault_; }
+
+  static zip_int64_t serve(void* writer, void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    return static_cast<ArchiveWriter*>(writer)->answer(data, length, command);
+  }
+
+ private:
+  zip_int64_t answer(void* data, zip_uint64_t length, zip_source_cmd_t command) {
+    switch (command) {
+      case ZIP_SOURCE_WRITE:
+        return write({static_cast<const char*>(data), static_cast<std::size_t>(length)});
+      case ZIP_SOURCE_SEEK_WRITE:
+        return seek(data, length);
+      case ZIP_SOURCE_TELL_WRITE:
+        return position_;
+      case ZIP_SOURCE_STAT:
+        return statOfNothing(static_cast<zip_stat_t*>(data));
+      case ZIP_SOURCE_ERROR:
+        return zip_error_to_data(&error_, data, length);
+      case ZIP_SOURCE_SUPPORTS:
+        return ZIP_SOURCE_SUPPORTS_WRITABLE;
+      default:
+        return 0;
+    }
+  }
+
+  /// No exception may pass through libzip, which is written in C.
+  zip_int64_t write(std::string_view bytes) {
+    try {
+      file_.writeAt(position_, bytes);
+    } catch (const RuntimeFault& fault) {
+      fault_ = fault;
+      zip_error_set(&error_, ZIP_ER_WRITE, 0);
+      return -1;
+    }
+    position_ += static_cast<std::int64_t>(bytes.size());
+    length_ = std::max(length_, position_);
+    return static_cast<zip_int64_t>(bytes.size());
+  }
+
+  zip_int64_t seek(void* data, zip_uint64_t length) {
+    const zip_int64_t place = zip_source_seek_compute_offset(
+        static_cast<zip_uint64_t>(position_), static_cast<zip_uint64_t>(length_), data, length, &error_);
+    if (place < 0) return -1;
+    position_ = place;
+    return 0;
+  }
+
+  static zip_int64_t statOfNothing(zip_stat_t* status) {
+    zip_stat_init(status);
+    status->valid = ZIP_STAT_SIZE;
+    status->size = 0;
+    return static_cast<zip_int64_t>(sizeof *status);
+  }
+
+  FileAside& file_;
+  std::int64_t position_ = 0;
+  std::int64_t length_ = 0;
+  zip_error_t error_{};
+  std::optional<RuntimeFault> fault_;
+};
+
+Archive newArchive(ArchiveWriter& writer, const QString& path) {
+  zip_error_t error;
+  zip_error_init(&error);
+  zip_source_t* source = zip_source_function_create(ArchiveWriter::serve, &writer, &error);
+  Archive archive(source ? zip_open_from_source(source, ZIP_TRUNCATE, &error) : nullptr);
+  if (archive) return archive;
+  zip_source_free(source);
+  throw faultOf(&error, path);
+}
+
 void addListing(zip_t* archive, ListingReader& listing, const QByteArray& name) {
   zip_source_t* source = zip_source_function(archive, ListingReader::serve, &listing);
   if (source && zip_file_add(archive, name.constData(), source, ZIP_FL_ENC_UTF_8) >= 0) return;
@@ -137,12 +215,14 @@ void addListing(zip_t* archive, ListingReader& listing, const QByteArray& name) 
 }
 
 /// False when the work was stopped.
-bool writeArchive(Archive archive, const ListingReader& listing, const QString& archivePath) {
+bool writeArchive(Archive archive, const ListingReader& listing, const ArchiveWriter& writer,
+                  const QString& archivePath) {
   if (zip_close(archive.get()) == 0) {
     static_cast<void>(archive.release());
     return true;
   }
   if (listing.isStopped()) return false;
+  if (writer.fault()) throw *writer.fault();
   throw listing.fault() ? *listing.fault() : faultOf(archive.get(), archivePath);
 }
 
@@ -152,26 +232,18 @@ bool hasMark(zip_t* archive) {
   return comment && QByteArrayView(comment, length) == QByteArrayView(kMark, kMarkLength);
 }
 
-/// A folder beside the archive, so that the finished file can be renamed into its place.
-QTemporaryDir workFolderBeside(const QString& path) {
-  return QTemporaryDir(QFileInfo(path).absolutePath() + QStringLiteral("/.quorvin-XXXXXX"));
-}
-
 }  // namespace
 
 PackingOutcome packListing(const QString& listingPath, const QString& archivePath,
                            const ArchivePause& pause) {
   ListingReader listing(listingPath, pause);
-  const QTemporaryDir work = workFolderBeside(archivePath);
-  if (!work.isValid()) {
-    throw RuntimeFault(FaultNumber::PathFileAccess, work.errorString() + QStringLiteral(": ") + archivePath);
-  }
-  const QString aside = work.filePath(QStringLiteral("list.zip"));
-  Archive archive = openArchive(aside, ZIP_CREATE | ZIP_EXCL);
+  FileAside file(archivePath, {.durability = Durability::None});
+  ArchiveWriter writer(file);
+  Archive archive = newArchive(writer, archivePath);
   addListing(archive.get(), listing, QFileInfo(listingPath).fileName().toUtf8());
   zip_set_archive_comment(archive.get(), kMark, kMarkLength);
-  if (!writeArchive(std::move(archive), listing, archivePath)) return PackingOutcome::Stopped;
-  putInPlace(aside, archivePath);
+  if (!writeArchive(std::move(archive), listing, writer, archivePath)) return PackingOutcome::Stopped;
+  file.commit();
   return PackingOutcome::Packed;
 }
 
@@ -181,7 +253,7 @@ bool mayBeReplacedByPacking(const QString& path) {
   if (!file.isFile() || file.isSymLink()) return false;
   if (file.size() == 0) return true;
   try {
-    return hasMark(openArchive(path, ZIP_RDONLY).get());
+    return hasMark(openArchive(path).get());
   } catch (const RuntimeFault&) {
     return false;
   }

@@ -1,5 +1,6 @@
 #include "console/cache_command.h"
 
+#include "files/file_aside.h"
 #include "platform/standard_folders.h"
 #include "search/segment/segment_store.h"
 
@@ -10,19 +11,28 @@
 
 namespace quorvin {
 
+namespace {
+
+void print(const QString& path, const char* listing) {
+  std::printf("%lld\t%s\n", static_cast<long long>(QFileInfo(path).size()), listing);
+}
+
+}  // namespace
+
 int listCache() {
-  for (const QString& path : segmentFiles(userCacheFolder())) {
+  const QString folder = userCacheFolder();
+  for (const QString& path : segmentFiles(folder)) {
     const QByteArray listing = listingOfSegmentFile(path).toLocal8Bit();
-    std::printf("%lld\t%s\n", static_cast<long long>(QFileInfo(path).size()),
-                listing.isEmpty() ? "(damaged)" : listing.constData());
+    print(path, listing.isEmpty() ? "(damaged)" : listing.constData());
   }
+  for (const QString& path : filesAside(folder)) print(path, "(unfinished)");
   return 0;
 }
 
 int clearCache() {
   int status = 0;
   const QString folder = userCacheFolder();
-  for (const QString& path : segmentFiles(folder) + unfinishedSegmentFiles(folder)) {
+  for (const QString& path : segmentFiles(folder) + filesAside(folder)) {
     if (QFile::remove(path)) continue;
     std::fprintf(stderr, "quorvin-cli: %s could not be removed\n", path.toLocal8Bit().constData());
     status = 2;

@@ -3,14 +3,12 @@
 #include "console/console_progress.h"
 #include "console/error_lines.h"
 #include "faults/runtime_fault.h"
+#include "files/file_aside.h"
 #include "index/dir_io.h"
 #include "platform/stop_signal.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
 
 #include <unistd.h>
 
@@ -47,7 +45,7 @@ class Indexing {
     if (request_.output.isEmpty()) {
       FileWriter writer(STDOUT_FILENO, QStringLiteral("standard output"));
       writeListing(writer);
-      writer.close();
+      writer.flush();
     } else {
       writeFile();
     }
@@ -67,18 +65,10 @@ class Indexing {
   void writeFile() {
     const QFileInfo place(request_.output);
     if (place.exists() && !place.isFile()) throw faultOfSystemError(EISDIR, request_.output);
-    // The file behind a link is replaced, not the link.
-    const QString target = place.exists() ? place.canonicalFilePath() : place.absoluteFilePath();
-    const QString aside =
-        QFileInfo(target).path() + QStringLiteral("/.quorvin-%1.tmp").arg(QCoreApplication::applicationPid());
-    const auto cleaning = qScopeGuard([&aside] { QFile::remove(aside); });
-    FileWriter writer(aside, request_.output);
-    writeListing(writer);
-    if (interrupted()) return;
-    writer.flush();
-    if (place.exists()) writer.sync();
-    writer.close();
-    putInPlace(aside, target);
+    removeLeftovers(place.absolutePath());
+    FileAside file(request_.output, {.followsLink = true});
+    writeListing(file.writer());
+    if (!interrupted()) file.commit();
   }
 
   void writeListing(FileWriter& writer) {

@@ -2,7 +2,7 @@
 // it.
 #pragma once
 
-#include "files/overwritten_file.h"
+#include "files/file_writer.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 #include "update/http_transfer.h"

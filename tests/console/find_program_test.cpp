@@ -155,10 +155,12 @@ TEST_F(FindProgram, CountTellsOfHitsThatCannotBeReadWholeToo) {
 TEST_F(FindProgram, ClearRemovesTheCacheFiles) {
   run({u"find"_qs, u"--count"_qs, u"rock"_qs, sample()});
   // As a program leaves it that is ended while it writes.
-  folder_.writeFile(u"cache/quorvin/0123456789abcdef.qimage.1.new"_qs, "begun");
+  folder_.writeFile(u"cache/quorvin/.quorvin-1-0123456789abcdef.part"_qs, "begun");
+  EXPECT_TRUE(run({u"cache"_qs}).output.endsWith(u"\n5\t(unfinished)\n"_qs));
   EXPECT_EQ(run({u"cache"_qs, u"--clear"_qs}).status, 0);
   EXPECT_EQ(run({u"cache"_qs}).output, QString());
-  EXPECT_TRUE(QDir(folder_.pathOf(u"cache/quorvin"_qs)).isEmpty());
+  EXPECT_TRUE(QDir(folder_.pathOf(u"cache/quorvin"_qs))
+                  .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
 TEST_F(FindProgram, WrongUseIsToldAndEndsWith2) {

@@ -7,11 +7,16 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace quorvin {
 namespace {
+
+Descriptor newFile(const QString& path) {
+  return Descriptor(::open(path.toUtf8().constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+}
 
 // The number of the fault that an action throws, and what it names; 0 for none.
 struct Caught {
@@ -32,45 +37,38 @@ Caught caught(Action action) {
 TEST(FileWriter, WritesAllInOrder) {
   const TemporaryFolder folder;
   for (const int piece : {1, 7, 100, 70'000, 200'000}) {
-    FileWriter writer(folder.pathOf(u"a"_qs));
+    const Descriptor file = newFile(folder.pathOf(u"a"_qs));
+    FileWriter writer(file.get(), u"a"_qs);
     QByteArray expected;
     for (int i = 0; i < 400'000 / piece + 3; ++i) {
       const QByteArray bytes(piece, static_cast<char>('a' + i % 26));
       writer.write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
       expected += bytes;
     }
-    writer.close();
+    writer.flush();
     EXPECT_TRUE(folder.readFile(u"a"_qs) == expected) << piece;
   }
 }
 
-TEST(FileWriter, EmptiesTheFileThatWasThere) {
+TEST(FileWriter, OnlyWhatWasFlushedIsThere) {
   const TemporaryFolder folder;
-  const QString path = folder.writeFile(u"a"_qs, "old and longer");
-  FileWriter writer(path);
-  writer.close();
-  EXPECT_EQ(folder.readFile(u"a"_qs), "");
-}
-
-TEST(FileWriter, WithoutCloseOnlyWhatWasFlushedIsThere) {
-  const TemporaryFolder folder;
+  const Descriptor file = newFile(folder.pathOf(u"a"_qs));
   {
-    FileWriter writer(folder.pathOf(u"a"_qs));
+    FileWriter writer(file.get(), u"a"_qs);
     writer.write("flushed");
     writer.flush();
-    writer.sync();
     writer.write("dropped");
   }
   EXPECT_EQ(folder.readFile(u"a"_qs), "flushed");
 }
 
-TEST(FileWriter, LeavesAGivenDescriptorOpen) {
+TEST(FileWriter, LeavesTheDescriptorOpen) {
   int ends[2];
   ASSERT_EQ(::pipe(ends), 0);
   {
     FileWriter writer(ends[1], u"the pipe"_qs);
     writer.write("one ");
-    writer.close();
+    writer.flush();
   }
   ASSERT_EQ(::write(ends[1], "two", 3), 3);
   char bytes[16];
@@ -83,45 +81,67 @@ TEST(FileWriter, LeavesAGivenDescriptorOpen) {
 TEST(FileWriter, AFullDiskIsAFaultThatNamesTheFile) {
   for (const std::size_t size : {5'000U, 100'000U, 300'000U}) {
     const TemporaryFolder folder;
-    const QString path = folder.pathOf(u"a"_qs);
+    const Descriptor file = newFile(folder.pathOf(u"a"_qs));
     const FullDisk disk(4096);
     const Caught fault = caught([&] {
-      FileWriter writer(path);
+      FileWriter writer(file.get(), u"the file"_qs);
       writer.write(std::string(size, 'x'));
-      writer.close();
+      writer.flush();
     });
     EXPECT_EQ(fault.number, 61) << size;
-    EXPECT_EQ(fault.description, u"Disk full: "_qs + path);
+    EXPECT_EQ(fault.description, u"Disk full: the file"_qs);
   }
 }
 
-TEST(FileWriter, WhatIsNoRegularFileIsRefused) {
-  const TemporaryFolder folder;
-  ASSERT_EQ(::mkfifo(folder.pathOf(u"pipe"_qs).toUtf8().constData(), 0600), 0);
-  EXPECT_NE(caught([&] { FileWriter(folder.pathOf(u"pipe"_qs)); }).number, 0);
-  EXPECT_EQ(caught([&] { FileWriter(folder.makeFolder(u"sub"_qs)); }).number, 75);
-  EXPECT_EQ(caught([] { FileWriter(u"/dev/null"_qs); }).number, 75);
-  EXPECT_EQ(caught([&] { FileWriter(folder.pathOf(u"gone/a"_qs)); }).number, 53);
-  EXPECT_EQ(caught([&] { FileWriter(folder.pathOf(u"a"_qs) + QChar(u'\0') + u"b"_qs); }).number, 52);
+class OverwrittenFileTest : public testing::Test {
+ protected:
+  void overwrite(std::string_view bytes) const {
+    OverwrittenFile file(path());
+    file.write(bytes);
+    file.flush();
+  }
+
+  int faultOf(std::string_view bytes) const {
+    try {
+      overwrite(bytes);
+    } catch (const RuntimeFault& fault) {
+      return fault.number();
+    }
+    return 0;
+  }
+
+  QString path() const { return folder_.pathOf(u"a.zip"_qs); }
+  QByteArray content() const { return folder_.readFile(u"a.zip"_qs); }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(OverwrittenFileTest, IsMadeWhenItIsNotThere) {
+  overwrite("new");
+  EXPECT_EQ(content(), QByteArray("new"));
 }
 
-TEST(PutInPlace, ReplacesAFileOrMakesIt) {
-  const TemporaryFolder folder;
-  const QString place = folder.pathOf(u"a.txt"_qs);
-  putInPlace(folder.writeFile(u"a.tmp"_qs, "new"), place);
-  EXPECT_EQ(folder.readFile(u"a.txt"_qs), "new");
-  putInPlace(folder.writeFile(u"a.tmp"_qs, "newer"), place);
-  EXPECT_EQ(folder.readFile(u"a.txt"_qs), "newer");
-  EXPECT_EQ(folder.names(), QStringList{u"a.txt"_qs});
+TEST_F(OverwrittenFileTest, KeepsWhatIsNotWrittenOver) {
+  folder_.writeFile(u"a.zip"_qs, "0123456789");
+  overwrite("abc");
+  EXPECT_EQ(content(), QByteArray("abc3456789"));
+  overwrite("");
+  EXPECT_EQ(content(), QByteArray("abc3456789"));
+  overwrite("a longer content");
+  EXPECT_EQ(content(), QByteArray("a longer content"));
 }
 
-TEST(PutInPlace, AFaultNamesThePlaceAndLeavesBoth) {
-  const TemporaryFolder folder;
-  const QString place = folder.makeFolder(u"a.txt"_qs);
-  const Caught fault = caught([&] { putInPlace(folder.writeFile(u"a.tmp"_qs, "new"), place); });
-  EXPECT_NE(fault.number, 0);
-  EXPECT_TRUE(fault.description.endsWith(place)) << fault.description.toStdString();
-  EXPECT_EQ(folder.names(), (QStringList{u"a.tmp"_qs, u"a.txt"_qs}));
+TEST_F(OverwrittenFileTest, RefusesFoldersAndPipes) {
+  folder_.makeFolder(u"a.zip"_qs);
+  EXPECT_EQ(faultOf("x"), 75);
+  ASSERT_TRUE(QDir().rmdir(path()));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+  EXPECT_NE(faultOf("x"), 0);
+}
+
+TEST_F(OverwrittenFileTest, OnAFullDiskIsAFault) {
+  const FullDisk full(100);
+  EXPECT_EQ(faultOf(std::string(1000, 'x')), 61);
 }
 
 }  // namespace

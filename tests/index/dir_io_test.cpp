@@ -198,10 +198,10 @@ TEST_F(DirIOWalk, AnOutputThatCannotBeWrittenEndsTheWalkWithItsFault) {
 TEST_F(DirIOWalk, TheLabelStandsInEveryBlockButCannotBreakALine) {
   windows.addFolder("D:\\a\\");
   DirIO dirIO(state, windows, view, messages, QLocale::c(), kWindowsPaths);
-  FileWriter writer(tree.pathOf(u"listing"_qs));
+  FileAside listing(tree.pathOf(u"listing"_qs));
   QString path = u"D:\\a\\"_qs;
-  dirIO.walk(path, u"*.*"_qs, {&writer, nullptr}, u" two\r\nlines "_qs, kToOutput1);
-  writer.close();
+  dirIO.walk(path, u"*.*"_qs, {&listing.writer(), nullptr}, u" two\r\nlines "_qs, kToOutput1);
+  listing.commit();
   EXPECT_EQ(tree.readFile(u"listing"_qs), "\r\nVolume:     two??lines \r\nDirectory: \\a\\\r\n\r\n");
 }
 

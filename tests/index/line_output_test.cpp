@@ -1,6 +1,7 @@
 #include "index/line_output.h"
 
 #include "faults/runtime_fault.h"
+#include "files/file_aside.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -16,12 +17,12 @@ struct Written {
 
 Written written(int flags) {
   const TemporaryFolder folder;
-  FileWriter first(folder.pathOf(QStringLiteral("1")));
-  FileWriter second(folder.pathOf(QStringLiteral("2")));
-  writeLine("a line", {&first, &second}, flags);
-  writeLine("", {&first, &second}, flags);
-  first.close();
-  second.close();
+  FileAside first(folder.pathOf(QStringLiteral("1")));
+  FileAside second(folder.pathOf(QStringLiteral("2")));
+  writeLine("a line", {&first.writer(), &second.writer()}, flags);
+  writeLine("", {&first.writer(), &second.writer()}, flags);
+  first.commit();
+  second.commit();
   return {folder.readFile(QStringLiteral("1")), folder.readFile(QStringLiteral("2"))};
 }
 

@@ -44,11 +44,11 @@ class RoundTrip : public testing::TestWithParam<const char*> {
     test::RecordingRefreshView view;
     RecordingMessageBoxes messages;
     TemporaryFolder out;
-    FileWriter writer(out.pathOf(u"listing"_qs));
+    FileAside listing(out.pathOf(u"listing"_qs));
     DirIO dirIO(state, folders, view, messages, locale, kUnixPaths);
     QString path = u"/Müsic/"_qs;
-    dirIO.walk(path, u"*.*"_qs, {&writer, nullptr}, u"DATA 1"_qs, kToOutput1);
-    writer.close();
+    dirIO.walk(path, u"*.*"_qs, {&listing.writer(), nullptr}, u"DATA 1"_qs, kToOutput1);
+    listing.commit();
     return test::scanOf(out.readFile(u"listing"_qs), u"müsic"_qs, 50, {}, locale);
   }
 

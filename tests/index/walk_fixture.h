@@ -1,6 +1,7 @@
 // What the tests of the walk share.
 #pragma once
 
+#include "files/file_aside.h"
 #include "index/dir_io.h"
 #include "support/fake_folders.h"
 #include "support/qt_printing.h"
@@ -33,9 +34,9 @@ class WalkTest : public testing::Test {
                   const QString& pattern = QStringLiteral("*.*")) {
     const TimeZone zone(kUtc);
     DirIO dirIO(state, folders, view, messages, QLocale::c(), style);
-    FileWriter writer(out_.pathOf(QStringLiteral("listing")));
-    topOpened = dirIO.walk(path, pattern, {&writer, nullptr}, QStringLiteral("DATA1"), flags);
-    writer.close();
+    FileAside listing(out_.pathOf(QStringLiteral("listing")));
+    topOpened = dirIO.walk(path, pattern, {&listing.writer(), nullptr}, QStringLiteral("DATA1"), flags);
+    listing.commit();
     pathAfterwards = path;
     counts = dirIO.counts();
     return out_.readFile(QStringLiteral("listing"));

@@ -7,7 +7,6 @@
 #include "platform/text_encoding.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -21,9 +20,16 @@ namespace {
 
 constexpr std::size_t kPiece = std::size_t{1} << 16;
 constexpr int kMostTries = 10;
+const QString kEnding = QStringLiteral(".zip");
 
 RuntimeFault cannotMake(const QString& path) {
   return {FaultNumber::PathFileAccess, describe(FaultNumber::PathFileAccess) + QStringLiteral(": ") + path};
+}
+
+/// `folder`, made with those above it.
+QString madeFolder(const QString& folder) {
+  if (!QDir().mkpath(folder)) throw cannotMake(folder);
+  return folder;
 }
 
 bool holdSameBytes(const QString& first, const QString& second) {
@@ -54,45 +60,34 @@ bool isThisArchiveAlready(const QString& path, const QString& aside) {
 
 }  // namespace
 
-ReceivedArchive::ReceivedArchive(const QString& folder, const QString& name) : folder_(folder), name_(name) {
-  if (!QDir().mkpath(folder)) throw cannotMake(folder);
-  asidePath_ = freePath(folder, name, QStringLiteral(".zip.part"));
-  writer_ = std::make_unique<FileWriter>(asidePath_);
-}
-
-ReceivedArchive::~ReceivedArchive() {
-  writer_.reset();
-  if (!asidePath_.isEmpty()) QFile::remove(asidePath_);
-}
+ReceivedArchive::ReceivedArchive(const QString& folder, const QString& name)
+    : folder_(madeFolder(folder)), name_(name), file_(folder + name + kEnding, {.mayReplace = false}) {}
 
 void ReceivedArchive::write(QByteArrayView bytes) {
-  writer_->write(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
+  file_.write(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
   size_ += bytes.size();
 }
 
-QString ReceivedArchive::closeForReading() {
-  if (writer_) writer_->close();
-  writer_.reset();
-  return asidePath_;
+QString ReceivedArchive::finishForReading() {
+  file_.finish();
+  return file_.path();
 }
 
 QString ReceivedArchive::keep() {
-  closeForReading();
-  const QString ending = QStringLiteral(".zip");
-  const QString wanted = folder_ + name_ + ending;
-  if (isThisArchiveAlready(wanted, asidePath_)) return wanted;
+  const QString wanted = folder_ + name_ + kEnding;
+  if (isThisArchiveAlready(wanted, finishForReading())) return wanted;
   // A name may be taken between the look and the renaming, which refuses to replace a file.
   for (int tries = 0; tries < kMostTries; ++tries) {
-    const QString path = freePath(folder_, name_, ending);
-    if (!QFile::rename(asidePath_, path)) continue;
-    asidePath_.clear();
-    return path;
+    const QString path = freePath(folder_, name_, kEnding);
+    if (file_.commitUnlessTaken(path.mid(folder_.size()))) return path;
   }
   throw cannotMake(wanted);
 }
 
 ListReceiver::ListReceiver(SendQueue& queue, const QString& folder, std::int64_t mostBytes)
-    : queue_(queue), folder_(folder), mostBytes_(mostBytes) {}
+    : queue_(queue), folder_(folder), mostBytes_(mostBytes) {
+  removeLeftovers(folder);
+}
 
 QString ListReceiver::shownName() const {
   return u'"' + shownPeerText(name_) + u'"';
@@ -169,7 +164,7 @@ bool ListReceiver::requestLost(const QByteArray& name, bool isFirstTime) {
 
 ListReceiver::Rest ListReceiver::takeRest() {
   cutBeingRead_ = std::exchange(cut_, nullptr);
-  return {cutBeingRead_->closeForReading(), cutLength_, cutBeingRead_->size()};
+  return {cutBeingRead_->finishForReading(), cutLength_, cutBeingRead_->size()};
 }
 
 }  // namespace quorvin

@@ -1,7 +1,7 @@
 // What is done with what a peer sends: its lists are asked for, and their archives kept.
 #pragma once
 
-#include "files/file_writer.h"
+#include "files/file_aside.h"
 #include "peers/client/answer_stream.h"
 #include "peers/messages/send_queue.h"
 
@@ -22,9 +22,6 @@ class ReceivedArchive {
   /// `folder` ends in a separator and is made with those above it; `name` is the archive's name without its
   /// ending, safe for a file. Throws RuntimeFault when the folder or the file cannot be made.
   ReceivedArchive(const QString& folder, const QString& name);
-  ~ReceivedArchive();
-  ReceivedArchive(const ReceivedArchive&) = delete;
-  ReceivedArchive& operator=(const ReceivedArchive&) = delete;
 
   /// Throws RuntimeFault when the bytes cannot be written.
   void write(QByteArrayView bytes);
@@ -35,15 +32,14 @@ class ReceivedArchive {
   /// RuntimeFault when it cannot be put in place.
   QString keep();
 
-  /// Closes the file, which stays aside as long as the object lives, and gives its path for reading. Throws
+  /// Ends the writing and gives the path at which the file can be read as long as the object lives. Throws
   /// RuntimeFault when the last bytes cannot be written.
-  QString closeForReading();
+  QString finishForReading();
 
  private:
   QString folder_;
   QString name_;
-  QString asidePath_;
-  std::unique_ptr<FileWriter> writer_;
+  FileAside file_;
   std::int64_t size_ = 0;
 };
 

@@ -1,7 +1,7 @@
 #include "peers/server/peer_server.h"
 
 #include "faults/runtime_fault.h"
-#include "files/file_writer.h"
+#include "files/file_aside.h"
 #include "platform/text_encoding.h"
 
 #include <QFileInfo>
@@ -30,7 +30,9 @@ int rowOfArchive(QByteArrayView listName, const ProgramState& state) {
 /// The file is made when it is missing, as it is part of the exchange that the look for an unknown list ends
 /// with opening one.
 std::unique_ptr<SequentialFile> openOrMake(const QString& path) {
-  if (!QFileInfo::exists(path)) FileWriter(path).close();
+  const QFileInfo file(path);
+  if (!file.exists())
+    static_cast<void>(FileAside(path, {.mayReplace = false}).commitUnlessTaken(file.fileName()));
   return std::make_unique<SequentialFile>(path);
 }
 

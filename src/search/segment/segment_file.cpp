@@ -4,14 +4,12 @@
 #include "search/segment/byte_check.h"
 #include "search/segment/mapped_segment.h"
 
-#include <QCoreApplication>
 #include <QDataStream>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <cstring>
 
 namespace quorvin {
@@ -141,32 +139,24 @@ class SegmentCopier {
   std::size_t next_ = 0;
 };
 
+QString inMadeFolder(const QString& path) {
+  QDir().mkpath(QFileInfo(path).path());
+  return path;
+}
+
 }  // namespace
 
 SegmentFileWriter::SegmentFileWriter(const QString& path)
-    : path_(path), file_(path + QStringLiteral(".%1.new").arg(QCoreApplication::applicationPid())) {
-  QDir().mkpath(QFileInfo(path).path());
-  if (!file_.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-    throw faultOfSystemError(errno, file_.fileName());
-  }
-}
-
-SegmentFileWriter::~SegmentFileWriter() {
-  if (!finished_) file_.remove();
-}
+    : file_(inMadeFolder(path), {.durability = Durability::None}) {}
 
 void SegmentFileWriter::write(const void* data, std::size_t size) {
-  const auto* bytes = static_cast<const char*>(data);
-  for (std::size_t left = size; left > 0;) {
-    const std::size_t piece = std::min(left, kLargestWrite);
-    const auto wanted = static_cast<qint64>(piece);
-    if (file_.write(bytes, wanted) != wanted) {
-      throw faultOfSystemError(errno == 0 ? ENOSPC : errno, file_.fileName());
-    }
-    bytes += piece;
-    left -= piece;
+  std::string_view bytes(static_cast<const char*>(data), size);
+  while (!bytes.empty()) {
+    const std::string_view piece = bytes.substr(0, kLargestWrite);
+    file_.writeAt(static_cast<std::int64_t>(position_), piece);
+    position_ += piece.size();
+    bytes.remove_prefix(piece.size());
   }
-  position_ += size;
 }
 
 void SegmentFileWriter::pad() {
@@ -192,7 +182,7 @@ std::shared_ptr<const Segment> SegmentFileWriter::append(const Segment& segment)
   write(bytes.data(), bytes.size());
   sums_.push_back(checksumsOf(bytes));
   segments_.push_back(record);
-  return std::make_shared<MappedSegment>(file_.fileName(), record, sums_.back());
+  return std::make_shared<MappedSegment>(file_.path(), record, sums_.back());
 }
 
 void SegmentFileWriter::finish(const SegmentKey& key) {
@@ -204,12 +194,7 @@ void SegmentFileWriter::finish(const SegmentKey& key) {
   std::memcpy(trailer.magic, kMagic, sizeof kMagic);
   write(directory.constData(), static_cast<std::size_t>(directory.size()));
   write(&trailer, sizeof trailer);
-  file_.close();
-  if (std::rename(QFile::encodeName(file_.fileName()).constData(), QFile::encodeName(path_).constData()) !=
-      0) {
-    throw faultOfSystemError(errno, path_);
-  }
-  finished_ = true;
+  file_.commit();
 }
 
 std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,

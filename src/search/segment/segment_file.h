@@ -1,11 +1,11 @@
 // Segments of a listing in one file of the program's own. Layout: docs/formats/segment-cache.md.
 #pragma once
 
+#include "files/file_aside.h"
 #include "files/file_identity.h"
 #include "search/segment/segment.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <QString>
 
 #include <memory>
@@ -44,15 +44,11 @@ struct SegmentRecord {
   ArrayPlace arrays[kArrayCount];
 };
 
-/// Writes an segment file beside its final name, segment by segment.
+/// Writes a segment file beside its place, segment by segment. Without finish() nothing of it stays.
 class SegmentFileWriter {
  public:
   /// Throws RuntimeFault when the file cannot be made.
   explicit SegmentFileWriter(const QString& path);
-  /// Removes the file unless it was put in place.
-  ~SegmentFileWriter();
-  SegmentFileWriter(const SegmentFileWriter&) = delete;
-  SegmentFileWriter& operator=(const SegmentFileWriter&) = delete;
 
   /// Writes a complete segment and returns it as it stands in the file. Throws RuntimeFault when the disk is
   /// full or the like; the writer is then of no more use.
@@ -65,12 +61,10 @@ class SegmentFileWriter {
   void write(const void* data, std::size_t size);
   void pad();
 
-  QString path_;
-  QFile file_;
+  FileAside file_;
   std::uint64_t position_ = 0;
   std::vector<SegmentRecord> segments_;
   std::vector<std::vector<std::uint64_t>> sums_;
-  bool finished_ = false;
 };
 
 /// The segments of the file at `path` if it is whole and belongs to `key`; else none. Only its directory is

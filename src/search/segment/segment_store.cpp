@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvin {
 
@@ -22,15 +23,6 @@ QString readingRulesOf(const QLocale& locale) {
                              locale.timeFormat(QLocale::LongFormat),
                              QString::number(QDate::currentDate().year())};
   return rules.join(u'\n');
-}
-
-QStringList filesThatFit(const QString& folderPath, const QString& pattern) {
-  const QDir folder(folderPath);
-  QStringList paths;
-  for (const QString& name : folder.entryList({pattern}, QDir::Files, QDir::Name)) {
-    paths += folder.filePath(name);
-  }
-  return paths;
 }
 
 }  // namespace
@@ -49,11 +41,13 @@ QString segmentFilePath(const QString& cacheFolder, const QString& listing) {
 }
 
 QStringList segmentFiles(const QString& cacheFolder) {
-  return filesThatFit(cacheFolder, u'*' + QString::fromUtf16(kSegmentEnding));
-}
-
-QStringList unfinishedSegmentFiles(const QString& cacheFolder) {
-  return filesThatFit(cacheFolder, u'*' + QString::fromUtf16(kSegmentEnding) + QStringLiteral(".*.new"));
+  const QDir folder(cacheFolder);
+  QStringList paths;
+  for (const QString& name :
+       folder.entryList({u'*' + QString::fromUtf16(kSegmentEnding)}, QDir::Files, QDir::Name)) {
+    paths += folder.filePath(name);
+  }
+  return paths;
 }
 
 SegmentStore::Options SegmentStore::defaultOptions(SegmentUse use) {
@@ -104,6 +98,7 @@ void SegmentStore::keep(Kept kept) {
 
 SegmentStore::Recorder::Recorder(SegmentStore& store, const SegmentKey& key) : store_(store), key_(key) {
   if (store.options_.cacheFolder.isEmpty()) return;
+  if (!std::exchange(store.hasTidied_, true)) removeLeftovers(store.options_.cacheFolder);
   try {
     writer_ = std::make_unique<SegmentFileWriter>(segmentFilePath(store.options_.cacheFolder, key.listing));
   } catch (const RuntimeFault&) {

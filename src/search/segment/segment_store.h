@@ -78,6 +78,7 @@ class SegmentStore {
   void keep(Kept kept);
 
   Options options_;
+  bool hasTidied_ = false;
   /// The one used last stands first.
   std::list<Kept> kept_;
 };
@@ -87,8 +88,5 @@ QString segmentFilePath(const QString& cacheFolder, const QString& listing);
 
 /// All segment files in `cacheFolder`, by name.
 QStringList segmentFiles(const QString& cacheFolder);
-/// What programs that were ended while they wrote left in `cacheFolder`; what others write just now is among
-/// it.
-QStringList unfinishedSegmentFiles(const QString& cacheFolder);
 
 }  // namespace quorvin
