@@ -47,16 +47,16 @@ QImage imageAt(const MetafileBytes& record, std::int64_t offsets) {
 /// A bitmap of one bit to the pixel that says which pixels of another are drawn.
 class Mask {
  public:
-  /// The record holds the place in the mask that belongs to `place` in the bitmap, a number that does not
-  /// matter here, and then, at `offsets`, where the mask is.
+  /// `offsets` is where the record says where the mask is; 12 bytes before, it holds the place in the mask
+  /// that belongs to `place` in the bitmap.
   Mask(const MetafileBytes& record, std::int64_t offsets, const QPointF& place)
       : shift_(pixelsFrom(place, record.point32(offsets - 12))) {
     const StoredBitmap bitmap(record, offsets);
     bits_ = bitsOfDib(bitmap.header, bitmap.bits);
   }
 
-  /// `image` with the pixels alone for which the mask's bit is set (or is not); those beside the mask are
-  /// left out.
+  /// `image` with only those pixels for which the mask's bit is set, or is not set. Pixels beside the mask
+  /// are left out.
   QImage appliedTo(const QImage& image, bool isSet) const {
     QImage result = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < result.height(); ++y) {
@@ -81,8 +81,8 @@ class Mask {
   QPoint shift_;
 };
 
-/// Of a ternary raster operation's first byte: whether it draws the bitmap over what is there, or leaves what
-/// is there. Throws MetafileFault for the others, which with a mask are hardly ever used.
+/// Whether a raster operation, given by its first byte, copies the bitmap or leaves what is there. Throws
+/// MetafileFault for all others, which are hardly ever used with a mask.
 bool copies(std::uint32_t operation) {
   enum { LeaveAsItIs = 0xAA, Copy = 0xCC };
   if (operation != Copy && operation != LeaveAsItIs)
@@ -150,7 +150,7 @@ void EmfPlayer::drawMasked(const MetafileBytes& record) {
   if (!hasBitmap(record, kMaskOfMaskBlt)) return drawBitmap(record, kCopiedPart, target, source, whereSet);
   const QImage image = imageAt(record, kCopiedPart);
   const Mask mask(record, kMaskOfMaskBlt, source.topLeft());
-  // Both are operations; the second one is given by its first byte alone.
+  // The second operation is given by its first byte alone.
   if (copies(whereSet >> 16)) canvas_.drawImage(target, mask.appliedTo(image, true), source, kCopyOperation);
   if (copies(operations >> 24))
     canvas_.drawImage(target, mask.appliedTo(image, false), source, kCopyOperation);

@@ -21,8 +21,8 @@ struct SeenPoint {
   QRgb colour;
 };
 
-/// `points` tell what is seen, worked out from the records' meaning. `isForSecondDecoder`: the second decoder
-/// draws such records as well.
+/// `points` are what must be seen, worked out from the meaning of the records. `isForSecondDecoder`: the
+/// second decoder draws such records as well.
 struct CorpusMetafile {
   std::string name;
   QByteArray bytes;

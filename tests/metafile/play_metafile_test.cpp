@@ -130,7 +130,7 @@ TEST(PlayMetafile, TheOwnSizeIsInHundredthMillimetres) {
 
 TEST(PlayMetafile, WithoutPlaceableHeaderTheFirstWindowTellsTheSize) {
   WmfWriter wmf;
-  // The writer begins with the origin 0, 0 and the extent 400 by 200.
+  // The first records of the writer are the origin 0, 0 and the extent 400 by 200.
   wmf.rectangle(0, 0, 10, 10).place(0x020B, 10, 10).place(0x020C, 800, 400);
   EXPECT_EQ(playMetafile(wmf.file(false)).ownSize, QSize(10583, 5291));
 }

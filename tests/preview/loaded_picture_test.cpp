@@ -35,7 +35,7 @@ class PictureLoading : public testing::Test {
     return RuntimeFault(FaultNumber::Overflow);
   }
 
-  /// Loads a picture of these bytes and expects to be told why it cannot be shown.
+  /// Loads a picture of these bytes and expects the reason why it cannot be shown.
   void expectRefused(const QByteArray& bytes, const QString& why) {
     const QString path = folder_.writeFile(QStringLiteral("a b.jpg"), bytes);
     const RuntimeFault fault = faultOfPath(path);

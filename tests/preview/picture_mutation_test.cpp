@@ -1,4 +1,4 @@
-// Damaged pictures of every format: the program lives, and nobody waits long.
+// Damaged pictures of every format: the program survives them, and no load takes long.
 //
 // Each test tries 300 mutations; QUORVIN_MUTATIONS=10000 tries so many, QUORVIN_MUTATION_SEED others.
 #include "metafile/metafile_corpus.h"
@@ -104,14 +104,14 @@ class PictureMutation : public testing::Test {
     qint64 longestPause = 0;
   };
 
-  /// `name` is that of the file: messages tell it.
+  /// `name` is the name of the file, which messages contain.
   Outcome showAll(const QString& name, const QList<QByteArray>& seeds) {
     Outcome outcome;
     const QString path = folder_.pathOf(name);
     ImagePreview preview(&owner_, {QStringLiteral(QUORVIN_METAFILE_PROGRAM)},
-                         [&](const QString& told, const RuntimeFault& fault) {
+                         [&](const QString& reported, const RuntimeFault& fault) {
                            ++outcome.refused;
-                           EXPECT_EQ(told, path);
+                           EXPECT_EQ(reported, path);
                            EXPECT_TRUE(fault.description().contains(path));
                          });
     QElapsedTimer sinceBeat;
