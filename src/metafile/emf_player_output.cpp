@@ -148,12 +148,13 @@ void EmfPlayer::drawMasked(const MetafileBytes& record) {
   const std::uint32_t operations = record.u32(40);
   const std::uint32_t whereSet = operations & 0x00FFFFFF;
   if (!hasBitmap(record, kMaskOfMaskBlt)) return drawBitmap(record, kCopiedPart, target, source, whereSet);
+  const bool copiesWhereSet = copies(whereSet >> 16);
+  // The second operation is given by its first byte alone.
+  const bool copiesElsewhere = copies(operations >> 24);
   const QImage image = imageAt(record, kCopiedPart);
   const Mask mask(record, kMaskOfMaskBlt, source.topLeft());
-  // The second operation is given by its first byte alone.
-  if (copies(whereSet >> 16)) canvas_.drawImage(target, mask.appliedTo(image, true), source, kCopyOperation);
-  if (copies(operations >> 24))
-    canvas_.drawImage(target, mask.appliedTo(image, false), source, kCopyOperation);
+  if (copiesWhereSet) canvas_.drawImage(target, mask.appliedTo(image, true), source, kCopyOperation);
+  if (copiesElsewhere) canvas_.drawImage(target, mask.appliedTo(image, false), source, kCopyOperation);
 }
 
 void EmfPlayer::drawInParallelogram(const MetafileBytes& record) {

@@ -269,6 +269,8 @@ TEST(PlayMetafile, ABitmapIsDrawnThroughAMask) {
   expectSeen(playMetafile(maskedEmf(0xCCAA0029)).image, {none(blue), yellow, none(red), green});
   expectSeen(playMetafile(maskedEmf(0xCCCC0020)).image, {blue, yellow, red, green});
   expectSeen(playMetafile(maskedEmf(0xAACC0020, false)).image, {blue, yellow, red, green});
+  // Exclusive or elsewhere: the whole record is left out.
+  expectSeen(playMetafile(maskedEmf(0x66CC0020)).image, {none(blue), none(yellow), none(red), none(green)});
 }
 
 TEST(PlayMetafile, ABitmapIsDrawnIntoAParallelogram) {
