@@ -51,6 +51,8 @@ class SearchForm : public QMainWindow, public StartUpView, public ShutdownView {
 
   const SendTimer& SndQTime() { return network_.peers().SndQTime(); }
 
+  SearchFormNetwork& network() { return network_; }
+
   /// What start-up unpacks the main data file with.
   ArchiveExtraction& dataFileExtraction() { return network_.dataFileExtraction(); }
 

@@ -78,11 +78,16 @@ PeerProgress& SearchFormNetwork::peerProgress() {
 
 void SearchFormNetwork::ShareLists_Click(bool share) {
   if (share) {
-    peers_.sharing().start();
+    peers_.sharing().start(listenerPort_, listenerAddress_);
   } else {
     peers_.sharing().stop();
   }
   menus_.ShareLists->setChecked(peers_.sharing().isSharing());
+}
+
+void SearchFormNetwork::setListenerPlace(const QHostAddress& address, std::uint16_t port) {
+  listenerAddress_ = address;
+  listenerPort_ = port;
 }
 
 void SearchFormNetwork::GetLists_Click() {

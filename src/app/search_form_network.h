@@ -12,9 +12,11 @@
 #include "update/progress_display.h"
 #include "update/web_update.h"
 
+#include <QHostAddress>
 #include <QLocale>
 #include <QPointer>
 
+#include <cstdint>
 #include <functional>
 
 namespace quorvin {
@@ -34,6 +36,8 @@ class SearchFormNetwork : private ArchiveExtraction {
 
   /// Connects ("true") or disconnects the listener; the menu item shows what came of it.
   void ShareLists_Click(bool share);
+  /// Where the listener is opened from now on; at first on all addresses, at the port of the exchange.
+  void setListenerPlace(const QHostAddress& address, std::uint16_t port);
   /// Asks for a peer, and gets its lists.
   void GetLists_Click();
 
@@ -62,6 +66,8 @@ class SearchFormNetwork : private ArchiveExtraction {
   HttpNetworkTransfer web_;
   WebUpdate webUpdate_;
   PeerExchange peers_;
+  QHostAddress listenerAddress_ = QHostAddress::Any;
+  std::uint16_t listenerPort_ = kPeerPort;
   QPointer<PeerProgress> peerProgress_;
 };
 

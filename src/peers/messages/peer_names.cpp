@@ -95,7 +95,7 @@ QString sentence(const QString& text) {
 }
 
 QString faultSentence(const RuntimeFault& fault) {
-  return sentence(QStringLiteral("Run-time error '%1': %2").arg(fault.number()).arg(fault.description()));
+  return sentence(fault.text());
 }
 
 QString shownProblems(const QStringList& problems) {

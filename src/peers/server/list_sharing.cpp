@@ -41,9 +41,9 @@ ListSharing::ListSharing(const ProgramState& state, MessageBoxes& messages, cons
       processEvents_(std::move(processEvents)),
       server_(state, locale, limits) {}
 
-bool ListSharing::start(std::uint16_t port) {
+bool ListSharing::start(std::uint16_t port, const QHostAddress& address) {
   if (isSharing()) return true;
-  if (!server_.start(port)) {
+  if (!server_.start(port, address)) {
     messages_.inform(
         sentence(QStringLiteral("Your lists are not shared: port %1 could not be opened.\r\n\r\n%2")
                      .arg(port)

@@ -5,6 +5,7 @@
 #include "platform/message_box.h"
 #include "state/program_state.h"
 
+#include <QHostAddress>
 #include <QLocale>
 #include <QObject>
 #include <QString>
@@ -30,7 +31,7 @@ class ListSharing : public QObject {
 
   /// Opens the listener, makes the archives and tells the address and what could not be packed; or tells why
   /// the port could not be opened. True when sharing is on in the end. Does nothing when it is on already.
-  bool start(std::uint16_t port = kPeerPort);
+  bool start(std::uint16_t port = kPeerPort, const QHostAddress& address = QHostAddress::Any);
   /// Nothing is offered any more: the listener and every connection are closed, and the making of archives
   /// ends.
   void stop();

@@ -183,8 +183,8 @@ PeerServer::~PeerServer() {
   stop();
 }
 
-bool PeerServer::start(std::uint16_t port) {
-  if (!listener_.listen(QHostAddress::Any, port)) return false;
+bool PeerServer::start(std::uint16_t port, const QHostAddress& address) {
+  if (!listener_.listen(address, port)) return false;
   acceptAsFitting();
   return true;
 }

@@ -127,8 +127,8 @@ class PeerServer : public QObject {
              QObject* parent = nullptr);
   ~PeerServer() override;
 
-  /// Opens the listener on all addresses. False when that failed; errorText() then says why.
-  bool start(std::uint16_t port = kPeerPort);
+  /// Opens the listener. False when that failed; errorText() then says why.
+  bool start(std::uint16_t port = kPeerPort, const QHostAddress& address = QHostAddress::Any);
   /// Closes the listener and ends every connection.
   void stop();
 
