@@ -21,7 +21,7 @@ constexpr std::array<QStringView, 2> kAudioExtensions = {u".mp3", u".wav"};
 
 constexpr char16_t kNoPlayer[] =
     u"No audio player was found. Install one of Audacious, VLC, Strawberry, Clementine, DeaDBeeF or "
-    u"Rhythmbox, or name the command of your player in the setting EnqueueCommand.";
+    u"Rhythmbox, or set EnqueueCommand in the settings to the command of your player.";
 constexpr char16_t kPlayerNotStarted[] =
     u"The audio player could not be started. Please check the command in the setting EnqueueCommand.";
 

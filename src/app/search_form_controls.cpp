@@ -42,12 +42,12 @@ EdgeLineEdit* makeSearchStr(QWidget* parent) {
   auto* edit = new EdgeLineEdit(parent);
   edit->setObjectName(QStringLiteral("SearchStr"));
   edit->setAccessibleName(QStringLiteral("Search text"));
-  edit->setPlaceholderText(QStringLiteral("Words of the name or folder, for example: rock live"));
+  edit->setPlaceholderText(QStringLiteral("Words from the name or folder, for example: rock live"));
   return edit;
 }
 
 QLineEdit* makeDesMatch(QWidget* parent) {
-  const QString meaning = QStringLiteral("Entries that hold more than this share of the words are shown");
+  const QString meaning = QStringLiteral("Entries that contain more than this share of the words are shown");
   auto* edit = new QLineEdit(QString::fromUtf16(kInitialMatch), parent);
   edit->setObjectName(QStringLiteral("DesMatch"));
   edit->setAccessibleName(QStringLiteral("Desired match in percent"));

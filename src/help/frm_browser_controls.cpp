@@ -70,7 +70,7 @@ ButtonLook lookOf(BrowserButton button) {
       return {QStringLiteral("Home"), QStringLiteral("Home: program usage"), QStringLiteral("Alt+Home"),
               keysFor({"Alt+Home"})};
     case BrowserButton::Search:
-      return {QStringLiteral("Search"), QStringLiteral("Search: the index of the help"),
+      return {QStringLiteral("Search"), QStringLiteral("Search the index of the help"),
               QStringLiteral("Ctrl+Shift+F"), keysFor({"Ctrl+Shift+F"})};
     case BrowserButton::Stop:
       // Its key is the window's: Esc also closes the row for finding.

@@ -210,12 +210,12 @@ FindBar::FindBar(QTextBrowser& page, QWidget* parent)
   row->setContentsMargins(4, 2, 4, 2);
   row->addWidget(label);
   row->addWidget(text_);
-  QToolButton* previous = addButton(QStringLiteral("P&revious"), QStringLiteral("Previous place (Shift+F3)"));
-  QToolButton* next = addButton(QStringLiteral("&Next"), QStringLiteral("Next place (F3)"));
+  QToolButton* previous = addButton(QStringLiteral("P&revious"), QStringLiteral("Previous match (Shift+F3)"));
+  QToolButton* next = addButton(QStringLiteral("&Next"), QStringLiteral("Next match (F3)"));
   row->addWidget(previous);
   row->addWidget(next);
   row->addWidget(outcome_, 1);
-  QToolButton* close = addButton(QStringLiteral("Close"), QStringLiteral("Close this row (Esc)"));
+  QToolButton* close = addButton(QStringLiteral("Close"), QStringLiteral("Close the find bar (Esc)"));
   row->addWidget(close);
 
   connect(text_, &QLineEdit::textEdited, this, &FindBar::findFromHere);
@@ -268,8 +268,8 @@ void FindBar::find(bool backwards) {
   const QTextCursor before = page_.textCursor();
   page_.moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
   if (page_.find(text_->text(), direction(backwards))) {
-    outcome_->setText(backwards ? QStringLiteral("Went on from the bottom")
-                                : QStringLiteral("Went on from the top"));
+    outcome_->setText(backwards ? QStringLiteral("Continued from the bottom")
+                                : QStringLiteral("Continued from the top"));
     return;
   }
   page_.setTextCursor(before);

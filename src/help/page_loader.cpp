@@ -94,14 +94,14 @@ Page PageLoader::helpPage(const QUrl& address) const {
     case HelpFileState::Missing:
       return messagePage(
           address, QStringLiteral("This help page is missing"),
-          QStringLiteral("The help pages come with the program and stand in its folder. If they "
-                         "were moved or removed, install the program again."));
+          QStringLiteral("The help pages come with the program and are kept in its folder. If they "
+                         "have been moved or removed, install the program again."));
     case HelpFileState::Refused:
       break;
   }
   return messagePage(address, QStringLiteral("This address cannot be opened here"),
-                     QStringLiteral("This window shows the help pages of the program, and plain pages of the "
-                                    "web (http and https). It opens no other files."));
+                     QStringLiteral("This window shows the program's help pages and plain web pages "
+                                    "(http and https). It opens no other files."));
 }
 
 void PageLoader::show(const Page& page, Move move, int position) {

@@ -28,7 +28,7 @@ QString failureOf(const QNetworkReply& reply) {
   const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   if (status >= 400) return statusText(reply);
   if (reply.error() == QNetworkReply::OperationCanceledError) {
-    return QStringLiteral("The server did not send anything for too long.");
+    return QStringLiteral("The server stopped sending data.");
   }
   if (reply.error() != QNetworkReply::NoError) return reply.errorString() + u'.';
   return status == 200 ? QString() : statusText(reply);
@@ -40,7 +40,7 @@ NetworkPageTransfer::NetworkPageTransfer(PageTransferLimits limits, QObject* par
     : QObject(parent), limits_(limits) {
   deadline_.setSingleShot(true);
   connect(&deadline_, &QTimer::timeout, this,
-          [this] { fail(QStringLiteral("The page took too long to come.")); });
+          [this] { fail(QStringLiteral("The page took too long to load.")); });
 }
 
 NetworkPageTransfer::~NetworkPageTransfer() {
@@ -77,8 +77,9 @@ void NetworkPageTransfer::headersArrived() {
   if (!failureOf(*reply_).isEmpty()) return;
   const QByteArray type = reply_->rawHeader("Content-Type");
   if (pageKind(type) != PageKind::Unknown) return;
-  const QString named = type.isEmpty() ? QStringLiteral("nothing that it names") : QString::fromLatin1(type);
-  fail(QStringLiteral("The server sent %1; only pages of text can be shown here.").arg(named));
+  const QString named =
+      type.isEmpty() ? QStringLiteral("data of an unknown type") : QString::fromLatin1(type);
+  fail(QStringLiteral("The server sent %1; only text pages can be shown here.").arg(named));
 }
 
 void NetworkPageTransfer::dataArrived() {

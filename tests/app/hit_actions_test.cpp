@@ -171,7 +171,7 @@ TEST_F(HitActionsTest, WithoutAPlayerOneMessageSaysSo) {
   EXPECT_EQ(messages_.informed,
             std::vector{QStringLiteral(
                 "No audio player was found. Install one of Audacious, VLC, Strawberry, Clementine, DeaDBeeF "
-                "or Rhythmbox, or name the command of your player in the setting EnqueueCommand.")});
+                "or Rhythmbox, or set EnqueueCommand in the settings to the command of your player.")});
 }
 
 TEST_F(HitActionsTest, APlayerThatCannotBeStartedIsTold) {

@@ -36,7 +36,7 @@ TEST_F(FrmBrowserFind, EnterGoesOnAndBeginsAgainAtTheTop) {
   EXPECT_EQ(outcome(), QString());
   press(Qt::Key_Return);
   EXPECT_EQ(foundAt(), first);
-  EXPECT_EQ(outcome(), QStringLiteral("Went on from the top"));
+  EXPECT_EQ(outcome(), QStringLiteral("Continued from the top"));
 }
 
 TEST_F(FrmBrowserFind, ShiftEnterAndTheKeysF3GoBothWays) {
@@ -46,7 +46,7 @@ TEST_F(FrmBrowserFind, ShiftEnterAndTheKeysF3GoBothWays) {
   press(Qt::Key_Return, Qt::ShiftModifier);
   const int last = foundAt();
   EXPECT_GT(last, first);
-  EXPECT_EQ(outcome(), QStringLiteral("Went on from the bottom"));
+  EXPECT_EQ(outcome(), QStringLiteral("Continued from the bottom"));
   press(Qt::Key_F3, Qt::ShiftModifier);
   EXPECT_EQ(foundAt(), first);
   press(Qt::Key_F3);

@@ -82,8 +82,7 @@ TEST_F(NetworkPageTransferTest, AnythingButTextIsRefusedBeforeItHasCome) {
   const TransferResult result = fetch([](QTcpSocket& connection, const QByteArray&) {
     connection.write("HTTP/1.1 200 OK\r\nContent-Type: video/mp4\r\nConnection: close\r\n\r\nxxxx");
   });
-  EXPECT_EQ(result.failure,
-            QStringLiteral("The server sent video/mp4; only pages of text can be shown here."));
+  EXPECT_EQ(result.failure, QStringLiteral("The server sent video/mp4; only text pages can be shown here."));
 }
 
 TEST_F(NetworkPageTransferTest, APageBeyondTheSizeLimitIsRefused) {
@@ -97,14 +96,13 @@ TEST_F(NetworkPageTransferTest, APageBeyondTheSizeLimitIsRefused) {
 TEST_F(NetworkPageTransferTest, AServerThatNeverEndsIsEndedByTheDeadline) {
   PageTransferLimits limits;
   limits.whole = milliseconds(200);
-  EXPECT_EQ(fetch(sendingForEver(), limits).failure, QStringLiteral("The page took too long to come."));
+  EXPECT_EQ(fetch(sendingForEver(), limits).failure, QStringLiteral("The page took too long to load."));
 }
 
 TEST_F(NetworkPageTransferTest, ASilentServerIsEndedByTheTimeout) {
   PageTransferLimits limits;
   limits.silence = milliseconds(200);
-  EXPECT_EQ(fetch(silence(), limits).failure,
-            QStringLiteral("The server did not send anything for too long."));
+  EXPECT_EQ(fetch(silence(), limits).failure, QStringLiteral("The server stopped sending data."));
 }
 
 TEST_F(NetworkPageTransferTest, ACutPageIsAFailure) {
