@@ -4,11 +4,11 @@
 set -Eeuo pipefail
 
 # Debian packages. To build the program and to open its window:
-BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev libzip-dev pkgconf)
+BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev libzip-dev zlib1g-dev pkgconf)
 WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
 # To build and run the tests, and to check format and code:
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14
-  at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin)
+  at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3)
 TIDY_PACKAGES=(clang-tidy-14)
 # What the clang preset needs on top:
 CLANG_PACKAGES=(clang-14 libclang-rt-14-dev)

@@ -3,12 +3,13 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QString>
 
 #include <cstdint>
 #include <optional>
 
 namespace quorvin {
+
+class RandomAccessFile;
 
 /// Watches the bytes of an archive, from the first one on, for its end record: the one whose central
 /// directory starts and ends where the record says, counted from the start of the archive. An archive stored
@@ -36,9 +37,20 @@ class ArchiveEnd {
   std::optional<std::int64_t> length_;
 };
 
-/// The largest number of entries that any end record near the end of the first `length` bytes of the file at
-/// `path` announces; 0 when there is none. Opening an archive takes memory for each entry, so absurd numbers
-/// have to be known before. Throws RuntimeFault when the file cannot be read.
-std::uint64_t announcedEntries(const QString& path, std::int64_t length);
+/// What the end record of an archive says of its directory; none of it can be trusted.
+struct EndRecord {
+  std::uint64_t entries = 0;
+  std::uint64_t directorySize = 0;
+  /// Counted from the start of the archive, which is not that of the file when other bytes come before.
+  std::uint64_t directoryOffset = 0;
+  /// Where the record starts in the file. The directory ends there.
+  std::int64_t place = 0;
+  /// The archive goes on in other files.
+  bool isOfSeveralFiles = false;
+};
+
+/// The last end record in the first `length` bytes of `file` that a directory stands before, or, when none
+/// does, the last one at all; nothing when there is none. Throws RuntimeFault when the file cannot be read.
+std::optional<EndRecord> endRecordOf(const RandomAccessFile& file, std::int64_t length);
 
 }  // namespace quorvin

@@ -14,6 +14,8 @@ constexpr std::uint32_t kTypeBits = 0170000;
 constexpr std::uint32_t kRegularFile = 0100000;
 constexpr std::uint32_t kFolder = 0040000;
 constexpr std::uint32_t kLink = 0120000;
+// What came out of a pipe: an ordinary content.
+constexpr std::uint32_t kPipe = 0010000;
 
 // How deep an entry may lie, and how many bytes each of its names may take in the file system.
 constexpr qsizetype kMostArchiveFolders = 64;
@@ -92,8 +94,8 @@ void checkKind(const ArchiveEntry& entry, ArchivePlace& place) {
   if (type == kLink) {
     refuseEntry(ArchiveErrorCode::NotAFile, QStringLiteral("The archive holds a link: \"%1\"."), entry.name);
   }
-  if (type != 0 && type != kRegularFile && type != kFolder) {
-    refuseEntry(ArchiveErrorCode::NotAFile, QStringLiteral("The archive holds a device or a pipe: \"%1\"."),
+  if (type != 0 && type != kRegularFile && type != kPipe && type != kFolder) {
+    refuseEntry(ArchiveErrorCode::NotAFile, QStringLiteral("The archive holds a device or a socket: \"%1\"."),
                 entry.name);
   }
   place.isFolder = place.isFolder || type == kFolder;

@@ -9,11 +9,11 @@
 #include <memory>
 #include <span>
 #include <stdexcept>
-
-struct zip;
-struct zip_file;
+#include <vector>
 
 namespace quorvin {
+
+class RandomAccessFile;
 
 /// What can be wrong with an archive; the values are the error codes that users may see.
 enum class ArchiveErrorCode : int {
@@ -61,19 +61,22 @@ QString shownEntryName(const QString& name);
 
 /// What an archive says about one of its entries; none of it can be trusted.
 struct ArchiveEntry {
-  std::uint64_t index = 0;
   QString name;
   std::uint64_t size = 0;
   std::uint64_t packedSize = 0;
+  std::uint32_t checksum = 0;
   bool isEncrypted = false;
   /// Stored or deflated, the two methods that are unpacked here.
   bool hasKnownMethod = false;
+  bool isDeflated = false;
   /// Access rights and file type as Unix has them; 0 when the archive does not say.
   std::uint32_t mode = 0;
+  /// Where the packed bytes start in the file. All of them are in it, before the directory.
+  std::int64_t place = 0;
 };
 
-/// An archive that is open for reading and whose directory and entries agree with each other. Bytes behind it
-/// in the file are ignored.
+/// An archive that is open for reading, and whose directory and entries agree with each other where it
+/// matters. Bytes before it in the file, and behind it, are ignored.
 class ArchiveReader {
  public:
   /// Opens the archive in the first `length` bytes of the file at `path`; all of them when `length` is
@@ -86,23 +89,24 @@ class ArchiveReader {
   ArchiveReader(const ArchiveReader&) = delete;
   ArchiveReader& operator=(const ArchiveReader&) = delete;
 
-  std::uint64_t entryCount() const;
+  std::uint64_t entryCount() const { return entries_.size(); }
   /// The number of bytes of the file that the archive lies in.
   std::int64_t length() const { return length_; }
-  /// `index` is below entryCount(). Throws ArchiveError when the archive does not say enough of the entry.
-  ArchiveEntry entry(std::uint64_t index) const;
+  /// `index` is below entryCount().
+  const ArchiveEntry& entry(std::uint64_t index) const { return entries_.at(index); }
 
  private:
   friend class ArchiveContent;
 
+  std::unique_ptr<RandomAccessFile> file_;
   std::int64_t length_ = 0;
-  zip* archive_ = nullptr;
+  std::vector<ArchiveEntry> entries_;
 };
 
 /// The unpacked bytes of one entry, front to back.
 class ArchiveContent {
  public:
-  /// `archive` must outlive the object. Throws ArchiveError when the entry cannot be opened.
+  /// `archive` must outlive the object. `entry` is one of its entries, and packed by a known method.
   ArchiveContent(const ArchiveReader& archive, const ArchiveEntry& entry);
   ~ArchiveContent();
   ArchiveContent(const ArchiveContent&) = delete;
@@ -113,9 +117,19 @@ class ArchiveContent {
   std::size_t read(std::span<char> buffer);
 
  private:
+  struct Inflating;
+
+  std::size_t readPacked(std::span<char> buffer);
+  std::size_t readInflated(std::span<char> buffer);
+  [[noreturn]] void fail(const char16_t* what) const;
+
+  const RandomAccessFile& file_;
   ArchiveEntry entry_;
+  std::uint64_t packedCount_ = 0;
   std::uint64_t count_ = 0;
-  zip_file* content_;
+  std::uint32_t checksum_ = 0;
+  /// Only for a deflated entry.
+  std::unique_ptr<Inflating> inflating_;
 };
 
 }  // namespace quorvin

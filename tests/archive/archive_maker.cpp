@@ -7,6 +7,7 @@ namespace {
 
 constexpr std::uint32_t kSeeExtra = 0xFFFFFFFFU;
 constexpr std::uint16_t kSeeLargeEnd = 0xFFFFU;
+constexpr std::uint16_t kSizesFollow = 1U << 3U;
 constexpr std::uint16_t kVersionNeeded = 45;
 constexpr std::uint16_t kMadeOnUnix = 3U << 8U | kVersionNeeded;
 
@@ -38,7 +39,7 @@ QByteArray packedBytes(const MadeEntry& entry) {
 Told toldOf(const MadeEntry& entry, const QByteArray& packed) {
   return {entry.name,
           entry.innerName.value_or(entry.name),
-          entry.flags,
+          static_cast<std::uint16_t>(entry.flags | (entry.isStreamed ? kSizesFollow : 0U)),
           entry.method,
           entry.toldChecksum.value_or(checksumOf(entry.content)),
           entry.toldPackedSize.value_or(static_cast<std::uint64_t>(packed.size())),
@@ -67,6 +68,24 @@ QByteArray largeExtra(const Told& told, bool withPlace) {
   put<std::uint64_t>(bytes, told.packedSize);
   if (withPlace) put<std::uint64_t>(bytes, told.place);
   return bytes;
+}
+
+/// What an entry that is written in one go tells before its content.
+Told beforeContent(const MadeEntry& entry, Told told) {
+  if (entry.isStreamed) {
+    told.checksum = 0;
+    told.packedSize = 0;
+    told.size = entry.headerSize;
+  }
+  if (entry.headerPackedSize) told.packedSize = *entry.headerPackedSize;
+  return told;
+}
+
+void putBehindContent(QByteArray& bytes, const Told& told) {
+  bytes += "PK\x07\x08";
+  put<std::uint32_t>(bytes, told.checksum);
+  put<std::uint32_t>(bytes, static_cast<std::uint32_t>(told.packedSize));
+  put<std::uint32_t>(bytes, static_cast<std::uint32_t>(told.size));
 }
 
 void putBeforeContent(QByteArray& bytes, const Told& told) {
@@ -135,8 +154,9 @@ QByteArray archiveOf(const std::vector<MadeEntry>& entries, const ArchiveForm& f
         entry.sharesBytesOf ? places.at(*entry.sharesBytesOf) : static_cast<std::uint64_t>(bytes.size());
     places.push_back(told.place);
     if (!entry.sharesBytesOf) {
-      putBeforeContent(bytes, told);
+      putBeforeContent(bytes, beforeContent(entry, told));
       bytes += packed;
+      if (entry.isStreamed) putBehindContent(bytes, told);
     }
     putInDirectory(directory, told);
   }

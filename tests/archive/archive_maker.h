@@ -38,6 +38,12 @@ struct MadeEntry {
   bool isLarge = false;
   /// The name before the content, where it differs from the one in the directory.
   std::optional<QByteArray> innerName;
+  /// Written in one go: checksum and packed size follow the content, and before it they are 0. `headerSize`
+  /// is what is told there of the size, which some programs know beforehand.
+  bool isStreamed = false;
+  std::uint32_t headerSize = 0;
+  /// What is told of the packed size before the content, where it differs from the one in the directory.
+  std::optional<std::uint32_t> headerPackedSize;
   /// No bytes of its own: it shares those of the entry with this number.
   std::optional<std::size_t> sharesBytesOf;
 };
