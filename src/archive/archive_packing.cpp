@@ -250,8 +250,13 @@ PackingOutcome packListing(const QString& listingPath, const QString& archivePat
 bool mayBeReplacedByPacking(const QString& path) {
   const QFileInfo file(path);
   if (!file.exists() && !file.isSymLink()) return true;
-  if (!file.isFile() || file.isSymLink()) return false;
-  if (file.size() == 0) return true;
+  if (file.isFile() && !file.isSymLink() && file.size() == 0) return true;
+  return isMadeByPacking(path);
+}
+
+bool isMadeByPacking(const QString& path) {
+  const QFileInfo file(path);
+  if (!file.isFile() || file.isSymLink() || file.size() == 0) return false;
   try {
     return hasMark(openArchive(path).get());
   } catch (const RuntimeFault&) {

@@ -18,4 +18,7 @@ PackingOutcome packListing(const QString& listingPath, const QString& archivePat
 /// empty file, or there is none. Everything else is the user's.
 bool mayBeReplacedByPacking(const QString& path);
 
+/// Whether the file at `path` is an archive made by packListing().
+bool isMadeByPacking(const QString& path);
+
 }  // namespace quorvin

@@ -92,6 +92,20 @@ TEST_F(PeerSharingTest, AfterARefreshTheArchivesAreMadeAnew) {
   EXPECT_EQ(program_.messages.informed.size(), 1U);
 }
 
+TEST_F(PeerSharingTest, ArchivesOfSourcesThatAreNoLongerListedAreNotSent) {
+  program_.addListedSource(QStringLiteral("Music"), "music");
+  program_.addListedSource(QStringLiteral("Films"), "films");
+  ASSERT_TRUE(start());
+  // The row after the last one keeps its texts, and it is the one that the look for an unknown list ends at.
+  program_.state.OnlineSourceCount = 1;
+  program_.folder.writeFile(QStringLiteral("mine.zip"), "the user's own");
+  sharing_.sourcesRefreshed();
+  EXPECT_EQ(archives(), (QStringList{QStringLiteral("Music.zip"), QStringLiteral("mine.zip")}));
+  PeerCaller caller(sharing_.server().port());
+  EXPECT_EQ(caller.ask("GetList: whatever", 18), QByteArray("List: whatever.zip"));
+  EXPECT_EQ(caller.receiveForAWhile(), QByteArray());
+}
+
 TEST_F(PeerSharingTest, ARefreshWithoutSharingMakesNothing) {
   program_.addListedSource(QStringLiteral("Music"), "x");
   sharing_.sourcesRefreshed();

@@ -4,7 +4,9 @@
 #include "faults/runtime_fault.h"
 #include "peers/messages/peer_names.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QHostAddress>
 #include <QNetworkInterface>
@@ -78,6 +80,7 @@ QStringList ListSharing::packAll() {
 
 QStringList ListSharing::packEach() {
   QStringList problems;
+  removeUnlisted();
   QSet<QString> packed;
   for (int row = 1; row <= state_.OnlineSourceCount && !mustStop(); ++row) {
     const QString description = state_.OnlineSources.description(row);
@@ -89,6 +92,19 @@ QStringList ListSharing::packEach() {
     if (!problem.isEmpty()) problems += problem;
   }
   return problems;
+}
+
+/// The look for an unknown list ends with the row after the last source, whatever it still says, and its
+/// archive would be sent. So nothing that sharing made for a source of earlier may stay.
+void ListSharing::removeUnlisted() const {
+  QSet<QString> listed;
+  for (int row = 1; row <= state_.OnlineSourceCount; ++row) listed.insert(archivePathOf(state_, row));
+  const QDir folder(state_.LocalFolder);
+  for (const QString& name : folder.entryList({QStringLiteral("*.zip")}, QDir::Files | QDir::Hidden)) {
+    const QString path = state_.LocalFolder + name;
+    const bool isMainArchive = name == state_.ArchiveFile;
+    if (!listed.contains(path) && !isMainArchive && isMadeByPacking(path)) QFile::remove(path);
+  }
 }
 
 QString ListSharing::packRow(int row) {

@@ -17,9 +17,9 @@
 namespace quorvin {
 
 /// What the menu item "Share My Lists" does. While sharing is on, the server listens, and the archive of each
-/// online source that has a listing is made anew after each refresh. Archives stay when sharing ends; they
-/// are replaced by the next ones. An archive of the user's, by which is meant any that was not made here, is
-/// never replaced.
+/// online source that has a listing is made anew after each refresh. Archives that sharing made for sources
+/// that are no longer listed are removed then. Archives stay when sharing ends; they are replaced by the next
+/// ones. An archive of the user's, by which is meant any that was not made here, is never replaced.
 class ListSharing : public QObject {
   Q_OBJECT
 
@@ -48,6 +48,7 @@ class ListSharing : public QObject {
  private:
   QStringList packAll();
   QStringList packEach();
+  void removeUnlisted() const;
   QString packRow(int row);
   bool mustStop() const;
   void tell(const QString& first, const QStringList& problems);
