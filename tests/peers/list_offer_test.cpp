@@ -68,6 +68,28 @@ TEST_F(PeerOfferTest, AddsListsToTheOfflineSources) {
   EXPECT_TRUE(program_.messages.informed.empty());
 }
 
+TEST_F(PeerOfferTest, TheListsOfAPeerAreReplacedByItsNewOnes) {
+  program_.state.OfflineSources.set(1, QStringLiteral("Music from nas"), QStringLiteral("/my/own.txt"));
+  program_.state.OfflineSourceCount = 1;
+  receive(QStringLiteral("Music"), {QStringLiteral("Music.txt")});
+  EXPECT_TRUE(offer());
+  outcome_.received.clear();
+  receive(QStringLiteral("Music"), {QStringLiteral("Music.txt")});
+  receive(QStringLiteral("Films"), {QStringLiteral("Films.txt")});
+  EXPECT_TRUE(offer());
+  ASSERT_EQ(program_.state.OfflineSourceCount, 3);
+  EXPECT_EQ(program_.state.OfflineSources.path(1), QStringLiteral("/my/own.txt"));
+  EXPECT_EQ(program_.state.OfflineSources.description(2), QStringLiteral("Music from nas"));
+  EXPECT_EQ(program_.state.OfflineSources.path(2), path(QStringLiteral("Music (2)/Music.txt")));
+  EXPECT_EQ(program_.state.OfflineSources.description(3), QStringLiteral("Films from nas"));
+}
+
+TEST_F(PeerOfferTest, ListsOfTheSameNameThatComeTogetherAreAllAdded) {
+  receive(QStringLiteral("All"), {QStringLiteral("a.txt"), QStringLiteral("sub/a.txt")});
+  EXPECT_TRUE(offer());
+  EXPECT_EQ(program_.state.OfflineSourceCount, 2);
+}
+
 TEST_F(PeerOfferTest, AddsNothingThatTheUserDoesNotWant) {
   receive(QStringLiteral("Music"), {QStringLiteral("Music.txt")});
   EXPECT_FALSE(offer(false));

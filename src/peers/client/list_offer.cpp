@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QSet>
 
 namespace quorvin {
 
@@ -47,7 +48,9 @@ QString leftOut(std::size_t count) {
 /// Adds the lists of one conversation.
 class ListAdder {
  public:
-  ListAdder(const QString& peer, ProgramState& state) : peer_(peer), state_(state) {}
+  /// `folder` is where what the peer sends is kept, with a native separator at its end.
+  ListAdder(const QString& peer, const QString& folder, ProgramState& state)
+      : peer_(peer), folder_(folder), state_(state) {}
 
   /// Up to the end, or until the user ends it or the program closes.
   void addAll(const std::vector<ReceivedList>& lists, const UnpackArchive& unpack) {
@@ -59,7 +62,7 @@ class ListAdder {
   }
 
   const QStringList& problems() const { return problems_; }
-  int addedCount() const { return addedCount_; }
+  int addedCount() const { return static_cast<int>(setRows_.size()); }
 
  private:
   /// False when the user ends the unpacking.
@@ -107,16 +110,26 @@ class ListAdder {
     // The file of the sources has no way to write a quote.
     if (path.contains(u'"')) {
       problems_ += QStringLiteral("%1 has a name that no source can have.").arg(shownPeerText(path));
-    } else if (state_.OfflineSourceCount == SourceTable::kLastRow) {
-      tellFull();
-    } else {
-      const QString from = QStringLiteral(" from ") + peer_;
-      QString description = shownPeerText(name) + from;
-      description.replace(u'"', u'\'');
-      state_.OfflineSources.set(state_.OfflineSourceCount + 1, description, QDir::toNativeSeparators(path));
-      ++state_.OfflineSourceCount;
-      ++addedCount_;
+      return;
     }
+    QString description = shownPeerText(name) + QStringLiteral(" from ") + peer_;
+    description.replace(u'"', u'\'');
+    const int row = rowFor(description);
+    if (row > SourceTable::kLastRow) return tellFull();
+    state_.OfflineSources.set(row, description, QDir::toNativeSeparators(path));
+    state_.OfflineSourceCount = qMax(state_.OfflineSourceCount, row);
+    setRows_.insert(row);
+  }
+
+  /// That of the same list of the same peer as it came earlier, which the new one replaces; else the next
+  /// free one. Lists of one conversation do not replace each other.
+  int rowFor(const QString& description) const {
+    for (int row = 1; row <= state_.OfflineSourceCount; ++row) {
+      const bool isOfPeer = state_.OfflineSources.path(row).startsWith(folder_);
+      const bool isEarlier = isOfPeer && state_.OfflineSources.description(row) == description;
+      if (isEarlier && !setRows_.contains(row)) return row;
+    }
+    return state_.OfflineSourceCount + 1;
   }
 
   void tellFull() {
@@ -128,9 +141,10 @@ class ListAdder {
   }
 
   QString peer_;
+  QString folder_;
   ProgramState& state_;
   QStringList problems_;
-  int addedCount_ = 0;
+  QSet<int> setRows_;
 };
 
 }  // namespace
@@ -142,7 +156,8 @@ bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, Message
     return false;
   }
   if (!messages.askYesNo(question(outcome))) return false;
-  ListAdder adder(shownPeerText(outcome.peer), state);
+  const QString folder = withTrailingSeparator(folderOfFirst(outcome), nativePathStyle());
+  ListAdder adder(shownPeerText(outcome.peer), folder, state);
   adder.addAll(outcome.received, unpack);
   if (!adder.problems().isEmpty() && !state.QuitPending) messages.inform(shownProblems(adder.problems()));
   return adder.addedCount() > 0;

@@ -18,7 +18,8 @@ using UnpackArchive = std::function<bool(const QString& archivePath, const QStri
 
 /// Tells what came of a conversation, and asks whether the lists that have come are to be added to the
 /// offline sources. Then each archive is unpacked into a new folder of its own beside it, and every ".txt"
-/// file in it becomes an offline source; what cannot be unpacked or does not fit into the table any more is
+/// file in it becomes an offline source, in place of the one that the same list of this
+/// peer has made earlier; what cannot be unpacked or does not fit into the table any more is
 /// told. When the user ends the unpacking, what was unpacked of that archive is removed again, and it is told
 /// how many lists were left out. Nothing is told or asked of a conversation that the user cancelled before
 /// anything came, and nothing more is done or told once the program is closing. True when offline sources
