@@ -32,7 +32,7 @@ int listCache() {
 int clearCache() {
   int status = 0;
   const QString folder = userCacheFolder();
-  for (const QString& path : segmentFiles(folder) + filesAside(folder)) {
+  for (const QString& path : segmentFiles(folder) + earlierSegmentFiles(folder) + filesAside(folder)) {
     if (QFile::remove(path)) continue;
     std::fprintf(stderr, "quorvin-cli: %s could not be removed\n", path.toLocal8Bit().constData());
     status = 2;

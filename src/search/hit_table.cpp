@@ -1,8 +1,8 @@
 #include "search/hit_table.h"
 
 #include "dates/general_number.h"
-#include "search/match/search_words.h"
-#include "search/segment/growing_segment.h"
+#include "search/match/search_query.h"
+#include "search/segment/segment.h"
 
 #include <algorithm>
 
@@ -34,9 +34,10 @@ FoundEntry& HitTable::hit(std::int64_t row) {
   return pages_[static_cast<std::size_t>(row / kPageSize)][static_cast<std::size_t>(row % kPageSize)];
 }
 
-const HitTable::ImageRows& HitTable::imageRows(std::int64_t row) const {
-  const auto next = std::upper_bound(segments_.begin(), segments_.end(), row,
-                                     [](std::int64_t r, const ImageRows& rows) { return r < rows.firstRow; });
+const HitTable::SegmentRows& HitTable::segmentRows(std::int64_t row) const {
+  const auto next =
+      std::upper_bound(segments_.begin(), segments_.end(), row,
+                       [](std::int64_t r, const SegmentRows& rows) { return r < rows.firstRow; });
   return *std::prev(next);
 }
 
@@ -53,7 +54,7 @@ std::int64_t HitTable::valueRowOf(std::int64_t row) const {
 HitRow HitTable::row(std::int64_t row) const {
   HitRow result;
   result.match = hit(row).match;
-  result.kind = imageRows(row).kind;
+  result.kind = segmentRows(row).kind;
   try {
     readRow(row, result);
   } catch (const DamagedSegment&) {
@@ -64,20 +65,20 @@ HitRow HitTable::row(std::int64_t row) const {
 }
 
 void HitTable::readRow(std::int64_t row, HitRow& result) const {
-  const Segment& segment = *imageRows(row).segment;
+  const Segment& segment = *segmentRows(row).segment;
   const std::uint32_t entry = hit(row).entry;
   result.volume = segment.volume(entry);
   result.folder = segment.folder(entry);
   result.name = segment.name(entry);
   const std::int64_t valueRow = valueRowOf(row);
   if (valueRow == kNoRow) return;
-  const EntryValues values = imageRows(valueRow).segment->values(hit(valueRow).entry);
+  const EntryValues values = segmentRows(valueRow).segment->values(hit(valueRow).entry);
   result.size = values.size;
   result.date = values.date;
 }
 
 SourceKind HitTable::kind(std::int64_t row) const {
-  return imageRows(row).kind;
+  return segmentRows(row).kind;
 }
 
 void HitTable::clear() {

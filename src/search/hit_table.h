@@ -57,7 +57,7 @@ class HitTable : public HitSink {
 
  private:
   /// Rows that stand one after another and belong to one segment.
-  struct ImageRows {
+  struct SegmentRows {
     std::int64_t firstRow;
     std::shared_ptr<const Segment> segment;
     SourceKind kind;
@@ -78,14 +78,14 @@ class HitTable : public HitSink {
   void readRow(std::int64_t row, HitRow& result) const;
   const FoundEntry& hit(std::int64_t row) const;
   FoundEntry& hit(std::int64_t row);
-  const ImageRows& imageRows(std::int64_t row) const;
+  const SegmentRows& segmentRows(std::int64_t row) const;
   std::int64_t valueRowOf(std::int64_t row) const;
   bool findOwnValues(const Segment& segment, std::span<const FoundEntry> hits);
   void noteCarriedRow(std::int64_t row);
 
   std::vector<std::unique_ptr<FoundEntry[]>> pages_;
   std::int64_t rowCount_ = 0;
-  std::vector<ImageRows> segments_;
+  std::vector<SegmentRows> segments_;
   std::vector<CarriedRows> carried_;
   /// Of the hits at hand: the entry has values of its own.
   std::vector<std::uint8_t> ownValues_;

@@ -3,6 +3,7 @@
 #include "dates/general_number.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
+#include "files/path_style.h"
 #include "platform/text_encoding.h"
 
 #include <QScopeGuard>
@@ -101,7 +102,7 @@ void SearchRun::searchOnlineSources() {
 bool SearchRun::searchMainDataFile() {
   const QString& file = parts_.state.TextFile;
   if (file.isEmpty() || isEnding()) return true;
-  const QString path = isTakenAsItStands(file, parts_.style) ? file : parts_.state.LocalFolder + file;
+  const QString path = isTakenAsItStands(file, nativePathStyle()) ? file : parts_.state.LocalFolder + file;
   return searchIfFound(path, SourceKind::MainDataFile);
 }
 

@@ -1,7 +1,6 @@
 // The search run: what the Find button starts.
 #pragma once
 
-#include "files/path_style.h"
 #include "platform/message_box.h"
 #include "search/listing_scan.h"
 #include "state/program_state.h"
@@ -54,7 +53,6 @@ struct RunParts {
   /// Whether the program is closing: the run then ends at its next yield, without further sources or
   /// messages.
   std::function<bool()> endRequested = [] { return false; };
-  PathStyle style = nativePathStyle();
 };
 
 /// Runs a search over all sources. User-interface thread only.

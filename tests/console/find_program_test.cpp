@@ -157,6 +157,7 @@ TEST_F(FindProgram, ClearRemovesTheCacheFiles) {
   // As a program leaves it that is ended while it writes.
   folder_.writeFile(u"cache/quorvin/.quorvin-1-0123456789abcdef.part"_qs, "begun");
   EXPECT_TRUE(run({u"cache"_qs}).output.endsWith(u"\n5\t(unfinished)\n"_qs));
+  folder_.writeFile(u"cache/quorvin/0123456789abcdef.qimage"_qs, "of an earlier version");
   EXPECT_EQ(run({u"cache"_qs, u"--clear"_qs}).status, 0);
   EXPECT_EQ(run({u"cache"_qs}).output, QString());
   EXPECT_TRUE(QDir(folder_.pathOf(u"cache/quorvin"_qs))

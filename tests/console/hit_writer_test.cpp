@@ -1,6 +1,6 @@
 #include "console/hit_writer.h"
 
-#include "search/segment/growing_segment.h"
+#include "search/segment/segment.h"
 
 #include <gtest/gtest.h>
 

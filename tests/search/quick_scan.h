@@ -41,7 +41,7 @@ class RepeatedSearch {
 /// How a listing is cut up on its way through the scan.
 struct QuickScanLimits {
   std::size_t chunkSize;
-  /// Listing bytes in an segment.
+  /// Listing bytes in a segment.
   std::size_t segmentSize;
   /// Entries searched at a time.
   std::uint32_t entriesAtOnce;

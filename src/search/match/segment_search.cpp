@@ -65,7 +65,7 @@ void SegmentSearch::search(const Segment& segment, std::uint32_t first, std::uin
   if (wordDecides_) {
     takeAllCandidates(first, hits);
   } else {
-    score(segment.arrays(), first, hits);
+    score(first, hits);
   }
 }
 
@@ -73,7 +73,7 @@ std::int64_t SegmentSearch::count(const Segment& segment, std::uint32_t first, s
   if (!findCandidates(segment, first, last)) return 0;
   if (wordDecides_) return candidateCount();
   counted_.clear();
-  score(segment.arrays(), first, counted_);
+  score(first, counted_);
   return static_cast<std::int64_t>(counted_.size());
 }
 
@@ -88,7 +88,7 @@ bool SegmentSearch::findCandidates(const Segment& segment, std::uint32_t first, 
     entryWords_.find(segment.arrays().entries, first, last, inEntries_, inFolders_.all(), mostMissing);
   }
   candidates_ = inEntries_.touched();
-  addCandidatesOfFolders(segment.arrays(), first, last);
+  addCandidatesOfFolders(first, last);
   return true;
 }
 
@@ -99,13 +99,13 @@ std::int64_t SegmentSearch::candidateCount() const {
 }
 
 void SegmentSearch::searchFolders(const Segment& segment, std::uint32_t first, std::uint32_t last) {
-  firstBlock_ = segment.blockOf(first);
-  lastBlock_ = firstNotBelow(segment.arrays().blockStarts, firstBlock_ + 1, last);
+  blockStarts_ = segment.arrays().blockStarts.all();
+  firstBlock_ = blockAt(blockStarts_, first);
+  lastBlock_ = firstNotBelow(blockStarts_, firstBlock_ + 1, last);
   folderWords_.find(segment.arrays().folders, firstBlock_, lastBlock_, inFolders_);
 }
 
-void SegmentSearch::addCandidatesOfFolders(const SegmentArrays& arrays, std::uint32_t first,
-                                           std::uint32_t last) {
+void SegmentSearch::addCandidatesOfFolders(std::uint32_t first, std::uint32_t last) {
   if (query_.emptyWords() >= query_.fewestForHit()) {
     setBits(candidates_, 0, last - first);
     return;
@@ -115,14 +115,13 @@ void SegmentSearch::addCandidatesOfFolders(const SegmentArrays& arrays, std::uin
       const std::uint32_t block = firstBlock_ + static_cast<std::uint32_t>(i * 64) +
                                   static_cast<std::uint32_t>(std::countr_zero(left));
       if (!wordDecides_ && countOf(inFolders_.in(block)) < query_.fewestForHit()) continue;
-      const std::uint32_t end = block + 1 < lastBlock_ ? arrays.blockStarts[block + 1] : last;
-      setBits(candidates_, std::max(arrays.blockStarts[block], first) - first, end - first);
+      const std::uint32_t end = block + 1 < lastBlock_ ? blockStarts_[block + 1] : last;
+      setBits(candidates_, std::max(blockStarts_[block], first) - first, end - first);
     }
   }
 }
 
-void SegmentSearch::score(const SegmentArrays& arrays, std::uint32_t first,
-                          std::vector<FoundEntry>& hits) const {
+void SegmentSearch::score(std::uint32_t first, std::vector<FoundEntry>& hits) const {
   const bool foldersMatter = !inFolders_.none();
   std::uint32_t block = firstBlock_;
   for (std::size_t i = 0; i < candidates_.size(); ++i) {
@@ -131,7 +130,7 @@ void SegmentSearch::score(const SegmentArrays& arrays, std::uint32_t first,
           first + static_cast<std::uint32_t>(i * 64) + static_cast<std::uint32_t>(std::countr_zero(left));
       WordSet seen = inEntries_.in(entry);
       if (foldersMatter) {
-        while (block + 1 < lastBlock_ && arrays.blockStarts[block + 1] <= entry) ++block;
+        while (block + 1 < lastBlock_ && blockStarts_[block + 1] <= entry) ++block;
         seen = seen | inFolders_.in(block);
       }
       const int found = countOf(seen);

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace quorvin {
@@ -35,8 +36,8 @@ class SegmentSearch {
  private:
   bool findCandidates(const Segment& segment, std::uint32_t first, std::uint32_t last);
   void searchFolders(const Segment& segment, std::uint32_t first, std::uint32_t last);
-  void addCandidatesOfFolders(const SegmentArrays& arrays, std::uint32_t first, std::uint32_t last);
-  void score(const SegmentArrays& arrays, std::uint32_t first, std::vector<FoundEntry>& hits) const;
+  void addCandidatesOfFolders(std::uint32_t first, std::uint32_t last);
+  void score(std::uint32_t first, std::vector<FoundEntry>& hits) const;
   std::int64_t candidateCount() const;
   void takeAllCandidates(std::uint32_t first, std::vector<FoundEntry>& hits) const;
   /// How many words of the query are found where those of `seen` are, repetitions and empty ones counted.
@@ -56,6 +57,8 @@ class SegmentSearch {
   WordSearch folderWords_;
   SeenWords inEntries_;
   SeenWords inFolders_;
+  /// Of the segment at hand: the first entry of each block; the blocks that are searched.
+  std::span<const std::uint32_t> blockStarts_;
   std::uint32_t firstBlock_ = 0;
   std::uint32_t lastBlock_ = 0;
   /// A bit for each entry that has to be looked at.

@@ -3,6 +3,7 @@
 #include "search/match/word_scan.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace quorvin {
 
@@ -99,20 +100,19 @@ int WordSearch::ruleOut(const TrigramSet* trigrams, const Slack& slack) {
   return missing;
 }
 
-void WordSearch::findInPage(const TextTable& table, Stretch stretch, SeenWords& seen, const Slack& slack) {
+void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen,
+                            const Slack& slack) {
   const TrigramSet* trigrams =
       table.trigrams.empty() ? nullptr : &table.trigrams[stretch.first / kTextsPerPage];
-  if (trigrams != nullptr) table.require(trigrams, sizeof(TrigramSet));
   int missing = ruleOut(trigrams, slack);
-  bool textChecked = false;
+  std::optional<std::string_view> text;
   bool endsKnown = false;
-  makeRoom((stretch.text.size() + 63) / 64);
+  makeRoom((stretch.place.size + 63) / 64);
   for (std::size_t word = 0; word < needles_.size() && missing <= slack.most; ++word) {
     Needle& needle = needles_[word];
     if (needle.isRuledOut) continue;
-    if (!textChecked) stretch.text = table.toSearch(stretch.text);
-    textChecked = true;
-    needle.isLikely = findTexts(stretch.text, needle, endsKnown);
+    if (!text) text = table.toSearch(stretch.place);
+    needle.isLikely = findTexts(*text, needle, endsKnown);
     if (needle.isLikely) {
       seeTexts(stretch, word, seen);
     } else if (!slack.elsewhere.has(word)) {

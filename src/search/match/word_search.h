@@ -96,7 +96,7 @@ class WordSearch {
   };
   /// Texts of one page, from a marked one on, and the part of the answer that is wanted of them.
   struct Stretch {
-    std::string_view text;
+    TextTable::Stretch place;
     std::uint32_t firstText;
     std::uint32_t first;
     std::uint32_t last;
@@ -108,7 +108,7 @@ class WordSearch {
   };
 
   void makeRoom(std::size_t blocks);
-  void findInPage(const TextTable& table, Stretch stretch, SeenWords& seen, const Slack& slack);
+  void findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen, const Slack& slack);
   int ruleOut(const TrigramSet* trigrams, const Slack& slack);
   bool findTexts(std::string_view text, const Needle& needle, bool& endsKnown);
   void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);

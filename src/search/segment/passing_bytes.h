@@ -2,7 +2,7 @@
 #pragma once
 
 #include "files/random_access_file.h"
-#include "search/segment/byte_check.h"
+#include "search/segment/checked_span.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,7 @@
 #include "search/segment/segment.h"
 
 #include "platform/text_encoding.h"
+#include "search/format/listing_line.h"
 
 #include <algorithm>
 
@@ -15,25 +16,17 @@ const Record* recordOf(std::span<const Record> records, std::uint32_t entry) {
   return found != records.end() && found->entry == entry ? &*found : nullptr;
 }
 
+constexpr std::uint32_t kNoBlock = UINT32_MAX;
+
 }  // namespace
 
-std::uint32_t Segment::blockOf(std::uint32_t entry) const {
-  const auto& starts = arrays_.blockStarts;
-  require(starts.data(), starts.size_bytes());
-  return static_cast<std::uint32_t>(std::upper_bound(starts.begin(), starts.end(), entry) - starts.begin()) -
-         1;
-}
-
 std::string_view Segment::volumeOfBlock(std::uint32_t block) const {
-  const auto& runs = arrays_.volumes;
-  require(runs.data(), runs.size_bytes());
+  const auto runs = arrays_.volumes.all();
   const auto next = std::upper_bound(
       runs.begin(), runs.end(), block,
       [](std::uint32_t b, const SegmentArrays::VolumeRun& run) { return b < run.firstBlock; });
   const std::uint32_t start = std::prev(next)->textStart;
-  const std::string_view volume = arrays_.volumeTexts.substr(start, next->textStart - start);
-  require(volume.data(), volume.size());
-  return volume;
+  return textOf(arrays_.volumeTexts.part(start, next->textStart - start));
 }
 
 QString Segment::volume(std::uint32_t entry) const {
@@ -50,7 +43,6 @@ QString Segment::name(std::uint32_t entry) const {
 
 ValueState Segment::valueState(std::uint32_t entry) const {
   if (allOwn(entry, entry)) return ValueState::Own;
-  require(&arrays_.values[entry], sizeof(CompactValues));
   switch (arrays_.values[entry].second) {
     case CompactValues::kAbsent:
       return ValueState::Absent;
@@ -63,8 +55,7 @@ ValueState Segment::valueState(std::uint32_t entry) const {
 
 bool Segment::allOwn(std::uint32_t first, std::uint32_t last) const {
   if (arrays_.allOwn) return true;
-  const std::span<const std::uint64_t> words = arrays_.notOwn.subspan(first / 64, last / 64 - first / 64 + 1);
-  require(words.data(), words.size_bytes());
+  const auto words = arrays_.notOwn.part(first / 64, last / 64 - first / 64 + 1);
   const std::uint64_t firstBits = ~std::uint64_t{0} << (first % 64);
   const std::uint64_t lastBits = ~std::uint64_t{0} >> (63 - last % 64);
   if (words.size() == 1) return (words.front() & firstBits & lastBits) == 0;
@@ -75,17 +66,117 @@ bool Segment::allOwn(std::uint32_t first, std::uint32_t last) const {
 
 EntryValues Segment::values(std::uint32_t entry) const {
   const CompactValues& compact = arrays_.values[entry];
-  require(&compact, sizeof compact);
   if (compact.second != CompactValues::kKeptAside) return expand(compact);
-  require(arrays_.wideValues.data(), arrays_.wideValues.size_bytes());
-  const auto* wide = recordOf(arrays_.wideValues, entry);
+  const auto* wide = recordOf(arrays_.wideValues.all(), entry);
   return wide == nullptr ? EntryValues{} : EntryValues{wide->size, wide->date};
 }
 
 std::int64_t Segment::unreadableLine(std::uint32_t entry) const {
-  require(arrays_.unreadable.data(), arrays_.unreadable.size_bytes());
-  const auto* unreadable = recordOf(arrays_.unreadable, entry);
+  const auto* unreadable = recordOf(arrays_.unreadable.all(), entry);
   return unreadable == nullptr ? 0 : unreadable->line;
+}
+
+void GrowingSegment::beginBlock(std::string_view volume, std::string_view folder, bool folderIsAscii) {
+  const std::uint32_t block = folders_.count();
+  folders_.add(folder, folderIsAscii);
+  blockStarts_.push_back(entries_.count());
+  if (!volumes_.empty()) {
+    const SegmentArrays::VolumeRun& last = volumes_[volumes_.size() - 2];
+    if (std::string_view(volumeTexts_).substr(last.textStart) == volume) return;
+    volumes_.pop_back();
+  }
+  volumes_.push_back({block, static_cast<std::uint32_t>(volumeTexts_.size())});
+  volumeTexts_ += volume;
+  volumes_.push_back({kNoBlock, static_cast<std::uint32_t>(volumeTexts_.size())});
+}
+
+void GrowingSegment::addEntry(std::string_view name, bool ascii) {
+  makeRoomForValues();
+  entries_.add(name, ascii);
+}
+
+void GrowingSegment::addEntryColumns(const char* line, std::size_t columns, bool trimmed) {
+  makeRoomForValues();
+  entries_.addColumns(line, columns, trimmed);
+}
+
+void GrowingSegment::makeRoomForValues() {
+  if (entries_.count() % 64 == 0) notOwn_.push_back(0);
+  values_.push_back({0, CompactValues::kAbsent});
+}
+
+void GrowingSegment::setValues(std::uint32_t entry, ValueState state, const EntryValues& values,
+                               std::int64_t line) {
+  const CompactValues compacted = compact(state, values);
+  values_[entry] = compacted;
+  if (state != ValueState::Own) {
+    allOwn_ = false;
+    notOwn_[entry / 64] |= std::uint64_t{1} << (entry % 64);
+  }
+  if (compacted.second == CompactValues::kKeptAside)
+    wideValues_.push_back({entry, 0, values.size, values.date});
+  if (compacted.second == CompactValues::kUnreadable) unreadable_.push_back({line, entry, 0});
+}
+
+void GrowingSegment::publish() {
+  arrays_.entries = entries_.table();
+  arrays_.folders = folders_.table();
+  arrays_.blockStarts = blockStarts_;
+  arrays_.volumes = volumes_;
+  arrays_.volumeTexts = volumeTexts_;
+  arrays_.values = values_;
+  arrays_.allOwn = allOwn_;
+  arrays_.notOwn = notOwn_;
+  arrays_.wideValues = wideValues_;
+  arrays_.unreadable = unreadable_;
+}
+
+void GrowingSegment::complete() {
+  entries_.completeTrigrams();
+  folders_.completeTrigrams();
+  publish();
+}
+
+void GrowingSegment::clear() {
+  entries_.clear();
+  folders_.clear();
+  blockStarts_.clear();
+  volumes_.clear();
+  volumeTexts_.clear();
+  values_.clear();
+  allOwn_ = true;
+  notOwn_.clear();
+  wideValues_.clear();
+  unreadable_.clear();
+  publish();
+}
+
+std::size_t GrowingSegment::memorySize() const {
+  return entries_.memorySize() + folders_.memorySize() + volumeTexts_.capacity() +
+         blockStarts_.capacity() * sizeof(std::uint32_t) +
+         volumes_.capacity() * sizeof(SegmentArrays::VolumeRun) + values_.capacity() * sizeof(CompactValues) +
+         notOwn_.capacity() * sizeof(std::uint64_t) +
+         wideValues_.capacity() * sizeof(SegmentArrays::WideValues) +
+         unreadable_.capacity() * sizeof(SegmentArrays::UnreadableEntry);
+}
+
+std::shared_ptr<const Segment> copyOfEntries(const Segment& segment, std::span<const std::uint32_t> chosen) {
+  auto copy = std::make_shared<GrowingSegment>();
+  std::uint32_t block = kNoBlock;
+  std::uint32_t last = UINT32_MAX;
+  for (const std::uint32_t entry : chosen) {
+    const std::uint32_t own = segment.blockOf(entry);
+    if (own != block) {
+      const std::string folder = segment.folderOfBlock(own);
+      copy->beginBlock(segment.volumeOfBlock(own), folder, isAscii(folder));
+    }
+    block = own;
+    const std::string name = segment.arrays().entries.listedText(entry);
+    copy->addEntry(name, isAscii(name));
+    copy->setValues(++last, segment.valueState(entry), segment.values(entry), segment.unreadableLine(entry));
+  }
+  copy->publish();
+  return copy;
 }
 
 }  // namespace quorvin

@@ -6,15 +6,18 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvin {
 
-/// The arrays of an segment; somebody else owns them.
+/// The arrays of a segment; somebody else owns them.
 struct SegmentArrays {
   /// From this block on (until the next run) the volume is `volume`.
   struct VolumeRun {
@@ -39,23 +42,30 @@ struct SegmentArrays {
   /// One text for each directory block.
   TextTable folders;
   /// The first entry of each block.
-  std::span<const std::uint32_t> blockStarts;
+  CheckedSpan<std::uint32_t> blockStarts;
   /// Ascending; the last one, of no block, tells where volumeTexts ends.
-  std::span<const VolumeRun> volumes;
-  std::string_view volumeTexts;
-  std::span<const CompactValues> values;
-  /// Every entry has values of its own, as nearly always: then nobody need look at each.
+  CheckedSpan<VolumeRun> volumes;
+  CheckedSpan<char> volumeTexts;
+  CheckedSpan<CompactValues> values;
+  /// Every entry has values of its own, which is nearly always so; then nobody needs to look at each.
   bool allOwn = false;
   /// A bit for each entry: it has none of its own, or they could not be read.
-  std::span<const std::uint64_t> notOwn;
+  CheckedSpan<std::uint64_t> notOwn;
   /// Both ascending by entry.
-  std::span<const WideValues> wideValues;
-  std::span<const UnreadableEntry> unreadable;
+  CheckedSpan<WideValues> wideValues;
+  CheckedSpan<UnreadableEntry> unreadable;
 };
+
+/// The block of `entry`, where `starts` are the first entries of the blocks.
+inline std::uint32_t blockAt(std::span<const std::uint32_t> starts, std::uint32_t entry) {
+  return static_cast<std::uint32_t>(std::upper_bound(starts.begin(), starts.end(), entry) - starts.begin()) -
+         1;
+}
 
 /// The lower-cased entry texts of a stretch of a listing, one after another, and beside them all that is
 /// needed to show a hit. Entries are numbered from 0 in file order; those under one volume and folder form a
-/// block. What an segment says of an entry never changes, but an segment that is still being built grows.
+/// block. What a segment says about an entry never changes, but a segment that is still being built grows.
+/// Whatever reads one out of a kept file may throw DamagedSegment.
 class Segment {
  public:
   virtual ~Segment() = default;
@@ -72,7 +82,7 @@ class Segment {
   const SegmentArrays& arrays() const { return arrays_; }
 
   /// The block that `entry` stands in.
-  std::uint32_t blockOf(std::uint32_t entry) const;
+  std::uint32_t blockOf(std::uint32_t entry) const { return blockAt(arrays_.blockStarts.all(), entry); }
 
   /// What is shown of an entry, `entry` < entryCount(): as listed.
   QString volume(std::uint32_t entry) const;
@@ -93,8 +103,54 @@ class Segment {
 
  protected:
   Segment() = default;
-  void require(const void* data, std::size_t size) const { arrays_.entries.require(data, size); }
   SegmentArrays arrays_;
 };
+
+/// A segment in memory that is being built: owns the arrays that it grows. What has been added is seen
+/// through Segment after publish().
+class GrowingSegment : public Segment {
+ public:
+  /// Volume and folder, as listed and UTF-8, of the entries that follow. Not twice without an entry between.
+  void beginBlock(std::string_view volume, std::string_view folder, bool folderIsAscii);
+
+  /// One entry: its text as listed, UTF-8. Its values are to be set before anyone asks for them.
+  void addEntry(std::string_view name, bool ascii);
+  /// The same for the first columns of an ASCII line; see TextTableBuilder::addColumns.
+  void addEntryColumns(const char* line, std::size_t columns, bool trimmed);
+
+  /// What is known of size and date of `entry`, and the line it stands on. Entries may be left out, but come
+  /// in ascending order.
+  void setValues(std::uint32_t entry, ValueState state, const EntryValues& values, std::int64_t line);
+
+  /// Makes all that has been added so far visible.
+  void publish();
+
+  /// To be called once no more entries come: makes what lets later searches skip parts of the segment.
+  void complete();
+
+  /// Forgets everything and keeps the memory for the next entries.
+  void clear();
+
+  /// Bytes of memory that the arrays take up.
+  std::size_t memorySize() const;
+
+ private:
+  void makeRoomForValues();
+
+  TextTableBuilder entries_;
+  TextTableBuilder folders_;
+  std::vector<std::uint32_t> blockStarts_;
+  std::vector<SegmentArrays::VolumeRun> volumes_;
+  std::string volumeTexts_;
+  std::vector<CompactValues> values_;
+  /// No value that was set so far is missing or unreadable.
+  bool allOwn_ = true;
+  std::vector<std::uint64_t> notOwn_;
+  std::vector<SegmentArrays::WideValues> wideValues_;
+  std::vector<SegmentArrays::UnreadableEntry> unreadable_;
+};
+
+/// A segment of the entries `chosen` of `segment` alone, in that order, which must be ascending.
+std::shared_ptr<const Segment> copyOfEntries(const Segment& segment, std::span<const std::uint32_t> chosen);
 
 }  // namespace quorvin

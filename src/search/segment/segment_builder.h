@@ -1,8 +1,8 @@
 // Turning the text of a listing into segments.
 #pragma once
 
-#include "search/segment/growing_segment.h"
 #include "search/format/line_marks.h"
+#include "search/segment/segment.h"
 
 #include <QLocale>
 
@@ -30,8 +30,8 @@ class SegmentBuilder {
   /// Adds one line, given without its line end, that addLines left over; the same holds for its bytes.
   void addLine(std::string_view line);
 
-  /// Reads size and date of entry `entry` of the segment, if that has not been done; entries come in ascending
-  /// order.
+  /// Reads size and date of entry `entry` of the segment, if that has not been done; entries come in
+  /// ascending order.
   void readValues(std::uint32_t entry);
   void readAllValues();
 

@@ -1,8 +1,8 @@
 #include "search/segment/segment_file.h"
 
 #include "faults/runtime_fault.h"
-#include "search/segment/byte_check.h"
-#include "search/segment/mapped_segment.h"
+#include "files/mapped_file.h"
+#include "search/segment/passing_bytes.h"
 
 #include <QDataStream>
 #include <QDir>
@@ -10,7 +10,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <concepts>
 #include <cstring>
+#include <utility>
 
 namespace quorvin {
 
@@ -20,7 +22,7 @@ namespace {
 /// is touched: of larger ones a window would seem to use nearly all, whatever little it looked at.
 constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
 
-constexpr char kMagic[8] = {'Q', 'V', 'I', 'M', 'A', 'G', 'E', '5'};
+constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '6'};
 /// Arrays begin at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 
@@ -96,25 +98,123 @@ bool readDirectoryOf(const QString& path, Directory& directory) {
   return readDirectory(bytes, directory);
 }
 
-/// Lays the arrays of an segment out one behind another.
+/// Calls `visit(array)` for each array of `arrays`, in the order of the file; it can be assigned to.
+template <typename Visit>
+void visitArrays(SegmentArrays& arrays, Visit&& visit) {
+  for (TextTable* table : {&arrays.entries, &arrays.folders}) {
+    visit(table->trigrams);
+    visit(table->marks);
+    visit(table->folded);
+    visit(table->hasUpper);
+    visit(table->upperBits);
+    visit(table->exceptions);
+    visit(table->exceptionTexts);
+  }
+  visit(arrays.blockStarts);
+  visit(arrays.volumes);
+  visit(arrays.volumeTexts);
+  visit(arrays.values);
+  visit(arrays.notOwn);
+  visit(arrays.wideValues);
+  visit(arrays.unreadable);
+}
+
+/// Texts are searched beyond their end, so bytes to read stand behind them.
+template <typename Element>
+constexpr std::size_t kPaddingBehind = std::same_as<Element, char> ? kScanPadding : 0;
+
+/// Points arrays into a mapped segment, one after another, each place checked against the segment's size.
+class ArrayPlacer {
+ public:
+  ArrayPlacer(std::span<const std::byte> bytes, const SegmentRecord& record, const ByteCheck& check)
+      : bytes_(bytes), record_(record), check_(check) {}
+
+  template <typename Element>
+  void operator()(CheckedSpan<Element>& array) {
+    const auto [offset, count] = record_.arrays[next_++];
+    const std::size_t padding = kPaddingBehind<Element>;
+    const bool inside = offset <= bytes_.size() && padding <= bytes_.size() - offset &&
+                        count <= (bytes_.size() - offset - padding) / sizeof(Element);
+    if (!inside || offset % alignof(Element) != 0) throw DamagedSegment();
+    array = CheckedSpan<Element>(bytes_, offset, count, check_);
+  }
+
+ private:
+  std::span<const std::byte> bytes_;
+  const SegmentRecord& record_;
+  const ByteCheck& check_;
+  std::size_t next_ = 0;
+};
+
+/// What segments that are searched only once share: their texts pass through it.
+struct PassingBuffers {
+  PassingBuffer entries;
+  PassingBuffer folders;
+};
+
+/// A segment whose arrays lie in a mapped file.
+class MappedSegment : public Segment {
+ public:
+  /// `sums` are the checksums of the segment's bytes. Throws RuntimeFault when the file cannot be mapped, and
+  /// DamagedSegment when the record does not fit the segment. `buffers` may be null; else it is shared, since
+  /// nobody knows which of the segments of a file lives longest.
+  MappedSegment(const QString& path, const SegmentRecord& record, std::vector<std::uint64_t> sums,
+                std::shared_ptr<PassingBuffers> buffers = nullptr)
+      : file_(path, static_cast<std::int64_t>(record.offset), static_cast<std::size_t>(record.size)),
+        sums_(std::move(sums)),
+        check_(file_.bytes(), sums_),
+        buffers_(std::move(buffers)) {
+    visitArrays(arrays_, ArrayPlacer(file_.bytes(), record, check_));
+    arrays_.entries.count = static_cast<std::uint32_t>(record.entryCount);
+    arrays_.folders.count = static_cast<std::uint32_t>(record.blockCount);
+    arrays_.allOwn = record.allOwn != 0;
+    if (buffers_) readInPassing(path, static_cast<std::int64_t>(record.offset));
+  }
+
+  void searched() const override {
+    if (!passing_) return;
+    passing_->entries.rest();
+    passing_->folders.rest();
+  }
+
+  bool foundDamage() const override { return check_.foundDamage(); }
+
+ private:
+  struct Passing {
+    PassingBytes entries;
+    PassingBytes folders;
+  };
+
+  void readInPassing(const QString& path, std::int64_t offset) {
+    passing_.reset(
+        new Passing{{path, offset, check_, buffers_->entries}, {path, offset, check_, buffers_->folders}});
+    arrays_.entries.passing = &passing_->entries;
+    arrays_.folders.passing = &passing_->folders;
+  }
+
+  MappedFile file_;
+  std::vector<std::uint64_t> sums_;
+  ByteCheck check_;
+  std::shared_ptr<PassingBuffers> buffers_;
+  /// Only where there are buffers.
+  std::unique_ptr<Passing> passing_;
+};
+
+/// Lays the arrays of a segment out one behind another.
 class SegmentLayout {
  public:
   explicit SegmentLayout(SegmentRecord& record) : record_(record) {}
 
   template <typename Element>
-  void operator()(std::span<const Element>& array) {
-    add(array.size(), array.size_bytes(), 0);
+  void operator()(const CheckedSpan<Element>& array) {
+    record_.arrays[next_++] = {size_, array.size()};
+    const std::size_t bytes = array.sizeInBytes() + kPaddingBehind<Element>;
+    size_ += (bytes + kArrayAlignment - 1) / kArrayAlignment * kArrayAlignment;
   }
-  void operator()(std::string_view& text) { add(text.size(), text.size(), kScanPadding); }
 
   std::uint64_t size() const { return size_; }
 
  private:
-  void add(std::size_t count, std::size_t bytes, std::size_t padding) {
-    record_.arrays[next_++] = {size_, count};
-    size_ += (bytes + padding + kArrayAlignment - 1) / kArrayAlignment * kArrayAlignment;
-  }
-
   SegmentRecord& record_;
   std::size_t next_ = 0;
   std::uint64_t size_ = 0;
@@ -126,10 +226,10 @@ class SegmentCopier {
   SegmentCopier(std::vector<std::byte>& bytes, const SegmentRecord& record)
       : bytes_(bytes), record_(record) {}
 
-  template <typename Array>
-  void operator()(Array& array) {
-    const std::size_t size = array.size() * sizeof(array[0]);
-    if (size > 0) std::memcpy(bytes_.data() + record_.arrays[next_].offset, array.data(), size);
+  template <typename Element>
+  void operator()(const CheckedSpan<Element>& array) {
+    const auto from = std::as_bytes(array.all());
+    if (!from.empty()) std::memcpy(bytes_.data() + record_.arrays[next_].offset, from.data(), from.size());
     ++next_;
   }
 

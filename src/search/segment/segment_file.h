@@ -17,7 +17,7 @@ namespace quorvin {
 /// piece; for more they are mapped, so that a later search need not read them again.
 enum class SegmentUse { Once, Repeated };
 
-/// What an segment file belongs to: a listing as it stood, and the rules by which it was read.
+/// What a segment file belongs to: a listing as it stood, and the rules by which it was read.
 struct SegmentKey {
   QString listing;
   FileIdentity identity;
@@ -27,11 +27,11 @@ struct SegmentKey {
   bool operator==(const SegmentKey&) const = default;
 };
 
-/// One segment of an segment file: where its bytes stand and where each array stands in them.
+/// One segment of a segment file: where its bytes stand and where each array stands in them.
 struct SegmentRecord {
   static constexpr std::size_t kArrayCount = 21;
   struct ArrayPlace {
-    /// Bytes from the segment's begin; number of elements.
+    /// Bytes from the segment's start; number of elements.
     std::uint64_t offset;
     std::uint64_t count;
   };

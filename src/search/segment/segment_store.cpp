@@ -16,13 +16,30 @@ namespace quorvin {
 
 namespace {
 
-constexpr char16_t kSegmentEnding[] = u".qimage";
+constexpr char16_t kSegmentEnding[] = u".qsegments";
+/// Of files that earlier versions kept; nothing reads them any more.
+constexpr char16_t kEarlierEnding[] = u".qimage";
 
 QString readingRulesOf(const QLocale& locale) {
   const QStringList rules = {locale.name(), locale.dateFormat(QLocale::ShortFormat),
                              locale.timeFormat(QLocale::LongFormat),
                              QString::number(QDate::currentDate().year())};
   return rules.join(u'\n');
+}
+
+QStringList filesThatFit(const QString& folderPath, const QStringList& patterns) {
+  const QDir folder(folderPath);
+  QStringList paths;
+  for (const QString& name : folder.entryList(patterns, QDir::Files, QDir::Name)) {
+    paths += folder.filePath(name);
+  }
+  return paths;
+}
+
+/// Removes what is of no use to anybody.
+void tidy(const QString& cacheFolder) {
+  removeLeftovers(cacheFolder);
+  for (const QString& path : earlierSegmentFiles(cacheFolder)) QFile::remove(path);
 }
 
 }  // namespace
@@ -41,13 +58,12 @@ QString segmentFilePath(const QString& cacheFolder, const QString& listing) {
 }
 
 QStringList segmentFiles(const QString& cacheFolder) {
-  const QDir folder(cacheFolder);
-  QStringList paths;
-  for (const QString& name :
-       folder.entryList({u'*' + QString::fromUtf16(kSegmentEnding)}, QDir::Files, QDir::Name)) {
-    paths += folder.filePath(name);
-  }
-  return paths;
+  return filesThatFit(cacheFolder, {u'*' + QString::fromUtf16(kSegmentEnding)});
+}
+
+QStringList earlierSegmentFiles(const QString& cacheFolder) {
+  const QString files = u'*' + QString::fromUtf16(kEarlierEnding);
+  return filesThatFit(cacheFolder, {files, files + QStringLiteral(".*.new")});
 }
 
 SegmentStore::Options SegmentStore::defaultOptions(SegmentUse use) {
@@ -98,7 +114,7 @@ void SegmentStore::keep(Kept kept) {
 
 SegmentStore::Recorder::Recorder(SegmentStore& store, const SegmentKey& key) : store_(store), key_(key) {
   if (store.options_.cacheFolder.isEmpty()) return;
-  if (!std::exchange(store.hasTidied_, true)) removeLeftovers(store.options_.cacheFolder);
+  if (!std::exchange(store.hasTidied_, true)) tidy(store.options_.cacheFolder);
   try {
     writer_ = std::make_unique<SegmentFileWriter>(segmentFilePath(store.options_.cacheFolder, key.listing));
   } catch (const RuntimeFault&) {

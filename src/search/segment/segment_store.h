@@ -1,7 +1,7 @@
 // The segments of listings that have been read before: in memory and in the user's cache folder.
 #pragma once
 
-#include "search/segment/growing_segment.h"
+#include "search/segment/segment.h"
 #include "search/segment/segment_file.h"
 
 #include <QLocale>
@@ -49,6 +49,7 @@ class SegmentStore {
   /// Takes the segments of one listing while they are built. Unless finish() is called nothing is kept.
   class Recorder {
    public:
+    /// The first of a store also removes leftovers and what earlier versions kept in the cache folder.
     Recorder(SegmentStore& store, const SegmentKey& key);
 
     /// Takes a complete segment and returns the one to be used from now on instead: an equal one in a file,
@@ -88,5 +89,7 @@ QString segmentFilePath(const QString& cacheFolder, const QString& listing);
 
 /// All segment files in `cacheFolder`, by name.
 QStringList segmentFiles(const QString& cacheFolder);
+/// What earlier versions kept in `cacheFolder`, finished or not. Nothing reads it any more.
+QStringList earlierSegmentFiles(const QString& cacheFolder);
 
 }  // namespace quorvin

@@ -22,68 +22,78 @@ const char* endOfText(const char* begin) {
   return static_cast<const char*>(::rawmemchr(begin, kTextEnd));
 }
 
-bool bitAt(std::span<const std::uint64_t> bits, std::uint32_t index) {
-  return (bits[index / 64] >> (index % 64) & 1U) != 0;
+bool bitAt(std::uint64_t bits, std::uint32_t index) {
+  return (bits >> (index % 64) & 1U) != 0;
 }
 
 /// Capitals back into place.
-void raise(std::string& text, const std::uint8_t* upperBits) {
+void raise(std::string& text, std::span<const std::uint8_t> upperBits) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if ((static_cast<unsigned>(upperBits[i / 8]) >> (i % 8) & 1U) != 0)
       text[i] = static_cast<char>(text[i] - ('a' - 'A'));
   }
 }
 
+constexpr unsigned kTrigramBits = 13;
+static_assert(std::size_t{1} << kTrigramBits == sizeof(TrigramSet) * 8);
+
+std::uint16_t trigramHash(const char* text) {
+  std::uint32_t trigram = 0;
+  std::memcpy(&trigram, text, 2);
+  trigram |= static_cast<std::uint32_t>(static_cast<unsigned char>(text[2])) << 16;
+  // Multiplying by an odd constant spreads the letters over the upper bits, of which the uppermost are kept.
+  return static_cast<std::uint16_t>((trigram * 0x9E3779B1U) >> (32 - kTrigramBits));
+}
+
 }  // namespace
 
-std::string_view TextTable::toSearch(std::string_view stretch) const {
+void addTrigrams(TrigramSet& set, std::string_view text) {
+  for (std::size_t i = 0; i + 3 <= text.size(); ++i) {
+    const std::uint16_t bit = trigramHash(text.data() + i);
+    set[bit / 64] |= std::uint64_t{1} << (bit % 64);
+  }
+}
+
+TrigramProbe::TrigramProbe(std::string_view word) {
+  for (std::size_t i = 0; i + 3 <= word.size(); ++i) bits_.push_back(trigramHash(word.data() + i));
+  std::sort(bits_.begin(), bits_.end());
+  bits_.erase(std::unique(bits_.begin(), bits_.end()), bits_.end());
+}
+
+TextTable::Stretch TextTable::between(std::size_t beginMark, std::size_t endMark) const {
+  const std::size_t begin = marks[beginMark].text;
+  const std::size_t end = endMark < marks.size() ? marks[endMark].text : folded.size();
+  return {begin, end - begin};
+}
+
+std::string_view TextTable::toSearch(Stretch stretch) const {
   if (passing != nullptr) {
-    const auto copy = passing->take(check->offsetOf(stretch.data()), stretch.size());
+    const auto copy = passing->take(folded.offset() + stretch.begin, stretch.size);
     if (copy) return *copy;
   }
-  require(stretch.data(), stretch.size());
-  return stretch;
-}
-
-std::string_view TextTable::between(std::size_t beginMark, std::size_t endMark) const {
-  require(&marks[beginMark], sizeof(Mark));
-  const std::size_t begin = marks[beginMark].text;
-  if (endMark >= marks.size()) return folded.substr(begin);
-  require(&marks[endMark], sizeof(Mark));
-  return folded.substr(begin, marks[endMark].text - begin);
-}
-
-std::string_view TextTable::foldedText(std::uint32_t text) const {
-  const std::string_view group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
-  require(group.data(), group.size());
-  const char* begin = group.data();
-  for (std::uint32_t i = text % kTextsPerMark; i > 0; --i) begin = endOfText(begin) + 1;
-  return {begin, static_cast<std::size_t>(endOfText(begin) - begin)};
+  return textOf(folded.part(stretch.begin, stretch.size));
 }
 
 std::string TextTable::listedText(std::uint32_t text) const {
-  require(exceptions.data(), exceptions.size_bytes());
-  const auto exception = std::lower_bound(exceptions.begin(), exceptions.end(), text,
+  const auto all = exceptions.all();
+  const auto exception = std::lower_bound(all.begin(), all.end(), text,
                                           [](const Exception& e, std::uint32_t t) { return e.text < t; });
-  if (exception != exceptions.end() && exception->text == text) {
+  if (exception != all.end() && exception->text == text) {
     const std::uint32_t size = std::next(exception)->start - exception->start;
-    require(exceptionTexts.data() + exception->start, size);
-    return std::string(exceptionTexts.substr(exception->start, size));
+    return std::string(textOf(exceptionTexts.part(exception->start, size)));
   }
-  const std::string_view group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
-  require(group.data(), group.size());
-  require(&hasUpper[text / 64], sizeof(std::uint64_t));
-  const char* begin = group.data();
+  const Stretch group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
+  const char* begin = folded.part(group.begin, group.size).data();
+  // The texts of a mark have their bits in one element.
+  const std::uint64_t withUpper = hasUpper[text / 64];
   std::size_t upper = marks[text / kTextsPerMark].upper;
   for (std::uint32_t i = text - text % kTextsPerMark; i < text; ++i) {
     const char* end = endOfText(begin);
-    if (bitAt(hasUpper, i)) upper += (static_cast<std::size_t>(end - begin) + 7) / 8;
+    if (bitAt(withUpper, i)) upper += (static_cast<std::size_t>(end - begin) + 7) / 8;
     begin = end + 1;
   }
   std::string listed(begin, static_cast<std::size_t>(endOfText(begin) - begin));
-  if (!bitAt(hasUpper, text)) return listed;
-  require(&upperBits[upper], (listed.size() + 7) / 8);
-  raise(listed, upperBits.data() + upper);
+  if (bitAt(withUpper, text)) raise(listed, upperBits.part(upper, (listed.size() + 7) / 8));
   return listed;
 }
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "search/format/entry_columns.h"
-#include "search/segment/byte_check.h"
 #include "search/segment/byte_pair_scan.h"
+#include "search/segment/checked_span.h"
 #include "search/segment/passing_bytes.h"
-#include "search/segment/trigram_filter.h"
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -22,8 +22,32 @@ inline constexpr char kTextEnd = static_cast<char>(0xFF);
 inline constexpr std::uint32_t kTextsPerMark = 32;
 inline constexpr std::uint32_t kTextsPerPage = 1024;
 
+/// The set of trigrams (three bytes in a row, hashed) of a stretch of text. It may say that a word might be
+/// there when it is not, never the other way round.
+using TrigramSet = std::array<std::uint64_t, 128>;
+
+/// Adds the trigrams of `text`.
+void addTrigrams(TrigramSet& set, std::string_view text);
+
+/// The trigrams of one word, ready to be looked up in many sets.
+class TrigramProbe {
+ public:
+  explicit TrigramProbe(std::string_view word);
+
+  /// False only if no text that was added to `set` holds the word. Always true for words of one or two bytes.
+  bool mayBeIn(const TrigramSet& set) const {
+    for (const std::uint16_t bit : bits_) {
+      if ((set[bit / 64] >> (bit % 64) & 1U) == 0) return false;
+    }
+    return true;
+  }
+
+ private:
+  std::vector<std::uint16_t> bits_;
+};
+
 /// A table of texts, numbered from 0. It refers to arrays that somebody else owns: a TextTableBuilder or a
-/// mapped file.
+/// mapped file. Whatever reads a mapped one may throw DamagedSegment.
 struct TextTable {
   /// Where every 32nd text begins.
   struct Mark {
@@ -42,40 +66,36 @@ struct TextTable {
   /// Number of texts.
   std::uint32_t count = 0;
   /// The folded texts, each followed by kTextEnd; kScanPadding readable bytes stand behind the last.
-  std::string_view folded;
+  CheckedSpan<char> folded;
   /// One for each 32 texts.
-  std::span<const Mark> marks;
+  CheckedSpan<Mark> marks;
   /// One for each page, or none at all while the table is being built.
-  std::span<const TrigramSet> trigrams;
+  CheckedSpan<TrigramSet> trigrams;
 
   /// A bit for each text: it has ASCII capitals.
-  std::span<const std::uint64_t> hasUpper;
+  CheckedSpan<std::uint64_t> hasUpper;
   /// For each such text, in order, a bit for each byte (whole bytes a text, lowest bit first): it was a
   /// capital.
-  std::span<const std::uint8_t> upperBits;
+  CheckedSpan<std::uint8_t> upperBits;
   /// In ascending order of text; the last one, of no text, tells where exceptionTexts ends.
-  std::span<const Exception> exceptions;
-  std::string_view exceptionTexts;
+  CheckedSpan<Exception> exceptions;
+  CheckedSpan<char> exceptionTexts;
 
-  /// Where the arrays come from a file: what is read of them is to be checked first. Else null.
-  const ByteCheck* check = nullptr;
   /// Where `folded` is to be searched once only: the way to read it for that. Else null.
   PassingBytes* passing = nullptr;
 
-  /// Checks the `size` bytes at `data`, which lie in one of the arrays. Throws DamagedSegment.
-  void require(const void* data, std::size_t size) const {
-    if (check != nullptr) check->require(data, size);
-  }
+  /// A part of `folded`.
+  struct Stretch {
+    std::size_t begin;
+    std::size_t size;
+  };
+  /// The folded texts from the 32-text mark `beginMark` to `endMark` (or the end of the table).
+  Stretch between(std::size_t beginMark, std::size_t endMark) const;
 
-  /// `stretch`, a part of `folded`, checked and ready to be searched: itself, or a copy that is valid until
-  /// the next call. kScanPadding readable bytes stand behind it. Throws DamagedSegment.
-  std::string_view toSearch(std::string_view stretch) const;
+  /// A stretch ready to be searched: itself, or a copy that is valid until the next call. kScanPadding
+  /// readable bytes stand behind it.
+  std::string_view toSearch(Stretch stretch) const;
 
-  /// The folded texts from the 32-text mark `beginMark` to `endMark` (or the end of the table); not checked.
-  std::string_view between(std::size_t beginMark, std::size_t endMark) const;
-
-  /// The folded text of `text`, without its end byte.
-  std::string_view foldedText(std::uint32_t text) const;
   /// The text as listed, UTF-8.
   std::string listedText(std::uint32_t text) const;
 };

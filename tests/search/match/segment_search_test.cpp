@@ -1,6 +1,6 @@
 #include "search/match/segment_search.h"
 
-#include "search/segment/growing_segment.h"
+#include "search/segment/segment.h"
 #include "support/instruction_sets.h"
 #include "support/qt_printing.h"
 

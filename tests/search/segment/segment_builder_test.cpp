@@ -1,5 +1,6 @@
 #include "search/segment/segment_builder.h"
 
+#include "search/segment/folded_text.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 
@@ -48,7 +49,7 @@ TEST_F(SegmentBuilderTest, LinesOfAllKindsTakeTheirEffect) {
   EXPECT_EQ(segment().volume(1), u"DATA1"_qs);
   EXPECT_EQ(segment().folder(1), u"\\Music\\"_qs);
   EXPECT_EQ(segment().name(1), u"Song.MP3"_qs);
-  EXPECT_EQ(segment().arrays().entries.foldedText(1), "song.mp3");
+  EXPECT_EQ(test::foldedText(segment().arrays().entries, 1), "song.mp3");
   EXPECT_EQ(segment().name(2), u"short"_qs);
 }
 
@@ -72,7 +73,7 @@ TEST_F(SegmentBuilderTest, ByteOrderMarksAreCharacters) {
   add("\xEF\xBB\xBFName\nVolume: \xEF\xBB\xBFV\nDirectory: \xEF\xBB\xBF"
       "F\nName\n");
   EXPECT_EQ(segment().name(0), u"\uFEFFName"_qs);
-  EXPECT_EQ(segment().arrays().entries.foldedText(0), "\xEF\xBB\xBFname");
+  EXPECT_EQ(test::foldedText(segment().arrays().entries, 0), "\xEF\xBB\xBFname");
   EXPECT_EQ(segment().volume(1), u"\uFEFFV"_qs);
   EXPECT_EQ(segment().folder(1),
             u"\uFEFF"

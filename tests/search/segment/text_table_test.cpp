@@ -1,6 +1,7 @@
 #include "search/segment/text_table.h"
 
 #include "search/format/entry_columns.h"
+#include "search/segment/folded_text.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,7 @@ void add(TextTableBuilder& builder, const std::string& text) {
 void expectTexts(const TextTable& table, const std::vector<Pair>& texts) {
   ASSERT_EQ(table.count, texts.size());
   for (std::uint32_t i = 0; i < table.count; ++i) {
-    ASSERT_EQ(table.foldedText(i), texts[i].folded) << "text " << i;
+    ASSERT_EQ(test::foldedText(table, i), texts[i].folded) << "text " << i;
     ASSERT_EQ(table.listedText(i), texts[i].listed) << "text " << i;
   }
 }
@@ -94,7 +95,7 @@ TEST(TextTable, ManyTextsComeBackAcrossMarksAndPages) {
 TEST(TextTable, EveryTextEndsWithTheEndByteAndPaddingFollows) {
   TextTableBuilder builder;
   for (const char* text : {"A", "", "bc"}) add(builder, text);
-  const std::string_view folded = builder.table().folded;
+  const std::string_view folded = textOf(builder.table().folded.all());
   EXPECT_EQ(folded,
             "a\xFF\xFF"
             "bc\xFF");
@@ -119,7 +120,8 @@ TEST(TextTable, TrigramsOfAPageHoldAllWordsOfItsTexts) {
   builder.completeTrigrams();
   const TextTable table = builder.table();
   for (std::uint32_t i = 0; i < table.count; ++i) {
-    ASSERT_TRUE(TrigramProbe(table.foldedText(i)).mayBeIn(table.trigrams[i / kTextsPerPage])) << "text " << i;
+    ASSERT_TRUE(TrigramProbe(test::foldedText(table, i)).mayBeIn(table.trigrams[i / kTextsPerPage]))
+        << "text " << i;
   }
   EXPECT_FALSE(TrigramProbe("zebra").mayBeIn(table.trigrams[1]));
 }
@@ -146,9 +148,9 @@ TEST(TextTable, ColumnsGiveWhatAddGives) {
     expectTexts(columns.table(), texts);
     TextTableBuilder whole;
     for (const Pair& text : texts) whole.add(text.listed, true);
-    EXPECT_EQ(columns.table().folded, whole.table().folded);
-    EXPECT_TRUE(std::ranges::equal(columns.table().upperBits, whole.table().upperBits));
-    EXPECT_TRUE(std::ranges::equal(columns.table().hasUpper, whole.table().hasUpper));
+    EXPECT_EQ(textOf(columns.table().folded.all()), textOf(whole.table().folded.all()));
+    EXPECT_TRUE(std::ranges::equal(columns.table().upperBits.all(), whole.table().upperBits.all()));
+    EXPECT_TRUE(std::ranges::equal(columns.table().hasUpper.all(), whole.table().hasUpper.all()));
   }
 }
 

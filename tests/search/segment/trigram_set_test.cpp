@@ -1,4 +1,4 @@
-#include "search/segment/trigram_filter.h"
+#include "search/segment/text_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "search/segment/byte_check.h"
+#include "search/segment/checked_span.h"
 
 #include <algorithm>
 // On this processor family the library has faster ways to the same sums, and a header that picks one.

@@ -1,4 +1,4 @@
-#include "search/match/search_words.h"
+#include "search/match/search_query.h"
 
 #include "faults/runtime_fault.h"
 #include "search/match/search_query.h"

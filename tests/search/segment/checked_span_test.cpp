@@ -1,0 +1,93 @@
+#include "search/segment/checked_span.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+#include <vector>
+
+namespace quorvin {
+namespace {
+
+constexpr std::size_t kBlock = ByteCheck::kBlockSize;
+
+/// Numbers over three blocks and a bit, as a mapped file would hold them.
+class CheckedSpanTest : public testing::Test {
+ protected:
+  CheckedSpanTest() { std::iota(numbers_.begin(), numbers_.end(), 0U); }
+
+  std::span<const std::byte> bytes() const { return std::as_bytes(std::span(numbers_)); }
+  void damage(std::size_t byte) { numbers_[byte / 4] ^= 0x10000U << (byte % 4); }
+
+  static constexpr std::size_t kCount = 3 * kBlock / 4 + 5;
+  std::vector<std::uint32_t> numbers_ = std::vector<std::uint32_t>(kCount);
+  std::vector<std::uint64_t> sums_ = [this] {
+    std::iota(numbers_.begin(), numbers_.end(), 0U);
+    return checksumsOf(bytes());
+  }();
+  ByteCheck check_{bytes(), sums_};
+  CheckedSpan<std::uint32_t> span_{bytes(), 0, kCount, check_};
+};
+
+TEST_F(CheckedSpanTest, WholeFileGivesAllElements) {
+  EXPECT_EQ(span_.size(), kCount);
+  EXPECT_EQ(span_.sizeInBytes(), kCount * 4);
+  EXPECT_EQ(span_[7], 7U);
+  EXPECT_EQ(span_.part(kBlock / 4 - 1, 3)[2], kBlock / 4 + 1);
+  EXPECT_EQ(span_.all().back(), kCount - 1);
+  EXPECT_FALSE(check_.foundDamage());
+}
+
+TEST_F(CheckedSpanTest, DamageIsFoundWhereItIsReadAndNowhereElse) {
+  damage(kBlock + 8);
+  EXPECT_EQ(span_[0], 0U);
+  EXPECT_EQ(span_.part(0, kBlock / 4).size(), kBlock / 4);
+  EXPECT_EQ(span_[2 * kBlock / 4], 2 * kBlock / 4);
+  EXPECT_FALSE(check_.foundDamage());
+  EXPECT_THROW(span_[kBlock / 4], DamagedSegment);
+  EXPECT_TRUE(check_.foundDamage());
+  EXPECT_THROW(span_.part(kBlock / 4 - 1, 2), DamagedSegment);
+  EXPECT_THROW(span_.all(), DamagedSegment);
+}
+
+TEST_F(CheckedSpanTest, LastBlockMayBeShort) {
+  damage(3 * kBlock + 4);
+  EXPECT_EQ(span_[3 * kBlock / 4 - 1], 3 * kBlock / 4 - 1);
+  EXPECT_THROW(span_[kCount - 1], DamagedSegment);
+}
+
+TEST_F(CheckedSpanTest, ArrayInTheMiddleOfTheStretchChecksItsOwnBlocks) {
+  const CheckedSpan<std::uint32_t> inside(bytes(), kBlock - 8, 4, check_);
+  EXPECT_EQ(inside.offset(), kBlock - 8);
+  EXPECT_EQ(inside[3], kBlock / 4 + 1);
+  damage(2 * kBlock);
+  EXPECT_EQ(inside.all().size(), 4U);
+  const CheckedSpan<std::uint32_t> behind(bytes(), 2 * kBlock - 4, 2, check_);
+  EXPECT_EQ(behind[0], 2 * kBlock / 4 - 1);
+  EXPECT_THROW(behind[1], DamagedSegment);
+}
+
+TEST_F(CheckedSpanTest, MoreThanThereIsIsDamage) {
+  EXPECT_THROW(span_[kCount], DamagedSegment);
+  EXPECT_THROW(span_.part(kCount, 1), DamagedSegment);
+  EXPECT_THROW(span_.part(1, SIZE_MAX), DamagedSegment);
+  EXPECT_TRUE(span_.part(kCount, 0).empty());
+}
+
+TEST_F(CheckedSpanTest, SumsOfAnotherSizeAreDamage) {
+  sums_.pop_back();
+  EXPECT_THROW(ByteCheck(bytes(), sums_), DamagedSegment);
+}
+
+TEST(CheckedSpan, ArraysInMemoryAreGivenAsTheyAre) {
+  const std::vector<int> numbers = {1, 2, 3};
+  CheckedSpan<int> span;
+  EXPECT_TRUE(span.empty());
+  span = numbers;
+  EXPECT_EQ(&span[1], &numbers[1]);
+  EXPECT_EQ(span.part(1, 2).data(), &numbers[1]);
+  const CheckedSpan<char> text = std::string_view("song");
+  EXPECT_EQ(textOf(text.part(1, 2)), "on");
+}
+
+}  // namespace
+}  // namespace quorvin
