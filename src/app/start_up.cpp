@@ -26,7 +26,7 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   view_.setWebUpdateEnabled(false);
   state_.resetFileNames();
   if (conditions.commandLine.isEmpty()) {
-    takeDefaultsFile();
+    readDefaultsFile(state_);
   } else {
     takeCommandLine(conditions.commandLine, conditions.pathStyle);
   }
@@ -34,11 +34,9 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   readPlacement(store_, state_, view_);
   readSettings(store_, state_, conditions.now, conditions.locale);
   if (!state_.WebServer.isEmpty() && !state_.ArchiveFile.isEmpty()) view_.setWebUpdateEnabled(true);
-  if (state_.LocalFolder.isEmpty()) {
-    completeLocalFolder(state_, withTrailingSeparator(conditions.programFolder(), conditions.pathStyle));
-  }
-
-  loadSourceLists(state_);
+  loadSourceLists(state_, [&conditions] {
+    return withTrailingSeparator(conditions.programFolder(), conditions.pathStyle);
+  });
   if (dataFileIsOnlyInArchive()) {
     extraction_.extractArchive(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
   }
@@ -54,11 +52,6 @@ void StartUp::takeCommandLine(const QString& commandLine, PathStyle style) {
   // A settings set and a list of online sources of the file's own.
   state_.RegKey = commandLine;
   state_.LocFile += u'_' + BaseNameOf(commandLine, style);
-}
-
-void StartUp::takeDefaultsFile() {
-  const QString path = QString::fromUtf16(kDefaultsFileName);
-  if (ordinaryFileExists(path)) readDefaultsFile(path, state_);
 }
 
 bool StartUp::dataFileIsOnlyInArchive() const {

@@ -58,7 +58,6 @@ class StartUp {
  private:
   void runSteps(const StartUpConditions& conditions);
   void takeCommandLine(const QString& commandLine, PathStyle style);
-  void takeDefaultsFile();
   bool dataFileIsOnlyInArchive() const;
 
   ProgramState& state_;

@@ -1,4 +1,4 @@
-// What the console companion tells on standard error.
+// What the console companion reports on standard error.
 #pragma once
 
 #include "platform/message_box.h"

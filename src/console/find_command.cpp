@@ -1,12 +1,16 @@
 #include "console/find_command.h"
 
 #include "console/error_lines.h"
-#include "console/own_sources.h"
 #include "faults/runtime_fault.h"
-#include "platform/ini_settings_store.h"
+#include "files/file_aside.h"
+#include "platform/standard_folders.h"
 #include "platform/stop_signal.h"
 #include "search/search_run.h"
+#include "search/segment/segment_store.h"
+#include "state/settings.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 
 #include <cstdio>
@@ -22,6 +26,10 @@ void search(const FindRequest& request, SearchRun& run) {
   } else {
     run.searchListings(request.searchText, request.desiredMatch, request.listings);
   }
+}
+
+void printCacheFile(const QString& path, const char* listing) {
+  std::printf("%lld\t%s\n", static_cast<long long>(QFileInfo(path).size()), listing);
 }
 
 }  // namespace
@@ -44,7 +52,7 @@ int runFind(const FindRequest& request) {
   SearchRun run(std::move(parts));
   bool failed = false;
   try {
-    if (request.listings.empty()) loadOwnSources(state, locale);
+    if (request.listings.empty()) loadUserSources(state, locale);
     watchStopSignal();
     search(request, run);
   } catch (const RuntimeFault& fault) {
@@ -58,6 +66,27 @@ int runFind(const FindRequest& request) {
                static_cast<long long>(run.searchedCount()));
   if (failed || run.failedListings() > 0 || !writer.good()) return 2;
   return run.hitCount() > 0 ? 0 : 1;
+}
+
+int listCache() {
+  const QString folder = userCacheFolder();
+  for (const QString& path : segmentFiles(folder)) {
+    const QByteArray listing = listingOfSegmentFile(path).toLocal8Bit();
+    printCacheFile(path, listing.isEmpty() ? "(damaged)" : listing.constData());
+  }
+  for (const QString& path : filesAside(folder)) printCacheFile(path, "(unfinished)");
+  return 0;
+}
+
+int clearCache() {
+  int status = 0;
+  const QString folder = userCacheFolder();
+  for (const QString& path : segmentFiles(folder) + earlierSegmentFiles(folder) + filesAside(folder)) {
+    if (QFile::remove(path)) continue;
+    std::fprintf(stderr, "quorvin-cli: %s could not be removed\n", path.toLocal8Bit().constData());
+    status = 2;
+  }
+  return status;
 }
 
 }  // namespace quorvin

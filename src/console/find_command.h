@@ -1,4 +1,4 @@
-// "quorvin-cli find": a search in the terminal.
+// "quorvin-cli find" and "quorvin-cli cache": a search in the terminal, and what searches have kept.
 #pragma once
 
 #include "console/hit_writer.h"
@@ -26,5 +26,12 @@ struct FindRequest {
 /// Runs the search; hits go to standard output, messages and the last line "F found, S searched" to standard
 /// error. The exit status: 0 with hits, 1 without, 2 when anything could not be done.
 int runFind(const FindRequest& request);
+
+/// Writes a line for each file of the user's search cache: its size in bytes, a tab, and the listing it is
+/// for. Returns the exit status 0.
+int listCache();
+
+/// Removes those files. The exit status is 2 when one could not be removed, else 0.
+int clearCache();
 
 }  // namespace quorvin

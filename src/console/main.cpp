@@ -1,4 +1,3 @@
-#include "console/cache_command.h"
 #include "console/find_command.h"
 #include "console/index_command.h"
 #include "console/refresh_command.h"

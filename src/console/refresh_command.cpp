@@ -3,10 +3,10 @@
 #include "console/console_progress.h"
 #include "console/error_lines.h"
 #include "console/index_command.h"
-#include "console/own_sources.h"
 #include "faults/runtime_fault.h"
 #include "index/local_list_refresh.h"
 #include "platform/stop_signal.h"
+#include "state/settings.h"
 
 #include <QLocale>
 
@@ -34,7 +34,7 @@ int runRefresh() {
   RefreshMessages messages;
   watchStopSignal();
   try {
-    loadOwnSources(state, locale);
+    loadUserSources(state, locale);
   } catch (const RuntimeFault& fault) {
     printError(fault.description());
     return 2;

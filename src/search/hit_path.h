@@ -39,7 +39,7 @@ QString fullFolderPath(const QString& sourceFolder, const QString& listedFolder,
 std::optional<QString> folderOfHit(const ProgramState& state, const HitRow& hit, PathStyle style);
 
 /// The name of the file in `folder` that `entryText` stands for, or empty text when there is none. A file of
-/// exactly that name comes first, then the first one found that begins with it, since a listing cuts names at
+/// exactly that name comes first, then the first one found that starts with it, since a listing cuts names at
 /// 65 characters. An entry text beyond these carries the first digit of a very large size; when it finds
 /// nothing, the look-up is made once more without it. An entry text that would lead out of the folder finds
 /// nothing, and so does one whose file has a name that no text can hold. Throws fault 52 when it holds what

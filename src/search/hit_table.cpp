@@ -124,7 +124,7 @@ bool HitTable::addHits(const std::shared_ptr<const Segment>& segment, std::span<
   return true;
 }
 
-/// Fills `ownValues_`, but for the usual case that all hits have values of their own: then it gives true.
+/// True in the usual case that all hits have values of their own. Otherwise fills `ownValues_`.
 bool HitTable::findOwnValues(const Segment& segment, std::span<const FoundEntry> hits) {
   if (segment.allOwn(hits.front().entry, hits.back().entry)) return true;
   ownValues_.clear();

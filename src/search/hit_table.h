@@ -47,7 +47,7 @@ class HitTable : public HitSink {
   HitRow row(std::int64_t row) const;
   SourceKind kind(std::int64_t row) const;
 
-  /// Removes all rows and lets go of the segments.
+  /// Removes all rows and releases the segments.
   void clear();
 
   void startListing(SourceKind kind) override;
@@ -56,21 +56,21 @@ class HitTable : public HitSink {
                   const std::shared_ptr<const Segment>& kept) override;
 
  private:
-  /// Rows that stand one after another and belong to one segment.
+  /// Consecutive rows that belong to one segment.
   struct SegmentRows {
     std::int64_t firstRow;
     std::shared_ptr<const Segment> segment;
     SourceKind kind;
   };
   /// Rows one after another whose own entries have no values. They show those of the row before the first of
-  /// them, or none where the listing begins with them.
+  /// them, or none where the listing starts with them.
   struct CarriedRows {
     std::int64_t firstRow;
     std::uint32_t count;
     bool beginListing;
   };
   static constexpr std::int64_t kNoRow = -1;
-  /// Hits stand in pages, so that growing never copies them.
+  /// Hits are kept in pages, so that growing never copies them.
   static constexpr std::int64_t kPageSize = 1 << 16;
   /// This many (16 MB) stay for the next run: new memory costs more than what is written to it.
   static constexpr std::size_t kPagesKept = 32;

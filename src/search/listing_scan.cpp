@@ -167,7 +167,7 @@ bool wasWritten(const FileIdentity& before, const FileIdentity& now) {
          (before.size != now.size || before.modified != now.modified);
 }
 
-/// Searches segments that are known. False where one was damaged; what was searched before it stands.
+/// Searches segments that are known. False where one was damaged; what was searched before it counts.
 bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search) {
   try {
     for (const auto& segment : segments) {

@@ -46,7 +46,7 @@ struct RunParts {
   QLocale locale;
   /// Where hits go; null where they are only counted.
   HitSink* hits = nullptr;
-  /// Keeps what was read for later runs; null to read every listing anew.
+  /// Keeps what was read for later runs; null to read every listing again.
   SegmentStore* segments = nullptr;
   /// Null where nobody watches.
   RunDisplay* display = nullptr;

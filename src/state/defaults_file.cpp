@@ -1,6 +1,7 @@
 #include "state/defaults_file.h"
 
 #include "faults/runtime_fault.h"
+#include "files/file_lookup.h"
 #include "state/text_line_reader.h"
 
 namespace quorvin {
@@ -15,6 +16,11 @@ void readDefaultsFile(const QString& path, ProgramState& state) {
     }
     *setting = line->text;
   }
+}
+
+void readDefaultsFile(ProgramState& state) {
+  const QString path = QString::fromUtf16(kDefaultsFileName);
+  if (ordinaryFileExists(path)) readDefaultsFile(path, state);
 }
 
 }  // namespace quorvin

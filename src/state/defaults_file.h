@@ -16,4 +16,7 @@ inline constexpr char16_t kDefaultsFileName[] = u"defaults.txt";
 /// docs/formats/source-lists.md.
 void readDefaultsFile(const QString& path, ProgramState& state);
 
+/// The same for the file of that name in the current working folder; does nothing where there is none.
+void readDefaultsFile(ProgramState& state);
+
 }  // namespace quorvin

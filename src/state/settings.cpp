@@ -3,7 +3,12 @@
 #include "dates/general_number.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
+#include "platform/ini_settings_store.h"
+#include "platform/standard_folders.h"
+#include "state/defaults_file.h"
 #include "state/source_list_file.h"
+
+#include <QDateTime>
 
 #include <array>
 #include <charconv>
@@ -85,10 +90,6 @@ void readSettings(const SettingsStore& store, ProgramState& state, DateValue now
   state.settingsRead = true;
 }
 
-void completeLocalFolder(ProgramState& state, const QString& programFolder) {
-  if (state.LocalFolder.isEmpty()) state.LocalFolder = programFolder;
-}
-
 void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale) {
   const auto keep = [&](const QString& key, const QString& value) {
     if (value.isEmpty() && !state.settingsRead) return;
@@ -110,13 +111,22 @@ void writePlacement(SettingsStore& store, const ProgramState& state, const Windo
   }
 }
 
-void loadSourceLists(ProgramState& state) {
+void loadSourceLists(ProgramState& state, const std::function<QString()>& programFolder) {
+  if (state.LocalFolder.isEmpty()) state.LocalFolder = programFolder();
   const QString online = state.LocalFolder + state.LocFile;
   if (ordinaryFileExists(online)) loadSourceList(online, state.OnlineSources, state.OnlineSourceCount);
   state.onlineListRead = online;
   const QString offline = state.LocalFolder + state.OffLineFile;
   if (ordinaryFileExists(offline)) loadSourceList(offline, state.OfflineSources, state.OfflineSourceCount);
   state.offlineListRead = offline;
+}
+
+void loadUserSources(ProgramState& state, const QLocale& locale) {
+  state.resetFileNames();
+  readDefaultsFile(state);
+  const IniSettingsStore store(userSettingsPath());
+  readSettings(store, state, dateValueOf(QDateTime::currentDateTime()), locale);
+  loadSourceLists(state, programFolder);
 }
 
 }  // namespace quorvin

@@ -5,6 +5,9 @@
 #include "state/program_state.h"
 
 #include <QLocale>
+#include <QString>
+
+#include <functional>
 
 namespace quorvin {
 
@@ -48,11 +51,15 @@ void writeSettings(SettingsStore& store, const ProgramState& state, const QLocal
 /// does.
 void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window);
 
-/// Makes an empty `LocalFolder` the program's own folder, `programFolder` (with its trailing separator).
-void completeLocalFolder(ProgramState& state, const QString& programFolder);
+/// Loads both source lists from `LocalFolder`, each if its file exists, appending to the tables. An empty
+/// `LocalFolder` becomes what `programFolder` gives, the program's own folder with its trailing separator; it
+/// is not asked otherwise. Throws as loadSourceList does; what was loaded before stays. `state` notes the
+/// lists that were read to their end.
+void loadSourceLists(ProgramState& state, const std::function<QString()>& programFolder);
 
-/// Loads both source lists from `LocalFolder`, each if its file exists, appending to the tables. Throws as
-/// loadSourceList does; what was loaded before stays. `state` notes the lists that were read to their end.
-void loadSourceLists(ProgramState& state);
+/// Settings and sources of this user, as the window loads them when no file is on its command line: the
+/// defaults, the settings store, both source lists. Throws RuntimeFault where the window would report a
+/// start-up error; what was loaded before stays.
+void loadUserSources(ProgramState& state, const QLocale& locale);
 
 }  // namespace quorvin

@@ -180,16 +180,22 @@ TEST_F(Settings, AnUnreadableJoinDateFaultsAndKeepsWhatWasReadBefore) {
 }
 
 TEST_F(Settings, OnlyAnEmptyLocalFolderBecomesTheProgramsOwn) {
-  completeLocalFolder(state_, QStringLiteral("C:\\Quorvin\\"));
+  loadSourceLists(state_, [] { return QStringLiteral("C:\\Quorvin\\"); });
   EXPECT_EQ(state_.LocalFolder, QStringLiteral("C:\\Quorvin\\"));
-  completeLocalFolder(state_, QStringLiteral("/opt/quorvin/"));
+  loadSourceLists(state_, [] { return QStringLiteral("/opt/quorvin/"); });
   EXPECT_EQ(state_.LocalFolder, QStringLiteral("C:\\Quorvin\\"));
+}
+
+/// For a state that has a local folder.
+QString notAsked() {
+  ADD_FAILURE() << "the program's folder is not needed";
+  return {};
 }
 
 TEST_F(Settings, MissingSourceListsLeaveTheTablesEmpty) {
   const TemporaryFolder folder;
   state_.LocalFolder = folder.path();
-  loadSourceLists(state_);
+  loadSourceLists(state_, notAsked);
   EXPECT_EQ(state_.OnlineSourceCount, 0);
   EXPECT_EQ(state_.OfflineSourceCount, 0);
 }
@@ -200,7 +206,7 @@ TEST_F(Settings, BothSourceListsAreLoadedFromTheLocalFolder) {
   folder.writeFile(QStringLiteral("OfflineLocations.txt"),
                    "\"CDs\",\"/cds.txt\"\r\n\"Old\",\"/old.txt\"\r\n");
   state_.LocalFolder = folder.path();
-  loadSourceLists(state_);
+  loadSourceLists(state_, notAsked);
   ASSERT_EQ(state_.OnlineSourceCount, 1);
   EXPECT_EQ(state_.OnlineSources.path(1), QStringLiteral("/music/"));
   ASSERT_EQ(state_.OfflineSourceCount, 2);
@@ -212,7 +218,7 @@ TEST_F(Settings, AFaultInTheOnlineListLeavesTheOfflineListUnread) {
   folder.writeFile(QStringLiteral("Locations.txt"), "\"Music\",\"/music/\"\r\n\"half\"\r\n");
   folder.writeFile(QStringLiteral("OfflineLocations.txt"), "\"CDs\",\"/cds.txt\"\r\n");
   state_.LocalFolder = folder.path();
-  EXPECT_THROW(loadSourceLists(state_), RuntimeFault);
+  EXPECT_THROW(loadSourceLists(state_, notAsked), RuntimeFault);
   EXPECT_EQ(state_.OnlineSourceCount, 1);
   EXPECT_EQ(state_.OfflineSourceCount, 0);
 }

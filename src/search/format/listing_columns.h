@@ -14,13 +14,13 @@ inline constexpr std::string_view kSeparatorMark = "---------------";
 
 /// The name's columns, and the characters to which a listing cuts names.
 inline constexpr int kNameColumns = 65;
-/// The entry text of a longer line runs to this column; the tail begins in it.
+/// The entry text of a longer line runs to this column; the tail starts in it.
 inline constexpr int kEntryColumns = 69;
 /// Size and date are read only from a tail longer than this.
 inline constexpr int kShortTailLength = 32;
 /// The size is the tail's first 13 characters.
 inline constexpr int kSizeWidth = 13;
-/// The date begins at the tail's 21st character (0-based 20).
+/// The date starts at the tail's 21st character (0-based 20).
 inline constexpr int kDateOffset = 20;
 
 }  // namespace quorvin

@@ -50,7 +50,7 @@ std::size_t bytesOfCharacters(std::string_view utf8, std::size_t characters) {
   std::uint64_t word = 0;
   for (; i + sizeof word <= utf8.size() && characters >= sizeof word; i += sizeof word) {
     std::memcpy(&word, utf8.data() + i, sizeof word);
-    // The bytes inside a character are those that begin with the bits 10.
+    // The bytes inside a character are those that start with the bits 10.
     const std::uint64_t inside = word & ~(word << 1) & 0x8080808080808080U;
     characters -= sizeof word - static_cast<std::size_t>(std::popcount(inside));
   }
@@ -70,7 +70,7 @@ EntryLine splitEntryLine(std::string_view line, bool ascii) {
   if (textEnd == line.size()) return {line, {}};
   std::string_view text = line.substr(0, textEnd);
   text = text.substr(0, text.find_last_not_of(' ') + 1);
-  // The tail begins in the last column of the entry text, which both share.
+  // The tail starts in the last column of the entry text, which both share.
   return {text, line.substr(end(kEntryColumns - 1))};
 }
 

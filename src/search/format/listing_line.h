@@ -1,4 +1,4 @@
-// One line of a listing, told apart. The rules: docs/formats/listing.md.
+// Taking one line of a listing apart. The rules: docs/formats/listing.md.
 #pragma once
 
 #include <string>

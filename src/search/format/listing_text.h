@@ -13,7 +13,7 @@ namespace quorvin {
 /// number filled, 0 at the end. May throw RuntimeFault.
 using ListingReader = std::function<std::size_t(std::span<char> buffer)>;
 
-/// Reads a listing chunk by chunk; what is not consumed stands in front of the next chunk. There are always
+/// Reads a listing chunk by chunk; what is not consumed is put in front of the next chunk. There are always
 /// kLinePadding bytes to read on both sides of the text.
 class ListingText {
  public:

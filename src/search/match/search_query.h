@@ -14,7 +14,7 @@ namespace quorvin {
 /// The word table's capacity.
 inline constexpr int kMostWords = 101;
 
-/// The words of a search text, in order: the first begins at the first character, every later one at a blank;
+/// The words of a search text, in order: the first starts at the first character, every later one at a blank;
 /// each is trimmed of blanks. Runs of blanks and a trailing blank give empty words, which are kept. A blank
 /// in the first character does not end a word. Throws fault 9 when there are more than 101.
 std::vector<QString> splitSearchText(QStringView searchText);
@@ -26,7 +26,7 @@ std::int16_t matchPercentage(int found, int wordCount);
 /// The text of a match in the hit list: three digits and "%" ("067%").
 QString matchText(std::int16_t match);
 
-/// A search text made ready: its different words as UTF-8, each with the number of times it stands in the
+/// A prepared search text: its different words as UTF-8, each with the number of times it occurs in the
 /// text. Empty words are found in every entry.
 class SearchQuery {
  public:

@@ -19,9 +19,9 @@ struct FoundEntry {
   std::int16_t match;
 };
 
-/// Searches segments for one query. A word holds no blank, so it stands in the folder or in the entry, never
-/// across: both are searched on their own, and an entry is looked at only where a word was seen in it or
-/// where its folder alone decides.
+/// Searches segments for one query. A word holds no blank, so it is found in the folder or in the entry,
+/// never across: both are searched on their own, and an entry is looked at only where a word was seen in it
+/// or where its folder alone decides.
 class SegmentSearch {
  public:
   /// `query` must outlive the search.

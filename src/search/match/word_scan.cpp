@@ -13,13 +13,13 @@ namespace quorvin::HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
 // Counting bits and finding the lowest one are single instructions only where the processor is known to have
-// them, so that this is compiled anew for each set though nothing here is a vector.
+// them, so that this is compiled again for each set though nothing here is a vector.
 
 #if HWY_ARCH_X86_64 && HWY_TARGET <= HWY_AVX3
 
 /// Sets bit k of an array for each text k (from 0) that has a place. Gathering bits is a single instruction
 /// on every processor that has these vectors; on some older ones it is slower than a loop. No branch depends
-/// on what was found, so that a word that stands everywhere costs no more than one that stands in a few
+/// on what was found, so that a word that is everywhere costs no more than one that is in a few
 /// texts.
 class TextGathering {
  public:

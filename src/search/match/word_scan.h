@@ -1,5 +1,5 @@
-// Which texts hold a word. Bits stand 64 to an element, lowest first: for the bytes of a text of many texts,
-// or for those texts. kScanPadding and the quicker look for rare words are in byte_pair_scan.h.
+// Which texts hold a word. Bits are packed 64 to an element, lowest first: for the bytes of a text of many
+// texts, or for those texts. kScanPadding and the quicker look for rare words are in byte_pair_scan.h.
 #pragma once
 
 #include <cstddef>
@@ -21,7 +21,7 @@ inline constexpr std::size_t kLongestScannedWord = 8;
 /// looked at place by place: with keepPlacesOf(), then textsWithPlaces().
 bool scanTexts(std::string_view text, std::string_view word, char end, std::uint64_t* texts);
 
-/// Clears those bits of `places` at which `word` (not empty) does not stand in `text`. True if any stays.
+/// Clears those bits of `places` at which `word` (not empty) does not occur in `text`. True if any stays.
 /// kScanPadding bytes can be read behind `text`, and each of its texts has its end in it.
 bool keepPlacesOf(std::string_view word, std::string_view text, std::uint64_t* places);
 

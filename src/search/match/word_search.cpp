@@ -48,7 +48,7 @@ void SeenWords::seeAll(std::uint32_t text, std::span<const std::uint64_t> bits, 
     }
     return;
   }
-  // The first bits may stand for texts before the stretch; they are not set.
+  // The first bits may be for texts before the stretch; they are not set.
   const std::uint32_t skipped = text < first_ ? first_ - text : 0;
   const std::uint32_t begin = text + skipped - first_;
   for (std::size_t block = 0; block < bits.size(); ++block) {
@@ -121,7 +121,7 @@ void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, Seen
   }
 }
 
-/// Whether the word stands anywhere in the text; then `texts_` are known.
+/// Whether the word is anywhere in the text; if so, `texts_` are known.
 bool WordSearch::findTexts(std::string_view text, const Needle& needle, bool& endsKnown) {
   if (needle.isLikely && needle.bytes.size() <= kLongestScannedWord) {
     return scanTexts(text, needle.bytes, kTextEnd, texts_.data());

@@ -101,7 +101,7 @@ class WordSearch {
     std::uint32_t first;
     std::uint32_t last;
   };
-  /// Words that may be missing yet before a page is given up.
+  /// How many words may be missing before a page is given up.
   struct Slack {
     const WordSet& elsewhere;
     int most;
@@ -114,7 +114,7 @@ class WordSearch {
   void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);
 
   std::vector<Needle> needles_;
-  /// For the stretch at hand, a bit for each byte: the word at hand begins here; a text ends here.
+  /// For the stretch at hand, a bit for each byte: the current word starts here; a text ends here.
   std::vector<std::uint64_t> places_;
   std::vector<std::uint64_t> ends_;
   /// And a bit for each text, which holds the word.

@@ -62,7 +62,7 @@ int commonness(std::uint8_t byte) {
   static constexpr std::string_view kFromCommonToRare = "e.aiotnrsl-_cdmpuhgbfy0k1v2w3x4z5j6789q ";
   const std::size_t at = kFromCommonToRare.find(static_cast<char>(byte));
   if (at != kFromCommonToRare.npos) return static_cast<int>(kFromCommonToRare.size() - at) + 1;
-  // Lead bytes of the same script stand in every character of it.
+  // Every character of a script has the same lead bytes.
   return byte >= 0xC0 ? 30 : byte >= 0x80 ? 1 : 0;
 }
 

@@ -1,4 +1,4 @@
-// Where two bytes stand at a given distance: the quickest way to see that a word is nowhere.
+// Finding two bytes at a given distance: the quickest way to see that a word is nowhere.
 #pragma once
 
 #include <cstddef>

@@ -12,7 +12,7 @@ namespace quorvin {
 
 /// Where an entry's size and date come from.
 enum class ValueState : std::uint8_t {
-  /// Its line, or the tail in force at its line, gives them.
+  /// They are in its line, or in the tail in force at its line.
   Own,
   /// The tail in force is too short to hold any.
   Absent,

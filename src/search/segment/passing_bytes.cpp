@@ -48,7 +48,7 @@ void PassingBytes::claimBuffer() {
   buffer_.user_ = this;
 }
 
-/// What stands in the buffer from `begin` on goes to its front; where nothing does, the block of `begin`
+/// What is in the buffer from `begin` on goes to its front; where nothing does, the block of `begin`
 /// will.
 void PassingBytes::keepFrom(std::size_t begin) {
   if (begin < begin_ || begin >= end_) {

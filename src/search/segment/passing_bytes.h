@@ -28,16 +28,16 @@ class PassingBuffer {
 /// them.
 class PassingBytes {
  public:
-  /// The stretch begins at `offset` in the file at `path`, which is opened when bytes are first read. `check`
+  /// The stretch starts at `offset` in the file at `path`, which is opened when bytes are first read. `check`
   /// has the sums of its blocks; it and `buffer` must outlive the object.
   PassingBytes(const QString& path, std::int64_t offset, const ByteCheck& check, PassingBuffer& buffer);
 
-  /// The longest piece that take() gives.
+  /// The longest piece that take() returns.
   static constexpr std::size_t kLongestPiece = std::size_t{1} << 16;
 
   /// The `size` bytes of the stretch from `begin` on, with kScanPadding readable bytes behind them; valid
   /// until the next call. None unless some pieces before went on from one another as this one does (it may
-  /// begin a little before the end of the one before), and for too long a piece: then the mapped bytes are
+  /// start a little before the end of the one before), and for too long a piece: then the mapped bytes are
   /// the better ones to look at. Throws DamagedSegment, also when the file cannot be read.
   std::optional<std::string_view> take(std::size_t begin, std::size_t size);
 
@@ -55,7 +55,7 @@ class PassingBytes {
   const ByteCheck& check_;
   PassingBuffer& buffer_;
   std::optional<RandomAccessFile> file_;
-  /// The part of the stretch that stands in the buffer; its end is a block's end.
+  /// The part of the stretch that is in the buffer; its end is a block's end.
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
   /// Where the piece before ended.

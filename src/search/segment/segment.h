@@ -22,7 +22,7 @@ struct SegmentArrays {
   /// From this block on (until the next run) the volume is `volume`.
   struct VolumeRun {
     std::uint32_t firstBlock;
-    /// Where the volume's text begins in `volumeTexts`; it ends where the next run's begins.
+    /// Where the volume's text starts in `volumeTexts`; it ends where the next run's starts.
     std::uint32_t textStart;
   };
   /// Values that CompactValues cannot hold.
@@ -43,7 +43,7 @@ struct SegmentArrays {
   TextTable folders;
   /// The first entry of each block.
   CheckedSpan<std::uint32_t> blockStarts;
-  /// Ascending; the last one, of no block, tells where volumeTexts ends.
+  /// Ascending; the last one, of no block, marks where volumeTexts ends.
   CheckedSpan<VolumeRun> volumes;
   CheckedSpan<char> volumeTexts;
   CheckedSpan<CompactValues> values;
@@ -81,7 +81,7 @@ class Segment {
   std::uint32_t entryCount() const { return arrays_.entries.count; }
   const SegmentArrays& arrays() const { return arrays_; }
 
-  /// The block that `entry` stands in.
+  /// The block that `entry` belongs to.
   std::uint32_t blockOf(std::uint32_t entry) const { return blockAt(arrays_.blockStarts.all(), entry); }
 
   /// What is shown of an entry, `entry` < entryCount(): as listed.
@@ -118,7 +118,7 @@ class GrowingSegment : public Segment {
   /// The same for the first columns of an ASCII line; see TextTableBuilder::addColumns.
   void addEntryColumns(const char* line, std::size_t columns, bool trimmed);
 
-  /// What is known of size and date of `entry`, and the line it stands on. Entries may be left out, but come
+  /// What is known of size and date of `entry`, and the line it is on. Entries may be left out, but come
   /// in ascending order.
   void setValues(std::uint32_t entry, ValueState state, const EntryValues& values, std::int64_t line);
 

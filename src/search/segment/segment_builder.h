@@ -17,8 +17,8 @@ namespace quorvin {
 /// Applies all rules of the listing format to the lines of one listing, in order. Volume, folder and tail are
 /// carried from line to line and from segment to segment.
 ///
-/// Sizes and dates are the dearest part of a line to read, and most are never shown: the builder notes where
-/// they stand and reads them when they are asked for, at the latest when the text goes away.
+/// Sizes and dates are the most expensive part of a line to read, and most are never shown: the builder notes
+/// where they are and reads them when they are asked for, at the latest when the text goes away.
 class SegmentBuilder {
  public:
   explicit SegmentBuilder(const QLocale& locale);
@@ -41,7 +41,7 @@ class SegmentBuilder {
   /// The segment that lines are being added to. Entries are seen in it after its publish().
   const std::shared_ptr<GrowingSegment>& segment() const { return segment_; }
 
-  /// Begins a new segment; the one before is complete. Its memory is used again if nobody else has it.
+  /// Starts a new segment; the one before is complete. Its memory is reused if nobody else has it.
   void beginSegment();
 
   /// How many lines have been added.
@@ -74,7 +74,7 @@ class SegmentBuilder {
   /// Volume or folder have changed since the segment's last block.
   bool blockPending_ = true;
 
-  /// The tail in force: where it stands in the text at hand, else (null) what it said.
+  /// The tail in force: where it is in the current text, else (null) what it said.
   const char* tail_ = nullptr;
   std::uint32_t tailLength_ = 0;
   ValueState tailState_ = ValueState::Absent;

@@ -23,10 +23,10 @@ namespace {
 constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
 
 constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '6'};
-/// Arrays begin at multiples of this, the width of the widest vectors.
+/// Arrays start at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 
-/// The end of the file: where the directory stands and its checksum.
+/// The end of the file: where the directory is, and its checksum.
 struct Trailer {
   std::uint64_t directoryOffset;
   std::uint64_t directorySize;
@@ -119,7 +119,7 @@ void visitArrays(SegmentArrays& arrays, Visit&& visit) {
   visit(arrays.unreadable);
 }
 
-/// Texts are searched beyond their end, so bytes to read stand behind them.
+/// Texts are searched beyond their end, so readable bytes follow them.
 template <typename Element>
 constexpr std::size_t kPaddingBehind = std::same_as<Element, char> ? kScanPadding : 0;
 

@@ -17,7 +17,7 @@ namespace quorvin {
 /// piece; for more they are mapped, so that a later search need not read them again.
 enum class SegmentUse { Once, Repeated };
 
-/// What a segment file belongs to: a listing as it stood, and the rules by which it was read.
+/// What a segment file belongs to: a listing as it was, and the rules by which it was read.
 struct SegmentKey {
   QString listing;
   FileIdentity identity;
@@ -27,7 +27,7 @@ struct SegmentKey {
   bool operator==(const SegmentKey&) const = default;
 };
 
-/// One segment of a segment file: where its bytes stand and where each array stands in them.
+/// One segment of a segment file: where its bytes are, and where each array is in them.
 struct SegmentRecord {
   static constexpr std::size_t kArrayCount = 21;
   struct ArrayPlace {
@@ -50,7 +50,7 @@ class SegmentFileWriter {
   /// Throws RuntimeFault when the file cannot be made.
   explicit SegmentFileWriter(const QString& path);
 
-  /// Writes a complete segment and returns it as it stands in the file. Throws RuntimeFault when the disk is
+  /// Writes a complete segment and returns it as it is in the file. Throws RuntimeFault when the disk is
   /// full or the like; the writer is then of no more use.
   std::shared_ptr<const Segment> append(const Segment& segment);
 

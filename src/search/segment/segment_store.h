@@ -27,7 +27,7 @@ class SegmentStore {
   using Segments = std::vector<std::shared_ptr<const Segment>>;
 
   struct Options {
-    /// Where segment files stand, with a trailing separator; empty for none.
+    /// Where segment files are kept, with a trailing separator; empty for none.
     QString cacheFolder;
     /// Bytes that segments without a file may take up in memory.
     std::size_t memoryBudget = 0;
@@ -80,7 +80,7 @@ class SegmentStore {
 
   Options options_;
   bool hasTidied_ = false;
-  /// The one used last stands first.
+  /// The one used last comes first.
   std::list<Kept> kept_;
 };
 

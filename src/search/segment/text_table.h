@@ -49,7 +49,7 @@ class TrigramProbe {
 /// A table of texts, numbered from 0. It refers to arrays that somebody else owns: a TextTableBuilder or a
 /// mapped file. Whatever reads a mapped one may throw DamagedSegment.
 struct TextTable {
-  /// Where every 32nd text begins.
+  /// Where every 32nd text starts.
   struct Mark {
     /// In `folded`.
     std::uint32_t text;
@@ -59,13 +59,13 @@ struct TextTable {
   /// A text whose lower case is more than ASCII letters made small.
   struct Exception {
     std::uint32_t text;
-    /// Where it begins in `exceptionTexts`; it ends where the next exception begins.
+    /// Where it starts in `exceptionTexts`; it ends where the next exception starts.
     std::uint32_t start;
   };
 
   /// Number of texts.
   std::uint32_t count = 0;
-  /// The folded texts, each followed by kTextEnd; kScanPadding readable bytes stand behind the last.
+  /// The folded texts, each followed by kTextEnd; kScanPadding readable bytes follow the last.
   CheckedSpan<char> folded;
   /// One for each 32 texts.
   CheckedSpan<Mark> marks;
@@ -77,7 +77,7 @@ struct TextTable {
   /// For each such text, in order, a bit for each byte (whole bytes a text, lowest bit first): it was a
   /// capital.
   CheckedSpan<std::uint8_t> upperBits;
-  /// In ascending order of text; the last one, of no text, tells where exceptionTexts ends.
+  /// In ascending order of text; the last one, of no text, marks where exceptionTexts ends.
   CheckedSpan<Exception> exceptions;
   CheckedSpan<char> exceptionTexts;
 
@@ -103,7 +103,7 @@ struct TextTable {
 /// Grows a TextTable.
 class TextTableBuilder {
  public:
-  /// Adds a text as listed, UTF-8; `ascii` tells that all its bytes are below 0x80.
+  /// Adds a text as listed, UTF-8; `ascii` says that all its bytes are below 0x80.
   void add(std::string_view listed, bool ascii);
 
   /// Adds the first `columns` (at most 69) bytes at `line`, which are ASCII, without the blanks at their end
