@@ -1,4 +1,4 @@
-// Telling the user of a fault that nothing else has dealt with.
+// Reporting a fault that nothing else has dealt with.
 #pragma once
 
 #include "faults/runtime_fault.h"
@@ -11,12 +11,12 @@
 namespace quorvin {
 
 /// "Run-time error 'N': description" of the fault, and below it "This happened while DOING."; other
-/// exceptions have no number and tell their own text.
+/// exceptions have no number, only their text.
 QString faultReport(const std::exception& fault, const QString& doing);
 
-/// Runs `action`; what it throws is told in a message box, and the program goes on. `doing` says what the
-/// action does, in words that follow "while". Every handler of a window runs its work through this: a fault
-/// must not pass through the toolkit's own code.
+/// Runs `action`; what it throws is reported in a message box, and the program continues. `doing` says what
+/// the action does, in words that follow "while". Every handler of a window runs its work through this: a
+/// fault must not pass through the toolkit's own code.
 template <typename Action>
 void reportFaults(MessageBoxes& messages, const QString& doing, Action&& action) {
   try {

@@ -50,7 +50,7 @@ HitActions::HitActions(const ProgramState& state, Shell& shell, MessageBoxes& me
                        FileLookUp lookUp)
     : state_(state), shell_(shell), messages_(messages), style_(style), lookUp_(std::move(lookUp)) {}
 
-/// What is known when a fault is thrown stands in `asFarAsKnown`.
+/// When a fault is thrown, `asFarAsKnown` holds what is known by then.
 HitPath HitActions::find(const HitRow& hit, const FileLookUp& lookUp, HitPath& asFarAsKnown) const {
   asFarAsKnown.name = hit.name;
   const std::optional<QString> folder = folderOfHit(state_, hit, style_);

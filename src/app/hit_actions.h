@@ -32,7 +32,7 @@ struct ItemMenuContent {
 ItemMenuContent itemMenuContent(QStringView fileName);
 
 /// Acts on hits through the shell. A hit that cannot be resolved is no error: nothing happens. A fault on the
-/// way is told in one message and ends the action.
+/// way is reported in one message and ends the action.
 class HitActions {
  public:
   /// Everything must outlive the object.
@@ -97,7 +97,7 @@ class FoldersReadOnce {
 };
 
 /// The command in the setting "EnqueueCommand" of `state.RegKey`; empty text when there is none. To be read
-/// anew each time, so that a player that was set while the program runs is taken.
+/// each time, so that a player that is set while the program runs is used.
 QString enqueueCommand(const SettingsStore& settings, const ProgramState& state);
 
 }  // namespace quorvin

@@ -166,7 +166,7 @@ void HitListView::updateScrollBars() {
 
 void HitListView::scrollContentsBy(int dx, int dy) {
   if (dx != 0) header_->setOffset(horizontalScrollBar()->value());
-  // `dy` is in rows. A long way is painted anew: shifting the picture would save nothing.
+  // `dy` is in rows. A long way is painted again: shifting the picture would save nothing.
   const bool isShort = std::abs(dy) < wholeVisibleRows();
   if (isShort && dx == 0) {
     viewport()->scroll(0, dy * rowHeight_);
@@ -261,8 +261,8 @@ bool HitListView::isIndexHidden(const QModelIndex& index) const {
   return header_->isSectionHidden(index.column());
 }
 
-/// Only the end of `rect` is looked at, which is always near the screen; the row where it begins may be
-/// millions of rows away, which no coordinate can tell.
+/// Only the end of `rect` is looked at, which is always near the screen; the row where it starts may be
+/// millions of rows away, which no coordinate can express.
 void HitListView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
   if (command == QItemSelectionModel::NoUpdate || modelRows() == 0) return;
   const int row = rowNear(rect.bottomRight().y());

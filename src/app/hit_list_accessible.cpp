@@ -10,7 +10,7 @@ namespace quorvin {
 
 namespace {
 
-/// One row. It reads the model each time that it is asked and is told by its number, so it stays right when
+/// One row. It reads the model each time it is asked and is identified by its number, so it stays right when
 /// the rows are exchanged.
 class RowAccessible : public QAccessibleInterface {
  public:

@@ -8,11 +8,11 @@
 
 namespace quorvin {
 
-/// `colour` as it stands on a light `background`; on a dark one the same hue, lightened until it can be read
+/// `colour` as it is on a light `background`; on a dark one the same hue, lightened until it can be read
 /// well there.
 QColor readableOn(const QColor& colour, const QColor& background);
 
-/// Draws cells in the colour of their kind of source, and tells in a tooltip what does not fit into a cell.
+/// Draws cells in the colour of their kind of source, and shows in a tooltip what does not fit into a cell.
 class HitListDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -33,7 +33,7 @@ class HitListDelegate : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
-/// Keeps titles a little away from the edges of their columns, so that one that stands at the right side of
+/// Keeps titles a little away from the edges of their columns, so that one that is at the right side of
 /// its column does not touch the next.
 class HitListHeader : public QHeaderView {
   Q_OBJECT

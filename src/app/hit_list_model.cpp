@@ -14,7 +14,7 @@ namespace {
 constexpr std::array<const char16_t*, kHitColumnCount> kColumnTitles = {u"Match", u"Volume", u"Folder",
                                                                         u"Name",  u"Size",   u"Date"};
 
-/// Numbers that are compared down the column stand at its right side.
+/// Numbers that are compared down the column are aligned to the right.
 Qt::Alignment columnAlignment(int column) {
   const auto hitColumn = static_cast<HitColumn>(column);
   const bool isNumber = hitColumn == HitColumn::Match || hitColumn == HitColumn::Size;

@@ -13,7 +13,7 @@
 
 namespace quorvin {
 
-/// What a row tells of its kind of source in words, for those who do not see or know the colours.
+/// What a row says about its kind of source in words, for those who do not see or know the colours.
 QString sourceKindText(SourceKind kind);
 
 /// Shows the rows of a HitTable under the columns "Match", "Volume", "Folder", "Name", "Size" and "Date".

@@ -15,15 +15,15 @@ namespace quorvin {
 
 namespace {
 
-/// The toolkit tells screen readers of a window that is neither a main window nor a dialog as of a mere
-/// holder of other things, and they would not notice that it has become the active one.
+/// The toolkit presents a window that is neither a main window nor a dialog to screen readers as a mere
+/// container, and they would not notice that it has become the active one.
 QAccessibleInterface* makeWindowAccessible(const QString& className, QObject* object) {
   const bool isPlainWindow = className == u"quorvin::frmBrowser" || className == u"quorvin::ImgPre";
   auto* window = isPlainWindow ? qobject_cast<QWidget*>(object) : nullptr;
   return window ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
 }
 
-/// The icon is the only thing that tells which kind of message it is; a screen reader needs a word for it.
+/// Only the icon shows which kind of message it is; a screen reader needs a word for it.
 void nameIcon(const QMessageBox& box) {
   auto* icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
   if (!icon) return;

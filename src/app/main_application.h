@@ -7,8 +7,8 @@
 
 namespace quorvin {
 
-/// The last place where a fault can be told: one that no handler has dealt with is shown in a message box,
-/// and the program stays open with everything it had.
+/// The last place where a fault can be reported: one that no handler has dealt with is shown in a message
+/// box, and the program stays open with everything it had.
 class Application : public QApplication {
   Q_OBJECT
 
@@ -22,7 +22,7 @@ class Application : public QApplication {
   MessageBoxes& messages_;
 };
 
-/// Shows each message in a box of its own above the window in use, with the application title. A call
+/// Shows each message in a separate box above the window in use, with the application title. A call
 /// returns when the user has answered; events run meanwhile.
 class WidgetMessageBoxes : public MessageBoxes {
  public:

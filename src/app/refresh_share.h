@@ -1,4 +1,4 @@
-// How much of a refresh is done, as far as that can be told.
+// How much of a refresh is done, as far as that is known.
 #pragma once
 
 #include "index/index_view.h"
@@ -19,10 +19,10 @@ class RefreshShare {
 
   /// The source in `row` (from 1) is being indexed from now on.
   void beginSource(int row);
-  /// What has been indexed since the begin of the refresh.
+  /// What has been indexed since the start of the refresh.
   void indexed(const IndexCounts& counts);
 
-  /// 0 to 100, never less than before; nothing where it cannot be told.
+  /// 0 to 100, never less than before; nothing where it is not known.
   std::optional<int> percent();
 
  private:

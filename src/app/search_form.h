@@ -34,14 +34,14 @@ class SearchForm : public QMainWindow, public StartUpView, public ShutdownView {
   SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
              SegmentStore* segments = nullptr, FilePicker* picker = nullptr);
 
-  /// What closing the window does before it closes; it may throw, which is told and keeps the window open.
+  /// What closing the window does before it closes. A fault is reported and keeps the window open.
   void setUnloadHandler(std::function<void()> handler) { unloadHandler_ = std::move(handler); }
 
   /// To be called after the sources of the state have changed: while there are none, the empty hit list says
   /// what to do first.
   void sourcesChanged();
 
-  /// Runs a local list refresh to its end, with `ReScan` disabled and the mouse pointer told of work; events
+  /// Runs a local list refresh to its end, with `ReScan` disabled and the mouse pointer showing work; events
   /// run meanwhile. While one is running, another follows it (unless the program is closing by then), and the
   /// call returns at once.
   void startRefresh();

@@ -15,7 +15,7 @@
 
 namespace quorvin {
 
-/// A line edit whose frame stands a little away from the control's right edge, so that the control itself can
+/// A line edit whose frame is a little away from the control's right edge, so that the control itself can
 /// reach to the edge of the window.
 class EdgeLineEdit : public QLineEdit {
   Q_OBJECT
@@ -87,7 +87,7 @@ struct ColumnDivision {
   double name;
 };
 
-/// Divides a hit list of `width` twips whose columns "Match", "Size" and "Date" are as wide as told. The
+/// Divides a hit list of `width` twips whose columns "Match", "Size" and "Date" have these widths. The
 /// result is negative where these leave no room.
 ColumnDivision divideColumns(double width, double match, double size, double date);
 
@@ -102,7 +102,7 @@ void setInitialColumnWidths(const SearchFormControls& controls, const QLocale& l
 QSize initialInnerSize(const SearchFormControls& controls);
 
 /// The layout of a window whose inner size is `inner`: what reaches to the edges is stretched to them, and
-/// the columns of the hit list are divided anew. No control is moved.
+/// the columns of the hit list are divided again. No control is moved.
 void stretchControls(const SearchFormControls& controls, QSize inner);
 
 }  // namespace quorvin

@@ -43,7 +43,7 @@ PeerHooks SearchFormNetwork::peerHooks() {
 
 void SearchFormNetwork::WebUpdate_Click() {
   if (isProgressTaken_) {
-    return messages_.inform(QStringLiteral("An update can begin once the unpacking has ended."));
+    return messages_.inform(QStringLiteral("An update can start when the unpacking has ended."));
   }
   const QScopedValueRollback taken(isProgressTaken_, true);
   webUpdate_.WebUpdate_Click();

@@ -74,7 +74,7 @@ class SearchFormWindows {
   QPointer<frmSplash> splash_;
   ImagePreview preview_;
   NetworkPageTransfer transfer_;
-  /// A window of its own beside the main one, so it is not the main window's child.
+  /// A separate window beside the main one, so it is not the main window's child.
   std::unique_ptr<frmBrowser> browser_;
 };
 

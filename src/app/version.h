@@ -17,7 +17,7 @@ ProgramVersion programVersion();
 /// The caption of `lblVer`: "Ver:2.5(64)".
 QString versionCaption();
 
-/// The version as the about window tells it: "Version 2.5.64".
+/// The version as the about window shows it: "Version 2.5.64".
 QString versionText();
 
 /// The title of the windows and of all message boxes: "Quorvin Utility".

@@ -82,7 +82,7 @@ ArchivePlace archivePlaceOf(const QString& name) {
   }
   if (place.path.size() > kMostArchiveFolders + 1) {
     refuse(ArchiveErrorCode::TooDeep,
-           QStringLiteral("The archive has an entry that lies more than %1 folders deep: \"%2\".")
+           QStringLiteral("The archive has an entry that is more than %1 folders deep: \"%2\".")
                .arg(kMostArchiveFolders)
                .arg(shownEntryName(name)));
   }
@@ -206,7 +206,7 @@ class Totals {
  private:
   [[noreturn]] static void overlap() {
     refuse(ArchiveErrorCode::Overlapping,
-           QStringLiteral("The entries of the archive lie over each other; it was made to do harm."));
+           QStringLiteral("The entries of the archive overlap; it was made to do harm."));
   }
 
   std::uint64_t archiveLength_;

@@ -19,8 +19,8 @@ struct IndexRequest {
 inline constexpr int kInterrupted = 130;
 
 /// Writes the listing. A file is written aside and put in place when it is whole; until then, and when
-/// anything goes wrong, the one that was there before stays. Single names that could not be read are told on
-/// standard error and change nothing in the exit status: 0 when the listing is there, 2 when the folder
+/// anything goes wrong, the one that was there before stays. Single names that could not be read are reported
+/// on standard error and change nothing in the exit status: 0 when the listing is there, 2 when the folder
 /// cannot be read or the listing cannot be written, kInterrupted after an interrupt.
 int runIndex(const IndexRequest& request);
 

@@ -63,7 +63,7 @@ CLI::App* addIndex(CLI::App& app, IndexOptions& options) {
   index->add_flag("--folders-only", options.foldersOnly, "List folders only");
   index->add_option("--output", options.output, "The listing's file; default: standard output")
       ->type_name("FILE");
-  index->add_option("FOLDER", options.folder, "The folder to list, with all below it")->required();
+  index->add_option("FOLDER", options.folder, "The folder to list, with everything below it")->required();
   return index;
 }
 
@@ -103,7 +103,7 @@ int main(int argc, char** argv) {
   const CLI::App* find = addFind(app, findOptions);
   const CLI::App* index = addIndex(app, indexOptions);
   const CLI::App* refresh =
-      app.add_subcommand("refresh", "Make the listings of the user's own online sources anew");
+      app.add_subcommand("refresh", "Renew the listings of the user's own online sources");
   const CLI::App* cache = addCache(app, clearCache);
   try {
     app.parse(argc, argv);

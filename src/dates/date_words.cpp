@@ -34,7 +34,7 @@ void addMonthsOf(WordList& names, const QLocale& locale, QLocale::FormatType len
   }
 }
 
-// `written` as it stands, then without blanks, then without dots either.
+// `written` as it is, then without blanks, then without dots either.
 void addHalfDay(WordList& names, QString written, int half) {
   names.add(written, half);
   const auto isBlank = [](QChar sign) { return sign.category() == QChar::Separator_Space; };

@@ -17,7 +17,7 @@ DatePattern shortTimePattern(const QLocale& locale) {
   return placeOf(PatternField::Minute, pattern) < 0 ? generalTimePattern(locale) : pattern;
 }
 
-// Blanks, perhaps a comma before them: what stands between a date and a time.
+// Blanks, perhaps a comma before them: what is between a date and a time.
 std::size_t separatorLength(std::u16string_view text) {
   std::size_t length = 0;
   if (text.starts_with(u',')) ++length;

@@ -19,7 +19,7 @@ double leadingNumber(QStringView text);
 /// does not fit or is no number.
 std::int16_t roundToInt16(double value);
 
-/// A size in bytes as it stands in a listing: an optional minus sign and digits, with any grouping sign
+/// A size in bytes as it is in a listing: an optional minus sign and digits, with any grouping sign
 /// (comma, dot, blank, no-break blanks, apostrophes) singly between them, blanks around. Digits may be those
 /// of any script. Nothing when there is no digit, anything else stands there, or the value does not fit.
 std::optional<std::int64_t> readByteCount(QStringView text);

@@ -20,7 +20,7 @@ struct Part {
   int year() const { return length == 2 ? yearOfTwoDigits(value) : value; }
 };
 
-// What stands between two parts: blanks, one sign at most, blanks.
+// What is between two parts: blanks, one sign at most, blanks.
 struct Gap {
   char16_t sign = 0;
   std::size_t length = 0;

@@ -127,7 +127,7 @@ void SourceListView::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      // The dialog would take it for its default button, and add what stands in the boxes.
+      // The dialog would take it for its default button, and add what is in the boxes.
       return;
     default:
       QTreeView::keyPressEvent(event);

@@ -45,7 +45,7 @@ struct LocalLocControls {
   QPushButton* Cancel;
 };
 
-/// Makes the controls as children of `parent`, with their names, texts and tab order; they have no places
+/// Makes the controls as children of `parent`, with their names, texts and tab order; they are not placed
 /// yet.
 LocalLocControls makeLocalLocControls(QWidget* parent);
 

@@ -42,14 +42,15 @@ enum class OptionsOutcome {
   /// The join date cannot be read; nothing has been stored.
   DateRefused,
   /// The data folder holds no ordinary file. The join date, the nickname and the data folder have been stored
-  /// and stay so, even if the user leaves the dialog by Cancel.
+  /// and stay so, even if the user leaves the dialog with Cancel.
   FolderRefused,
   /// Something failed; what was stored before it stays.
   Failed,
 };
 
 /// Stores the texts into the settings of `state`, the join date first, then the nickname, the data folder
-/// (completed by a trailing separator), and the rest. A refusal is told in a message box, a failure is not.
+/// (completed by a trailing separator), and the rest. A refusal is reported in a message box, a failure is
+/// not.
 OptionsOutcome storeOptions(const OptionTexts& texts, ProgramState& state, MessageBoxes& messages,
                             const OptionsConditions& conditions);
 

@@ -18,7 +18,7 @@ bool isAllowedInDescriptions(QChar character) {
 constexpr int kColumnCount = 2;
 constexpr int kDescriptionColumn = 0;
 
-/// A text may be longer than its column is wide. It is shown as it stands, though a path may look like
+/// A text may be longer than its column is wide. It is shown as it is, though a path may look like
 /// markup.
 QString toolTipOf(const QString& text) {
   return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());

@@ -21,7 +21,7 @@ struct SourceEntry {
 
 /// Why `entry` cannot be added, as a message to the user: a path of fewer than 3 characters, or a description
 /// that is empty or holds one of :|*?\/ (an online source's description is part of a file name). The path is
-/// looked at first. Nothing when the entry can be added; texts are taken as they stand.
+/// looked at first. Nothing when the entry can be added; texts are taken as they are.
 std::optional<QString> whyNotAdded(const SourceEntry& entry);
 
 /// Rows 1 to `count` of `table`.
@@ -48,7 +48,7 @@ class SourceListModel : public QAbstractTableModel {
   // The commands on the selected row. Each gives the row to select afterwards; nothing when the selection is
   // left to the view. A row that is not there (none is selected) changes nothing.
 
-  /// Removes the entry; the one above it is to be selected.
+  /// Removes the entry; the one above it should be selected.
   std::optional<int> deleteEntry(int row);
   /// Exchanges the entry with the one above, or below; the selection follows it. Nothing happens at the end
   /// of the list.

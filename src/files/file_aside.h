@@ -17,7 +17,7 @@ namespace quorvin {
 
 /// What has to outlive a machine that fails: the power goes, or the system stops.
 enum class Durability : std::uint8_t {
-  /// Nothing: what stands at the place afterwards may be short. For what the program can make again.
+  /// Nothing: what is at the place afterwards may be short. For what the program can make again.
   None,
   /// The old file or the new one, whole.
   OldOrNew,

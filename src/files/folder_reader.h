@@ -9,10 +9,10 @@
 
 namespace quorvin {
 
-/// What stands under a name. Link: to what, only a look-up can tell. Other: a device, a socket or a pipe.
+/// What is under a name. Link: to what, only a look-up can tell. Other: a device, a socket or a pipe.
 enum class NameKind : std::uint8_t { File, Folder, Link, Other };
 
-/// One name of a folder; empty at the end of the folder. A NUL stands behind the bytes. They are valid until
+/// One name of a folder; empty at the end of the folder. A NUL follows the bytes. They are valid until
 /// another name is read or another folder is current.
 struct FolderName {
   std::string_view bytes;
@@ -24,7 +24,7 @@ struct NameStatus {
   NameKind kind = NameKind::Other;
   /// In bytes.
   std::int64_t size = 0;
-  /// Whole seconds since the begin of 1970, UTC.
+  /// Whole seconds since the start of 1970, UTC.
   std::int64_t modified = 0;
 };
 
@@ -52,7 +52,7 @@ class FolderReader {
   virtual bool topIsStillAt(const QString& path) const = 0;
 };
 
-/// The number of folders that a reader keeps open unless told otherwise.
+/// The number of folders that a reader keeps open by default.
 inline constexpr int kMostOpenFolders = 64;
 
 /// The system's own folders. However deep the tree, at most `mostOpen` folders (at least 2) are open at a

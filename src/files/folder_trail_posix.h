@@ -53,7 +53,7 @@ class FolderTrail {
   std::size_t mostOpen_;
   QByteArray topPath_;
   FolderIdentity top_;
-  // Rows are kept when folders are left, so that their texts need not be made anew.
+  // Rows are kept when folders are left, so that their texts need not be made again.
   std::vector<Folder> folders_;
   std::size_t depth_ = 0;
   // The folders from here to the current one are open.

@@ -55,7 +55,7 @@ Descriptor FolderWriter::enter(const QStringList& path, qsizetype count) const {
       throw faultOfSystemError(errno, shown);
     }
     Descriptor next(::openat(folder.get(), name.constData(), kFolderNotLink));
-    // A link and a file are told the same way: neither is a folder to write into.
+    // A link and a file are reported the same way: neither is a folder to write into.
     if (next.get() < 0) throw faultOfSystemError(errno == ENOTDIR ? ELOOP : errno, shown);
     folder = std::move(next);
   }

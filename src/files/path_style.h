@@ -26,11 +26,11 @@ PathStyle nativePathStyle();
 /// `folder` with one separator at its end; unchanged when it ends in one already.
 QString withTrailingSeparator(const QString& folder, PathStyle style);
 
-/// The folder as it stands in a listing: without the drive prefix, with backslashes. "D:\Music\" and
+/// The folder as it is in a listing: without the drive prefix, with backslashes. "D:\Music\" and
 /// "/Music/" are both listed as "\Music\".
 QString listedFolder(QStringView folder, PathStyle style);
 
-/// Whether a data file's name is a whole path, to be used as it stands, rather than a name inside the local
+/// Whether a data file's name is a whole path, to be used as it is, rather than a name inside the local
 /// data folder: it contains a colon or two backslashes in a row, or, where there are no drives, begins with
 /// the separator.
 bool isTakenAsItStands(QStringView fileName, PathStyle style);

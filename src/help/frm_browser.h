@@ -12,12 +12,12 @@
 namespace quorvin {
 
 /// The help browser `frmBrowser`: pages of the program's help, and plain pages of the web. The window is
-/// loaded when it is shown, and unloaded when it is closed; shown again, it starts anew.
+/// loaded when it is shown, and unloaded when it is closed; shown again, it starts afresh.
 class frmBrowser : public QWidget {
   Q_OBJECT
 
  public:
-  /// The pages stand in `helpFolder`; `transfer`, which must outlive the window, brings those of the web.
+  /// The pages are in `helpFolder`; `transfer`, which must outlive the window, fetches those of the web.
   frmBrowser(const QString& helpFolder, PageTransfer& transfer, QWidget* parent = nullptr);
   ~frmBrowser() override;
 

@@ -92,7 +92,7 @@ QAction* addToolbarButton(QToolBar* bar, BrowserButton button) {
   return action;
 }
 
-/// The button behind which a narrow window keeps the others has neither a caption nor a name of its own.
+/// The button that holds the others in a narrow window has neither a caption nor a name.
 void nameExtension(const QToolBar& bar) {
   auto* extension = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
   if (extension) extension->setAccessibleName(QStringLiteral("More buttons"));

@@ -23,7 +23,7 @@ inline constexpr int kBrowserTwipsPerPixel = 15;
 /// height, in twips.
 inline constexpr int kBesideAddress = 100;
 inline constexpr int kBesidePages = 100;
-/// Where the address box begins, and how far below its label it stands, in twips.
+/// The left edge of the address box, and how far it is below its label, in twips.
 inline constexpr int kAddressLeft = 50;
 inline constexpr int kBelowAddressLabel = 15;
 

@@ -11,7 +11,7 @@ class QPushButton;
 
 namespace quorvin {
 
-/// A drawing that is drawn anew for every size and every scale of the screen, so that it is never blurred.
+/// A drawing that is redrawn for every size and every scale of the screen, so that it is never blurred.
 class LogoPicture : public QWidget {
   Q_OBJECT
 
@@ -27,7 +27,7 @@ class LogoPicture : public QWidget {
   QSvgRenderer drawing_;
 };
 
-/// What the about window tells.
+/// What the about window shows.
 struct ProductFacts {
   QString productName;
   int majorVersion;

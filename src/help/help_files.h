@@ -47,7 +47,7 @@ class HelpFiles {
 };
 
 /// The folder that holds the help pages, with a separator at its end: the one of the executable, or, where
-/// the program is installed and its pages stand apart, the shared folder beside it.
+/// the program is installed and its pages are elsewhere, the shared folder beside it.
 QString helpFolder();
 
 /// The rule behind helpFolder: the first of `executableFolder` and its "../share/quorvin/help" that holds

@@ -253,7 +253,7 @@ void FindBar::findPrevious() {
   find(true);
 }
 
-/// A longer text may stand where the shorter one was found.
+/// A longer text may be at the place where the shorter one was found.
 void FindBar::findFromHere() {
   QTextCursor cursor = page_.textCursor();
   cursor.setPosition(cursor.selectionStart());

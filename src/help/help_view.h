@@ -71,7 +71,7 @@ class HelpView : public QTextBrowser {
 };
 
 /// A row with a text to find and buttons for the next and the one before. It looks while the reader types and
-/// goes on from the other end of the page when there is no further place.
+/// continues from the other end of the page when there is no further match.
 class FindBar : public QWidget {
   Q_OBJECT
 

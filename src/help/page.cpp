@@ -40,9 +40,9 @@ bool beginsWithAScheme(const QString& text) {
   return text.contains(scheme);
 }
 
-/// The text layout takes twice as long for each table around another: twenty take ten seconds.
+/// Each table around another doubles the time of the text layout: twenty take ten seconds.
 constexpr int kDeepestTables = 8;
-/// It takes stack for everything else in each other; a page could use it up.
+/// Other nested elements take stack; a page could use it up.
 constexpr int kDeepestNesting = 60;
 
 QByteArray mediaType(const QByteArray& contentType) {

@@ -9,8 +9,8 @@ namespace quorvin {
 
 /// What `text` from the address box means: a path or a "file:" address; a web address, with or without
 /// "http://"; or the name of a page in `helpFolder` ("relinfo.htm", "manual/searching.htm"). A "#" in the
-/// last part of a path begins the place within the page. Blanks around are dropped; empty text gives an empty
-/// address. Whether there is such a page, and whether it may be opened, is not looked at.
+/// last part of a path starts the place within the page. Blanks around it are dropped; empty text gives an
+/// empty address. Whether there is such a page, and whether it may be opened, is not looked at.
 QUrl pageAddress(const QString& text, const QString& helpFolder);
 
 /// The address as the address box shows it: a path as the system writes it, or a web address. pageAddress
@@ -41,7 +41,7 @@ PageKind pageKind(const QByteArray& contentType);
 /// that no person wrote it becomes plain text.
 Page decodedPage(const QUrl& address, const QByteArray& bytes, const QByteArray& contentType);
 
-/// A page that tells why there is none: `title`, the address, and `sentences`, which are plain text.
+/// A page that says why there is none: `title`, the address, and `sentences`, which are plain text.
 Page messagePage(const QUrl& address, const QString& title, const QString& sentences);
 
 }  // namespace quorvin

@@ -34,7 +34,7 @@ class PageHistory {
 
   /// Makes `address` the current page. What was ahead is forgotten.
   void visit(const QUrl& address);
-  /// The page may have told another address than it was asked for by; `address` is the one to keep.
+  /// The page may report another address than the one that was asked for; `address` is the one to keep.
   void moveBack(const QUrl& address);
   void moveForward(const QUrl& address);
   void stay(const QUrl& address);

@@ -39,7 +39,7 @@ class PageLoader {
   void open(const QString& address);
   /// Follows a link of the shown page; `link` may be relative to it.
   void follow(const QUrl& link);
-  /// These do nothing where there is no such page.
+  /// These do nothing if there is no page to go to.
   void goBack();
   void goForward();
   void reload();

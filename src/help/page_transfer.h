@@ -33,7 +33,7 @@ class PageTransfer {
 
   virtual ~PageTransfer() = default;
 
-  /// Begins to fetch `address`, an http or https one, and returns at once; a transfer that is still going on
+  /// Starts to fetch `address`, an http or https one, and returns at once; a transfer that is still going on
   /// is stopped. `done` is called once, later, from the event loop, unless the transfer is stopped before.
   virtual void start(const QUrl& address, Done done) = 0;
 

@@ -40,7 +40,7 @@ class DirIO {
         const QLocale& locale, PathStyle style = nativePathStyle());
 
   /// Lists `folderPath`, to which a separator is appended in place when it has none at its end, and all below
-  /// it to the outputs that `flags` choose; `volumeText` stands in every block. Files are listed whose name
+  /// it to the outputs that `flags` choose; `volumeText` is in every block. Files are listed whose name
   /// fits `filePattern`. A path that is too short to name a folder writes nothing.
   ///
   /// Names that cannot be listed or read, and those that a reader of the listing will misread, are told in

@@ -18,7 +18,7 @@ struct ListedFile {
   std::string_view name;
   /// In bytes; -1 where it is not known.
   std::int64_t size = -1;
-  /// Seconds since the begin of 1970, UTC; nothing where the zero date is to stand.
+  /// Seconds since the start of 1970, UTC; nothing where the zero date is to stand.
   std::optional<std::int64_t> modified;
 };
 

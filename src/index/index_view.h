@@ -34,7 +34,7 @@ class RefreshView : public IndexView {
   /// The title of `Progress`.
   virtual QString progressTitle() const = 0;
   virtual void setProgressTitle(const QString& title) = 0;
-  /// `Progress` is to be shown (without taking the focus) from the begin of a refresh to its end, however it
+  /// `Progress` is to be shown (without taking the focus) from the start of a refresh to its end, however it
   /// ends.
   virtual void refreshBegins() = 0;
   virtual void refreshEnded() = 0;

@@ -18,13 +18,13 @@ class ListedDates {
  public:
   explicit ListedDates(const QLocale& locale);
 
-  /// Appends the wall-clock date and time of `seconds` since the begin of 1970, UTC.
+  /// Appends the wall-clock date and time of `seconds` since the start of 1970, UTC.
   void append(std::string& line, std::int64_t seconds);
   /// Appends the zero date.
   void appendZero(std::string& line) const { line += zeroDate_; }
 
  private:
-  // One field of a pattern with what stands beside it, as a text for each value that the field can have.
+  // One field of a pattern with what is beside it, as a text for each value that the field can have.
   struct Part {
     PatternField field;
     std::vector<std::string> texts;

@@ -1,4 +1,4 @@
-// The local list refresh: makes the listing of every online source anew.
+// The local list refresh: renews the listing of every online source.
 #pragma once
 
 #include "index/index_view.h"
@@ -17,8 +17,8 @@ namespace quorvin {
 /// walk (a drive was pulled), keeps its old listing, and a line in the error log says so. A source whose
 /// listing would overwrite the main data file or a source list is passed over, which is logged too. At the
 /// end the title of `Progress` is as before, its status shows `versionCaption`, and a non-empty error log is
-/// shown and emptied. A fault is told as "Error Refreshing Local Lists:" with its description and ends the
-/// refresh; every listing on disk is then the old or the new one, whole. Does nothing while a refresh is
+/// shown and emptied. A fault is reported as "Error Refreshing Local Lists:" with its description and ends
+/// the refresh; every listing on disk is then the old or the new one, whole. Does nothing while a refresh is
 /// already running. User-interface thread only.
 void refreshLocalLists(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
                        const QString& versionCaption);

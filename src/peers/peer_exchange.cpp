@@ -35,7 +35,7 @@ void PeerExchange::getLists(const QString& peer) {
     messages_.inform(
         QStringLiteral("\"%1\" is not the name or address of a computer.").arg(shownPeerText(peer)));
   } else if (isBusy()) {
-    messages_.inform(QStringLiteral("Lists are being got already."));
+    messages_.inform(QStringLiteral("Lists are already being received."));
   } else {
     client_.start(address);
     Q_EMIT gettingBegan(shownPeerText(address.text()));

@@ -51,9 +51,9 @@ class PeerExchange : public QObject {
  Q_SIGNALS:
   /// Lists are being got; `peer` as it may be shown.
   void gettingBegan(const QString& peer);
-  /// No more lists are coming. What came is told and offered next.
+  /// No more lists are coming. What came is reported and offered next.
   void gettingEnded();
-  /// What came has been told and offered: other lists may be got.
+  /// What came has been reported and offered: other lists may be got.
   void outcomeDealtWith();
   /// Offline sources have been added.
   void offlineSourcesAdded();
@@ -71,7 +71,7 @@ class PeerExchange : public QObject {
   ListSharing sharing_;
   PeerClient client_;
   QTimer offer_;
-  /// What came of a conversation, until it is told and offered.
+  /// What came of a conversation, until it is reported and offered.
   std::optional<PeerOutcome> outcome_;
   bool isOffering_ = false;
 };

@@ -9,7 +9,7 @@ namespace quorvin {
 
 /// Keeps the settings in an INI file. A section of the file is the application name, a slash and the
 /// section's name; these and the keys are percent-encoded (an application's name may be a path). Every write
-/// reads the file anew under a lock file and replaces it as a whole, so that programs that save at the same
+/// reads the file again under a lock file and replaces it as a whole, so that programs that save at the same
 /// time keep each other's values.
 class IniSettingsStore : public SettingsStore {
  public:

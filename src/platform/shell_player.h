@@ -17,7 +17,7 @@ struct PlayerCommand {
 };
 
 /// The command that the user has set, for `file`. `setting` is a program and its arguments, parted by blanks;
-/// what holds blanks itself stands in double quotes. Each "%f" is replaced by the file; where there is none,
+/// what contains blanks is in double quotes. Each "%f" is replaced by the file; where there is none,
 /// the file comes last. Nothing else in it has a meaning, and nothing in the file's name has. Empty when the
 /// setting holds no program.
 PlayerCommand playerCommandOfSetting(const QString& setting, const QString& file);

@@ -1,4 +1,4 @@
-// Where the program stands and where it may keep the user's files.
+// Where the program is and where it may keep the user's files.
 #pragma once
 
 #include <QString>
@@ -15,7 +15,7 @@ QString programFolder();
 /// `dataFolder`, made ready as prepareUserDataFolder does. Throws RuntimeFault when that fails.
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataFolder);
 
-/// The user's cache folder for the program, with a trailing separator; not made. What stands there can be
+/// The user's cache folder for the program, with a trailing separator; not made. What is there can be
 /// made again.
 QString userCacheFolder();
 

@@ -24,7 +24,7 @@ struct TimeZoneInformation {
   bool operator==(const TimeZoneInformation&) const = default;
 };
 
-/// The machine's zone as it stands at a moment, in seconds since 1970 UTC.
+/// The machine's zone as it is at a moment, in seconds since 1970 UTC.
 TimeZoneInformation timeZoneInformation(std::int64_t moment);
 
 }  // namespace quorvin

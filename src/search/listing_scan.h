@@ -69,7 +69,7 @@ void scanListing(ListingReader read, const ScanRequest& request, RunCounts& coun
                  const ScanLimits& limits = {});
 
 /// The same for the listing file at `path`, from its segments in `store` where they are known; else they are
-/// built and handed to the store. `store` may be null. Segments that turn out to be damaged are built anew,
+/// built and handed to the store. `store` may be null. Segments that turn out to be damaged are rebuilt,
 /// and the scan goes on where it was.
 void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest& request, RunCounts& counts,
                      ScanOutcome& outcome, const ScanLimits& limits = {});

@@ -189,11 +189,10 @@ void SearchRun::reportUnreadable() {
 void SearchRun::reportChanged() {
   if (changed_.isEmpty() || isEnding()) return;
   const auto named = std::min(changed_.size(), static_cast<qsizetype>(kMostListingsNamed));
-  QString message =
-      QStringLiteral(
-          "These listings were written to while they were searched. Hits in them may be partly of the "
-          "old and partly of the new content; press Find again for the new one.\r\n") +
-      changed_.first(named).join(QStringLiteral("\r\n"));
+  QString message = QStringLiteral(
+                        "These listings were written to while they were searched. Hits in them may come from "
+                        "the old or the new content; press Find again for the new one.\r\n") +
+                    changed_.first(named).join(QStringLiteral("\r\n"));
   if (changed_.size() > named) {
     message += QStringLiteral("\r\nand %1 more listings").arg(changed_.size() - named);
   }

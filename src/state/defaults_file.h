@@ -11,7 +11,7 @@ namespace quorvin {
 inline constexpr char16_t kDefaultsFileName[] = u"defaults.txt";
 
 /// Reads the four lines of the file at `path` into `LocalFolder`, `TextFile`, `ArchiveFile` and `WebServer`
-/// of `state`, in this order, each line as it stands (further lines are ignored). Throws RuntimeFault: 62
+/// of `state`, in this order, each line as it is (further lines are ignored). Throws RuntimeFault: 62
 /// when there are fewer than four lines (those before it are stored), and file faults. Layout:
 /// docs/formats/source-lists.md.
 void readDefaultsFile(const QString& path, ProgramState& state);

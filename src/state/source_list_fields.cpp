@@ -60,7 +60,7 @@ void SourceListFields::skipBlanks() {
   while (position_ < textSize_ && line_[position_] == u' ') ++position_;
 }
 
-/// Passes over the comma or the line end, if one stands here.
+/// Passes over the comma or the line end, if there is one here.
 void SourceListFields::skipSeparator() {
   if (position_ >= textSize_) {
     position_ = line_.size();

@@ -29,7 +29,7 @@ bool isSameFile(const QString& path, const QString& other) {
   return path == other || (identity && identity == fileIdentity(other));
 }
 
-/// Whether a list stands there whose records are in no table.
+/// Whether there is a list whose records are in no table.
 bool holdsUnknownRecords(const List& list) {
   return ordinaryFileExists(list.path) && !isSameFile(list.path, list.read);
 }
@@ -55,8 +55,8 @@ QString nameForCopy(const QString& path) {
 QString whyUnknown(const List& list) {
   const QString reason =
       list.read.isEmpty()
-          ? QStringLiteral("The list %1 was not read whole when the program started.")
-          : QStringLiteral("The list %1 was not read, since its folder became the data folder later on.");
+          ? QStringLiteral("The list %1 was not read completely when the program started.")
+          : QStringLiteral("The list %1 was not read, since its folder became the data folder only later.");
   return reason.arg(list.path);
 }
 

@@ -20,7 +20,7 @@ class SourceTable {
   SourceTable();
 
   /// The text at `row` and `column`. Throws fault 9 outside rows 0 to 2000 and columns 0 to 2: the capacity
-  /// is a limit that is told, never a silent drop.
+  /// is a limit that is reported, never a silent drop.
   const QString& at(int row, int column) const;
   QString& at(int row, int column);
 

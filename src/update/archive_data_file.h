@@ -14,9 +14,9 @@ class DataFileExtraction : public ArchiveExtraction {
   /// All must outlive the object.
   DataFileExtraction(ProgramState& state, ArchiveView& view, MessageBoxes& boxes);
 
-  /// What is wrong with the archive is told in a message box before fault 75 is thrown. A file that cannot be
-  /// written is a fault as unpackArchive() throws it. After a fault `Progress` is taken away too. The user
-  /// may cancel; that is no fault.
+  /// What is wrong with the archive is reported in a message box before fault 75 is thrown. A file that
+  /// cannot be written is a fault as unpackArchive() throws it. After a fault `Progress` is taken away too.
+  /// The user may cancel; that is no fault.
   void extractArchive(const QString& archivePath, const QString& targetFolder) override;
 
  private:

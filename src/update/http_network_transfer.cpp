@@ -54,7 +54,7 @@ FaultNumber faultOfError(QNetworkReply::NetworkError error) {
   }
 }
 
-/// The announced length; nothing when none is told.
+/// The announced length; nothing when none is given.
 std::optional<std::int64_t> announcedLength(const QNetworkReply& reply) {
   bool isNumber = false;
   const std::int64_t length = reply.rawHeader("Content-Length").trimmed().toLongLong(&isNumber);

@@ -26,7 +26,7 @@ struct HttpLimits {
 
 /// Follows redirects to the same or a safer scheme, takes no cookies, gives no passwords, and has nothing
 /// packed on the way. An answer other than 200, a document shorter than announced and a certificate that
-/// cannot be trusted are failures. Where neither length nor end of a document is told, it ends where the
+/// cannot be trusted are failures. Where neither length nor end of a document is given, it ends where the
 /// connection does: whoever uses the document must be able to tell whether it is whole.
 class HttpNetworkTransfer : public QObject, public HttpTransfer {
   Q_OBJECT

@@ -39,7 +39,7 @@ class WebUpdate {
 
   /// Asks `WebServer` for the date of `ArchiveFile` and, when it is newer than the copy in `LocalFolder` and
   /// the user agrees, downloads it over that copy and unpacks it. `WebUpdate` is disabled meanwhile. After a
-  /// cancelled download the copy is deleted and `WebUpdate` stays disabled. Whatever fails is told as
+  /// cancelled download the copy is deleted and `WebUpdate` stays disabled. Whatever fails is reported as
   /// "NUMBER: Could not get an update."; what has been written of the archive then stays, and so does
   /// `Progress`. The earlier archive is written over from its start and not cut: the rest of a longer one
   /// stays behind the new one.
@@ -77,7 +77,7 @@ class WebUpdate {
   QUrl address_;
   std::int32_t remoteSize_ = 0;
   std::int32_t bytesCounted_ = 0;
-  /// As long as the archive has become; what stands behind is of the earlier one.
+  /// As long as the archive has become; what follows is of the earlier one.
   std::int64_t archiveLength_ = 0;
 };
 

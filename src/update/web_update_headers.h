@@ -12,7 +12,7 @@ namespace quorvin {
 
 /// The date in the value of a "Last-Modified" header, found by its position: the characters from the sixth
 /// on, nine fewer than the value has ("Mon, 15 Nov 2004 10:20:30 GMT" without day name and zone). Throws
-/// fault 5 for a value of fewer than nine characters, 13 when no date stands there.
+/// fault 5 for a value of fewer than nine characters, 13 when there is no date.
 DateValue serverDateOf(const QString& lastModified, const QLocale& locale);
 
 /// The size in the value of a "Content-Length" header. Throws fault 13 when it is no whole number, 6 when it

@@ -28,7 +28,7 @@ class ArchiveView {
   virtual void setBar(std::int32_t value) = 0;
   /// Lets pending window events run; the user may cancel or close meanwhile.
   virtual void processEvents() = 0;
-  /// Whether the main window has been closed: work is to end soon, and nothing more is asked or told.
+  /// Whether the main window has been closed: work should end soon, and nothing more is asked or reported.
   virtual bool endRequested() const = 0;
 };
 

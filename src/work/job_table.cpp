@@ -84,7 +84,7 @@ Answer answerWhile(JobKind running, JobKind wanted) {
 QString refusalText(JobKind running, JobKind wanted) {
   if (running == JobKind::Closing || wanted == JobKind::Closing) return {};
   if (running == JobKind::Getting && wanted == JobKind::Getting) {
-    return QStringLiteral("Lists are being got already.");
+    return QStringLiteral("Lists are already being received.");
   }
   return sentenceOf(running) + u' ' + subjectOf(wanted) +
          QStringLiteral(" can be started when that has ended.");

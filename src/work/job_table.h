@@ -35,7 +35,7 @@ enum class Answer : std::uint8_t {
   Stops,
   /// It starts when the running job has ended.
   Waits,
-  /// It does not start, and the user is told why.
+  /// It does not start, and a message says why.
   Refused,
 };
 

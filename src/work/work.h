@@ -57,7 +57,7 @@ class Job {
   void dropStopRequest() const;
   /// Whether the refresh is to end after its current source; clears `RescanAbort`, which has asked for that.
   bool takeRescanAbort() const;
-  /// Whether the program is closing: nothing more is shown, asked or told.
+  /// Whether the program is closing: nothing more is shown, asked or reported.
   bool isClosing() const;
 
  private:

@@ -19,7 +19,7 @@ QString latin(const char* text) {
   return QString::fromLatin1(text);
 }
 
-/// Where in the tree something stands.
+/// Where in the tree something is.
 struct Place {
   QString service;
   QDBusObjectPath path;

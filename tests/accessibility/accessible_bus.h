@@ -40,7 +40,7 @@ class AccessibleBus {
   /// Does what pressing would do. Returns at once: a press may open a dialog, and is over when that is
   /// closed.
   void press(const BusNode& node) const;
-  /// Writes `text` in the place of what stands in a text box. False where the box refuses.
+  /// Replaces what is in a text box by `text`. False where the box refuses.
   bool write(const BusNode& node, const QString& text) const;
 
  private:

@@ -52,7 +52,7 @@ bool onlyHoldsOrParts(QAccessible::Role role) {
   }
 }
 
-/// The toolkit's own parts have names that begin so.
+/// The toolkit's own parts have names that start like this.
 bool isNamedByUs(const Reading& reading) {
   return !reading.objectName.isEmpty() && !reading.objectName.startsWith(QStringLiteral("qt_"));
 }
@@ -72,7 +72,7 @@ bool hasWord(const QString& text) {
 
 QString faultOf(const Reading& reading) {
   if (onlyHoldsOrParts(reading.role)) return {};
-  // A line that has nothing to tell at present.
+  // A line that is empty at present.
   if (reading.role == QAccessible::StaticText && reading.name.isEmpty()) return {};
   if (reading.name.isEmpty() && reading.label.isEmpty()) return QStringLiteral("has no name");
   if (!hasWord(reading.name + reading.label)) return QStringLiteral("has a name without a word");

@@ -12,7 +12,7 @@ namespace quorvin::test {
 
 /// One thing of a window's accessible tree.
 struct Reading {
-  /// Empty for what is no object of its own, a row of a list for example.
+  /// Empty for what is not an object, for example a row of a list.
   QString objectName;
   QAccessible::Role role = QAccessible::NoRole;
   QString name;

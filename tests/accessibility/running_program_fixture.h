@@ -102,7 +102,7 @@ class RunningProgram : public testing::Test {
       EXPECT_FALSE(window.name.isEmpty()) << "a window without a name: " << window.path.toStdString();
       for (const BusNode& node : bus_.everythingBelow(window)) {
         ++walked;
-        // A line of text that has nothing to tell at present is no control.
+        // A line of text that is empty at present is no control.
         const bool mayBeSilent = onlyHoldsOrParts(node) || node.role == u"label";
         EXPECT_TRUE(mayBeSilent || !node.name.isEmpty() || !node.label.isEmpty())
             << "a control without a name: " << node.role.toStdString() << " in " << window.name.toStdString();

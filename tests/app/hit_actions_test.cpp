@@ -1,4 +1,4 @@
-// What is done with a hit, told from what the shell is asked for.
+// What is done with a hit, seen from what the shell is asked for.
 #include "app/hit_actions.h"
 
 #include "support/qt_printing.h"

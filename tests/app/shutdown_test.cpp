@@ -220,10 +220,11 @@ TEST_F(ShutdownTest, AnUnreadListIsNotReplacedByAnEmptyTable) {
   EXPECT_EQ(onlineList(), "\"a\",\"/a/\"\r\n\"half");
   EXPECT_FALSE(folder_.has(QStringLiteral("Locations.txt.kept")));
   const QString path = folder_.pathOf(QStringLiteral("Locations.txt"));
-  EXPECT_EQ(boxes_.informed,
-            std::vector<QString>({QStringLiteral("The list ") + path +
-                                  QStringLiteral(" was not read whole when the program started.\r\nIt stays "
-                                                 "as it is; the list in use is empty and was not saved.")}));
+  EXPECT_EQ(
+      boxes_.informed,
+      std::vector<QString>({QStringLiteral("The list ") + path +
+                            QStringLiteral(" was not read completely when the program started.\r\nIt stays "
+                                           "as it is; the list in use is empty and was not saved.")}));
 }
 
 TEST_F(ShutdownTest, WhereNothingWasReadAndNothingStandsAnEmptyTableWritesNothing) {
@@ -244,8 +245,8 @@ TEST_F(ShutdownTest, AHalfReadListIsKeptBesideTheOneThatIsSaved) {
   EXPECT_EQ(boxes_.informed,
             std::vector<QString>(
                 {QStringLiteral("The list ") + path +
-                 QStringLiteral(" was not read whole when the program started.\r\nIt is kept as ") + path +
-                 QStringLiteral(".kept, and the list as it is now is saved in its place.")}));
+                 QStringLiteral(" was not read completely when the program started.\r\nIt is kept as ") +
+                 path + QStringLiteral(".kept, and the list as it is now is saved in its place.")}));
 }
 
 TEST_F(ShutdownTest, AnEarlierKeptListIsNotOverwritten) {
@@ -270,7 +271,7 @@ TEST_F(ShutdownTest, TheListOfAnotherDataFolderIsKept) {
   EXPECT_EQ(boxes_.informed,
             std::vector<QString>(
                 {QStringLiteral("The list ") + path +
-                 QStringLiteral(" was not read, since its folder became the data folder later on.\r\nIt is "
+                 QStringLiteral(" was not read, since its folder became the data folder only later.\r\nIt is "
                                 "kept as ") +
                  path + QStringLiteral(".kept, and the list as it is now is saved in its place.")}));
 }
@@ -287,7 +288,7 @@ TEST_F(ShutdownTest, TheListOfAnotherDataFolderIsNotReplacedByAnEmptyTable) {
   EXPECT_EQ(boxes_.informed,
             std::vector<QString>(
                 {QStringLiteral("The list ") + path +
-                 QStringLiteral(" was not read, since its folder became the data folder later on.\r\nIt "
+                 QStringLiteral(" was not read, since its folder became the data folder only later.\r\nIt "
                                 "stays as it is; the list in use is empty and was not saved.")}));
 }
 

@@ -1,4 +1,4 @@
-// Unpacking made archives into a folder of the test's own, which stands in another that must stay as it is.
+// Unpacking made archives into a folder of the test, inside another one that must stay as it is.
 #pragma once
 
 #include "archive/archive_maker.h"

@@ -161,7 +161,7 @@ TEST_F(ArchiveRefused, EntryFarDownIsRefused) {
   QByteArray name;
   for (int i = 0; i < 5000; ++i) name += "d/";
   EXPECT_EQ(refusalOf({named("good.txt"), named(name + "evil.txt")}, ArchiveErrorCode::TooDeep),
-            u"The archive has an entry that lies more than 64 folders deep: \""_qs +
+            u"The archive has an entry that is more than 64 folders deep: \""_qs +
                 QString::fromLatin1(name.first(80)) + u"..."_qs +
                 QString::fromLatin1((name + "evil.txt").last(40)) + u"\". Nothing was unpacked."_qs);
 }
@@ -256,9 +256,8 @@ TEST_F(ArchiveRefused, EntriesThatShareTheirBytesAreRefused) {
 
 TEST_F(ArchiveRefused, EntriesThatHoldTheOnesBehindThemAreRefused) {
   // Each stored entry covers all that follow, with their headers, so that every name is right.
-  EXPECT_EQ(
-      refusalOf(nestedOverlapOf(20, QByteArray(1000, 'x')), ArchiveErrorCode::Overlapping),
-      u"The entries of the archive lie over each other; it was made to do harm. Nothing was unpacked."_qs);
+  EXPECT_EQ(refusalOf(nestedOverlapOf(20, QByteArray(1000, 'x')), ArchiveErrorCode::Overlapping),
+            u"The entries of the archive overlap; it was made to do harm. Nothing was unpacked."_qs);
 }
 
 TEST_F(ArchiveRefused, NameThatDiffersInsideIsRefused) {

@@ -168,7 +168,7 @@ TEST_F(ManySourcesLife, AFileWithOneTooManyIsToldAndKept) {
   const QString list = data() + kOnlineList;
   EXPECT_EQ(
       program->takeMessages(),
-      std::vector<QString>{QStringLiteral("The list %1 was not read whole when the program started.\r\n"
+      std::vector<QString>{QStringLiteral("The list %1 was not read completely when the program started.\r\n"
                                           "It is kept as %1.kept, and the list as it is now is saved in "
                                           "its place.")
                                .arg(list)});

@@ -54,7 +54,7 @@ class RunningProgram {
   void type(const QString& text) const { desktop_.type(text); }
   /// Presses the tabulator key so often.
   void tab(int times) const;
-  /// Tabs and types over what stands there.
+  /// Tabs and types over what is there.
   void typeAfterTabs(int tabs, const QString& text) const;
 
   /// Presses Alt+F and these keys; then a window of that title takes the keys.

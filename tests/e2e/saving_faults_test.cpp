@@ -1,4 +1,5 @@
-// Closing the program where something cannot be saved: what is told, what stays, what is saved all the same.
+// Closing the program where something cannot be saved: what is reported, what stays, what is saved all the
+// same.
 #include "e2e/ordinary_user.h"
 #include "e2e/source_records.h"
 #include "e2e/whole_program.h"

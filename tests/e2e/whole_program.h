@@ -36,7 +36,7 @@ class WholeProgram {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
   }
 
-  /// What has been told since the last call.
+  /// What has been reported since the last call.
   std::vector<QString> takeMessages() { return std::exchange(messages.informed, {}); }
 
   /// Closes the window; false when it stays.

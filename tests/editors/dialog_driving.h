@@ -16,7 +16,7 @@ inline void click(QAbstractButton* button) {
   QTest::mouseClick(button, Qt::LeftButton);
 }
 
-/// Types `text` over what stands in `edit`, key by key.
+/// Types `text` over what is in `edit`, key by key.
 inline void type(QLineEdit* edit, const QString& text) {
   edit->setFocus();
   edit->selectAll();
@@ -31,7 +31,7 @@ inline void showAndActivate(QWidget& window) {
 }
 
 /// Runs `open`, which shows a dialog modally, and does `action` with the dialog once it is up. A dialog that
-/// is still open afterwards is closed, so that a failing test ends. False when no such dialog came up.
+/// is still open afterwards is closed, so that a failing test ends. False when the dialog did not come up.
 template <typename Dialog>
 bool duringModal(const std::function<void()>& open, const std::function<void(Dialog&)>& action) {
   bool cameUp = false;

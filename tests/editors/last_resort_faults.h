@@ -9,7 +9,7 @@
 
 namespace quorvin::test {
 
-/// The descriptions of all such faults since the begin of the tests.
+/// The descriptions of all such faults since the start of the tests.
 std::vector<QString>& lastResortFaults();
 
 }  // namespace quorvin::test

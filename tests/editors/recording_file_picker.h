@@ -1,4 +1,4 @@
-// A file picker for tests: it records the questions and answers as it was told to.
+// A file picker for tests: it records the questions and gives the answer that was set.
 #pragma once
 
 #include "editors/file_picker.h"

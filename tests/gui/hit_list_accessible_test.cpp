@@ -1,4 +1,4 @@
-// What assistive technology is told of the main window.
+// The main window as assistive technology sees it.
 #include "gui/search_form_fixture.h"
 
 #include <QAccessible>

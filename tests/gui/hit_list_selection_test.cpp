@@ -1,4 +1,4 @@
-// Selecting several rows of the hit list, also very many, and the wishes for opening and for the menu.
+// Selecting several rows of the hit list, also very many, and the requests to open and for the menu.
 #include "app/hit_list.h"
 #include "app/hit_list_model.h"
 #include "gui/many_rows_model.h"

@@ -33,7 +33,7 @@ inline void typeText(const QString& text) {
   QTest::keyClicks(keyTarget(), text);
 }
 
-/// Types `text` over what stands in the box that has the focus.
+/// Types `text` over what is in the box that has the focus.
 inline void typeOver(const QString& text) {
   press(Qt::Key_A, Qt::ControlModifier);
   typeText(text);

@@ -1,4 +1,4 @@
-// What the application object of the tests has told.
+// What the application object of the tests has reported.
 #pragma once
 
 #include "support/recording_message_boxes.h"

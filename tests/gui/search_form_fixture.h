@@ -70,7 +70,7 @@ class SearchFormTest : public testing::Test {
     return listing;
   }
 
-  /// Types `text` over what stands in `edit`, key by key.
+  /// Types `text` over what is in `edit`, key by key.
   static void type(QLineEdit* edit, const QString& text) {
     edit->setFocus();
     edit->selectAll();

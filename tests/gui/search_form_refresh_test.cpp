@@ -17,7 +17,7 @@ class WindowRefresh : public SearchFormTest {
     for (const QString& name : names) files_.writeFile(description + u'/' + name, "x");
     addOnlineFolder(description, files_.makeFolder(description));
   }
-  /// A result window that a test does not expect would wait for a user for ever.
+  /// A result window that a test does not expect would wait for a user forever.
   void rescan() {
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, [] {

@@ -1,4 +1,4 @@
-// The main window before a run: its controls, menus, keys and what it tells.
+// The main window before a run: its controls, menus, keys and what it shows.
 #include "app/search_form_controls.h"
 #include "gui/search_form_fixture.h"
 

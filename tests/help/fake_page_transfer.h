@@ -1,4 +1,4 @@
-// A transfer that is told by the test what comes, and when.
+// A transfer where the test decides what comes, and when.
 #pragma once
 
 #include "help/page_transfer.h"

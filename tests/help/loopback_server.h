@@ -1,4 +1,4 @@
-// A real server on this machine, which answers as the test tells it.
+// A real server on this machine, which answers as the test wants.
 #pragma once
 
 #include <QByteArray>
@@ -59,7 +59,7 @@ inline QByteArray htmlAnswer(const QByteArray& body) {
          QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
 }
 
-/// An answer that begins a page and never ends it; more of it comes every few milliseconds.
+/// An answer that starts a page and never ends it; more of it comes every few milliseconds.
 inline LoopbackServer::Answer sendingForEver() {
   return [](QTcpSocket& connection, const QByteArray&) {
     connection.write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\n\r\n<p>");

@@ -8,7 +8,7 @@
 namespace quorvin::test {
 namespace {
 
-/// The rows of cells of the table whose head begins with `firstHead`.
+/// The rows of cells of the table whose head starts with `firstHead`.
 QList<QStringList> tableRows(const QString& firstHead) {
   const QString page = manualText(QStringLiteral("manual/searching.htm"));
   const QString pattern = QStringLiteral("<tr><th>%1</th>(.*?)</table>").arg(firstHead);

@@ -88,7 +88,7 @@ TEST_F(LocalListRefresh, DescriptionsThatDifferByBlanksShareAListingAndTheLaterW
   refresh();
   EXPECT_EQ(data.names(), QStringList{u"Music.txt"_qs});
   EXPECT_TRUE(isListed(u"Music.txt"_qs, "second.mp3"));
-  // The volume text is the description as it stands.
+  // The volume text is the description as it is.
   EXPECT_TRUE(data.readFile(u"Music.txt"_qs).startsWith("\r\nVolume:      Music \r\n"));
 }
 

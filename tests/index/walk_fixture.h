@@ -49,7 +49,7 @@ class WalkTest : public testing::Test {
     return walk(*folders, path, nativePathStyle(), flags, pattern);
   }
 
-  /// The folder of the temporary tree as it stands in a listing.
+  /// The folder of the temporary tree as it is in a listing.
   QByteArray listed(const QString& path) { return listedFolder(path, nativePathStyle()).toUtf8(); }
 
   ProgramState state;

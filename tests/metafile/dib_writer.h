@@ -11,7 +11,7 @@
 
 namespace quorvin::test {
 
-/// What the header says, and where it stands in the bytes.
+/// What the header says, and where it is in the bytes.
 struct DibForm {
   int headerSize = 40;
   int depth = 24;

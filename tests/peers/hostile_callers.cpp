@@ -66,7 +66,7 @@ class Caller {
     isConnected_ = false;
   }
 
-  /// True when the connection stands from now on.
+  /// True when the connection is established.
   bool becomesConnected() {
     int error = 0;
     socklen_t size = sizeof error;

@@ -59,8 +59,9 @@ TEST_F(PeerOfferTest, AddsListsToTheOfflineSources) {
   receive(QStringLiteral("Films"), {QStringLiteral("Films.txt")});
   EXPECT_TRUE(offer());
   EXPECT_THAT(asked(), HasSubstr("2 lists came from nas into the folder\r\n"));
-  EXPECT_THAT(asked(),
-              EndsWith("Add what came to the offline sources, so that the next search goes through it?"));
+  EXPECT_THAT(
+      asked(),
+      EndsWith("Add the received lists to the offline sources, so that the next search includes them?"));
   ASSERT_EQ(program_.state.OfflineSourceCount, 2);
   EXPECT_EQ(program_.state.OfflineSources.description(1), QStringLiteral("Music from nas"));
   EXPECT_EQ(program_.state.OfflineSources.path(1), path(QStringLiteral("Music/Music.txt")));
@@ -139,10 +140,10 @@ TEST_F(PeerOfferTest, AFullTableIsToldAndNothingIsLost) {
   EXPECT_TRUE(offer());
   EXPECT_EQ(program_.state.OfflineSourceCount, 2000);
   EXPECT_EQ(program_.state.OfflineSources.path(2000), path(QStringLiteral("Music/a.txt")));
-  EXPECT_THAT(
-      program_.messages.informed,
-      ElementsAre(QStringLiteral("There is no room for more than 2000 offline sources. What came stays "
-                                 "unpacked beside its archives.")));
+  EXPECT_THAT(program_.messages.informed,
+              ElementsAre(QStringLiteral(
+                  "There is no room for more than 2000 offline sources. The received lists stay "
+                  "unpacked beside its archives.")));
 }
 
 TEST_F(PeerOfferTest, NoNameCanWriteRecordsIntoTheFileOfTheSources) {

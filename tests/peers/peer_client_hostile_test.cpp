@@ -85,7 +85,7 @@ TEST_F(PeerClientHostileTest, AServerThatClosesAtOnceIsTold) {
   server.welcome = {"OK:"};
   server.closeWhenSent = true;
   EXPECT_THAT(outcomeWith(server).problems,
-              ElementsAre(QStringLiteral("The peer ended the connection before everything had come.")));
+              ElementsAre(QStringLiteral("The peer ended the connection before everything had arrived.")));
 }
 
 TEST_F(PeerClientHostileTest, AResetInAnArchiveLeavesWhatHadComeBefore) {
@@ -102,7 +102,7 @@ TEST_F(PeerClientHostileTest, AResetInAnArchiveLeavesWhatHadComeBefore) {
   ASSERT_EQ(outcome.received.size(), 1U);
   EXPECT_EQ(outcome.received[0].name, QStringLiteral("A"));
   EXPECT_THAT(outcome.problems,
-              ElementsAre(QStringLiteral("The archive of \"B\" did not come whole, and was not kept.")));
+              ElementsAre(QStringLiteral("The archive of \"B\" did not arrive complete, and was not kept.")));
   EXPECT_EQ(receivedFiles(server), QStringList{QStringLiteral("A.zip")});
 }
 
@@ -112,7 +112,7 @@ TEST_F(PeerClientHostileTest, ABrokenArchiveDoesNotTakeTheNextOneWithIt) {
   ASSERT_EQ(outcome.received.size(), 1U);
   EXPECT_EQ(outcome.received[0].name, QStringLiteral("B"));
   EXPECT_THAT(outcome.problems,
-              ElementsAre(QStringLiteral("The archive of \"A\" did not come whole, and was not kept.")));
+              ElementsAre(QStringLiteral("The archive of \"A\" did not arrive complete, and was not kept.")));
   EXPECT_EQ(receivedFiles(server), QStringList{QStringLiteral("B.zip")});
   EXPECT_EQ(program_.folder.readFile(program_.receivedName(QStringLiteral("B.zip"), server.port())), second_);
 }

@@ -206,7 +206,7 @@ TEST_F(PeerExchangeTest, OneConversationAtATime) {
   client_.getFrom(silent.port());
   EXPECT_EQ(client_.begins, 1);
   ASSERT_EQ(client_.messages.informed.size(), 1U);
-  EXPECT_EQ(client_.messages.informed[0], QStringLiteral("Lists are being got already."));
+  EXPECT_EQ(client_.messages.informed[0], QStringLiteral("Lists are already being received."));
   client_.exchange.client().cancel();
   EXPECT_EQ(client_.ends, 1);
 }

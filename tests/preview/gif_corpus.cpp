@@ -12,7 +12,7 @@ namespace {
 
 constexpr QSize kScreen(20, 12);
 
-/// One frame as it stands in the file.
+/// One frame as it is in the file.
 struct GifFrame {
   QRect place = QRect(QPoint(), kScreen);
   int disposal = 0;

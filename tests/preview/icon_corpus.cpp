@@ -7,7 +7,7 @@ namespace quorvin::test {
 
 namespace {
 
-/// One picture of an icon file as it stands in it.
+/// One picture of an icon file as it is in it.
 struct IconPart {
   QSize size;
   int depth = 0;

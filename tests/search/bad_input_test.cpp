@@ -1,4 +1,4 @@
-// Listings that are none: every one is told by its name, and the others are still searched.
+// Files that are not listings: every one is reported by its name, and the others are still searched.
 #include "faults/runtime_fault.h"
 #include "search/search_run_fixture.h"
 #include "support/listing_lines.h"

@@ -242,10 +242,9 @@ TEST_F(SearchRunTest, ListingsThatAreWrittenToWhileTheyAreSearchedAreTold) {
   };
   find(u"song");
   ASSERT_EQ(messages_.informed.size(), 1U);
-  EXPECT_EQ(
-      messages_.informed[0],
-      u"These listings were written to while they were searched. Hits in them may be partly of the old and "
-      "partly of the new content; press Find again for the new one.\r\n%1"_qs.arg(path));
+  EXPECT_EQ(messages_.informed[0],
+            u"These listings were written to while they were searched. Hits in them may come from the old or "
+            "the new content; press Find again for the new one.\r\n%1"_qs.arg(path));
   find(u"song");
   EXPECT_EQ(messages_.informed.size(), 1U);
 }

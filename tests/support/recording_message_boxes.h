@@ -1,4 +1,4 @@
-// Message boxes for tests: they record what is shown and answer questions as they were told to.
+// Message boxes for tests: they record what is shown and give the answers that were set.
 #pragma once
 
 #include "platform/message_box.h"

@@ -124,7 +124,7 @@ TEST(JobTable, ARefusalSaysWhatIsRunningAndThatTheOtherCanBeStartedLater) {
   EXPECT_EQ(refusalText(JobKind::Unpacking, JobKind::Getting),
             u"Lists that came from a peer are being unpacked. Getting lists can be started when that has "
             u"ended."_qs);
-  EXPECT_EQ(refusalText(JobKind::Getting, JobKind::Getting), u"Lists are being got already."_qs);
+  EXPECT_EQ(refusalText(JobKind::Getting, JobKind::Getting), u"Lists are already being received."_qs);
 }
 
 TEST(JobTable, EveryRefusalHasItsSentenceAndClosingHasNone) {

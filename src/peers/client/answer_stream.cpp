@@ -102,7 +102,7 @@ bool AnswerStream::takeAnnouncement() {
   return true;
 }
 
-/// Drops what stands between an archive and the next announcement.
+/// Drops what is between an archive and the next announcement.
 bool AnswerStream::skipToAnnouncement() {
   for (qsizetype at = 1; at < buffer_.size(); ++at) {
     at = buffer_.indexOf('L', at);

@@ -41,7 +41,7 @@ class AnswerSink {
 
 /// The order of a conversation is known, and that takes the place of a frame: the identity, the names of the
 /// lists, and then for each list that was named its announcement and its archive, in the order named. An
-/// announcement is known by the name in it. Where an archive ends is told by its structure, and only when
+/// announcement is known by the name in it. Where an archive ends is known from its structure, and only when
 /// that fails, by the next announcement.
 class AnswerStream {
  public:

@@ -35,8 +35,8 @@ QString question(const PeerOutcome& outcome) {
                      .arg(countOfLists(outcome.received.size()), shownPeerText(outcome.peer)) +
                  kLineEnd + folderOfFirst(outcome) + kLineEnd + kLineEnd;
   if (!outcome.problems.isEmpty()) text += shownProblems(outcome.problems) + kLineEnd + kLineEnd;
-  return text +
-         QStringLiteral("Add what came to the offline sources, so that the next search goes through it?");
+  return text + QStringLiteral(
+                    "Add the received lists to the offline sources, so that the next search includes them?");
 }
 
 QString leftOut(std::size_t count) {
@@ -134,7 +134,7 @@ class ListAdder {
 
   void tellFull() {
     const QString text = QStringLiteral(
-                             "There is no room for more than %1 offline sources. What came stays "
+                             "There is no room for more than %1 offline sources. The received lists stay "
                              "unpacked beside its archives.")
                              .arg(SourceTable::kLastRow);
     if (!problems_.contains(text)) problems_ += text;

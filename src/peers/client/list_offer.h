@@ -13,7 +13,7 @@ namespace quorvin {
 
 /// Unpacks the archive at `archivePath` into `targetFolder`, which exists and ends in a separator, and
 /// returns when that is done; false when the user has ended it. Throws RuntimeFault when it fails; its
-/// description is told.
+/// description is reported.
 using UnpackArchive = std::function<bool(const QString& archivePath, const QString& targetFolder)>;
 
 /// Tells what came of a conversation, and asks whether the lists that have come are to be added to the

@@ -148,7 +148,8 @@ void ListReceiver::archiveMissing() {
 }
 
 void ListReceiver::archiveCut(std::int64_t length) {
-  problems_ += QStringLiteral("The archive of %1 did not come whole, and was not kept.").arg(shownName());
+  problems_ +=
+      QStringLiteral("The archive of %1 did not arrive complete, and was not kept.").arg(shownName());
   auto archive = std::exchange(archive_, nullptr);
   if (!archive || length >= archive->size()) return;
   cut_ = std::move(archive);

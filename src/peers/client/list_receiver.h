@@ -45,7 +45,7 @@ class ReceivedArchive {
 
 /// A list that has come from a peer.
 struct ReceivedList {
-  /// Its name as the peer told it.
+  /// Its name as the peer gave it.
   QString name;
   /// The path of its archive.
   QString archivePath;

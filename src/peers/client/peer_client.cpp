@@ -131,8 +131,8 @@ void PeerClient::endStream() {
   if (!succeeds([this] { stream_->end(); })) return;
   if (receiver_->hasRest()) return beginRest();
   if (stream_->isComplete()) return finish();
-  finish(isClosed_ ? QStringLiteral("The peer ended the connection before everything had come.")
-                   : QStringLiteral("The peer has stopped sending before everything had come."));
+  finish(isClosed_ ? QStringLiteral("The peer ended the connection before everything had arrived.")
+                   : QStringLiteral("The peer has stopped sending before everything had arrived."));
 }
 
 /// What stands in a broken archive after its end is fed again, piece by piece, since it may be long.

@@ -25,7 +25,7 @@ namespace quorvin {
 
 /// How long a peer may say nothing, and how much it may say.
 struct PeerClientLimits {
-  /// After this long without data, what may be the begin of an answer is taken for all of it.
+  /// After this long without data, what may be the start of an answer is taken for all of it.
   std::chrono::milliseconds settle = std::chrono::seconds(2);
   /// After this long, an archive that seems to have broken off is given up for those after it.
   std::chrono::milliseconds stall = std::chrono::seconds(15);

@@ -52,7 +52,7 @@ bool needsCare(std::string_view line) {
   return !isAscii(line) || (kind != LineKind::Entry && kind != LineKind::Empty);
 }
 
-/// Line ends are where they are, lines that need care are marked, and no bit stands behind the text.
+/// Line ends are where they are, lines that need care are marked, and no bit is set behind the text.
 void expectRightMarks(std::string_view text, const Marks& marks) {
   std::size_t start = 0;
   for (std::size_t i = 0; i < text.size(); ++i) {
