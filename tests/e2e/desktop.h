@@ -13,9 +13,10 @@
 namespace quorvin::test {
 
 /// Looks at `condition` until it holds, so that a test waits for what happens and never for a time. Throws
-/// std::runtime_error when that takes too long, with `what` was waited for and what there is `instead`.
+/// std::runtime_error with `what` was waited for and what there is `instead`, when it does not hold and
+/// `progress` (a number that changes as work gets done) has stayed the same for minutes.
 void waitUntil(const QString& what, const std::function<bool()>& condition,
-               const std::function<QString()>& instead = {});
+               const std::function<QString()>& instead = {}, const std::function<qint64()>& progress = {});
 
 /// Windows are told by the number that the screen gives them, as text.
 class Desktop {

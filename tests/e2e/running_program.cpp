@@ -11,7 +11,7 @@ namespace quorvin::test {
 
 namespace {
 
-constexpr int kLongestEndMilliseconds = 60'000;
+constexpr int kLongestEndMilliseconds = 180'000;
 const QString kTitle = QStringLiteral("Quorvin Utility");
 const QString kOfflineTitle = QStringLiteral("Offline Search List files");
 
@@ -80,7 +80,7 @@ void RunningProgram::openFromFileMenu(const QStringList& keys, const QString& ti
 
 /// A window of this program other than the main one: messages bear the main window's title, and so does the
 /// main window of another such program.
-void RunningProgram::waitForWindow(const QString& title) const {
+void RunningProgram::waitForWindow(const QString& title, const std::function<qint64()>& progress) const {
   waitUntil(
       QStringLiteral("for the window \"%1\"").arg(title),
       [&] {
@@ -88,7 +88,7 @@ void RunningProgram::waitForWindow(const QString& title) const {
         return active != mainWindow_ && desktop_.titleOf(active) == title &&
                desktop_.processOf(active) == process_.processId();
       },
-      [this] { return activeTitle(); });
+      [this] { return activeTitle(); }, progress);
 }
 
 void RunningProgram::waitForMainWindow() const {

@@ -59,7 +59,8 @@ class RunningProgram {
 
   /// Presses Alt+F and these keys; then a window of that title takes the keys.
   void openFromFileMenu(const QStringList& keys, const QString& title) const;
-  void waitForWindow(const QString& title) const;
+  /// `progress`: see waitUntil().
+  void waitForWindow(const QString& title, const std::function<qint64()>& progress = {}) const;
   void waitForMainWindow() const;
 
   /// The dialog of the local folders or of the offline lists is open: adds, and saves.

@@ -3,7 +3,9 @@
 #include "e2e/source_records.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
+#include "support/sweep.h"
 
+#include <QDirIterator>
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
@@ -11,7 +13,7 @@ namespace quorvin::test {
 
 namespace {
 
-constexpr qsizetype kListingBytes = 200'000'000;
+const qsizetype kListingBytes = sweep<qsizetype>(200'000'000, 20'000'000);
 const QString kTitle = QStringLiteral("Quorvin Utility");
 const QString kAskForPeer = QStringLiteral("Get Lists From Peer");
 const QString kReceived = QStringLiteral("data/Received/127.0.0.1/");
@@ -32,6 +34,19 @@ class TwoPrograms : public testing::Test {
     sharer_.writeSettings();
     getter_.writeSettings();
   }
+  /// The bytes of all files of both programs: it changes as long as anything is packed, sent or unpacked.
+  qint64 bytesInFiles() const {
+    qint64 bytes = 0;
+    for (const ProgramHome* home : {&sharer_, &getter_}) {
+      QDirIterator files(home->folder.pathOf(QStringLiteral("data")), QDir::Files | QDir::Hidden,
+                         QDirIterator::Subdirectories);
+      while (files.hasNext()) {
+        files.next();
+        bytes += files.fileInfo().size();
+      }
+    }
+    return bytes;
+  }
   static qint64 sizeOf(const ProgramHome& home, const QString& name) {
     return QFileInfo(home.folder.pathOf(name)).size();
   }
@@ -41,7 +56,7 @@ class TwoPrograms : public testing::Test {
   Desktop desktop_;
 };
 
-TEST_F(TwoPrograms, AListingOf200MegabytesComesWholeAndIsFoundIn) {
+TEST_F(TwoPrograms, ALongListingComesWholeAndIsFoundIn) {
   const QByteArray listing = longListing();
   sharer_.folder.writeFile(QStringLiteral("data/Disk.txt"), listing);
   sharer_.folder.writeFile(QStringLiteral("data/Locations.txt"),
@@ -50,11 +65,13 @@ TEST_F(TwoPrograms, AListingOf200MegabytesComesWholeAndIsFoundIn) {
   RunningProgram sharer(desktop_, sharer_);
   sharer.press({QStringLiteral("alt+p"), QStringLiteral("s")});
   // The message that tells the address to give away.
-  sharer.waitForWindow(kTitle);
+  const auto progress = [this] { return bytesInFiles(); };
+  sharer.waitForWindow(kTitle, progress);
   sharer.press({QStringLiteral("Return")});
   sharer.waitForMainWindow();
-  waitUntil(QStringLiteral("for the archive"),
-            [this] { return sharer_.hasData(QStringLiteral("Disk.zip")); });
+  waitUntil(
+      QStringLiteral("for the archive"), [this] { return sharer_.hasData(QStringLiteral("Disk.zip")); }, {},
+      progress);
 
   RunningProgram getter(desktop_, getter_);
   getter.press({QStringLiteral("alt+p"), QStringLiteral("g")});
@@ -62,12 +79,14 @@ TEST_F(TwoPrograms, AListingOf200MegabytesComesWholeAndIsFoundIn) {
   getter.type(QStringLiteral("127.0.0.1"));
   getter.press({QStringLiteral("Return")});
   // The question whether what came is to be searched from now on.
-  getter.waitForWindow(kTitle);
+  getter.waitForWindow(kTitle, progress);
   EXPECT_TRUE(getter_.folder.readFile(kReceived + QStringLiteral("Disk.zip")) ==
               sharer_.dataFile(QStringLiteral("Disk.zip")));
   getter.press({QStringLiteral("alt+y")});
-  waitUntil(QStringLiteral("for the whole listing"),
-            [&] { return sizeOf(getter_, kReceived + QStringLiteral("Disk/Disk.txt")) == listing.size(); });
+  waitUntil(
+      QStringLiteral("for the whole listing"),
+      [&] { return sizeOf(getter_, kReceived + QStringLiteral("Disk/Disk.txt")) == listing.size(); }, {},
+      progress);
   getter.waitForMainWindow();
   EXPECT_TRUE(getter_.folder.readFile(kReceived + QStringLiteral("Disk/Disk.txt")) == listing);
 
