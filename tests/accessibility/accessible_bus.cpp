@@ -13,7 +13,7 @@ constexpr char kRoot[] = "/org/a11y/atspi/accessible/root";
 /// Numbers of the protocol.
 constexpr uint kLabelledBy = 2;
 constexpr int kShowing = 25;
-constexpr int kPatienceMilliseconds = 5000;
+constexpr int kPatienceMilliseconds = 120'000;
 
 QString latin(const char* text) {
   return QString::fromLatin1(text);

@@ -3,6 +3,7 @@
 
 #include "accessibility/accessible_bus.h"
 #include "accessibility/test_desktop.h"
+#include "support/eventually.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
@@ -57,13 +58,11 @@ class RunningProgram : public testing::Test {
   /// The window with this title as soon as it is on the screen; nothing when it does not come.
   std::optional<BusNode> shown(const QString& role, const QString& title) {
     std::optional<BusNode> window;
-    (void)QTest::qWaitFor([&] { return (window = findShown(windows(), role, title)).has_value(); },
-                          kPatienceMilliseconds);
+    (void)eventually([&] { return (window = findShown(windows(), role, title)).has_value(); });
     return window;
   }
   bool isGone(const BusNode& window) {
-    return QTest::qWaitFor([&] { return !findShown(windows(), window.role, window.name); },
-                           kPatienceMilliseconds);
+    return eventually([&] { return !findShown(windows(), window.role, window.name); });
   }
   std::optional<BusNode> control(const BusNode& window, const QString& role, const QString& name) {
     const std::vector<BusNode> nodes = bus_.everythingBelow(window);
@@ -110,8 +109,6 @@ class RunningProgram : public testing::Test {
     }
     EXPECT_GT(walked, 25) << "the main window alone holds more";
   }
-
-  static constexpr int kPatienceMilliseconds = 20'000;
 
   TemporaryFolder folder_;
   TestDesktop desktop_;

@@ -1,5 +1,6 @@
 // The running program as a screen reader hears it over the accessibility bus.
 #include "accessibility/running_program_fixture.h"
+#include "support/eventually.h"
 
 namespace quorvin::test {
 
@@ -12,8 +13,7 @@ TEST_F(RunningProgram, TheMainWindowIsReadAndSearchedOverTheBus) {
   ASSERT_TRUE(searchText);
   ASSERT_TRUE(bus_.write(*searchText, QStringLiteral("tune")));
   pressButton(*window, "Find");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return linesOf(*window).contains(QStringLiteral("label: Found: 1")); },
-                              kPatienceMilliseconds));
+  ASSERT_TRUE(eventually([&] { return linesOf(*window).contains(QStringLiteral("label: Found: 1")); }));
   EXPECT_EQ(linesOf(*window).join(u'\n').toStdString(),
             "frame: Line below the menu\n"
             "text: Search for: Search text\n"
@@ -100,9 +100,9 @@ TEST_F(RunningProgram, TheHelpIsReadWithItsRowForFinding) {
   ASSERT_TRUE(help);
   EXPECT_FALSE(control(*help, QStringLiteral("text"), QStringLiteral("Find on this page"))->isShowing);
   pressButton(*help, "Search");
-  EXPECT_TRUE(QTest::qWaitFor(
-      [&] { return control(*help, QStringLiteral("text"), QStringLiteral("Find on this page"))->isShowing; },
-      kPatienceMilliseconds));
+  EXPECT_TRUE(eventually([&] {
+    return control(*help, QStringLiteral("text"), QStringLiteral("Find on this page"))->isShowing;
+  }));
   for (const char* button :
        {"Back", "Forward", "Refresh", "Home", "Search", "Stop", "Previous", "Next", "Close"}) {
     EXPECT_TRUE(control(*help, QStringLiteral("push button"), QString::fromLatin1(button))) << button;

@@ -2,6 +2,7 @@
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
+#include "support/eventually.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -17,7 +18,7 @@ class HelpByKeys : public SearchFormTest {
     form();
     press(Qt::Key_H, Qt::AltModifier);
     press(Qt::Key_U);
-    EXPECT_TRUE(QTest::qWaitFor(
+    EXPECT_TRUE(eventually(
         [this] { return (browser_ = qobject_cast<frmBrowser*>(QApplication::activeWindow())) != nullptr; }));
   }
   ~HelpByKeys() override {

@@ -1,6 +1,8 @@
 // Using the program by keys alone.
 #pragma once
 
+#include "support/eventually.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QPointer>
@@ -72,7 +74,7 @@ inline void tabTo(const char* name) {
 inline void activate(QWidget& window) {
   window.show();
   window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; }));
+  ASSERT_TRUE(eventually([&window] { return QApplication::activeWindow() == &window; }));
 }
 
 /// Runs `open`, which shows a dialog modally, and does `action` as soon as the dialog takes keys. A dialog

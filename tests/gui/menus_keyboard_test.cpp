@@ -2,6 +2,7 @@
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
+#include "support/eventually.h"
 
 #include <QDialog>
 #include <QHostAddress>
@@ -42,7 +43,7 @@ class MenuKeys : public SearchFormTest {
   /// The page in the help browser, once it is up.
   static QString helpPage() {
     QString page;
-    (void)QTest::qWaitFor([&] {
+    (void)eventually([&] {
       const auto* browser = qobject_cast<frmBrowser*>(QApplication::activeWindow());
       if (browser) page = browser->controls().cboAddress->currentText();
       return browser != nullptr;

@@ -1,11 +1,11 @@
 // The result window.
 #include "preview/res_win.h"
 
+#include "support/processor_clock.h"
 #include "support/qt_printing.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -71,7 +71,7 @@ TEST_F(ResultWindow, AHundredThousandLinesAreShownWithinSeconds) {
   const QString log =
       QStringLiteral("/home/ann/Music/a name of the usual length Access Error (invalid name)\r\n")
           .repeated(100'000);
-  QElapsedTimer clock;
+  ProcessorClock clock;
   clock.start();
   window_.setText(log);
   showAnd([&] { window_.hide(); });

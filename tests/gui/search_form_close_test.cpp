@@ -1,4 +1,5 @@
 #include "gui/search_form_fixture.h"
+#include "support/eventually.h"
 
 #include <QAction>
 #include <QDialog>
@@ -51,7 +52,7 @@ TEST_F(WindowClose, QuitInTheMenuDoesTheSame) {
 TEST_F(WindowClose, TheTimerEndsTheProgram) {
   QSignalSpy quitting(qApp, &QCoreApplication::aboutToQuit);
   form().close();
-  QTRY_VERIFY(!SndQTimeIsEnabled());
+  EXPECT_EVENTUALLY(!SndQTimeIsEnabled());
 }
 
 TEST_F(WindowClose, TheTimerWaitsForARunningRefresh) {
@@ -61,7 +62,7 @@ TEST_F(WindowClose, TheTimerWaitsForARunningRefresh) {
   QTest::qWait(350);
   EXPECT_TRUE(SndQTimeIsEnabled());
   state_.RescanRunning = false;
-  QTRY_VERIFY(!SndQTimeIsEnabled());
+  EXPECT_EVENTUALLY(!SndQTimeIsEnabled());
 }
 
 TEST_F(WindowClose, WhatCannotBeSavedIsToldAndTheWindowStays) {
@@ -209,14 +210,15 @@ bool isShown(const QString& name) {
 TEST_F(WindowMenus, ClosingUnloadsTheOtherWindowsInTheirOrder) {
   TemporaryFolder pictures;
   ASSERT_TRUE(QImage(20, 20, QImage::Format_RGB32).save(pictures.pathOf(QStringLiteral("a.bmp"))));
-  addOnlineSource(QStringLiteral("Pictures"),
-                  blockHead("Pictures", listedFolder(pictures.path(), nativePathStyle()).toUtf8()) + entryLine("a.bmp"));
+  addOnlineSource(
+      QStringLiteral("Pictures"),
+      blockHead("Pictures", listedFolder(pictures.path(), nativePathStyle()).toUtf8()) + entryLine("a.bmp"));
   state_.OnlineSources.set(1, QStringLiteral("Pictures"), pictures.path());
   find(QStringLiteral("bmp"));
   ASSERT_EQ(rows(), 1);
   controls().HitList->setCurrentIndex(controls().HitList->model()->index(0, 0));
   form().itemMenu().ShowPreview->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([] { return isShown(QStringLiteral("ImgPre")); }));
+  ASSERT_TRUE(eventually([] { return isShown(QStringLiteral("ImgPre")); }));
   form().menus().HlpGen->trigger();
   form().progress().show();
 

@@ -1,5 +1,6 @@
 // Acting on hits with the mouse and the keys of the real window.
 #include "gui/search_form_fixture.h"
+#include "support/eventually.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -182,7 +183,7 @@ TEST_F(WindowHits, AMessageSaysWhyAPictureCannotBeShown) {
   showFiles({QStringLiteral("a.jpg")});
   click(0);
   form().itemMenu().ShowPreview->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !messages_.informed.empty(); }));
+  ASSERT_TRUE(eventually([this] { return !messages_.informed.empty(); }));
   EXPECT_EQ(messages_.informed,
             std::vector{QStringLiteral("Run-time error '5': %1 cannot be shown: it is not a bitmap, icon, "
                                        "metafile, JPEG or GIF picture.\r\n\r\n"

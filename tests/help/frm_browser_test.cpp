@@ -1,5 +1,6 @@
 // The help browser's toolbar, address list and keys.
 #include "help/frm_browser_fixture.h"
+#include "support/eventually.h"
 
 namespace quorvin::test {
 namespace {
@@ -99,15 +100,15 @@ TEST_F(FrmBrowser, SearchIsTheIndexWithARowForFinding) {
 
 TEST_F(FrmBrowser, AButtonStartsTheTimerAndTheTimerEndsItself) {
   show("genhelp.htm");
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !isTimerRunning(); }));
+  EXPECT_TRUE(eventually([this] { return !isTimerRunning(); }));
   clickButton(BrowserButton::Home);
   EXPECT_TRUE(isTimerRunning());
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !isTimerRunning(); }));
+  EXPECT_TRUE(eventually([this] { return !isTimerRunning(); }));
 }
 
 TEST_F(FrmBrowser, ATypedAddressStartsTheTimer) {
   show("genhelp.htm");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !isTimerRunning(); }));
+  ASSERT_TRUE(eventually([this] { return !isTimerRunning(); }));
   openByTyping(QStringLiteral("relinfo.htm"));
   EXPECT_TRUE(isTimerRunning());
 }

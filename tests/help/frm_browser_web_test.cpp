@@ -2,8 +2,8 @@
 #include "help/frm_browser_fixture.h"
 #include "help/loopback_server.h"
 #include "help/page_transfer.h"
-
-#include <QElapsedTimer>
+#include "support/eventually.h"
+#include "support/processor_clock.h"
 
 #include <algorithm>
 
@@ -35,10 +35,10 @@ TEST_F(FrmBrowserWeb, WhileLoadingTheWindowSaysWhatItWaitsFor) {
   openByTyping(QStringLiteral("http://host/a"));
   EXPECT_TRUE(isTimerRunning());
   EXPECT_TRUE(button(BrowserButton::Stop).isEnabled());
-  EXPECT_TRUE(QTest::qWaitFor([this] { return looksBusy(); }));
+  EXPECT_TRUE(eventually([this] { return looksBusy(); }));
   EXPECT_EQ(status(), QStringLiteral("Loading http://host/a (Esc stops)"));
   transfer_.deliver("<p>here</p>");
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !looksBusy() && !isTimerRunning(); }));
+  EXPECT_TRUE(eventually([this] { return !looksBusy() && !isTimerRunning(); }));
   EXPECT_EQ(status(), QString());
   EXPECT_FALSE(button(BrowserButton::Stop).isEnabled());
 }
@@ -46,7 +46,7 @@ TEST_F(FrmBrowserWeb, WhileLoadingTheWindowSaysWhatItWaitsFor) {
 TEST_F(FrmBrowserWeb, AHelpPageShowsNoSignOfBeingBusy) {
   show("genhelp.htm");
   EXPECT_FALSE(looksBusy());
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !isTimerRunning(); }));
+  EXPECT_TRUE(eventually([this] { return !isTimerRunning(); }));
   EXPECT_FALSE(looksBusy());
 }
 
@@ -85,11 +85,11 @@ class FrmBrowserEndlessPage : public testing::Test {
   void openEndlessPage() {
     window_.showHelp(server_.address().toString());
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return server_.connections == 1; }));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return window_.controls().loadBar->isVisible(); }));
+    ASSERT_TRUE(eventually([this] { return server_.connections == 1; }));
+    ASSERT_TRUE(eventually([this] { return window_.controls().loadBar->isVisible(); }));
   }
   void expectStopped() {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return server_.closed == 1; }, 1000));
+    EXPECT_TRUE(eventually([this] { return server_.closed == 1; }));
     EXPECT_FALSE(window_.controls().loadBar->isVisible());
     EXPECT_FALSE(window_.timTimer().isActive());
   }
@@ -120,7 +120,7 @@ TEST_F(FrmBrowserEndlessPage, ClosingTheWindowEndsTheLoad) {
 
 TEST_F(FrmBrowserEndlessPage, TheWindowStaysResponsive) {
   openEndlessPage();
-  QElapsedTimer waited;
+  ProcessorClock waited;
   waited.start();
   qint64 longest = 0;
   for (int turn = 0; turn < 50; ++turn) {

@@ -1,5 +1,6 @@
 #include "help/frm_splash.h"
 
+#include "support/eventually.h"
 #include "support/qt_printing.h"
 
 #include <QApplication>
@@ -61,7 +62,7 @@ TEST_F(FrmSplash, EscEnterAndAltCCloseIt) {
                            Keys{Qt::Key_C, Qt::AltModifier}}) {
     show();
     QTest::keyClick(QApplication::focusWidget(), keys.key, keys.modifiers);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !window_.isVisible(); })) << keys.key;
+    EXPECT_TRUE(eventually([this] { return !window_.isVisible(); })) << keys.key;
   }
 }
 

@@ -29,6 +29,8 @@ class LoopbackServer {
   }
 
   int connections = 0;
+  /// Requests that have come whole.
+  int requests = 0;
   int closed = 0;
 
  private:
@@ -37,7 +39,9 @@ class LoopbackServer {
       ++connections;
       QObject::connect(connection, &QTcpSocket::disconnected, &server_, [this] { ++closed; });
       QObject::connect(connection, &QTcpSocket::readyRead, &server_, [this, connection] {
-        if (connection->peek(64 * 1024).contains("\r\n\r\n")) answer_(*connection, connection->readAll());
+        if (!connection->peek(64 * 1024).contains("\r\n\r\n")) return;
+        ++requests;
+        answer_(*connection, connection->readAll());
       });
     }
   }

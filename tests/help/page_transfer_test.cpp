@@ -1,6 +1,7 @@
 #include "help/page_transfer.h"
 
 #include "help/loopback_server.h"
+#include "support/eventually.h"
 #include "support/qt_printing.h"
 
 #include <QTest>
@@ -26,7 +27,7 @@ class NetworkPageTransferTest : public testing::Test {
     std::optional<TransferResult> result;
     transfer.start(address, [&](const TransferResult& came) { result = came; });
     EXPECT_FALSE(result.has_value()) << "the result must not come before start() returns";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return result.has_value(); }));
+    EXPECT_TRUE(eventually([&] { return result.has_value(); }));
     return result.value_or(TransferResult{});
   }
 };
@@ -123,9 +124,9 @@ TEST_F(NetworkPageTransferTest, StopEndsTheConnectionAndNothingIsDelivered) {
   NetworkPageTransfer transfer;
   bool delivered = false;
   transfer.start(server.address(), [&](const TransferResult&) { delivered = true; });
-  ASSERT_TRUE(QTest::qWaitFor([&] { return server.connections == 1; }));
+  ASSERT_TRUE(eventually([&] { return server.requests == 1; }));
   transfer.stop();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return server.closed == 1; }));
+  EXPECT_TRUE(eventually([&] { return server.closed == 1; }));
   QTest::qWait(50);
   EXPECT_FALSE(delivered);
 }
@@ -136,11 +137,11 @@ TEST_F(NetworkPageTransferTest, ASecondStartEndsTheFirst) {
   NetworkPageTransfer transfer;
   QByteArray body;
   transfer.start(endless.address(), [&](const TransferResult&) { body = "endless"; });
-  ASSERT_TRUE(QTest::qWaitFor([&] { return endless.connections == 1; }));
+  ASSERT_TRUE(eventually([&] { return endless.requests == 1; }));
   transfer.start(quick.address(), [&](const TransferResult& result) { body = result.body; });
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !body.isEmpty(); }));
+  EXPECT_TRUE(eventually([&] { return !body.isEmpty(); }));
   EXPECT_EQ(body, "quick");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return endless.closed == 1; }));
+  EXPECT_TRUE(eventually([&] { return endless.closed == 1; }));
 }
 
 }  // namespace

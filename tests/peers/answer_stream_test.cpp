@@ -3,6 +3,8 @@
 
 #include "faults/runtime_fault.h"
 #include "peers/peer_program.h"
+#include "support/processor_clock.h"
+#include "support/sweep.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -84,8 +86,8 @@ TEST_F(PeerStreamTest, MayComeByteByByte) {
 }
 
 TEST_F(PeerStreamTest, MayBeSplitAtAnyTwoPlaces) {
-  for (qsizetype one = 0; one <= whole_.size(); ++one) {
-    for (qsizetype other = one; other <= whole_.size(); other += 3) {
+  for (qsizetype one = 0; one <= whole_.size(); one += sweep(1, 7)) {
+    for (qsizetype other = one; other <= whole_.size(); other += sweep(3, 11)) {
       Reading reading;
       reading.stream.feed(whole_.first(one));
       reading.stream.feed(whole_.mid(one, other - one));
@@ -181,6 +183,19 @@ TEST_F(PeerStreamTest, ABrokenArchiveEndsAtTheNextAnnouncement) {
   }
 }
 
+TEST_F(PeerStreamTest, TheNextAnnouncementIsSeenWhereverItIsSplit) {
+  const QByteArray broken = first_.first(30);
+  const QByteArray next = "List: B.zip" + second_;
+  const QByteArray before = names_ + "List: A.zip" + broken;
+  for (qsizetype split = 0; split <= 14; ++split) {
+    Reading reading;
+    reading.stream.feed(before + next.first(split));
+    reading.stream.feed(next.mid(split));
+    reading.stream.end();
+    EXPECT_EQ(reading.log.lines.back(), "cut at 30") << split;
+  }
+}
+
 TEST_F(PeerStreamTest, ABrokenLastArchiveIsCutWhereTheStreamEnds) {
   Reading reading;
   reading.stream.feed("Lists:\r\nA\r\nList: A.zip" + first_.chopped(1));
@@ -196,6 +211,22 @@ TEST_F(PeerStreamTest, RequestsThatWereTakenForOneAreLost) {
   reading.stream.feed("List: A.zip" + first_ + "List: B.zip" + second_);
   EXPECT_THAT(reading.log.archives, ElementsAre(first_, second_));
   EXPECT_TRUE(reading.stream.isComplete());
+}
+
+TEST_F(PeerStreamTest, EightRequestsMayBeTakenForOne) {
+  QByteArray names = "Lists:\r\n";
+  QByteArray joined = "List: 1";
+  for (int number = 1; number <= 9; ++number) names += QByteArray::number(number) + "\r\n";
+  for (int number = 2; number <= 8; ++number) joined += "GetList: " + QByteArray::number(number);
+  Reading eight;
+  eight.stream.feed(names + joined + ".zip");
+  ASSERT_EQ(eight.log.lines.size(), 17U);
+  EXPECT_EQ(eight.log.lines[9], "lost 1");
+  EXPECT_EQ(eight.log.lines.back(), "lost 8");
+  // More of them is an answer to none.
+  Reading nine;
+  nine.stream.feed(names + joined + "GetList: 9.zip");
+  EXPECT_EQ(nine.log.lines.size(), 9U);
 }
 
 TEST_F(PeerStreamTest, ARequestIsOnlyLostTwice) {
@@ -255,7 +286,7 @@ TEST_F(PeerStreamTest, RubbishBetweenArchivesCostsLittle) {
   reading.stream.feed(names_ + "List: A.zip" + first_);
   QByteArray rubbish;
   while (rubbish.size() < 65536) rubbish += "List: AList: ";
-  QElapsedTimer clock;
+  ProcessorClock clock;
   clock.start();
   for (int i = 0; i < 16; ++i) reading.stream.feed(rubbish);
   EXPECT_LT(clock.elapsed(), 2000);

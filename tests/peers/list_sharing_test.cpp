@@ -169,7 +169,7 @@ TEST_F(PeerSharingTest, StoppingOffersNothingAnyMore) {
   EXPECT_TRUE(caller.waitForClose());
   QTcpSocket late;
   late.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
-  EXPECT_TRUE(waitFor([&] { return late.error() == QAbstractSocket::ConnectionRefusedError; }));
+  EXPECT_TRUE(eventually([&] { return late.error() == QAbstractSocket::ConnectionRefusedError; }));
   EXPECT_TRUE(sharing_.start(0));
 }
 

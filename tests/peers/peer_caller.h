@@ -14,7 +14,7 @@ class PeerCaller {
  public:
   explicit PeerCaller(quint16 port) {
     socket_.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
-    if (!waitFor([this] { return socket_.state() == QAbstractSocket::ConnectedState; })) {
+    if (!eventually([this] { return socket_.state() == QAbstractSocket::ConnectedState; })) {
       throw std::runtime_error("the server could not be reached");
     }
     socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
@@ -25,9 +25,9 @@ class PeerCaller {
     socket_.flush();
   }
 
-  /// What comes until `count` bytes are there, or nothing more comes for too long.
-  QByteArray receive(qsizetype count, int milliseconds = 5000) {
-    waitFor([this, count] { return socket_.bytesAvailable() >= count; }, milliseconds);
+  /// What comes until `count` bytes are there, or nothing more comes.
+  QByteArray receive(qsizetype count) {
+    eventually([this, count] { return socket_.bytesAvailable() >= count; });
     return socket_.readAll();
   }
 
@@ -42,8 +42,8 @@ class PeerCaller {
     return socket_.readAll();
   }
 
-  bool waitForClose(int milliseconds = 5000) {
-    return waitFor([this] { return socket_.state() == QAbstractSocket::UnconnectedState; }, milliseconds);
+  bool waitForClose() {
+    return eventually([this] { return socket_.state() == QAbstractSocket::UnconnectedState; });
   }
   bool isConnected() const { return socket_.state() == QAbstractSocket::ConnectedState; }
   QTcpSocket& socket() { return socket_; }

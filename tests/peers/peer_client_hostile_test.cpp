@@ -59,7 +59,7 @@ TEST_F(PeerClientHostileTest, AServerThatSaysNothingIsGivenUp) {
   ScriptedServer server([](const QByteArray&) { return Pieces{}; });
   EXPECT_THAT(outcomeWith(server).problems,
               ElementsAre(QStringLiteral("The peer has not sent anything for 1 seconds.")));
-  EXPECT_TRUE(waitFor([&] { return server.isClosed; }));
+  EXPECT_TRUE(eventually([&] { return server.isClosed; }));
 }
 
 TEST_F(PeerClientHostileTest, APortWithoutServerIsToldWithTheReason) {
@@ -233,13 +233,13 @@ TEST_F(PeerClientHostileTest, AFullQueueEndsTheConversationAtOnce) {
 TEST_F(PeerClientHostileTest, CancellingLeavesWhatHadComeAndNothingHalf) {
   ScriptedServer server(answering("GetList: B", {"List: B.zip" + second_.left(50)}));
   program_.start(server.port());
-  ASSERT_TRUE(waitFor([&] { return program_.client.figures().listNumber == 2; }));
+  ASSERT_TRUE(eventually([&] { return program_.client.figures().listNumber == 2; }));
   program_.client.cancel();
   ASSERT_TRUE(program_.outcome.has_value());
   EXPECT_TRUE(program_.outcome->isCancelled);
   EXPECT_EQ(program_.outcome->received.size(), 1U);
   EXPECT_EQ(receivedFiles(server), QStringList{QStringLiteral("A.zip")});
-  EXPECT_TRUE(waitFor([&] { return server.isClosed; }));
+  EXPECT_TRUE(eventually([&] { return server.isClosed; }));
 }
 
 /// One conversation in which a byte of some answers is another one.
@@ -265,7 +265,7 @@ TEST_F(PeerClientHostileTest, GarbageInEveryAnswerNeverHangsTheClient) {
     all.back()->program.start(all.back()->server.port());
   }
   for (const auto& one : all) {
-    ASSERT_TRUE(one->program.waitForEnd(30000));
+    ASSERT_TRUE(one->program.waitForEnd());
     for (const ReceivedList& list : one->program.outcome->received) {
       EXPECT_TRUE(QFile::exists(list.archivePath));
     }

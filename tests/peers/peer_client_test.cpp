@@ -3,6 +3,7 @@
 
 #include "peers/peer_program.h"
 #include "peers/scripted_server.h"
+#include "support/sweep.h"
 
 #include <QElapsedTimer>
 #include <gmock/gmock.h>
@@ -54,7 +55,7 @@ TEST_F(PeerClientTest, QueuesExactlyThreeMessagesOnConnecting) {
   ScriptedServer server([](const QByteArray&) { return std::vector<QByteArray>{}; });
   GettingProgram program;
   program.start(server.port());
-  ASSERT_TRUE(waitFor([&] { return !server.messages.empty(); }));
+  ASSERT_TRUE(eventually([&] { return !server.messages.empty(); }));
   EXPECT_EQ(program.queue.SendQueueCount(), 3);
   EXPECT_EQ(program.queue.SendQueueHead(), 1);
   EXPECT_EQ(program.queue.entry(1).Payload, QByteArray("Connecting from: 127.0.0.1"));
@@ -66,7 +67,7 @@ TEST_F(PeerClientTest, WithoutAReplyNothingMoreIsSent) {
   ScriptedServer server([](const QByteArray&) { return std::vector<QByteArray>{}; });
   GettingProgram program;
   program.start(server.port());
-  ASSERT_TRUE(waitFor([&] { return !server.messages.empty(); }));
+  ASSERT_TRUE(eventually([&] { return !server.messages.empty(); }));
   QTest::qWait(400);
   EXPECT_EQ(server.messages.size(), 1U);
   EXPECT_EQ(program.queue.entry(1).State, 2);
@@ -100,7 +101,7 @@ TEST_F(PeerClientTest, EachPartOfAnArchiveLetsTheNextRequestGo) {
   });
   GettingProgram program;
   program.start(server.port());
-  EXPECT_TRUE(waitFor([&] { return server.messages.size() == 5; }));
+  EXPECT_TRUE(eventually([&] { return server.messages.size() == 5; }));
   EXPECT_EQ(server.messages.back(), QByteArray("GetList: B"));
 }
 
@@ -119,12 +120,12 @@ struct SplitConversation {
 TEST_F(PeerClientTest, EachAnswerMayBeSplitAnywhere) {
   std::vector<std::unique_ptr<SplitConversation>> all;
   const qsizetype longest = answers_.to("GetList: B").size();
-  for (qsizetype place = 1; place < longest; ++place) {
+  for (qsizetype place = 1; place < longest; place += sweep(1, 11)) {
     all.push_back(std::make_unique<SplitConversation>(answers_, place));
     all.back()->program.start(all.back()->server.port());
   }
   for (const auto& one : all) {
-    ASSERT_TRUE(one->program.waitForEnd(30000));
+    ASSERT_TRUE(one->program.waitForEnd());
     expectBoth(one->program, one->server.port(), first_, second_);
     EXPECT_EQ(one->program.client.PeerIdent(), QStringLiteral("ob 37622"));
   }
@@ -153,12 +154,12 @@ TEST_F(PeerClientTest, AllAnswersMayComeJoinedAndSplitAnywhere) {
   const QByteArray all =
       "OK:I AM: Bob 37622" + answers_.listsAnswer() + answers_.to("GetList: A") + answers_.to("GetList: B");
   std::vector<std::unique_ptr<JoinedConversation>> conversations;
-  for (qsizetype place = 1; place < all.size(); ++place) {
+  for (qsizetype place = 1; place < all.size(); place += sweep(1, 17)) {
     conversations.push_back(std::make_unique<JoinedConversation>(all, place));
     conversations.back()->program.start(conversations.back()->server.port());
   }
   for (const auto& one : conversations) {
-    ASSERT_TRUE(one->program.waitForEnd(30000));
+    ASSERT_TRUE(one->program.waitForEnd());
     expectBoth(one->program, one->server.port(), first_, second_);
   }
 }
@@ -167,7 +168,7 @@ TEST_F(PeerClientTest, ASecondConversationSendsNothingOfTheFirst) {
   ScriptedServer silent([](const QByteArray&) { return std::vector<QByteArray>{}; });
   GettingProgram program;
   program.start(silent.port());
-  ASSERT_TRUE(waitFor([&] { return !silent.messages.empty(); }));
+  ASSERT_TRUE(eventually([&] { return !silent.messages.empty(); }));
   program.client.cancel();
   ASSERT_TRUE(program.outcome.has_value());
   EXPECT_TRUE(program.outcome->isCancelled);

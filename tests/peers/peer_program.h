@@ -5,12 +5,12 @@
 #include "peers/client/peer_client.h"
 #include "peers/server/peer_server.h"
 #include "state/program_state.h"
+#include "support/eventually.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
 #include "support/temporary_folder.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTest>
 #include <QTimer>
 
@@ -55,19 +55,6 @@ inline QByteArray smallArchive(const QByteArray& text = "a listing") {
   return folder.readFile(QStringLiteral("list.zip"));
 }
 
-/// Lets events run until `isDone`; false when that takes longer than `milliseconds`. Unlike QTest::qWaitFor
-/// it never sleeps while there are events, so that what is waited for has its usual speed.
-inline bool waitFor(const std::function<bool()>& isDone, int milliseconds = 5000) {
-  const QDeadlineTimer deadline(milliseconds);
-  QTimer wake;
-  wake.start(2);
-  while (!isDone()) {
-    if (deadline.hasExpired()) return false;
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
-  return true;
-}
-
 /// A program that gets lists.
 struct GettingProgram : PeerProgram {
   explicit GettingProgram(const PeerClientLimits& limits = {})
@@ -76,8 +63,8 @@ struct GettingProgram : PeerProgram {
   }
 
   void start(quint16 port) { client.start({QStringLiteral("127.0.0.1"), port}); }
-  bool waitForEnd(int milliseconds = 10000) {
-    return waitFor([this] { return outcome.has_value(); }, milliseconds);
+  bool waitForEnd() {
+    return eventually([this] { return outcome.has_value(); });
   }
   /// What was received under this name in the folder of the peer at `port`.
   QString receivedName(const QString& file, quint16 port) const {

@@ -83,7 +83,7 @@ TEST_F(PeerServerLimitsTest, AReaderThatDoesNotReadIsClosedWhenIdle) {
   PeerCaller caller(server.port());
   caller.socket().setReadBufferSize(1);
   caller.send("GetList: A");
-  EXPECT_TRUE(waitFor([&] { return server.connectionCount() == 0; }));
+  EXPECT_TRUE(eventually([&] { return server.connectionCount() == 0; }));
 }
 
 TEST_F(PeerServerLimitsTest, ASlowReaderGetsEverything) {
@@ -94,7 +94,7 @@ TEST_F(PeerServerLimitsTest, ASlowReaderGetsEverything) {
   caller.send("GetList: A");
   qint64 count = 0;
   while (count < 20000011) {
-    ASSERT_TRUE(waitFor([&] { return caller.socket().bytesAvailable() > 0; }));
+    ASSERT_TRUE(eventually([&] { return caller.socket().bytesAvailable() > 0; }));
     count += caller.socket().readAll().size();
   }
   EXPECT_EQ(count, 20000011);
@@ -112,7 +112,7 @@ TEST_F(PeerServerLimitsTest, TooManyMessagesThatWaitEndTheConnection) {
     QTest::qWait(20);
     caller.send("Connecting from: x");
   }
-  EXPECT_TRUE(waitFor([&] { return server.connectionCount() == 0; }));
+  EXPECT_TRUE(eventually([&] { return server.connectionCount() == 0; }));
 }
 
 TEST_F(PeerServerLimitsTest, AcceptsAgainAfterTheDescriptorsHadRunOut) {
@@ -125,13 +125,13 @@ TEST_F(PeerServerLimitsTest, AcceptsAgainAfterTheDescriptorsHadRunOut) {
   {
     const FewDescriptors few(nextDescriptor() + 1);
     waiting.connectToHost(QHostAddress(QHostAddress::LocalHost), server.port());
-    ASSERT_TRUE(waitFor([&] { return waiting.state() == QAbstractSocket::ConnectedState; }));
+    ASSERT_TRUE(eventually([&] { return waiting.state() == QAbstractSocket::ConnectedState; }));
     waiting.write("Connecting from: x");
     QTest::qWait(300);
     EXPECT_EQ(server.connectionCount(), 1);
     EXPECT_EQ(first.ask("Connecting from: x", 3), QByteArray("OK:"));
   }
-  ASSERT_TRUE(waitFor([&] { return waiting.bytesAvailable() == 3; }));
+  ASSERT_TRUE(eventually([&] { return waiting.bytesAvailable() == 3; }));
   EXPECT_EQ(server.connectionCount(), 2);
 }
 

@@ -72,6 +72,29 @@ TEST_F(PeerServerTest, OfTwoSourcesOfANameTheFirstWithAnArchiveIsSent) {
   EXPECT_EQ(caller.ask("GetList: Music", 21), QByteArray("List: Music.zipsecond"));
 }
 
+/// Does something when the server goes on after an event.
+class BeforeTheServerGoesOn : public QObject {
+ public:
+  explicit BeforeTheServerGoesOn(std::function<void()> action) : action_(std::move(action)) {
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (event->type() == QEvent::MetaCall && receiver->inherits("quorvin::PeerConnection")) action_();
+    return false;
+  }
+
+ private:
+  std::function<void()> action_;
+};
+
+TEST_F(PeerServerTest, EventsRunBetweenAnAnnouncementAndItsArchive) {
+  program_.addSource(QStringLiteral("Music"), "early");
+  const BeforeTheServerGoesOn later(
+      [this] { program_.folder.writeFile(QStringLiteral("Music.zip"), "later"); });
+  PeerCaller caller(server_.port());
+  EXPECT_EQ(caller.ask("GetList: Music", 20), QByteArray("List: Music.ziplater"));
+}
+
 TEST_F(PeerServerTest, KeywordsAreComparedExactly) {
   PeerCaller caller(server_.port());
   EXPECT_EQ(caller.ask("i am: Eve 1", 3), QByteArray("NA:"));
@@ -113,7 +136,7 @@ TEST_F(PeerServerTest, EveryConnectionIsCountedAndNumbersAreNotUsedAgain) {
     PeerCaller caller(server_.port());
     EXPECT_EQ(caller.ask("Connecting from: x", 3), QByteArray("OK:"));
   }
-  ASSERT_TRUE(waitFor([this] { return server_.connectionCount() == 0; }));
+  ASSERT_TRUE(eventually([this] { return server_.connectionCount() == 0; }));
   PeerCaller caller(server_.port());
   EXPECT_EQ(caller.ask("Connecting from: x", 3), QByteArray("OK:"));
   EXPECT_EQ(server_.ServConnCount(), 2);
@@ -140,11 +163,11 @@ TEST_F(PeerServerTest, RequestsThatComeDuringAnArchiveAreAnsweredAfterIt) {
 TEST_F(PeerServerTest, AQuestionIsAnsweredThoughTheCallerHasSaidAll) {
   QTcpSocket caller;
   caller.connectToHost(QHostAddress(QHostAddress::LocalHost), server_.port());
-  ASSERT_TRUE(waitFor([&] { return caller.state() == QAbstractSocket::ConnectedState; }));
+  ASSERT_TRUE(eventually([&] { return caller.state() == QAbstractSocket::ConnectedState; }));
   caller.write("Req List Info:");
   caller.flush();
   ASSERT_EQ(::shutdown(static_cast<int>(caller.socketDescriptor()), SHUT_WR), 0);
-  EXPECT_TRUE(waitFor([&] { return caller.bytesAvailable() == 8; }));
+  EXPECT_TRUE(eventually([&] { return caller.bytesAvailable() == 8; }));
   EXPECT_EQ(caller.readAll(), QByteArray("Lists:\r\n"));
 }
 

@@ -1,5 +1,6 @@
 // The desktop's shell, on a session bus of the test's own, with a file manager and players of the test's own.
 #include "platform/shell_desktop.h"
+#include "support/eventually.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -81,7 +82,7 @@ class DesktopShellTest : public testing::Test {
   }
   QString played() {
     const QString name = QStringLiteral("played");
-    if (!QTest::qWaitFor([&] { return folder_.has(name); })) return QStringLiteral("nothing was played");
+    if (!eventually([&] { return folder_.has(name); })) return QStringLiteral("nothing was played");
     return QString::fromUtf8(folder_.readFile(name));
   }
   /// Programs are found only in the test's folder, and in the system's for the script itself.
@@ -105,7 +106,7 @@ TEST_F(DesktopShellTest, OpensAFileInItsWorkingFolder) {
 TEST_F(DesktopShellTest, ShowsTheFileInTheFileManager) {
   FileManager manager;
   shell_.openFolder(folder_.path(), QStringLiteral("a #1?%20 b.txt"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !manager.shown.isEmpty(); }));
+  ASSERT_TRUE(eventually([&] { return !manager.shown.isEmpty(); }));
   EXPECT_EQ(manager.shown, QStringList(QStringLiteral("file://") + folder_.path() +
                                        QStringLiteral("a%20%231%3F%2520%20b.txt")));
   QTest::qWait(50);
@@ -114,7 +115,7 @@ TEST_F(DesktopShellTest, ShowsTheFileInTheFileManager) {
 
 TEST_F(DesktopShellTest, WithoutAFileManagerOnTheBusTheFolderItselfIsOpened) {
   shell_.openFolder(folder_.path(), QStringLiteral("a.txt"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !desktop_.opened.isEmpty(); }));
+  ASSERT_TRUE(eventually([&] { return !desktop_.opened.isEmpty(); }));
   EXPECT_EQ(desktop_.opened, QStringList(withoutLastSeparator(folder_.path())));
   EXPECT_EQ(desktop_.workingFolders, QStringList(withoutLastSeparator(folder_.path())));
 }

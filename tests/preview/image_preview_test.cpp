@@ -6,10 +6,11 @@
 #include "metafile/metafile_writer.h"
 #include "preview/corpus_picture.h"
 #include "preview/picture_printing.h"
+#include "support/eventually.h"
+#include "support/processor_clock.h"
 #include "support/temporary_folder.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QEventLoop>
 #include <QProgressBar>
@@ -47,7 +48,7 @@ class PreviewImageTest : public testing::Test {
 
   void preview(const QString& path) {
     preview_.PreviewImage(path);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !preview_.isLoading(); }, 12'000));
+    ASSERT_TRUE(eventually([this] { return !preview_.isLoading(); }));
     QCoreApplication::processEvents();
   }
 
@@ -219,7 +220,7 @@ TEST_F(PreviewImageTest, AnimatedPicturesMove) {
     seen.insert(seenAt(636 * 25 / 40, 380 * 17 / 24).rgb());
     return seen.size() > 1;
   };
-  EXPECT_TRUE(QTest::qWaitFor(look, 5000));
+  EXPECT_TRUE(eventually(look));
 }
 
 TEST_F(PreviewImageTest, AStillPictureCausesNoBoxToAppear) {
@@ -250,7 +251,7 @@ class SlowPreviewTest : public PreviewImageTest {
 };
 
 TEST_F(SlowPreviewTest, ABoxWithACancelButtonAppearsAndTheProgramGoesOn) {
-  QElapsedTimer sinceLast;
+  ProcessorClock sinceLast;
   qint64 longestPause = 0;
   QTimer beat;
   QObject::connect(&beat, &QTimer::timeout,
@@ -258,10 +259,10 @@ TEST_F(SlowPreviewTest, ABoxWithACancelButtonAppearsAndTheProgramGoesOn) {
   sinceLast.start();
   beat.start(10);
   start();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return box() != nullptr; }, 2000));
+  ASSERT_TRUE(eventually([this] { return box() != nullptr; }));
   EXPECT_EQ(box()->labelText(), QStringLiteral("Loading a.emf..."));
   EXPECT_NE(box()->findChild<QProgressBar*>(QStringLiteral("bar")), nullptr);
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !preview_.isLoading(); }, 5000));
+  ASSERT_TRUE(eventually([this] { return !preview_.isLoading(); }));
   EXPECT_LT(longestPause, 2000);
   ASSERT_EQ(reports_.size(), 1U);
   EXPECT_TRUE(
@@ -271,7 +272,7 @@ TEST_F(SlowPreviewTest, ABoxWithACancelButtonAppearsAndTheProgramGoesOn) {
 
 TEST_F(SlowPreviewTest, CancelEndsItWithoutAnyMessage) {
   start();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return box() != nullptr; }, 2000));
+  ASSERT_TRUE(eventually([this] { return box() != nullptr; }));
   QTest::mouseClick(box()->findChild<QPushButton*>(QStringLiteral("CancelButton")), Qt::LeftButton);
   EXPECT_FALSE(preview_.isLoading());
   QTest::qWait(300);
@@ -281,7 +282,7 @@ TEST_F(SlowPreviewTest, CancelEndsItWithoutAnyMessage) {
 
 TEST_F(SlowPreviewTest, EscapeInTheBoxCancels) {
   start();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return box() != nullptr; }, 2000));
+  ASSERT_TRUE(eventually([this] { return box() != nullptr; }));
   QTest::keyClick(box(), Qt::Key_Escape);
   EXPECT_FALSE(preview_.isLoading());
 }
@@ -289,7 +290,7 @@ TEST_F(SlowPreviewTest, EscapeInTheBoxCancels) {
 TEST_F(SlowPreviewTest, AnotherPictureNeedNotWaitForASlowOne) {
   start();
   const QString path = write(QStringLiteral("b.bmp"), bitmapOf(plain(20, 10, Qt::blue)));
-  QElapsedTimer clock;
+  ProcessorClock clock;
   clock.start();
   preview(path);
   EXPECT_LT(clock.elapsed(), 1000);
@@ -299,7 +300,7 @@ TEST_F(SlowPreviewTest, AnotherPictureNeedNotWaitForASlowOne) {
 TEST_F(SlowPreviewTest, UnloadDuringALoadIsQuick) {
   start();
   QTest::qWait(100);
-  QElapsedTimer clock;
+  ProcessorClock clock;
   clock.start();
   preview_.unload();
   EXPECT_LT(clock.elapsed(), 1000);

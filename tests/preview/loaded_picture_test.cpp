@@ -6,9 +6,9 @@
 #include "metafile/metafile_writer.h"
 #include "preview/corpus_picture.h"
 #include "preview/picture_printing.h"
+#include "support/processor_clock.h"
 #include "support/temporary_folder.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -179,7 +179,7 @@ TEST_F(PictureLoading, AStoppedLoadEndsAtOnce) {
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
     stop.request_stop();
   });
-  QElapsedTimer clock;
+  ProcessorClock clock;
   clock.start();
   try {
     loadPicture(path, {}, stop);
@@ -216,7 +216,7 @@ QByteArray endlessJpeg() {
 TEST_F(PictureLoading, AJpegThatAsksForPassAfterPassCanBeStopped) {
   const QString path = folder_.writeFile(QStringLiteral("a.jpg"), endlessJpeg());
   std::stop_source stop;
-  QElapsedTimer clock;
+  ProcessorClock clock;
   std::thread stopper([&] {
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
     stop.request_stop();

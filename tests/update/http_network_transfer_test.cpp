@@ -23,7 +23,7 @@ TEST_F(HttpNetworkTransferTest, GivesHeadersWithAndWithoutColon) {
   HttpNetworkTransfer transfer;
   transfer.execute(server_->address());
   EXPECT_TRUE(transfer.stillExecuting());
-  ASSERT_TRUE(waitUntil([&] { return !transfer.stillExecuting(); }));
+  ASSERT_TRUE(eventually([&] { return !transfer.stillExecuting(); }));
   EXPECT_EQ(transfer.header(u"Last-Modified:"_qs), u"Mon, 15 Nov 2004 10:20:30 GMT"_qs);
   EXPECT_EQ(transfer.header(u"Content-Length"_qs), u"4"_qs);
   EXPECT_EQ(transfer.header(u"Missing:"_qs), QString());
@@ -57,13 +57,13 @@ TEST_F(HttpNetworkTransferTest, GivesALargeBodyToASlowReader) {
   server_.emplace(std::vector{sends(goodAnswer(body))});
   HttpNetworkTransfer transfer;
   transfer.execute(server_->address());
-  ASSERT_TRUE(waitUntil([&] { return !transfer.stillExecuting(); }));
+  ASSERT_TRUE(eventually([&] { return !transfer.stillExecuting(); }));
   QElapsedTimer pause;
   pause.start();
-  waitUntil([&] { return pause.hasExpired(300); });
+  eventually([&] { return pause.hasExpired(300); });
   QByteArray received;
   while (true) {
-    ASSERT_TRUE(waitUntil([&] { return transfer.chunkIsReady(1024); }));
+    ASSERT_TRUE(eventually([&] { return transfer.chunkIsReady(1024); }));
     const QByteArray chunk = transfer.chunk(1024);
     if (chunk.isEmpty()) break;
     ASSERT_TRUE(chunk.size() == 1024 || received.size() + chunk.size() == body.size());
@@ -76,9 +76,9 @@ TEST_F(HttpNetworkTransferTest, CancelClosesTheConnection) {
   server_.emplace(std::vector{sendsForEver(headersOf("Content-Length: 1000000\r\n"), "x", 5)});
   HttpNetworkTransfer transfer;
   transfer.execute(server_->address());
-  ASSERT_TRUE(waitUntil([&] { return !transfer.stillExecuting(); }));
+  ASSERT_TRUE(eventually([&] { return !transfer.stillExecuting(); }));
   transfer.cancel();
-  EXPECT_TRUE(waitUntil([&] { return server_->closedConnections == 1; }));
+  EXPECT_TRUE(eventually([&] { return server_->closedConnections == 1; }));
   EXPECT_EQ(transfer.header(u"Content-Length:"_qs), QString());
 }
 

@@ -1,6 +1,7 @@
 // Driving a transfer as the update does, by polling while events run.
 #pragma once
 
+#include "support/eventually.h"
 #include "support/qt_printing.h"
 #include "update/http_network_transfer.h"
 #include "update/scripted_web_server.h"
@@ -12,19 +13,6 @@
 #include <optional>
 
 namespace quorvin::test {
-
-/// Lets events run until `done` holds; false when that takes more than ten seconds.
-template <typename Condition>
-bool waitUntil(Condition done) {
-  constexpr int kMilliseconds = 10'000;
-  QElapsedTimer time;
-  time.start();
-  while (!done()) {
-    if (time.hasExpired(kMilliseconds)) return false;
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-  }
-  return true;
-}
 
 class HttpTransferTest : public testing::Test {
  protected:
@@ -38,10 +26,10 @@ class HttpTransferTest : public testing::Test {
   static Outcome get(HttpTransfer& transfer, const QUrl& address) {
     Outcome outcome;
     transfer.execute(address);
-    if (!waitUntil([&] { return !transfer.stillExecuting(); })) ADD_FAILURE() << "the headers never came";
+    if (!eventually([&] { return !transfer.stillExecuting(); })) ADD_FAILURE() << "the headers never came";
     try {
       while (true) {
-        if (!waitUntil([&] { return transfer.chunkIsReady(1024); })) ADD_FAILURE() << "the chunk never came";
+        if (!eventually([&] { return transfer.chunkIsReady(1024); })) ADD_FAILURE() << "the chunk never came";
         const QByteArray chunk = transfer.chunk(1024);
         if (chunk.isEmpty()) return outcome;
         outcome.body += chunk;

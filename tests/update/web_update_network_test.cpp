@@ -1,5 +1,6 @@
 // Whole updates: the real window `Progress`, real transfers, and a real server that means well or harm.
 #include "archive/archive_maker.h"
+#include "support/processor_clock.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
 #include "support/temporary_folder.h"
@@ -7,7 +8,6 @@
 #include "update/progress_display.h"
 #include "update/scripted_web_server.h"
 
-#include <QElapsedTimer>
 #include <QPushButton>
 #include <QTimer>
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ class EventLoopWatch {
  private:
   static constexpr int kMilliseconds = 5;
   QTimer timer_;
-  QElapsedTimer time_;
+  ProcessorClock time_;
   qint64 longest_ = 0;
 };
 
@@ -63,7 +63,7 @@ class WebUpdateNetwork : public testing::Test {
 
   /// The user presses the button this long after `Progress` is there; gives how long the update went on then.
   qint64 updateCancelledAfter(int milliseconds, std::vector<WebAnswer> answers) {
-    QElapsedTimer sinceCancel;
+    ProcessorClock sinceCancel;
     QTimer look;
     int waited = 0;
     constexpr int kStep = 10;
