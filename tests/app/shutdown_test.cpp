@@ -2,6 +2,7 @@
 
 #include "app/start_up.h"
 #include "app/start_up_fixture.h"
+#include "support/fault_number.h"
 #include "support/memory_settings_store.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
@@ -180,7 +181,7 @@ TEST_F(ShutdownTest, ACommandLineFileHasItsOwnSettingsAndOnlineList) {
 TEST_F(ShutdownTest, AFaultEndsItAndTheProgramGoesOn) {
   addSources();
   store_.refusesWrites = true;
-  EXPECT_THROW(shutdown_.Form_Unload(), RuntimeFault);
+  EXPECT_FAULT(shutdown_.Form_Unload(), 75);
   EXPECT_FALSE(state_.ShuttingDown);
   EXPECT_FALSE(state_.AbortRequested);
   EXPECT_TRUE(windows_.log.isEmpty());
@@ -190,7 +191,7 @@ TEST_F(ShutdownTest, AFaultEndsItAndTheProgramGoesOn) {
 TEST_F(ShutdownTest, AfterAFaultTheSecondCloseSavesWhatItCanAndLeaves) {
   addSources();
   store_.refusesWrites = true;
-  EXPECT_THROW(shutdown_.Form_Unload(), RuntimeFault);
+  EXPECT_FAULT(shutdown_.Form_Unload(), 75);
   shutdown_.Form_Unload();
   EXPECT_EQ(boxes_.informed,
             std::vector<QString>({QStringLiteral("Run-time error '75': Path/File access error\r\n\r\nThis "
@@ -205,7 +206,7 @@ TEST_F(ShutdownTest, AListThatCannotBeWrittenStaysAsItWas) {
   addSources();
   // A folder of that name cannot be replaced by a file.
   folder_.makeFolder(QStringLiteral("Locations.txt"));
-  EXPECT_THROW(shutdown_.Form_Unload(), RuntimeFault);
+  EXPECT_FAULT(shutdown_.Form_Unload(), 75);
   EXPECT_FALSE(folder_.has(QStringLiteral("OfflineLocations.txt")));
   shutdown_.Form_Unload();
   EXPECT_EQ(offlineList(), "\"Offline\",\"/lists/a,b.txt\"\r\n\"Offline\",\"/lists/c.txt\"\r\n");

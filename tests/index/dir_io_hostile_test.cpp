@@ -204,6 +204,19 @@ TEST_F(DirIOHostile, ASizeThatDoesNotFitIsLogged) {
             u"/a/huge is too large for a listing; its size was written as 9999999999999\r\n"_qs);
 }
 
+TEST_F(DirIOHostile, APathOfAMillionBytesIsListedAndOneByteMoreIsNot) {
+  test::FakeFolders folders('/');
+  folders.addFolder("/a/");
+  // With the separators around "a" and the one at the end.
+  const std::string longest(1'000'000 - 4, 'x');
+  folders.addFolder("/a/" + longest + "/");
+  folders.addFolder("/a/" + longest + "y/");
+  const QByteArray listing = walk(folders, u"/a/"_qs, kUnixPaths);
+  EXPECT_EQ(listing.count("Directory: "), 2);
+  EXPECT_TRUE(listing.contains("Directory: \\a\\" + QByteArray::fromStdString(longest) + "\\\r\n"));
+  EXPECT_EQ(state.errorLog.count(u"\r\n"_qs), 1);
+}
+
 TEST_F(DirIOHostile, AFolderWhosePathIsTooLongForALineIsLeftOutAndLogged) {
   test::FakeFolders folders('/');
   const std::string part(250'000, 'x');

@@ -1,5 +1,6 @@
 // The walk over folders that hold no surprises.
 #include "index/walk_fixture.h"
+#include "support/fault_number.h"
 
 #include <unistd.h>
 
@@ -184,12 +185,22 @@ TEST_F(DirIOWalk, AStopRequestEndsAtTheNextSubFolderAndStartedBlocksAreFinished)
   EXPECT_EQ(windows.depth(), 0U);
 }
 
+TEST_F(DirIOWalk, AStopRequestMadeRightAfterASubFolderIsHeardBeforeTheNext) {
+  windows.addFolder("D:\\a\\");
+  windows.addFolder("D:\\a\\first\\");
+  windows.addFolder("D:\\a\\second\\");
+  // The top, the sub-folder, and after the sub-folder.
+  view.onEvents = [this] { state.AbortRequested = view.eventPasses == 3; };
+  EXPECT_EQ(walk(windows, u"D:\\a\\"_qs, kWindowsPaths),
+            head("\\a\\") + "<DIR> first\r\n<DIR> second\r\n\r\n" + head("\\a\\first\\"));
+}
+
 TEST_F(DirIOWalk, AnOutputThatCannotBeWrittenEndsTheWalkWithItsFault) {
   windows.addFolder("D:\\a\\", {"one"});
   windows.addFolder("D:\\a\\b\\");
   DirIO dirIO(state, windows, view, messages, QLocale::c(), kWindowsPaths);
   QString path = u"D:\\a\\"_qs;
-  EXPECT_THROW(dirIO.walk(path, u"*.*"_qs, {nullptr, nullptr}, u"DATA1"_qs, kToOutput1), RuntimeFault);
+  EXPECT_FAULT(dirIO.walk(path, u"*.*"_qs, {nullptr, nullptr}, u"DATA1"_qs, kToOutput1), 52);
   EXPECT_TRUE(messages.askedOfFaults.empty());
   // The folders are left, so that another walk can follow.
   EXPECT_EQ(windows.depth(), 0U);

@@ -65,6 +65,21 @@ class KilledRefresh : public test::RefreshTest {
   std::map<QString, QByteArray> whole_;
 };
 
+TEST_F(KilledRefresh, AListingIsOnTheDiskBeforeItReplacesAnother) {
+  // A machine that fails keeps what was renamed, but not always what was written.
+  qsizetype synced = 0;
+  test::systemCallWatcher() = [&](const std::string& moment) {
+    if (moment != "after fsync") return;
+    const QString source = kSources[synced++];
+    EXPECT_EQ(data.readFile(source + u".txt"_qs), oldListing(source));
+  };
+  refresh();
+  test::systemCallWatcher() = nullptr;
+  // The last source had no listing.
+  EXPECT_EQ(synced, 2);
+  for (const QString& source : kSources) EXPECT_EQ(data.readFile(source + u".txt"_qs), whole_[source]);
+}
+
 TEST_F(KilledRefresh, LeavesEveryListingOldOrNewAndWhole) {
   int number = 1;
   std::set<int> replaced;

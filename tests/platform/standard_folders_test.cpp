@@ -2,6 +2,7 @@
 
 #include "faults/runtime_fault.h"
 #include "files/full_disk.h"
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -63,7 +64,7 @@ TEST(PrepareUserDataFolder, AFullDiskIsAFaultAndLeavesNoHalfNote) {
   const TemporaryFolder folder;
   {
     const FullDisk disk(10);
-    EXPECT_THROW(prepareUserDataFolder(folder.pathOf(QStringLiteral("data/"))), RuntimeFault);
+    EXPECT_FAULT(prepareUserDataFolder(folder.pathOf(QStringLiteral("data/"))), 61);
   }
   EXPECT_FALSE(folder.has(kNote));
 }

@@ -2,6 +2,7 @@
 
 #include "dates/general_date.h"
 #include "search/search_run.h"
+#include "support/fault_number.h"
 #include "support/listing_lines.h"
 #include "support/scan_of.h"
 
@@ -26,6 +27,16 @@ TEST(ListingScan, VolumeAndDirectoryLinesSetTheCurrentVolumeAndFolder) {
   EXPECT_EQ(result.hits[0].volume, u"DATA1"_qs);
   EXPECT_EQ(result.hits[0].folder, u"\\Music\\"_qs);
   EXPECT_EQ(result.hits[0].name, u"song.mp3"_qs);
+}
+
+TEST(ListingScan, ALineMayHoldAMebibyteAndNotAByteMore) {
+  const QByteArray longest = "song " + QByteArray((1 << 20) - 5, 'x');
+  // The sizes of the chunks have one end right behind the line.
+  ScanLimits limits;
+  limits.chunkSize = 1 << 20;
+  EXPECT_EQ(scanOf(longest + "\nsong b\n", u"song"_qs, 50, limits).hits.size(), 2U);
+  limits.chunkSize = (1 << 20) + 1;
+  EXPECT_FAULT(scanOf(longest + "x\nsong b\n", u"song"_qs, 50, limits), 6);
 }
 
 TEST(ListingScan, FileNameWithAVolumeMarkIsReadAsAVolumeLine) {

@@ -2,6 +2,7 @@
 
 #include "faults/runtime_fault.h"
 #include "search/search_run_fixture.h"
+#include "support/fault_number.h"
 #include "support/listing_lines.h"
 
 namespace quorvin {
@@ -31,7 +32,7 @@ TEST_F(SearchRunTest, DesiredMatchIsClampedAndRoundedToEven) {
 }
 
 TEST_F(SearchRunTest, DesiredMatchBeyond16BitsIsAFaultBeforeAnythingChanges) {
-  EXPECT_THROW(find(u"song", u"40000"), RuntimeFault);
+  EXPECT_FAULT(find(u"song", u"40000"), 6);
   EXPECT_EQ(display_.clearings, 0);
   EXPECT_FALSE(run_.isRunning());
 }
@@ -47,7 +48,7 @@ TEST_F(SearchRunTest, EmptySearchTextDoesNothingButCorrectTheMatch) {
 TEST_F(SearchRunTest, TooManyWordsAreAFaultAndTheHitsStay) {
   QString words = QStringLiteral("w");
   for (int i = 0; i < 101; ++i) words += QStringLiteral(" w");
-  EXPECT_THROW(run_.Find_Click(words, u"50"_qs), RuntimeFault);
+  EXPECT_FAULT(run_.Find_Click(words, u"50"_qs), 9);
   EXPECT_EQ(display_.clearings, 0);
   EXPECT_FALSE(run_.isRunning());
 }

@@ -1,6 +1,7 @@
 #include "state/settings.h"
 
 #include "faults/runtime_fault.h"
+#include "support/fault_number.h"
 #include "support/memory_settings_store.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
@@ -116,7 +117,7 @@ TEST_F(Settings, PlacementIsAppliedFourTimes) {
 TEST_F(Settings, AnUnreadablePlacementFaultsAndKeepsThoseBefore) {
   store_.put(kApplication, QStringLiteral("Top"), QStringLiteral("15"));
   store_.put(kApplication, QStringLiteral("Left"), QStringLiteral("far left"));
-  EXPECT_THROW(readPlacement(store_, state_, window_), RuntimeFault);
+  EXPECT_FAULT(readPlacement(store_, state_, window_), 13);
   EXPECT_THAT(window_.values, ElementsAre(15, 3000, 9000, 6000));
 }
 
@@ -218,7 +219,7 @@ TEST_F(Settings, AFaultInTheOnlineListLeavesTheOfflineListUnread) {
   folder.writeFile(QStringLiteral("Locations.txt"), "\"Music\",\"/music/\"\r\n\"half\"\r\n");
   folder.writeFile(QStringLiteral("OfflineLocations.txt"), "\"CDs\",\"/cds.txt\"\r\n");
   state_.LocalFolder = folder.path();
-  EXPECT_THROW(loadSourceLists(state_, notAsked), RuntimeFault);
+  EXPECT_FAULT(loadSourceLists(state_, notAsked), 62);
   EXPECT_EQ(state_.OnlineSourceCount, 1);
   EXPECT_EQ(state_.OfflineSourceCount, 0);
 }

@@ -1,5 +1,6 @@
 #include "faults/runtime_fault.h"
 #include "state/source_list_file.h"
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -131,7 +132,7 @@ TEST_F(SourceListSave, FaultsWhenTheFolderIsMissing) {
 
 TEST_F(SourceListSave, FaultsWhenAFolderHasTheName) {
   folder_.makeFolder(QStringLiteral("Locations.txt"));
-  EXPECT_THROW(saveSourceList(list(), table_, 1), RuntimeFault);
+  EXPECT_FAULT(saveSourceList(list(), table_, 1), 75);
   EXPECT_EQ(folder_.names(), QStringList{QStringLiteral("Locations.txt")});
 }
 

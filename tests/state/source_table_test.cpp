@@ -2,6 +2,7 @@
 
 #include "faults/runtime_fault.h"
 #include "state/program_state.h"
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 
 #include <gtest/gtest.h>
@@ -48,7 +49,7 @@ TEST(SourceTable, HasRows0To2000AndColumns0To2) {
 TEST(SourceTable, FaultsWhenRow2001IsSet) {
   SourceTable table;
   table.set(2000, QStringLiteral("last"), QStringLiteral("/last/"));
-  EXPECT_THROW(table.set(2001, QStringLiteral("one more"), QStringLiteral("/more/")), RuntimeFault);
+  EXPECT_FAULT(table.set(2001, QStringLiteral("one more"), QStringLiteral("/more/")), 9);
   EXPECT_EQ(table.description(2000), QStringLiteral("last"));
 }
 

@@ -18,3 +18,7 @@ inline int faultNumberOf(const std::function<void()>& action) {
 }
 
 }  // namespace quorvin::test
+
+/// The statement throws a RuntimeFault of this number.
+#define EXPECT_FAULT(statement, number) \
+  EXPECT_EQ(::quorvin::test::faultNumberOf([&] { statement; }), number) << #statement

@@ -2,6 +2,7 @@
 #include "update/archive_data_file.h"
 
 #include "archive/archive_maker.h"
+#include "support/fault_number.h"
 #include "update/web_update_fixture.h"
 
 namespace quorvin::test {
@@ -62,7 +63,7 @@ TEST_F(DataFileExtractionTest, TellsWhatIsWrongWithTheArchiveAndFails) {
 
 TEST_F(DataFileExtractionTest, FailsWhereAFileCannotBeWritten) {
   data_.writeFile(u"main.txt/inside.txt"_qs, "mine");
-  EXPECT_THROW(extract(archiveOf("main.txt", "content")), RuntimeFault);
+  EXPECT_FAULT(extract(archiveOf("main.txt", "content")), 75);
   EXPECT_FALSE(view_.progressShown);
   EXPECT_THAT(boxes_.informed, IsEmpty());
 }

@@ -217,6 +217,18 @@ TEST_F(WebUpdateTest, LetsEventsRunWhileHeadersAndChunksAreAwaited) {
   EXPECT_EQ(view_.waits, 12);
 }
 
+TEST_F(WebUpdateTest, TheArchiveIsOpenedOnceItsFirstBytesAreThere) {
+  serve(u"15 Nov 2004 10:20:30"_qs, "no archive");
+  web_.answers[1].pollsUntilChunk = 2;
+  boxes_.answers = {true};
+  bool isThere = false;
+  view_.onWait = [&] { isThere = isThere || data_.has(u"main.zip"_qs); };
+  click();
+  EXPECT_EQ(view_.waits, 2);
+  EXPECT_FALSE(isThere);
+  EXPECT_EQ(data_.readFile(u"main.zip"_qs), "no archive");
+}
+
 TEST_F(WebUpdateTest, LetsEventsRunAfterEachChunk) {
   serve(kDate, noise(10 * 1024));
   boxes_.answers = {true};
