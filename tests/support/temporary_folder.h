@@ -9,7 +9,9 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <stdexcept>
+#include <system_error>
 
 namespace quorvin {
 
@@ -20,6 +22,13 @@ class TemporaryFolder {
   TemporaryFolder() {
     if (!folder_.isValid()) throw std::runtime_error("no temporary folder could be made");
   }
+  ~TemporaryFolder() {
+    // Qt leaves files behind whose names are no valid text.
+    std::error_code ignored;
+    std::filesystem::remove_all(QFile::encodeName(folder_.path()).constData(), ignored);
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   /// The folder's path with a trailing separator, as `LocalFolder` holds it.
   QString path() const {
