@@ -9,13 +9,15 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <regex>
 #include <set>
 
 namespace quorvin::lint {
 namespace {
 
-constexpr std::ptrdiff_t kLongestFile = 800;
+constexpr std::ptrdiff_t kLongestFile = 400;
+constexpr std::size_t kLargestRoom = 60;
 
 const IncludeRules& projectRules() {
   static const IncludeRules rules = IncludeRules::parse(projectText("tests/lint/include_rules.txt"));
@@ -89,11 +91,39 @@ TEST(SourceTree, QtWidgetsStayInWindowsAndViews) {
   }
 }
 
-TEST(SourceTree, NoFileIsLongerThan800Lines) {
+TEST(SourceTree, NoFileIsLongerThan400Lines) {
   for (const SourceFile& file : codeFiles()) {
     const std::ptrdiff_t lines = std::ranges::count(file.text, '\n');
     EXPECT_LE(lines, kLongestFile) << file.path << " holds more than one idea; give each a file of its own.";
   }
+}
+
+TEST(SourceTree, NoRoomHoldsMoreThan60Files) {
+  std::map<std::string, std::size_t> files;
+  for (const SourceFile& file : programFiles()) ++files[file.path.substr(0, file.path.rfind('/'))];
+  ASSERT_FALSE(files.empty());
+  for (const auto& [room, count] : files) {
+    EXPECT_LE(count, kLargestRoom) << room << " is more than one room; take it apart.";
+  }
+}
+
+// Qt Test's checks report to its own runner: under GoogleTest they pass whatever they find.
+TEST(SourceTree, TestsCheckWithGoogleTestAlone) {
+  const std::regex blind(
+      "\\bQ(VERIFY2?|COMPARE(_[A-Z]+)?|TRY_[A-Z0-9_]+|FAIL|SKIP|EXPECT_FAIL|FETCH)\\s*\\(|\\bqWaitFor\\(");
+  const std::regex anyFault("\\bEXPECT_THROW\\([^\n]*RuntimeFault\\)");
+  const std::regex switchedOff("\\bGTEST_SKIP\\b|\\bDISABLED_");
+  std::size_t tests = 0;
+  for (const SourceFile& file : filesBelow("tests", {".h", ".cpp"})) {
+    if (file.path == "tests/lint/source_tree_test.cpp") continue;
+    ++tests;
+    EXPECT_FALSE(std::regex_search(file.text, blind))
+        << file.path << ": write EXPECT_EQ, EXPECT_TRUE, or EXPECT_EVENTUALLY of tests/support/eventually.h.";
+    EXPECT_FALSE(std::regex_search(file.text, anyFault))
+        << file.path << ": a fault has a number; write EXPECT_FAULT of tests/support/fault_number.h.";
+    EXPECT_FALSE(std::regex_search(file.text, switchedOff)) << file.path << ": every test runs.";
+  }
+  EXPECT_GT(tests, 100U);
 }
 
 TEST(SourceTree, EveryHeaderIsIncludedOnceOnly) {
@@ -132,15 +162,19 @@ TEST(SourceTree, LinksInDocumentsLeadSomewhere) {
   for (const char* name : {"README.md", "ARCHITECTURE.md", "CONTRIBUTING.md", "CHANGELOG.md"}) {
     documents.push_back({name, projectText(name)});
   }
+  ASSERT_GT(documents.size(), 10U);
   const std::regex link("\\]\\(([^)#:]+)(#[^)]*)?\\)");
+  int links = 0;
   for (const SourceFile& file : documents) {
     const std::size_t slash = file.path.rfind('/');
     const std::string folder = slash == std::string::npos ? "" : file.path.substr(0, slash + 1);
     for (std::sregex_iterator match(file.text.begin(), file.text.end(), link), end; match != end; ++match) {
+      ++links;
       EXPECT_TRUE(projectHas(folder + (*match)[1].str()))
           << file.path << " links to " << (*match)[1].str() << ", which is not there.";
     }
   }
+  EXPECT_GT(links, 20);
 }
 
 }  // namespace
