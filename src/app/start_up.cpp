@@ -2,6 +2,7 @@
 
 #include "app/version.h"
 #include "faults/runtime_fault.h"
+#include "files/file_aside.h"
 #include "files/file_lookup.h"
 #include "index/base_name.h"
 #include "state/defaults_file.h"
@@ -37,6 +38,7 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   loadSourceLists(state_, [&conditions] {
     return withTrailingSeparator(conditions.programFolder(), conditions.pathStyle);
   });
+  removeLeftovers(state_.LocalFolder);
   if (dataFileIsOnlyInArchive()) {
     extraction_.extractArchive(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
   }

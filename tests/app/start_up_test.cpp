@@ -71,6 +71,17 @@ TEST_F(StartUpTest, ASavedEmptyLocalFolderIsReplacedEvenWithADefaultsFile) {
   EXPECT_EQ(state_.LocalFolder, current_.path());
 }
 
+TEST_F(StartUpTest, WhatKilledProgramsLeftInTheDataFolderIsRemoved) {
+  // No process has so high a number.
+  const QString left = QStringLiteral(".quorvin-999999999-0123456789abcdef.part");
+  data_.writeFile(left, "half a lis");
+  data_.writeFile(QStringLiteral("Music.tmp"), "mine");
+  saved(QStringLiteral("LocalFolder"), data_.path());
+  start();
+  EXPECT_FALSE(data_.has(left));
+  EXPECT_TRUE(data_.has(QStringLiteral("Music.tmp")));
+}
+
 TEST_F(StartUpTest, TheProgramsFolderIsNotAskedForWhenAFolderIsSaved) {
   saved(QStringLiteral("LocalFolder"), data_.path());
   conditions_.programFolder = []() -> QString { throw RuntimeFault(FaultNumber::PathFileAccess); };
