@@ -5,7 +5,10 @@ set -u
 place=$(mktemp -d)
 trap 'chmod -R u+rwX "$place" && rm -rf "$place"' EXIT
 folder=$place/tmp
-mkdir -m 700 "$folder" "$place/run"
+# As open as the usual folder: some tests give up the rights of the administrator.
+chmod 711 "$place"
+mkdir -m 1777 "$folder"
+mkdir -m 700 "$place/run"
 
 TMPDIR=$folder XDG_RUNTIME_DIR=$place/run "$@"
 status=$?
