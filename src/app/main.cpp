@@ -48,13 +48,18 @@ int main(int argc, char** argv) {
   SegmentStore images(SegmentStore::defaultOptions());
   DesktopShell shell([&] { return enqueueCommand(settings, state); });
   SearchForm form(state, messages, shell, locale, &images);
-  StartUp startUp(state, settings, messages, form, form.dataFileExtraction());
-  startUp.Form_Load(conditionsOfThisRun(locale));
-  Shutdown shutdown(state, settings, messages, form, locale);
+  Shutdown shutdown(state, settings, messages, form.frame(), locale);
   form.setUnloadHandler([&shutdown] { shutdown.Form_Unload(); });
   // The timer of the main window ends the program, once a refresh has come to its end.
   QGuiApplication::setQuitOnLastWindowClosed(false);
+  StartUp startUp(state, settings, messages, form.frame(),
+                  [&form](const QString& archivePath, const QString& targetFolder) {
+                    form.jobs().extractDataFile(archivePath, targetFolder);
+                  });
+  startUp.Form_Load(conditionsOfThisRun(locale));
+  // The window may have been closed while the main data file was being unpacked.
+  if (form.hasLeft()) return 0;
   form.sourcesChanged();
-  form.show();
+  if (!form.jobs().work().isClosing()) form.show();
   return QCoreApplication::exec();
 }

@@ -4,28 +4,25 @@
 #include "app/hit_list_model.h"
 #include "app/search_form_controls.h"
 #include "app/search_form_display.h"
+#include "app/search_form_frame.h"
 #include "app/search_form_hits.h"
-#include "app/search_form_network.h"
-#include "app/search_form_refresh.h"
 #include "app/search_form_windows.h"
-#include "app/shutdown.h"
-#include "app/start_up.h"
+#include "app/search_form_work.h"
 #include "search/hit_table.h"
 #include "search/search_run.h"
 
 #include <QLocale>
 #include <QMainWindow>
-#include <QSize>
 
 #include <functional>
-#include <optional>
+#include <utility>
 
 namespace quorvin {
 
-/// The main window: it shows what start-up tells it, and hands over what the user does.
+/// The main window: it puts the parts together and hands over what the user does.
 /// Closing it during a run ends the run at its next yield; the window must live until the handler that
 /// started the run has returned.
-class SearchForm : public QMainWindow, public StartUpView, public ShutdownView {
+class SearchForm : public QMainWindow {
   Q_OBJECT
 
  public:
@@ -41,39 +38,23 @@ class SearchForm : public QMainWindow, public StartUpView, public ShutdownView {
   /// what to do first.
   void sourcesChanged();
 
-  /// Runs a local list refresh to its end, with `ReScan` disabled and the mouse pointer showing work; events
-  /// run meanwhile. While one is running, another follows it (unless the program is closing by then), and the
-  /// call returns at once.
-  void startRefresh();
+  /// What start-up and shutdown work with.
+  SearchFormFrame& frame() { return frame_; }
+  /// Its long jobs.
+  SearchFormWork& jobs() { return jobs_; }
+
+  /// Whether the window was closed and the program has come to its end.
+  bool hasLeft() const { return hasLeft_; }
 
   /// What shows the picture of a hit; without one a message says that there is none.
   void setPreviewOpener(PreviewOpener opener) { hitActions_.setPreviewOpener(std::move(opener)); }
 
-  const SendTimer& SndQTime() { return network_.peers().SndQTime(); }
-
-  SearchFormNetwork& network() { return network_; }
-
-  /// What start-up unpacks the main data file with.
-  ArchiveExtraction& dataFileExtraction() { return network_.dataFileExtraction(); }
-
-  /// The `Progress` window, made when there is none.
-  Progress& progress() { return refreshDisplay_.progress(); }
+  const SendTimer& SndQTime() { return jobs_.peers().SndQTime(); }
+  Progress& progress() { return jobs_.progress(); }
 
   const SearchFormControls& controls() const { return controls_; }
   const ItemMenu& itemMenu() const { return hitActions_.itemMenu(); }
   const SearchFormMenus& menus() const { return menus_; }
-
-  // For start-up.
-  void processEvents() override;
-  void setVersionCaption(const QString& caption) override;
-  void setWebUpdateEnabled(bool enabled) override;
-  float placement(PlacementKey key) const override;
-  void setPlacement(PlacementKey key, float twips) override;
-
-  // For shutdown.
-  bool isMinimized() const override { return QMainWindow::isMinimized(); }
-  void unloadOtherWindows() override;
-  void enableSndQTime() override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -94,21 +75,14 @@ class SearchForm : public QMainWindow, public StartUpView, public ShutdownView {
     SearchForm& form_;
   };
 
-  void takeInitialPlace();
   void connectControls();
   void connectMenus();
   bool Form_Unload();
   void leave();
   void Find_Click();
-  void WebUpdate_Click();
-  void ReScan_Click();
-  void refreshOnce();
   void stopRun();
   void layOut();
   bool isRestored(const QEvent& event) const;
-  void limitSize();
-  void settleOuterSize();
-  void moveOntoScreen();
 
   ProgramState& state_;
   MessageBoxes& messages_;
@@ -121,15 +95,11 @@ class SearchForm : public QMainWindow, public StartUpView, public ShutdownView {
   RunMessages runMessages_;
   SearchRun searchRun_;
   SearchFormHits hitActions_;
-  RefreshDisplay refreshDisplay_;
+  SearchFormWork jobs_;
   SearchFormWindows windows_;
-  SearchFormNetwork network_;
+  SearchFormFrame frame_;
   std::function<void()> unloadHandler_;
-  bool endRequested_ = false;
-  /// Wished for while a refresh was running.
-  bool refreshAgain_ = false;
-  /// The outer size asked for before the window had a frame.
-  std::optional<QSize> outerSizeWished_;
+  bool hasLeft_ = false;
 };
 
 }  // namespace quorvin

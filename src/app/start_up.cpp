@@ -4,14 +4,20 @@
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_lookup.h"
-#include "index/base_name.h"
+#include "index/dir_io.h"
 #include "state/defaults_file.h"
+
+#include <utility>
 
 namespace quorvin {
 
 StartUp::StartUp(ProgramState& state, const SettingsStore& store, MessageBoxes& boxes, StartUpView& view,
-                 ArchiveExtraction& extraction)
-    : state_(state), store_(store), boxes_(boxes), view_(view), extraction_(extraction) {}
+                 ExtractDataFile extractDataFile)
+    : state_(state),
+      store_(store),
+      boxes_(boxes),
+      view_(view),
+      extractDataFile_(std::move(extractDataFile)) {}
 
 void StartUp::Form_Load(const StartUpConditions& conditions) {
   try {
@@ -40,7 +46,7 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   });
   removeLeftovers(state_.LocalFolder);
   if (dataFileIsOnlyInArchive()) {
-    extraction_.extractArchive(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
+    extractDataFile_(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
   }
   view_.processEvents();
 }

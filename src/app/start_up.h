@@ -7,7 +7,6 @@
 #include "platform/settings_store.h"
 #include "state/program_state.h"
 #include "state/settings.h"
-#include "update/archive_extraction.h"
 
 #include <QLocale>
 #include <QString>
@@ -26,6 +25,11 @@ class StartUpView : public WindowPlacement {
   /// Lets the pending window events run once.
   virtual void processEvents() = 0;
 };
+
+/// Unpacks every entry of the archive at `archivePath` into `targetFolder` (which ends in a separator), with
+/// the main window and the progress window shown, and returns when that is done. Throws RuntimeFault when it
+/// fails.
+using ExtractDataFile = std::function<void(const QString& archivePath, const QString& targetFolder)>;
 
 /// How this run of the program was started.
 struct StartUpConditions {
@@ -47,7 +51,7 @@ struct StartUpConditions {
 class StartUp {
  public:
   StartUp(ProgramState& state, const SettingsStore& store, MessageBoxes& boxes, StartUpView& view,
-          ArchiveExtraction& extraction);
+          ExtractDataFile extractDataFile);
 
   /// Shows the version, takes the command line, gathers defaults, restores settings and placement, loads both
   /// source lists, and has the main data file unpacked when only its archive is there. A fault on the way is
@@ -64,7 +68,7 @@ class StartUp {
   const SettingsStore& store_;
   MessageBoxes& boxes_;
   StartUpView& view_;
-  ArchiveExtraction& extraction_;
+  ExtractDataFile extractDataFile_;
 };
 
 }  // namespace quorvin

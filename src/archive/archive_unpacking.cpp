@@ -98,4 +98,16 @@ UnpackingResult unpackArchive(const QString& archivePath, const QString& targetF
   }
 }
 
+UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QString& targetFolder,
+                              std::int64_t archiveLength) {
+  int shownPercent = -1;
+  const auto pause = [&job, &shownPercent](int percent) {
+    if (percent != shownPercent) job.display().setBar(percent);
+    shownPercent = percent;
+    job.letEventsRun();
+    return job.isStopRequested();
+  };
+  return unpackArchive(archivePath, targetFolder, pause, {}, archiveLength);
+}
+
 }  // namespace quorvin

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "archive/archive_plan.h"
+#include "work/work.h"
 
 #include <QString>
 
@@ -31,6 +32,11 @@ struct UnpackingResult {
 /// folder in the way (75).
 UnpackingResult unpackArchive(const QString& archivePath, const QString& targetFolder,
                               const ArchivePause& pause, const ArchiveLimits& limits = {},
+                              std::int64_t archiveLength = -1);
+
+/// The same as a part of `job`: what has been done is shown on the bar of its display, in per cent, and a
+/// stop request ends the unpacking.
+UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QString& targetFolder,
                               std::int64_t archiveLength = -1);
 
 }  // namespace quorvin

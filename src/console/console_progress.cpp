@@ -1,6 +1,5 @@
 #include "console/console_progress.h"
 
-#include "console/error_lines.h"
 #include "platform/stop_signal.h"
 
 #include <cstdio>
@@ -10,38 +9,40 @@ namespace quorvin {
 namespace {
 
 constexpr std::chrono::milliseconds kBetweenLines{100};
-// A line that is broken by the terminal's edge could not be written over.
+// A line that the terminal breaks at its edge could not be written over.
 constexpr qsizetype kLineWidth = 79;
 
 }  // namespace
 
-ConsoleProgress::ConsoleProgress(ProgramState& state)
-    : state_(state), onTerminal_(::isatty(STDERR_FILENO) == 1), nextLine_(Clock::now() + kBetweenLines) {}
+ConsoleProgress::ConsoleProgress()
+    : onTerminal_(::isatty(STDERR_FILENO) == 1), nextLine_(Clock::now() + kBetweenLines) {}
 
 ConsoleProgress::~ConsoleProgress() {
   clearLine();
 }
 
+void ConsoleProgress::setTitle(const QString& title) {
+  title_ = title;
+}
+
+bool ConsoleProgress::isDue() {
+  isLineDue_ = onTerminal_ && Clock::now() >= nextLine_;
+  return isLineDue_;
+}
+
 void ConsoleProgress::processEvents() {
-  if (stopSignalled()) {
-    state_.AbortRequested = true;
-    state_.RescanAbort = state_.RescanRunning;
-  }
-  if (onTerminal_ && Clock::now() >= nextLine_) showLine();
+  if (isLineDue_) showLine();
+  isLineDue_ = false;
 }
 
-void ConsoleProgress::showSource(int row, int count) {
-  source_ = QStringLiteral("%1 of %2: ").arg(row).arg(count);
-}
-
-void ConsoleProgress::showErrorLog(const QString& log) {
-  clearLine();
-  printErrorLog(log);
+bool ConsoleProgress::endRequested() const {
+  return stopSignalled();
 }
 
 void ConsoleProgress::showLine() {
-  QString line =
-      source_ + QStringLiteral("%1 files in %2 folders. ").arg(counts_.files).arg(counts_.folders) + status_;
+  const QString source = title_.section(QStringLiteral("... "), -1);
+  QString line = source.isEmpty() ? QString() : source + QStringLiteral(": ");
+  line += detail_ + QStringLiteral(". ") + status_;
   for (QChar& sign : line) {
     if (!sign.isPrint()) sign = u'?';
   }

@@ -1,8 +1,7 @@
 // How far an indexing in the terminal has come.
 #pragma once
 
-#include "index/index_view.h"
-#include "state/program_state.h"
+#include "work/work_display.h"
 
 #include <QString>
 
@@ -10,28 +9,33 @@
 
 namespace quorvin {
 
-/// Shows one line on standard error that is written over again and again, if that is a terminal. An
-/// interrupt stops the work as closing the window would: `AbortRequested` and `RescanAbort` are set.
-class ConsoleProgress : public RefreshView {
+/// Shows one line on standard error that is written over again and again, if that is a terminal. A signal
+/// that asks the program to end stops the work as closing the window would.
+class ConsoleProgress : public WorkDisplay {
  public:
-  explicit ConsoleProgress(ProgramState& state);
+  ConsoleProgress();
   /// Clears the line.
   ~ConsoleProgress() override;
   ConsoleProgress(const ConsoleProgress&) = delete;
   ConsoleProgress& operator=(const ConsoleProgress&) = delete;
 
-  void createProgress() override {}
+  void begin() override {}
+  void end() override { clearLine(); }
+  void leaveStanding() override { clearLine(); }
+  QString title() const override { return title_; }
+  /// The part after the last "... ", which is what changes, leads the line.
+  void setTitle(const QString& title) override;
   void setStatus(const QString& text) override { status_ = text; }
-  void showIndexed(const IndexCounts& counts) override { counts_ = counts; }
+  void setDetail(const QString& text) override { detail_ = text; }
+  void setBarMaximum(std::int32_t) override {}
+  void setBar(std::int32_t) override {}
+  void setBusy() override {}
+  void setBusyPointer(bool) override {}
+  bool isDue() override;
   void processEvents() override;
-
-  QString progressTitle() const override { return {}; }
-  void setProgressTitle(const QString&) override {}
-  void refreshBegins() override {}
-  void refreshEnded() override { clearLine(); }
-  void showSource(int row, int count) override;
-  void setDefaultPointer() override {}
-  void showErrorLog(const QString& log) override;
+  void waitForEvents() override {}
+  bool isCancelled() const override { return false; }
+  bool endRequested() const override;
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -39,13 +43,13 @@ class ConsoleProgress : public RefreshView {
   void showLine();
   void clearLine();
 
-  ProgramState& state_;
   bool onTerminal_;
   Clock::time_point nextLine_;
   bool lineShown_ = false;
+  bool isLineDue_ = false;
+  QString title_;
   QString status_;
-  QString source_;
-  IndexCounts counts_;
+  QString detail_;
 };
 
 }  // namespace quorvin

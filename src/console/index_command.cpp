@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <optional>
 #include <unistd.h>
 
 namespace quorvin {
@@ -36,7 +37,7 @@ class Indexing {
   explicit Indexing(const IndexRequest& request)
       : request_(request),
         folder_(fullPath(request.folder)),
-        progress_(state_),
+        progress_(*job_, QLocale()),
         dirIO_(state_, *folders_, progress_, messages_, QLocale()) {}
 
   /// Throws RuntimeFault when the folder cannot be read or the listing cannot be written.
@@ -51,8 +52,12 @@ class Indexing {
     }
   }
 
-  void tellErrors() { progress_.showErrorLog(state_.errorLog); }
-  bool interrupted() const { return state_.AbortRequested; }
+  /// Takes the line of progress away and prints what there is to report of single names.
+  void reportErrors() {
+    job_->display().end();
+    printErrorLog(state_.errorLog);
+  }
+  bool interrupted() const { return job_->isAbortRequested(); }
 
  private:
   void checkFolder() {
@@ -84,7 +89,10 @@ class Indexing {
   ProgramState state_;
   ErrorLines messages_;
   std::unique_ptr<FolderReader> folders_ = makeFolderReader();
-  ConsoleProgress progress_;
+  ConsoleProgress display_;
+  Work work_{state_, display_};
+  std::optional<Job> job_ = work_.start(JobKind::Refresh);
+  IndexProgress progress_;
   DirIO dirIO_;
 };
 
@@ -101,7 +109,7 @@ int runIndex(const IndexRequest& request) {
     failed = true;
     failure = fault.description();
   }
-  indexing.tellErrors();
+  indexing.reportErrors();
   if (failed) {
     printError(failure);
     return 2;

@@ -11,27 +11,11 @@
 #include <QLocale>
 
 namespace quorvin {
-namespace {
-
-/// The only thing that a refresh informs of is the fault that ended it.
-class RefreshMessages : public ErrorLines {
- public:
-  void inform(const QString& text) override {
-    failed_ = true;
-    ErrorLines::inform(text);
-  }
-  bool failed() const { return failed_; }
-
- private:
-  bool failed_ = false;
-};
-
-}  // namespace
 
 int runRefresh() {
   const QLocale locale;
   ProgramState state;
-  RefreshMessages messages;
+  ErrorLines messages;
   watchStopSignal();
   try {
     loadUserSources(state, locale);
@@ -39,10 +23,17 @@ int runRefresh() {
     printError(fault.description());
     return 2;
   }
-  ConsoleProgress progress(state);
-  refreshLocalLists(state, progress, messages, locale, {});
-  if (messages.failed()) return 2;
-  return state.AbortRequested ? kInterrupted : 0;
+  ConsoleProgress progress;
+  Work work(state, progress);
+  RefreshOutcome outcome;
+  work.run(JobKind::Refresh,
+           [&](Job& job) { outcome = refreshLocalLists(state, job, messages, locale, {}); });
+  printErrorLog(outcome.errorLog);
+  if (!outcome.fault.isEmpty()) {
+    printError(outcome.fault);
+    return 2;
+  }
+  return outcome.isStopped ? kInterrupted : 0;
 }
 
 }  // namespace quorvin

@@ -1,5 +1,6 @@
 #include "index/dir_io.h"
 
+#include "faults/runtime_fault.h"
 #include "platform/text_encoding.h"
 #include "search/format/listing_columns.h"
 
@@ -14,16 +15,38 @@ std::string bytesOf(QStringView text) {
   return encodeSystemText(text).toStdString();
 }
 
+void writeTo(FileWriter* output, std::string_view line) {
+  if (output == nullptr) throw RuntimeFault(FaultNumber::BadFileName);
+  output->write(line);
+  output->write("\r\n");
+}
+
 }  // namespace
 
-DirIO::DirIO(ProgramState& state, FolderReader& folders, IndexView& view, MessageBoxes& messages,
+QString BaseNameOf(const QString& path, PathStyle style) {
+  const qsizetype start = path.lastIndexOf(style.separator) + 1;
+  const qsizetype length = path.lastIndexOf(u'.') - start;
+  return length > 0 ? path.mid(start, length) : path;
+}
+
+void writeLine(std::string_view line, const LineOutputs& outputs, int flags) {
+  if ((flags & kToOutput1) != 0) {
+    writeTo(outputs.output1, line);
+  } else if ((flags & kToOutput2) != 0) {
+    writeTo(outputs.output2, line);
+  } else if ((flags & kToBothOutputs) != 0) {
+    writeTo(outputs.output1, line);
+    writeTo(outputs.output2, line);
+  }
+}
+
+DirIO::DirIO(ProgramState& state, FolderReader& folders, IndexProgress& progress, MessageBoxes& messages,
              const QLocale& locale, PathStyle style)
-    : state_(state),
-      folders_(folders),
-      view_(view),
+    : folders_(folders),
+      progress_(progress),
       style_(style),
       separator_(bytesOf(QStringView(&style.separator, 1))),
-      faults_(state, messages, path_),
+      faults_(state, progress.job(), messages, path_),
       names_(folders, faults_),
       entryLines_(locale) {}
 
@@ -103,9 +126,9 @@ void DirIO::leaveFolder() {
   path_.resize(left.pathAbove);
   listedPath_.resize(left.listedAbove);
   if (depth_ == 0) return;
-  letEventsRun();
+  progress_.letEventsRun(counts_);
   Level& above = *levels_[depth_ - 1];
-  if (state_.AbortRequested) above.nextSubFolder = above.subFolders.size();
+  if (progress_.job().isAbortRequested()) above.nextSubFolder = above.subFolders.size();
 }
 
 void DirIO::leaveAll() {
@@ -116,9 +139,8 @@ void DirIO::leaveAll() {
 
 void DirIO::listFolder(Level& level, std::string_view name) {
   ++counts_.folders;
-  view_.createProgress();
-  view_.setStatus(QStringLiteral("Indexing: ") + QString::fromStdString(listedPath_));
-  letEventsRun();
+  progress_.enterFolder(listedPath_);
+  progress_.letEventsRun(counts_);
   writeHead();
   // A folder that was left at once has no sub-folders to walk.
   if (!listContents(level, name)) level.subFolders.clear();
@@ -170,7 +192,7 @@ bool DirIO::writeFiles() {
   for (std::size_t row = 0; row < files.size(); ++row) {
     if (!writeFile(files.name(row), files.note(row))) return false;
     ++counts_.files;
-    if (row % kFilesBetweenEvents == 0) letEventsRun();
+    if (row % kFilesBetweenEvents == 0) progress_.letEventsRun(counts_);
   }
   return true;
 }
@@ -200,11 +222,6 @@ bool DirIO::writeFile(std::string_view name, NameTraits traits) {
   entryLines_.append(line_, file);
   write(line_);
   return true;
-}
-
-void DirIO::letEventsRun() {
-  view_.showIndexed(counts_);
-  view_.processEvents();
 }
 
 }  // namespace quorvin

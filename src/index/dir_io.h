@@ -1,15 +1,14 @@
-// DirIO: the folder indexer, which walks a tree of folders and writes a listing of it. The layout of a
-// listing: docs/formats/listing.md.
+// DirIO: the folder indexer, which walks a tree of folders and writes a listing of it, and the base name of a
+// path. The layout of a listing: docs/formats/listing.md.
 #pragma once
 
+#include "files/file_writer.h"
 #include "files/folder_reader.h"
 #include "files/path_style.h"
 #include "index/entry_line.h"
 #include "index/folder_names.h"
-#include "index/index_view.h"
-#include "index/line_output.h"
+#include "index/index_progress.h"
 #include "index/listed_name.h"
-#include "index/name_table.h"
 #include "index/walk_faults.h"
 
 #include <QLocale>
@@ -22,6 +21,30 @@
 #include <vector>
 
 namespace quorvin {
+
+/// The name between the last separator and the last "." of `path` ("music" for "D:\lists\music.txt"); the
+/// path unchanged when that leaves nothing: no ".", the last "." before the last separator, or a name that
+/// begins with its only ".".
+QString BaseNameOf(const QString& path, PathStyle style);
+
+// The option flags of a walk, to be joined by "or".
+/// No entry lines for files.
+inline constexpr int kFoldersOnly = 2;
+/// Lines go to output 1, to output 2, or to both. The first that is set counts, in this order; with none of
+/// them nothing is written.
+inline constexpr int kToOutput1 = 8;
+inline constexpr int kToOutput2 = 16;
+inline constexpr int kToBothOutputs = 32;
+
+/// Two open files that lines can be sent to; a file that the flags never choose may be null.
+struct LineOutputs {
+  FileWriter* output1 = nullptr;
+  FileWriter* output2 = nullptr;
+};
+
+/// Writes `line` and CR LF to the output or outputs that `flags` choose. Throws fault 52 where that one is
+/// null, and RuntimeFault as FileWriter::write does.
+void writeLine(std::string_view line, const LineOutputs& outputs, int flags);
 
 /// Events are processed at every so many files of a folder.
 inline constexpr std::size_t kFilesBetweenEvents = 50;
@@ -36,14 +59,14 @@ class DirIO {
  public:
   /// All parameters but the last two must outlive the object. `folders` must have no current folder between
   /// walks.
-  DirIO(ProgramState& state, FolderReader& folders, IndexView& view, MessageBoxes& messages,
+  DirIO(ProgramState& state, FolderReader& folders, IndexProgress& progress, MessageBoxes& messages,
         const QLocale& locale, PathStyle style = nativePathStyle());
 
   /// Lists `folderPath`, to which a separator is appended in place when it has none at its end, and all below
   /// it to the outputs that `flags` choose; `volumeText` is in every block. Files are listed whose name
   /// fits `filePattern`. A path that is too short to name a folder writes nothing.
   ///
-  /// Names that cannot be listed or read, and those that a reader of the listing will misread, are told in
+  /// Names that cannot be listed or read, and those that a reader of the listing will misread, are noted in
   /// `errorLog`; other faults are asked about as WalkFaults does. Events are processed for each folder, for
   /// every 50th file of it and after each sub-folder. `AbortRequested` is looked at after each sub-folder:
   /// when it is set the remaining ones are not walked. It is never cleared.
@@ -91,12 +114,10 @@ class DirIO {
   bool writeFiles();
   bool writeFile(std::string_view name, NameTraits traits);
   void write(std::string_view line) { writeLine(line, job_.outputs, job_.flags); }
-  void letEventsRun();
   void noteHostileTop(const std::string& listed);
 
-  ProgramState& state_;
   FolderReader& folders_;
-  IndexView& view_;
+  IndexProgress& progress_;
   PathStyle style_;
   std::string separator_;
   // The current folder as the system writes it and as the listing does, each with a separator at its end.

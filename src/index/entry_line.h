@@ -1,7 +1,8 @@
 // The entry line of a file. The whole layout: docs/formats/listing.md.
 #pragma once
 
-#include "index/listed_dates.h"
+#include "dates/day_and_second.h"
+#include "dates/general_date_writer.h"
 
 #include <QLocale>
 
@@ -9,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvin {
 
@@ -26,6 +28,39 @@ struct ListedFile {
 inline constexpr std::int64_t kLargestListedSize = 9'999'999'999'999;
 /// The largest size that is grouped; the signs between the groups of a larger one would not fit.
 inline constexpr std::int64_t kLargestGroupedSize = 9'999'999'999;
+
+/// Moments in the general date form of a locale, in the machine's time zone. A listing has millions of them,
+/// so the texts that a part of a date can have are made once and then only put together.
+class ListedDates {
+ public:
+  explicit ListedDates(const QLocale& locale);
+
+  /// Appends the wall-clock date and time of `seconds` since the start of 1970, UTC.
+  void append(std::string& line, std::int64_t seconds);
+  /// Appends the zero date.
+  void appendZero(std::string& line) const { line += zeroDate_; }
+
+ private:
+  // One field of a pattern with what stands beside it, as a text for each value that the field can have.
+  struct Part {
+    PatternField field;
+    std::vector<std::string> texts;
+  };
+  using Parts = std::vector<Part>;
+
+  Parts partsOf(const DatePattern& pattern, const std::string& before) const;
+  static void appendParts(std::string& line, const Parts& parts, CalendarDate date, int second);
+  void appendRare(std::string& line, std::int64_t days, int second) const;
+  int offsetAt(std::int64_t seconds);
+
+  GeneralDateWriter writer_;
+  Parts date_;
+  // With the blank between date and time.
+  Parts time_;
+  std::string zeroDate_;
+  // The time zone's offsets in seconds, from 1970 on.
+  std::vector<std::int32_t> offsets_;
+};
 
 /// Writes entry lines in the numbers and dates of one locale.
 class EntryLines {

@@ -2,69 +2,103 @@
 
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
+#include "files/file_identity.h"
+#include "files/path_style.h"
 #include "index/dir_io.h"
-#include "index/own_files.h"
-#include "platform/text_encoding.h"
 
 #include <QFileInfo>
-#include <QScopeGuard>
+#include <QStringList>
 
+#include <algorithm>
 #include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace quorvin {
 namespace {
 
+bool isSameFile(const QString& path, const QString& other) {
+  if (path == other) return true;
+  // Only the file system knows which names are one to it.
+  const std::optional<FileIdentity> identity = fileIdentity(path);
+  return identity && identity == fileIdentity(other);
+}
+
+/// Whether `path` is that of the main data file or of one of the two source lists, which need not be there
+/// yet. Another way of writing the name of one that is there counts as well: capital letters, where the file
+/// system takes them for small ones, or a link.
+bool isOwnFile(const QString& path, const ProgramState& state) {
+  const QStringList names = {state.LocFile, state.OffLineFile, state.TextFile};
+  return std::ranges::any_of(names, [&](const QString& name) {
+    if (name.isEmpty()) return false;
+    return isSameFile(path, isTakenAsItStands(name, nativePathStyle()) ? name : state.LocalFolder + name);
+  });
+}
+
+std::vector<std::int64_t> listingSizes(const ProgramState& state) {
+  std::vector<std::int64_t> sizes;
+  for (int row = 1; row <= state.OnlineSourceCount; ++row) {
+    sizes.push_back(QFileInfo(state.onlineListingPath(state.OnlineSources.description(row))).size());
+  }
+  return sizes;
+}
+
 /// One refresh, from its first source to its last.
 class Refresh {
  public:
-  Refresh(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale)
+  Refresh(ProgramState& state, Job& job, MessageBoxes& messages, const QLocale& locale)
       : state_(state),
-        view_(view),
+        progress_(job, locale),
         folders_(makeFolderReader()),
-        dirIO_(state, *folders_, view, messages, locale) {}
+        dirIO_(state, *folders_, progress_, messages, locale) {
+    progress_.follow(RefreshShare(listingSizes(state)));
+  }
 
-  void run() {
+  /// Throws RuntimeFault when a listing cannot be made; `outcome` then says what was done before.
+  void run(RefreshOutcome& outcome) {
     for (int row = 1; row <= state_.OnlineSourceCount; ++row) {
-      view_.setProgressTitle(
+      progress_.job().display().setTitle(
           QStringLiteral(" Updating online file lists... %1 of %2").arg(row).arg(state_.OnlineSourceCount));
-      view_.showSource(row, state_.OnlineSourceCount);
+      progress_.beginSource(row);
       // Copies, since the user may edit the table while events run.
       const QString description = state_.OnlineSources.description(row);
       const QString path = state_.OnlineSources.path(row);
-      if (!refreshSource(description, path)) return;
+      const Ending ending = refreshSource(description, path);
+      outcome.isStopped = ending == Ending::Stopped;
+      if (outcome.isStopped) break;
+      ++(ending == Ending::Made ? outcome.made : outcome.kept);
     }
+    progress_.show();
   }
 
  private:
-  // False when the refresh was asked to stop.
-  bool refreshSource(const QString& description, const QString& path) {
-    const QString base = state_.LocalFolder + trimBlanks(description).toString();
-    const QString temporary = base + QStringLiteral(".tmp");
+  enum class Ending { Made, Kept, Stopped };
+
+  Ending refreshSource(const QString& description, const QString& path) {
     const QString finished = state_.onlineListingPath(description);
+    const QString temporary = finished.chopped(QStringLiteral("txt").size()) + QStringLiteral("tmp");
     for (const QString& file : {temporary, finished}) {
       if (!isOwnFile(file, state_)) continue;
       noteNotMade(description, file);
-      return true;
+      return Ending::Kept;
     }
     if (!canBeOpened(path)) {
       noteKept(path, description);
-      return true;
+      return Ending::Kept;
     }
     FileAside listing(finished, {.nameAside = QFileInfo(temporary).fileName()});
     const bool opened = writeListing(listing, description, path);
-    if (state_.RescanAbort) {
-      state_.RescanAbort = false;
-      return false;
-    }
+    if (progress_.job().takeRescanAbort()) return Ending::Stopped;
     // Pulled while it was read, be it for a moment: the walk has met errors only, which would cost the
     // catalogue.
     if (opened && folders_->topIsStillAt(path)) {
       listing.commit();
-    } else {
-      listing.discard();
-      noteKept(path, description);
+      return Ending::Made;
     }
-    return true;
+    listing.discard();
+    noteKept(path, description);
+    return Ending::Kept;
   }
 
   bool canBeOpened(const QString& path) {
@@ -93,41 +127,32 @@ class Refresh {
   }
 
   ProgramState& state_;
-  RefreshView& view_;
+  IndexProgress progress_;
   std::unique_ptr<FolderReader> folders_;
   DirIO dirIO_;
 };
 
-// False when a fault ended it.
-bool refreshAll(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale) {
-  view.createProgress();
-  const QString title = view.progressTitle();
-  state.RescanRunning = true;
-  view.refreshBegins();
-  const auto ending = qScopeGuard([&] {
-    state.RescanRunning = false;
-    view.refreshEnded();
-  });
-  try {
-    Refresh(state, view, messages, locale).run();
-  } catch (const RuntimeFault& fault) {
-    messages.inform(QStringLiteral("Error Refreshing Local Lists:") + fault.description());
-    return false;
-  }
-  view.setProgressTitle(title);
-  return true;
-}
-
 }  // namespace
 
-void refreshLocalLists(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
-                       const QString& versionCaption) {
-  if (state.RescanRunning || !refreshAll(state, view, messages, locale)) return;
-  view.setDefaultPointer();
-  view.setStatus(versionCaption);
-  if (state.errorLog.isEmpty()) return;
-  view.showErrorLog(state.errorLog);
-  state.errorLog.clear();
+RefreshOutcome refreshLocalLists(ProgramState& state, Job& job, MessageBoxes& messages, const QLocale& locale,
+                                 const QString& versionCaption) {
+  RefreshOutcome outcome;
+  WorkDisplay& display = job.display();
+  const QString title = display.title();
+  job.show();
+  try {
+    Refresh(state, job, messages, locale).run(outcome);
+  } catch (const RuntimeFault& fault) {
+    outcome.fault = QStringLiteral("Error Refreshing Local Lists:") + fault.description();
+    job.hide();
+    return outcome;
+  }
+  job.hide();
+  display.setTitle(title);
+  display.setBusyPointer(false);
+  display.setStatus(versionCaption);
+  outcome.errorLog = std::exchange(state.errorLog, {});
+  return outcome;
 }
 
 }  // namespace quorvin

@@ -1,26 +1,39 @@
 // The local list refresh: renews the listing of every online source.
 #pragma once
 
-#include "index/index_view.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
+#include "work/work.h"
 
 #include <QLocale>
 #include <QString>
 
 namespace quorvin {
 
+/// What a refresh has done.
+struct RefreshOutcome {
+  /// How many listings were made anew, and how many sources kept what they had.
+  int made = 0;
+  int kept = 0;
+  /// `RescanAbort` ended it before its last source.
+  bool isStopped = false;
+  /// What the user is told of the fault that ended it; empty when there was none.
+  QString fault;
+  /// What there is to report of single names and sources, lines that end with CR LF: the whole error log,
+  /// which is empty now. After a fault the log is left for the next refresh.
+  QString errorLog;
+};
+
 /// Makes the listings of all online sources anew, in table order, each first as `LocalFolder` + trimmed
 /// description + ".tmp" and then put in the place of the ".txt" file; a search never reads a half-written
-/// one. `RescanRunning` is set meanwhile. `RescanAbort` ends the refresh after the current source, whose old
-/// listing stays. A source whose folder cannot be opened, or whose path leads to another folder after the
-/// walk (a drive was pulled), keeps its old listing, and a line in the error log says so. A source whose
-/// listing would overwrite the main data file or a source list is passed over, which is logged too. At the
-/// end the title of `Progress` is as before, its status shows `versionCaption`, and a non-empty error log is
-/// shown and emptied. A fault is reported as "Error Refreshing Local Lists:" with its description and ends
-/// the refresh; every listing on disk is then the old or the new one, whole. Does nothing while a refresh is
-/// already running. User-interface thread only.
-void refreshLocalLists(ProgramState& state, RefreshView& view, MessageBoxes& messages, const QLocale& locale,
-                       const QString& versionCaption);
+/// one. `job` is of the kind Refresh; it is shown, and hidden at the end. `RescanAbort` ends the refresh
+/// after the current source, whose old listing stays. A source whose folder cannot be opened, or whose path
+/// leads to another folder after the walk (a drive was pulled), keeps its old listing, and a line in the
+/// error log says so. A source whose listing would overwrite the main data file or a source list is passed
+/// over, which is logged too. At the end the title of `Progress` is as before, its status shows
+/// `versionCaption`, and the mouse pointer is the default one. A fault ends the refresh at once; every
+/// listing on disk is then the old or the new one, whole. Questions about single names go to `messages`.
+RefreshOutcome refreshLocalLists(ProgramState& state, Job& job, MessageBoxes& messages, const QLocale& locale,
+                                 const QString& versionCaption);
 
 }  // namespace quorvin

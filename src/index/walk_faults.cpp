@@ -57,7 +57,7 @@ std::optional<Step> WalkFaults::ask(FaultNumber number, const QString& subject) 
     case FaultAnswer::Closed:
       break;
   }
-  state_.AbortRequested = true;
+  job_.requestStop();
   return Step::LeaveFolder;
 }
 

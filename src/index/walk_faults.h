@@ -1,9 +1,10 @@
-// What a walk does when a step of it fails, and what it tells about single names.
+// What a walk does when a step of it fails, and what it reports of single names.
 #pragma once
 
 #include "faults/runtime_fault.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
+#include "work/work.h"
 
 #include <QString>
 
@@ -32,9 +33,9 @@ inline std::optional<FaultNumber> faultOfReading(int errorNumber) {
 class WalkFaults {
  public:
   /// `folderPath` is the current folder with its trailing separator, in UTF-8, whenever a step is attempted;
-  /// all three must outlive the object.
-  WalkFaults(ProgramState& state, MessageBoxes& messages, const std::string& folderPath)
-      : state_(state), messages_(messages), folderPath_(folderPath) {}
+  /// all four must outlive the object. The user may end `job` where asked about a fault.
+  WalkFaults(ProgramState& state, const Job& job, MessageBoxes& messages, const std::string& folderPath)
+      : state_(state), job_(job), messages_(messages), folderPath_(folderPath) {}
 
   /// Runs `action`, again as long as the user wants to retry it. It gives nothing when all went well, else
   /// the fault's number. `name` is what it works on, empty for the folder as a whole.
@@ -62,6 +63,7 @@ class WalkFaults {
   std::optional<Step> ask(FaultNumber number, const QString& subject);
 
   ProgramState& state_;
+  const Job& job_;
   MessageBoxes& messages_;
   const std::string& folderPath_;
   bool inFilePass_ = false;

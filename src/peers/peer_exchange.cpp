@@ -2,8 +2,6 @@
 
 #include "peers/messages/peer_message.h"
 
-#include <QScopedValueRollback>
-
 #include <utility>
 
 namespace quorvin {
@@ -14,15 +12,16 @@ constexpr int kMillisecondsBetweenTries = 200;
 
 }  // namespace
 
-PeerExchange::PeerExchange(ProgramState& state, MessageBoxes& messages, const QLocale& locale,
-                           PeerHooks hooks, PeerServerLimits serverLimits, PeerClientLimits clientLimits,
-                           QObject* parent)
+PeerExchange::PeerExchange(ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
+                           std::function<bool()> mayAsk, PeerServerLimits serverLimits,
+                           PeerClientLimits clientLimits, QObject* parent)
     : QObject(parent),
       state_(state),
+      work_(work),
       messages_(messages),
-      hooks_(std::move(hooks)),
-      sndQTime_(state, queue_),
-      sharing_(state, messages, locale, hooks_.processEvents, serverLimits),
+      mayAsk_(std::move(mayAsk)),
+      sndQTime_(work, queue_),
+      sharing_(state, work, messages, locale, serverLimits),
       client_(state, queue_, sndQTime_, locale, clientLimits) {
   offer_.setInterval(kMillisecondsBetweenTries);
   connect(&client_, &PeerClient::ended, this, &PeerExchange::conversationEnded);
@@ -34,9 +33,11 @@ void PeerExchange::getLists(const QString& peer) {
   if (address.host.isEmpty()) {
     messages_.inform(
         QStringLiteral("\"%1\" is not the name or address of a computer.").arg(shownPeerText(peer)));
-  } else if (isBusy()) {
-    messages_.inform(QStringLiteral("Lists are already being received."));
+  } else if (std::optional<Job> getting = work_.start(JobKind::Getting); !getting) {
+    const QString refusal = work_.refusalOf(JobKind::Getting);
+    if (!refusal.isEmpty()) messages_.inform(refusal);
   } else {
+    getting_.emplace(*std::move(getting));
     client_.start(address);
     Q_EMIT gettingBegan(shownPeerText(address.text()));
   }
@@ -51,17 +52,18 @@ void PeerExchange::conversationEnded(const PeerOutcome& outcome) {
 }
 
 void PeerExchange::offerWhenPossible() {
-  if (state_.QuitPending || !outcome_ || (hooks_.mayAsk && !hooks_.mayAsk())) return;
+  if (!outcome_ || !mayAsk_()) return;
+  std::optional<Job> unpacking = work_.start(JobKind::Unpacking);
+  if (!unpacking) return;
   offer_.stop();
   // Events run meanwhile, and may come here again.
   const PeerOutcome outcome = *std::exchange(outcome_, std::nullopt);
-  bool added = false;
-  {
-    const QScopedValueRollback offering(isOffering_, true);
-    added = offerReceivedLists(outcome, state_, messages_, hooks_.unpack);
-  }
+  const bool added = offerReceivedLists(outcome, state_, *unpacking, messages_, unpackingIn(*unpacking));
+  unpacking.reset();
+  getting_.reset();
   if (added) Q_EMIT offlineSourcesAdded();
   Q_EMIT outcomeDealtWith();
+  work_.wake();
 }
 
 }  // namespace quorvin

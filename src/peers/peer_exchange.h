@@ -7,6 +7,7 @@
 #include "peers/server/list_sharing.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
+#include "work/work.h"
 
 #include <QLocale>
 #include <QObject>
@@ -18,26 +19,18 @@
 
 namespace quorvin {
 
-/// What the exchange needs of the program round it.
-struct PeerHooks {
-  /// Lets pending window events run.
-  std::function<void()> processEvents;
-  UnpackArchive unpack;
-  /// Whether the user may be asked something now, that is no dialog is open: one might write back sources as
-  /// they were before lists were added.
-  std::function<bool()> mayAsk;
-};
-
 /// Sharing and getting, which go on beside each other, and the timer `SndQTime`. One object for the program.
 /// Neither goes on at first. User-interface thread only.
 class PeerExchange : public QObject {
   Q_OBJECT
 
  public:
-  /// `state` and `messages` must outlive the object.
-  PeerExchange(ProgramState& state, MessageBoxes& messages, const QLocale& locale, PeerHooks hooks,
-               PeerServerLimits serverLimits = {}, PeerClientLimits clientLimits = {},
-               QObject* parent = nullptr);
+  /// `state`, `work` and `messages` must outlive the object. `mayAsk` says whether the user may be asked
+  /// something now, that is no dialog is open: one might write back sources as they were before lists were
+  /// added.
+  PeerExchange(ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
+               std::function<bool()> mayAsk, PeerServerLimits serverLimits = {},
+               PeerClientLimits clientLimits = {}, QObject* parent = nullptr);
 
   /// The timer that ends the program too; see SendTimer::setQuit().
   SendTimer& SndQTime() { return sndQTime_; }
@@ -61,11 +54,11 @@ class PeerExchange : public QObject {
  private:
   void conversationEnded(const PeerOutcome& outcome);
   void offerWhenPossible();
-  bool isBusy() const { return client_.isRunning() || outcome_ || isOffering_; }
 
   ProgramState& state_;
+  Work& work_;
   MessageBoxes& messages_;
-  PeerHooks hooks_;
+  std::function<bool()> mayAsk_;
   SendQueue queue_;
   SendTimer sndQTime_;
   ListSharing sharing_;
@@ -73,7 +66,8 @@ class PeerExchange : public QObject {
   QTimer offer_;
   /// What came of a conversation, until it is reported and offered.
   std::optional<PeerOutcome> outcome_;
-  bool isOffering_ = false;
+  /// From the first word to the peer until what came has been offered.
+  std::optional<Job> getting_;
 };
 
 }  // namespace quorvin

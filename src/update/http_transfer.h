@@ -1,14 +1,24 @@
-// Getting a document by HTTP, without knowing how.
+// Getting a document by HTTP.
 #pragma once
 
+#include "faults/runtime_fault.h"
+
 #include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QUrl>
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
 
 namespace quorvin {
 
-/// One transfer at a time: it is begun, polled while window events run, and read in chunks. All calls return
-/// at once.
+/// One transfer at a time: it is started, polled while window events run, and read in chunks. All calls
+/// return at once.
 class HttpTransfer {
  public:
   virtual ~HttpTransfer() = default;
@@ -34,6 +44,53 @@ class HttpTransfer {
 
   /// Ends the transfer; nothing more is received. Does nothing when there is none.
   virtual void cancel() = 0;
+};
+
+struct HttpLimits {
+  /// Without any data, though the reader has taken what came before.
+  std::chrono::milliseconds silence = std::chrono::seconds(30);
+  /// From the request to the last header, redirects included.
+  std::chrono::milliseconds headers = std::chrono::seconds(60);
+  /// Of a document.
+  std::int64_t bytes = 2'147'483'647;
+};
+
+/// HTTP and HTTPS over the network. Follows redirects to the same or a safer scheme, takes no cookies, gives
+/// no passwords, and has nothing packed on the way. An answer other than 200, a document shorter than
+/// announced and a certificate that cannot be trusted are failures. Where neither length nor end of a
+/// document is announced, it ends where the connection does: whoever uses the document must be able to tell
+/// whether it is whole.
+class HttpNetworkTransfer : public QObject, public HttpTransfer {
+  Q_OBJECT
+
+ public:
+  explicit HttpNetworkTransfer(HttpLimits limits = {}, QObject* parent = nullptr);
+  ~HttpNetworkTransfer() override;
+
+  void execute(const QUrl& address) override;
+  bool stillExecuting() const override;
+  QString header(const QString& name) const override;
+  bool chunkIsReady(qsizetype size) const override;
+  QByteArray chunk(qsizetype size) override;
+  void cancel() override;
+
+ private:
+  void headersArrived();
+  void silent();
+  void finished();
+  void fail(FaultNumber number, const QString& why);
+  void dropReply();
+  void throwIfFailed() const;
+
+  HttpLimits limits_;
+  QNetworkAccessManager network_;
+  QTimer headerDeadline_;
+  QTimer silence_;
+  /// The manager's; null while there is no transfer.
+  QNetworkReply* reply_ = nullptr;
+  bool hasHeaders_ = false;
+  std::int64_t received_ = 0;
+  std::optional<RuntimeFault> failure_;
 };
 
 }  // namespace quorvin

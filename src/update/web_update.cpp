@@ -1,13 +1,14 @@
 #include "update/web_update.h"
 
-#include "archive/archive_display.h"
+#include "archive/archive_unpacking.h"
 #include "dates/day_and_second.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
-#include "update/web_update_address.h"
-#include "update/web_update_headers.h"
+#include "files/file_writer.h"
+#include "update/web_update_server.h"
 
 #include <QFile>
+#include <QScopeGuard>
 
 #include <string_view>
 #include <utility>
@@ -21,35 +22,50 @@ constexpr std::int64_t kSameMinutes = 1;
 /// 1 January 1980, older than any copy on a server.
 constexpr DateValue kNoCopy = 29221;
 
-/// The pointer that tells of work, taken back on every way out.
+/// The pointer that says that the program is working, taken back on every way out.
 class BusyPointer {
  public:
-  explicit BusyPointer(WebUpdateView& view) : view_(view) { view_.setBusyPointer(true); }
-  ~BusyPointer() { view_.setBusyPointer(false); }
+  explicit BusyPointer(WorkDisplay& display) : display_(display) { display_.setBusyPointer(true); }
+  ~BusyPointer() { display_.setBusyPointer(false); }
   BusyPointer(const BusyPointer&) = delete;
   BusyPointer& operator=(const BusyPointer&) = delete;
 
  private:
-  WebUpdateView& view_;
+  WorkDisplay& display_;
 };
+
+/// What is wrong with the archive is shown in a message box.
+UnpackingOutcome unpackDataFile(Job& job, const QString& archivePath, const QString& targetFolder,
+                                MessageBoxes& boxes, std::int64_t archiveLength = -1) {
+  const UnpackingResult result = unpackArchive(job, archivePath, targetFolder, archiveLength);
+  if (!result.error.isEmpty()) boxes.inform(QStringLiteral("Archive Error: ") + result.error);
+  return result.outcome;
+}
 
 }  // namespace
 
-WebUpdate::WebUpdate(ProgramState& state, WebUpdateView& view, MessageBoxes& boxes, HttpTransfer& web,
-                     const QLocale& locale)
-    : state_(state), view_(view), boxes_(boxes), web_(web), locale_(locale) {}
+WebUpdate::WebUpdate(const ProgramState& state, Job& job, MessageBoxes& boxes, HttpTransfer& web,
+                     const QLocale& locale, EnableCommand enableCommand)
+    : state_(state),
+      job_(job),
+      display_(job.display()),
+      boxes_(boxes),
+      web_(web),
+      locale_(locale),
+      enableCommand_(std::move(enableCommand)) {}
 
 void WebUpdate::WebUpdate_Click() {
   try {
-    view_.setWebUpdateEnabled(false);
+    enableCommand_(false);
     if (run() == Step::Cancelled) return;
   } catch (const RuntimeFault& fault) {
     web_.cancel();
-    view_.leaveProgress();
-    if (!isClosing())
+    job_.leaveStanding();
+    if (!job_.isClosing()) {
       boxes_.inform(QString::number(fault.number()) + QStringLiteral(": Could not get an update."));
+    }
   }
-  view_.setWebUpdateEnabled(true);
+  enableCommand_(true);
 }
 
 WebUpdate::Step WebUpdate::run() {
@@ -59,14 +75,14 @@ WebUpdate::Step WebUpdate::run() {
   if (const Step step = check(); step != Step::GoOn) return step;
   if (const Step step = download(); step != Step::GoOn) return step;
   if (!archiveFile_.isEmpty() && ordinaryFileExists(archivePath())) unpack();
-  view_.unloadProgress();
+  job_.hide();
   return Step::Done;
 }
 
 WebUpdate::Step WebUpdate::check() {
   DateValue serverDate = 0;
   {
-    const BusyPointer busy(view_);
+    const BusyPointer busy(display_);
     web_.execute(address_);
     if (!waitForHeaders()) return Step::Done;
     serverDate = serverDateOf(web_.header(QStringLiteral("Last-Modified:")), locale_);
@@ -80,14 +96,14 @@ WebUpdate::Step WebUpdate::check() {
   const bool isWanted =
       boxes_.askYesNo(QStringLiteral("An updated data file is avaliable at ") + address_.toDisplayString() +
                       QStringLiteral(" do you want to download the update?"));
-  return isWanted && !isClosing() ? Step::GoOn : Step::Done;
+  return isWanted && !job_.isClosing() ? Step::GoOn : Step::Done;
 }
 
 /// The headers are only asked for: no window shows that there is something to cancel yet.
 bool WebUpdate::waitForHeaders() {
   while (web_.stillExecuting()) {
-    view_.waitForEvents();
-    if (!isClosing()) continue;
+    job_.waitForEvents();
+    if (!job_.isClosing()) continue;
     web_.cancel();
     return false;
   }
@@ -99,15 +115,15 @@ DateValue WebUpdate::localDate() const {
 }
 
 WebUpdate::Step WebUpdate::download() {
-  // A request that an earlier piece of work has left over is not meant for this one.
-  state_.AbortRequested = false;
-  view_.showProgress();
-  view_.setBarMaximum(remoteSize_);
-  view_.setStatus(QStringLiteral("Starting download of update."));
+  // A request that was left over is not meant for this job.
+  job_.dropStopRequest();
+  job_.show();
+  display_.setBarMaximum(remoteSize_);
+  display_.setStatus(QStringLiteral("Starting download of update."));
   web_.execute(address_);
   while (web_.stillExecuting()) {
-    view_.waitForEvents();
-    if (isCancelled()) return cancelDownload();
+    job_.waitForEvents();
+    if (job_.isStopRequested()) return cancelDownload();
   }
   std::optional<QByteArray> first = nextChunk();
   if (!first || receive(*std::move(first)) == Step::Cancelled) return cancelDownload();
@@ -128,8 +144,8 @@ WebUpdate::Step WebUpdate::receive(QByteArray next) {
     if (archive) archive->write(std::string_view(block.constData(), static_cast<std::size_t>(block.size())));
     archiveLength_ += block.size();
     count(next.size());
-    view_.processEvents();
-    if (isCancelled()) return Step::Cancelled;
+    job_.letEventsRun();
+    if (job_.isStopRequested()) return Step::Cancelled;
     if (next.isEmpty()) break;
   }
   if (archive) archive->flush();
@@ -140,8 +156,8 @@ WebUpdate::Step WebUpdate::receive(QByteArray next) {
 /// Nothing when the user cancels.
 std::optional<QByteArray> WebUpdate::nextChunk() {
   while (!web_.chunkIsReady(kChunkSize)) {
-    view_.waitForEvents();
-    if (isCancelled()) return std::nullopt;
+    job_.waitForEvents();
+    if (job_.isStopRequested()) return std::nullopt;
   }
   return web_.chunk(kChunkSize);
 }
@@ -152,37 +168,43 @@ void WebUpdate::count(qsizetype bytes) {
   const std::int64_t counted = bytesCounted_ + std::int64_t{2} * pairs;
   if (counted > remoteSize_) throw RuntimeFault(FaultNumber::InvalidProcedureCall);
   bytesCounted_ = static_cast<std::int32_t>(counted);
-  view_.setBar(bytesCounted_);
+  display_.setBar(bytesCounted_);
 }
 
 WebUpdate::Step WebUpdate::cancelDownload() {
-  if (!isClosing()) state_.AbortRequested = false;
+  job_.dropStopRequest();
   web_.cancel();
-  view_.unloadProgress();
+  job_.hide();
   if (archiveFile_.isEmpty() || !ordinaryFileExists(archivePath())) return Step::Cancelled;
   if (!QFile::remove(archivePath())) throw RuntimeFault(FaultNumber::PermissionDenied);
   return Step::Cancelled;
 }
 
 void WebUpdate::unpack() {
-  view_.setStatus(QStringLiteral("Retrieved compressed data update!"));
-  view_.setBarMaximum(kFullBar);
-  view_.setBar(0);
-  view_.setStatus(QStringLiteral("Decompressing..."));
-  showArchiveError(boxes_, unpackArchiveShownIn(view_, state_, archivePath(), localFolder_, archiveLength_));
-  if (!isClosing()) state_.AbortRequested = false;
+  display_.setStatus(QStringLiteral("Retrieved compressed data update!"));
+  display_.setBarMaximum(kFullBar);
+  display_.setBar(0);
+  display_.setStatus(QStringLiteral("Decompressing..."));
+  unpackDataFile(job_, archivePath(), localFolder_, boxes_, archiveLength_);
+  job_.dropStopRequest();
 }
 
 QString WebUpdate::archivePath() const {
   return localFolder_ + archiveFile_;
 }
 
-bool WebUpdate::isCancelled() const {
-  return state_.AbortRequested || isClosing();
-}
-
-bool WebUpdate::isClosing() const {
-  return state_.QuitPending || view_.endRequested();
+void extractDataFile(Job& job, const QString& archivePath, const QString& targetFolder, MessageBoxes& boxes) {
+  job.dropStopRequest();
+  const auto afterwards = qScopeGuard([&job] { job.dropStopRequest(); });
+  job.show();
+  WorkDisplay& display = job.display();
+  display.setStatus(QStringLiteral("Decompressing Compressed Data File."));
+  display.setBarMaximum(kFullBar);
+  display.setBar(0);
+  if (unpackDataFile(job, archivePath, targetFolder, boxes) != UnpackingOutcome::Failed) return;
+  throw RuntimeFault(FaultNumber::PathFileAccess, describe(FaultNumber::PathFileAccess) +
+                                                      QStringLiteral(": ") + archivePath +
+                                                      QStringLiteral(" could not be unpacked"));
 }
 
 }  // namespace quorvin

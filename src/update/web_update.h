@@ -1,48 +1,39 @@
-// The web update: asking a web server for a newer archive of the main data file, downloading and unpacking
-// it.
+// The archive of the main data file: getting a newer one from a web server, and unpacking it.
 #pragma once
 
-#include "files/file_writer.h"
+#include "dates/general_date.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 #include "update/http_transfer.h"
-#include "work/archive_view.h"
+#include "work/work.h"
 
 #include <QLocale>
 #include <QString>
 #include <QUrl>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace quorvin {
 
-/// What the update shows besides the `Progress` window.
-class WebUpdateView : public ArchiveView {
- public:
-  /// Enables or disables the `WebUpdate` button.
-  virtual void setWebUpdateEnabled(bool enabled) = 0;
-  /// Tells by the mouse pointer that the program works, or does not any more.
-  virtual void setBusyPointer(bool busy) = 0;
-  /// Waits until there are window events, and lets them run.
-  virtual void waitForEvents() = 0;
-  /// The update has failed and leaves `Progress` standing: from now on the user can close it.
-  virtual void leaveProgress() = 0;
-};
-
-/// Runs in the window's thread, inside WebUpdate_Click(), and lets window events run meanwhile.
+/// One web update, which is a job of the kind Update. It runs in the window's thread, inside
+/// WebUpdate_Click(), and lets window events run meanwhile.
 class WebUpdate {
  public:
+  /// What enables or disables the `WebUpdate` button.
+  using EnableCommand = std::function<void(bool enabled)>;
+
   /// All must outlive the object; `locale` is the one in which dates are read.
-  WebUpdate(ProgramState& state, WebUpdateView& view, MessageBoxes& boxes, HttpTransfer& web,
-            const QLocale& locale);
+  WebUpdate(const ProgramState& state, Job& job, MessageBoxes& boxes, HttpTransfer& web,
+            const QLocale& locale, EnableCommand enableCommand);
 
   /// Asks `WebServer` for the date of `ArchiveFile` and, when it is newer than the copy in `LocalFolder` and
   /// the user agrees, downloads it over that copy and unpacks it. `WebUpdate` is disabled meanwhile. After a
   /// cancelled download the copy is deleted and `WebUpdate` stays disabled. Whatever fails is reported as
   /// "NUMBER: Could not get an update."; what has been written of the archive then stays, and so does
   /// `Progress`. The earlier archive is written over from its start and not cut: the rest of a longer one
-  /// stays behind the new one.
+  /// stays behind the new one. To be called once.
   void WebUpdate_Click();
 
  private:
@@ -50,7 +41,7 @@ class WebUpdate {
   enum class Step { GoOn, Done, Cancelled };
 
   Step run();
-  /// Asks for the headers and tells whether there is an update and the user wants it.
+  /// Asks for the headers, then the user whether an update is wanted.
   Step check();
   Step download();
   Step receive(QByteArray next);
@@ -62,23 +53,30 @@ class WebUpdate {
   void count(qsizetype bytes);
   DateValue localDate() const;
   QString archivePath() const;
-  bool isCancelled() const;
-  bool isClosing() const;
 
-  ProgramState& state_;
-  WebUpdateView& view_;
+  const ProgramState& state_;
+  Job& job_;
+  WorkDisplay& display_;
   MessageBoxes& boxes_;
   HttpTransfer& web_;
   QLocale locale_;
+  EnableCommand enableCommand_;
 
-  // Of the update that is running.
+  // The settings may change meanwhile.
   QString archiveFile_;
   QString localFolder_;
   QUrl address_;
   std::int32_t remoteSize_ = 0;
   std::int32_t bytesCounted_ = 0;
-  /// As long as the archive has become; what follows is of the earlier one.
+  /// The length of the new archive; what follows it in the file is left of the earlier one.
   std::int64_t archiveLength_ = 0;
 };
+
+/// Unpacks the archive of the main data file at start-up, as a job of the kind Extraction, which is shown
+/// meanwhile: every entry of the archive at `archivePath` into `targetFolder` (which ends in a separator),
+/// replacing files of the same names. What is wrong with the archive is shown in a message box before fault
+/// 75 is thrown; a file that cannot be written is a fault as unpackArchive() throws it. The user may cancel;
+/// that is no fault.
+void extractDataFile(Job& job, const QString& archivePath, const QString& targetFolder, MessageBoxes& boxes);
 
 }  // namespace quorvin

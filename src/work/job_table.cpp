@@ -17,7 +17,8 @@ constexpr Answer kRefuse = Answer::Refused;
 // A search reads finished listings only, so it may run beside anything. Rescans that are asked for while
 // listings are searched, made or packed follow: the folders have changed, and nobody wants to ask twice. What
 // shows `Progress` excludes the others that do, since there is one window and one stop request for it.
-// Received lists and packing have nobody waiting in front of the screen, so they wait.
+// Received lists and packing have nobody waiting in front of the screen, so they wait. Lists are being got
+// until what came has been unpacked.
 //
 // Wanted:         Search  Refresh  Update   Extract. Packing Getting  Unpack.  Closing
 constexpr std::array<Row, kJobKinds> kTable = {{
@@ -26,7 +27,7 @@ constexpr std::array<Row, kJobKinds> kTable = {{
     /* Update */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
     /* Extraction */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
     /* Packing */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
-    /* Getting */ {kStart, kStart, kStart, kStart, kStart, kRefuse, kWait, kStop},
+    /* Getting */ {kStart, kStart, kStart, kStart, kStart, kRefuse, kStart, kStop},
     /* Unpacking */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kRefuse, kWait, kStop},
     /* Closing */ {kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse},
 }};

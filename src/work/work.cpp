@@ -20,13 +20,14 @@ Job::Job(Work& work, JobKind kind) : work_(&work), kind_(kind) {
   }
 }
 
-Job::~Job() {
+void Job::end() {
   if (!work_) return;
   hide();
+  Work& work = *std::exchange(work_, nullptr);
   if (kind_ == JobKind::Refresh) {
-    work_->state_.RescanRunning = false;
+    work.state_.RescanRunning = false;
   } else {
-    work_->isRunning_[static_cast<std::size_t>(kind_)] = false;
+    work.isRunning_[static_cast<std::size_t>(kind_)] = false;
   }
 }
 

@@ -27,7 +27,11 @@ class Job {
   Job(const Job&) = delete;
   Job& operator=(const Job&) = delete;
   Job& operator=(Job&&) = delete;
-  ~Job();
+  ~Job() { end(); }
+
+  /// Ends the job before the end of its object, which must not be used any more: for what is told of it when
+  /// it does not run any longer.
+  void end();
 
   /// What the job shows itself in. It must not be used after the job's end.
   WorkDisplay& display() const;
@@ -64,7 +68,7 @@ class Job {
   friend class Work;
   Job(Work& work, JobKind kind);
 
-  /// Null in a job that was moved from.
+  /// Null in a job that has ended or was moved from.
   Work* work_;
   JobKind kind_;
   bool isShown_ = false;

@@ -366,7 +366,7 @@ TEST_F(StartUpTest, WhatShutdownSavedStartUpRestores) {
   Shutdown(state_, store_, boxes_, windows, conditions_.locale).Form_Unload();
 
   ProgramState again;
-  StartUp(again, store_, boxes_, view_, extraction_).Form_Load(conditions_);
+  startOf(again);
   EXPECT_EQ(again.NickName, QStringLiteral("Ann"));
   EXPECT_EQ(again.JoinDate, 38306);
   EXPECT_EQ(again.OnlineSourceCount, 1);

@@ -67,11 +67,11 @@ class LoggingStore : public MemorySettingsStore {
   StartUpLog& log_;
 };
 
-class RecordingExtraction : public ArchiveExtraction {
+class RecordingExtraction {
  public:
   explicit RecordingExtraction(StartUpLog& log) : log_(log) {}
 
-  void extractArchive(const QString& archivePath, const QString& targetFolder) override {
+  void extractArchive(const QString& archivePath, const QString& targetFolder) {
     log_ += QStringLiteral("extract");
     archivePaths += archivePath;
     targetFolders += targetFolder;
@@ -97,7 +97,12 @@ class StartUpTest : public testing::Test {
     conditions_.pathStyle = kUnixPaths;
   }
 
-  void start() { StartUp(state_, store_, boxes_, view_, extraction_).Form_Load(conditions_); }
+  void start() { startOf(state_); }
+  void startOf(ProgramState& state) {
+    StartUp(state, store_, boxes_, view_, [this](const QString& archivePath, const QString& targetFolder) {
+      extraction_.extractArchive(archivePath, targetFolder);
+    }).Form_Load(conditions_);
+  }
 
   void startWithCommandLine(const QString& commandLine, PathStyle style) {
     conditions_.commandLine = commandLine;

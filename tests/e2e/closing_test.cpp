@@ -1,4 +1,5 @@
 // Closing the real program while it works.
+#include "archive/archive_maker.h"
 #include "e2e/running_program.h"
 #include "e2e/source_records.h"
 #include "support/listing_lines.h"
@@ -112,6 +113,33 @@ TEST_F(ClosingAtWork, ARefreshEndsAtOnceAndLeavesWholeListings) {
       EXPECT_EQ(name, nameOf(newListings + 1) + QStringLiteral(".tmp"));
     }
   }
+}
+
+TEST_F(ClosingAtWork, TheUnpackingAtStartUpEndsAndEverythingIsSaved) {
+  constexpr int kParts = 40'000;
+  std::vector<MadeEntry> entries(kParts);
+  for (int number = 1; number <= kParts; ++number) {
+    MadeEntry& entry = entries[static_cast<std::size_t>(number - 1)];
+    entry.name = "parts/" + QByteArray::number(number) + ".txt";
+    entry.content = "x";
+  }
+  MadeEntry last;
+  last.name = "main.txt";
+  last.content = "content";
+  entries.push_back(last);
+  home_.folder.writeFile(QStringLiteral("data/main.zip"), archiveOf(entries));
+  ASSERT_TRUE(QFile::remove(home_.folder.pathOf(QStringLiteral("data/main.txt"))));
+  home_.folder.writeFile(QStringLiteral("settings.ini"),
+                         home_.settings().toUtf8() + "ArchiveFile=main.zip\n");
+
+  RunningProgram program(desktop_, home_);
+  waitUntil(QStringLiteral("for the unpacking to be at work"),
+            [&] { return namesIn(QStringLiteral("data/parts")).size() >= 20; });
+  expectCleanAndSoon(program);
+  EXPECT_LT(namesIn(QStringLiteral("data/parts")).size(), kParts);
+  EXPECT_FALSE(home_.hasData(QStringLiteral("main.txt")));
+  EXPECT_TRUE(home_.hasData(QStringLiteral("Locations.txt")));
+  EXPECT_TRUE(home_.hasData(QStringLiteral("OfflineLocations.txt")));
 }
 
 }  // namespace

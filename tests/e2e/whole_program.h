@@ -23,13 +23,16 @@ class WholeProgram {
       : locale_(QLocale::English, QLocale::UnitedStates),
         settings_(settingsPath),
         form(state, messages, shell_, locale_),
-        shutdown_(state, settings_, messages, form, locale_) {
+        shutdown_(state, settings_, messages, form.frame(), locale_) {
     StartUpConditions conditions;
     conditions.programFolder = [programFolder] { return programFolder; };
     conditions.now = 38001.5;
     conditions.locale = locale_;
-    StartUp(state, settings_, messages, form, form.dataFileExtraction()).Form_Load(conditions);
     form.setUnloadHandler([this] { shutdown_.Form_Unload(); });
+    const auto extract = [this](const QString& archivePath, const QString& targetFolder) {
+      form.jobs().extractDataFile(archivePath, targetFolder);
+    };
+    StartUp(state, settings_, messages, form.frame(), extract).Form_Load(conditions);
     form.sourcesChanged();
     form.show();
     form.activateWindow();

@@ -33,14 +33,6 @@ class PlacedWindow : public StartUpView, public ShutdownView {
                                          {PlacementKey::Height, 6000}};
 };
 
-/// There is never only an archive.
-class NoArchive : public ArchiveExtraction {
- public:
-  void extractArchive(const QString& archivePath, const QString&) override {
-    throw std::logic_error("nothing unpacks " + archivePath.toStdString());
-  }
-};
-
 /// Starts up when it is made.
 class WindowlessProgram {
  public:
@@ -51,8 +43,11 @@ class WindowlessProgram {
     conditions.programFolder = [] { return QStringLiteral("/nowhere/"); };
     conditions.now = 38001.5;
     conditions.locale = locale_;
-    NoArchive noArchive;
-    StartUp(state, settings_, messages, window, noArchive).Form_Load(conditions);
+    // There is never only an archive.
+    const auto neverExtract = [](const QString& archivePath, const QString&) {
+      throw std::logic_error("nothing unpacks " + archivePath.toStdString());
+    };
+    StartUp(state, settings_, messages, window, neverExtract).Form_Load(conditions);
   }
 
   void setOnline(const SourceRecords& records) {

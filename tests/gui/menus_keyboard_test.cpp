@@ -82,7 +82,7 @@ TEST_F(MenuKeys, LettersReachTheItemsThatHaveOne) {
 
 TEST_F(MenuKeys, SharingIsSwitchedOnAndOff) {
   // Any free port, which only this machine can reach.
-  form().network().setListenerPlace(QHostAddress::LocalHost, 0);
+  form().jobs().setListenerPlace(QHostAddress::LocalHost, 0);
   chooseByLetters(Qt::Key_P, Qt::Key_S);
   ASSERT_EQ(messages_.informed.size(), 1U);
   EXPECT_TRUE(messages_.informed[0].startsWith(QStringLiteral("Your lists are shared on port ")))
@@ -95,7 +95,7 @@ TEST_F(MenuKeys, SharingIsSwitchedOnAndOff) {
 TEST_F(MenuKeys, SharingThatIsRefusedLeavesTheItemUnchecked) {
   QTcpServer other;
   ASSERT_TRUE(other.listen(QHostAddress::LocalHost));
-  form().network().setListenerPlace(QHostAddress::LocalHost, other.serverPort());
+  form().jobs().setListenerPlace(QHostAddress::LocalHost, other.serverPort());
   chooseByLetters(Qt::Key_P, Qt::Key_S);
   ASSERT_EQ(messages_.informed.size(), 1U);
   EXPECT_TRUE(messages_.informed[0].startsWith(QStringLiteral("Your lists are not shared")))

@@ -31,7 +31,7 @@ class SearchFormTest : public testing::Test {
     if (form_) return *form_;
     form_ = std::make_unique<SearchForm>(state_, messages_, shell_,
                                          QLocale(QLocale::English, QLocale::UnitedStates), images_);
-    shutdown_ = std::make_unique<Shutdown>(state_, settings_, messages_, *form_,
+    shutdown_ = std::make_unique<Shutdown>(state_, settings_, messages_, form_->frame(),
                                            QLocale(QLocale::English, QLocale::UnitedStates));
     form_->setUnloadHandler([this] { shutdown_->Form_Unload(); });
     form_->show();

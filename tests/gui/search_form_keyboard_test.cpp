@@ -38,7 +38,7 @@ class MainWindowKeys : public SearchFormTest {
 };
 
 TEST_F(MainWindowKeys, TabReachesEveryControlAndComesBack) {
-  form().setWebUpdateEnabled(true);
+  form().frame().setWebUpdateEnabled(true);
   EXPECT_EQ(tabStops().toStdString(), "SearchStr DesMatch Find WebUpdate HitList");
 }
 
@@ -146,7 +146,7 @@ TEST_F(MainWindowKeys, SeveralHitsAreSelectedAndTheirPathsCopied) {
 TEST_F(MainWindowKeys, TheWebUpdateIsStarted) {
   state_.WebServer = QStringLiteral("127.0.0.1:1");
   state_.ArchiveFile = QStringLiteral("main.zip");
-  form().setWebUpdateEnabled(true);
+  form().frame().setWebUpdateEnabled(true);
   tabTo("WebUpdate");
   press(Qt::Key_Space);
   ASSERT_EQ(messages_.informed.size(), 1U);

@@ -100,36 +100,36 @@ TEST_F(WindowLayout, AWidenedFixedColumnIsKeptAndTheNextResizeShrinksTheOthers) 
 TEST_F(WindowLayout, IsNeverSmallerThanTheLeastSize) {
   form().resize(50, 40);
   QTest::qWait(0);
-  EXPECT_EQ(form().placement(PlacementKey::Width), 3000.0F);
-  EXPECT_EQ(form().placement(PlacementKey::Height), 1500.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Width), 3000.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Height), 1500.0F);
 }
 
 TEST_F(WindowLayout, AWindowTooLowAloneKeepsItsWidth) {
   form().resize(700, 40);
   QTest::qWait(0);
   EXPECT_EQ(form().width(), 700);
-  EXPECT_EQ(form().placement(PlacementKey::Height), 1500.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Height), 1500.0F);
   EXPECT_EQ(controls().HitList->width(), 700);
 }
 
 TEST_F(WindowLayout, AWindowTooNarrowAloneKeepsItsHeight) {
   form().resize(50, 500);
   QTest::qWait(0);
-  EXPECT_EQ(form().placement(PlacementKey::Width), 3000.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Width), 3000.0F);
   EXPECT_EQ(form().height(), 500);
   EXPECT_EQ(controls().HitList->geometry().bottom() + 1, form().centralWidget()->height());
 }
 
 TEST_F(WindowLayout, APlacementBelowTheLeastSizeGivesTheLeastSize) {
-  form().setPlacement(PlacementKey::Width, 2985);
-  form().setPlacement(PlacementKey::Height, 1485);
+  form().frame().setPlacement(PlacementKey::Width, 2985);
+  form().frame().setPlacement(PlacementKey::Height, 1485);
   QTest::qWait(0);
   EXPECT_EQ(form().frameGeometry().size(), QSize(200, 100));
 }
 
 TEST_F(WindowLayout, TheLeastSizeIsLaidOut) {
-  form().setPlacement(PlacementKey::Width, 3000);
-  form().setPlacement(PlacementKey::Height, 1500);
+  form().frame().setPlacement(PlacementKey::Width, 3000);
+  form().frame().setPlacement(PlacementKey::Height, 1500);
   QTest::qWait(0);
   ASSERT_EQ(form().frameGeometry().size(), QSize(200, 100));
   EXPECT_EQ(controls().SearchStr->x() + controls().SearchStr->width(), form().centralWidget()->width());
@@ -182,21 +182,21 @@ TEST_F(WindowLayout, MinimizingAndRestoringKeepsTheLayout) {
 }
 
 TEST_F(WindowLayout, PlacementIsInTwips) {
-  form().setPlacement(PlacementKey::Top, 300);
-  form().setPlacement(PlacementKey::Left, 450);
-  form().setPlacement(PlacementKey::Width, 12000);
-  form().setPlacement(PlacementKey::Height, 9000);
+  form().frame().setPlacement(PlacementKey::Top, 300);
+  form().frame().setPlacement(PlacementKey::Left, 450);
+  form().frame().setPlacement(PlacementKey::Width, 12000);
+  form().frame().setPlacement(PlacementKey::Height, 9000);
   EXPECT_EQ(form().frameGeometry(), QRect(30, 20, 800, 600));
-  EXPECT_EQ(form().placement(PlacementKey::Top), 300.0F);
-  EXPECT_EQ(form().placement(PlacementKey::Left), 450.0F);
-  EXPECT_EQ(form().placement(PlacementKey::Width), 12000.0F);
-  EXPECT_EQ(form().placement(PlacementKey::Height), 9000.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Top), 300.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Left), 450.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Width), 12000.0F);
+  EXPECT_EQ(form().frame().placement(PlacementKey::Height), 9000.0F);
 }
 
 TEST_F(WindowLayout, APlaceOnNoScreenIsLeftWhenTheWindowIsShown) {
   SearchForm lost(state_, messages_, shell_, QLocale::c());
-  lost.setPlacement(PlacementKey::Top, 900000);
-  lost.setPlacement(PlacementKey::Left, -900000);
+  lost.frame().setPlacement(PlacementKey::Top, 900000);
+  lost.frame().setPlacement(PlacementKey::Left, -900000);
   lost.show();
   EXPECT_TRUE(lost.screen()->availableGeometry().intersects(lost.frameGeometry()));
 }

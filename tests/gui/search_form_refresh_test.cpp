@@ -191,7 +191,7 @@ TEST_F(WindowRefresh, ARefreshWithinARefreshDoesNothing) {
   bool triedWhileRunning = false;
   whileInSource(1, [&] {
     triedWhileRunning = state_.RescanRunning;
-    form().startRefresh();
+    form().jobs().startRefresh();
     EXPECT_TRUE(state_.RescanRunning);
     EXPECT_FALSE(form().menus().ReScan->isEnabled());
   });

@@ -47,7 +47,7 @@ TEST_F(MainWindow, FocusStartsInTheSearchText) {
 }
 
 TEST_F(MainWindow, TabGoesFromTheSearchTextToTheHits) {
-  form().setWebUpdateEnabled(true);
+  form().frame().setWebUpdateEnabled(true);
   const std::vector<QWidget*> order = {controls().DesMatch, controls().Find, controls().WebUpdate,
                                        controls().HitList, controls().SearchStr};
   for (QWidget* next : order) {
@@ -100,14 +100,14 @@ TEST_F(MainWindow, QuitClosesTheWindow) {
 
 TEST_F(MainWindow, WebUpdateIsDisabledUntilStartUpEnablesIt) {
   EXPECT_FALSE(controls().WebUpdate->isEnabled());
-  form().setWebUpdateEnabled(true);
+  form().frame().setWebUpdateEnabled(true);
   EXPECT_TRUE(controls().WebUpdate->isEnabled());
 }
 
 TEST_F(MainWindow, AnUpdateFromAServerThatIsNotThereIsToldAndEnds) {
   state_.WebServer = QStringLiteral("127.0.0.1:1");
   state_.ArchiveFile = QStringLiteral("main.zip");
-  form().setWebUpdateEnabled(true);
+  form().frame().setWebUpdateEnabled(true);
   QTest::mouseClick(controls().WebUpdate, Qt::LeftButton);
   ASSERT_EQ(messages_.informed.size(), 1U);
   EXPECT_TRUE(messages_.informed[0].contains(QStringLiteral(": Could not get an update.")))

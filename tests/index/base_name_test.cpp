@@ -1,5 +1,4 @@
-#include "index/base_name.h"
-
+#include "index/dir_io.h"
 #include "support/qt_printing.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,6 @@
-#include "index/line_output.h"
-
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
+#include "index/dir_io.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

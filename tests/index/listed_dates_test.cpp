@@ -1,6 +1,5 @@
-#include "index/listed_dates.h"
-
 #include "dates/general_date.h"
+#include "index/entry_line.h"
 #include "support/qt_printing.h"
 #include "support/time_zone.h"
 

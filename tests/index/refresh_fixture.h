@@ -2,9 +2,9 @@
 #pragma once
 
 #include "index/local_list_refresh.h"
+#include "index/recording_index_display.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
-#include "support/recording_refresh_view.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -28,15 +28,28 @@ class RefreshTest : public testing::Test {
     state.OnlineSources.set(++state.OnlineSourceCount, description, folder);
   }
 
-  void refresh() { refreshLocalLists(state, view, messages, QLocale::c(), QStringLiteral("Ver:2.5(64)")); }
+  /// Refreshes and shows what came of it, as the window does; nothing while a refresh is running.
+  void refresh() {
+    std::optional<Job> job = work.start(JobKind::Refresh);
+    if (!job) return;
+    refreshed = refreshLocalLists(state, *job, messages, QLocale::c(), QStringLiteral("Ver:2.5(64)"));
+    job.reset();
+    if (!refreshed.fault.isEmpty()) messages.inform(refreshed.fault);
+    if (refreshed.errorLog.isEmpty()) return;
+    view.steps += QStringLiteral("log");
+    view.logs += refreshed.errorLog;
+  }
 
   bool isListed(const QString& listing, const QByteArray& file) const {
     return data.readFile(listing).contains("\r\n" + file + ' ');
   }
 
   ProgramState state;
-  RecordingRefreshView view;
+  RecordingIndexDisplay view;
+  Work work{state, view};
   RecordingMessageBoxes messages;
+  /// Of the last refresh.
+  RefreshOutcome refreshed;
   TemporaryFolder data;
   TemporaryFolder folders;
 

@@ -41,11 +41,14 @@ class RoundTrip : public testing::TestWithParam<const char*> {
       folders.targets[std::string("/Müsic/") + file.name] = file.status;
     }
     ProgramState state;
-    test::RecordingRefreshView view;
+    test::RecordingIndexDisplay view;
+    Work work(state, view);
+    std::optional<Job> job = work.start(JobKind::Refresh);
+    IndexProgress progress(*job, locale);
     RecordingMessageBoxes messages;
     TemporaryFolder out;
     FileAside listing(out.pathOf(u"listing"_qs));
-    DirIO dirIO(state, folders, view, messages, locale, kUnixPaths);
+    DirIO dirIO(state, folders, progress, messages, locale, kUnixPaths);
     QString path = u"/Müsic/"_qs;
     dirIO.walk(path, u"*.*"_qs, {&listing.writer(), nullptr}, u"DATA 1"_qs, kToOutput1);
     listing.commit();

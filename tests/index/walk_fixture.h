@@ -3,10 +3,10 @@
 
 #include "files/file_aside.h"
 #include "index/dir_io.h"
+#include "index/recording_index_display.h"
 #include "support/fake_folders.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
-#include "support/recording_refresh_view.h"
 #include "support/temporary_folder.h"
 #include "support/time_zone.h"
 
@@ -33,7 +33,9 @@ class WalkTest : public testing::Test {
   QByteArray walk(FolderReader& folders, QString path, PathStyle style, int flags = kToOutput1,
                   const QString& pattern = QStringLiteral("*.*")) {
     const TimeZone zone(kUtc);
-    DirIO dirIO(state, folders, view, messages, QLocale::c(), style);
+    std::optional<Job> job = work.start(JobKind::Refresh);
+    IndexProgress progress(*job, QLocale::c());
+    DirIO dirIO(state, folders, progress, messages, QLocale::c(), style);
     FileAside listing(out_.pathOf(QStringLiteral("listing")));
     topOpened = dirIO.walk(path, pattern, {&listing.writer(), nullptr}, QStringLiteral("DATA1"), flags);
     listing.commit();
@@ -53,7 +55,8 @@ class WalkTest : public testing::Test {
   QByteArray listed(const QString& path) { return listedFolder(path, nativePathStyle()).toUtf8(); }
 
   ProgramState state;
-  RecordingRefreshView view;
+  RecordingIndexDisplay view;
+  Work work{state, view};
   RecordingMessageBoxes messages;
   TemporaryFolder tree;
   bool topOpened = false;

@@ -126,6 +126,27 @@ TEST(SourceTree, TestsCheckWithGoogleTestAlone) {
   EXPECT_GT(tests, 100U);
 }
 
+/// The text without remarks.
+std::string codeOf(const std::string& text) {
+  static const std::regex remark("//[^\n]*");
+  return std::regex_replace(text, remark, "");
+}
+
+TEST(SourceTree, TheFlagsOfLongJobsBelongToTheirOwners) {
+  const std::regex flag("\\b(AbortRequested|RescanAbort|RescanRunning|QuitPending|ShuttingDown)\\b");
+  const std::set<std::string> owners = {"src/state/program_state.h", "src/search/search_run.cpp",
+                                        "src/app/shutdown.cpp"};
+  int named = 0;
+  for (const SourceFile& file : programFiles()) {
+    if (!std::regex_search(codeOf(file.text), flag)) continue;
+    ++named;
+    EXPECT_TRUE(file.path.starts_with("src/work/") || owners.contains(file.path))
+        << file.path
+        << " reads or writes a flag of long jobs; ask the job or Work instead (src/work/work.h).";
+  }
+  EXPECT_GE(named, 5) << "the flags were not found";
+}
+
 TEST(SourceTree, EveryHeaderIsIncludedOnceOnly) {
   for (const SourceFile& file : codeFiles()) {
     if (!file.path.ends_with(".h")) continue;

@@ -26,11 +26,15 @@ class PeerOfferTest : public testing::Test {
   }
   bool offer(bool answer = true) {
     program_.messages.answers = {answer};
-    return offerReceivedLists(outcome_, program_.state, program_.messages,
+    return offerReceivedLists(outcome_, program_.state, job(), program_.messages,
                               [this](const QString& archive, const QString& folder) {
                                 unpack(archive, folder);
                                 return true;
                               });
+  }
+  Job& job() {
+    if (!job_) job_.emplace(*program_.work.start(JobKind::Unpacking));
+    return *job_;
   }
   QString path(const QString& name) const {
     return program_.folder.pathOf(QStringLiteral("Received/nas/") + name);
@@ -42,6 +46,8 @@ class PeerOfferTest : public testing::Test {
   PeerOutcome outcome_{QStringLiteral("nas"), {}, {}, false};
 
  private:
+  std::optional<Job> job_;
+
   void unpack(const QString& archive, const QString& folder) {
     QFile file(archive);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -167,7 +173,7 @@ TEST_F(PeerOfferTest, LinksInAnUnpackedFolderAreNoLists) {
   receive(QStringLiteral("Music"), {QStringLiteral("a.txt")});
   program_.messages.answers = {true};
   EXPECT_FALSE(offerReceivedLists(
-      outcome_, program_.state, program_.messages, [](const QString&, const QString& folder) {
+      outcome_, program_.state, job(), program_.messages, [](const QString&, const QString& folder) {
         return QFile::link(QStringLiteral("/etc/passwd"), folder + QStringLiteral("p.txt"));
       }));
   EXPECT_EQ(program_.state.OfflineSourceCount, 0);
@@ -177,7 +183,7 @@ TEST_F(PeerOfferTest, AnUnpackingThatTheUserEndsLeavesNothingOfItsListAndSkipsTh
   receive(QStringLiteral("Music"), {QStringLiteral("a.txt")});
   receive(QStringLiteral("Talks"), {QStringLiteral("b.txt")});
   program_.messages.answers = {true};
-  EXPECT_FALSE(offerReceivedLists(outcome_, program_.state, program_.messages,
+  EXPECT_FALSE(offerReceivedLists(outcome_, program_.state, job(), program_.messages,
                                   [](const QString&, const QString& folder) {
                                     QFile(folder + QStringLiteral("half.txt")).open(QIODevice::WriteOnly);
                                     return false;

@@ -45,11 +45,8 @@ class PeerSharingTest : public testing::Test {
   std::string told(std::size_t index) const { return program_.messages.informed.at(index).toStdString(); }
 
   PeerProgram program_;
-  std::function<void()> onEvents_;
-  ListSharing sharing_{program_.state, program_.messages, QLocale::c(), [this] {
-                         QCoreApplication::processEvents();
-                         if (onEvents_) onEvents_();
-                       }};
+  std::function<void()>& onEvents_ = program_.display.onEvents;
+  ListSharing sharing_{program_.state, program_.work, program_.messages, QLocale::c()};
 };
 
 TEST_F(PeerSharingTest, IsOffAtFirst) {
@@ -180,7 +177,7 @@ TEST_F(PeerSharingTest, StoppingWhileAnArchiveIsMadeEndsThat) {
   EXPECT_FALSE(start());
   EXPECT_EQ(archives(), QStringList());
   EXPECT_TRUE(program_.messages.informed.empty());
-  EXPECT_FALSE(sharing_.isPacking());
+  EXPECT_FALSE(program_.work.isRunning(JobKind::Packing));
 }
 
 TEST_F(PeerSharingTest, AClosingProgramStopsMakingArchivesAndTellsNothing) {
@@ -189,6 +186,20 @@ TEST_F(PeerSharingTest, AClosingProgramStopsMakingArchivesAndTellsNothing) {
   start();
   EXPECT_EQ(archives(), QStringList());
   EXPECT_TRUE(program_.messages.informed.empty());
+}
+
+TEST_F(PeerSharingTest, ArchivesWaitForAnUpdateAndTheAddressIsToldAtOnce) {
+  program_.addListedSource(QStringLiteral("Music"), "x");
+  program_.work.run(JobKind::Update, [this](Job&) {
+    EXPECT_TRUE(start());
+    ASSERT_EQ(program_.messages.informed.size(), 1U);
+    EXPECT_TRUE(program_.messages.informed[0].startsWith(QStringLiteral("Your lists are shared on port ")));
+    EXPECT_TRUE(program_.messages.informed[0].endsWith(
+        QStringLiteral("\r\n\r\nThey are packed when the running work has ended.")));
+    EXPECT_EQ(archives(), QStringList());
+  });
+  EXPECT_EQ(archives(), QStringList{QStringLiteral("Music.zip")});
+  EXPECT_EQ(program_.messages.informed.size(), 1U);
 }
 
 TEST_F(PeerSharingTest, ARefreshWhileArchivesAreMadeHasThemMadeOnceMore) {

@@ -1,7 +1,6 @@
 // Two programs, each with its own state and folder, that exchange lists.
 #include "peers/peer_exchange.h"
 
-#include "peers/client/peer_unpacking.h"
 #include "peers/peer_program.h"
 #include "peers/scripted_server.h"
 #include "search/hit_table.h"
@@ -21,33 +20,9 @@ namespace {
 
 using testing::HasSubstr;
 
-/// Stands for the `Progress` window while archives are unpacked; `onEvents` for what the user does meanwhile.
-class UnpackingView : public ArchiveView {
- public:
-  void showMainWindow() override {}
-  void showProgress() override { ++showings; }
-  void unloadProgress() override { ++unloadings; }
-  void setStatus(const QString& text) override { status = text; }
-  void setBarMaximum(std::int32_t) override {}
-  void setBar(std::int32_t) override {}
-  void processEvents() override {
-    QCoreApplication::processEvents();
-    if (onEvents) onEvents();
-  }
-  bool endRequested() const override { return false; }
-
-  int showings = 0;
-  int unloadings = 0;
-  QString status;
-  std::function<void()> onEvents;
-};
-
 /// A whole program, but for its windows.
 struct ExchangingProgram : PeerProgram {
-  ExchangingProgram()
-      : exchange(state, messages, QLocale::c(),
-                 {[] { QCoreApplication::processEvents(); }, unpackingShownIn(state, unpacking),
-                  [this] { return mayAsk; }}) {
+  ExchangingProgram() : exchange(state, work, messages, QLocale::c(), [this] { return mayAsk; }) {
     QObject::connect(&exchange, &PeerExchange::gettingBegan, &exchange, [this] { ++begins; });
     QObject::connect(&exchange, &PeerExchange::gettingEnded, &exchange, [this] { ++ends; });
     QObject::connect(&exchange, &PeerExchange::offlineSourcesAdded, &exchange, [this] { ++additions; });
@@ -64,7 +39,6 @@ struct ExchangingProgram : PeerProgram {
     return names;
   }
 
-  UnpackingView unpacking;
   bool mayAsk = true;
   int begins = 0;
   int ends = 0;
@@ -164,17 +138,38 @@ TEST_F(PeerExchangeTest, UnpackingIsShownAndMayBeCancelled) {
   server_.addListedSource(QStringLiteral("Long"), longListing(20, "x"));
   const quint16 port = share();
   client_.messages.answers = {true};
-  client_.unpacking.onEvents = [this] { client_.state.AbortRequested = true; };
+  client_.display.onEvents = [this] { client_.state.AbortRequested = true; };
   client_.getFrom(port);
   ASSERT_TRUE(eventually([&] { return !client_.messages.informed.empty(); }));
   EXPECT_EQ(client_.messages.informed[0],
             QStringLiteral("1 list was left out, since unpacking was cancelled. "
                            "The archives stay in the folder."));
-  EXPECT_EQ(client_.unpacking.status, QStringLiteral("Unpacking Long.zip"));
-  EXPECT_EQ(client_.unpacking.showings, 1);
-  EXPECT_EQ(client_.unpacking.unloadings, 1);
+  EXPECT_EQ(client_.display.status, QStringLiteral("Unpacking Long.zip"));
+  EXPECT_EQ(client_.display.log.count(QStringLiteral("progress shown")), 1);
+  EXPECT_EQ(client_.display.log.count(QStringLiteral("progress unloaded")), 1);
   EXPECT_FALSE(client_.state.AbortRequested);
   EXPECT_EQ(client_.state.OfflineSourceCount, 0);
+}
+
+TEST_F(PeerExchangeTest, ReceivedListsWaitForSearchRefreshAndUpdate) {
+  server_.addListedSource(QStringLiteral("Music"), "x");
+  const quint16 port = share();
+  client_.messages.answers = {true};
+  std::optional<Job> refresh = client_.work.start(JobKind::Refresh);
+  std::optional<Job> search = client_.work.start(JobKind::Search);
+  ASSERT_TRUE(refresh && search);
+  client_.getFrom(port);
+  ASSERT_TRUE(eventually([&] { return client_.ends == 1; }));
+  QTest::qWait(500);
+  search.reset();
+  QTest::qWait(500);
+  EXPECT_TRUE(client_.messages.asked.empty());
+  client_.getFrom(port);
+  EXPECT_EQ(client_.messages.informed,
+            std::vector<QString>{QStringLiteral("Lists are already being received.")});
+  refresh.reset();
+  ASSERT_TRUE(eventually([&] { return client_.additions == 1; }));
+  EXPECT_FALSE(client_.work.isRunning(JobKind::Getting));
 }
 
 TEST_F(PeerExchangeTest, TheUserIsNotAskedWhileADialogIsOpen) {

@@ -8,7 +8,9 @@
 #include "support/eventually.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
+#include "support/recording_work_display.h"
 #include "support/temporary_folder.h"
+#include "work/work.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -19,6 +21,15 @@
 #include <stdexcept>
 
 namespace quorvin::test {
+
+/// Events really run, and then `onEvents`.
+class LiveWorkDisplay : public RecordingWorkDisplay {
+ public:
+  void processEvents() override {
+    QCoreApplication::processEvents();
+    RecordingWorkDisplay::processEvents();
+  }
+};
 
 /// Bob, who joined on a day without a time: number 37622.
 struct PeerProgram {
@@ -44,6 +55,8 @@ struct PeerProgram {
 
   TemporaryFolder folder;
   ProgramState state;
+  LiveWorkDisplay display;
+  Work work{state, display};
   RecordingMessageBoxes messages;
 };
 
@@ -58,7 +71,7 @@ inline QByteArray smallArchive(const QByteArray& text = "a listing") {
 /// A program that gets lists.
 struct GettingProgram : PeerProgram {
   explicit GettingProgram(const PeerClientLimits& limits = {})
-      : timer(state, queue), client(state, queue, timer, QLocale::c(), limits) {
+      : timer(work, queue), client(state, queue, timer, QLocale::c(), limits) {
     QObject::connect(&client, &PeerClient::ended, &client, [this](const PeerOutcome& it) { outcome = it; });
   }
 

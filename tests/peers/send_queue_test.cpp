@@ -77,7 +77,9 @@ class PeerSendTimerTest : public testing::Test {
 
   ProgramState state_;
   SendQueue queue_;
-  SendTimer timer_{state_, queue_};
+  RecordingWorkDisplay display_;
+  Work work_{state_, display_};
+  SendTimer timer_{work_, queue_};
   std::vector<QByteArray> sent_;
   int quits_ = 0;
 };

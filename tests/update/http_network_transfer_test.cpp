@@ -72,6 +72,25 @@ TEST_F(HttpNetworkTransferTest, GivesALargeBodyToASlowReader) {
   EXPECT_EQ(received, body);
 }
 
+TEST_F(HttpNetworkTransferTest, AReaderThatIsKeptAwayIsNotTheServersSilence) {
+  const QByteArray body = bodyOf(3 << 20);
+  server_.emplace(std::vector{sends(goodAnswer(body))});
+  HttpNetworkTransfer transfer(shortLimits());
+  transfer.execute(server_->address());
+  ASSERT_TRUE(eventually([&] { return !transfer.stillExecuting(); }));
+  QElapsedTimer pause;
+  pause.start();
+  eventually([&] { return pause.hasExpired(3 * shortLimits().silence.count()); });
+  QByteArray received;
+  while (true) {
+    ASSERT_TRUE(eventually([&] { return transfer.chunkIsReady(1024); }));
+    const QByteArray chunk = transfer.chunk(1024);
+    if (chunk.isEmpty()) break;
+    received += chunk;
+  }
+  EXPECT_EQ(received, body);
+}
+
 TEST_F(HttpNetworkTransferTest, CancelClosesTheConnection) {
   server_.emplace(std::vector{sendsForEver(headersOf("Content-Length: 1000000\r\n"), "x", 5)});
   HttpNetworkTransfer transfer;

@@ -3,7 +3,7 @@
 
 #include "support/eventually.h"
 #include "support/qt_printing.h"
-#include "update/http_network_transfer.h"
+#include "update/http_transfer.h"
 #include "update/scripted_web_server.h"
 
 #include <QCoreApplication>

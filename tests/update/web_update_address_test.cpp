@@ -1,6 +1,5 @@
-#include "update/web_update_address.h"
-
 #include "support/qt_printing.h"
+#include "update/web_update_server.h"
 
 #include <gtest/gtest.h>
 

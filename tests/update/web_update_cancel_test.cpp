@@ -25,8 +25,8 @@ class WebUpdateCancel : public WebUpdateTest {
   }
 
   void expectCancelled() const {
-    EXPECT_FALSE(view_.webUpdateEnabled);
-    EXPECT_FALSE(view_.progressShown);
+    EXPECT_FALSE(webUpdateEnabled_);
+    EXPECT_FALSE(view_.isShown);
     EXPECT_FALSE(state_.AbortRequested);
     EXPECT_EQ(log_.mid(log_.size() - 2), QStringList({u"cancel"_qs, u"progress unloaded"_qs}));
     EXPECT_EQ(data_.names(), QStringList());
@@ -73,8 +73,8 @@ TEST_F(WebUpdateCancel, OfTheUnpackingEndsItAndEnablesTheCommand) {
   serve(kDate, archiveOf("main.txt", QByteArray(1 << 20, 'x')));
   view_.onEvents = [this] { state_.AbortRequested = log_.contains(u"status Decompressing..."_qs); };
   click();
-  EXPECT_TRUE(view_.webUpdateEnabled);
-  EXPECT_FALSE(view_.progressShown);
+  EXPECT_TRUE(webUpdateEnabled_);
+  EXPECT_FALSE(view_.isShown);
   EXPECT_FALSE(state_.AbortRequested);
   EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("earlier"));
   EXPECT_EQ(data_.names(), QStringList({u"main.txt"_qs, u"main.zip"_qs}));
@@ -83,7 +83,7 @@ TEST_F(WebUpdateCancel, OfTheUnpackingEndsItAndEnablesTheCommand) {
 
 TEST_F(WebUpdateCancel, ClosingTheWindowWhileHeadersAreAwaitedEndsQuietly) {
   web_.answers[0].pollsUntilHeaders = 1'000'000;
-  view_.onWait = [this] { view_.closed = view_.waits == 10; };
+  view_.onWait = [this] { state_.QuitPending = view_.waits == 10; };
   click();
   EXPECT_EQ(view_.waits, 10);
   EXPECT_THAT(boxes_.informed, IsEmpty());
@@ -95,7 +95,6 @@ TEST_F(WebUpdateCancel, ClosingTheWindowDuringTheDownloadCancelsIt) {
   view_.onEvents = [this] {
     state_.AbortRequested = true;
     state_.QuitPending = true;
-    view_.closed = true;
   };
   click();
   EXPECT_EQ(view_.eventPasses, 1);

@@ -24,7 +24,7 @@ class WebUpdateFailure : public WebUpdateTest {
   /// The failure's message has been shown, and nothing else; the command can be used again.
   void expectFailure(int number) const {
     EXPECT_THAT(boxes_.informed, ElementsAre(QStringLiteral("%1: Could not get an update.").arg(number)));
-    EXPECT_TRUE(view_.webUpdateEnabled);
+    EXPECT_TRUE(webUpdateEnabled_);
     EXPECT_FALSE(view_.pointerIsBusy);
     EXPECT_EQ(log_.last(), u"WebUpdate on"_qs);
   }
@@ -43,7 +43,7 @@ TEST_F(WebUpdateFailure, OfTheDownloadLeavesThePartialArchiveAndProgress) {
   web_.answers[1].failsAt = 3072;
   click();
   expectFailure(62);
-  EXPECT_TRUE(view_.progressShown);
+  EXPECT_TRUE(view_.isShown);
   EXPECT_TRUE(log_.contains(u"progress left"_qs));
   EXPECT_EQ(data_.names(), QStringList{u"main.zip"_qs});
 }
@@ -140,8 +140,7 @@ TEST_F(WebUpdateFailure, OfTheUnpackingsFilesIsToldByItsNumber) {
 
 TEST_F(WebUpdateFailure, IsNotToldWhenTheWindowIsClosed) {
   web_.answers[0].failure = FaultNumber::DeviceError;
-  view_.closed = true;
-  click();
+  click([this] { state_.QuitPending = true; });
   EXPECT_THAT(boxes_.informed, IsEmpty());
 }
 

@@ -4,6 +4,7 @@
 #include "faults/runtime_fault.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
+#include "support/recording_work_display.h"
 #include "support/temporary_folder.h"
 #include "update/web_update.h"
 
@@ -21,52 +22,6 @@ namespace quorvin::test {
 
 /// What is shown and asked for, in order: "WebUpdate off", "GET http://...", "status ...", "bar 1024".
 using UpdateLog = QStringList;
-
-class LoggingUpdateView : public WebUpdateView {
- public:
-  explicit LoggingUpdateView(UpdateLog& log) : log_(log) {}
-
-  void showMainWindow() override { log_ += QStringLiteral("main window"); }
-  void showProgress() override {
-    progressShown = true;
-    log_ += QStringLiteral("progress shown");
-  }
-  void unloadProgress() override {
-    progressShown = false;
-    log_ += QStringLiteral("progress unloaded");
-  }
-  void setStatus(const QString& text) override { log_ += QStringLiteral("status ") + text; }
-  void setBarMaximum(std::int32_t maximum) override { log_ += QStringLiteral("maximum %1").arg(maximum); }
-  void setBar(std::int32_t value) override { log_ += QStringLiteral("bar %1").arg(value); }
-  void processEvents() override {
-    ++eventPasses;
-    if (onEvents) onEvents();
-  }
-  bool endRequested() const override { return closed; }
-  void setWebUpdateEnabled(bool enabled) override {
-    webUpdateEnabled = enabled;
-    log_ += enabled ? QStringLiteral("WebUpdate on") : QStringLiteral("WebUpdate off");
-  }
-  void setBusyPointer(bool busy) override { pointerIsBusy = busy; }
-  void waitForEvents() override {
-    ++waits;
-    if (onWait) onWait();
-  }
-  void leaveProgress() override { log_ += QStringLiteral("progress left"); }
-
-  bool webUpdateEnabled = true;
-  bool progressShown = false;
-  bool pointerIsBusy = false;
-  bool closed = false;
-  int eventPasses = 0;
-  int waits = 0;
-  /// What the user does while events run.
-  std::function<void()> onEvents;
-  std::function<void()> onWait;
-
- private:
-  UpdateLog& log_;
-};
 
 /// An answer of the server.
 struct MadeAnswer {
@@ -135,7 +90,18 @@ class WebUpdateTest : public testing::Test {
     web_.answers = {answer, answer};
   }
 
-  void click() { WebUpdate(state_, view_, boxes_, web_, QLocale::c()).WebUpdate_Click(); }
+  /// `atTheStart` is done when the job has started.
+  void click(const std::function<void()>& atTheStart = [] {}) {
+    const auto enable = [this](bool enabled) {
+      webUpdateEnabled_ = enabled;
+      log_ += enabled ? QStringLiteral("WebUpdate on") : QStringLiteral("WebUpdate off");
+    };
+    const Answer answer = work_.run(JobKind::Update, [&](Job& job) {
+      atTheStart();
+      WebUpdate(state_, job, boxes_, web_, QLocale::c(), enable).WebUpdate_Click();
+    });
+    EXPECT_EQ(answer, Answer::Starts);
+  }
 
   /// The archive of an earlier update, with the date of its file in UTC.
   void haveArchive(const QByteArray& bytes, const QDateTime& modified) const {
@@ -151,10 +117,12 @@ class WebUpdateTest : public testing::Test {
   bool wasOffered() const { return !boxes_.asked.empty(); }
 
   TemporaryFolder data_;
-  UpdateLog log_;
   ProgramState state_;
-  LoggingUpdateView view_{log_};
+  RecordingWorkDisplay view_;
+  Work work_{state_, view_};
+  bool webUpdateEnabled_ = true;
   RecordingMessageBoxes boxes_;
+  UpdateLog& log_ = view_.log;
   MadeTransfer web_{log_};
 };
 

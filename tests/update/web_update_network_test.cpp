@@ -4,9 +4,10 @@
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
 #include "support/temporary_folder.h"
-#include "update/http_network_transfer.h"
-#include "update/progress_display.h"
+#include "update/http_transfer.h"
 #include "update/scripted_web_server.h"
+#include "update/web_update.h"
+#include "work/progress.h"
 
 #include <QPushButton>
 #include <QTimer>
@@ -57,7 +58,10 @@ class WebUpdateNetwork : public testing::Test {
     state_.WebServer = server_->host();
     HttpNetworkTransfer web(limits_);
     const EventLoopWatch watch;
-    WebUpdate(state_, display_, boxes_, web, QLocale::c()).WebUpdate_Click();
+    work_.run(JobKind::Update, [&](Job& job) {
+      const auto enable = [this](bool enabled) { webUpdate_.setEnabled(enabled); };
+      WebUpdate(state_, job, boxes_, web, QLocale::c(), enable).WebUpdate_Click();
+    });
     EXPECT_LT(watch.longestWait(), 300) << "the window did not answer";
   }
 
@@ -113,8 +117,7 @@ class WebUpdateNetwork : public testing::Test {
   QWidget mainWindow_;
   QPushButton webUpdate_{&mainWindow_};
   Progress progress_{state_, &mainWindow_};
-  ProgressDisplay display_{
-      {mainWindow_, webUpdate_, [this]() -> Progress& { return progress_; }, [] { return false; }}};
+  Work work_{state_, progress_};
   HttpLimits limits_;
   std::optional<ScriptedWebServer> server_;
 };

@@ -97,7 +97,7 @@ TEST_F(WebUpdateTest, OneMinuteNewerIsUpToDate) {
   EXPECT_THAT(boxes_.informed, ElementsAre(kUpToDate));
   EXPECT_FALSE(wasOffered());
   EXPECT_EQ(data_.readFile(u"main.zip"_qs), QByteArray("old"));
-  EXPECT_TRUE(view_.webUpdateEnabled);
+  EXPECT_TRUE(webUpdateEnabled_);
 }
 
 TEST_F(WebUpdateTest, TwoMinutesNewerIsOffered) {
@@ -200,7 +200,7 @@ TEST_F(WebUpdateTest, OfNothingIsAnArchiveError) {
   click();
   EXPECT_EQ(boxes_.informed.size(), 1U);
   EXPECT_TRUE(boxes_.informed[0].startsWith(u"Archive Error: "_qs));
-  EXPECT_TRUE(view_.webUpdateEnabled);
+  EXPECT_TRUE(webUpdateEnabled_);
 }
 
 TEST_F(WebUpdateTest, LetsEventsRunWhileHeadersAndChunksAreAwaited) {
@@ -242,7 +242,7 @@ TEST_F(WebUpdateTest, IgnoresARequestToStopThatIsLeftFromBefore) {
   boxes_.answers = {true};
   click();
   EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("new"));
-  EXPECT_TRUE(view_.webUpdateEnabled);
+  EXPECT_TRUE(webUpdateEnabled_);
 }
 
 }  // namespace

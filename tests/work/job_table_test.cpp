@@ -72,7 +72,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Getting, JobKind::Extraction, Answer::Starts},
     Pair{JobKind::Getting, JobKind::Packing, Answer::Starts},
     Pair{JobKind::Getting, JobKind::Getting, Answer::Refused},
-    Pair{JobKind::Getting, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Getting, JobKind::Unpacking, Answer::Starts},
     Pair{JobKind::Getting, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Unpacking, JobKind::Search, Answer::Starts},

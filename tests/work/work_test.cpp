@@ -42,6 +42,18 @@ TEST_F(WorkTest, AJobRunsAsLongAsItsObjectLives) {
   EXPECT_FALSE(work_.isRunning(JobKind::Update));
 }
 
+TEST_F(WorkTest, AJobMayEndBeforeItsObject) {
+  work_.run(JobKind::Refresh, [this](Job& job) {
+    job.show();
+    job.end();
+    EXPECT_FALSE(state_.RescanRunning);
+    EXPECT_FALSE(display_.isShown);
+    // What is told of the first one lets events run, and another may be asked for meanwhile.
+    EXPECT_EQ(ask(JobKind::Refresh, u"second"_qs), Answer::Starts);
+  });
+  EXPECT_EQ(ran_, QStringList(u"second"_qs));
+}
+
 TEST_F(WorkTest, EveryPairFollowsTheTable) {
   for (int running = 0; running < kJobKinds - 1; ++running) {
     const std::optional<Job> job = work_.start(static_cast<JobKind>(running));
@@ -102,12 +114,12 @@ TEST_F(WorkTest, TheStrictestOfTheRunningJobsDecides) {
 }
 
 TEST_F(WorkTest, AJobThatWasStartedAloneWakesTheOthersWhenToldOfItsEnd) {
-  std::optional<Job> getting = work_.start(JobKind::Getting);
-  ask(JobKind::Unpacking, u"unpacking"_qs);
-  getting.reset();
+  std::optional<Job> unpacking = work_.start(JobKind::Unpacking);
+  ask(JobKind::Packing, u"packing"_qs);
+  unpacking.reset();
   EXPECT_EQ(ran_, QStringList());
   work_.wake();
-  EXPECT_EQ(ran_, QStringList(u"unpacking"_qs));
+  EXPECT_EQ(ran_, QStringList(u"packing"_qs));
 }
 
 TEST_F(WorkTest, NothingStartsWhileTheProgramCloses) {

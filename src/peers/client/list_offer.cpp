@@ -1,5 +1,6 @@
 #include "peers/client/list_offer.h"
 
+#include "archive/archive_unpacking.h"
 #include "faults/runtime_fault.h"
 #include "files/path_style.h"
 #include "peers/messages/peer_message.h"
@@ -49,12 +50,12 @@ QString leftOut(std::size_t count) {
 class ListAdder {
  public:
   /// `folder` is where what the peer sends is kept, with a native separator at its end.
-  ListAdder(const QString& peer, const QString& folder, ProgramState& state)
-      : peer_(peer), folder_(folder), state_(state) {}
+  ListAdder(const QString& peer, const QString& folder, ProgramState& state, const Job& job)
+      : peer_(peer), folder_(folder), state_(state), job_(job) {}
 
   /// Up to the end, or until the user ends it or the program closes.
   void addAll(const std::vector<ReceivedList>& lists, const UnpackArchive& unpack) {
-    for (std::size_t i = 0; i < lists.size() && !state_.QuitPending; ++i) {
+    for (std::size_t i = 0; i < lists.size() && !job_.isClosing(); ++i) {
       if (add(lists[i], unpack)) continue;
       problems_ += leftOut(lists.size() - i);
       return;
@@ -143,13 +144,28 @@ class ListAdder {
   QString peer_;
   QString folder_;
   ProgramState& state_;
+  const Job& job_;
   QStringList problems_;
   QSet<int> setRows_;
 };
 
 }  // namespace
 
-bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, MessageBoxes& messages,
+UnpackArchive unpackingIn(Job& job) {
+  return [&job](const QString& archivePath, const QString& targetFolder) {
+    WorkDisplay& display = job.display();
+    display.setStatus(QStringLiteral("Unpacking ") + QFileInfo(archivePath).fileName());
+    display.setBarMaximum(kFullBar);
+    display.setBar(0);
+    const UnpackingResult result = unpackArchive(job, archivePath, targetFolder);
+    if (result.outcome == UnpackingOutcome::Failed) {
+      throw RuntimeFault(FaultNumber::PathFileAccess, result.error);
+    }
+    return result.outcome == UnpackingOutcome::Unpacked;
+  };
+}
+
+bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, Job& job, MessageBoxes& messages,
                         const UnpackArchive& unpack) {
   if (outcome.received.empty()) {
     if (!outcome.isCancelled || !outcome.problems.isEmpty()) tellNothingCame(outcome, messages);
@@ -157,9 +173,14 @@ bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, Message
   }
   if (!messages.askYesNo(question(outcome))) return false;
   const QString folder = withTrailingSeparator(folderOfFirst(outcome), nativePathStyle());
-  ListAdder adder(shownPeerText(outcome.peer), folder, state);
+  ListAdder adder(shownPeerText(outcome.peer), folder, state, job);
+  // A stop request that was left over is not meant for this, nor this one's for what comes after it.
+  job.dropStopRequest();
+  job.show();
   adder.addAll(outcome.received, unpack);
-  if (!adder.problems().isEmpty() && !state.QuitPending) messages.inform(shownProblems(adder.problems()));
+  job.hide();
+  job.dropStopRequest();
+  if (!adder.problems().isEmpty() && !job.isClosing()) messages.inform(shownProblems(adder.problems()));
   return adder.addedCount() > 0;
 }
 

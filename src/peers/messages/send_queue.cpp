@@ -33,8 +33,8 @@ void SendQueue::abandon() {
   replyArrived();
 }
 
-SendTimer::SendTimer(const ProgramState& state, SendQueue& queue, QObject* parent)
-    : QObject(parent), state_(state), queue_(queue) {
+SendTimer::SendTimer(const Work& work, SendQueue& queue, QObject* parent)
+    : QObject(parent), work_(work), queue_(queue) {
   timer_.setObjectName(QStringLiteral("SndQTime"));
   timer_.setInterval(kInterval);
   connect(&timer_, &QTimer::timeout, this, &SendTimer::SndQTime_Timer);
@@ -45,7 +45,7 @@ void SendTimer::enable() {
 }
 
 void SendTimer::SndQTime_Timer() {
-  if (state_.QuitPending) return quitWhenIdle();
+  if (work_.isClosing()) return quitWhenIdle();
   if (queue_.isDrained()) return disable();
   if (queue_.isReplyAwaited()) return;
   const SendQueueEntry& next = queue_.takeNext();
@@ -55,7 +55,7 @@ void SendTimer::SndQTime_Timer() {
 }
 
 void SendTimer::quitWhenIdle() {
-  if (state_.RescanRunning) return;
+  if (work_.isRunning(JobKind::Refresh)) return;
   disable();
   // Last of all: it may end with this object being gone.
   if (quit_) quit_();

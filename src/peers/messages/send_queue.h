@@ -1,7 +1,7 @@
 // What a client has to say to its peer, one message after the other, and the timer that sends it.
 #pragma once
 
-#include "state/program_state.h"
+#include "work/work.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -69,12 +69,13 @@ class SendTimer : public QObject {
  public:
   static constexpr int kInterval = 100;
 
-  /// `state` and `queue` must outlive the timer.
-  SendTimer(const ProgramState& state, SendQueue& queue, QObject* parent = nullptr);
+  /// `work` and `queue` must outlive the timer.
+  SendTimer(const Work& work, SendQueue& queue, QObject* parent = nullptr);
 
   /// What sends a message to the peer.
   void setSender(std::function<void(const QByteArray&)> send) { send_ = std::move(send); }
-  /// Called once `QuitPending` is set and no refresh is running: unloads the windows and closes the program.
+  /// Called once the program is closing and no refresh is running: unloads the windows and closes the
+  /// program.
   void setQuit(std::function<void()> quit) { quit_ = std::move(quit); }
 
   /// Ticks from now on; a timer that ticks already keeps its pace.
@@ -86,7 +87,7 @@ class SendTimer : public QObject {
   void SndQTime_Timer();
   void quitWhenIdle();
 
-  const ProgramState& state_;
+  const Work& work_;
   SendQueue& queue_;
   QTimer timer_;
   std::function<void(const QByteArray&)> send_;

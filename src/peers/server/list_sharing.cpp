@@ -35,13 +35,9 @@ QStringList ownNetworkAddresses() {
 
 }  // namespace
 
-ListSharing::ListSharing(const ProgramState& state, MessageBoxes& messages, const QLocale& locale,
-                         std::function<void()> processEvents, PeerServerLimits limits, QObject* parent)
-    : QObject(parent),
-      state_(state),
-      messages_(messages),
-      processEvents_(std::move(processEvents)),
-      server_(state, locale, limits) {}
+ListSharing::ListSharing(const ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
+                         PeerServerLimits limits, QObject* parent)
+    : QObject(parent), state_(state), work_(work), messages_(messages), server_(state, locale, limits) {}
 
 bool ListSharing::start(std::uint16_t port, const QHostAddress& address) {
   if (isSharing()) return true;
@@ -52,8 +48,11 @@ bool ListSharing::start(std::uint16_t port, const QHostAddress& address) {
                      .arg(server_.errorText())));
     return false;
   }
-  const QStringList problems = packAll();
-  if (isSharing()) tell(addressText(), problems);
+  const bool waits = work_.answerTo(JobKind::Packing) == Answer::Waits;
+  if (waits) {
+    tell(addressText() + QStringLiteral("\r\n\r\nThey are packed when the running work has ended."), {});
+  }
+  packAll(!waits);
   return isSharing();
 }
 
@@ -62,33 +61,28 @@ void ListSharing::stop() {
 }
 
 void ListSharing::sourcesRefreshed() {
-  if (!isSharing()) return;
-  const QStringList problems = packAll();
-  if (isSharing() && !problems.isEmpty()) tell(QStringLiteral("Your lists are shared."), problems);
+  if (isSharing()) packAll(false);
 }
 
-/// Events run meanwhile; a call that comes out of them only has it begin again at its end.
-QStringList ListSharing::packAll() {
-  packAgain_ = true;
-  if (isPacking_) return {};
-  isPacking_ = true;
-  QStringList problems;
-  while (std::exchange(packAgain_, false) && !mustStop()) problems = packEach();
-  isPacking_ = false;
-  return problems;
+void ListSharing::packAll(bool tellsAddress) {
+  work_.run(JobKind::Packing, [this, tellsAddress](Job& job) {
+    const QStringList problems = packEach(job);
+    job.end();
+    if (!isSharing()) return;
+    if (tellsAddress) return tell(addressText(), problems);
+    if (!problems.isEmpty()) tell(QStringLiteral("Your lists are shared."), problems);
+  });
 }
 
-QStringList ListSharing::packEach() {
+QStringList ListSharing::packEach(const Job& job) {
   QStringList problems;
   removeUnlisted();
   QSet<QString> packed;
   for (int row = 1; row <= state_.OnlineSourceCount && !mustStop(); ++row) {
     const QString description = state_.OnlineSources.description(row);
-    if (packed.contains(description) ||
-        !QFileInfo(state_.onlineListingPath(state_.OnlineSources.description(row))).isFile())
-      continue;
+    if (packed.contains(description) || !QFileInfo(state_.onlineListingPath(description)).isFile()) continue;
     packed.insert(description);
-    const QString problem = packRow(row);
+    const QString problem = packRow(row, job);
     if (!problem.isEmpty()) problems += problem;
   }
   return problems;
@@ -107,7 +101,7 @@ void ListSharing::removeUnlisted() const {
   }
 }
 
-QString ListSharing::packRow(int row) {
+QString ListSharing::packRow(int row, const Job& job) {
   const QString archive = archivePathOf(state_, row);
   const bool isMainArchive = archive == state_.LocalFolder + state_.ArchiveFile;
   if (isMainArchive || !mayBeReplacedByPacking(archive)) {
@@ -115,9 +109,9 @@ QString ListSharing::packRow(int row) {
   }
   QElapsedTimer sinceEvents;
   sinceEvents.start();
-  const auto pause = [this, &sinceEvents](int) {
+  const auto pause = [this, &job, &sinceEvents](int) {
     if (!sinceEvents.hasExpired(kMillisecondsBetweenEvents)) return false;
-    processEvents_();
+    job.letEventsRun();
     sinceEvents.restart();
     return mustStop();
   };
@@ -130,11 +124,11 @@ QString ListSharing::packRow(int row) {
 }
 
 bool ListSharing::mustStop() const {
-  return !isSharing() || state_.QuitPending;
+  return !isSharing() || work_.isClosing();
 }
 
 void ListSharing::tell(const QString& first, const QStringList& problems) {
-  if (state_.QuitPending) return;
+  if (work_.isClosing()) return;
   if (problems.isEmpty()) return messages_.inform(first);
   messages_.inform(first + QStringLiteral("\r\n\r\nNot all could be packed:\r\n") + shownProblems(problems));
 }

@@ -4,6 +4,7 @@
 #include "peers/server/peer_server.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
+#include "work/work.h"
 
 #include <QHostAddress>
 #include <QLocale>
@@ -12,7 +13,6 @@
 #include <QStringList>
 
 #include <cstdint>
-#include <functional>
 
 namespace quorvin {
 
@@ -24,43 +24,39 @@ class ListSharing : public QObject {
   Q_OBJECT
 
  public:
-  /// `state` and `messages` must outlive the object. `processEvents` lets pending window events run; it is
-  /// called all the time while archives are made.
-  ListSharing(const ProgramState& state, MessageBoxes& messages, const QLocale& locale,
-              std::function<void()> processEvents, PeerServerLimits limits = {}, QObject* parent = nullptr);
+  /// `state`, `work` and `messages` must outlive the object. Making archives is a job of the kind Packing,
+  /// which lets window events run all the time.
+  ListSharing(const ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
+              PeerServerLimits limits = {}, QObject* parent = nullptr);
 
   /// Opens the listener, makes the archives and tells the address and what could not be packed; or tells why
-  /// the port could not be opened. True when sharing is on in the end. Does nothing when it is on already.
+  /// the port could not be opened. Where packing has to wait for another job, that is told with the address,
+  /// at once. True when sharing is on in the end. Does nothing when it is on already.
   bool start(std::uint16_t port = kPeerPort, const QHostAddress& address = QHostAddress::Any);
   /// Nothing is offered any more: the listener and every connection are closed, and the making of archives
   /// ends.
   void stop();
   bool isSharing() const { return server_.isListening(); }
 
-  /// To be called after each refresh: makes the archives anew if sharing is on, and tells what could not be
-  /// packed.
+  /// To be called after each refresh: makes the archives anew if sharing is on, now or when the running job
+  /// has ended, and tells what could not be packed.
   void sourcesRefreshed();
 
-  /// Whether archives are being made at this moment.
-  bool isPacking() const { return isPacking_; }
   const PeerServer& server() const { return server_; }
 
  private:
-  QStringList packAll();
-  QStringList packEach();
+  void packAll(bool tellsAddress);
+  QStringList packEach(const Job& job);
   void removeUnlisted() const;
-  QString packRow(int row);
+  QString packRow(int row, const Job& job);
   bool mustStop() const;
   void tell(const QString& first, const QStringList& problems);
   QString addressText() const;
 
   const ProgramState& state_;
+  Work& work_;
   MessageBoxes& messages_;
-  std::function<void()> processEvents_;
   PeerServer server_;
-  bool isPacking_ = false;
-  /// The listings have changed while they were being packed.
-  bool packAgain_ = false;
 };
 
 }  // namespace quorvin

@@ -1,8 +1,7 @@
 // Getting the main data file out of its archive at start-up.
-#include "update/archive_data_file.h"
-
 #include "archive/archive_maker.h"
 #include "support/fault_number.h"
+#include "update/web_update.h"
 #include "update/web_update_fixture.h"
 
 namespace quorvin::test {
@@ -15,27 +14,28 @@ class DataFileExtractionTest : public testing::Test {
  protected:
   void extract(const QByteArray& archive) {
     const QString path = data_.writeFile(u"main.zip"_qs, archive);
-    DataFileExtraction(state_, view_, boxes_).extractArchive(path, data_.path());
+    std::optional<Job> job = work_.start(JobKind::Extraction);
+    ASSERT_TRUE(job);
+    extractDataFile(*job, path, data_.path(), boxes_);
   }
 
   TemporaryFolder data_;
-  UpdateLog log_;
   ProgramState state_;
-  LoggingUpdateView view_{log_};
+  RecordingWorkDisplay view_;
+  Work work_{state_, view_};
   RecordingMessageBoxes boxes_;
 };
 
-TEST_F(DataFileExtractionTest, ShowsTheWindowsAndUnpacksEverything) {
+TEST_F(DataFileExtractionTest, ShowsItsProgressAndUnpacksEverything) {
   MadeEntry main;
   main.name = "main.txt";
   main.content = "content";
   MadeEntry other = main;
   other.name = "other/notes.txt";
   extract(archiveOf({main, other}));
-  EXPECT_EQ(log_,
-            QStringList({u"main window"_qs, u"progress shown"_qs,
-                         u"status Decompressing Compressed Data File."_qs, u"maximum 100"_qs, u"bar 0"_qs,
-                         u"bar 0"_qs, u"bar 50"_qs, u"bar 100"_qs, u"progress unloaded"_qs}));
+  EXPECT_EQ(view_.log, QStringList({u"progress shown"_qs, u"status Decompressing Compressed Data File."_qs,
+                                    u"maximum 100"_qs, u"bar 0"_qs, u"bar 0"_qs, u"bar 50"_qs, u"bar 100"_qs,
+                                    u"progress unloaded"_qs}));
   EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("content"));
   EXPECT_EQ(data_.readFile(u"other/notes.txt"_qs), QByteArray("content"));
   EXPECT_THAT(boxes_.informed, IsEmpty());
@@ -58,13 +58,24 @@ TEST_F(DataFileExtractionTest, TellsWhatIsWrongWithTheArchiveAndFails) {
   }
   EXPECT_THAT(boxes_.informed, ElementsAre(u"Archive Error: \"main.zip\" is no zip archive, or its end is "
                                            u"missing. Nothing was unpacked."_qs));
-  EXPECT_FALSE(view_.progressShown);
+  EXPECT_FALSE(view_.isShown);
 }
 
 TEST_F(DataFileExtractionTest, FailsWhereAFileCannotBeWritten) {
   data_.writeFile(u"main.txt/inside.txt"_qs, "mine");
   EXPECT_FAULT(extract(archiveOf("main.txt", "content")), 75);
-  EXPECT_FALSE(view_.progressShown);
+  EXPECT_FALSE(view_.isShown);
+  EXPECT_THAT(boxes_.informed, IsEmpty());
+}
+
+TEST_F(DataFileExtractionTest, IsEndedByTheClosingOfTheProgramAndTheRequestStaysForOthers) {
+  view_.onEvents = [this] {
+    state_.AbortRequested = true;
+    state_.QuitPending = true;
+  };
+  extract(archiveOf("main.txt", QByteArray(1 << 20, 'x')));
+  EXPECT_EQ(data_.names(), QStringList{u"main.zip"_qs});
+  EXPECT_TRUE(state_.AbortRequested);
   EXPECT_THAT(boxes_.informed, IsEmpty());
 }
 
@@ -73,7 +84,7 @@ TEST_F(DataFileExtractionTest, IsEndedByTheUserWithoutAFault) {
   extract(archiveOf("main.txt", QByteArray(1 << 20, 'x')));
   EXPECT_EQ(data_.names(), QStringList{u"main.zip"_qs});
   EXPECT_FALSE(state_.AbortRequested);
-  EXPECT_FALSE(view_.progressShown);
+  EXPECT_FALSE(view_.isShown);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "update/http_network_transfer.h"
+#include "update/http_transfer.h"
 
 #include "platform/http_request.h"
 
@@ -10,8 +10,10 @@ namespace {
 
 constexpr int kOk = 200;
 
-QNetworkRequest requestFor(const QUrl& address, std::chrono::milliseconds silence) {
-  QNetworkRequest request = anonymousRequest(address, silence);
+QNetworkRequest requestFor(const QUrl& address) {
+  // The reader may be kept away for long, by a search for example, and that is not the server's silence.
+  constexpr std::chrono::milliseconds kNoLimit(0);
+  QNetworkRequest request = anonymousRequest(address, kNoLimit);
   request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
   request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
   return request;
@@ -54,7 +56,7 @@ FaultNumber faultOfError(QNetworkReply::NetworkError error) {
   }
 }
 
-/// The announced length; nothing when none is given.
+/// The announced length; nothing when there is none.
 std::optional<std::int64_t> announcedLength(const QNetworkReply& reply) {
   bool isNumber = false;
   const std::int64_t length = reply.rawHeader("Content-Length").trimmed().toLongLong(&isNumber);
@@ -69,6 +71,9 @@ HttpNetworkTransfer::HttpNetworkTransfer(HttpLimits limits, QObject* parent)
   headerDeadline_.setSingleShot(true);
   connect(&headerDeadline_, &QTimer::timeout, this,
           [this] { fail(FaultNumber::DeviceError, QStringLiteral("the server did not answer in time")); });
+  silence_.setSingleShot(true);
+  silence_.setInterval(limits.silence);
+  connect(&silence_, &QTimer::timeout, this, &HttpNetworkTransfer::silent);
 }
 
 HttpNetworkTransfer::~HttpNetworkTransfer() {
@@ -77,11 +82,13 @@ HttpNetworkTransfer::~HttpNetworkTransfer() {
 
 void HttpNetworkTransfer::execute(const QUrl& address) {
   cancel();
-  reply_ = network_.get(requestFor(address, limits_.silence));
+  reply_ = network_.get(requestFor(address));
   reply_->setReadBufferSize(kHttpReadBuffer);
   connect(reply_, &QNetworkReply::metaDataChanged, this, &HttpNetworkTransfer::headersArrived);
   connect(reply_, &QNetworkReply::finished, this, &HttpNetworkTransfer::finished);
+  connect(reply_, &QNetworkReply::readyRead, &silence_, qOverload<>(&QTimer::start));
   headerDeadline_.start(limits_.headers);
+  silence_.start();
 }
 
 bool HttpNetworkTransfer::stillExecuting() const {
@@ -104,6 +111,7 @@ QByteArray HttpNetworkTransfer::chunk(qsizetype size) {
   if (reply_ == nullptr) return {};
   const QByteArray bytes = reply_->read(size);
   received_ += bytes.size();
+  if (!reply_->isFinished()) silence_.start();
   if (received_ > limits_.bytes) fail(FaultNumber::Overflow, QStringLiteral("the document is too large"));
   const bool isEnd = bytes.isEmpty() && !failure_;
   if (isEnd && received_ < announcedLength(*reply_).value_or(0)) {
@@ -125,6 +133,7 @@ void HttpNetworkTransfer::headersArrived() {
   const int status = statusOf(*reply_);
   if (isRedirect(status)) return;
   headerDeadline_.stop();
+  silence_.start();
   if (status == kOk) {
     hasHeaders_ = true;
     return;
@@ -132,7 +141,14 @@ void HttpNetworkTransfer::headersArrived() {
   fail(faultOfStatus(status), QStringLiteral("the server answered %1").arg(status));
 }
 
+/// A server that has sent all that may lie unread is waiting for the reader.
+void HttpNetworkTransfer::silent() {
+  if (reply_->bytesAvailable() >= kHttpReadBuffer) return silence_.start();
+  fail(FaultNumber::DeviceError, QStringLiteral("the server fell silent"));
+}
+
 void HttpNetworkTransfer::finished() {
+  silence_.stop();
   if (failure_) return;
   const int status = statusOf(*reply_);
   if (reply_->error() != QNetworkReply::NoError) {
@@ -150,10 +166,11 @@ void HttpNetworkTransfer::fail(FaultNumber number, const QString& why) {
 
 void HttpNetworkTransfer::dropReply() {
   headerDeadline_.stop();
+  silence_.stop();
   if (reply_ == nullptr) return;
   QNetworkReply* reply = std::exchange(reply_, nullptr);
   reply->disconnect(this);
-  // Not at once: the reply may be in the middle of telling us something.
+  // Not at once: the reply may be in the middle of a signal to us.
   QMetaObject::invokeMethod(reply, &QNetworkReply::abort, Qt::QueuedConnection);
   reply->deleteLater();
 }

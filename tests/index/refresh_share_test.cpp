@@ -1,5 +1,5 @@
 // The estimate of how much of a refresh is done.
-#include "app/refresh_share.h"
+#include "index/index_progress.h"
 
 #include <gtest/gtest.h>
 

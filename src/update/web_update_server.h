@@ -1,14 +1,20 @@
-// What the headers of the web server tell of an update.
+// Where the web server keeps the archive, and what its headers say of it.
 #pragma once
 
 #include "dates/general_date.h"
 
 #include <QLocale>
 #include <QString>
+#include <QUrl>
 
 #include <cstdint>
 
 namespace quorvin {
+
+/// The address of the document `archiveFile` on `webServer`: a host, a host with a port, or the start of an
+/// http or https address, below which the document lies ("example.org", "example.org:8080",
+/// "https://example.org/lists"). Throws fault 52 when that is not an address of the web.
+QUrl webUpdateAddress(const QString& webServer, const QString& archiveFile);
 
 /// The date in the value of a "Last-Modified" header, found by its position: the characters from the sixth
 /// on, nine fewer than the value has ("Mon, 15 Nov 2004 10:20:30 GMT" without day name and zone). Throws

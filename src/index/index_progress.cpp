@@ -1,4 +1,4 @@
-#include "app/refresh_share.h"
+#include "index/index_progress.h"
 
 #include <algorithm>
 #include <utility>
@@ -7,11 +7,15 @@ namespace quorvin {
 
 namespace {
 
-/// A file takes up one line of some this many bytes; the block head and the line of a folder take up together
-/// about as much.
+/// A file takes up one line of about this many bytes; the block head and the line of a folder take up about
+/// as much together.
 constexpr double kBytesOfOne = 111;
 /// A source that has grown is not done before it says so.
 constexpr double kMostBeforeTheEnd = 0.99;
+
+QString counted(std::int64_t count, const QString& one, const QLocale& locale) {
+  return count == 1 ? QStringLiteral("1 ") + one : locale.toString(count) + u' ' + one + u's';
+}
 
 }  // namespace
 
@@ -54,6 +58,36 @@ std::optional<int> RefreshShare::percent() {
   if (size_ <= 0) return std::nullopt;
   percent_ = std::max(percent_, static_cast<int>(100 * (before_ + doneInSource()) / total_));
   return percent_;
+}
+
+void IndexProgress::enterFolder(std::string_view listedPath) {
+  folder_ = listedPath;
+  isFolderNew_ = true;
+}
+
+void IndexProgress::letEventsRun(const IndexCounts& counts) {
+  counts_ = counts;
+  share_.indexed(counts);
+  if (job_.display().isDue()) show();
+  job_.letEventsRun();
+}
+
+void IndexProgress::show() {
+  WorkDisplay& display = job_.display();
+  if (std::exchange(isFolderNew_, false)) {
+    display.setStatus(QStringLiteral("Indexing: ") + QString::fromStdString(folder_));
+  }
+  display.setDetail(countsText());
+  if (const std::optional<int> percent = share_.percent()) {
+    display.setBar(*percent);
+  } else {
+    display.setBusy();
+  }
+}
+
+QString IndexProgress::countsText() const {
+  return counted(counts_.files, QStringLiteral("file"), locale_) + QStringLiteral(" in ") +
+         counted(counts_.folders, QStringLiteral("folder"), locale_);
 }
 
 }  // namespace quorvin

@@ -1,0 +1,146 @@
+#include "app/search_form_work.h"
+
+#include "app/fault_report.h"
+#include "app/version.h"
+#include "preview/res_win.h"
+#include "update/web_update.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QScopeGuard>
+
+namespace quorvin {
+
+namespace {
+
+bool noDialogIsOpen() {
+  return QApplication::activeModalWidget() == nullptr;
+}
+
+}  // namespace
+
+SearchFormWork::SearchFormWork(ProgramState& state, MessageBoxes& messages, QWidget& owner,
+                               const SearchFormControls& controls, const SearchFormMenus& menus,
+                               const QLocale& locale)
+    : state_(state),
+      messages_(messages),
+      owner_(owner),
+      controls_(controls),
+      menus_(menus),
+      locale_(locale),
+      progress_(new Progress(state, &owner)),
+      work_(state, *progress_),
+      peers_(state, work_, messages, locale, noDialogIsOpen) {
+  connectPeers();
+}
+
+void SearchFormWork::startOrTell(JobKind kind, const std::function<void(Job&)>& action) {
+  if (work_.run(kind, action) != Answer::Refused) return;
+  const QString why = work_.refusalOf(kind);
+  if (!why.isEmpty()) messages_.inform(why);
+}
+
+void SearchFormWork::startRefresh() {
+  startOrTell(JobKind::Refresh, [this](Job& job) { refresh(job); });
+}
+
+void SearchFormWork::refresh(Job& job) {
+  RefreshOutcome outcome;
+  menus_.ReScan->setEnabled(false);
+  progress_->setBusyPointer(true);
+  reportFaults(messages_, QStringLiteral("refreshing the local lists"),
+               [&] { outcome = refreshLocalLists(state_, job, messages_, locale_, versionCaption()); });
+  job.end();
+  progress_->setBusyPointer(false);
+  menus_.ReScan->setEnabled(true);
+  showOutcome(outcome);
+  peers_.sharing().sourcesRefreshed();
+}
+
+void SearchFormWork::showOutcome(const RefreshOutcome& outcome) {
+  if (!outcome.fault.isEmpty()) messages_.inform(outcome.fault);
+  if (outcome.errorLog.isEmpty() || work_.isClosing()) return;
+  ResWin window(&owner_);
+  window.setText(outcome.errorLog);
+  window.exec();
+}
+
+void SearchFormWork::WebUpdate_Click() {
+  startOrTell(JobKind::Update, [this](Job& job) {
+    const auto enable = [this](bool enabled) { controls_.WebUpdate->setEnabled(enabled); };
+    reportFaults(messages_, QStringLiteral("updating from the web"),
+                 [&] { WebUpdate(state_, job, messages_, web_, locale_, enable).WebUpdate_Click(); });
+    if (controls_.WebUpdate->isEnabled()) return;
+    controls_.WebUpdate->setToolTip(QStringLiteral(
+        "The update was cancelled. It can be started again when the program is started again."));
+  });
+}
+
+void SearchFormWork::setWebUpdateEnabled(bool enabled) {
+  controls_.WebUpdate->setEnabled(enabled);
+  controls_.WebUpdate->setToolTip(
+      enabled
+          ? QString()
+          : QStringLiteral("To use the web update, fill in the web server and the archive in File, Options, "
+                           "and start the program again."));
+}
+
+void SearchFormWork::extractDataFile(const QString& archivePath, const QString& targetFolder) {
+  owner_.show();
+  const auto afterwards = qScopeGuard([this] { work_.wake(); });
+  if (std::optional<Job> job = work_.start(JobKind::Extraction)) {
+    quorvin::extractDataFile(*job, archivePath, targetFolder, messages_);
+  }
+}
+
+void SearchFormWork::connectPeers() {
+  QObject::connect(&peers_, &PeerExchange::gettingBegan, &peers_, [this](const QString& peer) {
+    menus_.GetLists->setEnabled(false);
+    peerProgress().begin(peer);
+  });
+  QObject::connect(&peers_.client(), &PeerClient::progressed, &peers_,
+                   [this] { peerProgress().showFigures(peers_.client().figures()); });
+  QObject::connect(&peers_, &PeerExchange::gettingEnded, &peers_, [this] {
+    if (peerProgress_) peerProgress_->hide();
+  });
+  QObject::connect(&peers_, &PeerExchange::outcomeDealtWith, &peers_,
+                   [this] { menus_.GetLists->setEnabled(true); });
+}
+
+PeerProgress& SearchFormWork::peerProgress() {
+  if (!peerProgress_) {
+    peerProgress_ = new PeerProgress(locale_, &owner_);
+    QObject::connect(peerProgress_, &PeerProgress::cancelled, &peers_.client(), &PeerClient::cancel);
+  }
+  return *peerProgress_;
+}
+
+void SearchFormWork::setListenerPlace(const QHostAddress& address, std::uint16_t port) {
+  listenerAddress_ = address;
+  listenerPort_ = port;
+}
+
+void SearchFormWork::ShareLists_Click(bool share) {
+  if (share) {
+    peers_.sharing().start(listenerPort_, listenerAddress_);
+  } else {
+    peers_.sharing().stop();
+  }
+  menus_.ShareLists->setChecked(peers_.sharing().isSharing());
+}
+
+void SearchFormWork::GetLists_Click() {
+  bool confirmed = false;
+  const QString peer =
+      QInputDialog::getText(&owner_, QStringLiteral("Get Lists From Peer"),
+                            QStringLiteral("&Peer (host or host:port):"), QLineEdit::Normal, {}, &confirmed);
+  if (confirmed && !peer.trimmed().isEmpty()) peers_.getLists(peer);
+}
+
+void SearchFormWork::unload() {
+  peers_.client().cancel();
+  peers_.sharing().stop();
+  if (peerProgress_) peerProgress_->hide();
+}
+
+}  // namespace quorvin

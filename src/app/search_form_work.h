@@ -1,0 +1,84 @@
+// What the main window does that takes long.
+#pragma once
+
+#include "app/search_form_controls.h"
+#include "index/local_list_refresh.h"
+#include "peers/client/peer_progress.h"
+#include "peers/peer_exchange.h"
+#include "platform/message_box.h"
+#include "state/program_state.h"
+#include "update/http_transfer.h"
+#include "work/progress.h"
+#include "work/work.h"
+
+#include <QHostAddress>
+#include <QLocale>
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include <cstdint>
+#include <functional>
+
+namespace quorvin {
+
+/// The rescan, the web update, the unpacking of the main data file, and the exchange of lists with peers,
+/// each as a job of one Work. What is refused is told with the reason. Nothing runs until the user asks for
+/// it.
+class SearchFormWork {
+ public:
+  /// Everything must outlive the object; `owner`, the main window, owns the windows that are shown.
+  /// `messages` shows nothing any more when the program is closing.
+  SearchFormWork(ProgramState& state, MessageBoxes& messages, QWidget& owner,
+                 const SearchFormControls& controls, const SearchFormMenus& menus, const QLocale& locale);
+
+  Work& work() { return work_; }
+  Progress& progress() { return *progress_; }
+  PeerExchange& peers() { return peers_; }
+
+  /// Refreshes the local lists, with `ReScan` disabled and the busy pointer shown; events run meanwhile. What
+  /// could not be indexed is shown in `ResWin` afterwards, and shared lists are packed anew. Where the
+  /// refresh has to wait, the call returns at once.
+  void startRefresh();
+  void WebUpdate_Click();
+  /// What start-up does when only the archive of the main data file is there: shows the main window and
+  /// unpacks. Throws RuntimeFault as quorvin::extractDataFile() does.
+  void extractDataFile(const QString& archivePath, const QString& targetFolder);
+
+  /// Where the listener is opened from now on; at first on all addresses, at the port of the exchange.
+  void setListenerPlace(const QHostAddress& address, std::uint16_t port);
+  /// Opens or closes the listener; the menu item shows what came of it.
+  void ShareLists_Click(bool share);
+  /// Asks for a peer, and gets its lists.
+  void GetLists_Click();
+
+  /// Whether `WebUpdate` can be used, which start-up decides once; a tooltip says what it takes.
+  void setWebUpdateEnabled(bool enabled);
+
+  /// The program ends: no more connections, and no more windows.
+  void unload();
+
+ private:
+  void startOrTell(JobKind kind, const std::function<void(Job&)>& action);
+  void refresh(Job& job);
+  void showOutcome(const RefreshOutcome& outcome);
+  void connectPeers();
+  PeerProgress& peerProgress();
+
+  ProgramState& state_;
+  MessageBoxes& messages_;
+  QWidget& owner_;
+  const SearchFormControls& controls_;
+  const SearchFormMenus& menus_;
+  QLocale locale_;
+  /// The owner's.
+  Progress* progress_;
+  Work work_;
+  HttpNetworkTransfer web_;
+  PeerExchange peers_;
+  QPointer<PeerProgress> peerProgress_;
+  QHostAddress listenerAddress_ = QHostAddress::Any;
+  std::uint16_t listenerPort_ = kPeerPort;
+};
+
+}  // namespace quorvin
