@@ -1,7 +1,7 @@
 #include "app/shutdown.h"
 
 #include "app/fault_report.h"
-#include "state/source_list_saving.h"
+#include "state/source_list_file.h"
 
 #include <QScopeGuard>
 

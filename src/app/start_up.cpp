@@ -5,7 +5,7 @@
 #include "files/file_aside.h"
 #include "files/file_lookup.h"
 #include "index/dir_io.h"
-#include "state/defaults_file.h"
+#include "state/settings.h"
 
 #include <utility>
 

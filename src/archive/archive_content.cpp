@@ -1,6 +1,6 @@
 #include "archive/archive_reader.h"
 #include "faults/runtime_fault.h"
-#include "files/random_access_file.h"
+#include "files/file_reader.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "archive/archive_end.h"
 
 #include "archive/zip_record.h"
-#include "files/random_access_file.h"
+#include "files/file_reader.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -2,7 +2,7 @@
 
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
-#include "files/sequential_file.h"
+#include "files/file_reader.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include "archive/archive_end.h"
 #include "archive/zip_record.h"
 #include "faults/runtime_fault.h"
-#include "files/random_access_file.h"
+#include "files/file_reader.h"
 
 #include <QFileInfo>
 #include <QSet>

@@ -1,12 +1,16 @@
-// Date texts in the one form that all matching is done in.
+// Date texts in the one form that all matching is done in, and the words that are in them: month names, and
+// the two halves of a day.
 #pragma once
 
+#include <QLocale>
 #include <QStringView>
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvin {
 
@@ -40,5 +44,66 @@ std::u16string foldedDateLiteral(QStringView literal);
 constexpr bool isDigit(char16_t unit) {
   return unit >= u'0' && unit <= u'9';
 }
+
+/// One unit of a text as matching sees it. A DateText is folded already; plain bytes are folded here, and one
+/// that is not ASCII equals nothing.
+constexpr char16_t foldedUnit(char16_t unit) {
+  return unit;
+}
+constexpr char16_t foldedUnit(char byte) {
+  const auto unit = static_cast<unsigned char>(byte);
+  if (unit >= 0x80) return 0xFFFF;
+  return unit >= 'A' && unit <= 'Z' ? static_cast<char16_t>(unit + ('a' - 'A')) : unit;
+}
+
+/// Whether `text` begins with `literal`, which is folded.
+template <typename Unit>
+bool beginsWith(std::basic_string_view<Unit> text, std::u16string_view literal) {
+  if (text.size() < literal.size()) return false;
+  for (std::size_t i = 0; i < literal.size(); ++i) {
+    if (foldedUnit(text[i]) != literal[i]) return false;
+  }
+  return true;
+}
+
+/// Words with a meaning, of which the longest that fits is found.
+class WordList {
+ public:
+  struct Found {
+    int meaning;
+    std::size_t length;
+  };
+
+  /// Adds `word`, folded; a word that is there already keeps its first meaning. Empty words are ignored.
+  void add(QStringView word, int meaning);
+
+  /// The longest word at the front of `text`.
+  template <typename Unit>
+  std::optional<Found> at(std::basic_string_view<Unit> text) const {
+    for (const Word& word : words_) {
+      if (beginsWith(text, word.text)) return Found{word.meaning, word.text.size()};
+    }
+    return std::nullopt;
+  }
+
+ private:
+  struct Word {
+    std::u16string text;
+    int meaning;
+  };
+  // Longest first.
+  std::vector<Word> words_;
+};
+
+inline constexpr int kBeforeNoon = 0;
+inline constexpr int kAfterNoon = 1;
+
+/// The month names of `locale` and of English, long and abbreviated, the locale's winning; meanings are 1 to
+/// 12. An abbreviation is known with its dot and without.
+WordList monthNames(const QLocale& locale);
+
+/// The words for the two halves of a day, the locale's and English, with their dots and blanks and without;
+/// meanings are kBeforeNoon and kAfterNoon.
+WordList halfDayNames(const QLocale& locale);
 
 }  // namespace quorvin

@@ -1,7 +1,7 @@
 // Reading many dates of one locale.
 #pragma once
 
-#include "dates/date_form.h"
+#include "dates/date_pattern.h"
 #include "dates/date_text.h"
 #include "dates/general_date.h"
 #include "dates/loose_date.h"

@@ -1,6 +1,6 @@
 #include "dates/general_date_writer.h"
 
-#include "dates/locale_digits.h"
+#include "dates/general_number.h"
 
 namespace quorvin {
 

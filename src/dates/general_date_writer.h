@@ -2,7 +2,6 @@
 #pragma once
 
 #include "dates/date_pattern.h"
-#include "dates/day_and_second.h"
 #include "dates/general_date.h"
 
 #include <QLocale>

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <array>
 #include <cstdint>
 #include <optional>
 
@@ -28,5 +29,11 @@ std::optional<std::int64_t> readByteCount(QStringView text);
 /// decimal sign, no grouping, ties rounded away from zero, followed by "mb" ("0.13mb" for 131,072 bytes).
 /// A size that rounds to zero carries no minus sign.
 QString mebibytesText(std::int64_t bytes, const QLocale& locale);
+
+/// The locale's own signs for 0 to 9.
+std::array<QString, 10> digitsOf(const QLocale& locale);
+
+/// `asciiNumber` with each ASCII digit in it written as the locale's own.
+QString withLocaleDigits(const QString& asciiNumber, const QLocale& locale);
 
 }  // namespace quorvin

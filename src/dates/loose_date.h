@@ -1,7 +1,6 @@
 // Dates and times as people write them, beyond the exact forms of their locale.
 #pragma once
 
-#include "dates/date_form.h"
 #include "dates/date_pattern.h"
 
 #include <cstddef>

@@ -3,8 +3,8 @@
 
 #include "files/path_style.h"
 #include "platform/message_box.h"
-#include "state/data_folder.h"
 #include "state/program_state.h"
+#include "state/settings.h"
 
 #include <QLocale>
 #include <QString>

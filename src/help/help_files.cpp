@@ -1,8 +1,8 @@
 #include "help/help_files.h"
 
 #include "faults/runtime_fault.h"
+#include "files/file_reader.h"
 #include "files/path_style.h"
-#include "files/sequential_file.h"
 
 #include <QCoreApplication>
 #include <QDir>

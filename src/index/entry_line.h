@@ -1,7 +1,7 @@
 // The entry line of a file. The whole layout: docs/formats/listing.md.
 #pragma once
 
-#include "dates/day_and_second.h"
+#include "dates/general_date.h"
 #include "dates/general_date_writer.h"
 
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "platform/shell_desktop.h"
 
-#include "platform/shell_player.h"
+#include "platform/shell.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,7 +1,7 @@
 #include "preview/picture_file.h"
 
 #include "faults/runtime_fault.h"
-#include "files/sequential_file.h"
+#include "files/file_reader.h"
 #include "metafile/boundary.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "search/listing_scan.h"
 
 #include "faults/runtime_fault.h"
-#include "files/sequential_file.h"
+#include "files/file_reader.h"
 #include "search/segment/segment_builder.h"
 
 #include <algorithm>

@@ -5,8 +5,8 @@
 #include "files/file_lookup.h"
 #include "platform/ini_settings_store.h"
 #include "platform/standard_folders.h"
-#include "state/defaults_file.h"
 #include "state/source_list_file.h"
+#include "state/text_line_reader.h"
 
 #include <QDateTime>
 
@@ -127,6 +127,27 @@ void loadUserSources(ProgramState& state, const QLocale& locale) {
   const IniSettingsStore store(userSettingsPath());
   readSettings(store, state, dateValueOf(QDateTime::currentDateTime()), locale);
   loadSourceLists(state, programFolder);
+}
+
+bool isValidDataFolder(const QString& folder) {
+  return ordinaryFileExists(folder + QStringLiteral("*.*"));
+}
+
+void readDefaultsFile(const QString& path, ProgramState& state) {
+  TextLineReader lines(path);
+  for (QString* setting : {&state.LocalFolder, &state.TextFile, &state.ArchiveFile, &state.WebServer}) {
+    const std::optional<TextLine> line = lines.next();
+    if (!line) {
+      throw RuntimeFault(FaultNumber::InputPastEnd,
+                         describe(FaultNumber::InputPastEnd) + QStringLiteral(": ") + path);
+    }
+    *setting = line->text;
+  }
+}
+
+void readDefaultsFile(ProgramState& state) {
+  const QString path = QString::fromUtf16(kDefaultsFileName);
+  if (ordinaryFileExists(path)) readDefaultsFile(path, state);
 }
 
 }  // namespace quorvin

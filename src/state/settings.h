@@ -1,4 +1,5 @@
-// The ten settings: reading them at start-up, writing them at shutdown.
+// The ten settings: their defaults of a first run, reading them at start-up, writing them at shutdown; and
+// the local data folder, which is one of them.
 #pragma once
 
 #include "platform/settings_store.h"
@@ -61,5 +62,21 @@ void loadSourceLists(ProgramState& state, const std::function<QString()>& progra
 /// defaults, the settings store, both source lists. Throws RuntimeFault where the window would report a
 /// start-up error; what was loaded before stays.
 void loadUserSources(ProgramState& state, const QLocale& locale);
+
+/// Whether `folder`, which ends in a separator, can be the local data folder: at least one ordinary file is
+/// in it.
+bool isValidDataFolder(const QString& folder);
+
+/// The bare file name; it is looked up in the current working folder.
+inline constexpr char16_t kDefaultsFileName[] = u"defaults.txt";
+
+/// Reads the four lines of the file at `path` into `LocalFolder`, `TextFile`, `ArchiveFile` and `WebServer`
+/// of `state`, in this order, each line as it is (further lines are ignored). Throws RuntimeFault: 62
+/// when there are fewer than four lines (those before it are stored), and file faults. Layout:
+/// docs/formats/source-lists.md.
+void readDefaultsFile(const QString& path, ProgramState& state);
+
+/// The same for the file of that name in the current working folder; does nothing where there is none.
+void readDefaultsFile(ProgramState& state);
 
 }  // namespace quorvin

@@ -1,6 +1,9 @@
-// The two source list files. Their layout: docs/formats/source-lists.md.
+// The two source list files: reading them, and saving them when the program ends. Their layout:
+// docs/formats/source-lists.md.
 #pragma once
 
+#include "platform/message_box.h"
+#include "state/program_state.h"
 #include "state/source_table.h"
 
 #include <QString>
@@ -16,5 +19,18 @@ void loadSourceList(const QString& path, SourceTable& table, int& count);
 /// written aside and put in place whole; when anything fails, RuntimeFault is thrown and the file that was
 /// there before stays. A count of 0 gives an empty file.
 void saveSourceList(const QString& path, const SourceTable& table, int count);
+
+/// Saves the online sources as `LocFile` in `LocalFolder`. A folder without a single ordinary file counts as
+/// invalid: that is reported, and nothing is saved. Throws as saveSourceList does.
+///
+/// A list that is there but was not read when the program started (it is broken, or another folder has
+/// become the data folder since) is not lost: an empty table leaves it as it is, any other is saved only
+/// after the list has been copied beside it. Both are reported. The list that was read is known under every
+/// spelling of its path.
+void saveOnlineSources(const ProgramState& state, MessageBoxes& messages);
+
+/// The same for the offline sources and `OffLineFile`; the message on an invalid folder is that of the online
+/// list too.
+void saveOfflineSources(const ProgramState& state, MessageBoxes& messages);
 
 }  // namespace quorvin

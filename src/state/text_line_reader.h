@@ -1,7 +1,7 @@
 // Reading a small text file line by line.
 #pragma once
 
-#include "files/sequential_file.h"
+#include "files/file_reader.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "update/web_update.h"
 
 #include "archive/archive_unpacking.h"
-#include "dates/day_and_second.h"
+#include "dates/general_date.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
 #include "files/file_writer.h"

@@ -1,6 +1,6 @@
 #include "update/web_update_server.h"
 
-#include "dates/day_and_second.h"
+#include "dates/general_date.h"
 #include "faults/runtime_fault.h"
 #include "platform/time_zone.h"
 

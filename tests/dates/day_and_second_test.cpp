@@ -1,4 +1,4 @@
-#include "dates/day_and_second.h"
+#include "dates/general_date.h"
 
 #include <QDate>
 #include <gtest/gtest.h>

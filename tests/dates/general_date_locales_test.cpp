@@ -1,5 +1,5 @@
 // Writing and reading are each other's inverse in every locale that the desktop knows.
-#include "dates/day_and_second.h"
+#include "dates/general_date.h"
 #include "dates/general_date_reader.h"
 #include "dates/general_date_writer.h"
 #include "support/sweep.h"

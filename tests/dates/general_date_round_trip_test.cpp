@@ -1,5 +1,4 @@
 // What is written is read back, to the second.
-#include "dates/day_and_second.h"
 #include "dates/general_date.h"
 #include "dates/general_date_reader.h"
 #include "dates/general_date_writer.h"

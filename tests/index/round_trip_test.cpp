@@ -1,5 +1,5 @@
 // What the walk writes, the scan reads back, in every locale tried.
-#include "dates/day_and_second.h"
+#include "dates/general_date.h"
 #include "index/walk_fixture.h"
 #include "support/scan_of.h"
 

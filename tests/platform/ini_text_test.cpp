@@ -1,5 +1,4 @@
-#include "platform/ini_text.h"
-
+#include "platform/ini_settings_store.h"
 #include "support/qt_printing.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
 // The command that puts a file into a player's queue.
-#include "platform/shell_player.h"
-
+#include "platform/shell.h"
 #include "support/qt_printing.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
-#include "state/defaults_file.h"
-
 #include "faults/runtime_fault.h"
+#include "state/settings.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

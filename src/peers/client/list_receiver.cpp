@@ -1,7 +1,7 @@
 #include "peers/client/list_receiver.h"
 
 #include "faults/runtime_fault.h"
-#include "files/sequential_file.h"
+#include "files/file_reader.h"
 #include "peers/messages/peer_message.h"
 #include "peers/messages/peer_names.h"
 #include "platform/text_encoding.h"

@@ -1,7 +1,7 @@
 // The side of the peer exchange that connects: asks a peer for its lists, and for the archive of each.
 #pragma once
 
-#include "files/random_access_file.h"
+#include "files/file_reader.h"
 #include "peers/client/answer_stream.h"
 #include "peers/client/list_receiver.h"
 #include "peers/messages/peer_names.h"

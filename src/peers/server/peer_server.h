@@ -2,7 +2,7 @@
 // to them.
 #pragma once
 
-#include "files/sequential_file.h"
+#include "files/file_reader.h"
 #include "peers/messages/peer_message.h"
 #include "state/program_state.h"
 

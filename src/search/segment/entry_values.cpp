@@ -1,6 +1,6 @@
 #include "search/segment/entry_values.h"
 
-#include "dates/day_and_second.h"
+#include "dates/general_date.h"
 #include "dates/general_number.h"
 #include "platform/text_encoding.h"
 #include "search/format/listing_columns.h"

@@ -1,7 +1,7 @@
 // Bytes of a cache file that are read once, from front to back.
 #pragma once
 
-#include "files/random_access_file.h"
+#include "files/file_reader.h"
 #include "search/segment/checked_span.h"
 
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "search/segment/segment_file.h"
 
 #include "faults/runtime_fault.h"
-#include "files/mapped_file.h"
+#include "files/file_reader.h"
 #include "search/segment/passing_bytes.h"
 
 #include <QDataStream>

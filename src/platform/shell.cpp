@@ -1,4 +1,4 @@
-#include "platform/shell_player.h"
+#include "platform/shell.h"
 
 #include <QProcess>
 

@@ -1,6 +1,5 @@
-#include "files/sequential_file.h"
-
 #include "faults/runtime_fault.h"
+#include "files/file_reader.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

@@ -1,0 +1,78 @@
+// Reading files: the user's from front to back, and the program's own at any place or as memory.
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace quorvin {
+
+/// A regular file that is open for reading, front to back, by plain read calls. It is never mapped: a file
+/// that is cut, or a medium that is pulled, becomes a RuntimeFault instead of a signal.
+class SequentialFile {
+ public:
+  /// Opens `path`. Throws RuntimeFault: 53 not found, 70 no permission, 75 not a regular file, and others as
+  /// faultOfSystemError maps them.
+  explicit SequentialFile(const QString& path);
+  ~SequentialFile();
+  SequentialFile(const SequentialFile&) = delete;
+  SequentialFile& operator=(const SequentialFile&) = delete;
+
+  /// Fills as much of `buffer` as the file still holds and returns the number of bytes; 0 at the end of the
+  /// file. Throws RuntimeFault when reading fails, and fault 62 when the file turns out shorter than it was
+  /// when it was opened.
+  std::size_t read(std::span<char> buffer);
+
+  /// The file's length in bytes when it was opened.
+  std::int64_t sizeWhenOpened() const { return size_; }
+
+ private:
+  QString path_;
+  int descriptor_ = -1;
+  std::int64_t size_ = 0;
+  std::int64_t position_ = 0;
+};
+
+/// A file that is open for reading, by plain read calls.
+class RandomAccessFile {
+ public:
+  /// Opens `path`. Throws RuntimeFault as faultOfSystemError maps the system's errors.
+  explicit RandomAccessFile(const QString& path);
+  ~RandomAccessFile();
+  RandomAccessFile(const RandomAccessFile&) = delete;
+  RandomAccessFile& operator=(const RandomAccessFile&) = delete;
+
+  /// Fills `buffer` with the bytes from `position` on. Throws RuntimeFault when reading fails, fault 62 when
+  /// the file ends before the buffer is full.
+  void read(std::int64_t position, std::span<std::byte> buffer) const;
+
+ private:
+  QString path_;
+  int descriptor_ = -1;
+};
+
+/// A stretch of a file mapped for reading. Only for files that the program itself writes aside and renames,
+/// which nobody shortens: the user's own files are read with SequentialFile. The mapping outlives the file's
+/// name.
+class MappedFile {
+ public:
+  /// Maps `size` bytes (more than 0) from `offset` on, which is a multiple of kMappingAlignment. Throws
+  /// RuntimeFault when the file cannot be opened, is shorter than that, or cannot be mapped.
+  MappedFile(const QString& path, std::int64_t offset, std::size_t size);
+  ~MappedFile();
+  MappedFile(const MappedFile&) = delete;
+  MappedFile& operator=(const MappedFile&) = delete;
+
+  std::span<const std::byte> bytes() const { return {data_, size_}; }
+
+ private:
+  const std::byte* data_ = nullptr;
+  std::size_t size_ = 0;
+};
+
+/// A multiple of every page size in use.
+inline constexpr std::size_t kMappingAlignment = std::size_t{1} << 16;
+
+}  // namespace quorvin
