@@ -1,6 +1,5 @@
-#include "files/file_reader.h"
-
 #include "faults/runtime_fault.h"
+#include "files/file_reader.h"
 
 #include <QFile>
 

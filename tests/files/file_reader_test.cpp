@@ -1,5 +1,6 @@
-#include "faults/runtime_fault.h"
 #include "files/file_reader.h"
+
+#include "faults/runtime_fault.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
