@@ -197,12 +197,6 @@ void keepCopy(const List& list, MessageBoxes& messages) {
       QStringLiteral("\r\nIt is kept as %1, and the list as it is now is saved in its place.").arg(copy));
 }
 
-/// An empty table is no gain over records that somebody has entered once.
-void leaveAsItIs(const List& list, MessageBoxes& messages) {
-  messages.inform(whyUnknown(list) +
-                  QStringLiteral("\r\nIt stays as it is; the list in use is empty and was not saved."));
-}
-
 void save(const ProgramState& state, const List& list, MessageBoxes& messages) {
   if (!isValidDataFolder(state.LocalFolder)) {
     messages.inform(
@@ -211,9 +205,9 @@ void save(const ProgramState& state, const List& list, MessageBoxes& messages) {
     return;
   }
   const bool isUnknown = holdsUnknownRecords(list);
-  if (isUnknown && list.count == 0) return leaveAsItIs(list, messages);
-  // Start-up did not come as far as the lists, so that nothing is known of this folder.
-  if (list.read.isEmpty() && list.count == 0) return;
+  // An empty table is no gain over records that somebody has entered once. They stay, so that there is
+  // nothing to report. Nor does a start-up that never came as far as the lists leave an empty one behind.
+  if (list.count == 0 && (isUnknown || list.read.isEmpty())) return;
   if (isUnknown) keepCopy(list, messages);
   saveSourceList(list.path, list.table, list.count);
 }
