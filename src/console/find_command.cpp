@@ -1,5 +1,5 @@
-#include "console/find_command.h"
-
+// "find" and "cache": a search in the terminal, and what searches have kept.
+#include "console/commands.h"
 #include "console/error_lines.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"

@@ -1,6 +1,4 @@
-#include "console/find_command.h"
-#include "console/index_command.h"
-#include "console/refresh_command.h"
+#include "console/commands.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>

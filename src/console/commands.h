@@ -1,0 +1,64 @@
+// The commands of the console companion: "find", "cache", "index" and "refresh". Each gives the exit status
+// of the program.
+#pragma once
+
+#include "console/hit_writer.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace quorvin {
+
+/// What the command line asked of "find".
+struct FindRequest {
+  QString searchText;
+  /// As typed; corrected like the window's box.
+  QString desiredMatch = QStringLiteral("50");
+  HitFormat format = HitFormat::Tsv;
+  /// Only the number of hits is written.
+  bool countOnly = false;
+  /// Whether segments of listings are taken from and written to the user's cache folder.
+  bool useCache = true;
+  /// The listings to search; empty for the user's own sources.
+  std::vector<QString> listings;
+};
+
+/// Runs the search; hits go to standard output, messages and the last line "F found, S searched" to standard
+/// error. The exit status: 0 with hits, 1 without, 2 when anything could not be done.
+int runFind(const FindRequest& request);
+
+/// Writes a line for each file of the user's search cache: its size in bytes, a tab, and the listing it is
+/// for. Returns the exit status 0.
+int listCache();
+
+/// Removes those files. The exit status is 2 when one could not be removed, else 0.
+int clearCache();
+
+/// What the command line asked of "index".
+struct IndexRequest {
+  QString folder;
+  /// Stands after "Volume:" in every block; empty for the folder's own name.
+  QString label;
+  /// Where the listing goes; empty for standard output.
+  QString output;
+  bool foldersOnly = false;
+};
+
+/// The exit status of a command that was ended by an interrupt.
+inline constexpr int kInterrupted = 130;
+
+/// Writes the listing. A file is written aside and put in place when it is whole; until then, and when
+/// anything goes wrong, the one that was there before stays. Single names that could not be read are reported
+/// on standard error and change nothing in the exit status: 0 when the listing is there, 2 when the folder
+/// cannot be read or the listing cannot be written, kInterrupted after an interrupt.
+int runIndex(const IndexRequest& request);
+
+/// Refreshes the listings of the user's own online sources as the window would. The settings and source lists
+/// are only read. What went wrong with single names, and which listings were kept because their folder was
+/// not there, is reported on standard error and changes nothing in the exit status: 0; 2 when the refresh was
+/// ended by a fault; kInterrupted after an interrupt, which leaves the old listing of the source at work and
+/// of those after it.
+int runRefresh();
+
+}  // namespace quorvin
