@@ -1,5 +1,6 @@
 // The desktop's shell, on a session bus of the test's own, with a file manager and players of the test's own.
-#include "platform/shell_desktop.h"
+#include "platform/desktop_shell.h"
+
 #include "support/eventually.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

@@ -1,4 +1,4 @@
-#include "platform/shell_desktop.h"
+#include "platform/desktop_shell.h"
 
 #include "platform/shell.h"
 

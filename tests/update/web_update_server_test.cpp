@@ -1,5 +1,6 @@
-#include "support/qt_printing.h"
 #include "update/web_update_server.h"
+
+#include "support/qt_printing.h"
 
 #include <gtest/gtest.h>
 
