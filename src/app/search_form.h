@@ -3,21 +3,100 @@
 
 #include "app/hit_list_model.h"
 #include "app/search_form_controls.h"
-#include "app/search_form_display.h"
-#include "app/search_form_frame.h"
 #include "app/search_form_hits.h"
 #include "app/search_form_windows.h"
 #include "app/search_form_work.h"
+#include "app/shutdown.h"
+#include "app/start_up.h"
 #include "search/hit_table.h"
 #include "search/search_run.h"
 
+#include <QElapsedTimer>
+#include <QLabel>
 #include <QLocale>
 #include <QMainWindow>
+#include <QSize>
+#include <QString>
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace quorvin {
+
+/// Shows a run in the window's controls. Counts and rows are collected and put on the screen 60 times a
+/// second at most: a run reports its counts at every 2000th entry, which is up to a million times a second,
+/// and writing a label each time would cost more than the search itself.
+class SearchFormDisplay : public RunDisplay {
+ public:
+  /// `controls` and `rows` must outlive the display.
+  SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows);
+
+  void setDesMatch(const QString& text) override;
+  void runStarted() override;
+  void runEnded() override;
+  void showFound(std::int64_t count) override { found_ = count; }
+  void showSearched(std::int64_t count) override { searched_ = count; }
+  void clearHits() override;
+  void hitsArrived() override { hasNewRows_ = true; }
+  void processEvents() override;
+
+  /// Shows what is new at once.
+  void show();
+
+ private:
+  const SearchFormControls& controls_;
+  HitListModel& rows_;
+  std::optional<std::int64_t> found_;
+  std::optional<std::int64_t> searched_;
+  bool hasNewRows_ = false;
+  QElapsedTimer sinceShown_;
+};
+
+/// Keeps the main window on a screen and no smaller than its controls need, in sizes that include its frame.
+class SearchFormFrame : public StartUpView, public ShutdownView {
+ public:
+  /// All must outlive the object.
+  SearchFormFrame(QMainWindow& window, const SearchFormControls& controls, SearchFormDisplay& display,
+                  SearchFormWork& jobs, SearchFormWindows& windows);
+
+  /// Puts the window in the middle of the screen, as large as the controls and a good number of rows ask for.
+  void takeInitialPlace();
+  /// Sets the least size, which holds for the outer measures. It is kept as a limit, so that the window
+  /// cannot be dragged smaller in the first place.
+  void limitSize();
+  /// Whether a size was set before the window had a frame. It was meant to include the frame;
+  /// settleOuterSize() sees to that when there is one, since otherwise the window would grow by its frame at
+  /// each start.
+  bool isUnsettled() const { return outerSizeWished_.has_value(); }
+  void settleOuterSize();
+  /// A place that was saved on a screen which is gone would hide the window.
+  void moveOntoScreen();
+
+  // For start-up.
+  void processEvents() override { display_.processEvents(); }
+  void setVersionCaption(const QString& caption) override { controls_.lblVer->setText(caption); }
+  void setWebUpdateEnabled(bool enabled) override { jobs_.setWebUpdateEnabled(enabled); }
+  float placement(PlacementKey key) const override;
+  void setPlacement(PlacementKey key, float twips) override;
+
+  // For shutdown.
+  bool isMinimized() const override { return window_.isMinimized(); }
+  void unloadOtherWindows() override;
+  void enableSndQTime() override { jobs_.peers().SndQTime().enable(); }
+
+ private:
+  QSize frameSize() const { return window_.frameGeometry().size() - window_.size(); }
+
+  QMainWindow& window_;
+  const SearchFormControls& controls_;
+  SearchFormDisplay& display_;
+  SearchFormWork& jobs_;
+  SearchFormWindows& windows_;
+  /// The outer size asked for before the window had a frame.
+  std::optional<QSize> outerSizeWished_;
+};
 
 /// The main window: it puts the parts together and hands over what the user does.
 /// Closing it during a run ends the run at its next yield; the window must live until the handler that
