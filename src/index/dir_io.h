@@ -2,20 +2,24 @@
 // path. The layout of a listing: docs/formats/listing.md.
 #pragma once
 
+#include "faults/runtime_fault.h"
 #include "files/file_writer.h"
 #include "files/folder_reader.h"
 #include "files/path_style.h"
 #include "index/entry_line.h"
-#include "index/folder_names.h"
 #include "index/index_progress.h"
 #include "index/listed_name.h"
-#include "index/walk_faults.h"
+#include "platform/message_box.h"
+#include "state/program_state.h"
+#include "work/work.h"
 
 #include <QLocale>
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,6 +49,149 @@ struct LineOutputs {
 /// Writes `line` and CR LF to the output or outputs that `flags` choose. Throws fault 52 where that one is
 /// null, and RuntimeFault as FileWriter::write does.
 void writeLine(std::string_view line, const LineOutputs& outputs, int flags);
+
+/// How a step of a walk ended. Skipped: it failed, and the walk goes on with the next one. LeaveFolder: the
+/// current folder is to be left at once.
+enum class Step { Done, Skipped, LeaveFolder };
+
+/// The fault of a walk for an operating-system error. A permission that is missing is a path or file access
+/// error here: it is logged, not asked about, folder after folder. A folder that has become something else is
+/// not found.
+FaultNumber faultOfError(int errorNumber);
+
+/// The same for what a call of a reader gives: nothing for 0.
+inline std::optional<FaultNumber> faultOfReading(int errorNumber) {
+  return errorNumber == 0 ? std::nullopt : std::optional(faultOfError(errorNumber));
+}
+
+/// Decides by the fault's number: a name that is not found (53) or not accessible (75) is logged and the walk
+/// goes on; anything else is asked about with Abort, Retry and Ignore.
+class WalkFaults {
+ public:
+  /// `folderPath` is the current folder with its trailing separator, in UTF-8, whenever a step is attempted;
+  /// all four must outlive the object. The user may end `job` where asked about a fault.
+  WalkFaults(ProgramState& state, const Job& job, MessageBoxes& messages, const std::string& folderPath)
+      : state_(state), job_(job), messages_(messages), folderPath_(folderPath) {}
+
+  /// Runs `action`, again as long as the user wants to retry it. It gives nothing when all went well, else
+  /// the fault's number. `name` is what it works on, empty for the folder as a whole.
+  template <typename Action>
+  Step attempt(std::string_view name, Action action) {
+    for (;;) {
+      const std::optional<FaultNumber> fault = action();
+      if (!fault) return Step::Done;
+      const std::optional<Step> step = stepAfter(*fault, name);
+      if (step) return *step;
+    }
+  }
+
+  /// While the files' sizes and dates are read, a file that is not found is not logged: it has its line.
+  void setFilePass(bool inFilePass) { inFilePass_ = inFilePass; }
+
+  /// Appends a line to the error log: the folder's path, `name` and `what` has happened.
+  void note(std::string_view name, const QString& what);
+  /// Notes that `name` holds `mark` and why that matters; nothing when `mark` is empty.
+  void noteMark(std::string_view name, std::string_view mark);
+
+ private:
+  // Nothing: to be tried again.
+  std::optional<Step> stepAfter(FaultNumber number, std::string_view name);
+  std::optional<Step> ask(FaultNumber number, const QString& subject);
+
+  ProgramState& state_;
+  const Job& job_;
+  MessageBoxes& messages_;
+  const std::string& folderPath_;
+  bool inFilePass_ = false;
+};
+
+/// Names in the order in which they came, each with a small note. The capacity is fixed; memory that was used
+/// once is kept for the next folder.
+class NameTable {
+ public:
+  explicit NameTable(std::size_t capacity) : capacity_(capacity) {}
+
+  /// False, with nothing added, when the table is full.
+  bool add(std::string_view name, std::uint8_t note) {
+    if (rows_.size() == capacity_) return false;
+    rows_.push_back({bytes_.size(), static_cast<std::uint32_t>(name.size()), note});
+    bytes_ += name;
+    bytes_ += '\0';
+    return true;
+  }
+
+  void clear() {
+    rows_.clear();
+    bytes_.clear();
+  }
+
+  std::size_t size() const { return rows_.size(); }
+  /// A NUL stands behind it. Valid until the table changes.
+  std::string_view name(std::size_t row) const {
+    return {bytes_.data() + rows_[row].offset, rows_[row].length};
+  }
+  std::uint8_t note(std::size_t row) const { return rows_[row].note; }
+
+ private:
+  struct Row {
+    std::size_t offset;
+    std::uint32_t length;
+    std::uint8_t note;
+  };
+
+  std::size_t capacity_;
+  std::vector<Row> rows_;
+  std::string bytes_;
+};
+
+/// The most sub-folders and the most files of one folder.
+inline constexpr std::size_t kMostSubFolders = 10'001;
+inline constexpr std::size_t kMostFiles = 31'001;
+
+/// The note of a sub-folder that is a link and is not walked into.
+inline constexpr std::uint8_t kLinkToFolder = 1;
+
+/// Reads a folder once for both of its passes. Names that hold "?" are logged, as are sub-folders whose name
+/// a reader of the listing will misread. A table that overflows is fault 9; when the user ignores it, the
+/// rest of that kind is left out and the number is logged.
+class FolderNames {
+ public:
+  /// Both must outlive the object.
+  FolderNames(FolderReader& folders, WalkFaults& faults) : folders_(folders), faults_(faults) {}
+
+  /// Reads the reader's current folder. Its sub-folders come into `subFolders`, whose notes are 0 or
+  /// kLinkToFolder; files whose name fits `filePattern` are kept for files(), unless `withFiles` is false.
+  /// Gives false when the folder is to be left at once.
+  bool read(NameTable& subFolders, const QString& filePattern, bool withFiles);
+
+  /// Tells when there were more files than the table holds; to be called before they are used. Gives false
+  /// when the folder is to be left at once.
+  bool checkFileCount();
+
+  /// The files; notes are the NameTraits of their names.
+  const NameTable& files() const { return files_; }
+
+  /// Forgets what was read.
+  void clear();
+
+ private:
+  bool take(NameTable& subFolders, const FolderName& found);
+  bool takeFolder(NameTable& subFolders, std::string_view name, std::uint8_t note);
+  bool takeLink(NameTable& subFolders, std::string_view name);
+  void takeQuestioned(const FolderName& found);
+  void takeFile(std::string_view name, std::uint8_t traits);
+  void noteLeftOut(std::size_t count, const QString& kind);
+
+  FolderReader& folders_;
+  WalkFaults& faults_;
+  NameTable files_{kMostFiles};
+  QString filePattern_;
+  bool everyFile_ = true;
+  bool withFiles_ = true;
+  std::size_t subFoldersLeftOut_ = 0;
+  std::size_t filesLeftOut_ = 0;
+  std::string firstFileLeftOut_;
+};
 
 /// Events are processed at every so many files of a folder.
 inline constexpr std::size_t kFilesBetweenEvents = 50;
