@@ -1,0 +1,146 @@
+// Segment files: what is written comes back, and a file that is not whole or belongs elsewhere gives nothing.
+// Its last 32 bytes: offset, size and checksum of the directory, eight bytes each, and the eight letters.
+#include "search/segment/segment_file.h"
+
+#include "search/segment/segment_builder.h"
+#include "support/qt_printing.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace quorvin {
+namespace {
+
+constexpr qsizetype kTrailerSize = 32;
+
+class SegmentFileTest : public testing::TestWithParam<SegmentUse> {
+ protected:
+  SegmentFileTest() {
+    SegmentFileWriter writer(path_);
+    write(writer, "Volume:    V1\r\nDirectory: \\Music\\\r\nFirst Song\r\nsecond\r\n");
+    write(writer, "Third\r\n");
+    writer.finish(key_);
+    whole_ = folder_.readFile(kName);
+  }
+
+  /// The file with other bytes instead of its own; a new one, since the old one may still be mapped.
+  void replaceWith(const QByteArray& bytes) const {
+    ASSERT_TRUE(QFile::remove(path_));
+    folder_.writeFile(kName, bytes);
+  }
+
+  /// The whole file, with the byte at `fromEnd` places before its end changed.
+  QByteArray changedAt(qsizetype fromEnd) const {
+    QByteArray bytes = whole_;
+    bytes[bytes.size() - fromEnd] = static_cast<char>(bytes[bytes.size() - fromEnd] ^ 1);
+    return bytes;
+  }
+
+  std::vector<std::shared_ptr<const Segment>> open() const {
+    return openSegmentFile(path_, key_, GetParam());
+  }
+
+  void expectNoSegmentFile() const {
+    EXPECT_TRUE(open().empty());
+    EXPECT_EQ(listingOfSegmentFile(path_), QString());
+  }
+
+  const QString kName = u"some.qsegments"_qs;
+  TemporaryFolder folder_;
+  QString path_ = folder_.pathOf(kName);
+  SegmentKey key_{u"/lists/cd.lst"_qs, {60, 1, 2, 3, 4}, u"C\nd MMM yyyy"_qs};
+  QByteArray whole_;
+
+ private:
+  static void write(SegmentFileWriter& writer, const std::string& lines) {
+    const std::string text = std::string(kLinePadding, '\n') + lines + std::string(kLinePadding, '\n');
+    SegmentBuilder builder{QLocale::c()};
+    builder.addLines(text.data() + kLinePadding, lines.size());
+    builder.readAllValues();
+    builder.finishText();
+    builder.segment()->complete();
+    writer.append(*builder.segment());
+  }
+};
+
+TEST_P(SegmentFileTest, SegmentsComeBackAsTheyWere) {
+  const auto segments = open();
+  ASSERT_EQ(segments.size(), 2U);
+  ASSERT_EQ(segments[0]->entryCount(), 2U);
+  EXPECT_EQ(segments[0]->volume(0), u"V1"_qs);
+  EXPECT_EQ(segments[0]->folder(0), u"\\Music\\"_qs);
+  EXPECT_EQ(segments[0]->name(0), u"First Song"_qs);
+  EXPECT_EQ(segments[0]->name(1), u"second"_qs);
+  ASSERT_EQ(segments[1]->entryCount(), 1U);
+  EXPECT_EQ(segments[1]->name(0), u"Third"_qs);
+  EXPECT_EQ(listingOfSegmentFile(path_), u"/lists/cd.lst"_qs);
+}
+
+TEST_P(SegmentFileTest, TheFileEndsInItsEightLetters) {
+  EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT6"));
+}
+
+TEST_P(SegmentFileTest, OtherLettersAreAnotherFormat) {
+  QByteArray other = whole_;
+  other.replace(other.size() - 8, 8, "QVSEGMT5");
+  replaceWith(other);
+  expectNoSegmentFile();
+}
+
+TEST_P(SegmentFileTest, ADamagedTrailerOrDirectoryIsNoticed) {
+  for (const qsizetype fromEnd : {qsizetype{32}, qsizetype{24}, qsizetype{16}, kTrailerSize + 1}) {
+    replaceWith(changedAt(fromEnd));
+    SCOPED_TRACE(fromEnd);
+    expectNoSegmentFile();
+  }
+}
+
+TEST_P(SegmentFileTest, ACutFileIsNone) {
+  for (const qsizetype missing :
+       {qsizetype{1}, kTrailerSize, kTrailerSize + 1, whole_.size() - 31, whole_.size()}) {
+    replaceWith(whole_.chopped(missing));
+    SCOPED_TRACE(missing);
+    expectNoSegmentFile();
+  }
+}
+
+TEST_P(SegmentFileTest, ADirectoryWithBytesCutOutOfItIsNoticed) {
+  replaceWith(whole_.chopped(kTrailerSize + 4) + whole_.right(kTrailerSize));
+  expectNoSegmentFile();
+}
+
+TEST_P(SegmentFileTest, AKeyThatDiffersInAnythingOpensNothing) {
+  std::vector<SegmentKey> others(5, key_);
+  others[0].listing = u"/lists/other.lst"_qs;
+  others[1].readingRules = u"de\nd. MMM yyyy"_qs;
+  others[2].identity.size = 61;
+  others[3].identity.changed = 7;
+  others[4].identity.file = 5;
+  for (const SegmentKey& other : others) {
+    EXPECT_TRUE(openSegmentFile(path_, other, GetParam()).empty()) << other.listing.toStdString();
+  }
+  EXPECT_EQ(open().size(), 2U);
+}
+
+TEST_P(SegmentFileTest, WithoutItsEndNothingOfAFileStays) {
+  const QString other = folder_.pathOf(u"other/unfinished.qsegments"_qs);
+  { const SegmentFileWriter writer(other); }
+  EXPECT_FALSE(QFile::exists(other));
+  EXPECT_TRUE(
+      QDir(folder_.pathOf(u"other"_qs)).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+TEST_P(SegmentFileTest, NoFileIsNoSegments) {
+  ASSERT_TRUE(QFile::remove(path_));
+  expectNoSegmentFile();
+}
+
+INSTANTIATE_TEST_SUITE_P(Searched, SegmentFileTest, testing::Values(SegmentUse::Once, SegmentUse::Repeated),
+                         [](const auto& use) {
+                           return use.param == SegmentUse::Once ? "Once" : "Repeatedly";
+                         });
+
+}  // namespace
+}  // namespace quorvin
