@@ -2,6 +2,7 @@
 
 #include "lint/source_tree.h"
 
+#include "lint/header_readers.h"
 #include "lint/include_rules.h"
 
 #include <gmock/gmock.h>
@@ -96,6 +97,20 @@ TEST(SourceTree, NoFileIsLongerThan400Lines) {
     const std::ptrdiff_t lines = std::ranges::count(file.text, '\n');
     EXPECT_LE(lines, kLongestFile) << file.path << " holds more than one idea; give each a file of its own.";
   }
+}
+
+TEST(SourceTree, EveryHeaderHasTwoReadersOrATestOfItsOwn) {
+  const std::vector<SourceFile> program = programFiles();
+  const std::vector<SourceFile> tests = filesBelow("tests", {"_test.cpp"});
+  ASSERT_FALSE(program.empty());
+  ASSERT_FALSE(tests.empty());
+  const std::vector<std::string> lonely = lonelyHeaders(program, tests);
+  EXPECT_TRUE(lonely.empty()) << asLines(lonely)
+                              << "A header that one file alone includes is one more place to look. Move what "
+                                 "it declares into that file, "
+                                 "or, where the file would grow too long or hold two ideas, test it in a "
+                                 "file of its own name: foo_test.cpp "
+                                 "for foo.h.";
 }
 
 TEST(SourceTree, NoRoomHoldsMoreThan60Files) {
