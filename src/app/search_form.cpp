@@ -118,9 +118,7 @@ void SearchForm::connectMenus() {
 }
 
 void SearchForm::sourcesChanged() {
-  const bool hasSources =
-      state_.OnlineSourceCount > 0 || state_.OfflineSourceCount > 0 || !state_.TextFile.isEmpty();
-  if (hasSources) {
+  if (state_.hasSources()) {
     controls_.HitList->setEmptyText({});
     return;
   }

@@ -41,9 +41,13 @@ QByteArray imageReaderOf(PictureFormat format) {
       return "jpeg";
     case PictureFormat::Gif:
       return "gif";
-    default:
+    // Metafiles never come this far: they are drawn, not read.
+    case PictureFormat::EnhancedMetafile:
+    case PictureFormat::WindowsMetafile:
+    case PictureFormat::Bitmap:
       return "bmp";
   }
+  return {};
 }
 
 PictureFile::PictureFile(const QString& path, std::stop_source stop) : file_(path), stop_(std::move(stop)) {

@@ -14,4 +14,8 @@ QString ProgramState::onlineListingPath(const QString& description) const {
   return LocalFolder + trimBlanks(description).toString() + QStringLiteral(".txt");
 }
 
+bool ProgramState::hasSources() const {
+  return OnlineSourceCount > 0 || OfflineSourceCount > 0 || !TextFile.isEmpty();
+}
+
 }  // namespace quorvin

@@ -66,6 +66,9 @@ struct ProgramState {
   /// Where the listing of the online source of this description is kept: `LocalFolder`, the description
   /// without blanks at its ends, ".txt".
   QString onlineListingPath(const QString& description) const;
+
+  /// Whether there is anything to search: a source, or the name of a main data file.
+  bool hasSources() const;
 };
 
 }  // namespace quorvin

@@ -230,5 +230,19 @@ TEST(ProgramState, AListingIsNamedByItsDescriptionWithoutBlanksAtTheEnds) {
   EXPECT_EQ(state.onlineListingPath(QStringLiteral(" Old Music ")), QStringLiteral("/lists/Old Music.txt"));
 }
 
+TEST(ProgramStateSources, AnySourceOrTheNameOfAMainDataFileIsSomethingToSearch) {
+  ProgramState none;
+  EXPECT_FALSE(none.hasSources());
+  ProgramState online;
+  online.OnlineSourceCount = 1;
+  EXPECT_TRUE(online.hasSources());
+  ProgramState offline;
+  offline.OfflineSourceCount = 1;
+  EXPECT_TRUE(offline.hasSources());
+  ProgramState mainDataFile;
+  mainDataFile.TextFile = QStringLiteral("main.txt");
+  EXPECT_TRUE(mainDataFile.hasSources());
+}
+
 }  // namespace
 }  // namespace quorvin
