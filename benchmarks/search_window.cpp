@@ -2,8 +2,8 @@
 
 #include "app/search_form.h"
 #include "app/start_up.h"
+#include "platform/desktop_shell.h"
 #include "platform/ini_settings_store.h"
-#include "platform/shell_desktop.h"
 #include "recorded_messages.h"
 #include "state/program_state.h"
 
@@ -36,7 +36,7 @@ struct SearchWindow::Parts {
       : settings(settingsPath),
         segments(SegmentStore::defaultOptions()),
         form(state, messages, shell, locale, &segments),
-        startUp(state, settings, messages, form, nullptr) {}
+        startUp(state, settings, messages, form.frame(), nullptr) {}
 
   void press() { QTest::mouseClick(form.controls().Find, Qt::LeftButton); }
   std::int64_t rows() const { return form.controls().HitList->model()->rowCount(); }

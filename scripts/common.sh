@@ -8,7 +8,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli1
 WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
 # To build and run the tests, and to check format and code:
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14
-  at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3)
+  at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold)
 TIDY_PACKAGES=(clang-tidy-14)
 # What the clang preset needs on top:
 CLANG_PACKAGES=(clang-14 libclang-rt-14-dev)
