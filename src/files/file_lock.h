@@ -5,6 +5,9 @@
 
 #include <QString>
 
+#include <optional>
+#include <utility>
+
 namespace quorvin {
 
 /// Holds the right to change a file as long as it lives. Only one program has it at a time, and the system
@@ -19,6 +22,21 @@ class FileLock {
 
  private:
   Descriptor file_;
+};
+
+/// Holds a folder as long as it lives, for work that only one program at a time may do in it. The lock is on
+/// the folder itself, so that it leaves no file behind, and the system takes it back when its program ends,
+/// however it ends.
+class FolderLock {
+ public:
+  /// Nothing while another holder has the folder, in this program or another. Never waits, never throws: a
+  /// folder that cannot be opened, or a file system without locks, keeps nobody apart.
+  static std::optional<FolderLock> take(const QString& folder);
+
+ private:
+  explicit FolderLock(Descriptor folder) : folder_(std::move(folder)) {}
+
+  Descriptor folder_;
 };
 
 }  // namespace quorvin

@@ -45,4 +45,13 @@ FileLock::FileLock(const QString& path, int milliseconds) : file_(openLockFile(p
   if (!takeLock(file_.get(), milliseconds)) throw faultOfSystemError(EBUSY, path);
 }
 
+std::optional<FolderLock> FolderLock::take(const QString& folder) {
+  constexpr int kFolderOnly = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+  // A path with a NUL leads nowhere.
+  const QByteArray path = folder.contains(QChar(u'\0')) ? QByteArray() : encodedPath(folder);
+  Descriptor opened(::open(path.constData(), kFolderOnly));
+  if (opened.isOpen() && !takeLock(opened.get(), 0)) return std::nullopt;
+  return FolderLock(std::move(opened));
+}
+
 }  // namespace quorvin

@@ -57,8 +57,9 @@ class FolderTrail {
   int enter(const char* name);
   void leave();
 
-  /// The descriptor of the current folder; -1 when it could not be found again.
+  /// The descriptor of the current folder; -1 when it could not be found again, and why().
   int current() const { return folders_[depth_ - 1].descriptor; }
+  int why() const { return folders_[depth_ - 1].error; }
 
   bool topIsStillAt(const QString& path) const;
 
@@ -66,6 +67,8 @@ class FolderTrail {
   struct Folder {
     std::string name;
     int descriptor = -1;
+    // Why it is not open any more.
+    int error = ENOENT;
     // Set when the folder is closed on the way down.
     FolderIdentity identity;
   };
@@ -102,7 +105,7 @@ int FolderTrail::enterTop(const QString& path) {
 }
 
 int FolderTrail::enter(const char* name) {
-  if (current() < 0) return ENOENT;
+  if (current() < 0) return why();
   int descriptor = -1;
   do {
     descriptor = ::openat(current(), name, kFolderOnly | O_NOFOLLOW);
@@ -146,17 +149,17 @@ void FolderTrail::leave() {
 }
 
 void FolderTrail::findAgain(Folder& folder, int subFolder) {
-  const auto isTheSame = [&folder](int descriptor) {
-    return descriptor >= 0 && identityOf(descriptor) == folder.identity;
+  const auto takeIfTheSame = [&folder](int descriptor) {
+    folder.error = descriptor < 0 ? errno : ENOENT;
+    folder.descriptor = descriptor;
+    if (descriptor >= 0 && identityOf(descriptor) == folder.identity) return true;
+    if (descriptor >= 0) ::close(descriptor);
+    folder.descriptor = -1;
+    return false;
   };
-  if (subFolder >= 0) folder.descriptor = ::openat(subFolder, "..", kFolderOnly);
-  if (isTheSame(folder.descriptor)) return;
+  if (subFolder >= 0 && takeIfTheSame(::openat(subFolder, "..", kFolderOnly))) return;
   // The sub-folder has been moved or removed meanwhile.
-  if (folder.descriptor >= 0) ::close(folder.descriptor);
-  folder.descriptor = openFromTop();
-  if (isTheSame(folder.descriptor)) return;
-  if (folder.descriptor >= 0) ::close(folder.descriptor);
-  folder.descriptor = -1;
+  takeIfTheSame(openFromTop());
 }
 
 // Opens the current folder by the names that lead to it; the caller checks which folder that is now.
@@ -164,19 +167,19 @@ int FolderTrail::openFromTop() const {
   int descriptor = ::open(topPath_.constData(), kFolderOnly);
   for (std::size_t i = 1; i < depth_ && descriptor >= 0; ++i) {
     const int below = ::openat(descriptor, folders_[i].name.c_str(), kFolderOnly | O_NOFOLLOW);
+    const int error = errno;
     ::close(descriptor);
+    errno = error;
     descriptor = below;
   }
   return descriptor;
 }
 
+// Without opening it: where no descriptor is left, that would pass for a folder that is gone.
 bool FolderTrail::topIsStillAt(const QString& path) const {
-  if (!canBePath(path)) return false;
-  const int descriptor = ::open(QFile::encodeName(path).constData(), kFolderOnly);
-  if (descriptor < 0) return false;
-  const bool same = identityOf(descriptor) == top_;
-  ::close(descriptor);
-  return same;
+  struct stat found {};
+  if (!canBePath(path) || ::stat(QFile::encodeName(path).constData(), &found) != 0) return false;
+  return FolderIdentity{found.st_dev, found.st_ino} == top_;
 }
 
 NameKind kindOfMode(mode_t mode) {
@@ -230,7 +233,7 @@ class LinuxFolderReader : public FolderReader {
   }
 
   int lookUp(const char* name, NameStatus& status) override {
-    if (trail_.current() < 0) return ENOENT;
+    if (trail_.current() < 0) return trail_.why();
     struct stat found;
     if (::fstatat(trail_.current(), name, &found, AT_NO_AUTOMOUNT) != 0) return errno;
     status = {kindOfMode(found.st_mode), found.st_size, found.st_mtim.tv_sec};
@@ -244,7 +247,7 @@ class LinuxFolderReader : public FolderReader {
 
   int fill() {
     forgetNames();
-    if (trail_.current() < 0) return ENOENT;
+    if (trail_.current() < 0) return trail_.why();
     const ssize_t count = ::getdents64(trail_.current(), buffer_.data(), buffer_.size());
     if (count < 0) return errno;
     filled_ = static_cast<std::size_t>(count);

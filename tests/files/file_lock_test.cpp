@@ -65,6 +65,38 @@ TEST(FileLock, DoesNotFollowALink) {
   EXPECT_FALSE(place.has(u"elsewhere"_qs));
 }
 
+TEST(FolderLock, IsHeldByOneAtATimeAndLeavesNothingBehind) {
+  const TemporaryFolder place;
+  {
+    const std::optional<FolderLock> lock = FolderLock::take(place.path());
+    EXPECT_TRUE(lock);
+    EXPECT_FALSE(FolderLock::take(place.path()));
+  }
+  EXPECT_TRUE(FolderLock::take(place.path()));
+  EXPECT_EQ(place.names(), QStringList());
+}
+
+TEST(FolderLock, OfAKilledProgramIsFree) {
+  const TemporaryFolder place;
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const std::optional<FolderLock> lock = FolderLock::take(place.path());
+    ::raise(lock ? SIGKILL : SIGABRT);
+  }
+  int status = 0;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  ASSERT_EQ(WTERMSIG(status), SIGKILL);
+  EXPECT_TRUE(FolderLock::take(place.path()));
+}
+
+TEST(FolderLock, OfAFolderThatIsNotThereKeepsNobodyOut) {
+  const TemporaryFolder place;
+  const std::optional<FolderLock> lock = FolderLock::take(place.pathOf(u"none/"_qs));
+  EXPECT_TRUE(lock);
+  EXPECT_TRUE(FolderLock::take(place.pathOf(u"none/"_qs)));
+  EXPECT_TRUE(FolderLock::take(QString()));
+}
+
 }  // namespace
 
 }  // namespace quorvin

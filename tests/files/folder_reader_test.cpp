@@ -224,5 +224,25 @@ TEST(FolderReader, AFolderThatCannotBeFoundAgainHoldsNothing) {
   EXPECT_EQ(reader->enter("other"), 0);
 }
 
+TEST(FolderReader, AFolderThatTooFewDescriptorsHideIsNotTakenForOneThatIsGone) {
+  const TemporaryFolder folder;
+  folder.makeFolder(u"a/b/c"_qs);
+  folder.makeFolder(u"a/z"_qs);
+  const auto reader = makeFolderReader(2);
+  ASSERT_EQ(reader->enterTop(folder.path()), 0);
+  for (const char* name : {"a", "b", "c"}) ASSERT_EQ(reader->enter(name), 0);
+  {
+    const test::FewDescriptors none(0);
+    EXPECT_TRUE(reader->topIsStillAt(folder.path()));
+    reader->leave();
+    reader->leave();
+  }
+  FolderName name;
+  NameStatus status;
+  EXPECT_EQ(reader->enter("z"), EMFILE);
+  EXPECT_EQ(reader->lookUp("z", status), EMFILE);
+  EXPECT_EQ(reader->next(name), EMFILE);
+}
+
 }  // namespace
 }  // namespace quorvin
