@@ -6,6 +6,8 @@
 
 #include <QScopeGuard>
 
+#include <utility>
+
 namespace quorvin {
 
 namespace {
@@ -24,10 +26,6 @@ constexpr std::string_view kNeverListed = "pagefile.sys";
 
 bool fitsEveryName(const QString& pattern) {
   return pattern == QStringLiteral("*.*") || pattern == QStringLiteral("*");
-}
-
-QString textOf(std::string_view name) {
-  return textOfUtf8(listedText(name));
 }
 
 }  // namespace
@@ -59,21 +57,22 @@ DirIO::DirIO(ProgramState& state, FolderReader& folders, IndexProgress& progress
       names_(folders, faults_),
       entryLines_(locale) {}
 
-bool DirIO::walk(QString& folderPath, const QString& filePattern, const LineOutputs& outputs,
-                 const QString& volumeText, int flags) {
+WalkResult DirIO::walk(QString& folderPath, const QString& filePattern, const LineOutputs& outputs,
+                       const QString& volumeText, int flags) {
   // Where there are no drives, a separator alone is a folder; no path at all must not become that one.
   const bool isEmpty = folderPath.isEmpty();
   folderPath = withTrailingSeparator(folderPath, style_);
-  if (isEmpty || folderPath.size() <= style_.drivePrefixLength) return false;
+  result_ = {};
+  if (isEmpty || folderPath.size() <= style_.drivePrefixLength) return result_;
 
   job_ = {folderPath, filePattern, outputs, "Volume:    " + lineText(bytesOf(volumeText)), flags};
   const auto unwinding = qScopeGuard([this] { leaveAll(); });
-  const bool opened = listTop();
+  listTop();
   while (depth_ > 0) walkOn();
-  return opened;
+  return result_;
 }
 
-bool DirIO::listTop() {
+void DirIO::listTop() {
   path_.clear();
   listedPath_.clear();
   Level& top = addLevel();
@@ -82,7 +81,7 @@ bool DirIO::listTop() {
   noteHostileTop(listed);
   listedPath_ = lineText(listed);
   listFolder(top, {});
-  return top.entered;
+  result_.opened = top.entered;
 }
 
 // The path above all names is the user's own, and no pass over names has looked at it.
@@ -137,7 +136,10 @@ void DirIO::leaveFolder() {
   if (depth_ == 0) return;
   progress_.letEventsRun(counts_);
   Level& above = *levels_[depth_ - 1];
-  if (progress_.job().isAbortRequested()) above.nextSubFolder = above.subFolders.size();
+  if (!progress_.job().isAbortRequested()) return;
+  while (above.nextSubFolder < above.subFolders.size()) {
+    if (above.subFolders.note(above.nextSubFolder++) != kLinkToFolder) result_.isWhole = false;
+  }
 }
 
 void DirIO::leaveAll() {
@@ -152,7 +154,11 @@ void DirIO::listFolder(Level& level, std::string_view name) {
   progress_.letEventsRun(counts_);
   writeHead();
   // A folder that was left at once has no sub-folders to walk.
-  if (!listContents(level, name)) level.subFolders.clear();
+  if (!listContents(level, name)) {
+    level.subFolders.clear();
+    result_.isWhole = false;
+  }
+  result_.leftOut += static_cast<std::int64_t>(names_.leftOut());
 }
 
 // False when the folder is to be left at once.
@@ -164,7 +170,7 @@ bool DirIO::listContents(Level& level, std::string_view name) {
 
 bool DirIO::readNames(Level& level, std::string_view name) {
   names_.clear();
-  const Step entering = faults_.attempt({}, [&] { return faultOfReading(enter(name)); });
+  const Step entering = faults_.attempt({}, [&] { return faults_.faultOfReading(enter(name)); });
   level.entered = entering == Step::Done;
   if (!level.entered) return entering == Step::Skipped;
   return names_.read(level.subFolders, job_.filePattern, (job_.flags & kFoldersOnly) == 0);
@@ -201,6 +207,7 @@ bool DirIO::writeFiles() {
   for (std::size_t row = 0; row < files.size(); ++row) {
     if (!writeFile(files.name(row), files.note(row))) return false;
     ++counts_.files;
+    ++result_.files;
     if (row % kFilesBetweenEvents == 0) progress_.letEventsRun(counts_);
   }
   return true;
@@ -215,7 +222,7 @@ bool DirIO::writeFile(std::string_view name, NameTraits traits) {
   } else {
     NameStatus status;
     const Step step =
-        faults_.attempt(name, [&] { return faultOfReading(folders_.lookUp(name.data(), status)); });
+        faults_.attempt(name, [&] { return faults_.faultOfReading(folders_.lookUp(name.data(), status)); });
     if (step == Step::LeaveFolder) return false;
     if (step == Step::Done) file = {name, status.size, status.modified};
   }
@@ -235,8 +242,8 @@ bool DirIO::writeFile(std::string_view name, NameTraits traits) {
 
 void FolderNames::clear() {
   files_.clear();
-  subFoldersLeftOut_ = 0;
-  filesLeftOut_ = 0;
+  subFoldersLeftOut_ = {};
+  filesLeftOut_ = {};
 }
 
 bool FolderNames::read(NameTable& subFolders, const QString& filePattern, bool withFiles) {
@@ -246,13 +253,12 @@ bool FolderNames::read(NameTable& subFolders, const QString& filePattern, bool w
   withFiles_ = withFiles;
   for (;;) {
     FolderName found;
-    const Step step = faults_.attempt({}, [&] { return faultOfReading(folders_.next(found)); });
+    const Step step = faults_.attempt({}, [&] { return faults_.faultOfReading(folders_.next(found)); });
     if (step == Step::LeaveFolder) return false;
     if (step == Step::Skipped || found.bytes.empty()) break;
     if (!take(subFolders, found)) return false;
   }
-  noteLeftOut(subFoldersLeftOut_, QStringLiteral("sub-folders"));
-  return true;
+  return report(subFoldersLeftOut_, QStringLiteral("sub-folders"), subFolders.size());
 }
 
 bool FolderNames::take(NameTable& subFolders, const FolderName& found) {
@@ -264,7 +270,7 @@ bool FolderNames::take(NameTable& subFolders, const FolderName& found) {
     return true;
   }
   if (found.kind == NameKind::File) takeFile(name, traits);
-  if (found.kind == NameKind::Folder) return takeFolder(subFolders, name, 0);
+  if (found.kind == NameKind::Folder) takeFolder(subFolders, name, 0);
   if (found.kind == NameKind::Link) return takeLink(subFolders, name);
   return true;
 }
@@ -272,10 +278,11 @@ bool FolderNames::take(NameTable& subFolders, const FolderName& found) {
 bool FolderNames::takeLink(NameTable& subFolders, std::string_view name) {
   NameStatus target;
   const Step step =
-      faults_.attempt(name, [&] { return faultOfReading(folders_.lookUp(name.data(), target)); });
+      faults_.attempt(name, [&] { return faults_.faultOfReading(folders_.lookUp(name.data(), target)); });
   if (step != Step::Done) return step == Step::Skipped;
   if (target.kind == NameKind::File) takeFile(name, traitsOfName(name));
-  return target.kind != NameKind::Folder || takeFolder(subFolders, name, kLinkToFolder);
+  if (target.kind == NameKind::Folder) takeFolder(subFolders, name, kLinkToFolder);
+  return true;
 }
 
 // Only what is a file goes on into the listing.
@@ -286,95 +293,33 @@ void FolderNames::takeQuestioned(const FolderName& found) {
   if (target.kind == NameKind::File) takeFile(found.bytes, traitsOfName(found.bytes));
 }
 
-bool FolderNames::takeFolder(NameTable& subFolders, std::string_view name, std::uint8_t note) {
-  const auto add = [&]() -> std::optional<FaultNumber> {
-    if (subFolders.add(name, note)) return std::nullopt;
-    return FaultNumber::SubscriptOutOfRange;
-  };
-  if (subFoldersLeftOut_ > 0) {
-    ++subFoldersLeftOut_;
-    return true;
+void FolderNames::takeFolder(NameTable& subFolders, std::string_view name, std::uint8_t note) {
+  if (subFolders.add(name, note)) {
+    faults_.noteMark(name, markInFolder(name));
+  } else {
+    subFoldersLeftOut_.add(name);
   }
-  const Step step = faults_.attempt(name, add);
-  if (step == Step::LeaveFolder) return false;
-  if (step == Step::Skipped) {
-    ++subFoldersLeftOut_;
-    return true;
-  }
-  faults_.noteMark(name, markInFolder(name));
-  return true;
 }
 
 void FolderNames::takeFile(std::string_view name, NameTraits traits) {
   if (!withFiles_) return;
   if (!everyFile_ && !fitsWildcards(textOfUtf8(listedText(name)), filePattern_)) return;
-  if (files_.add(name, traits)) return;
-  if (filesLeftOut_ == 0) firstFileLeftOut_ = name;
-  ++filesLeftOut_;
+  if (!files_.add(name, traits)) filesLeftOut_.add(name);
 }
 
 bool FolderNames::checkFileCount() {
-  if (filesLeftOut_ == 0) return true;
-  const auto overflow = [] { return std::optional(FaultNumber::SubscriptOutOfRange); };
-  if (faults_.attempt(firstFileLeftOut_, overflow) == Step::LeaveFolder) return false;
-  noteLeftOut(filesLeftOut_, QStringLiteral("files"));
-  return true;
+  return report(filesLeftOut_, QStringLiteral("files"), files_.size());
 }
 
-void FolderNames::noteLeftOut(std::size_t count, const QString& kind) {
-  if (count == 0) return;
+// False when the folder is to be left at once.
+bool FolderNames::report(const LeftOut& leftOut, const QString& kind, std::size_t room) {
+  const std::size_t count = leftOut.count;
+  if (count == 0) return true;
+  if (faults_.reportFull(leftOut.first, kind, count, room + count) == Step::LeaveFolder) return false;
   const QString names =
       count == 1 ? QStringLiteral("1 name was") : QStringLiteral("%1 names were").arg(count);
   faults_.note({}, QStringLiteral(" holds too many %1; %2 left out").arg(kind, names));
-}
-
-FaultNumber faultOfError(int errorNumber) {
-  switch (const FaultNumber number = faultOfSystemError(errorNumber, {}).faultNumber()) {
-    case FaultNumber::PermissionDenied:
-      return FaultNumber::PathFileAccess;
-    case FaultNumber::PathNotFound:
-      return FaultNumber::FileNotFound;
-    default:
-      return number;
-  }
-}
-
-void WalkFaults::note(std::string_view name, const QString& what) {
-  state_.errorLog += textOfUtf8(lineText(folderPath_)) + textOf(name) + what + QStringLiteral("\r\n");
-}
-
-void WalkFaults::noteMark(std::string_view name, std::string_view mark) {
-  if (mark.empty()) return;
-  note(name, QStringLiteral(" holds \"%1\"; a search misreads its line").arg(textOfUtf8(mark)));
-}
-
-std::optional<Step> WalkFaults::stepAfter(FaultNumber number, std::string_view name) {
-  if (number == FaultNumber::FileNotFound) {
-    if (!inFilePass_) note(name, QStringLiteral(" File not found (invalid name)"));
-    return Step::Skipped;
-  }
-  // A line or a question that names nothing would help nobody.
-  const QString subject = name.empty() ? textOfUtf8(lineText(folderPath_)) : textOf(name);
-  if (number != FaultNumber::PathFileAccess) return ask(number, subject);
-  state_.errorLog += subject + QStringLiteral(" Access Error (invalid name or permission)\r\n");
-  return Step::Skipped;
-}
-
-std::optional<Step> WalkFaults::ask(FaultNumber number, const QString& subject) {
-  const QString text = QStringLiteral("Error Number: %1 ").arg(static_cast<int>(number)) + describe(number) +
-                       QStringLiteral("\r\nError reading:") + subject + QStringLiteral(" Skipping.");
-  switch (messages_.askAbortRetryIgnore(text)) {
-    case FaultAnswer::Retry:
-      return std::nullopt;
-    case FaultAnswer::Ignore:
-      return Step::Skipped;
-    case FaultAnswer::Abort:
-      return Step::LeaveFolder;
-    case FaultAnswer::Closed:
-      break;
-  }
-  job_.requestStop();
-  return Step::LeaveFolder;
+  return true;
 }
 
 }  // namespace quorvin

@@ -9,6 +9,7 @@
 #include "index/entry_line.h"
 #include "index/index_progress.h"
 #include "index/listed_name.h"
+#include "index/walk_faults.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 #include "work/work.h"
@@ -49,61 +50,6 @@ struct LineOutputs {
 /// Writes `line` and CR LF to the output or outputs that `flags` choose. Throws fault 52 where that one is
 /// null, and RuntimeFault as FileWriter::write does.
 void writeLine(std::string_view line, const LineOutputs& outputs, int flags);
-
-/// How a step of a walk ended. Skipped: it failed, and the walk goes on with the next one. LeaveFolder: the
-/// current folder is to be left at once.
-enum class Step { Done, Skipped, LeaveFolder };
-
-/// The fault of a walk for an operating-system error. A permission that is missing is a path or file access
-/// error here: it is logged, not asked about, folder after folder. A folder that has become something else is
-/// not found.
-FaultNumber faultOfError(int errorNumber);
-
-/// The same for what a call of a reader gives: nothing for 0.
-inline std::optional<FaultNumber> faultOfReading(int errorNumber) {
-  return errorNumber == 0 ? std::nullopt : std::optional(faultOfError(errorNumber));
-}
-
-/// Decides by the fault's number: a name that is not found (53) or not accessible (75) is logged and the walk
-/// goes on; anything else is asked about with Abort, Retry and Ignore.
-class WalkFaults {
- public:
-  /// `folderPath` is the current folder with its trailing separator, in UTF-8, whenever a step is attempted;
-  /// all four must outlive the object. The user may end `job` where asked about a fault.
-  WalkFaults(ProgramState& state, const Job& job, MessageBoxes& messages, const std::string& folderPath)
-      : state_(state), job_(job), messages_(messages), folderPath_(folderPath) {}
-
-  /// Runs `action`, again as long as the user wants to retry it. It gives nothing when all went well, else
-  /// the fault's number. `name` is what it works on, empty for the folder as a whole.
-  template <typename Action>
-  Step attempt(std::string_view name, Action action) {
-    for (;;) {
-      const std::optional<FaultNumber> fault = action();
-      if (!fault) return Step::Done;
-      const std::optional<Step> step = stepAfter(*fault, name);
-      if (step) return *step;
-    }
-  }
-
-  /// While the files' sizes and dates are read, a file that is not found is not logged: it has its line.
-  void setFilePass(bool inFilePass) { inFilePass_ = inFilePass; }
-
-  /// Appends a line to the error log: the folder's path, `name` and `what` has happened.
-  void note(std::string_view name, const QString& what);
-  /// Notes that `name` holds `mark` and why that matters; nothing when `mark` is empty.
-  void noteMark(std::string_view name, std::string_view mark);
-
- private:
-  // Nothing: to be tried again.
-  std::optional<Step> stepAfter(FaultNumber number, std::string_view name);
-  std::optional<Step> ask(FaultNumber number, const QString& subject);
-
-  ProgramState& state_;
-  const Job& job_;
-  MessageBoxes& messages_;
-  const std::string& folderPath_;
-  bool inFilePass_ = false;
-};
 
 /// Names in the order in which they came, each with a small note. The capacity is fixed; memory that was used
 /// once is kept for the next folder.
@@ -152,8 +98,9 @@ inline constexpr std::size_t kMostFiles = 31'001;
 inline constexpr std::uint8_t kLinkToFolder = 1;
 
 /// Reads a folder once for both of its passes. Names that hold "?" are logged, as are sub-folders whose name
-/// a reader of the listing will misread. A table that overflows is fault 9; when the user ignores it, the
-/// rest of that kind is left out and the number is logged.
+/// a reader of the listing will misread. A table that overflows is fault 9, which the user is asked about
+/// when the folder has been read; when the user ignores it, the rest of that kind is left out and the number
+/// is logged.
 class FolderNames {
  public:
   /// Both must outlive the object.
@@ -171,16 +118,28 @@ class FolderNames {
   /// The files; notes are the NameTraits of their names.
   const NameTable& files() const { return files_; }
 
+  /// How many names had no room.
+  std::size_t leftOut() const { return subFoldersLeftOut_.count + filesLeftOut_.count; }
+
   /// Forgets what was read.
   void clear();
 
  private:
+  struct LeftOut {
+    std::size_t count = 0;
+    std::string first;
+
+    void add(std::string_view name) {
+      if (count++ == 0) first = name;
+    }
+  };
+
   bool take(NameTable& subFolders, const FolderName& found);
-  bool takeFolder(NameTable& subFolders, std::string_view name, std::uint8_t note);
+  void takeFolder(NameTable& subFolders, std::string_view name, std::uint8_t note);
   bool takeLink(NameTable& subFolders, std::string_view name);
   void takeQuestioned(const FolderName& found);
   void takeFile(std::string_view name, std::uint8_t traits);
-  void noteLeftOut(std::size_t count, const QString& kind);
+  bool report(const LeftOut& leftOut, const QString& kind, std::size_t room);
 
   FolderReader& folders_;
   WalkFaults& faults_;
@@ -188,9 +147,8 @@ class FolderNames {
   QString filePattern_;
   bool everyFile_ = true;
   bool withFiles_ = true;
-  std::size_t subFoldersLeftOut_ = 0;
-  std::size_t filesLeftOut_ = 0;
-  std::string firstFileLeftOut_;
+  LeftOut subFoldersLeftOut_;
+  LeftOut filesLeftOut_;
 };
 
 /// Events are processed at every so many files of a folder.
@@ -199,6 +157,18 @@ inline constexpr std::size_t kFilesBetweenEvents = 50;
 /// A folder whose path in the listing, with the backslash at its end, has more bytes is left out: readers
 /// refuse lines of 1 MiB and more.
 inline constexpr std::size_t kLongestListedFolder = 1'000'000;
+
+/// What came of a walk.
+struct WalkResult {
+  /// The folder itself could be opened.
+  bool opened = false;
+  /// Every folder was listed to its end, as far as it could be read: nobody has ended the walk, or a folder.
+  bool isWhole = true;
+  /// Entry lines that were written.
+  std::int64_t files = 0;
+  /// Names that were left out, since their folder holds more than a table takes.
+  std::int64_t leftOut = 0;
+};
 
 /// The walk, depth first, each folder's block before those of its sub-folders, nothing sorted. One object
 /// serves one walk after another and keeps what can be used again; `counts()` goes on from walk to walk.
@@ -218,10 +188,10 @@ class DirIO {
   /// every 50th file of it and after each sub-folder. `AbortRequested` is looked at after each sub-folder:
   /// when it is set the remaining ones are not walked. It is never cleared.
   ///
-  /// Gives whether the folder itself could be opened. Throws RuntimeFault when an output cannot be written:
-  /// such a fault belongs to no name, and a listing with holes must not pass for a whole one.
-  bool walk(QString& folderPath, const QString& filePattern, const LineOutputs& outputs,
-            const QString& volumeText, int flags);
+  /// Throws RuntimeFault when an output cannot be written, and as throwIfExhausted() does: such a fault
+  /// belongs to no name, and a listing with holes must not pass for a whole one.
+  WalkResult walk(QString& folderPath, const QString& filePattern, const LineOutputs& outputs,
+                  const QString& volumeText, int flags);
 
   /// All that was listed since the object was made.
   const IndexCounts& counts() const { return counts_; }
@@ -245,7 +215,7 @@ class DirIO {
     std::size_t listedAbove = 0;
   };
 
-  bool listTop();
+  void listTop();
   void walkOn();
   void walkSubFolder(std::string_view name);
   Level& addLevel();
@@ -276,6 +246,7 @@ class DirIO {
   IndexCounts counts_;
 
   Job job_;
+  WalkResult result_;
   // Levels are kept when folders are left, so that their memory serves the next ones.
   std::vector<std::unique_ptr<Level>> levels_;
   std::size_t depth_ = 0;

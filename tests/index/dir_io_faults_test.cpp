@@ -1,5 +1,6 @@
 // The walk when folders and names cannot be read.
 #include "index/walk_fixture.h"
+#include "support/fault_number.h"
 
 #include <cerrno>
 #include <unistd.h>
@@ -37,8 +38,33 @@ TEST_F(DirIOFaults, AFileThatIsGoneHasSizeMinus1AndIsNotLogged) {
 TEST_F(DirIOFaults, AFileThatIsNotAccessibleIsLoggedAndListed) {
   folders.lookUpErrors["D:\\a\\one"] = {EACCES};
   EXPECT_TRUE(walk().startsWith(top + unknown + fakeFile("two") + head("\\a\\b\\")));
-  EXPECT_EQ(state.errorLog, u"one Access Error (invalid name or permission)\r\n"_qs);
+  EXPECT_EQ(state.errorLog, u"In D:\\a\\:\r\none Access Error (invalid name or permission)\r\n"_qs);
   EXPECT_TRUE(messages.askedOfFaults.empty());
+}
+
+TEST_F(DirIOFaults, FilesOfOneFolderThatAreNotAccessibleHaveItAboveThemOnce) {
+  folders.lookUpErrors["D:\\a\\one"] = {EACCES};
+  folders.lookUpErrors["D:\\a\\two"] = {EACCES};
+  folders.lookUpErrors["D:\\a\\b\\three"] = {EACCES};
+  walk();
+  EXPECT_EQ(state.errorLog,
+            u"In D:\\a\\:\r\none Access Error (invalid name or permission)\r\n"
+            "two Access Error (invalid name or permission)\r\n"
+            "In D:\\a\\b\\:\r\nthree Access Error (invalid name or permission)\r\n"_qs);
+}
+
+TEST_F(DirIOFaults, AnotherLineBetweenAccessErrorsHasTheFolderNamedAgain) {
+  folders.addName("D:\\a\\", "first", NameKind::Link);
+  folders.addName("D:\\a\\", "gone", NameKind::Link);
+  folders.addName("D:\\a\\", "last", NameKind::Link);
+  folders.lookUpErrors["D:\\a\\first"] = {EACCES};
+  folders.lookUpErrors["D:\\a\\gone"] = {ENOENT};
+  folders.lookUpErrors["D:\\a\\last"] = {EACCES};
+  walk();
+  EXPECT_EQ(state.errorLog,
+            u"In D:\\a\\:\r\nfirst Access Error (invalid name or permission)\r\n"
+            "D:\\a\\gone File not found (invalid name)\r\n"
+            "In D:\\a\\:\r\nlast Access Error (invalid name or permission)\r\n"_qs);
 }
 
 TEST_F(DirIOFaults, ABrokenLinkIsLoggedAndLeftOut) {
@@ -134,7 +160,47 @@ TEST_F(DirIOFaults, AnyOtherAnswerIsAStopRequest) {
 TEST_F(DirIOFaults, ATopThatCannotBeOpenedIsToldToTheCaller) {
   folders.enterErrors["D:\\a\\"] = {ENOENT};
   EXPECT_EQ(walk(), head("\\a\\"));
-  EXPECT_FALSE(topOpened);
+  EXPECT_FALSE(result.opened);
+}
+
+TEST_F(DirIOFaults, TooFewDescriptorsOrTooLittleMemoryEndTheWalk) {
+  for (const int error : {EMFILE, ENFILE, ENOMEM}) {
+    folders.enterErrors["D:\\a\\b\\"] = {error};
+    EXPECT_FAULT(walk(), 75) << error;
+    EXPECT_EQ(folders.depth(), 0U);
+  }
+  EXPECT_EQ(state.errorLog, QString());
+  EXPECT_TRUE(messages.askedOfFaults.empty());
+}
+
+TEST_F(DirIOFaults, AWalkThatListedAllItCouldReadIsWhole) {
+  folders.enterErrors["D:\\a\\b\\"] = {EACCES};
+  walk();
+  EXPECT_TRUE(result.isWhole);
+  EXPECT_EQ(result.files, 2);
+  EXPECT_EQ(result.leftOut, 0);
+}
+
+TEST_F(DirIOFaults, AFolderThatIsLeftMakesTheWalkIncomplete) {
+  folders.lookUpErrors["D:\\a\\b\\three"] = {EIO};
+  answer({FaultAnswer::Abort});
+  walk();
+  EXPECT_FALSE(result.isWhole);
+  walk();
+  EXPECT_TRUE(result.isWhole);
+}
+
+TEST_F(DirIOFaults, AStopRequestMakesTheWalkIncompleteOnlyWhereFoldersAreLeftOut) {
+  state.AbortRequested = true;
+  walk();
+  EXPECT_FALSE(result.isWhole);
+  FakeFolders single('\\');
+  single.addFolder("D:\\a\\");
+  single.addFolder("D:\\a\\b\\");
+  single.addName("D:\\a\\", "link", NameKind::Link);
+  single.targets["D:\\a\\link"] = {NameKind::Folder, 0, 0};
+  WalkTest::walk(single, u"D:\\a\\"_qs, kWindowsPaths);
+  EXPECT_TRUE(result.isWhole);
 }
 
 std::vector<std::string> numbered(std::size_t count) {
@@ -159,7 +225,10 @@ TEST_F(DirIOFaults, MoreFilesAreAnOverflowAndIgnoreLeavesTheRestOut) {
   EXPECT_TRUE(listing.endsWith(fakeFile("31000")));
   ASSERT_EQ(messages.askedOfFaults.size(), 2U);
   EXPECT_EQ(messages.askedOfFaults[1],
-            u"Error Number: 9 Subscript out of range\r\nError reading:31001 Skipping."_qs);
+            u"Error Number: 9 Subscript out of range\r\nError reading:31001 Skipping."
+            "\r\nLeft out: 5 of 31006 files in D:\\a\\"_qs);
+  EXPECT_EQ(result.leftOut, 5);
+  EXPECT_EQ(result.files, 31'001);
   EXPECT_EQ(state.errorLog, u"D:\\a\\ holds too many files; 5 names were left out\r\n"_qs);
 }
 
@@ -184,7 +253,9 @@ TEST_F(DirIOFaults, MoreThan10001SubFoldersAreAnOverflowAndIgnoreLeavesTheRestOu
   EXPECT_TRUE(listing.contains("<DIR> 10000\r\n\r\n" + fakeFile("file")));
   ASSERT_EQ(messages.askedOfFaults.size(), 1U);
   EXPECT_EQ(messages.askedOfFaults[0],
-            u"Error Number: 9 Subscript out of range\r\nError reading:10001 Skipping."_qs);
+            u"Error Number: 9 Subscript out of range\r\nError reading:10001 Skipping."
+            "\r\nLeft out: 3 of 10004 sub-folders in D:\\a\\"_qs);
+  EXPECT_EQ(result.leftOut, 3);
   EXPECT_EQ(state.errorLog, u"D:\\a\\ holds too many sub-folders; 3 names were left out\r\n"_qs);
 }
 
@@ -199,7 +270,8 @@ TEST_F(DirIORealFaults, ABrokenLinkAndALinkLoopAreLogged) {
   ASSERT_EQ(::unlink((tree.path().toUtf8() + "broken").constData()), 0);
   ASSERT_EQ(::symlink("loop", (tree.path().toUtf8() + "loop").constData()), 0);
   EXPECT_EQ(walk(tree.path()), head(listed(tree.path())));
-  EXPECT_EQ(state.errorLog, u"loop Access Error (invalid name or permission)\r\n"_qs);
+  EXPECT_EQ(state.errorLog,
+            u"In "_qs + tree.path() + u":\r\nloop Access Error (invalid name or permission)\r\n"_qs);
   EXPECT_TRUE(messages.askedOfFaults.empty());
 }
 
@@ -258,7 +330,8 @@ TEST_F(DirIOPermissions, FilesOfAFolderThatMayOnlyBeListedAreLogged) {
   const QByteArray listing = walk(tree.path());
   ::chmod(sub.constData(), 0700);
   EXPECT_TRUE(listing.endsWith(head(listed(tree.path()) + "sub\\") + fakeFile("inside", "-1", "00:00:00")));
-  EXPECT_EQ(state.errorLog, u"inside Access Error (invalid name or permission)\r\n"_qs);
+  EXPECT_EQ(state.errorLog,
+            u"In "_qs + tree.path() + u"sub/:\r\ninside Access Error (invalid name or permission)\r\n"_qs);
 }
 
 }  // namespace

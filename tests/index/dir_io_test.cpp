@@ -26,7 +26,7 @@ TEST_F(DirIOWalk, WritesABlockForEachFolderBeforeThoseOfItsSubFolders) {
             head("\\Music\\") + "<DIR> Rock\r\n<DIR> Jazz\r\n\r\n" + fakeFile("one.mp3") +
                 fakeFile("two.mp3") + head("\\Music\\Rock\\") + "<DIR> Live\r\n\r\n" + fakeFile("three.mp3") +
                 head("\\Music\\Rock\\Live\\") + head("\\Music\\Jazz\\"));
-  EXPECT_TRUE(topOpened);
+  EXPECT_TRUE(result.opened);
   EXPECT_EQ(counts.folders, 4);
   EXPECT_EQ(counts.files, 3);
   EXPECT_EQ(windows.depth(), 0U);
@@ -58,7 +58,7 @@ TEST_F(DirIOWalk, ADriveAloneIsIndexedAsItsRootAndTheCallersPathIsCompleted) {
 TEST_F(DirIOWalk, APathTooShortToNameAFolderWritesNothing) {
   for (const QString& path : {u""_qs, u"\\"_qs, u"D"_qs}) {
     EXPECT_EQ(walk(windows, path, kWindowsPaths), "") << path.toStdString();
-    EXPECT_FALSE(topOpened);
+    EXPECT_FALSE(result.opened);
   }
   // No path at all must not become the system's top folder.
   linux_.addFolder("/", {"a"});

@@ -37,7 +37,7 @@ class WalkTest : public testing::Test {
     IndexProgress progress(*job, QLocale::c());
     DirIO dirIO(state, folders, progress, messages, QLocale::c(), style);
     FileAside listing(out_.pathOf(QStringLiteral("listing")));
-    topOpened = dirIO.walk(path, pattern, {&listing.writer(), nullptr}, QStringLiteral("DATA1"), flags);
+    result = dirIO.walk(path, pattern, {&listing.writer(), nullptr}, QStringLiteral("DATA1"), flags);
     listing.commit();
     pathAfterwards = path;
     counts = dirIO.counts();
@@ -59,7 +59,7 @@ class WalkTest : public testing::Test {
   Work work{state, view};
   RecordingMessageBoxes messages;
   TemporaryFolder tree;
-  bool topOpened = false;
+  WalkResult result;
   QString pathAfterwards;
   IndexCounts counts;
 
