@@ -1,6 +1,13 @@
 #include "state/program_state.h"
 
+#include "files/file_identity.h"
+#include "files/path_style.h"
 #include "platform/text_encoding.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <optional>
 
 namespace quorvin {
 
@@ -12,6 +19,19 @@ void ProgramState::resetFileNames() {
 
 QString ProgramState::onlineListingPath(const QString& description) const {
   return LocalFolder + trimBlanks(description).toString() + QStringLiteral(".txt");
+}
+
+bool ProgramState::isOwnFile(const QString& path) const {
+  QStringList ownFiles;
+  for (const QString& name : {LocFile, OffLineFile, TextFile}) {
+    if (name.isEmpty()) continue;
+    ownFiles += isTakenAsItStands(name, nativePathStyle()) ? name : LocalFolder + name;
+  }
+  if (ownFiles.contains(path)) return true;
+  // Only the file system knows which names are one to it.
+  const std::optional<FileIdentity> identity = fileIdentity(path);
+  return identity &&
+         std::ranges::any_of(ownFiles, [&](const QString& own) { return fileIdentity(own) == identity; });
 }
 
 bool ProgramState::hasSources() const {

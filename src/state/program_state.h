@@ -67,6 +67,11 @@ struct ProgramState {
   /// without blanks at its ends, ".txt".
   QString onlineListingPath(const QString& description) const;
 
+  /// Whether `path` is that of the main data file or of one of the two source lists, which need not be there
+  /// yet: no listing may stand there. Another way of writing the name of one that is there counts as well:
+  /// capital letters, where the file system takes them for small ones, or a link.
+  bool isOwnFile(const QString& path) const;
+
   /// Whether there is anything to search: a source, or the name of a main data file.
   bool hasSources() const;
 };
