@@ -51,13 +51,15 @@ inline constexpr int kInterrupted = 130;
 /// Writes the listing. A file is written aside and put in place when it is whole; until then, and when
 /// anything goes wrong, the one that was there before stays. Single names that could not be read are reported
 /// on standard error and change nothing in the exit status: 0 when the listing is there, 2 when the folder
-/// cannot be read or the listing cannot be written, kInterrupted after an interrupt.
+/// cannot be read, the listing cannot be written, or names were left out of it since their folder holds too
+/// many, kInterrupted after an interrupt.
 int runIndex(const IndexRequest& request);
 
 /// Refreshes the listings of the user's own online sources as the window would. The settings and source lists
 /// are only read. What went wrong with single names, and which listings were kept because their folder was
 /// not there, is reported on standard error and changes nothing in the exit status: 0; 2 when the refresh was
-/// ended by a fault; kInterrupted after an interrupt, which leaves the old listing of the source at work and
+/// ended by a fault, another one is running, or names were left out since their folder holds too many;
+/// kInterrupted after an interrupt, which leaves the old listing of the source at work and
 /// of those after it.
 int runRefresh();
 

@@ -155,6 +155,8 @@ class Indexing {
     printErrorLog(state_.errorLog);
   }
   bool interrupted() const { return job_->isAbortRequested(); }
+  /// Whether the listing has a line for every name.
+  bool isComplete() const { return leftOut_ == 0; }
 
  private:
   void checkFolder() {
@@ -176,9 +178,10 @@ class Indexing {
   void writeListing(FileWriter& writer) {
     QString folder = folder_;
     const int flags = kToOutput1 | (request_.foldersOnly ? kFoldersOnly : 0);
-    const bool opened =
+    const WalkResult walked =
         dirIO_.walk(folder, QStringLiteral("*.*"), {&writer, nullptr}, labelOf(request_, folder_), flags);
-    if (!opened || !folders_->topIsStillAt(folder_)) throw faultOfSystemError(ENOENT, request_.folder);
+    leftOut_ = walked.leftOut;
+    if (!walked.opened || !folders_->topIsStillAt(folder_)) throw faultOfSystemError(ENOENT, request_.folder);
   }
 
   const IndexRequest& request_;
@@ -191,6 +194,7 @@ class Indexing {
   std::optional<Job> job_ = work_.start(JobKind::Refresh);
   IndexProgress progress_;
   DirIO dirIO_;
+  std::int64_t leftOut_ = 0;
 };
 
 }  // namespace
@@ -211,7 +215,8 @@ int runIndex(const IndexRequest& request) {
     printError(failure);
     return 2;
   }
-  return indexing.interrupted() ? kInterrupted : 0;
+  if (indexing.interrupted()) return kInterrupted;
+  return indexing.isComplete() ? 0 : 2;
 }
 
 int runRefresh() {
@@ -235,7 +240,8 @@ int runRefresh() {
     printError(outcome.fault);
     return 2;
   }
-  return outcome.isStopped ? kInterrupted : 0;
+  if (outcome.isStopped) return kInterrupted;
+  return outcome.leftOut == 0 ? 0 : 2;
 }
 
 }  // namespace quorvin

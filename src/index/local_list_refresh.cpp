@@ -2,14 +2,13 @@
 
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
-#include "files/file_identity.h"
-#include "files/path_style.h"
+#include "files/file_lock.h"
 #include "index/dir_io.h"
+#include "index/walk_faults.h"
 
 #include <QFileInfo>
-#include <QStringList>
+#include <QHash>
 
-#include <algorithm>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -17,24 +16,6 @@
 
 namespace quorvin {
 namespace {
-
-bool isSameFile(const QString& path, const QString& other) {
-  if (path == other) return true;
-  // Only the file system knows which names are one to it.
-  const std::optional<FileIdentity> identity = fileIdentity(path);
-  return identity && identity == fileIdentity(other);
-}
-
-/// Whether `path` is that of the main data file or of one of the two source lists, which need not be there
-/// yet. Another way of writing the name of one that is there counts as well: capital letters, where the file
-/// system takes them for small ones, or a link.
-bool isOwnFile(const QString& path, const ProgramState& state) {
-  const QStringList names = {state.LocFile, state.OffLineFile, state.TextFile};
-  return std::ranges::any_of(names, [&](const QString& name) {
-    if (name.isEmpty()) return false;
-    return isSameFile(path, isTakenAsItStands(name, nativePathStyle()) ? name : state.LocalFolder + name);
-  });
-}
 
 std::vector<std::int64_t> listingSizes(const ProgramState& state) {
   std::vector<std::int64_t> sizes;
@@ -68,6 +49,7 @@ class Refresh {
       outcome.isStopped = ending == Ending::Stopped;
       if (outcome.isStopped) break;
       ++(ending == Ending::Made ? outcome.made : outcome.kept);
+      outcome.leftOut = leftOut_;
     }
     progress_.show();
   }
@@ -79,7 +61,7 @@ class Refresh {
     const QString finished = state_.onlineListingPath(description);
     const QString temporary = finished.chopped(QStringLiteral("txt").size()) + QStringLiteral("tmp");
     for (const QString& file : {temporary, finished}) {
-      if (!isOwnFile(file, state_)) continue;
+      if (!state_.isOwnFile(file)) continue;
       noteNotMade(description, file);
       return Ending::Kept;
     }
@@ -88,12 +70,14 @@ class Refresh {
       return Ending::Kept;
     }
     FileAside listing(finished, {.nameAside = QFileInfo(temporary).fileName()});
-    const bool opened = writeListing(listing, description, path);
+    const WalkResult walked = writeListing(listing, description, path);
     if (progress_.job().takeRescanAbort()) return Ending::Stopped;
     // Pulled while it was read, be it for a moment: the walk has met errors only, which would cost the
     // catalogue.
-    if (opened && folders_->topIsStillAt(path)) {
+    if (walked.opened && folders_->topIsStillAt(path)) {
       listing.commit();
+      leftOut_ += walked.leftOut;
+      noteReplaced(finished, description, path);
       return Ending::Made;
     }
     listing.discard();
@@ -102,34 +86,51 @@ class Refresh {
   }
 
   bool canBeOpened(const QString& path) {
-    if (folders_->enterTop(path) != 0) return false;
+    const int error = folders_->enterTop(path);
+    throwIfExhausted(error, path);
+    if (error != 0) return false;
     folders_->leave();
     return true;
   }
 
   void noteKept(const QString& path, const QString& description) {
-    state_.errorLog += QStringLiteral("%1 not found; the listing of %2 was kept\r\n").arg(path, description);
+    note(QStringLiteral("%1 not found; the listing of %2 was kept").arg(path, description));
   }
 
   void noteNotMade(const QString& description, const QString& file) {
-    state_.errorLog += QStringLiteral(
-                           "The listing of %1 was not made, since it would overwrite %2; please give it "
-                           "another description\r\n")
-                           .arg(description, file);
+    note(QStringLiteral("The listing of %1 was not made, since it would overwrite %2; please give it another "
+                        "description")
+             .arg(description, file));
   }
 
-  // False when the folder could not be opened any more; the listing is its head alone then.
-  bool writeListing(FileAside& listing, const QString& description, QString path) {
+  // Two sources may have one description; the later one has the listing.
+  void noteReplaced(const QString& listing, const QString& description, const QString& path) {
+    const QString earlier = madeFrom_.value(listing);
+    madeFrom_.insert(listing, path);
+    if (earlier.isEmpty()) return;
+    note(QStringLiteral(
+             "The listing of %1 from %2 was replaced by that from %3, which has the same description; "
+             "please give one of them another description")
+             .arg(description, earlier, path));
+  }
+
+  void note(const QString& sentence) { state_.errorLog += sentence + QStringLiteral("\r\n"); }
+
+  // Where the folder could not be opened any more, the listing is its head alone.
+  WalkResult writeListing(FileAside& listing, const QString& description, QString path) {
     const LineOutputs outputs{&listing.writer(), nullptr};
-    const bool opened = dirIO_.walk(path, QStringLiteral("*.*"), outputs, description, kToOutput1);
+    const WalkResult walked = dirIO_.walk(path, QStringLiteral("*.*"), outputs, description, kToOutput1);
     listing.finish();
-    return opened;
+    return walked;
   }
 
   ProgramState& state_;
   IndexProgress progress_;
   std::unique_ptr<FolderReader> folders_;
   DirIO dirIO_;
+  /// The folders of the listings that this refresh has made.
+  QHash<QString, QString> madeFrom_;
+  std::int64_t leftOut_ = 0;
 };
 
 }  // namespace
@@ -137,6 +138,11 @@ class Refresh {
 RefreshOutcome refreshLocalLists(ProgramState& state, Job& job, MessageBoxes& messages, const QLocale& locale,
                                  const QString& versionCaption) {
   RefreshOutcome outcome;
+  const std::optional<FolderLock> lock = FolderLock::take(state.LocalFolder);
+  if (!lock) {
+    outcome.fault = QStringLiteral("The local lists cannot be refreshed now: another refresh is running.");
+    return outcome;
+  }
   WorkDisplay& display = job.display();
   const QString title = display.title();
   job.show();

@@ -8,6 +8,8 @@
 #include <QLocale>
 #include <QString>
 
+#include <cstdint>
+
 namespace quorvin {
 
 /// What a refresh has done.
@@ -15,6 +17,8 @@ struct RefreshOutcome {
   /// How many listings were made anew, and how many sources kept what they had.
   int made = 0;
   int kept = 0;
+  /// How many names have no place in the new listings, since their folders hold more than a listing takes.
+  std::int64_t leftOut = 0;
   /// `RescanAbort` ended it before its last source.
   bool isStopped = false;
   /// What the user is told of the fault that ended it; empty when there was none.
@@ -30,9 +34,13 @@ struct RefreshOutcome {
 /// after the current source, whose old listing stays. A source whose folder cannot be opened, or whose path
 /// leads to another folder after the walk (a drive was pulled), keeps its old listing, and a line in the
 /// error log says so. A source whose listing would overwrite the main data file or a source list is passed
-/// over, which is logged too. At the end the title of `Progress` is as before, its status shows
-/// `versionCaption`, and the mouse pointer is the default one. A fault ends the refresh at once; every
-/// listing on disk is then the old or the new one, whole. Questions about single names go to `messages`.
+/// over, and where two sources have one description the later one has the listing; both are logged too. At
+/// the end the title of `Progress` is as before, its status shows `versionCaption`, and the mouse pointer is
+/// the default one. A fault ends the refresh at once; every listing on disk is then the old or the new one,
+/// whole. Questions about single names go to `messages`.
+///
+/// One refresh at a time for a data folder, whatever program runs it: while there is another, this one does
+/// nothing and its fault says so.
 RefreshOutcome refreshLocalLists(ProgramState& state, Job& job, MessageBoxes& messages, const QLocale& locale,
                                  const QString& versionCaption);
 

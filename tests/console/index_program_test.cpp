@@ -145,14 +145,15 @@ TEST_F(IndexProgram, ControlCharactersOfNamesDoNotReachTheTerminal) {
   EXPECT_TRUE(ended.errors.contains(u"Music/?[2J? File not found"_qs)) << ended.errors.toStdString();
 }
 
-TEST_F(IndexProgram, TooManyFilesAreIgnoredAndTold) {
+TEST_F(IndexProgram, TooManyFilesAreIgnoredAndToldAndEndWith2) {
   const QByteArray many = folder.makeFolder(u"Many"_qs).toUtf8();
   for (int i = 0; i < 31'003; ++i) {
     ASSERT_EQ(::mknod((many + QByteArray::number(i)).constData(), S_IFREG | 0600, 0), 0);
   }
   const test::Ended ended = run({u"index"_qs, u"Many"_qs});
-  EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.status, 2);
   EXPECT_EQ(ended.output.count(" bytes "), 31'001);
+  EXPECT_TRUE(ended.errors.contains(u" Skipping. Left out: 2 of 31003 files in "_qs));
   EXPECT_TRUE(
       ended.errors.startsWith(u"quorvin-cli: Error Number: 9 Subscript out of range Error reading:"_qs));
   EXPECT_TRUE(ended.errors.endsWith(u"holds too many files; 2 names were left out\n"_qs));

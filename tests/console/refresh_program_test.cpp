@@ -1,11 +1,14 @@
 // "quorvin-cli refresh" as a user runs it.
 #include "console/console_program.h"
+#include "files/file_lock.h"
 #include "platform/ini_settings_store.h"
 #include "support/qt_printing.h"
 
 #include <QFile>
 
 #include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace quorvin {
 namespace {
@@ -83,6 +86,48 @@ TEST_F(RefreshProgram, AListingThatCannotBeWrittenEndsWith2) {
       << ended.errors.toStdString();
   EXPECT_TRUE(ended.errors.endsWith(folder.pathOf(u"data/Music.txt\n"_qs))) << ended.errors.toStdString();
   expectNothingElseIsSaved();
+}
+
+TEST_F(RefreshProgram, AnotherRefreshOfTheSameFolderEndsItWith2) {
+  folder.writeFile(u"data/Music.txt"_qs, "old");
+  const auto another = FolderLock::take(folder.pathOf(u"data/"_qs));
+  const test::Ended ended = run({u"refresh"_qs});
+  EXPECT_EQ(ended.status, 2);
+  EXPECT_EQ(ended.errors,
+            u"quorvin-cli: The local lists cannot be refreshed now: another refresh is running.\n"_qs);
+  EXPECT_EQ(folder.readFile(u"data/Music.txt"_qs), "old");
+}
+
+TEST_F(RefreshProgram, NamesWithoutAPlaceInTheListingEndItWith2) {
+  const QByteArray many = folder.makeFolder(u"Many"_qs).toUtf8();
+  for (int i = 0; i < 31'002; ++i) {
+    ASSERT_EQ(::mknod((many + QByteArray::number(i)).constData(), S_IFREG | 0600, 0), 0);
+  }
+  putSources("\"Many\",\"" + pathOf("Many/") + "\"\r\n");
+  const test::Ended ended = run({u"refresh"_qs});
+  EXPECT_EQ(ended.status, 2);
+  EXPECT_TRUE(ended.errors.contains(u"Left out: 1 of 31002 files in "_qs)) << ended.errors.toStdString();
+  EXPECT_TRUE(ended.errors.endsWith(u"Many/ holds too many files; 1 name was left out\n"_qs));
+}
+
+TEST_F(RefreshProgram, TooFewDescriptorsEndItWith2AndTheListingStays) {
+  folder.writeFile(u"Music/a/b/c/deep.mp3"_qs, "1");
+  putSources("\"Music\",\"" + pathOf("Music/") + "\"\r\n");
+  folder.writeFile(u"data/Music.txt"_qs, "old");
+  int refused = 0;
+  for (rlim_t most = 5; !isListed(u"Music.txt"_qs, "deep.mp3"); ++most) {
+    ASSERT_LT(most, 100U);
+    process.setChildProcessModifier([most] {
+      const rlimit few{most, most};
+      ::setrlimit(RLIMIT_NOFILE, &few);
+    });
+    start({u"refresh"_qs});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0) continue;
+    ++refused;
+    EXPECT_EQ(folder.readFile(u"data/Music.txt"_qs), "old") << most;
+  }
+  EXPECT_GT(refused, 0);
 }
 
 TEST_F(RefreshProgram, AnInterruptKeepsTheListingOfTheSourceAtWork) {

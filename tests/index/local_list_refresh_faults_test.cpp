@@ -1,6 +1,7 @@
 // The refresh when listings cannot be written.
 #include "files/full_disk.h"
 #include "index/refresh_fixture.h"
+#include "support/descriptors.h"
 
 #include <sys/stat.h>
 
@@ -82,6 +83,32 @@ TEST_F(RefreshFaults, TheErrorLogIsKeptForTheNextRefresh) {
   refresh();
   EXPECT_EQ(view.logs.size(), 1);
   EXPECT_EQ(state.errorLog, QString());
+}
+
+TEST_F(RefreshFaults, TooFewDescriptorsEndItAndEveryListingStays) {
+  addSource(u"Music"_qs, u"song.mp3"_qs);
+  folders.writeFile(u"source 1/a/b/deep.mp3"_qs, "1");
+  data.writeFile(u"Music.txt"_qs, "old");
+  refresh();
+  const QByteArray whole = data.readFile(u"Music.txt"_qs);
+  ASSERT_TRUE(whole.contains("deep.mp3"));
+  data.writeFile(u"Music.txt"_qs, "old");
+  const rlim_t next = test::nextDescriptor();
+  int refused = 0;
+  for (rlim_t more = 0; data.readFile(u"Music.txt"_qs) == "old"; ++more) {
+    messages.informed.clear();
+    view.status.clear();
+    {
+      const test::FewDescriptors few(next + more);
+      refresh();
+    }
+    if (messages.informed.empty()) break;
+    ++refused;
+    expectEndedByFault();
+  }
+  EXPECT_GT(refused, 2);
+  EXPECT_EQ(data.readFile(u"Music.txt"_qs), whole);
+  EXPECT_EQ(view.logs, QStringList());
 }
 
 TEST_F(RefreshFaults, AnotherRefreshCanFollow) {

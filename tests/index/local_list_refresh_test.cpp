@@ -1,5 +1,8 @@
 #include "faults/runtime_fault.h"
+#include "files/file_lock.h"
 #include "index/refresh_fixture.h"
+
+#include <sys/stat.h>
 
 namespace quorvin {
 namespace {
@@ -213,6 +216,56 @@ TEST_F(LocalListRefresh, SaysHowManyListingsWereMadeAndHowManyKept) {
   EXPECT_EQ(refreshed.made, 1);
   EXPECT_EQ(refreshed.kept, 1);
   EXPECT_TRUE(refreshed.isStopped);
+}
+
+TEST_F(LocalListRefresh, DoesNothingWhileAnotherProgramRefreshesTheSameFolder) {
+  addSource(u"Music"_qs, u"song.mp3"_qs);
+  data.writeFile(u"Music.txt"_qs, "old");
+  {
+    const auto another = FolderLock::take(data.path());
+    refresh();
+  }
+  EXPECT_EQ(messages.informed,
+            std::vector{u"The local lists cannot be refreshed now: another refresh is running."_qs});
+  EXPECT_EQ(data.readFile(u"Music.txt"_qs), "old");
+  EXPECT_EQ(view.steps, QStringList());
+  EXPECT_EQ(view.titles, QStringList());
+  EXPECT_FALSE(state.RescanRunning);
+  refresh();
+  EXPECT_TRUE(isListed(u"Music.txt"_qs, "song.mp3"));
+}
+
+TEST_F(LocalListRefresh, KeepsOthersOutUntilItsEnd) {
+  addSource(u"Music"_qs, u"song.mp3"_qs);
+  view.onEvents = [this] { EXPECT_FALSE(FolderLock::take(data.path())); };
+  refresh();
+  EXPECT_GT(view.eventPasses, 0);
+  EXPECT_TRUE(FolderLock::take(data.path()));
+}
+
+TEST_F(LocalListRefresh, AListingThatTwoSourcesShareIsLogged) {
+  addSource(u"Music"_qs, u"first.mp3"_qs);
+  addSource(u"Films"_qs, u"film.avi"_qs);
+  addSource(u"Music "_qs, u"second.mp3"_qs);
+  refresh();
+  EXPECT_TRUE(isListed(u"Music.txt"_qs, "second.mp3"));
+  EXPECT_EQ(view.logs, QStringList{u"The listing of Music  from "_qs + state.OnlineSources.path(1) +
+                                   u" was replaced by that from "_qs + state.OnlineSources.path(3) +
+                                   u", which has the same description; please give one of them another "
+                                   "description\r\n"_qs});
+}
+
+TEST_F(LocalListRefresh, SaysHowManyNamesHadNoPlaceInTheListings) {
+  addSource(u"Music"_qs, u"song.mp3"_qs);
+  const QByteArray many = folders.makeFolder(u"Many"_qs).toUtf8();
+  for (int i = 0; i < 31'003; ++i) {
+    ASSERT_EQ(::mknod((many + QByteArray::number(i)).constData(), S_IFREG | 0600, 0), 0);
+  }
+  addSourceAt(u"Many"_qs, folders.pathOf(u"Many/"_qs));
+  messages.faultAnswers = {FaultAnswer::Ignore};
+  refresh();
+  EXPECT_EQ(refreshed.leftOut, 2);
+  EXPECT_EQ(refreshed.made, 2);
 }
 
 TEST_F(LocalListRefresh, SourcesTakenOutMeanwhileAreNotRefreshed) {
