@@ -18,6 +18,7 @@ LocalLoc::LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget
 }
 
 void LocalLoc::Form_Load() {
+  proposedDescription_ = controls_.Desc->text();
   entries_.fill(entriesOf(editing_.state.OnlineSources, editing_.state.OnlineSourceCount));
   controls_.Desc->setFocus();
   controls_.Desc->selectAll();
@@ -53,6 +54,10 @@ void LocalLoc::connectControls() {
   connect(controls_.OK, &QPushButton::clicked, this, &LocalLoc::OK_Click);
   connect(controls_.SaveOffLine, &QPushButton::clicked, this, &LocalLoc::SaveOffLine_Click);
   connect(controls_.Cancel, &QPushButton::clicked, this, &LocalLoc::reject);
+
+  connect(&entries_, &SourceListModel::rowsInserted, this, &LocalLoc::showNotice);
+  connect(&entries_, &SourceListModel::rowsRemoved, this, &LocalLoc::showNotice);
+  connect(&entries_, &SourceListModel::modelReset, this, &LocalLoc::showNotice);
 
   connect(controls_.Online, &SourceListView::deletePressed, this, &LocalLoc::LocDel_Click);
   auto* up = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this);
@@ -91,7 +96,22 @@ void LocalLoc::GetListName_Click() {
   const FileQuestion question{QStringLiteral("All Files"), controls_.LocalDataFolder->text(),
                               QStringLiteral(".txt")};
   const std::optional<QString> path = pickedPath(question);
-  if (path) controls_.LocalDataFolder->setText(*path);
+  if (!path) return;
+  controls_.LocalDataFolder->setText(*path);
+  if (LocMode_ != kOfflineMode) proposeDescription(*path);
+}
+
+/// A folder's name says more than the description that is given, and each folder needs one of its own.
+void LocalLoc::proposeDescription(const QString& folder) {
+  const QString name = descriptionOfFolder(folder, editing_.pathStyle);
+  if (name.isEmpty() || controls_.Desc->text() != proposedDescription_) return;
+  proposedDescription_ = name;
+  controls_.Desc->setText(name);
+}
+
+void LocalLoc::showNotice() {
+  const bool isOffline = LocMode_ == kOfflineMode;
+  setNotice(controls_, isOffline ? QString() : descriptionNotice(entries_.entries(), editing_.state));
 }
 
 std::optional<QString> LocalLoc::pickedPath(const FileQuestion& question) {
@@ -127,6 +147,7 @@ void LocalLoc::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
   stretchLocalLocControls(controls_, size() - laidOutFor_);
   laidOutFor_ = size();
+  setNotice(controls_, controls_.Notice->toolTip());
 }
 
 }  // namespace quorvin

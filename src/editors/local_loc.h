@@ -62,6 +62,8 @@ class LocalLoc : public QDialog {
   void connectControls();
   void takeInitialSize();
   void select(std::optional<int> row);
+  void proposeDescription(const QString& folder);
+  void showNotice();
   std::optional<QString> pickedPath(const FileQuestion& question);
   /// Whether the list could be stored; if not, a message has said why.
   bool store(SourceTable& table, int& count);
@@ -70,6 +72,8 @@ class LocalLoc : public QDialog {
   QString LocMode_;
   SourceListModel entries_;
   LocalLocControls controls_;
+  /// What stands in `Desc` unless the user has typed there.
+  QString proposedDescription_;
   /// The inner size that the controls are placed for.
   QSize laidOutFor_;
 };

@@ -1,5 +1,6 @@
 #include "editors/local_loc_controls.h"
 
+#include <QAccessible>
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -146,6 +147,8 @@ LocalLocControls makeLocalLocControls(QWidget* parent) {
   made.GetListName = makeBrowseButton(parent);
   made.LocAdd = makeButton(parent, QStringLiteral("LocAdd"), QStringLiteral("Add"));
   made.LocAdd->setDefault(true);
+  made.Notice = makeLabel(parent, QStringLiteral("Notice"), nullptr);
+  made.Notice->hide();
   made.OK = makeButton(parent, QStringLiteral("OK"), QStringLiteral("Save"));
   made.SaveOffLine = makeButton(parent, QStringLiteral("SaveOffLine"), QStringLiteral("Save"));
   made.SaveOffLine->hide();
@@ -163,6 +166,18 @@ void setPathCaption(const LocalLocControls& controls, const QString& caption) {
   controls.Label2->setText(caption);
   controls.Label2->resize(controls.Label2->sizeHint());
   controls.LocalDataFolder->setAccessibleName(caption);
+}
+
+void setNotice(const LocalLocControls& controls, const QString& text) {
+  QLabel* notice = controls.Notice;
+  const bool isNew = notice->toolTip() != text;
+  notice->setToolTip(text);
+  notice->setAccessibleName(text);
+  notice->setText(notice->fontMetrics().elidedText(text, Qt::ElideRight, notice->width()));
+  notice->setVisible(!text.isEmpty());
+  if (!isNew || text.isEmpty()) return;
+  QAccessibleEvent said(notice, QAccessible::Alert);
+  QAccessible::updateAccessibility(&said);
 }
 
 QSize placeLocalLocControls(const LocalLocControls& controls) {
@@ -202,8 +217,12 @@ QSize placeLocalLocControls(const LocalLocControls& controls) {
   controls.GetListName->setGeometry(browseLeft, y, browseWidth, boxHeight);
   controls.LocAdd->setGeometry(sideLeft, y, sideWidth, boxHeight);
 
+  // A line that is there only when there is something to say.
+  y += boxHeight + distances.besideLabel;
+  controls.Notice->setGeometry(left, y, sideLeft + sideWidth - left, labelHeight);
+
   // The ways out, at the right; both buttons to save have the same place, one of them is shown.
-  y += boxHeight + distances.betweenGroups;
+  y += labelHeight + distances.between;
   const int wayOutWidth = widestOf({controls.OK, controls.SaveOffLine, controls.Cancel});
   const int cancelLeft = sideLeft + sideWidth - wayOutWidth;
   const int saveLeft = cancelLeft - distances.between - wayOutWidth;
@@ -228,6 +247,8 @@ void stretchLocalLocControls(const LocalLocControls& controls, QSize growth) {
   moveBy({controls.MvUp, controls.MvDn, controls.LocDel}, wider, 0);
   moveBy({controls.Label1, controls.Desc, controls.Label2, controls.LocalDataFolder}, 0, taller);
   growBy(controls.LocalDataFolder, wider, 0);
+  moveBy({controls.Notice}, 0, taller);
+  growBy(controls.Notice, wider, 0);
   moveBy({controls.GetListName, controls.LocAdd, controls.OK, controls.SaveOffLine, controls.Cancel}, wider,
          taller);
 }

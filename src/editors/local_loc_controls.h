@@ -40,6 +40,7 @@ struct LocalLocControls {
   QLineEdit* LocalDataFolder;
   QPushButton* GetListName;
   QPushButton* LocAdd;
+  QLabel* Notice;
   QPushButton* OK;
   QPushButton* SaveOffLine;
   QPushButton* Cancel;
@@ -51,6 +52,10 @@ LocalLocControls makeLocalLocControls(QWidget* parent);
 
 /// Sets the caption of `Label2`, and what a screen reader calls the box beside it.
 void setPathCaption(const LocalLocControls& controls, const QString& caption);
+
+/// Shows `text` as one line between the boxes and the ways out, its end left out where it is too long, and
+/// has screen readers say it; empty for none.
+void setNotice(const LocalLocControls& controls, const QString& text);
 
 /// Gives each control its place for the fonts in use, as the dialog opens in the mode for folders. The result
 /// is the inner size that the controls take up; the dialog must not be made smaller.

@@ -1,5 +1,7 @@
 #include "editors/source_list_model.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -36,6 +38,32 @@ std::optional<QString> whyNotAdded(const SourceEntry& entry) {
     return QStringLiteral("Description must not be left blank or contain the characters /?\\:|*");
   }
   return std::nullopt;
+}
+
+QString descriptionNotice(const std::vector<SourceEntry>& entries, const ProgramState& state) {
+  QSet<QString> listings;
+  for (const SourceEntry& entry : entries) {
+    const QString listing = state.onlineListingPath(entry.description);
+    if (state.isOwnFile(listing)) {
+      return QStringLiteral("\"%1\" is a file of the program; it needs another description.")
+          .arg(entry.description);
+    }
+    if (listings.contains(listing)) {
+      return QStringLiteral("\"%1\" is there twice; both would share one listing.").arg(entry.description);
+    }
+    listings.insert(listing);
+  }
+  return {};
+}
+
+QString descriptionOfFolder(const QString& path, PathStyle style) {
+  QString name = path;
+  while (name.endsWith(style.separator)) name.chop(1);
+  name = name.mid(std::max<qsizetype>(name.lastIndexOf(style.separator) + 1, style.drivePrefixLength));
+  for (QChar& character : name) {
+    if (!isAllowedInDescriptions(character)) character = u'_';
+  }
+  return name;
 }
 
 std::vector<SourceEntry> entriesOf(const SourceTable& table, int count) {

@@ -1,6 +1,8 @@
 // The list that the source editor edits.
 #pragma once
 
+#include "files/path_style.h"
+#include "state/program_state.h"
 #include "state/source_table.h"
 
 #include <QAbstractTableModel>
@@ -23,6 +25,15 @@ struct SourceEntry {
 /// that is empty or holds one of :|*?\/ (an online source's description is part of a file name). The path is
 /// looked at first. Nothing when the entry can be added; texts are taken as they are.
 std::optional<QString> whyNotAdded(const SourceEntry& entry);
+
+/// What the user should know of the descriptions of folders, as a sentence: that two of them would have one
+/// listing, or that one would have its listing in the place of a file of the program's own. Empty where each
+/// has a listing of its own.
+QString descriptionNotice(const std::vector<SourceEntry>& entries, const ProgramState& state);
+
+/// The description that is proposed for the folder at `path`: its name, with "_" for each character that no
+/// description may hold. Empty for a path that ends in no name.
+QString descriptionOfFolder(const QString& path, PathStyle style);
 
 /// Rows 1 to `count` of `table`.
 std::vector<SourceEntry> entriesOf(const SourceTable& table, int count);

@@ -175,6 +175,64 @@ TEST_F(FolderEditor, APickedFolderIsNativeWithoutDrives) {
   EXPECT_EQ(controls().LocalDataFolder->text(), QStringLiteral("/home/ann/Music/"));
 }
 
+TEST_F(FolderEditor, APickedFolderNamesTheDescriptionWhileTheUserHasTypedNone) {
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("Online"));
+  picker_.pick = QStringLiteral("D:\\Data\\Music");
+  click(controls().GetListName);
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("Music"));
+  // What was proposed is no text of the user's.
+  picker_.pick = QStringLiteral("D:\\Films");
+  click(controls().GetListName);
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("Films"));
+  type(controls().Desc, QStringLiteral("My films"));
+  picker_.pick = QStringLiteral("D:\\Papers");
+  click(controls().GetListName);
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("My films"));
+}
+
+TEST_F(FolderEditor, APickedFolderWithoutANameLeavesTheDescription) {
+  picker_.pick = QStringLiteral("D:\\");
+  click(controls().GetListName);
+  EXPECT_EQ(controls().LocalDataFolder->text(), QStringLiteral("D:\\"));
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("Online"));
+}
+
+TEST_F(FolderEditor, ADescriptionThatIsThereTwiceIsToldInTheDialog) {
+  state_.LocalFolder = QStringLiteral("D:\\lists\\");
+  haveOnline(threeFolders());
+  EXPECT_FALSE(controls().Notice->isVisible());
+  add(QStringLiteral(" Music "), QStringLiteral("C:\\"));
+  EXPECT_TRUE(controls().Notice->isVisible());
+  EXPECT_EQ(controls().Notice->accessibleName(),
+            QStringLiteral("\" Music \" is there twice; both would share one listing."));
+  EXPECT_EQ(edited().size(), 4U);
+  EXPECT_TRUE(messages_.informed.empty());
+  select(1);
+  click(controls().LocDel);
+  EXPECT_FALSE(controls().Notice->isVisible());
+}
+
+TEST_F(FolderEditor, ADescriptionThatIsAFileOfTheProgramIsToldInTheDialog) {
+  state_.resetFileNames();
+  state_.TextFile = QStringLiteral("main.txt");
+  for (const QString& name : {QStringLiteral("Locations"), QStringLiteral("main")}) {
+    add(name, QStringLiteral("C:\\"));
+    EXPECT_EQ(controls().Notice->accessibleName(),
+              QStringLiteral("\"%1\" is a file of the program; it needs another description.").arg(name));
+    select(1);
+    click(controls().LocDel);
+  }
+}
+
+TEST_F(FolderEditor, ALongNoticeIsCutToItsLine) {
+  const QString description(300, u'x');
+  add(description, QStringLiteral("C:\\"));
+  add(description, QStringLiteral("D:\\"));
+  const QLabel* notice = controls().Notice;
+  EXPECT_LE(notice->fontMetrics().horizontalAdvance(notice->text()), notice->width());
+  EXPECT_TRUE(notice->toolTip().contains(description));
+}
+
 TEST_F(FolderEditor, ACancelledOrFailedPickerChangesNothing) {
   type(controls().LocalDataFolder, QStringLiteral("D:\\Music\\"));
   click(controls().GetListName);

@@ -28,6 +28,14 @@ class SourceList : public testing::Test {
   QAbstractItemModelTester tester_{&list_, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
+TEST(DescriptionOfFolder, IsItsNameWithoutWhatNoDescriptionMayHold) {
+  EXPECT_EQ(descriptionOfFolder(u"D:\\Data\\Music\\"_qs, kWindowsPaths), u"Music"_qs);
+  EXPECT_EQ(descriptionOfFolder(u"D:\\"_qs, kWindowsPaths), QString());
+  EXPECT_EQ(descriptionOfFolder(u"/home/ann/Music 1:2*\\x/"_qs, kUnixPaths), u"Music 1_2__x"_qs);
+  EXPECT_EQ(descriptionOfFolder(u"/home"_qs, kUnixPaths), u"home"_qs);
+  EXPECT_EQ(descriptionOfFolder(u"/"_qs, kUnixPaths), QString());
+}
+
 TEST_F(SourceList, HasTheColumnsDescriptionAndPath) {
   EXPECT_EQ(list_.columnCount(), 2);
   EXPECT_EQ(list_.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Description"));
