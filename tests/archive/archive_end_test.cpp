@@ -2,6 +2,8 @@
 #include "archive/archive_end.h"
 
 #include "archive/archive_maker.h"
+#include "files/file_reader.h"
+#include "support/temporary_folder.h"
 
 #include <QtEndian>
 #include <gtest/gtest.h>
@@ -54,6 +56,22 @@ TEST(ArchiveEnd, IsSeenHoweverTheBytesCome) {
   for (qsizetype piece = 1; piece <= more.size(); ++piece) {
     EXPECT_EQ(endIn(more, piece), archive.size()) << piece;
   }
+}
+
+TEST(ArchiveEnd, IsSeenBehindContentThatComesInManyPieces) {
+  const QByteArray archive = stored(QByteArray(300'000, 'x'));
+  EXPECT_EQ(endIn(archive + "List: next.zip", 1000), archive.size());
+  EXPECT_EQ(endIn(archive + "List: next.zip", 4093), archive.size());
+}
+
+TEST(ArchiveEnd, ACommentOfTheGreatestLengthBelongsToTheArchive) {
+  const TemporaryFolder folder;
+  const QByteArray archive = stored("some text", QByteArray(65535, 'c'));
+  const RandomAccessFile file(folder.writeFile(QStringLiteral("a.zip"), archive));
+  const std::optional<EndRecord> end = endRecordOf(file, archive.size());
+  ASSERT_TRUE(end);
+  EXPECT_EQ(end->place, archive.size() - 65535 - 22);
+  EXPECT_EQ(end->entries, 1U);
 }
 
 TEST(ArchiveEnd, TheCommentBelongsToTheArchive) {

@@ -49,6 +49,25 @@ TEST_F(ArchiveForeign, BytesBeforeAndBehindAreIgnored) {
   }
 }
 
+TEST_F(ArchiveForeign, ANameThatIsGivenInUtf8TooIsTakenFromThere) {
+  MadeEntry entry = streamed("M?sica.txt", "aaa");
+  entry.unicodeName = "M\xC3\xBAsica.txt";
+  EXPECT_EQ(unpack({entry}), UnpackingOutcome::Unpacked);
+  EXPECT_EQ(tree(), (Tree{{u"M\u00FAsica.txt"_qs, "aaa"}}));
+}
+
+TEST_F(ArchiveForeign, OneThatWasWrittenOverALongerOneIsTakenAlone) {
+  MadeEntry longer;
+  longer.name = "old.txt";
+  longer.content = QByteArray(1000, 'o');
+  MadeEntry own;
+  own.name = "new.txt";
+  own.content = "new";
+  const QByteArray over = archiveOf({own});
+  EXPECT_EQ(unpack(over + archiveOf({longer}).mid(over.size())), UnpackingOutcome::Unpacked);
+  EXPECT_EQ(tree(), (Tree{{u"new.txt"_qs, "new"}}));
+}
+
 TEST_F(ArchiveForeign, ContentOfAPipeIsAFile) {
   MadeEntry entry = streamed("-", "aaa");
   entry.mode = kPipeMode;

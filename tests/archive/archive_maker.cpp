@@ -28,12 +28,23 @@ struct Told {
   std::uint64_t size;
   std::uint32_t mode;
   bool isLarge;
+  QByteArray unicodeExtra;
   std::uint64_t place = 0;
 };
 
 QByteArray packedBytes(const MadeEntry& entry) {
   if (entry.packed) return *entry.packed;
   return entry.method == kDeflated ? deflated(entry.content) : entry.content;
+}
+
+QByteArray unicodeExtraOf(const MadeEntry& entry) {
+  QByteArray bytes;
+  if (!entry.unicodeName) return bytes;
+  put<std::uint16_t>(bytes, 0x7075);
+  put<std::uint16_t>(bytes, static_cast<std::uint16_t>(5 + entry.unicodeName->size()));
+  bytes += '\1';
+  put<std::uint32_t>(bytes, checksumOf(entry.name));
+  return bytes + *entry.unicodeName;
 }
 
 Told toldOf(const MadeEntry& entry, const QByteArray& packed) {
@@ -45,7 +56,8 @@ Told toldOf(const MadeEntry& entry, const QByteArray& packed) {
           entry.toldPackedSize.value_or(static_cast<std::uint64_t>(packed.size())),
           entry.toldSize.value_or(static_cast<std::uint64_t>(entry.content.size())),
           entry.mode,
-          entry.isLarge};
+          entry.isLarge,
+          unicodeExtraOf(entry)};
 }
 
 void putDescription(QByteArray& bytes, const Told& told) {
@@ -89,7 +101,7 @@ void putBehindContent(QByteArray& bytes, const Told& told) {
 }
 
 void putBeforeContent(QByteArray& bytes, const Told& told) {
-  const QByteArray extra = largeExtra(told, false);
+  const QByteArray extra = largeExtra(told, false) + told.unicodeExtra;
   bytes += "PK\x03\x04";
   putDescription(bytes, told);
   put<std::uint16_t>(bytes, static_cast<std::uint16_t>(told.innerName.size()));
@@ -98,7 +110,7 @@ void putBeforeContent(QByteArray& bytes, const Told& told) {
 }
 
 void putInDirectory(QByteArray& bytes, const Told& told) {
-  const QByteArray extra = largeExtra(told, true);
+  const QByteArray extra = largeExtra(told, true) + told.unicodeExtra;
   bytes += "PK\x01\x02";
   put<std::uint16_t>(bytes, kMadeOnUnix);
   putDescription(bytes, told);

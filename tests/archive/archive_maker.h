@@ -44,6 +44,8 @@ struct MadeEntry {
   std::uint32_t headerSize = 0;
   /// What is told of the packed size before the content, where it differs from the one in the directory.
   std::optional<std::uint32_t> headerPackedSize;
+  /// A further name in UTF-8, with the checksum of the plain one before it, as other programs write it.
+  std::optional<QByteArray> unicodeName;
   /// No bytes of its own: it shares those of the entry with this number.
   std::optional<std::size_t> sharesBytesOf;
 };

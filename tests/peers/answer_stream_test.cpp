@@ -136,6 +136,13 @@ TEST_F(PeerStreamTest, AnArchiveThatIsNotThereIsMissing) {
                                              "announced B by List: B.zip", "missing"));
 }
 
+TEST_F(PeerStreamTest, AStreamThatEndsBehindAnAnnouncementHasNoArchive) {
+  Reading reading;
+  reading.stream.feed(names_ + "List: A.zip");
+  reading.stream.end();
+  EXPECT_EQ(reading.log.lines.back(), "missing");
+}
+
 TEST_F(PeerStreamTest, WhatIsNoArchiveIsPassedOver) {
   Reading reading;
   reading.stream.feed(names_ + "List: A.zip<html>List: oops</html>List: B.zip" + second_);

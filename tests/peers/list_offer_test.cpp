@@ -210,6 +210,28 @@ TEST_F(PeerOfferTest, ACancelledConversationWithoutListsIsNotTold) {
   EXPECT_TRUE(program_.messages.asked.empty());
 }
 
+TEST_F(PeerOfferTest, EachArchiveStartsItsOwnBar) {
+  const QString archive = program_.folder.writeFile(QStringLiteral("Music.zip"), smallArchive());
+  EXPECT_TRUE(unpackingIn(job())(archive, program_.folder.makeFolder(QStringLiteral("Music"))));
+  EXPECT_THAT(
+      program_.display.log.mid(program_.display.log.indexOf(QStringLiteral("status Unpacking Music.zip")), 3),
+      ElementsAre(QStringLiteral("status Unpacking Music.zip"), QStringLiteral("maximum 100"),
+                  QStringLiteral("bar 0")));
+}
+
+TEST_F(PeerOfferTest, ProblemsOfACancelledConversationAreReported) {
+  outcome_.isCancelled = true;
+  outcome_.problems = {QStringLiteral("Music did not come.")};
+  EXPECT_FALSE(offer());
+  EXPECT_THAT(program_.messages.informed,
+              ElementsAre(QStringLiteral("No lists came from nas.\r\n\r\nMusic did not come.")));
+}
+
+TEST_F(PeerOfferTest, AnEndWithoutListsAndProblemsIsReported) {
+  EXPECT_FALSE(offer());
+  EXPECT_EQ(program_.messages.informed.size(), 1U);
+}
+
 TEST_F(PeerOfferTest, TheQuestionTellsWhatDidNotCome) {
   receive(QStringLiteral("Music"), {QStringLiteral("Music.txt")});
   for (int i = 1; i <= 12; ++i) outcome_.problems += QStringLiteral("Problem %1.").arg(i);

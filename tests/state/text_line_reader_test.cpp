@@ -27,6 +27,10 @@ TEST(TextLineReader, GivesNoEmptyLineAfterTheLastLineEnd) {
   EXPECT_EQ(linesOf(""), QStringList());
 }
 
+TEST(TextLineReader, TheFirstLineMayBeEmpty) {
+  EXPECT_EQ(linesOf("\nb"), QStringList({QString(), QStringLiteral("b")}));
+}
+
 TEST(TextLineReader, KeepsACarriageReturnInsideALine) {
   EXPECT_EQ(linesOf("a\rb\r\r\n"), QStringList({QStringLiteral("a\rb\r")}));
 }

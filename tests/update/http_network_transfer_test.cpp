@@ -196,6 +196,21 @@ TEST_F(HttpNetworkTransferTest, FailsOnABodyBeyondTheLimit) {
   EXPECT_LE(outcome.body.size(), 100'000);
 }
 
+TEST_F(HttpNetworkTransferTest, TakesABodyOfExactlyTheLimit) {
+  HttpLimits limits = shortLimits();
+  limits.bytes = 4;
+  EXPECT_EQ(get({sends(goodAnswer("body"))}, limits).body, QByteArray("body"));
+  EXPECT_EQ(get({sends(goodAnswer("body!"))}, limits).fault, 6);
+}
+
+TEST_F(HttpNetworkTransferTest, GoesOnAfterAnAnswerThatFailed) {
+  server_.emplace(
+      std::vector{sends("HTTP/1.1 404 No\r\nContent-Length: 2\r\n\r\nno"), sends(goodAnswer("body"))});
+  HttpNetworkTransfer transfer;
+  EXPECT_EQ(HttpTransferTest::get(transfer, server_->address()).fault, 53);
+  EXPECT_EQ(HttpTransferTest::get(transfer, server_->address()).body, QByteArray("body"));
+}
+
 TEST_F(HttpNetworkTransferTest, EndsWithTheConnectionWhenNoLengthIsTold) {
   EXPECT_EQ(get({sends(headersOf("") + "all there is")}).body, QByteArray("all there is"));
   // Nothing tells a reset from an end: who uses the document must look at it.

@@ -49,6 +49,16 @@ TEST_F(CheckedSpanTest, DamageIsFoundWhereItIsReadAndNowhereElse) {
   EXPECT_THROW(span_.all(), DamagedSegment);
 }
 
+TEST_F(CheckedSpanTest, AStretchMayEndOneByteIntoABlock) {
+  const auto stretch = bytes().first(kBlock + 1);
+  const std::vector<std::uint64_t> sums = checksumsOf(stretch);
+  ASSERT_EQ(sums.size(), 2U);
+  const ByteCheck check(stretch, sums);
+  const CheckedSpan<std::byte> last(stretch, kBlock, 1, check);
+  EXPECT_EQ(last[0], bytes()[kBlock]);
+  EXPECT_FALSE(check.foundDamage());
+}
+
 TEST_F(CheckedSpanTest, LastBlockMayBeShort) {
   damage(3 * kBlock + 4);
   EXPECT_EQ(span_[3 * kBlock / 4 - 1], 3 * kBlock / 4 - 1);

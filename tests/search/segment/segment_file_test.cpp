@@ -73,6 +73,8 @@ TEST_P(SegmentFileTest, SegmentsComeBackAsTheyWere) {
   EXPECT_EQ(segments[0]->folder(0), u"\\Music\\"_qs);
   EXPECT_EQ(segments[0]->name(0), u"First Song"_qs);
   EXPECT_EQ(segments[0]->name(1), u"second"_qs);
+  EXPECT_EQ(segments[0]->valueState(0), ValueState::Absent);
+  EXPECT_FALSE(segments[0]->allOwn(0, 1));
   ASSERT_EQ(segments[1]->entryCount(), 1U);
   EXPECT_EQ(segments[1]->name(0), u"Third"_qs);
   EXPECT_EQ(listingOfSegmentFile(path_), u"/lists/cd.lst"_qs);
