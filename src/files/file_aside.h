@@ -127,8 +127,9 @@ class FileAside {
 
 /// Replaces the file of the user's at `path`, or the one that it is a link to, by one that holds `contents`;
 /// its folder must exist. Durability::New. A file that is protected from writing is not replaced. Throws
-/// RuntimeFault when anything fails: 70 for a protected file or folder, 75 for a folder in its place or when
-/// its own folder is not there, and others as FileAside does; the file that was there stays.
+/// RuntimeFault when anything fails: 70 for a protected file or folder, 75 for anything else than a file in
+/// its place (a folder, a pipe) or when its own folder is not there, and others as FileAside does; what was
+/// there stays.
 void replaceFile(const QString& path, QByteArrayView contents);
 
 /// The paths of the files aside in `folder`, those that are being written and those of killed programs. Files

@@ -268,7 +268,7 @@ void FileAside::fail(int errorNumber) const {
 
 void replaceFile(const QString& path, QByteArrayView contents) {
   const QFileInfo old(path);
-  if (old.isDir()) throw faultOfSystemError(EISDIR, path);
+  if (old.exists() && !old.isFile()) throw faultOfSystemError(EISDIR, path);
   if (old.exists() && !old.isWritable()) throw faultOfSystemError(EACCES, path);
   // "File not found" would name a file that need not be there.
   if (!QFileInfo(old.path()).isDir()) throw faultOfSystemError(ENOTEMPTY, path);

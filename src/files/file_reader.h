@@ -1,6 +1,7 @@
 // Reading files: the user's from front to back, and the program's own at any place or as memory.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstddef>
@@ -35,10 +36,13 @@ class SequentialFile {
   std::int64_t position_ = 0;
 };
 
-/// A file that is open for reading, by plain read calls.
+/// All bytes of the regular file at `path`; for small files. Throws as SequentialFile does.
+QByteArray contentOfFile(const QString& path);
+
+/// A regular file that is open for reading, by plain read calls.
 class RandomAccessFile {
  public:
-  /// Opens `path`. Throws RuntimeFault as faultOfSystemError maps the system's errors.
+  /// Opens `path`. Throws as SequentialFile does.
   explicit RandomAccessFile(const QString& path);
   ~RandomAccessFile();
   RandomAccessFile(const RandomAccessFile&) = delete;

@@ -1,8 +1,8 @@
 #include "faults/runtime_fault.h"
+#include "files/descriptor.h"
 #include "files/file_reader.h"
 
-#include <QFile>
-
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -11,20 +11,32 @@
 
 namespace quorvin {
 
-SequentialFile::SequentialFile(const QString& path) : path_(path) {
-  // The system would end the path at a NUL and open another file.
-  if (path.contains(QChar(u'\0'))) throw faultOfSystemError(EINVAL, path);
+namespace {
+
+struct OpenedFile {
+  int descriptor;
+  std::int64_t size;
+};
+
+/// Opens a regular file; anything else is a fault.
+OpenedFile openForReading(const QString& path) {
   // Not blocking, so that a pipe without a writer is refused below instead of holding the program up.
-  descriptor_ = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor_ < 0) throw faultOfSystemError(errno, path);
+  const int descriptor = ::open(encodedPath(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (descriptor < 0) throw faultOfSystemError(errno, path);
   struct stat status {};
-  const bool known = ::fstat(descriptor_, &status) == 0;
-  if (!known || !S_ISREG(status.st_mode)) {
-    const int error = known ? EISDIR : errno;
-    ::close(descriptor_);
-    throw faultOfSystemError(error, path);
-  }
-  size_ = status.st_size;
+  const bool known = ::fstat(descriptor, &status) == 0;
+  if (known && S_ISREG(status.st_mode)) return {descriptor, status.st_size};
+  const int error = known ? EISDIR : errno;
+  ::close(descriptor);
+  throw faultOfSystemError(error, path);
+}
+
+}  // namespace
+
+SequentialFile::SequentialFile(const QString& path) : path_(path) {
+  const OpenedFile opened = openForReading(path);
+  descriptor_ = opened.descriptor;
+  size_ = opened.size;
 #ifdef POSIX_FADV_SEQUENTIAL
   ::posix_fadvise(descriptor_, 0, 0, POSIX_FADV_SEQUENTIAL);
 #endif
@@ -52,10 +64,18 @@ std::size_t SequentialFile::read(std::span<char> buffer) {
   return filled;
 }
 
-RandomAccessFile::RandomAccessFile(const QString& path) : path_(path) {
-  descriptor_ = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-  if (descriptor_ < 0) throw faultOfSystemError(errno, path);
+QByteArray contentOfFile(const QString& path) {
+  SequentialFile file(path);
+  QByteArray content;
+  std::array<char, 16 * 1024> chunk;
+  while (const std::size_t count = file.read(chunk)) {
+    content.append(chunk.data(), static_cast<qsizetype>(count));
+  }
+  return content;
 }
+
+RandomAccessFile::RandomAccessFile(const QString& path)
+    : path_(path), descriptor_(openForReading(path).descriptor) {}
 
 RandomAccessFile::~RandomAccessFile() {
   ::close(descriptor_);
@@ -76,11 +96,8 @@ void RandomAccessFile::read(std::int64_t position, std::span<std::byte> buffer) 
 }
 
 MappedFile::MappedFile(const QString& path, std::int64_t offset, std::size_t size) : size_(size) {
-  const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) throw faultOfSystemError(errno, path);
-  struct stat status {};
-  const bool longEnough =
-      ::fstat(descriptor, &status) == 0 && status.st_size >= offset + static_cast<std::int64_t>(size);
+  const auto [descriptor, fileSize] = openForReading(path);
+  const bool longEnough = fileSize >= offset + static_cast<std::int64_t>(size);
   void* data = longEnough ? ::mmap(nullptr, size, PROT_READ, MAP_SHARED, descriptor, offset) : MAP_FAILED;
   const int error = longEnough ? errno : EIO;
   ::close(descriptor);

@@ -1,6 +1,7 @@
 #include "files/file_reader.h"
 
 #include "faults/runtime_fault.h"
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -130,6 +131,22 @@ TEST(SequentialFile, AFileThatGrowsIsReadToItsNewEnd) {
   more.close();
   EXPECT_EQ(opened.sizeWhenOpened(), 3);
   EXPECT_EQ(readAll(opened, 16), "abcdef");
+}
+
+TEST(ContentOfFile, IsAllThatTheFileHolds) {
+  const TemporaryFolder folder;
+  const QByteArray content(100'000, 'x');
+  EXPECT_EQ(contentOfFile(folder.writeFile(QStringLiteral("a"), content)), content);
+  EXPECT_EQ(contentOfFile(folder.writeFile(QStringLiteral("b"), "")), QByteArray());
+}
+
+TEST(Pipe, IsNeverWaitedFor) {
+  const TemporaryFolder folder;
+  const QString path = folder.pathOf(QStringLiteral("pipe"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+  EXPECT_FAULT(contentOfFile(path), 75);
+  EXPECT_FAULT(RandomAccessFile{path}, 75);
+  EXPECT_FAULT(MappedFile(path, 0, 1), 75);
 }
 
 }  // namespace quorvin

@@ -79,4 +79,14 @@ TEST(ReplaceFile, AFolderIsNotReplaced) {
   EXPECT_EQ(folder.names(), QStringList{QStringLiteral("sub")});
 }
 
+TEST(ReplaceFile, APipeIsNotReplaced) {
+  const TemporaryFolder folder;
+  const QString path = folder.pathOf(QStringLiteral("pipe"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+  EXPECT_EQ(faultOfReplacing(path, "new"), 75);
+  struct stat found {};
+  ASSERT_EQ(::lstat(QFile::encodeName(path).constData(), &found), 0);
+  EXPECT_TRUE(S_ISFIFO(found.st_mode));
+}
+
 }  // namespace quorvin
