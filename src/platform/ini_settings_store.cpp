@@ -3,9 +3,10 @@
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_lock.h"
+#include "files/file_reader.h"
+#include "platform/text_encoding.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
@@ -77,8 +78,9 @@ QString unescaped(const QString& text) {
 }  // namespace
 
 IniText::IniText(const QByteArray& text) {
-  if (text.isEmpty()) return;
-  lines_ = text.split('\n');
+  const qsizetype mark = byteOrderMarkLength(text);
+  if (text.size() == mark) return;
+  lines_ = text.mid(mark).split('\n');
   for (QByteArray& line : lines_) {
     if (line.endsWith('\r')) line.chop(1);
   }
@@ -160,14 +162,16 @@ RuntimeFault accessFault(const QString& path) {
   return {FaultNumber::PathFileAccess, describe(FaultNumber::PathFileAccess) + QStringLiteral(": ") + path};
 }
 
-// Nothing when the file is there but cannot be read.
-std::optional<IniText> load(const QString& path) {
-  QFile file(path);
-  if (!file.exists()) return IniText();
-  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-  const QByteArray text = file.readAll();
-  if (file.error() != QFileDevice::NoError) return std::nullopt;
-  return IniText(text);
+/// A file that is not there counts as empty; one that is there and cannot be read is a fault.
+IniText load(const QString& path) {
+  try {
+    return IniText(contentOfFile(path));
+  } catch (const RuntimeFault& fault) {
+    const bool isMissing =
+        fault.faultNumber() == FaultNumber::FileNotFound || fault.faultNumber() == FaultNumber::PathNotFound;
+    if (isMissing) return {};
+    throw;
+  }
 }
 
 }  // namespace
@@ -176,21 +180,18 @@ IniSettingsStore::IniSettingsStore(const QString& path) : path_(path) {}
 
 QString IniSettingsStore::read(const QString& application, const QString& section, const QString& key,
                                const QString& fallback) const {
-  const std::optional<IniText> ini = load(path_);
-  if (!ini) return fallback;
-  return ini->value(groupOf(application, section), encoded(key)).value_or(fallback);
+  return load(path_).value(groupOf(application, section), encoded(key)).value_or(fallback);
 }
 
 void IniSettingsStore::write(const QString& application, const QString& section, const QString& key,
                              const QString& value) {
   if (!QDir().mkpath(QFileInfo(path_).path())) throw accessFault(path_);
   const FileLock lock(path_, kLockWaitMilliseconds);
-  // A file that cannot be read is not replaced: it may hold all that the user has set.
-  std::optional<IniText> ini = load(path_);
-  if (!ini) throw accessFault(path_);
+  // Throws for a file that cannot be read, which is not replaced: it may hold all that the user has set.
+  IniText ini = load(path_);
   removeLeftovers(QFileInfo(path_).path());
-  ini->setValue(groupOf(application, section), encoded(key), value);
-  replaceFile(path_, ini->text());
+  ini.setValue(groupOf(application, section), encoded(key), value);
+  replaceFile(path_, ini.text());
 }
 
 QString userSettingsPath() {

@@ -14,8 +14,8 @@ namespace quorvin {
 /// An INI file's lines, UTF-8. Lines that are not understood (comments, other people's entries) are kept as
 /// they are. Section names and keys stand as they are: they hold no line end, no "=" in a key, and neither
 /// brackets nor blanks at their ends. Values may be any text: backslashes, line ends, tabs, NULs, and blanks
-/// at either end are written as "\\", "\n", "\r", "\t", "\0" and "\s". Of a section or key that stands there
-/// twice, the first counts.
+/// at either end are written as "\\", "\n", "\r", "\t", "\0" and "\s". Of a section or key that is there
+/// twice, the first counts. A byte order mark at the front is dropped.
 class IniText {
  public:
   IniText() = default;
@@ -46,7 +46,8 @@ class IniSettingsStore : public SettingsStore {
   /// `path` is the INI file; it and its folder are made on the first write.
   explicit IniSettingsStore(const QString& path);
 
-  /// A file that is missing or cannot be read counts as empty.
+  /// A missing file counts as empty. Throws RuntimeFault for one that is there and cannot be read: 70 without
+  /// permission, 75 for what is no file, and others as SequentialFile does.
   QString read(const QString& application, const QString& section, const QString& key,
                const QString& fallback) const override;
   void write(const QString& application, const QString& section, const QString& key,

@@ -10,6 +10,7 @@ class SettingsStore {
   virtual ~SettingsStore() = default;
 
   /// The stored text, or `fallback` when the key is absent. A key that was stored empty gives empty text.
+  /// Throws RuntimeFault when the store is there but cannot be read: what it holds is not known then.
   virtual QString read(const QString& application, const QString& section, const QString& key,
                        const QString& fallback) const = 0;
 

@@ -41,6 +41,11 @@ QString textOfUtf8(std::string_view utf8) {
   return decoder.decode(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
+qsizetype byteOrderMarkLength(QByteArrayView start) {
+  constexpr QByteArrayView kMark = "\xEF\xBB\xBF";
+  return start.startsWith(kMark) ? kMark.size() : 0;
+}
+
 bool isUtf8AsItStands(QByteArrayView line) {
 #ifdef Q_OS_WIN
   constexpr bool kSystemIsUtf8 = false;

@@ -23,6 +23,10 @@ bool isUtf8AsItStands(QByteArrayView line);
 /// character like others.
 QString textOfUtf8(std::string_view utf8);
 
+/// How many bytes of `start`, the first bytes of a text file, are a UTF-8 byte order mark: 3 or 0. It is no
+/// part of the text.
+qsizetype byteOrderMarkLength(QByteArrayView start);
+
 /// `text` in the system code page, with "?" for each character that it cannot hold (on UTF-8: unpaired
 /// surrogates).
 QByteArray encodeSystemText(QStringView text);

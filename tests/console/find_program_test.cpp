@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <sys/stat.h>
 
 namespace quorvin {
 namespace {
@@ -62,6 +63,20 @@ TEST_F(FindProgram, WithoutHitsItEndsWith1) {
   EXPECT_EQ(ended.output, QString());
   EXPECT_EQ(ended.errors, u"0 found, 2 searched\n"_qs);
   EXPECT_EQ(ended.status, 1);
+}
+
+TEST_F(FindProgram, SettingsThatCannotBeReadAreToldAndEndWith2) {
+  folder_.makeFolder(u"settings.ini"_qs);
+  const Ended ended = run({u"find"_qs, u"rock"_qs});
+  EXPECT_EQ(ended.errors, u"quorvin-cli: Run-time error '75': Path/File access error: "_qs +
+                              folder_.pathOf(u"settings.ini"_qs) + u"\n0 found, 0 searched\n"_qs);
+  EXPECT_EQ(ended.status, 2);
+}
+
+TEST_F(FindProgram, APipeForSettingsHangsNothing) {
+  ASSERT_EQ(::mkfifo(QFile::encodeName(folder_.pathOf(u"settings.ini"_qs)).constData(), 0600), 0);
+  EXPECT_EQ(run({u"find"_qs, u"rock"_qs}).status, 2);
+  EXPECT_EQ(run({u"refresh"_qs}).status, 2);
 }
 
 TEST_F(FindProgram, CountWritesOnlyTheNumberOfHits) {

@@ -1,12 +1,15 @@
 #include "platform/ini_settings_store.h"
 
+#include "e2e/ordinary_user.h"
 #include "faults/runtime_fault.h"
 #include "files/full_disk.h"
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <thread>
 
 namespace quorvin {
@@ -117,6 +120,40 @@ TEST(IniSettingsStore, AStoreThatCannotBeReadIsNotReplaced) {
   IniSettingsStore store(folder.pathOf(kFile));
   EXPECT_EQ(faultOfWriting(store, QStringLiteral("x")), 75);
   EXPECT_TRUE(QFileInfo(folder.pathOf(kFile)).isDir());
+}
+
+TEST(IniSettingsStore, AStoreThatIsThereAndCannotBeReadIsAFault) {
+  const TemporaryFolder folder;
+  folder.makeFolder(QStringLiteral("folder.ini"));
+  const QString pipe = folder.pathOf(QStringLiteral("pipe.ini"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  for (const char* name : {"folder.ini", "pipe.ini"}) {
+    IniSettingsStore store(folder.pathOf(QString::fromLatin1(name)));
+    EXPECT_FAULT(valueIn(store, "Key"), 75) << name;
+    EXPECT_EQ(faultOfWriting(store, QStringLiteral("x")), 75) << name;
+  }
+}
+
+TEST(IniSettingsStore, AStoreWithoutPermissionIsAFault) {
+  const test::OrdinaryUser user;
+  const TemporaryFolder folder;
+  const QString path = folder.writeFile(QStringLiteral("settings.ini"), "[a/b]\nKey=old\n");
+  ASSERT_TRUE(QFile::setPermissions(path, {}));
+  IniSettingsStore store(path);
+  EXPECT_FAULT(valueIn(store, "Key"), 70);
+  EXPECT_EQ(faultOfWriting(store, QStringLiteral("x")), 70);
+  ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner));
+  EXPECT_EQ(folder.readFile(QStringLiteral("settings.ini")), "[a/b]\nKey=old\n");
+}
+
+TEST(IniSettingsStore, AByteOrderMarkHidesNothing) {
+  const TemporaryFolder folder;
+  const QString path =
+      folder.writeFile(QStringLiteral("settings.ini"), "\xEF\xBB\xBF[Quorvin%20Utility/Settings]\nKey=old\n");
+  IniSettingsStore store(path);
+  EXPECT_EQ(valueIn(store, "Key"), u"old");
+  EXPECT_EQ(faultOfWriting(store, QStringLiteral("new")), 0);
+  EXPECT_EQ(folder.readFile(QStringLiteral("settings.ini")), "[Quorvin%20Utility/Settings]\nKey=new\n");
 }
 
 TEST(UserSettingsPath, IsInTheUsersConfigurationFolder) {
