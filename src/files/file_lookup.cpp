@@ -80,6 +80,11 @@ QString findOrdinaryFile(const QString& pattern) {
   return {};
 }
 
+bool fileExists(const QString& path) {
+  const auto [folder, name] = splitPattern(path);
+  return !name.isEmpty() && QFileInfo(folder + name).isFile();
+}
+
 bool ordinaryFileExists(const QString& path) {
   return !findOrdinaryFile(path).isEmpty();
 }

@@ -17,6 +17,10 @@ QString findOrdinaryFile(const QString& pattern);
 /// Whether findOrdinaryFile(`path`) finds anything.
 bool ordinaryFileExists(const QString& path);
 
+/// Whether a regular file, or a link to one, is at `path`, hidden or not; nothing in `path` is a wildcard.
+/// Never throws.
+bool fileExists(const QString& path);
+
 /// Whether `name` fits `pattern`, in which "*" stands for any characters and "?" for any one; every other
 /// character stands for itself.
 bool fitsWildcards(QStringView name, QStringView pattern);

@@ -23,6 +23,11 @@ QString text(const char16_t* literal) {
   return QString::fromUtf16(literal);
 }
 
+/// A hidden file is a listing like others: a description may begin with a dot.
+bool isListing(const QString& path) {
+  return ordinaryFileExists(path) || fileExists(path);
+}
+
 std::int16_t correctedMatch(const QString& desMatch) {
   const std::int16_t wanted = roundToInt16(leadingNumber(desMatch));
   return std::clamp<std::int16_t>(wanted, 1, 100);
@@ -93,8 +98,12 @@ void SearchRun::searchSources() {
 
 void SearchRun::searchOnlineSources() {
   for (int row = 1; row <= parts_.state.OnlineSourceCount && !isEnding(); ++row) {
-    const QString& description = parts_.state.OnlineSources.description(row);
-    searchIfFound(parts_.state.LocalFolder + description + text(kListingEnding), SourceKind::Online);
+    // A copy, since the user may edit the table while events run.
+    const QString description = parts_.state.OnlineSources.description(row);
+    const QString path = parts_.state.LocalFolder + description + text(kListingEnding);
+    // The refresh leaves out blanks at the ends.
+    const QString made = parts_.state.onlineListingPath(description);
+    searchIfFound(!isListing(path) && isListing(made) ? made : path, SourceKind::Online);
   }
 }
 
@@ -113,7 +122,7 @@ void SearchRun::searchOfflineSources() {
 }
 
 bool SearchRun::searchIfFound(const QString& path, SourceKind kind) {
-  if (ordinaryFileExists(path)) {
+  if (isListing(path)) {
     scan(path, kind);
     return true;
   }

@@ -132,4 +132,17 @@ TEST(FindOrdinaryFile, WildcardsInTheFolderAreNone) {
   EXPECT_EQ(findOrdinaryFile(folder.pathOf(QStringLiteral("s*/a.txt"))), u"");
 }
 
+TEST(FileExists, HiddenOnesToo) {
+  const TemporaryFolder folder;
+  folder.writeFile(QStringLiteral(".hidden"), "x");
+  folder.makeFolder(QStringLiteral("sub"));
+  ASSERT_TRUE(QFile::link(folder.pathOf(QStringLiteral(".hidden")), folder.pathOf(QStringLiteral(".link"))));
+  EXPECT_TRUE(fileExists(folder.pathOf(QStringLiteral(".hidden"))));
+  EXPECT_TRUE(fileExists(folder.pathOf(QStringLiteral(".link"))));
+  EXPECT_FALSE(fileExists(folder.pathOf(QStringLiteral("sub"))));
+  EXPECT_FALSE(fileExists(folder.path()));
+  EXPECT_FALSE(fileExists(folder.pathOf(QStringLiteral("missing"))));
+  EXPECT_FALSE(fileExists(folder.pathOf(QStringLiteral("*"))));
+}
+
 }  // namespace quorvin

@@ -184,6 +184,33 @@ TEST_F(SearchRunTest, MissingOnlineListingIsToldAndTheRunGoesOn) {
   EXPECT_EQ(display_.searched.back(), 1);
 }
 
+TEST_F(SearchRunTest, AListingIsFoundUnderTheNameThatTheRefreshGivesIt) {
+  folder_.writeFile(u"trail.txt"_qs, "song trail\r\n");
+  folder_.writeFile(u".txt"_qs, "song of blanks\r\n");
+  folder_.writeFile(u".hidden.txt"_qs, "song hidden\r\n");
+  addOnline(u"trail "_qs);
+  addOnline(u"   "_qs);
+  addOnline(u".hidden"_qs);
+  find(u"song");
+  EXPECT_EQ(names(), (QStringList{u"song trail"_qs, u"song of blanks"_qs, u"song hidden"_qs}));
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(SearchRunTest, AListingOfExactlyTheDescriptionComesFirst) {
+  folder_.writeFile(u"trail.txt"_qs, "song trimmed\r\n");
+  folder_.writeFile(u"trail .txt"_qs, "song exact\r\n");
+  addOnline(u"trail "_qs);
+  find(u"song");
+  EXPECT_EQ(names(), (QStringList{u"song exact"_qs}));
+}
+
+TEST_F(SearchRunTest, AMissingListingIsToldUnderItsDescriptionAsItStands) {
+  addOnline(u"trail "_qs);
+  find(u"song");
+  EXPECT_EQ(messages_.informed,
+            (std::vector<QString>{u"Listing file not found: "_qs + folder_.pathOf(u"trail .txt"_qs)}));
+}
+
 TEST_F(SearchRunTest, MissingMainDataFileEndsTheRunAndLeavesTheSearchedLabel) {
   state_.TextFile = u"main.txt"_qs;
   addOffline(folder_.writeFile(u"off.lst"_qs, "song off\r\n"));
