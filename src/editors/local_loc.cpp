@@ -3,8 +3,17 @@
 #include <QKeySequence>
 #include <QScreen>
 #include <QShortcut>
+#include <QToolTip>
 
 namespace quorvin {
+
+namespace {
+
+QString quoteReplaced() {
+  return QStringLiteral("A list of sources cannot keep a double quote, so ' takes its place.");
+}
+
+}  // namespace
 
 LocalLoc::LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget* owner)
     : QDialog(owner), editing_(editing), LocMode_(LocMode), controls_(makeLocalLocControls(this)) {
@@ -47,6 +56,7 @@ void LocalLoc::takeInitialSize() {
 
 void LocalLoc::connectControls() {
   connect(controls_.LocAdd, &QPushButton::clicked, this, &LocalLoc::LocAdd_Click);
+  connect(controls_.Desc, &QLineEdit::textEdited, this, &LocalLoc::Desc_Edited);
   connect(controls_.LocDel, &QPushButton::clicked, this, &LocalLoc::LocDel_Click);
   connect(controls_.MvUp, &QPushButton::clicked, this, &LocalLoc::MvUp_Click);
   connect(controls_.MvDn, &QPushButton::clicked, this, &LocalLoc::MvDn_Click);
@@ -74,6 +84,16 @@ void LocalLoc::LocAdd_Click() {
   }
   entries_.append(entry);
   controls_.Online->scrollToBottom();
+}
+
+/// The list file could not keep a double quote, and the sources after it would be read wrongly.
+void LocalLoc::Desc_Edited() {
+  QLineEdit* edit = controls_.Desc;
+  if (!edit->text().contains(u'"')) return;
+  const int cursor = edit->cursorPosition();
+  edit->setText(edit->text().replace(u'"', u'\''));
+  edit->setCursorPosition(cursor);
+  QToolTip::showText(edit->mapToGlobal(edit->rect().bottomLeft()), quoteReplaced(), edit);
 }
 
 void LocalLoc::LocDel_Click() {

@@ -52,6 +52,7 @@ class LocalLoc : public QDialog {
  private:
   void Form_Load();
   void LocAdd_Click();
+  void Desc_Edited();
   void LocDel_Click();
   void MvUp_Click();
   void MvDn_Click();

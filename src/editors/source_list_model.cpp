@@ -37,6 +37,11 @@ std::optional<QString> whyNotAdded(const SourceEntry& entry) {
       !std::all_of(description.begin(), description.end(), isAllowedInDescriptions)) {
     return QStringLiteral("Description must not be left blank or contain the characters /?\\:|*");
   }
+  if (entry.path.contains(u'"')) {
+    return QStringLiteral(
+        "The Path must not contain a double quote, since a list of sources cannot keep one. Please give "
+        "the folder another name, or use a link to it.");
+  }
   return std::nullopt;
 }
 

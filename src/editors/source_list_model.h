@@ -23,7 +23,8 @@ struct SourceEntry {
 
 /// Why `entry` cannot be added, as a message to the user: a path of fewer than 3 characters, or a description
 /// that is empty or holds one of :|*?\/ (an online source's description is part of a file name). The path is
-/// looked at first. Nothing when the entry can be added; texts are taken as they are.
+/// looked at first. A path with a double quote is refused last: it leads nowhere without it, and a list of
+/// sources cannot keep it. Nothing when the entry can be added; texts are taken as they are.
 std::optional<QString> whyNotAdded(const SourceEntry& entry);
 
 /// What the user should know of the descriptions of folders, as a sentence: that two of them would have one

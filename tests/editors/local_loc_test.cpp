@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QSignalSpy>
+#include <QToolTip>
 
 namespace quorvin::test {
 
@@ -88,6 +89,25 @@ TEST_F(FolderEditor, ADescriptionThatNoFileNameCanHoldIsRefused) {
   EXPECT_EQ(messages_.informed,
             std::vector<QString>(5, QStringLiteral("Description must not be left blank or contain the "
                                                    "characters /?\\:|*")));
+  EXPECT_TRUE(edited().empty());
+}
+
+TEST_F(FolderEditor, ADoubleQuoteInADescriptionBecomesAnApostropheWithAWordOnWhy) {
+  type(controls().Desc, QStringLiteral("12\" vinyl"));
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("12' vinyl"));
+  EXPECT_EQ(QToolTip::text(),
+            QStringLiteral("A list of sources cannot keep a double quote, so ' takes its place."));
+  controls().Desc->setCursorPosition(0);
+  QTest::keyClicks(controls().Desc, QStringLiteral("\"a"));
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("'a12' vinyl"));
+}
+
+TEST_F(FolderEditor, APathWithADoubleQuoteIsRefused) {
+  add(QStringLiteral("Vinyl"), QStringLiteral("/music/12\"/"));
+  EXPECT_EQ(messages_.informed,
+            std::vector{QStringLiteral(
+                "The Path must not contain a double quote, since a list of sources "
+                "cannot keep one. Please give the folder another name, or use a link to it.")});
   EXPECT_TRUE(edited().empty());
 }
 
