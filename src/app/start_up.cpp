@@ -6,10 +6,19 @@
 #include "files/file_lookup.h"
 #include "index/dir_io.h"
 #include "state/settings.h"
+#include "state/source_list_file.h"
 
 #include <utility>
 
 namespace quorvin {
+
+namespace {
+
+QString programFolderOf(const StartUpConditions& conditions) {
+  return withTrailingSeparator(conditions.programFolder(), conditions.pathStyle);
+}
+
+}  // namespace
 
 StartUp::StartUp(ProgramState& state, const SettingsStore& store, MessageBoxes& boxes, StartUpView& view,
                  ExtractDataFile extractDataFile)
@@ -26,6 +35,7 @@ void StartUp::Form_Load(const StartUpConditions& conditions) {
     boxes_.inform(QStringLiteral("Statup error: ") + QString::number(fault.number()) + u' ' +
                   fault.description());
   }
+  noteSettingsAtStart(store_, state_, conditions.locale, [&] { return programFolderOf(conditions); });
 }
 
 void StartUp::runSteps(const StartUpConditions& conditions) {
@@ -41,9 +51,8 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   readPlacement(store_, state_, view_);
   readSettings(store_, state_, conditions.now, conditions.locale);
   if (!state_.WebServer.isEmpty() && !state_.ArchiveFile.isEmpty()) view_.setWebUpdateEnabled(true);
-  loadSourceLists(state_, [&conditions] {
-    return withTrailingSeparator(conditions.programFolder(), conditions.pathStyle);
-  });
+  completeLocalFolder(state_, [&] { return programFolderOf(conditions); });
+  loadSourceLists(state_);
   removeLeftovers(state_.LocalFolder);
   if (dataFileIsOnlyInArchive()) {
     extractDataFile_(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);

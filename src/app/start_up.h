@@ -56,7 +56,8 @@ class StartUp {
   /// Shows the version, takes the command line, gathers defaults, restores settings and placement, loads both
   /// source lists, and has the main data file unpacked when only its archive is there. A fault on the way is
   /// shown as "Statup error: NUMBER DESCRIPTION" and ends start-up; what was done before it stays, and the
-  /// program goes on with that. Starts no search, no indexing and no connection.
+  /// program goes on with that and with a local data folder. What could not be read is not overwritten later.
+  /// Starts no search, no indexing and no connection.
   void Form_Load(const StartUpConditions& conditions);
 
  private:

@@ -16,4 +16,12 @@ std::optional<FileIdentity> fileIdentity(const QString& path) {
                       status.st_ino};
 }
 
+bool isSameFile(const QString& path, const QString& other) {
+  if (path == other) return true;
+  const std::optional<FileIdentity> identity = fileIdentity(path);
+  const std::optional<FileIdentity> otherIdentity = fileIdentity(other);
+  return identity && otherIdentity && identity->device == otherIdentity->device &&
+         identity->file == otherIdentity->file;
+}
+
 }  // namespace quorvin

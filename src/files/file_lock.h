@@ -20,7 +20,14 @@ class FileLock {
   /// system without locks is no fault: then nothing is kept apart.
   FileLock(const QString& path, int milliseconds);
 
+  /// The same right by a lock on the file at `path` itself, without a file beside it: whoever replaces the
+  /// file under such a lock replaces what was there when the lock was taken. Where there is no file, or it
+  /// cannot be opened, nothing is kept apart.
+  static FileLock onFileItself(const QString& path, int milliseconds);
+
  private:
+  explicit FileLock(Descriptor file) : file_(std::move(file)) {}
+
   Descriptor file_;
 };
 

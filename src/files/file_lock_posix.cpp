@@ -7,6 +7,7 @@
 #include <chrono>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <thread>
 
 namespace quorvin {
@@ -38,7 +39,24 @@ Descriptor openLockFile(const QString& path) {
   return Descriptor(::open(encodedPath(path + QStringLiteral(".lock")).constData(), kNoLink, kOnlyTheUser));
 }
 
+bool isAt(const Descriptor& file, const QString& path) {
+  struct stat opened {};
+  struct stat found {};
+  return ::fstat(file.get(), &opened) == 0 && ::stat(encodedPath(path).constData(), &found) == 0 &&
+         opened.st_dev == found.st_dev && opened.st_ino == found.st_ino;
+}
+
 }  // namespace
+
+FileLock FileLock::onFileItself(const QString& path, int milliseconds) {
+  for (;;) {
+    Descriptor file(::open(encodedPath(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file.isOpen()) return FileLock(Descriptor());
+    if (!takeLock(file.get(), milliseconds)) throw faultOfSystemError(EBUSY, path);
+    // Whoever had it may have put another file there, which is to be taken then.
+    if (isAt(file, path)) return FileLock(std::move(file));
+  }
+}
 
 FileLock::FileLock(const QString& path, int milliseconds) : file_(openLockFile(path)) {
   if (!file_.isOpen()) throw faultOfSystemError(errno, path);

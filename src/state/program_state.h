@@ -4,17 +4,37 @@
 #include "dates/general_date.h"
 #include "state/source_table.h"
 
+#include <QByteArray>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 
 namespace quorvin {
+
+/// What is known of a source list on disk since it was read when the program started, or saved. A list of
+/// which that is not known may hold records that no table has.
+struct SourceListRead {
+  /// Where the list was looked for; empty while none was.
+  QString path;
+  /// It was read to its end, or there was none.
+  bool isComplete = false;
+  /// digestOf() its bytes; empty where there was none.
+  QByteArray digest;
+  /// The records that were taken from it, as they would be written: the user has changed the table since then
+  /// if it gives others.
+  QByteArray records;
+  /// The first of its descriptions that can only be a path: its records are shifted then, most likely by a
+  /// double quote. Empty for none.
+  QString shiftedPath;
+};
 
 /// The program's shared state. One object is made in main() and handed to everything by reference; it
 /// outlives every window. Only the user-interface thread touches it. The names are those of the settings
 /// keys and of the rules of the program.
 struct ProgramState {
   // Settings.
-  /// The local data folder, always with a trailing separator once start-up is through; file names are
-  /// appended to it directly.
+  /// The local data folder, with a trailing separator once start-up has ended, however it did; file names are
+  /// appended to it directly. Empty only where no folder could be made out.
   QString LocalFolder;
   /// The main data file, inside `LocalFolder` unless it is a whole path.
   QString TextFile;
@@ -25,8 +45,12 @@ struct ProgramState {
   DateValue JoinDate = 0;
   QString NickName;
 
-  /// All settings were read when the program started. Where that failed, an empty one may only be unknown.
-  bool settingsRead = false;
+  /// The keys of the settings, window place included, that were read when the program started. What the store
+  /// holds of the others is not known.
+  QStringList settingsRead;
+  /// What start-up left in the settings, as texts by their keys: one that still holds that has not been
+  /// changed by the user.
+  QMap<QString, QString> settingsAtStart;
 
   // Names that the command line may change.
   /// The application name under which the settings are kept.
@@ -40,10 +64,8 @@ struct ProgramState {
   int OnlineSourceCount = 0;
   SourceTable OfflineSources;
   int OfflineSourceCount = 0;
-  /// The source list files that were read to their end when the program started, or found missing; empty
-  /// while that is not so. A list on disk that was not read holds records that no table knows.
-  QString onlineListRead;
-  QString offlineListRead;
+  SourceListRead onlineListRead;
+  SourceListRead offlineListRead;
 
   // Requests and conditions that long loops poll.
   /// Asks a running search, indexing or download to stop.

@@ -3,6 +3,7 @@
 #include "dates/general_number.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
+#include "files/path_style.h"
 #include "platform/ini_settings_store.h"
 #include "platform/standard_folders.h"
 #include "state/source_list_file.h"
@@ -48,6 +49,18 @@ QString readSetting(const SettingsStore& store, const ProgramState& state, const
   return store.read(state.RegKey, QString::fromUtf16(kSettingsSection), key, fallback);
 }
 
+/// Whether what is stored of the window's place is not known and should stay: it is a number, or even now the
+/// store cannot be read, which is no reason to keep anybody from leaving.
+bool shouldStay(const SettingsStore& store, const ProgramState& state, const QString& name) {
+  if (state.settingsRead.contains(name)) return false;
+  try {
+    placementValue(readSetting(store, state, name, {}));
+    return true;
+  } catch (const RuntimeFault& fault) {
+    return fault.faultNumber() != FaultNumber::TypeMismatch && fault.faultNumber() != FaultNumber::Overflow;
+  }
+}
+
 }  // namespace
 
 QString placementText(float twips) {
@@ -65,16 +78,18 @@ float placementValue(const QString& text) {
   throw RuntimeFault(FaultNumber::Overflow, describe(FaultNumber::Overflow) + QStringLiteral(": ") + text);
 }
 
-void readPlacement(const SettingsStore& store, const ProgramState& state, WindowPlacement& window) {
+void readPlacement(const SettingsStore& store, ProgramState& state, WindowPlacement& window) {
   for (const auto& [key, name] : placementNames()) {
     const QString current = placementText(window.placement(key));
     window.setPlacement(key, placementValue(readSetting(store, state, name, current)));
+    state.settingsRead += name;
   }
 }
 
 void readSettings(const SettingsStore& store, ProgramState& state, DateValue now, const QLocale& locale) {
   const auto restore = [&](QString& setting, const QString& key) {
     setting = readSetting(store, state, key, setting);
+    state.settingsRead += key;
   };
   restore(state.LocalFolder, QStringLiteral("LocalFolder"));
   restore(state.TextFile, QStringLiteral("TextFile"));
@@ -85,40 +100,65 @@ void readSettings(const SettingsStore& store, ProgramState& state, DateValue now
   const std::optional<DateValue> joinDate = readGeneralDate(joined, locale);
   if (!joinDate) throw unreadable(QStringLiteral("date"), joined);
   state.JoinDate = *joinDate;
+  state.settingsRead += QStringLiteral("JoinDate");
 
-  state.NickName = readSetting(store, state, QStringLiteral("NickName"), QString());
-  state.settingsRead = true;
+  state.NickName.clear();
+  restore(state.NickName, QStringLiteral("NickName"));
+}
+
+std::vector<Setting> settingTexts(const ProgramState& state, const QLocale& locale) {
+  // A date that is not known is no date.
+  const bool isDateKnown = state.JoinDate != 0 || state.settingsRead.contains(QStringLiteral("JoinDate"));
+  return {{QStringLiteral("LocalFolder"), state.LocalFolder},
+          {QStringLiteral("TextFile"), state.TextFile},
+          {QStringLiteral("ArchiveFile"), state.ArchiveFile},
+          {QStringLiteral("WebServer"), state.WebServer},
+          {QStringLiteral("JoinDate"), isDateKnown ? generalDateText(state.JoinDate, locale) : QString()},
+          {QStringLiteral("NickName"), state.NickName}};
+}
+
+void completeLocalFolder(ProgramState& state, const std::function<QString()>& programFolder) {
+  if (state.LocalFolder.isEmpty()) state.LocalFolder = programFolder();
+  // A folder written as other systems do is not of this one, and is left alone.
+  const bool isForeign = state.LocalFolder.endsWith(u'\\') && !state.LocalFolder.contains(u'/');
+  if (!isForeign) state.LocalFolder = withTrailingSeparator(state.LocalFolder, nativePathStyle());
+}
+
+void noteSettingsAtStart(const SettingsStore& store, ProgramState& state, const QLocale& locale,
+                         const std::function<QString()>& programFolder) {
+  const QString folderKey = QStringLiteral("LocalFolder");
+  try {
+    if (state.LocalFolder.isEmpty() && !state.settingsRead.contains(folderKey)) {
+      state.LocalFolder = readSetting(store, state, folderKey, {});
+    }
+  } catch (const RuntimeFault&) {
+    // Start-up has reported that the store cannot be read.
+  }
+  try {
+    completeLocalFolder(state, programFolder);
+  } catch (const RuntimeFault&) {
+    // Without any folder nothing can be saved, which is reported when it comes to that.
+  }
+  for (const auto& [key, text] : settingTexts(state, locale)) state.settingsAtStart[key] = text;
+}
+
+bool isSettingChanged(const ProgramState& state, const Setting& setting) {
+  return setting.text != state.settingsAtStart.value(setting.key);
 }
 
 void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale) {
-  const auto keep = [&](const QString& key, const QString& value) {
-    if (value.isEmpty() && !state.settingsRead) return;
-    store.write(state.RegKey, QString::fromUtf16(kSettingsSection), key, value);
-  };
-  keep(QStringLiteral("LocalFolder"), state.LocalFolder);
-  keep(QStringLiteral("TextFile"), state.TextFile);
-  keep(QStringLiteral("ArchiveFile"), state.ArchiveFile);
-  keep(QStringLiteral("WebServer"), state.WebServer);
-  const bool joinDateKnown = state.settingsRead || state.JoinDate != 0;
-  keep(QStringLiteral("JoinDate"), joinDateKnown ? generalDateText(state.JoinDate, locale) : QString());
-  keep(QStringLiteral("NickName"), state.NickName);
+  for (const Setting& setting : settingTexts(state, locale)) {
+    if (!state.settingsRead.contains(setting.key) && !isSettingChanged(state, setting)) continue;
+    store.write(state.RegKey, QString::fromUtf16(kSettingsSection), setting.key, setting.text);
+  }
 }
 
 void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window) {
   for (const auto& [key, name] : placementNames()) {
+    if (shouldStay(store, state, name)) continue;
     store.write(state.RegKey, QString::fromUtf16(kSettingsSection), name,
                 placementText(window.placement(key)));
   }
-}
-
-void loadSourceLists(ProgramState& state, const std::function<QString()>& programFolder) {
-  if (state.LocalFolder.isEmpty()) state.LocalFolder = programFolder();
-  const QString online = state.LocalFolder + state.LocFile;
-  if (ordinaryFileExists(online)) loadSourceList(online, state.OnlineSources, state.OnlineSourceCount);
-  state.onlineListRead = online;
-  const QString offline = state.LocalFolder + state.OffLineFile;
-  if (ordinaryFileExists(offline)) loadSourceList(offline, state.OfflineSources, state.OfflineSourceCount);
-  state.offlineListRead = offline;
 }
 
 void loadUserSources(ProgramState& state, const QLocale& locale) {
@@ -126,11 +166,12 @@ void loadUserSources(ProgramState& state, const QLocale& locale) {
   readDefaultsFile(state);
   const IniSettingsStore store(userSettingsPath());
   readSettings(store, state, dateValueOf(QDateTime::currentDateTime()), locale);
-  loadSourceLists(state, programFolder);
+  completeLocalFolder(state, programFolder);
+  loadSourceLists(state);
 }
 
 bool isValidDataFolder(const QString& folder) {
-  return ordinaryFileExists(folder + QStringLiteral("*.*"));
+  return !folder.isEmpty() && ordinaryFileExists(folder + QStringLiteral("*.*"));
 }
 
 void readDefaultsFile(const QString& path, ProgramState& state) {

@@ -1,5 +1,5 @@
 // The ten settings: their defaults of a first run, reading them at start-up, writing them at shutdown; and
-// the local data folder, which is one of them.
+// the local data folder, which is one of them. What start-up could not read is not overwritten by shutdown.
 #pragma once
 
 #include "platform/settings_store.h"
@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <functional>
+#include <vector>
 
 namespace quorvin {
 
@@ -34,37 +35,58 @@ QString placementText(float twips);
 float placementValue(const QString& text);
 
 /// Reads the placement keys of `state.RegKey`, each with the window's current value as default, and applies
-/// each to the window as soon as it is read, in the order Top, Left, Width, Height.
-void readPlacement(const SettingsStore& store, const ProgramState& state, WindowPlacement& window);
+/// each to the window as soon as it is read, in the order Top, Left, Width, Height. `state` notes the keys
+/// that were read. Throws fault 13 for what is no number, and as the store does.
+void readPlacement(const SettingsStore& store, ProgramState& state, WindowPlacement& window);
 
 /// Reads "LocalFolder", "TextFile", "ArchiveFile", "WebServer", "JoinDate" and "NickName" of `state.RegKey`
-/// into `state`, in this order. What `state` holds before is the default of the first four; the default of
-/// the date is `now`, of the nickname empty. The join date is kept as text in the locale's general date form.
-/// Throws fault 13 when the stored date cannot be read; what was read before stays.
+/// into `state`, in this order, which also notes that they were read. What `state` holds before is the
+/// default of the first four; the default of the date is `now`, of the nickname empty. The join date is kept
+/// as text in the locale's general date form. Throws fault 13 when the stored date cannot be read, and as the
+/// store does; what was read before stays.
 void readSettings(const SettingsStore& store, ProgramState& state, DateValue now, const QLocale& locale);
 
-/// Stores the six settings under `state.RegKey`, in the order in which they are read. Where they could not
-/// all be read at start-up, one that is empty now is left as it is stored. Throws as the store does; what was
-/// stored before the fault stays.
+/// One of the six settings that are no window place, as the text that is stored.
+struct Setting {
+  QString key;
+  QString text;
+};
+
+/// All six, in the order in which they are read; the text of a join date that is not known is empty.
+std::vector<Setting> settingTexts(const ProgramState& state, const QLocale& locale);
+
+/// Gives an empty `LocalFolder` what `programFolder` gives, the program's own folder with its trailing
+/// separator (it is not asked otherwise, and may throw), and one without a separator at its end that
+/// separator.
+void completeLocalFolder(ProgramState& state, const std::function<QString()>& programFolder);
+
+/// To be called once start-up has ended, also by a fault: notes what it left in the settings, so that one
+/// that was not read is saved only when the user has changed it. Sources that are added after a fault need a
+/// data folder too: where start-up did not come as far, that is the stored one, else `programFolder`, which
+/// may throw. Does not throw.
+void noteSettingsAtStart(const SettingsStore& store, ProgramState& state, const QLocale& locale,
+                         const std::function<QString()>& programFolder);
+
+/// Whether the user has changed this setting, one of settingTexts(`state`), since start-up.
+bool isSettingChanged(const ProgramState& state, const Setting& setting);
+
+/// Stores the six settings under `state.RegKey`, in the order in which they are read. One that was not read
+/// at start-up is stored only if the user has changed it since. Throws as the store does; what was stored
+/// before the fault stays.
 void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale);
 
-/// Stores the window's place and size under `state.RegKey`: Top, Left, Width, Height. Throws as the store
-/// does.
+/// Stores the window's place and size under `state.RegKey`: Top, Left, Width, Height. One that was not read
+/// at start-up replaces only what is no number, which would end the next start-up too. Throws as the store
+/// does in writing.
 void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window);
-
-/// Loads both source lists from `LocalFolder`, each if its file exists, appending to the tables. An empty
-/// `LocalFolder` becomes what `programFolder` gives, the program's own folder with its trailing separator; it
-/// is not asked otherwise. Throws as loadSourceList does; what was loaded before stays. `state` notes the
-/// lists that were read to their end.
-void loadSourceLists(ProgramState& state, const std::function<QString()>& programFolder);
 
 /// Settings and sources of this user, as the window loads them when no file is on its command line: the
 /// defaults, the settings store, both source lists. Throws RuntimeFault where the window would report a
 /// start-up error; what was loaded before stays.
 void loadUserSources(ProgramState& state, const QLocale& locale);
 
-/// Whether `folder`, which ends in a separator, can be the local data folder: at least one ordinary file is
-/// in it.
+/// Whether `folder`, which ends in a separator or is empty, can be the local data folder: at least one
+/// ordinary file is in it. Empty text names no folder, not even the current one.
 bool isValidDataFolder(const QString& folder);
 
 /// The bare file name; it is looked up in the current working folder.

@@ -3,13 +3,17 @@
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_identity.h"
+#include "files/file_lock.h"
 #include "files/file_lookup.h"
 #include "files/file_reader.h"
+#include "files/folder_writer.h"
+#include "files/path_style.h"
 #include "platform/text_encoding.h"
 #include "state/settings.h"
 #include "state/text_line_reader.h"
 
 #include <QByteArray>
+#include <QScopeGuard>
 
 #include <optional>
 
@@ -29,6 +33,9 @@ class SourceListFields {
 
   /// The next field. Throws RuntimeFault: 62 when there is none, and when reading fails.
   QString next();
+
+  /// As TextLineReader::digest().
+  QByteArray digest() const { return lines_.digest(); }
 
  private:
   QString takeQuoted();
@@ -127,7 +134,7 @@ QByteArray recordsText(const SourceTable& table, int count) {
 
 }  // namespace
 
-void loadSourceList(const QString& path, SourceTable& table, int& count) {
+QByteArray loadSourceList(const QString& path, SourceTable& table, int& count) {
   SourceListFields fields(path);
   while (!fields.atEnd()) {
     const QString description = fields.next();
@@ -136,6 +143,7 @@ void loadSourceList(const QString& path, SourceTable& table, int& count) {
     table.set(count + 1, description, sourcePath);
     ++count;
   }
+  return fields.digest();
 }
 
 void saveSourceList(const QString& path, const SourceTable& table, int count) {
@@ -144,31 +152,83 @@ void saveSourceList(const QString& path, const SourceTable& table, int count) {
 
 namespace {
 
+bool looksLikeAPath(const QString& description) {
+  const bool hasDrive = description.size() > 2 && description[0].isLetter() && description[1] == u':' &&
+                        (description[2] == u'\\' || description[2] == u'/');
+  return hasDrive || description.startsWith(u'/') || description.startsWith(QStringLiteral("\\\\"));
+}
+
+/// The first description that can only be a path; the editors take none of this kind. Empty for none.
+QString shiftedPath(const SourceTable& table, int count) {
+  for (int row = 1; row <= count; ++row) {
+    if (looksLikeAPath(table.description(row))) return table.description(row);
+  }
+  return {};
+}
+
+void noteRecords(const SourceTable& table, int count, SourceListRead& read) {
+  read.records = recordsText(table, count);
+  read.shiftedPath = shiftedPath(table, count);
+}
+
+void load(const QString& path, SourceTable& table, int& count, SourceListRead& read) {
+  read = {};
+  read.path = path;
+  const auto afterwards = qScopeGuard([&] { noteRecords(table, count, read); });
+  if (ordinaryFileExists(path)) read.digest = loadSourceList(path, table, count);
+  read.isComplete = true;
+}
+
+/// One of the two lists, as it is saved.
 struct List {
   QString path;
-  /// ProgramState::onlineListRead or its like.
-  QString read;
   const SourceTable& table;
   int count;
+  SourceListRead& read;
 };
 
-/// A folder may be written in many ways, "data/" and "data/./", so paths alone do not tell.
-bool isSameFile(const QString& path, const QString& other) {
-  const std::optional<FileIdentity> identity = fileIdentity(path);
-  return path == other || (identity && identity == fileIdentity(other));
+bool isChanged(const SourceListRead& read, const SourceTable& table, int count) {
+  return recordsText(table, count) != read.records;
 }
 
-/// Whether there is a list whose records are in no table.
-bool holdsUnknownRecords(const List& list) {
-  return ordinaryFileExists(list.path) && !isSameFile(list.path, list.read);
+QByteArray digestOfFile(const QString& path) {
+  TextLineReader lines(path);
+  while (lines.next()) {
+  }
+  return lines.digest();
 }
 
-QByteArray contentOf(const QString& path) {
-  SequentialFile file(path);
-  QByteArray content(static_cast<qsizetype>(file.sizeWhenOpened()), Qt::Uninitialized);
-  const std::size_t size = file.read({content.data(), static_cast<std::size_t>(content.size())});
-  content.truncate(static_cast<qsizetype>(size));
-  return content;
+/// The sentence that tells why the list on disk may hold records that no table has; empty where it is the one
+/// that was read, or there is none.
+QString whyUnknown(const List& list) {
+  if (!ordinaryFileExists(list.path)) return {};
+  const auto sentence = [&](const QString& reason) { return reason.arg(list.path); };
+  if (!list.read.isComplete) {
+    return sentence(QStringLiteral("The list %1 was not read completely when the program started."));
+  }
+  if (!isSameFile(list.path, list.read.path)) {
+    return sentence(
+        QStringLiteral("The list %1 was not read, since its folder became the data folder only later."));
+  }
+  if (list.read.digest.isEmpty()) {
+    return sentence(QStringLiteral("The list %1 was not there when the program started."));
+  }
+  if (digestOfFile(list.path) == list.read.digest) return {};
+  return sentence(QStringLiteral("The list %1 has been changed by another program."));
+}
+
+/// Whether the user has nothing to save in the place of a list that is not the one that was read.
+bool hasNothingToSave(const List& list) {
+  if (list.count == 0) return true;
+  const bool isSameList = list.read.isComplete && isSameFile(list.path, list.read.path);
+  return isSameList && !isChanged(list.read, list.table, list.count);
+}
+
+QString whyShifted(const List& list) {
+  return QStringLiteral(
+             "The list %1 looks damaged: it has the path \"%2\" where a description should be. A double "
+             "quote in a description or a path does that.")
+      .arg(list.path, list.read.shiftedPath);
 }
 
 /// A name that is still free: "PATH.kept", "PATH.kept2" and so on.
@@ -180,52 +240,90 @@ QString nameForCopy(const QString& path) {
   return name;
 }
 
-/// The sentence that tells why the records of the list on disk are unknown.
-QString whyUnknown(const List& list) {
-  const QString reason =
-      list.read.isEmpty()
-          ? QStringLiteral("The list %1 was not read completely when the program started.")
-          : QStringLiteral("The list %1 was not read, since its folder became the data folder only later.");
-  return reason.arg(list.path);
-}
-
-void keepCopy(const List& list, MessageBoxes& messages) {
+void keepCopy(const List& list, const QString& why, MessageBoxes& messages) {
   const QString copy = nameForCopy(list.path);
-  replaceFile(copy, contentOf(list.path));
+  replaceFile(copy, contentOfFile(list.path));
   messages.inform(
-      whyUnknown(list) +
+      why +
       QStringLiteral("\r\nIt is kept as %1, and the list as it is now is saved in its place.").arg(copy));
 }
 
-void save(const ProgramState& state, const List& list, MessageBoxes& messages) {
+/// The folders for a list whose name has separators, as that of a listing without a dot in its name has.
+void makeFolders(const QString& localFolder, const QString& name) {
+  QStringList names = name.split(nativePathStyle().separator, Qt::SkipEmptyParts);
+  names.removeAll(QStringLiteral("."));
+  if (names.size() < 2 || names.contains(QStringLiteral(".."))) return;
+  names.removeLast();
+  FolderWriter(localFolder).makeFolder(names);
+}
+
+void replace(const List& list) {
+  saveSourceList(list.path, list.table, list.count);
+  list.read.path = list.path;
+  list.read.isComplete = true;
+  noteRecords(list.table, list.count, list.read);
+  list.read.digest = digestOf(list.read.records);
+}
+
+// Long enough for any other program to finish its own write.
+constexpr int kLockWaitMilliseconds = 5000;
+
+bool save(const ProgramState& state, const QString& name, const List& list, MessageBoxes& messages) {
   if (!isValidDataFolder(state.LocalFolder)) {
     messages.inform(
         QStringLiteral("The Local Data Folder path is invalid.\r\n\r\n"
                        "Unable to save the online sources list."));
-    return;
+    return false;
   }
-  const bool isUnknown = holdsUnknownRecords(list);
-  // An empty table is no gain over records that somebody has entered once. They stay, so that there is
-  // nothing to report. Nor does a start-up that never came as far as the lists leave an empty one behind.
-  if (list.count == 0 && (isUnknown || list.read.isEmpty())) return;
-  if (isUnknown) keepCopy(list, messages);
-  saveSourceList(list.path, list.table, list.count);
+  // Two programs may be closed at the same moment, as at the end of a session.
+  const FileLock lock = FileLock::onFileItself(list.path, kLockWaitMilliseconds);
+  const QString unknown = whyUnknown(list);
+  // Nothing is lost by a list that stays, so there is nothing to report.
+  if (!unknown.isEmpty() && hasNothingToSave(list)) return true;
+  // Nor does a start-up that never came as far as the lists leave an empty one behind.
+  if (list.count == 0 && !list.read.isComplete) return true;
+  const bool isShifted = !list.read.shiftedPath.isEmpty() && ordinaryFileExists(list.path);
+  if (!unknown.isEmpty()) {
+    keepCopy(list, unknown, messages);
+  } else if (isShifted && isChanged(list.read, list.table, list.count)) {
+    keepCopy(list, whyShifted(list), messages);
+  } else if (isShifted) {
+    messages.inform(whyShifted(list) + QStringLiteral("\r\nIt was left as it is."));
+    return true;
+  }
+  makeFolders(state.LocalFolder, name);
+  replace(list);
+  return true;
 }
 
 }  // namespace
 
-void saveOnlineSources(const ProgramState& state, MessageBoxes& messages) {
-  save(
-      state,
-      {state.LocalFolder + state.LocFile, state.onlineListRead, state.OnlineSources, state.OnlineSourceCount},
+void loadSourceLists(ProgramState& state) {
+  load(state.LocalFolder + state.LocFile, state.OnlineSources, state.OnlineSourceCount, state.onlineListRead);
+  load(state.LocalFolder + state.OffLineFile, state.OfflineSources, state.OfflineSourceCount,
+       state.offlineListRead);
+}
+
+bool saveOnlineSources(ProgramState& state, MessageBoxes& messages) {
+  return save(
+      state, state.LocFile,
+      {state.LocalFolder + state.LocFile, state.OnlineSources, state.OnlineSourceCount, state.onlineListRead},
       messages);
 }
 
-void saveOfflineSources(const ProgramState& state, MessageBoxes& messages) {
-  save(state,
-       {state.LocalFolder + state.OffLineFile, state.offlineListRead, state.OfflineSources,
-        state.OfflineSourceCount},
-       messages);
+bool saveOfflineSources(ProgramState& state, MessageBoxes& messages) {
+  return save(state, state.OffLineFile,
+              {state.LocalFolder + state.OffLineFile, state.OfflineSources, state.OfflineSourceCount,
+               state.offlineListRead},
+              messages);
+}
+
+bool onlineSourcesAreChanged(const ProgramState& state) {
+  return isChanged(state.onlineListRead, state.OnlineSources, state.OnlineSourceCount);
+}
+
+bool offlineSourcesAreChanged(const ProgramState& state) {
+  return isChanged(state.offlineListRead, state.OfflineSources, state.OfflineSourceCount);
 }
 
 }  // namespace quorvin

@@ -3,10 +3,21 @@
 #include "platform/text_encoding.h"
 
 #include <array>
+#include <utility>
 
 namespace quorvin {
 
-TextLineReader::TextLineReader(const QString& path) : file_(path) {}
+namespace {
+
+constexpr QCryptographicHash::Algorithm kDigest = QCryptographicHash::Sha256;
+
+}  // namespace
+
+QByteArray digestOf(QByteArrayView bytes) {
+  return QCryptographicHash::hash(bytes.toByteArray(), kDigest);
+}
+
+TextLineReader::TextLineReader(const QString& path) : file_(path), digest_(kDigest) {}
 
 std::optional<TextLine> TextLineReader::next() {
   qsizetype searched = 0;
@@ -22,10 +33,14 @@ std::optional<TextLine> TextLineReader::next() {
 
 bool TextLineReader::readChunk() {
   std::array<char, 16 * 1024> chunk;
-  const std::size_t count = file_.read(chunk);
+  const auto count = static_cast<qsizetype>(file_.read(chunk));
+  const QByteArrayView read(chunk.data(), count);
+  digest_.addData(read);
+  // The first chunk is shorter than a mark only where the file is.
+  const qsizetype mark = std::exchange(isAtStart_, false) ? byteOrderMarkLength(read) : 0;
   bytes_.remove(0, start_);
   start_ = 0;
-  bytes_.append(chunk.data(), static_cast<qsizetype>(count));
+  bytes_.append(read.sliced(mark));
   return count > 0;
 }
 

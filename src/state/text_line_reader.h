@@ -4,6 +4,7 @@
 #include "files/file_reader.h"
 
 #include <QByteArray>
+#include <QCryptographicHash>
 #include <QString>
 
 #include <optional>
@@ -21,7 +22,8 @@ struct TextLine {
 };
 
 /// The lines of a text file in the system code page, from first to last. Lines end at LF; a CR before it
-/// belongs to the line end. Each line is decoded by itself, so that one damaged line spoils no other.
+/// belongs to the line end. Each line is decoded by itself, so that one damaged line spoils no other. A byte
+/// order mark at the front of the file is passed over.
 class TextLineReader {
  public:
   /// Opens `path`; throws RuntimeFault as SequentialFile does.
@@ -31,13 +33,22 @@ class TextLineReader {
   /// line after it. Throws RuntimeFault when reading fails.
   std::optional<TextLine> next();
 
+  /// Tells the bytes that have been read so far from any others; once next() has given nothing, those of the
+  /// whole file.
+  QByteArray digest() const { return digest_.result(); }
+
  private:
   bool readChunk();
   TextLine take(qsizetype length);
 
   SequentialFile file_;
+  QCryptographicHash digest_;
+  bool isAtStart_ = true;
   QByteArray bytes_;
   qsizetype start_ = 0;
 };
+
+/// What TextLineReader::digest() gives for a file of these bytes.
+QByteArray digestOf(QByteArrayView bytes);
 
 }  // namespace quorvin

@@ -1,11 +1,13 @@
 // Programs that close at the same moment.
 #include "e2e/windowless_program.h"
+#include "state/source_list_file.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -85,9 +87,15 @@ class SavingAtOnce : public testing::Test {
  protected:
   SavingAtOnce() {
     place_.writeFile(QStringLiteral("data/any.txt"), "a file makes the folder valid");
+    emptyTheLists();
     listing_ = place_.writeFile(QStringLiteral("cds.txt"), "");
   }
 
+  void emptyTheLists() const {
+    for (const char* name : {"Locations.txt", "Locations.txt_cds", "OfflineLocations.txt"}) {
+      place_.writeFile(QStringLiteral("data/") + QString::fromLatin1(name), "");
+    }
+  }
   QString settingsPath() const { return place_.pathOf(QStringLiteral("settings/settings.ini")); }
   QByteArray dataFile(const char* name) const {
     return place_.readFile(QStringLiteral("data/") + QString::fromLatin1(name));
@@ -97,17 +105,38 @@ class SavingAtOnce : public testing::Test {
         .read(application, QStringLiteral("Settings"), QString::fromLatin1(key), {});
   }
 
-  /// One run of a program: everything that a user may have changed, and the end.
-  void live(const QString& commandLine, const Belongings& belongings) const {
-    WindowlessProgram program(settingsPath(), commandLine);
-    program.state.LocalFolder = place_.pathOf(QStringLiteral("data/"));
-    program.state.onlineListRead = program.state.LocalFolder + program.state.LocFile;
-    program.state.offlineListRead = program.state.LocalFolder + program.state.OffLineFile;
-    program.state.NickName = belongings.NickName;
-    program.setOnline(belongings.online);
-    program.setOffline(belongings.offline);
+  /// A program that has read the lists, and everything that its user may have changed since.
+  std::unique_ptr<WindowlessProgram> started(const QString& commandLine, const Belongings& belongings) const {
+    auto program = std::make_unique<WindowlessProgram>(settingsPath(), commandLine);
+    program->state.LocalFolder = place_.pathOf(QStringLiteral("data/"));
+    program->setOnline({});
+    program->setOffline({});
+    loadSourceLists(program->state);
+    program->state.NickName = belongings.NickName;
+    program->setOnline(belongings.online);
+    program->setOffline(belongings.offline);
+    return program;
+  }
+
+  /// Its end. The only messages are about lists that were kept, one for each.
+  static void end(WindowlessProgram& program) {
     program.end();
-    if (!program.messages.informed.empty()) throw std::runtime_error("a message was shown");
+    for (const QString& message : program.messages.informed) {
+      if (!message.contains(u"has been changed by another program.")) throw std::runtime_error("a message");
+    }
+  }
+
+  /// The list of whoever was first has been kept, that of the other is in its place.
+  void expectBothKept(const char* name, const SourceRecords& one, const SourceRecords& other) const {
+    const QByteArray list = dataFile(name);
+    const QByteArray kept = dataFile((std::string(name) + ".kept").c_str());
+    const bool isOnesFirst = list == listFile(other) && kept == listFile(one);
+    const bool isOthersFirst = list == listFile(one) && kept == listFile(other);
+    EXPECT_TRUE(isOnesFirst || isOthersFirst) << list.toStdString() << kept.toStdString();
+  }
+  void removeKeptLists() const {
+    QDir data(place_.pathOf(QStringLiteral("data")));
+    for (const QString& name : data.entryList({QStringLiteral("*.kept")})) data.remove(name);
   }
 
   void expectNothingLeftOver(const QStringList& lists) const {
@@ -127,9 +156,11 @@ TEST_F(SavingAtOnce, ProgramsWithSetsOfTheirOwnKeepBoth) {
     SCOPED_TRACE(round);
     const Belongings ann = belongingsOf(QStringLiteral("Ann"), round);
     const Belongings bob = belongingsOf(QStringLiteral("Bob"), round);
+    const auto anns = started({}, ann);
+    const auto bobs = started(listing_, bob);
     Together programs;
-    programs.add([&] { live({}, ann); });
-    programs.add([&] { live(listing_, bob); });
+    programs.add([&] { end(*anns); });
+    programs.add([&] { end(*bobs); });
     ASSERT_TRUE(programs.run());
 
     EXPECT_EQ(saved(QStringLiteral("Ketta Quorvin"), "NickName"), ann.NickName);
@@ -139,34 +170,36 @@ TEST_F(SavingAtOnce, ProgramsWithSetsOfTheirOwnKeepBoth) {
     EXPECT_EQ(saved(listing_, "Height"), u"6000");
     EXPECT_EQ(dataFile("Locations.txt"), listFile(ann.online));
     EXPECT_EQ(dataFile("Locations.txt_cds"), listFile(bob.online));
-    const QByteArray shared = dataFile("OfflineLocations.txt");
-    EXPECT_TRUE(shared == listFile(ann.offline) || shared == listFile(bob.offline)) << shared.toStdString();
+    expectBothKept("OfflineLocations.txt", ann.offline, bob.offline);
+    removeKeptLists();
+    emptyTheLists();
   }
   expectNothingLeftOver({QStringLiteral("Locations.txt"), QStringLiteral("Locations.txt_cds"),
                          QStringLiteral("OfflineLocations.txt"), QStringLiteral("any.txt")});
 }
 
-TEST_F(SavingAtOnce, ProgramsWithTheSameSetLeaveTheListsOfOneOfThem) {
+TEST_F(SavingAtOnce, ProgramsWithTheSameSetLeaveTheListsOfBoth) {
   for (int round = 1; round <= kRounds; ++round) {
     SCOPED_TRACE(round);
     const Belongings ann = belongingsOf(QStringLiteral("Ann"), round);
     const Belongings bob = belongingsOf(QStringLiteral("Bob"), round);
+    const auto anns = started({}, ann);
+    const auto bobs = started({}, bob);
     Together programs;
-    programs.add([&] { live({}, ann); });
-    programs.add([&] { live({}, bob); });
+    programs.add([&] { end(*anns); });
+    programs.add([&] { end(*bobs); });
     ASSERT_TRUE(programs.run());
 
     const QString nickName = saved(QStringLiteral("Ketta Quorvin"), "NickName");
     EXPECT_TRUE(nickName == ann.NickName || nickName == bob.NickName) << nickName.toStdString();
     EXPECT_EQ(saved(QStringLiteral("Ketta Quorvin"), "Height"), u"6000");
-    const QByteArray online = dataFile("Locations.txt");
-    EXPECT_TRUE(online == listFile(ann.online) || online == listFile(bob.online)) << online.toStdString();
-    const QByteArray offline = dataFile("OfflineLocations.txt");
-    EXPECT_TRUE(offline == listFile(ann.offline) || offline == listFile(bob.offline))
-        << offline.toStdString();
+    expectBothKept("Locations.txt", ann.online, bob.online);
+    expectBothKept("OfflineLocations.txt", ann.offline, bob.offline);
+    removeKeptLists();
+    emptyTheLists();
   }
-  expectNothingLeftOver(
-      {QStringLiteral("Locations.txt"), QStringLiteral("OfflineLocations.txt"), QStringLiteral("any.txt")});
+  expectNothingLeftOver({QStringLiteral("Locations.txt"), QStringLiteral("Locations.txt_cds"),
+                         QStringLiteral("OfflineLocations.txt"), QStringLiteral("any.txt")});
 }
 
 }  // namespace

@@ -58,8 +58,6 @@ class KilledSaving : public testing::Test {
   void change(WindowlessProgram& program) const {
     // The same folder, written another way, so that this setting changes too.
     program.state.LocalFolder = data() + QStringLiteral("./");
-    program.state.onlineListRead = program.state.LocalFolder + program.state.LocFile;
-    program.state.offlineListRead = program.state.LocalFolder + program.state.OffLineFile;
     program.state.TextFile = QStringLiteral("new.txt");
     program.state.ArchiveFile = QStringLiteral("new.zip");
     program.state.WebServer = QStringLiteral("new.example");

@@ -1,13 +1,17 @@
 #include "files/file_lock.h"
 
 #include "faults/runtime_fault.h"
+#include "files/file_aside.h"
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <optional>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace quorvin {
@@ -95,6 +99,54 @@ TEST(FolderLock, OfAFolderThatIsNotThereKeepsNobodyOut) {
   EXPECT_TRUE(lock);
   EXPECT_TRUE(FolderLock::take(place.pathOf(u"none/"_qs)));
   EXPECT_TRUE(FolderLock::take(QString()));
+}
+
+// A lock on the file itself.
+
+TEST(FileLockOnItself, IsHeldByOneAtATimeAndLeavesNoFile) {
+  const TemporaryFolder place;
+  const QString path = place.writeFile(QStringLiteral("Locations.txt"), "list");
+  {
+    const FileLock lock = FileLock::onFileItself(path, 50);
+    EXPECT_FAULT(FileLock::onFileItself(path, 50), 75);
+  }
+  const FileLock again = FileLock::onFileItself(path, 50);
+  EXPECT_EQ(place.names(), QStringList{QStringLiteral("Locations.txt")});
+}
+
+TEST(FileLockOnItself, IsOnTheFileThatWasPutThereMeanwhile) {
+  const TemporaryFolder place;
+  const QString path = place.writeFile(QStringLiteral("Locations.txt"), "old");
+  std::optional<FileLock> first = FileLock::onFileItself(path, 50);
+  std::thread second([&] {
+    // Waits on the old file; by the time it has that one, a new file is there.
+    const FileLock lock = FileLock::onFileItself(path, 60'000);
+    EXPECT_EQ(place.readFile(QStringLiteral("Locations.txt")), "new");
+    EXPECT_FAULT(FileLock::onFileItself(path, 50), 75);
+  });
+  replaceFile(path, "new");
+  first.reset();
+  second.join();
+}
+
+TEST(FileLockOnItself, OfAFileThatIsNotThereKeepsNobodyApart) {
+  const TemporaryFolder place;
+  const QString path = place.pathOf(QStringLiteral("Locations.txt"));
+  const FileLock first = FileLock::onFileItself(path, 50);
+  const FileLock second = FileLock::onFileItself(path, 50);
+  EXPECT_EQ(place.names(), QStringList());
+}
+
+TEST(IsHeld, AsLongAsTheObjectThatPutTheFileInPlaceLives) {
+  const TemporaryFolder folder;
+  const QString path = folder.pathOf(QStringLiteral("a"));
+  {
+    FileAside file(path);
+    file.write("x");
+    file.commit();
+    EXPECT_TRUE(isHeld(path));
+  }
+  EXPECT_FALSE(isHeld(path));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "gui/search_form_fixture.h"
+#include "state/source_list_file.h"
 #include "support/eventually.h"
 
 #include <QAction>
@@ -20,9 +21,8 @@ const QString kSettingsOf = QStringLiteral("Ketta Quorvin");
 class WindowClose : public SearchFormTest {
  protected:
   WindowClose() {
-    state_.settingsRead = true;
-    state_.onlineListRead = folder_.pathOf(QStringLiteral("Locations.txt"));
-    state_.offlineListRead = folder_.pathOf(QStringLiteral("OfflineLocations.txt"));
+    readSettings(settings_, state_, 0, QLocale(QLocale::English, QLocale::UnitedStates));
+    loadSourceLists(state_);
     folder_.writeFile(QStringLiteral("any.txt"), "x");
   }
 

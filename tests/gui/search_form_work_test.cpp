@@ -1,6 +1,7 @@
 // Long jobs beside each other, in the real window.
 #include "archive/archive_maker.h"
 #include "gui/search_form_fixture.h"
+#include "state/source_list_file.h"
 #include "update/scripted_web_server.h"
 
 #include <random>
@@ -22,9 +23,8 @@ class WindowWork : public SearchFormTest {
   WindowWork() {
     state_.ArchiveFile = QStringLiteral("main.zip");
     // As after a start that has read everything.
-    state_.settingsRead = true;
-    state_.onlineListRead = folder_.pathOf(QStringLiteral("Locations.txt"));
-    state_.offlineListRead = folder_.pathOf(QStringLiteral("OfflineLocations.txt"));
+    readSettings(settings_, state_, 0, QLocale(QLocale::English, QLocale::UnitedStates));
+    loadSourceLists(state_);
     folder_.writeFile(QStringLiteral("any.txt"), "x");
     for (int number = 1; number <= 200; ++number) {
       files_.writeFile(QStringLiteral("folder %1/song.mp3").arg(number), "x");

@@ -63,5 +63,10 @@ TEST_F(DefaultsFile, FaultsWhenEmpty) {
   EXPECT_EQ(state_.LocalFolder, QString());
 }
 
+TEST_F(DefaultsFile, AByteOrderMarkIsNoPartOfTheFolder) {
+  EXPECT_EQ(read("\xEF\xBB\xBF/lists/\r\nb\r\nc\r\nd\r\n"), 0);
+  EXPECT_EQ(state_.LocalFolder, QStringLiteral("/lists/"));
+}
+
 }  // namespace
 }  // namespace quorvin

@@ -1,6 +1,7 @@
 #include "state/settings.h"
 
 #include "faults/runtime_fault.h"
+#include "state/source_list_file.h"
 #include "support/fault_number.h"
 #include "support/memory_settings_store.h"
 #include "support/qt_printing.h"
@@ -182,22 +183,36 @@ TEST_F(Settings, AnUnreadableJoinDateFaultsAndKeepsWhatWasReadBefore) {
 }
 
 TEST_F(Settings, OnlyAnEmptyLocalFolderBecomesTheProgramsOwn) {
-  loadSourceLists(state_, [] { return QStringLiteral("C:\\Quorvin\\"); });
+  completeLocalFolder(state_, [] { return QStringLiteral("C:\\Quorvin\\"); });
   EXPECT_EQ(state_.LocalFolder, QStringLiteral("C:\\Quorvin\\"));
-  loadSourceLists(state_, [] { return QStringLiteral("/opt/quorvin/"); });
+  completeLocalFolder(state_, [] { return QStringLiteral("/opt/quorvin/"); });
   EXPECT_EQ(state_.LocalFolder, QStringLiteral("C:\\Quorvin\\"));
 }
 
-/// For a state that has a local folder.
-QString notAsked() {
-  ADD_FAILURE() << "the program's folder is not needed";
-  return {};
+TEST_F(Settings, ALocalFolderWithoutASeparatorAtItsEndGetsOne) {
+  const auto notAsked = []() -> QString { throw RuntimeFault(FaultNumber::PathFileAccess); };
+  state_.LocalFolder = QStringLiteral("/home/ann/local");
+  completeLocalFolder(state_, notAsked);
+  EXPECT_EQ(state_.LocalFolder, QStringLiteral("/home/ann/local/"));
+  completeLocalFolder(state_, notAsked);
+  EXPECT_EQ(state_.LocalFolder, QStringLiteral("/home/ann/local/"));
+  state_.LocalFolder = QStringLiteral("D:\\Lists\\");
+  completeLocalFolder(state_, notAsked);
+  EXPECT_EQ(state_.LocalFolder, QStringLiteral("D:\\Lists\\"));
+}
+
+TEST(ValidDataFolder, IsNeverTheCurrentFolderByAnEmptyName) {
+  const TemporaryFolder current;
+  current.writeFile(QStringLiteral("any.txt"), "x");
+  const CurrentFolder inCurrent(current.path());
+  EXPECT_FALSE(isValidDataFolder(QString()));
+  EXPECT_TRUE(isValidDataFolder(current.path()));
 }
 
 TEST_F(Settings, MissingSourceListsLeaveTheTablesEmpty) {
   const TemporaryFolder folder;
   state_.LocalFolder = folder.path();
-  loadSourceLists(state_, notAsked);
+  loadSourceLists(state_);
   EXPECT_EQ(state_.OnlineSourceCount, 0);
   EXPECT_EQ(state_.OfflineSourceCount, 0);
 }
@@ -208,7 +223,7 @@ TEST_F(Settings, BothSourceListsAreLoadedFromTheLocalFolder) {
   folder.writeFile(QStringLiteral("OfflineLocations.txt"),
                    "\"CDs\",\"/cds.txt\"\r\n\"Old\",\"/old.txt\"\r\n");
   state_.LocalFolder = folder.path();
-  loadSourceLists(state_, notAsked);
+  loadSourceLists(state_);
   ASSERT_EQ(state_.OnlineSourceCount, 1);
   EXPECT_EQ(state_.OnlineSources.path(1), QStringLiteral("/music/"));
   ASSERT_EQ(state_.OfflineSourceCount, 2);
@@ -220,9 +235,108 @@ TEST_F(Settings, AFaultInTheOnlineListLeavesTheOfflineListUnread) {
   folder.writeFile(QStringLiteral("Locations.txt"), "\"Music\",\"/music/\"\r\n\"half\"\r\n");
   folder.writeFile(QStringLiteral("OfflineLocations.txt"), "\"CDs\",\"/cds.txt\"\r\n");
   state_.LocalFolder = folder.path();
-  EXPECT_FAULT(loadSourceLists(state_, notAsked), 62);
+  EXPECT_FAULT(loadSourceLists(state_), 62);
   EXPECT_EQ(state_.OnlineSourceCount, 1);
   EXPECT_EQ(state_.OfflineSourceCount, 0);
+}
+
+// What start-up could not read.
+
+class AfterAFailedStart : public Settings {
+ protected:
+  AfterAFailedStart() {
+    for (const char* key : {"LocalFolder", "TextFile", "ArchiveFile", "WebServer", "NickName"}) {
+      store_.put(kApplication, QString::fromLatin1(key), QStringLiteral("/stored/"));
+    }
+  }
+
+  /// Start-up has ended without reading the settings.
+  void endStartUp() {
+    noteSettingsAtStart(store_, state_, kAmerican, [] { return QStringLiteral("/program/"); });
+  }
+  QString stored(const char* key) const { return store_.stored(kApplication, QString::fromLatin1(key)); }
+};
+
+TEST_F(AfterAFailedStart, WhatWasNotReadIsNotWritten) {
+  state_.LocalFolder = QStringLiteral("/from the defaults/");
+  state_.TextFile = QStringLiteral("/no/such.txt");
+  endStartUp();
+  writeSettings(store_, state_, kAmerican);
+  EXPECT_TRUE(store_.writes.empty());
+}
+
+TEST_F(AfterAFailedStart, WhatTheUserHasChangedIsWritten) {
+  state_.TextFile = QStringLiteral("/no/such.txt");
+  endStartUp();
+  state_.WebServer = QStringLiteral("lists.example.org");
+  state_.NickName = QStringLiteral("Ann");
+  state_.JoinDate = kJanuary2004;
+  writeSettings(store_, state_, kAmerican);
+  EXPECT_EQ(store_.writes.size(), 3U);
+  EXPECT_EQ(stored("TextFile"), QStringLiteral("/stored/"));
+  EXPECT_EQ(stored("WebServer"), QStringLiteral("lists.example.org"));
+  EXPECT_EQ(stored("NickName"), QStringLiteral("Ann"));
+  EXPECT_EQ(stored("JoinDate"), QStringLiteral("1/15/2004 2:30:05 PM"));
+}
+
+TEST_F(AfterAFailedStart, ASettingThatIsEmptiedByTheUserIsWrittenEmpty) {
+  state_.TextFile = QStringLiteral("main.txt");
+  endStartUp();
+  state_.TextFile.clear();
+  writeSettings(store_, state_, kAmerican);
+  EXPECT_EQ(stored("TextFile"), QString());
+}
+
+TEST_F(AfterAFailedStart, WhatWasReadBeforeTheFaultIsWritten) {
+  store_.put(kApplication, QStringLiteral("JoinDate"), QStringLiteral("some day"));
+  EXPECT_FAULT(readSettings(store_, state_, kJanuary2004, kAmerican), 13);
+  endStartUp();
+  writeSettings(store_, state_, kAmerican);
+  ASSERT_EQ(store_.writes.size(), 4U);
+  EXPECT_EQ(store_.writes.back().key, QStringLiteral("WebServer"));
+  EXPECT_EQ(stored("JoinDate"), QStringLiteral("some day"));
+}
+
+TEST_F(AfterAFailedStart, TheDataFolderIsTheStoredOne) {
+  endStartUp();
+  EXPECT_EQ(state_.LocalFolder, QStringLiteral("/stored/"));
+  writeSettings(store_, state_, kAmerican);
+  EXPECT_TRUE(store_.writes.empty());
+}
+
+TEST_F(AfterAFailedStart, WithoutAStoredDataFolderItIsThePrograms) {
+  store_.put(kApplication, QStringLiteral("LocalFolder"), QString());
+  endStartUp();
+  EXPECT_EQ(state_.LocalFolder, QStringLiteral("/program/"));
+  writeSettings(store_, state_, kAmerican);
+  EXPECT_TRUE(store_.writes.empty());
+}
+
+TEST_F(AfterAFailedStart, AStoreThatCannotBeReadLeavesTheProgramsFolder) {
+  store_.refusesReads = true;
+  endStartUp();
+  EXPECT_EQ(state_.LocalFolder, QStringLiteral("/program/"));
+}
+
+TEST_F(AfterAFailedStart, OnlyAPlaceThatIsNoNumberIsReplaced) {
+  store_.put(kApplication, QStringLiteral("Top"), QStringLiteral("15"));
+  store_.put(kApplication, QStringLiteral("Left"), QStringLiteral("far left"));
+  store_.put(kApplication, QStringLiteral("Width"), QStringLiteral("12000"));
+  store_.put(kApplication, QStringLiteral("Height"), QStringLiteral("1e39"));
+  EXPECT_FAULT(readPlacement(store_, state_, window_), 13);
+  writePlacement(store_, state_, window_);
+  EXPECT_EQ(stored("Top"), QStringLiteral("15"));
+  EXPECT_EQ(stored("Left"), QStringLiteral("3000"));
+  EXPECT_EQ(stored("Width"), QStringLiteral("12000"));
+  EXPECT_EQ(stored("Height"), QStringLiteral("6000"));
+}
+
+TEST_F(AfterAFailedStart, AStoreThatCannotBeReadKeepsNobodyFromLeaving) {
+  store_.refusesReads = true;
+  endStartUp();
+  writeSettings(store_, state_, kAmerican);
+  writePlacement(store_, state_, window_);
+  EXPECT_TRUE(store_.writes.empty());
 }
 
 TEST(ProgramState, AListingIsNamedByItsDescriptionWithoutBlanksAtTheEnds) {

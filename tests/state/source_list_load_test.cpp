@@ -265,5 +265,12 @@ TEST_F(SourceListLoad, FaultsOnAMissingFile) {
   }
 }
 
+TEST_F(SourceListLoad, AByteOrderMarkShiftsNothing) {
+  EXPECT_EQ(load("\xEF\xBB\xBF\"a\",\"b\"\r\n\"c\",\"d\"\r\n"), 0);
+  const std::vector<Record> expected = {{QStringLiteral("a"), QStringLiteral("b")},
+                                        {QStringLiteral("c"), QStringLiteral("d")}};
+  EXPECT_EQ(records(), expected);
+}
+
 }  // namespace
 }  // namespace quorvin

@@ -53,5 +53,24 @@ TEST(TextLineReader, FindsLineEndsAtEveryPlaceOfTheReadBuffer) {
   }
 }
 
+TEST(TextLineReader, PassesOverAByteOrderMarkAtTheFront) {
+  EXPECT_EQ(linesOf("\xEF\xBB\xBF"
+                    "a\r\n\xEF\xBB\xBF"
+                    "b"),
+            QStringList({QStringLiteral("a"), QStringLiteral(u"\uFEFFb")}));
+  EXPECT_EQ(linesOf("\xEF\xBB\xBF"), QStringList());
+  EXPECT_EQ(linesOf("\xEF\xBB"), QStringList{QStringLiteral(u"\u00EF\u00BB")});
+}
+
+TEST(TextLineReader, TellsTheBytesOfTheWholeFile) {
+  const TemporaryFolder folder;
+  const QByteArray bytes = "\xEF\xBB\xBF" + QByteArray(40'000, 'x') + "\r\nb";
+  TextLineReader reader(folder.writeFile(QStringLiteral("text.txt"), bytes));
+  while (reader.next()) {
+  }
+  EXPECT_EQ(reader.digest(), digestOf(bytes));
+  EXPECT_NE(reader.digest(), digestOf(bytes.mid(3)));
+}
+
 }  // namespace
 }  // namespace quorvin

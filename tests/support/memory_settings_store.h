@@ -24,6 +24,7 @@ class MemorySettingsStore : public SettingsStore {
 
   QString read(const QString& application, const QString& section, const QString& key,
                const QString& fallback) const override {
+    if (refusesReads) throw RuntimeFault(FaultNumber::PermissionDenied);
     reads.push_back({application, section, key, fallback});
     const auto found = values.find({application, section, key});
     return found == values.end() ? fallback : found->second;
@@ -56,6 +57,8 @@ class MemorySettingsStore : public SettingsStore {
   /// All calls so far, in order.
   mutable std::vector<Access> reads;
   std::vector<Access> writes;
+  /// Makes every read throw fault 70.
+  bool refusesReads = false;
   /// Makes every write throw fault 75 with nothing stored.
   bool refusesWrites = false;
 };
