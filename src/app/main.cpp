@@ -11,14 +11,20 @@
 #include "platform/standard_folders.h"
 #include "search/segment/segment_store.h"
 #include "state/program_state.h"
+#include "state/recovery_copy.h"
 
 #include <QDateTime>
 #include <QLocale>
 #include <QStringList>
+#include <QTimer>
+
+#include <chrono>
 
 namespace {
 
 using namespace quorvin;
+
+constexpr std::chrono::seconds kChangeIsKeptAfter{1};
 
 QString versionNumbers() {
   const ProgramVersion version = programVersion();
@@ -49,6 +55,12 @@ int main(int argc, char** argv) {
   DesktopShell shell([&] { return enqueueCommand(settings, state); });
   SearchForm form(state, messages, shell, locale, &images);
   Shutdown shutdown(state, settings, messages, form.frame(), locale);
+  RecoveryCopy recovery(state, locale, userSettingsPath());
+  shutdown.setRecoveryCopy(&recovery);
+  QTimer untilKept;
+  untilKept.setSingleShot(true);
+  untilKept.setInterval(kChangeIsKeptAfter);
+  QObject::connect(&untilKept, &QTimer::timeout, &form, [&recovery] { recovery.keep(); });
   form.setUnloadHandler([&shutdown] { shutdown.Form_Unload(); });
   // The timer of the main window ends the program, once a refresh has come to its end.
   QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -60,6 +72,13 @@ int main(int argc, char** argv) {
   // The window may have been closed while the main data file was being unpacked.
   if (form.hasLeft()) return 0;
   form.sourcesChanged();
+  form.setSourcesHandler([&untilKept] { untilKept.start(); });
+  // Once events run, so that the question can be left by closing the program.
+  QTimer::singleShot(0, &form, [&] {
+    if (form.jobs().work().isClosing()) return;
+    recovery.offer(messages);
+    form.sourcesChanged();
+  });
   if (!form.jobs().work().isClosing()) form.show();
   return QCoreApplication::exec();
 }

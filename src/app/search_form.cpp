@@ -59,7 +59,12 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale),
       windows_(
-          state, messages, menus_, [this] { jobs_.startRefresh(); }, *this, locale, picker),
+          state, messages, menus_,
+          [this] {
+            sourcesChanged();
+            jobs_.startRefresh();
+          },
+          *this, locale, picker),
       frame_(*this, controls_, display_, jobs_, windows_) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
@@ -118,6 +123,7 @@ void SearchForm::connectMenus() {
 }
 
 void SearchForm::sourcesChanged() {
+  if (sourcesHandler_) sourcesHandler_();
   if (state_.hasSources()) {
     controls_.HitList->setEmptyText({});
     return;

@@ -113,9 +113,11 @@ class SearchForm : public QMainWindow {
   /// What closing the window does before it closes. A fault is reported and keeps the window open.
   void setUnloadHandler(std::function<void()> handler) { unloadHandler_ = std::move(handler); }
 
-  /// To be called after the sources of the state have changed: while there are none, the empty hit list says
-  /// what to do first.
+  /// To be called after the sources or settings of the state may have changed: while there are no sources,
+  /// the empty hit list says what to do first.
   void sourcesChanged();
+  /// What is to happen whenever sourcesChanged() is called.
+  void setSourcesHandler(std::function<void()> handler) { sourcesHandler_ = std::move(handler); }
 
   /// What start-up and shutdown work with.
   SearchFormFrame& frame() { return frame_; }
@@ -178,6 +180,7 @@ class SearchForm : public QMainWindow {
   SearchFormWindows windows_;
   SearchFormFrame frame_;
   std::function<void()> unloadHandler_;
+  std::function<void()> sourcesHandler_;
   bool hasLeft_ = false;
 };
 

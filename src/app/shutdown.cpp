@@ -5,6 +5,9 @@
 
 #include <QScopeGuard>
 
+#include <functional>
+#include <utility>
+
 namespace quorvin {
 
 Shutdown::Shutdown(ProgramState& state, SettingsStore& store, MessageBoxes& boxes, ShutdownView& view,
@@ -16,31 +19,38 @@ void Shutdown::Form_Unload() {
   if (state_.ShuttingDown || isUnderWay_) return;
   isUnderWay_ = true;
   const auto afterwards = qScopeGuard([this] { isUnderWay_ = false; });
-  if (hasFailed_) {
-    saveWhatCanBeSaved();
-  } else {
-    hasFailed_ = true;
-    save();
-  }
+  const bool isSaved = std::exchange(hasFailed_, true) ? saveWhatCanBeSaved() : save();
+  if (recovery_ != nullptr) recovery_->close(isSaved);
   stopAndLeave();
 }
 
-void Shutdown::save() {
+bool Shutdown::save() {
   writeSettings(store_, state_, locale_);
   saveWindowPlace();
-  saveOnlineSources(state_, boxes_);
-  saveOfflineSources(state_, boxes_);
+  const bool isOnlineSaved = saveOnlineSources(state_, boxes_);
+  const bool isOfflineSaved = saveOfflineSources(state_, boxes_);
+  return isOnlineSaved && isOfflineSaved;
 }
 
 /// Each thing on its own, so that one that cannot be saved does not take the others with it.
-void Shutdown::saveWhatCanBeSaved() {
-  reportFaults(boxes_, QStringLiteral("saving the settings"),
-               [this] { writeSettings(store_, state_, locale_); });
-  reportFaults(boxes_, QStringLiteral("saving the window's place"), [this] { saveWindowPlace(); });
-  reportFaults(boxes_, QStringLiteral("saving the online sources"),
-               [this] { saveOnlineSources(state_, boxes_); });
-  reportFaults(boxes_, QStringLiteral("saving the offline sources"),
-               [this] { saveOfflineSources(state_, boxes_); });
+bool Shutdown::saveWhatCanBeSaved() {
+  bool isSaved = true;
+  const auto tryTo = [&](const QString& doing, const std::function<bool()>& saveIt) {
+    bool isThisSaved = false;
+    reportFaults(boxes_, doing, [&] { isThisSaved = saveIt(); });
+    isSaved = isSaved && isThisSaved;
+  };
+  tryTo(QStringLiteral("saving the settings"), [this] {
+    writeSettings(store_, state_, locale_);
+    return true;
+  });
+  tryTo(QStringLiteral("saving the window's place"), [this] {
+    saveWindowPlace();
+    return true;
+  });
+  tryTo(QStringLiteral("saving the online sources"), [this] { return saveOnlineSources(state_, boxes_); });
+  tryTo(QStringLiteral("saving the offline sources"), [this] { return saveOfflineSources(state_, boxes_); });
+  return isSaved;
 }
 
 /// The place of a minimized window is none that anyone wants to find it in.

@@ -4,6 +4,7 @@
 #include "platform/message_box.h"
 #include "platform/settings_store.h"
 #include "state/program_state.h"
+#include "state/recovery_copy.h"
 #include "state/settings.h"
 
 #include <QLocale>
@@ -35,11 +36,16 @@ class Shutdown {
   /// something cannot be saved: then the later steps have not been taken, and the program goes on. The next
   /// call tries again, tells of each thing that still cannot be saved, and goes on to the end, so that nobody
   /// is kept from leaving.
+  ///
+  /// What has all been saved needs no recovery copy any more; otherwise that is brought up to date.
   void Form_Unload();
 
+  /// Null, as it is at first, where none is kept; else it must outlive the object.
+  void setRecoveryCopy(RecoveryCopy* recovery) { recovery_ = recovery; }
+
  private:
-  void save();
-  void saveWhatCanBeSaved();
+  bool save();
+  bool saveWhatCanBeSaved();
   void saveWindowPlace();
   void stopAndLeave();
 
@@ -48,6 +54,7 @@ class Shutdown {
   MessageBoxes& boxes_;
   ShutdownView& view_;
   QLocale locale_;
+  RecoveryCopy* recovery_ = nullptr;
   bool isUnderWay_ = false;
   bool hasFailed_ = false;
 };

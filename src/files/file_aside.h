@@ -52,6 +52,7 @@ struct AsideOptions {
 ///                                    outlives a failing machine;
 ///   renamed                        - the new file at the place, nothing beside it;
 ///   folder synced                  - the same, also when the machine fails.
+/// The object holds the file, also in its place, until it is destroyed or its program ends: see isHeld().
 /// After a failed step the file beside the place vanishes with the object. A killed program leaves it behind;
 /// removeLeftovers() finds it.
 class FileAside {
@@ -140,6 +141,10 @@ QStringList filesAside(const QString& folder);
 /// machine's processes has its number, and nobody holds the lock on the file. False in doubt, as on a network
 /// drive without locks, where it may be another machine's.
 bool isOfDeadProcess(const QString& path);
+
+/// Whether a running program holds the file at `path`: it has put it there with a FileAside that it has not
+/// destroyed yet. True in doubt, as on a network drive without locks.
+bool isHeld(const QString& path);
 
 /// Removes the files aside in `folder` whose program does not run any more, and those that nobody holds and
 /// to which nobody has written for a day. Errors are passed over: the next call may have more luck.

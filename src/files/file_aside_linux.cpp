@@ -292,6 +292,10 @@ bool isOfDeadProcess(const QString& path) {
   return process && !isRunning(*process) && lockState(path) == LockState::Free;
 }
 
+bool isHeld(const QString& path) {
+  return lockState(path) != LockState::Free;
+}
+
 void removeLeftovers(const QString& folder) {
   for (const QString& path : filesAside(folder)) {
     const bool isOld = isUntouchedForADay(path) && lockState(path) != LockState::Held;

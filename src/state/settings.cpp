@@ -15,6 +15,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace quorvin {
 
@@ -115,6 +116,21 @@ std::vector<Setting> settingTexts(const ProgramState& state, const QLocale& loca
           {QStringLiteral("WebServer"), state.WebServer},
           {QStringLiteral("JoinDate"), isDateKnown ? generalDateText(state.JoinDate, locale) : QString()},
           {QStringLiteral("NickName"), state.NickName}};
+}
+
+void takeSetting(ProgramState& state, const Setting& setting, const QLocale& locale) {
+  if (setting.key == u"JoinDate") {
+    state.JoinDate = readGeneralDate(setting.text, locale).value_or(state.JoinDate);
+    return;
+  }
+  const std::pair<QString, QString&> texts[] = {{QStringLiteral("LocalFolder"), state.LocalFolder},
+                                                {QStringLiteral("TextFile"), state.TextFile},
+                                                {QStringLiteral("ArchiveFile"), state.ArchiveFile},
+                                                {QStringLiteral("WebServer"), state.WebServer},
+                                                {QStringLiteral("NickName"), state.NickName}};
+  for (const auto& [key, text] : texts) {
+    if (setting.key == key) text = setting.text;
+  }
 }
 
 void completeLocalFolder(ProgramState& state, const std::function<QString()>& programFolder) {

@@ -55,6 +55,10 @@ struct Setting {
 /// All six, in the order in which they are read; the text of a join date that is not known is empty.
 std::vector<Setting> settingTexts(const ProgramState& state, const QLocale& locale);
 
+/// Sets the setting of that key to what its text says. A join date that cannot be read, and a key that is
+/// none of the six, change nothing.
+void takeSetting(ProgramState& state, const Setting& setting, const QLocale& locale);
+
 /// Gives an empty `LocalFolder` what `programFolder` gives, the program's own folder with its trailing
 /// separator (it is not asked otherwise, and may throw), and one without a separator at its end that
 /// separator.

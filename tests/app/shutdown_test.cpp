@@ -164,5 +164,45 @@ TEST_F(ShutdownTest, SettingsThatCouldNotBeReadAreNotEmptied) {
   EXPECT_EQ(stored(QStringLiteral("NickName")), QStringLiteral("kept"));
 }
 
+// The recovery copy.
+
+class ShutdownWithRecovery : public ShutdownTest {
+ protected:
+  ShutdownWithRecovery() {
+    shutdown_.setRecoveryCopy(&recovery_);
+    recovery_.offer(boxes_);
+  }
+  bool isKept() const { return QFile::exists(recovery_.path()); }
+
+  TemporaryFolder settings_;
+  RecoveryCopy recovery_{state_, QLocale(QLocale::English, QLocale::UnitedStates),
+                         settings_.pathOf(QStringLiteral("settings.ini"))};
+};
+
+TEST_F(ShutdownWithRecovery, WhatIsSavedNeedsNoCopy) {
+  addSources();
+  recovery_.keep();
+  ASSERT_TRUE(isKept());
+  shutdown_.Form_Unload();
+  EXPECT_FALSE(isKept());
+}
+
+TEST_F(ShutdownWithRecovery, WhatCannotBeSavedIsKept) {
+  addSources();
+  store_.refusesWrites = true;
+  EXPECT_FAULT(shutdown_.Form_Unload(), 75);
+  shutdown_.Form_Unload();
+  EXPECT_TRUE(state_.ShuttingDown);
+  EXPECT_TRUE(isKept());
+}
+
+TEST_F(ShutdownWithRecovery, ListsWithoutAFolderAreKept) {
+  state_.LocalFolder = folder_.makeFolder(QStringLiteral("empty"));
+  addSources();
+  shutdown_.Form_Unload();
+  EXPECT_TRUE(state_.ShuttingDown);
+  EXPECT_TRUE(isKept());
+}
+
 }  // namespace
 }  // namespace quorvin
