@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 
 namespace quorvin {
@@ -36,6 +38,20 @@ struct FunctionVersions {
     return bySet[set];
   }
 };
+
+/// `number` as a number whose lowest byte comes first in memory, whatever the processor's own order; the same
+/// call turns it back.
+constexpr std::uint64_t lowestByteFirst(std::uint64_t number) {
+  return std::endian::native == std::endian::big ? __builtin_bswap64(number) : number;
+}
+
+/// The bits of a vector mask as the vector library stores them, eight to a byte and the first lane lowest:
+/// the first lane is bit 0.
+inline std::uint64_t bitsOfStoredMask(const std::uint8_t (&stored)[8]) {
+  std::uint64_t bits = 0;
+  __builtin_memcpy(&bits, stored, sizeof bits);
+  return lowestByteFirst(bits);
+}
 
 /// FunctionVersions of a function that was compiled once for each instruction set, as an initialiser.
 #define QUORVIN_VERSIONS_OF(function)                                                  \

@@ -28,13 +28,10 @@ FoldedColumns foldColumns(const char* in, char* out) {
     const auto folded = hn::Or(bytes, hn::IfThenElseZero(capital, small));
     hn::StoreU(folded, d, reinterpret_cast<std::int8_t*>(out) + i);
     alignas(8) std::uint8_t mask[8] = {};
-    std::uint64_t bits = 0;
     hn::StoreMaskBits(d, hn::Ne(bytes, blank), mask);
-    __builtin_memcpy(&bits, mask, sizeof bits);
-    text[i / 64] |= bits << (i % 64);
+    text[i / 64] |= bitsOfStoredMask(mask) << (i % 64);
     hn::StoreMaskBits(d, capital, mask);
-    __builtin_memcpy(&bits, mask, sizeof bits);
-    upper[i / 64] |= bits << (i % 64);
+    upper[i / 64] |= bitsOfStoredMask(mask) << (i % 64);
   }
   return {text[0], text[1], upper[0], upper[1]};
 }

@@ -16,9 +16,7 @@ template <class D, class Mask>
 std::uint64_t maskBits(D d, Mask mask) {
   alignas(8) std::uint8_t bytes[8] = {};
   hn::StoreMaskBits(d, mask, bytes);
-  std::uint64_t bits = 0;
-  __builtin_memcpy(&bits, bytes, sizeof bits);
-  return bits;
+  return bitsOfStoredMask(bytes);
 }
 
 void markLines(const char* text, std::size_t size, std::uint64_t* lineEnds, std::uint64_t* care) {

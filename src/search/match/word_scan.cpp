@@ -92,9 +92,7 @@ template <typename Mask>
 HWY_INLINE std::uint64_t bitsOf(Mask mask) {
   alignas(8) std::uint8_t stored[8] = {};
   hn::StoreMaskBits(Lanes(), mask, stored);
-  std::uint64_t bits = 0;
-  __builtin_memcpy(&bits, stored, sizeof bits);
-  return bits;
+  return bitsOfStoredMask(stored);
 }
 
 /// The scan for a word of kLength bytes: with the length known, its bytes stay in registers.

@@ -29,9 +29,7 @@ bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64
                                 hn::Eq(hn::LoadU(d, bytes + base + i + pair.secondAt), second));
       alignas(8) std::uint8_t mask[8] = {};
       hn::StoreMaskBits(d, fits, mask);
-      std::uint64_t part = 0;
-      __builtin_memcpy(&part, mask, sizeof part);
-      word |= part << i;
+      word |= bitsOfStoredMask(mask) << i;
     }
     if (size - base < 64) word &= (std::uint64_t{1} << (size - base)) - 1;
     bits[base / 64] = word;

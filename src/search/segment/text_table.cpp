@@ -1,5 +1,6 @@
 #include "search/segment/text_table.h"
 
+#include "platform/instruction_set.h"
 #include "platform/text_encoding.h"
 #include "search/format/entry_columns.h"
 
@@ -38,9 +39,8 @@ constexpr unsigned kTrigramBits = 13;
 static_assert(std::size_t{1} << kTrigramBits == sizeof(TrigramSet) * 8);
 
 std::uint16_t trigramHash(const char* text) {
-  std::uint32_t trigram = 0;
-  std::memcpy(&trigram, text, 2);
-  trigram |= static_cast<std::uint32_t>(static_cast<unsigned char>(text[2])) << 16;
+  const auto byte = [text](std::size_t i) { return std::uint32_t{static_cast<unsigned char>(text[i])}; };
+  const std::uint32_t trigram = byte(0) | byte(1) << 8 | byte(2) << 16;
   // Multiplying by an odd constant spreads the letters over the upper bits, of which the uppermost are kept.
   return static_cast<std::uint16_t>((trigram * 0x9E3779B1U) >> (32 - kTrigramBits));
 }
@@ -190,7 +190,7 @@ void TextTableBuilder::addAscii(std::string_view listed) {
 }
 
 void TextTableBuilder::addUpperBits(const FoldedColumns& folded, std::size_t length) {
-  const std::uint64_t upper[2] = {folded.upperLow, folded.upperHigh};
+  const std::uint64_t upper[2] = {lowestByteFirst(folded.upperLow), lowestByteFirst(folded.upperHigh)};
   const auto* bits = reinterpret_cast<const std::uint8_t*>(upper);
   upperBits_.insert(upperBits_.end(), bits, bits + (length + 7) / 8);
 }
