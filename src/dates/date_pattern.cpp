@@ -221,13 +221,6 @@ std::size_t takeWord(const WordList& words, std::basic_string_view<Unit> text, i
 
 }  // namespace
 
-std::optional<int> secondOfDay(const ClockReading& clock) {
-  const int lastHour = clock.half < 0 ? 23 : 12;
-  if (clock.hour > lastHour || clock.minute > 59 || clock.second > 59) return std::nullopt;
-  const int hour = clock.half < 0 ? clock.hour : clock.hour % 12 + 12 * clock.half;
-  return (hour * 60 + clock.minute) * 60 + clock.second;
-}
-
 DateForm::DateForm(const DatePattern& pattern) {
   for (std::size_t i = 0; i < pattern.size(); ++i) {
     const PatternPart& part = pattern[i];
@@ -239,6 +232,12 @@ DateForm::DateForm(const DatePattern& pattern) {
     if (part.field == PatternField::Literal && literal.empty()) continue;
     parts_.push_back({part.field, mayLackZero(part) && !touched ? 1 : most, most, std::move(literal)});
   }
+  const int day = placeOf(PatternField::Day, pattern);
+  const int month = placeOf(PatternField::Month, pattern);
+  const int year =
+      std::max(placeOf(PatternField::Year, pattern), placeOf(PatternField::YearTwoDigits, pattern));
+  if (day < 0 || month < 0 || (year >= 0 && year < std::max(day, month))) return;
+  order_ = day < month ? DayMonthOrder::DayFirst : DayMonthOrder::MonthFirst;
 }
 
 template <typename Unit>

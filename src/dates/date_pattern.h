@@ -83,7 +83,12 @@ struct ClockReading {
 
 /// Seconds since midnight; nothing when there is no such time. With a half of the day, hours run from 0 to
 /// 12, and 0 is the same as 12.
-std::optional<int> secondOfDay(const ClockReading& clock);
+constexpr std::optional<int> secondOfDay(const ClockReading& clock) {
+  const int lastHour = clock.half < 0 ? 23 : 12;
+  if (clock.hour > lastHour || clock.minute > 59 || clock.second > 59) return std::nullopt;
+  const int hour = clock.half < 0 ? clock.hour : clock.hour % 12 + 12 * clock.half;
+  return (hour * 60 + clock.minute) * 60 + clock.second;
+}
 
 /// 0 to 29 are of this century, 30 to 99 of the last.
 constexpr int yearOfTwoDigits(int year) {
@@ -107,12 +112,33 @@ class DateForm {
   template <typename Unit>
   std::optional<Match> matchFront(std::basic_string_view<Unit> text, const DateVocabulary& words) const;
 
+  /// The order of day and month of this form, if it is one in which that is a question: both are numbers, and
+  /// the year does not come before them.
+  std::optional<DayMonthOrder> order() const { return order_; }
+
+  /// The day that this form's match `date` means, read in `order` where that is a question; nothing when
+  /// there is no such day.
+  std::optional<OrderedDay> dayOf(const CalendarDate& date, DayMonthOrder order) const {
+    if (order_) {
+      const bool dayFirst = *order_ == DayMonthOrder::DayFirst;
+      return dayInOrder(date.year, dayFirst ? date.day : date.month, dayFirst ? date.month : date.day, order);
+    }
+    const std::optional<int> day = dayNumberOf(date);
+    if (!day) return std::nullopt;
+    return OrderedDay{*day, OrderEvidence::None};
+  }
+
+  /// Forms are equal that match the same texts.
+  bool operator==(const DateForm&) const = default;
+
  private:
   struct Part {
     PatternField field;
     std::size_t leastDigits;
     std::size_t mostDigits;
     std::u16string literal;
+
+    bool operator==(const Part&) const = default;
   };
   /// What was read for each field of a pattern.
   using Values = std::array<int, kPatternFields>;
@@ -123,6 +149,7 @@ class DateForm {
   static Match matchOf(const Values& values, std::size_t length);
 
   std::vector<Part> parts_;
+  std::optional<DayMonthOrder> order_;
 };
 
 extern template std::optional<DateForm::Match> DateForm::matchFront(std::string_view,

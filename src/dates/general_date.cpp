@@ -61,19 +61,21 @@ std::optional<int> dayNumberOf(CalendarDate date) {
   const std::chrono::year_month_day day{std::chrono::year{date.year},
                                         std::chrono::month{static_cast<unsigned>(date.month)},
                                         std::chrono::day{static_cast<unsigned>(date.day)}};
-  if (!day.ok()) return std::nullopt;
+  // Every month has the first 28.
+  if (date.day > 28 && !day.ok()) return std::nullopt;
   return static_cast<int>((std::chrono::sys_days{day} - kZeroDay).count());
+}
+
+std::optional<DayMonthOrder> orderOf(OrderEvidence evidence) {
+  if (evidence == OrderEvidence::DayFirst) return DayMonthOrder::DayFirst;
+  if (evidence == OrderEvidence::MonthFirst) return DayMonthOrder::MonthFirst;
+  return std::nullopt;
 }
 
 CalendarDate calendarDateOf(int day) {
   const std::chrono::year_month_day date{kZeroDay + std::chrono::days{day}};
   return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
           static_cast<int>(static_cast<unsigned>(date.day()))};
-}
-
-DateValue joinDateValue(DayAndSecond moment) {
-  const double time = static_cast<double>(moment.second) / kSecondsPerDay;
-  return moment.day < 0 ? moment.day - time : moment.day + time;
 }
 
 DayAndSecond splitDateValue(DateValue value) {

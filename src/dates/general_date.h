@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <cstdint>
 #include <optional>
 
 namespace quorvin {
@@ -34,10 +35,11 @@ QString generalDateText(DateValue value, const QLocale& locale);
 /// Reads a date, a time, or both in either order, as people write them: the locale's own general form first,
 /// its other usual forms, then numeric dates with "/", "-", "." or blanks in the locale's order (day and
 /// month swapped when only that makes a date), ISO dates, month names (the locale's and English), 12- and
-/// 24-hour times. Years have two or four digits; those of two are 2000 to 2029 and 1930 to 1999. A date
-/// without a year is of this year; a month with a four-digit year alone is its first day. A time alone is on
-/// the zero date. Where the locale writes times with dots, two numbers with a dot are a time if they can be
-/// one. Blanks at both ends are ignored. Nothing when the text cannot be read so, or has more than 200
+/// 24-hour times, and at last the general form of any other locale. Years have two or four digits; those of
+/// two are 2000 to 2029 and 1930 to 1999. In Thai, the years 2443 to 2642 are of the Buddhist calendar. A
+/// date without a year is of this year; a month with a four-digit year alone is its first day. A time alone
+/// is on the zero date. Where the locale writes times with dots, two numbers with a dot are a time if they
+/// can be one. Blanks at both ends are ignored. Nothing when the text cannot be read so, or has more than 200
 /// characters. For many dates: GeneralDateReader.
 std::optional<DateValue> readGeneralDate(QStringView text, const QLocale& locale);
 
@@ -71,11 +73,65 @@ inline constexpr int kLastDay = 2958465;
 /// 100 to 9999.
 std::optional<int> dayNumberOf(CalendarDate date);
 
+/// Which comes first in a date whose day and month are both numbers and whose year is last or missing. (After
+/// a year, the month always comes first.)
+enum class DayMonthOrder : std::uint8_t { DayFirst, MonthFirst };
+
+/// What a date says about that order.
+enum class OrderEvidence : std::uint8_t {
+  /// Nothing: in either order it is the same date.
+  None,
+  /// It is a date in this order only.
+  DayFirst,
+  MonthFirst,
+  /// It is a date in both orders, and another one in each.
+  Either,
+};
+
+/// The order that the evidence is for, if it is for one.
+std::optional<DayMonthOrder> orderOf(OrderEvidence evidence);
+
+/// What was read of a text, and what it says about the order of day and month.
+struct DateReading {
+  DateValue value = 0;
+  OrderEvidence evidence = OrderEvidence::None;
+
+  bool operator==(const DateReading&) const = default;
+};
+
+struct OrderedDay {
+  /// As dayNumberOf gives it.
+  int day = 0;
+  OrderEvidence evidence = OrderEvidence::None;
+
+  bool operator==(const OrderedDay&) const = default;
+};
+
+/// The day of a date with two numbers, of which one is the day and one the month: read in `order`, or in the
+/// other one when only that makes a date; nothing when neither does.
+inline std::optional<OrderedDay> dayInOrder(int year, int first, int second, DayMonthOrder order) {
+  constexpr int kLastMonth = 12;
+  OrderEvidence evidence = OrderEvidence::Either;
+  bool dayFirst = order == DayMonthOrder::DayFirst;
+  if (first == second) {
+    evidence = OrderEvidence::None;
+  } else if (first > kLastMonth || second > kLastMonth) {
+    dayFirst = first > kLastMonth;
+    evidence = dayFirst ? OrderEvidence::DayFirst : OrderEvidence::MonthFirst;
+  }
+  const std::optional<int> day = dayNumberOf({year, dayFirst ? second : first, dayFirst ? first : second});
+  if (!day) return std::nullopt;
+  return OrderedDay{*day, evidence};
+}
+
 /// The date of a day number from kFirstDay to kLastDay.
 CalendarDate calendarDateOf(int day);
 
 /// The value of a day and a second of it.
-DateValue joinDateValue(DayAndSecond moment);
+constexpr DateValue joinDateValue(DayAndSecond moment) {
+  const double time = static_cast<double>(moment.second) / kSecondsPerDay;
+  return moment.day < 0 ? moment.day - time : moment.day + time;
+}
 
 /// The day and second of a value, rounded to the nearest second. A value outside the days that dates can have
 /// counts as the nearest moment inside, one that is not a number as the zero date.

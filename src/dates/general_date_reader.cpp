@@ -1,6 +1,7 @@
 #include "dates/general_date_reader.h"
 
 #include "dates/date_pattern.h"
+#include "dates/general_forms.h"
 
 #include <QStringDecoder>
 
@@ -35,6 +36,22 @@ bool isAscii(std::string_view text) {
                      [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+DayMonthOrder other(DayMonthOrder order) {
+  return order == DayMonthOrder::DayFirst ? DayMonthOrder::MonthFirst : DayMonthOrder::DayFirst;
+}
+
+// The date that a reading is when day and month, of which it is not known which is which, change places.
+DateReading turned(const DateReading& reading) {
+  const DayAndSecond moment = splitDateValue(reading.value);
+  const CalendarDate date = calendarDateOf(moment.day);
+  const std::optional<int> day = dayNumberOf({date.year, date.day, date.month});
+  return day ? DateReading{joinDateValue({*day, moment.second}), reading.evidence} : reading;
+}
+
+std::optional<DateValue> valueOf(const std::optional<DateReading>& reading) {
+  return reading ? std::optional(reading->value) : std::nullopt;
+}
+
 }  // namespace
 
 GeneralDateReader::GeneralDateReader(const QLocale& locale, int currentYear)
@@ -44,13 +61,28 @@ GeneralDateReader::GeneralDateReader(const QLocale& locale, int currentYear)
       generalTime_(generalTimePattern(locale)),
       shortDate_(parseDatePattern(locale.dateFormat(QLocale::ShortFormat))),
       longDate_(parseDatePattern(locale.dateFormat(QLocale::LongFormat))),
-      shortTime_(shortTimePattern(locale)) {}
+      shortTime_(shortTimePattern(locale)) {
+  rules_.buddhistYears = locale.language() == QLocale::Thai;
+}
+
+void GeneralDateReader::setOrder(DayMonthOrder order) {
+  rules_.order = order;
+  orderIsSet_ = true;
+}
 
 std::optional<DateValue> GeneralDateReader::read(QStringView text) const {
-  return readFolded(DateText(text));
+  return valueOf(reading(text));
 }
 
 std::optional<DateValue> GeneralDateReader::readAscii(std::string_view text) const {
+  return valueOf(readingOfAscii(text));
+}
+
+std::optional<DateReading> GeneralDateReader::reading(QStringView text) const {
+  return readFolded(DateText(text));
+}
+
+std::optional<DateReading> GeneralDateReader::readingOfAscii(std::string_view text) const {
   if (const auto value = readOwnForm(text)) return value;
   if (!isAscii(text)) {
     // No character of a text that is short enough takes up more than three bytes a unit.
@@ -58,40 +90,53 @@ std::optional<DateValue> GeneralDateReader::readAscii(std::string_view text) con
     // A byte order mark is a character like others, and makes no date.
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
     const QString wide = decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
-    return read(wide);
+    return reading(wide);
   }
   if (text.size() > DateText::kMaxLength) return std::nullopt;
   std::array<char16_t, DateText::kMaxLength> wide;
   std::copy(text.begin(), text.end(), wide.begin());
-  return read(QStringView(wide.data(), static_cast<qsizetype>(text.size())));
+  return reading(QStringView(wide.data(), static_cast<qsizetype>(text.size())));
 }
 
-std::optional<DateValue> GeneralDateReader::readFolded(const DateText& text) const {
+std::optional<DateReading> GeneralDateReader::readFolded(const DateText& text) const {
   const View view = text.view();
   if (view.empty()) return std::nullopt;
   if (const auto value = readOwnForm(view)) return value;
   // Where times have dots, two numbers with a dot are a time before they are a day and a month.
   if (rules_.dottedTimes) {
-    if (const auto second = wholeTime(shortTime_, view)) return joinDateValue({0, *second});
+    if (const auto second = wholeTime(shortTime_, view)) return DateReading{joinDateValue({0, *second})};
   }
-  if (const auto value = readDateFirst(view)) return value;
-  if (const auto value = readTimeAlone(view)) return value;
-  return readTimeFirst(view);
+  const auto value = readLoosely(view);
+  if (!value || value->evidence != OrderEvidence::Either || orderIsSet_) return value;
+  const bool isTurned = GeneralForms::ofAllLocales().orderIn(view) == other(rules_.order);
+  return isTurned ? turned(*value) : *value;
+}
+
+std::optional<DateReading> GeneralDateReader::readLoosely(View text) const {
+  if (const auto value = readDateFirst(text)) return value;
+  if (const auto value = readTimeAlone(text)) return value;
+  if (const auto value = readTimeFirst(text)) return value;
+  return GeneralForms::ofAllLocales().read(text, rules_.order);
+}
+
+std::optional<OrderedDay> GeneralDateReader::dayOf(const DateForm& form, CalendarDate date) const {
+  date.year = rules_.yearMeantBy(date.year);
+  return form.dayOf(date, rules_.order);
 }
 
 template <typename Unit>
-std::optional<DateValue> GeneralDateReader::readOwnForm(std::basic_string_view<Unit> text) const {
+std::optional<DateReading> GeneralDateReader::readOwnForm(std::basic_string_view<Unit> text) const {
   if (const auto date = generalDate_.matchFront(text, words_)) {
-    const std::optional<int> day = dayNumberOf(date->date);
-    if (day && date->length == text.size()) return joinDateValue({*day, 0});
+    const std::optional<OrderedDay> day = dayOf(generalDate_, date->date);
+    if (day && date->length == text.size()) return DateReading{joinDateValue({day->day, 0}), day->evidence};
     if (day && text[date->length] == ' ') {
       const auto second = wholeTime(generalTime_, text.substr(date->length + 1));
-      if (second) return joinDateValue({*day, *second});
+      if (second) return DateReading{joinDateValue({day->day, *second}), day->evidence};
     }
   }
   const auto second = wholeTime(generalTime_, text);
   if (!second) return std::nullopt;
-  return joinDateValue({0, *second});
+  return DateReading{joinDateValue({0, *second})};
 }
 
 template <typename Unit>
@@ -105,11 +150,12 @@ std::optional<int> GeneralDateReader::wholeTime(const DateForm& form,
 std::optional<LooseReading> GeneralDateReader::dateAt(int way, View text) const {
   const std::array<const DateForm*, kDateWays - 1> forms = {&generalDate_, &shortDate_, &longDate_};
   if (way == kDateWays - 1) return looseDateAt(text, words_, rules_);
-  const auto match = forms[static_cast<std::size_t>(way)]->matchFront(text, words_);
+  const DateForm& form = *forms[static_cast<std::size_t>(way)];
+  const auto match = form.matchFront(text, words_);
   if (!match) return std::nullopt;
-  const std::optional<int> day = dayNumberOf(match->date);
+  const std::optional<OrderedDay> day = dayOf(form, match->date);
   if (!day) return std::nullopt;
-  return LooseReading{*day, match->length};
+  return LooseReading{day->day, match->length, day->evidence};
 }
 
 std::optional<LooseReading> GeneralDateReader::timeAt(int way, View text) const {
@@ -119,10 +165,10 @@ std::optional<LooseReading> GeneralDateReader::timeAt(int way, View text) const 
   if (!match) return std::nullopt;
   const std::optional<int> second = secondOfDay(match->clock);
   if (!second) return std::nullopt;
-  return LooseReading{*second, match->length};
+  return LooseReading{*second, match->length, OrderEvidence::None};
 }
 
-std::optional<DateValue> GeneralDateReader::readDateFirst(View text) const {
+std::optional<DateReading> GeneralDateReader::readDateFirst(View text) const {
   for (int way = 0; way < kDateWays; ++way) {
     const auto date = dateAt(way, text);
     if (!date) continue;
@@ -131,39 +177,41 @@ std::optional<DateValue> GeneralDateReader::readDateFirst(View text) const {
   return std::nullopt;
 }
 
-std::optional<DateValue> GeneralDateReader::finishAfterDate(const LooseReading& date, View text) const {
+std::optional<DateReading> GeneralDateReader::finishAfterDate(const LooseReading& date, View text) const {
   const View rest = text.substr(date.length);
-  if (rest.empty()) return joinDateValue({date.value, 0});
+  if (rest.empty()) return DateReading{joinDateValue({date.value, 0}), date.evidence};
   const bool isoTime = isIsoDate(text, date.length) && rest.front() == u't';
   const std::size_t separator = isoTime ? 1 : separatorLength(rest);
   if (separator == 0) return std::nullopt;
   const auto second = wholeTime(rest.substr(separator));
   if (!second) return std::nullopt;
-  return joinDateValue({date.value, *second});
+  return DateReading{joinDateValue({date.value, *second}), date.evidence};
 }
 
-std::optional<DateValue> GeneralDateReader::readTimeAlone(View text) const {
+std::optional<DateReading> GeneralDateReader::readTimeAlone(View text) const {
   const auto second = wholeTime(text);
   if (!second) return std::nullopt;
-  return joinDateValue({0, *second});
+  return DateReading{joinDateValue({0, *second})};
 }
 
-std::optional<DateValue> GeneralDateReader::readTimeFirst(View text) const {
+std::optional<DateReading> GeneralDateReader::readTimeFirst(View text) const {
   for (int way = 0; way < kTimeWays; ++way) {
     const auto time = timeAt(way, text);
     if (!time) continue;
     const View rest = text.substr(time->length);
     const std::size_t separator = separatorLength(rest);
     if (separator == 0) continue;
-    if (const auto day = wholeDate(rest.substr(separator))) return joinDateValue({*day, time->value});
+    if (const auto day = wholeDate(rest.substr(separator))) {
+      return DateReading{joinDateValue({day->value, time->value}), day->evidence};
+    }
   }
   return std::nullopt;
 }
 
-std::optional<int> GeneralDateReader::wholeDate(View text) const {
+std::optional<LooseReading> GeneralDateReader::wholeDate(View text) const {
   for (int way = 0; way < kDateWays; ++way) {
     const auto date = dateAt(way, text);
-    if (date && date->length == text.size()) return date->value;
+    if (date && date->length == text.size()) return date;
   }
   return std::nullopt;
 }

@@ -27,20 +27,30 @@ class GeneralDateReader {
   /// as UTF-8 and read the slow way.
   std::optional<DateValue> readAscii(std::string_view text) const;
 
+  /// The same, with what the text says about the order of day and month.
+  std::optional<DateReading> reading(QStringView text) const;
+  std::optional<DateReading> readingOfAscii(std::string_view text) const;
+
+  /// From now on day and month are read in `order`, whatever the locale's own. Not to be called while others
+  /// read.
+  void setOrder(DayMonthOrder order);
+
  private:
   using View = std::u16string_view;
 
   template <typename Unit>
-  std::optional<DateValue> readOwnForm(std::basic_string_view<Unit> text) const;
+  std::optional<DateReading> readOwnForm(std::basic_string_view<Unit> text) const;
   template <typename Unit>
   std::optional<int> wholeTime(const DateForm& form, std::basic_string_view<Unit> text) const;
+  std::optional<OrderedDay> dayOf(const DateForm& form, CalendarDate date) const;
 
-  std::optional<DateValue> readFolded(const DateText& text) const;
-  std::optional<DateValue> readDateFirst(View text) const;
-  std::optional<DateValue> readTimeAlone(View text) const;
-  std::optional<DateValue> readTimeFirst(View text) const;
-  std::optional<DateValue> finishAfterDate(const LooseReading& date, View text) const;
-  std::optional<int> wholeDate(View text) const;
+  std::optional<DateReading> readFolded(const DateText& text) const;
+  std::optional<DateReading> readLoosely(View text) const;
+  std::optional<DateReading> readDateFirst(View text) const;
+  std::optional<DateReading> readTimeAlone(View text) const;
+  std::optional<DateReading> readTimeFirst(View text) const;
+  std::optional<DateReading> finishAfterDate(const LooseReading& date, View text) const;
+  std::optional<LooseReading> wholeDate(View text) const;
   std::optional<int> wholeTime(View text) const;
 
   // Every way to read a date or a time at the front of a text, the locale's own ways first.
@@ -51,6 +61,7 @@ class GeneralDateReader {
 
   DateVocabulary words_;
   LooseRules rules_;
+  bool orderIsSet_ = false;
   DateForm generalDate_;
   DateForm generalTime_;
   DateForm shortDate_;

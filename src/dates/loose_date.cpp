@@ -73,9 +73,9 @@ Gap gapAt(std::u16string_view text, std::size_t place) {
 }
 
 // Takes the parts of a date from the front of a text and makes a day of them.
-class DateReading {
+class DateParser {
  public:
-  DateReading(std::u16string_view text, const DateVocabulary& words, const LooseRules& rules)
+  DateParser(std::u16string_view text, const DateVocabulary& words, const LooseRules& rules)
       : text_(text), words_(words), rules_(rules) {}
 
   std::optional<LooseReading> read() {
@@ -84,11 +84,11 @@ class DateReading {
     const auto names =
         std::count_if(parts_.begin(), parts_.end(), [](const Part& part) { return part.isMonthName; });
     if (count_ < 2 || names > 1) return std::nullopt;
-    const std::optional<int> day = names == 1 ? dayWithName() : dayOfNumbers();
+    const std::optional<OrderedDay> day = names == 1 ? dayWithName() : dayOfNumbers();
     if (!day) return std::nullopt;
     // "15.1." and "2004. 1. 15." end in a dot of their own.
     if (names == 0 && gaps_[0].sign == u'.' && isSign(text_, end_, u'.')) ++end_;
-    return LooseReading{*day, end_};
+    return LooseReading{day->day, end_, day->evidence};
   }
 
  private:
@@ -121,60 +121,72 @@ class DateReading {
     return isLetter(text_, end) && !nameFollows && !isSign(text_, end, u't');
   }
 
-  static std::optional<int> dayOf(int year, const Part& month, const Part& day) {
+  int yearOf(const Part& part) const { return rules_.yearMeantBy(part.year()); }
+
+  static std::optional<OrderedDay> dayOf(int year, const Part& month, const Part& day) {
     if (day.length > 2 || (!month.isMonthName && month.length > 2)) return std::nullopt;
-    return dayNumberOf({year, month.value, day.value});
+    return withoutEvidence(dayNumberOf({year, month.value, day.value}));
+  }
+
+  static std::optional<OrderedDay> firstDayOf(int year, const Part& month) {
+    if (!month.isMonthName && month.length > 2) return std::nullopt;
+    return withoutEvidence(dayNumberOf({year, month.value, 1}));
+  }
+
+  static std::optional<OrderedDay> withoutEvidence(std::optional<int> day) {
+    if (!day) return std::nullopt;
+    return OrderedDay{*day, OrderEvidence::None};
   }
 
   // One of the two numbers is the day, the other the month.
-  static std::optional<int> dayOfEither(int year, const Part& first, const Part& second,
-                                        bool monthBeforeDay) {
-    const std::optional<int> monthFirst = dayOf(year, first, second);
-    const std::optional<int> dayFirst = dayOf(year, second, first);
-    if (monthBeforeDay) return monthFirst ? monthFirst : dayFirst;
-    return dayFirst ? dayFirst : monthFirst;
+  std::optional<OrderedDay> dayOfEither(int year, const Part& first, const Part& second) const {
+    if (first.length > 2 || second.length > 2) return std::nullopt;
+    return dayInOrder(year, first.value, second.value, rules_.order);
   }
 
-  static std::optional<int> firstDayOf(int year, const Part& month) {
-    if (!month.isMonthName && month.length > 2) return std::nullopt;
-    return dayNumberOf({year, month.value, 1});
+  // The same behind a year, where the month comes first.
+  static std::optional<OrderedDay> dayBehindYear(int year, const Part& first, const Part& second) {
+    if (first.length > 2 || second.length > 2) return std::nullopt;
+    auto day = dayInOrder(year, first.value, second.value, DayMonthOrder::MonthFirst);
+    if (day) day->evidence = OrderEvidence::None;
+    return day;
   }
 
-  std::optional<int> dayWithName() const {
+  std::optional<OrderedDay> dayWithName() const {
     if (count_ == 2) return dayWithNameAndNumber();
     const auto& [first, second, third] = parts_;
     if (third.isMonthName) return std::nullopt;
-    if (first.isMonthName) return third.mayBeYear() ? dayOf(third.year(), first, second) : std::nullopt;
-    if (first.isLongYear()) return dayOf(first.year(), second, third);
-    return third.mayBeYear() ? dayOf(third.year(), second, first) : std::nullopt;
+    if (first.isMonthName) return third.mayBeYear() ? dayOf(yearOf(third), first, second) : std::nullopt;
+    if (first.isLongYear()) return dayOf(yearOf(first), second, third);
+    return third.mayBeYear() ? dayOf(yearOf(third), second, first) : std::nullopt;
   }
 
-  std::optional<int> dayWithNameAndNumber() const {
+  std::optional<OrderedDay> dayWithNameAndNumber() const {
     const bool nameFirst = parts_[0].isMonthName;
     const Part& name = nameFirst ? parts_[0] : parts_[1];
     const Part& number = nameFirst ? parts_[1] : parts_[0];
-    if (number.isLongYear()) return firstDayOf(number.year(), name);
+    if (number.isLongYear()) return firstDayOf(yearOf(number), name);
     return dayOf(rules_.currentYear, name, number);
   }
 
-  std::optional<int> dayOfNumbers() const {
+  std::optional<OrderedDay> dayOfNumbers() const {
     if (!signsFit()) return std::nullopt;
     const auto& [first, second, third] = parts_;
     if (count_ == 2) return dayOfTwoNumbers();
-    if (first.isLongYear()) return dayOfEither(first.year(), second, third, true);
-    if (third.isLongYear()) return dayOfEither(third.year(), first, second, rules_.monthBeforeDay);
+    if (first.isLongYear()) return dayBehindYear(yearOf(first), second, third);
+    if (third.isLongYear()) return dayOfEither(yearOf(third), first, second);
     const Part& year = rules_.yearFirst ? first : third;
     if (!year.mayBeYear()) return std::nullopt;
-    return rules_.yearFirst ? dayOfEither(year.year(), second, third, rules_.monthBeforeDay)
-                            : dayOfEither(year.year(), first, second, rules_.monthBeforeDay);
+    return rules_.yearFirst ? dayBehindYear(yearOf(year), second, third)
+                            : dayOfEither(yearOf(year), first, second);
   }
 
-  std::optional<int> dayOfTwoNumbers() const {
+  std::optional<OrderedDay> dayOfTwoNumbers() const {
     const Part& first = parts_[0];
     const Part& second = parts_[1];
-    if (first.isLongYear()) return firstDayOf(first.year(), second);
-    if (second.isLongYear()) return firstDayOf(second.year(), first);
-    return dayOfEither(rules_.currentYear, first, second, rules_.monthBeforeDay);
+    if (first.isLongYear()) return firstDayOf(yearOf(first), second);
+    if (second.isLongYear()) return firstDayOf(yearOf(second), first);
+    return dayOfEither(rules_.currentYear, first, second);
   }
 
   bool signsFit() const {
@@ -196,9 +208,9 @@ class DateReading {
 };
 
 // Takes a time from the front of a text.
-class TimeReading {
+class TimeParser {
  public:
-  TimeReading(std::u16string_view text, const DateVocabulary& words, const LooseRules& rules)
+  TimeParser(std::u16string_view text, const DateVocabulary& words, const LooseRules& rules)
       : text_(text), words_(words), rules_(rules) {}
 
   std::optional<LooseReading> read() {
@@ -212,7 +224,7 @@ class TimeReading {
     if (!hasMinutes && clock_.half < 0) return std::nullopt;
     const std::optional<int> second = secondOfDay(clock_);
     if (!second) return std::nullopt;
-    return LooseReading{*second, end_};
+    return LooseReading{*second, end_, OrderEvidence::None};
   }
 
  private:
@@ -285,7 +297,8 @@ bool hasDotAfterHour(const DatePattern& time) {
 LooseRules looseRulesOf(const DatePattern& date, const DatePattern& time, int currentYear) {
   LooseRules rules;
   rules.yearFirst = placeOf(PatternField::Year, date) < placeOf(PatternField::Day, date);
-  rules.monthBeforeDay = monthPlace(date) < placeOf(PatternField::Day, date);
+  const bool monthFirst = monthPlace(date) < placeOf(PatternField::Day, date);
+  rules.order = monthFirst ? DayMonthOrder::MonthFirst : DayMonthOrder::DayFirst;
   rules.dateSign = dateSignOf(date);
   rules.dottedTimes = hasDotAfterHour(time);
   rules.currentYear = currentYear;
@@ -294,12 +307,12 @@ LooseRules looseRulesOf(const DatePattern& date, const DatePattern& time, int cu
 
 std::optional<LooseReading> looseDateAt(std::u16string_view text, const DateVocabulary& words,
                                         const LooseRules& rules) {
-  return DateReading(text, words, rules).read();
+  return DateParser(text, words, rules).read();
 }
 
 std::optional<LooseReading> looseTimeAt(std::u16string_view text, const DateVocabulary& words,
                                         const LooseRules& rules) {
-  return TimeReading(text, words, rules).read();
+  return TimeParser(text, words, rules).read();
 }
 
 }  // namespace quorvin

@@ -12,13 +12,21 @@ namespace quorvin {
 /// What a locale decides about texts that do not follow its own form.
 struct LooseRules {
   bool yearFirst = false;
-  bool monthBeforeDay = false;
+  DayMonthOrder order = DayMonthOrder::DayFirst;
   /// The sign between the numbers of the locale's short date.
   char16_t dateSign = u'/';
   /// Whether the locale writes "13.04" for four minutes past one.
   bool dottedTimes = false;
   /// The year of a date that names none.
   int currentYear = 0;
+  /// Whether years of the Buddhist calendar are written, 543 ahead of the others.
+  bool buddhistYears = false;
+
+  /// The year that a written one means. Only years that are of today or lately in the Buddhist calendar are
+  /// taken for one of it.
+  int yearMeantBy(int written) const {
+    return buddhistYears && written >= 2443 && written <= 2642 ? written - 543 : written;
+  }
 };
 
 LooseRules looseRulesOf(const DatePattern& date, const DatePattern& time, int currentYear);
@@ -27,6 +35,8 @@ LooseRules looseRulesOf(const DatePattern& date, const DatePattern& time, int cu
 struct LooseReading {
   int value = 0;
   std::size_t length = 0;
+  /// Of a date.
+  OrderEvidence evidence = OrderEvidence::None;
 };
 
 /// A date at the front of `text`, a DateText: two or three numbers with "/", "-", "." or blanks between them,

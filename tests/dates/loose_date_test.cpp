@@ -10,9 +10,9 @@ namespace {
 
 using Found = std::optional<std::pair<int, std::size_t>>;
 
-const LooseRules kGerman{false, false, u'.', true, 2004};
-const LooseRules kAmerican{false, true, u'/', false, 2004};
-const LooseRules kJapanese{true, true, u'/', false, 2004};
+const LooseRules kGerman{false, DayMonthOrder::DayFirst, u'.', true, 2004};
+const LooseRules kAmerican{false, DayMonthOrder::MonthFirst, u'/', false, 2004};
+const LooseRules kJapanese{true, DayMonthOrder::MonthFirst, u'/', false, 2004};
 
 const DateVocabulary& words() {
   static const DateVocabulary words{monthNames(QLocale::c()), halfDayNames(QLocale::c())};
@@ -87,14 +87,14 @@ TEST(LooseRules, AreTakenFromThePatternsOfALocale) {
   const LooseRules american =
       looseRulesOf(parseDatePattern(u"MM/dd/yyyy"), parseDatePattern(u"h:mm:ss AP"), 2004);
   EXPECT_FALSE(american.yearFirst);
-  EXPECT_TRUE(american.monthBeforeDay);
+  EXPECT_EQ(american.order, DayMonthOrder::MonthFirst);
   EXPECT_EQ(american.dateSign, u'/');
   EXPECT_FALSE(american.dottedTimes);
   EXPECT_EQ(american.currentYear, 2004);
   const LooseRules dotted =
       looseRulesOf(parseDatePattern(u"yyyy-MM-dd"), parseDatePattern(u"HH.mm.ss"), 2004);
   EXPECT_TRUE(dotted.yearFirst);
-  EXPECT_TRUE(dotted.monthBeforeDay);
+  EXPECT_EQ(dotted.order, DayMonthOrder::MonthFirst);
   EXPECT_EQ(dotted.dateSign, u'-');
   EXPECT_TRUE(dotted.dottedTimes);
 }
