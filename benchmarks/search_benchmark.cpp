@@ -77,7 +77,8 @@ std::int64_t hitsInPassing(const QByteArray& listing, const SearchQuery& query) 
   DroppedHits hits;
   ScanOutcome outcome;
   const auto neverStop = [](std::int64_t) { return false; };
-  scanListing(test::MemoryListing(listing), {query, QLocale::c(), &hits, neverStop}, counts, outcome);
+  scanListing([&] { return test::MemoryListing(listing); }, {query, QLocale::c(), &hits, neverStop}, counts,
+              outcome);
   return hits.count();
 }
 

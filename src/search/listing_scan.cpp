@@ -5,6 +5,7 @@
 #include "search/segment/segment_builder.h"
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -88,14 +89,41 @@ class EntrySearch {
   std::vector<FoundEntry> found_;
 };
 
+std::optional<DayMonthOrder> findOrder(const ListingOpener& open, const QLocale& locale,
+                                       const ScanLimits& limits) {
+  ListingText text(open(), limits.chunkSize);
+  SegmentBuilder builder(locale);
+  while (text.readChunk()) {
+    text.consume(builder.addLines(text.begin(), text.size()));
+    if (const auto order = builder.orderInText()) return order;
+    builder.finishText();
+    builder.beginSegment();
+    // The scan ends there too.
+    if (text.size() > limits.longestLine) return std::nullopt;
+  }
+  if (text.size() > 0) builder.addLine(text.lastLine());
+  return builder.orderInText();
+}
+
+/// The order of day and month of a listing: that of its first date which is one in one order only.
+std::optional<DayMonthOrder> orderOfListing(const ListingOpener& open, const QLocale& locale,
+                                            const ScanLimits& limits) {
+  try {
+    return findOrder(open, locale, limits);
+  } catch (const RuntimeFault&) {
+    // The scan itself reports what cannot be read when it comes there.
+    return std::nullopt;
+  }
+}
+
 /// A scan that reads the listing: chunks become entries of a segment, and the entries are searched.
 class BuildingScan {
  public:
   /// Entries that `search` has been through already are read but not searched again. `recorder` may be null.
-  BuildingScan(ListingReader read, const QLocale& locale, EntrySearch& search,
+  BuildingScan(const ListingOpener& open, const QLocale& locale, EntrySearch& search,
                SegmentStore::Recorder* recorder, const ScanLimits& limits)
-      : builder_(locale),
-        text_(std::move(read), limits.chunkSize),
+      : builder_(locale, [&open, locale, limits] { return orderOfListing(open, locale, limits); }),
+        text_(open(), limits.chunkSize),
         search_(search),
         toSkip_(search.searched()),
         recorder_(recorder),
@@ -183,11 +211,12 @@ bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search)
 
 }  // namespace
 
-void scanListing(ListingReader read, const ScanRequest& request, RunCounts& counts, ScanOutcome& outcome,
-                 const ScanLimits& limits) {
+void scanListing(const ListingOpener& open, const ScanRequest& request, RunCounts& counts,
+                 ScanOutcome& outcome, const ScanLimits& limits) {
   outcome = {};
   EntrySearch search(request, counts, outcome);
-  BuildingScan(std::move(read), request.locale, search, nullptr, limits).run();
+  BuildingScan scan(open, request.locale, search, nullptr, limits);
+  scan.run();
 }
 
 void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest& request, RunCounts& counts,
@@ -200,11 +229,15 @@ void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest
     if (!segments.empty() && searchSegments(segments, search)) return;
     if (!segments.empty()) store->forget(key->listing);
   }
-  SequentialFile file(path);
+  const ListingOpener open = [&path] {
+    // Shared, since functions are copied.
+    const auto file = std::make_shared<SequentialFile>(path);
+    return ListingReader([file](std::span<char> buffer) { return file->read(buffer); });
+  };
   std::optional<SegmentStore::Recorder> recorder;
   if (store != nullptr && key) recorder.emplace(*store, *key);
-  const auto read = [&file](std::span<char> buffer) { return file.read(buffer); };
-  BuildingScan(read, request.locale, search, recorder ? &*recorder : nullptr, limits).run();
+  BuildingScan scan(open, request.locale, search, recorder ? &*recorder : nullptr, limits);
+  scan.run();
   const std::optional<SegmentKey> keyNow = segmentKeyOf(path, request.locale);
   outcome.changedMeanwhile = key && keyNow && wasWritten(key->identity, keyNow->identity);
   if (recorder && !outcome.stopped && keyNow == key) recorder->finish();

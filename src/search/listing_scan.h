@@ -61,12 +61,13 @@ struct ScanLimits {
   std::size_t keptSegment = std::size_t{64} << 20;
 };
 
-/// Scans the listing that `read` reads. `counts` is raised by the entries searched and the hits; hits go to
-/// the sink in file order. Only one chunk, one segment and the hits are in memory. Throws RuntimeFault when
-/// reading fails or a line is too long (fault 6, naming the line); `outcome`, `counts` and the hits up to
-/// there stand.
-void scanListing(ListingReader read, const ScanRequest& request, RunCounts& counts, ScanOutcome& outcome,
-                 const ScanLimits& limits = {});
+/// Scans the listing that `open` opens. `counts` is raised by the entries searched and the hits; hits go to
+/// the sink in file order. Only one chunk, one segment and the hits are in memory. The listing is opened a
+/// second time where the order of its days and months has to be looked for beyond the first chunk. Throws
+/// RuntimeFault when reading fails or a line is too long (fault 6, naming the line); `outcome`, `counts` and
+/// the hits up to there stand.
+void scanListing(const ListingOpener& open, const ScanRequest& request, RunCounts& counts,
+                 ScanOutcome& outcome, const ScanLimits& limits = {});
 
 /// The same for the listing file at `path`, from its segments in `store` where they are known; else they are
 /// built and handed to the store. `store` may be null. Segments that turn out to be damaged are rebuilt,

@@ -41,9 +41,10 @@ constexpr std::array<int, 12> kTurningColumns = {0, 1, 64, 65, 66, 68, 69, 70, 7
 constexpr std::array<const char*, 9> kSizes = {"0",   "1,024", "1.234.567", "2,147,483,647", "-1",
                                                "n/a", "",      "12x",       "10000000000"};
 
-constexpr std::array<const char*, 6> kDates = {"15 Jan 2004 10:20:30", "2004-11-15 10:20:30",
-                                               "1 May 1999 00:00:00",  "00:00:00",
-                                               "no date at all",       "31 Feb 2004 10:20:30"};
+constexpr std::array<const char*, 9> kDates = {
+    "15 Jan 2004 10:20:30", "2004-11-15 10:20:30",  "1 May 1999 00:00:00",  "00:00:00",
+    "no date at all",       "31 Feb 2004 10:20:30", "3/4/2004 10:20:30 PM", "15/3/2004 10:20:30 PM",
+    "3/15/2004 10:20:30 PM"};
 
 template <typename Array>
 const auto& pick(ListingMaker& maker, const Array& all) {

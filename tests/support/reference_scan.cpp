@@ -42,6 +42,13 @@ QList<QByteArray> linesOf(const QByteArray& listing) {
   return lines;
 }
 
+bool isEntry(const QString& line) {
+  for (const char16_t* mark : {u"Volume:", u"Directory:", u"<DIR>", u"---------------"}) {
+    if (line.contains(QString::fromUtf16(mark))) return false;
+  }
+  return !line.isEmpty();
+}
+
 QList<QString> wordsOf(const QString& searchText) {
   QList<QString> words;
   qsizetype position = 1;
@@ -65,6 +72,22 @@ int scoreOf(const QString& searchable, const QList<QString>& words) {
       std::nearbyint(static_cast<double>(found) / static_cast<double>(words.size()) * 100));
 }
 
+/// The order of day and month: that of the first date that is one in one order only.
+std::optional<DayMonthOrder> orderOf(const QList<QByteArray>& lines, const GeneralDateReader& dates) {
+  Characters tail;
+  for (const QByteArray& bytes : lines) {
+    const QString line = decodeSystemText(bytes);
+    if (!isEntry(line)) continue;
+    const Characters characters = charactersOf(line);
+    if (characters.size() > 69) tail = characters.mid(68);
+    if (tail.size() <= 32) continue;
+    const auto reading = dates.reading(textOf(tail.mid(20)));
+    const auto order = reading ? orderOf(reading->evidence) : std::nullopt;
+    if (order) return order;
+  }
+  return std::nullopt;
+}
+
 /// Making a reader takes far longer than scanning a short listing, so the last one is kept.
 const GeneralDateReader& dateReaderFor(const QLocale& locale) {
   static QLocale known;
@@ -81,7 +104,9 @@ const GeneralDateReader& dateReaderFor(const QLocale& locale) {
 ReferenceResult referenceScan(const QByteArray& listing, const QString& lowerSearchText, int desiredMatch,
                               const QLocale& locale) {
   const QList<QString> words = wordsOf(lowerSearchText);
-  const GeneralDateReader& dates = dateReaderFor(locale);
+  const QList<QByteArray> lines = linesOf(listing);
+  GeneralDateReader dates = dateReaderFor(locale);
+  if (const auto order = orderOf(lines, dates)) dates.setOrder(*order);
   ReferenceResult result;
   QString volume;
   QString folder;
@@ -89,7 +114,7 @@ ReferenceResult referenceScan(const QByteArray& listing, const QString& lowerSea
   std::int64_t size = 0;
   double date = 0;
   std::int64_t lineNumber = 0;
-  for (const QByteArray& bytes : linesOf(listing)) {
+  for (const QByteArray& bytes : lines) {
     ++lineNumber;
     const QString line = decodeSystemText(bytes);
     if (line.isEmpty()) continue;

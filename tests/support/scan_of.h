@@ -55,7 +55,7 @@ struct TestScan {
 
   void run(ListingReader read, const ScanLimits& limits = {}) {
     table.startListing(kind);
-    scanListing(std::move(read), request(), counts, outcome, limits);
+    scanListing([&read] { return read; }, request(), counts, outcome, limits);
   }
 
   void runFile(const QString& path, SegmentStore* store, const ScanLimits& limits = {}) {

@@ -13,6 +13,10 @@ namespace quorvin {
 /// number filled, 0 at the end. May throw RuntimeFault.
 using ListingReader = std::function<std::size_t(std::span<char> buffer)>;
 
+/// Opens a listing: each call gives a reader at its start. Of one that can be read only once, such as a pipe,
+/// later readers find nothing. May throw RuntimeFault.
+using ListingOpener = std::function<ListingReader()>;
+
 /// Reads a listing chunk by chunk; what is not consumed is put in front of the next chunk. There are always
 /// kLinePadding bytes to read on both sides of the text.
 class ListingText {

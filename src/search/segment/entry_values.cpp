@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace quorvin {
 
@@ -20,6 +21,14 @@ bool readSize(std::string_view field, bool ascii, std::int64_t& size) {
   const std::optional<std::int64_t> read = readByteCount(textOfUtf8(field));
   if (read) size = *read;
   return read.has_value();
+}
+
+std::size_t endOfColumns(std::string_view tail, bool ascii, std::size_t columns) {
+  return ascii ? std::min(columns, tail.size()) : bytesOfCharacters(tail, columns);
+}
+
+std::string_view dateTextOf(std::string_view tail, bool ascii) {
+  return tail.substr(endOfColumns(tail, ascii, kDateOffset));
 }
 
 bool isDigit(char c) {
@@ -59,19 +68,30 @@ bool readAsciiByteCount(std::string_view text, std::int64_t& bytes) {
   return true;
 }
 
-EntryValuesReader::EntryValuesReader(const QLocale& locale) : dates_(locale) {}
+EntryValuesReader::EntryValuesReader(const QLocale& locale, OrderFinder findOrder)
+    : dates_(locale), findOrder_(std::move(findOrder)) {}
 
-ValueState EntryValuesReader::read(std::string_view tail, bool ascii, EntryValues& values) const {
-  const auto end = [&](std::size_t characters) {
-    return ascii ? std::min(characters, tail.size()) : bytesOfCharacters(tail, characters);
-  };
-  if (end(kShortTailLength) == tail.size()) return ValueState::Absent;
+ValueState EntryValuesReader::read(std::string_view tail, bool ascii, EntryValues& values) {
+  if (endOfColumns(tail, ascii, kShortTailLength) == tail.size()) return ValueState::Absent;
   std::int64_t size = 0;
-  if (!readSize(tail.substr(0, end(kSizeWidth)), ascii, size)) return ValueState::Unreadable;
-  const std::optional<DateValue> date = dates_.readAscii(tail.substr(end(kDateOffset)));
+  if (!readSize(tail.substr(0, endOfColumns(tail, ascii, kSizeWidth)), ascii, size)) {
+    return ValueState::Unreadable;
+  }
+  const std::string_view text = dateTextOf(tail, ascii);
+  std::optional<DateReading> date = dates_.readingOfAscii(text);
   if (!date) return ValueState::Unreadable;
-  values = {size, *date};
+  if (date->evidence == OrderEvidence::Either && findOrder_) {
+    if (const auto order = std::exchange(findOrder_, nullptr)()) dates_.setOrder(*order);
+    date = dates_.readingOfAscii(text);
+  }
+  values = {size, date->value};
   return ValueState::Own;
+}
+
+std::optional<DayMonthOrder> EntryValuesReader::orderIn(std::string_view tail, bool ascii) const {
+  if (endOfColumns(tail, ascii, kShortTailLength) == tail.size()) return std::nullopt;
+  const std::optional<DateReading> date = dates_.readingOfAscii(dateTextOf(tail, ascii));
+  return date ? orderOf(date->evidence) : std::nullopt;
 }
 
 CompactValues compact(ValueState state, const EntryValues& values) {

@@ -6,6 +6,8 @@
 #include <QLocale>
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string_view>
 
 namespace quorvin {
@@ -28,17 +30,26 @@ struct EntryValues {
   bool operator==(const EntryValues&) const = default;
 };
 
-/// Reads tails by the rules of one locale.
+/// Finds the order in which a listing has day and month; nothing where its dates leave that open.
+using OrderFinder = std::function<std::optional<DayMonthOrder>()>;
+
+/// Reads the tails of one listing by the rules of one locale.
 class EntryValuesReader {
  public:
-  explicit EntryValuesReader(const QLocale& locale);
+  /// `findOrder` is called once, when the first date comes that two orders make two dates of. Where it finds
+  /// none, or is empty, the order is that of the locale.
+  explicit EntryValuesReader(const QLocale& locale, OrderFinder findOrder = {});
 
   /// Reads the UTF-8 text `tail` into `values`. They are changed only where the result is Own. Where `ascii`
   /// is true a column is a byte.
-  ValueState read(std::string_view tail, bool ascii, EntryValues& values) const;
+  ValueState read(std::string_view tail, bool ascii, EntryValues& values);
+
+  /// The order of day and month in the date of `tail`, if it is a date in one of them only.
+  std::optional<DayMonthOrder> orderIn(std::string_view tail, bool ascii) const;
 
  private:
   GeneralDateReader dates_;
+  OrderFinder findOrder_;
 };
 
 /// As readByteCount, for ASCII text. `bytes` is changed only where the result is true.

@@ -5,7 +5,9 @@
 #include "search/format/listing_columns.h"
 #include "search/format/listing_line.h"
 
+#include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace quorvin {
 
@@ -20,7 +22,9 @@ static_assert(kEntryColumns <= kFoldWidth);
 
 }  // namespace
 
-SegmentBuilder::SegmentBuilder(const QLocale& locale) : valuesReader_(locale) {}
+SegmentBuilder::SegmentBuilder(const QLocale& locale, OrderFinder findOrder)
+    : findOrderOfListing_(std::move(findOrder)),
+      valuesReader_(locale, [this] { return this->findOrder(); }) {}
 
 void SegmentBuilder::beginSegment() {
   if (segment_.use_count() == 1) {
@@ -123,22 +127,40 @@ void SegmentBuilder::noteEntry() {
   unread_.push_back({tail_, tailLength_, static_cast<std::uint32_t>(lineCount_ - textFirstLine_)});
 }
 
-ValueState SegmentBuilder::readTail(const Unread& unread, EntryValues& values) const {
-  if (unread.tail == nullptr) {
-    values = tailValues_;
-    return tailState_;
-  }
+/// Leaves what the tail says in readState_ and readValues_.
+void SegmentBuilder::readTail(const Unread& unread) {
+  // Lines without a tail of their own share one.
+  if (unread.tail == readTail_) return;
+  readTail_ = unread.tail;
   const std::string_view tail(unread.tail, unread.tailLength);
-  return valuesReader_.read(tail, isAscii(tail), values);
+  readState_ = valuesReader_.read(tail, isAscii(tail), readValues_);
+}
+
+std::optional<DayMonthOrder> SegmentBuilder::findOrder() const {
+  // The first text nearly always decides, and then nothing needs to be read again.
+  if (textFirstLine_ == 0) {
+    if (const auto order = orderInText()) return order;
+  }
+  return findOrderOfListing_ ? findOrderOfListing_() : std::nullopt;
+}
+
+std::optional<DayMonthOrder> SegmentBuilder::orderInText() const {
+  const char* before = nullptr;
+  for (const Unread& unread : unread_) {
+    if (unread.tail == before) continue;
+    before = unread.tail;
+    const std::string_view tail(unread.tail, unread.tailLength);
+    if (const auto order = valuesReader_.orderIn(tail, isAscii(tail))) return order;
+  }
+  return std::nullopt;
 }
 
 void SegmentBuilder::readValues(std::uint32_t entry) {
   if (entry < nextToRead_) return;
   nextToRead_ = entry + 1;
   const Unread& unread = unread_[entry - firstUnread_];
-  EntryValues values;
-  const ValueState state = readTail(unread, values);
-  segment_->setValues(entry, state, values, textFirstLine_ + unread.line);
+  readTail(unread);
+  segment_->setValues(entry, readState_, readValues_, textFirstLine_ + unread.line);
 }
 
 void SegmentBuilder::readAllValues() {
@@ -146,9 +168,20 @@ void SegmentBuilder::readAllValues() {
   for (std::uint32_t entry = nextToRead_; entry < end; ++entry) readValues(entry);
 }
 
+/// Keeps the tail in force, whose text is about to go away.
+void SegmentBuilder::keepTail() {
+  // All beyond is part of a date that is too long to be read.
+  constexpr std::uint32_t kLongestKept = 4096;
+  if (tail_ == nullptr || tail_ == keptTail_.data()) return;
+  const bool isRead = tail_ == readTail_;
+  tailLength_ = std::min(tailLength_, kLongestKept);
+  keptTail_.assign(tail_, tailLength_);
+  tail_ = keptTail_.data();
+  readTail_ = isRead ? tail_ : nullptr;
+}
+
 void SegmentBuilder::finishText() {
-  if (tail_ != nullptr) tailState_ = readTail({tail_, tailLength_, 0}, tailValues_);
-  tail_ = nullptr;
+  keepTail();
   firstUnread_ += static_cast<std::uint32_t>(unread_.size());
   nextToRead_ = firstUnread_;
   unread_.clear();

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,7 +22,12 @@ namespace quorvin {
 /// where they are and reads them when they are asked for, at the latest when the text goes away.
 class SegmentBuilder {
  public:
-  explicit SegmentBuilder(const QLocale& locale);
+  /// `findOrder` finds the order of day and month of the whole listing. It is called at most once, if a date
+  /// comes of which two orders make two dates and the listing's first text has no date that decides; without
+  /// it, or where it finds none, the order is that of `locale`.
+  explicit SegmentBuilder(const QLocale& locale, OrderFinder findOrder = {});
+  SegmentBuilder(const SegmentBuilder&) = delete;
+  SegmentBuilder& operator=(const SegmentBuilder&) = delete;
 
   /// Adds the lines of text[0..size) that have an end and returns how many bytes they take up. The text must
   /// stay until finishText(); kLinePadding bytes before and behind it can be read.
@@ -34,6 +40,9 @@ class SegmentBuilder {
   /// ascending order.
   void readValues(std::uint32_t entry);
   void readAllValues();
+
+  /// The order of day and month in the text at hand: that of its first date which is one in one order only.
+  std::optional<DayMonthOrder> orderInText() const;
 
   /// The text of the lines added so far may go away; values that have not been read will never be asked for.
   void finishText();
@@ -50,7 +59,7 @@ class SegmentBuilder {
  private:
   /// The tail in force at an entry whose values have not been read.
   struct Unread {
-    /// Null where the tail's values are known: then they are those of an earlier text.
+    /// Null where there has been none so far.
     const char* tail;
     std::uint32_t tailLength;
     /// Counted from the first line of the text.
@@ -61,8 +70,11 @@ class SegmentBuilder {
   void addEntry(std::string_view line, bool ascii);
   void beginBlockIfNeeded();
   void noteEntry();
-  ValueState readTail(const Unread& unread, EntryValues& values) const;
+  void readTail(const Unread& unread);
+  void keepTail();
+  std::optional<DayMonthOrder> findOrder() const;
 
+  OrderFinder findOrderOfListing_;
   EntryValuesReader valuesReader_;
   std::shared_ptr<GrowingSegment> segment_ = std::make_shared<GrowingSegment>();
   std::int64_t lineCount_ = 0;
@@ -74,11 +86,16 @@ class SegmentBuilder {
   /// Volume or folder have changed since the segment's last block.
   bool blockPending_ = true;
 
-  /// The tail in force: where it is in the current text, else (null) what it said.
+  /// The tail in force, null where there has been none: in the current text or, from an earlier one, in
+  /// keptTail_.
   const char* tail_ = nullptr;
   std::uint32_t tailLength_ = 0;
-  ValueState tailState_ = ValueState::Absent;
-  EntryValues tailValues_;
+  std::string keptTail_;
+
+  /// The tail that was read last, and what it says.
+  const char* readTail_ = nullptr;
+  ValueState readState_ = ValueState::Absent;
+  EntryValues readValues_;
 
   /// The entries of the text at hand, from firstUnread_ on.
   std::vector<Unread> unread_;

@@ -22,7 +22,7 @@ namespace {
 /// is touched: of larger ones a window would seem to use nearly all, whatever little it looked at.
 constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
 
-constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '6'};
+constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '7'};
 /// Arrays start at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 

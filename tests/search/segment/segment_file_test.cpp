@@ -81,12 +81,12 @@ TEST_P(SegmentFileTest, SegmentsComeBackAsTheyWere) {
 }
 
 TEST_P(SegmentFileTest, TheFileEndsInItsEightLetters) {
-  EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT6"));
+  EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT7"));
 }
 
 TEST_P(SegmentFileTest, OtherLettersAreAnotherFormat) {
   QByteArray other = whole_;
-  other.replace(other.size() - 8, 8, "QVSEGMT5");
+  other.replace(other.size() - 8, 8, "QVSEGMT6");
   replaceWith(other);
   expectNoSegmentFile();
 }
