@@ -142,6 +142,8 @@ class BuildingScan {
     endSegment();
   }
 
+  bool isNoText() const { return text_.holdsZeros(); }
+
  private:
   void searchText(std::size_t bytes) {
     if (recorder_ != nullptr) builder_.readAllValues();
@@ -217,6 +219,7 @@ void scanListing(const ListingOpener& open, const ScanRequest& request, RunCount
   EntrySearch search(request, counts, outcome);
   BuildingScan scan(open, request.locale, search, nullptr, limits);
   scan.run();
+  outcome.isNoText = scan.isNoText();
 }
 
 void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest& request, RunCounts& counts,
@@ -238,9 +241,11 @@ void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest
   if (store != nullptr && key) recorder.emplace(*store, *key);
   BuildingScan scan(open, request.locale, search, recorder ? &*recorder : nullptr, limits);
   scan.run();
+  outcome.isNoText = scan.isNoText();
   const std::optional<SegmentKey> keyNow = segmentKeyOf(path, request.locale);
   outcome.changedMeanwhile = key && keyNow && wasWritten(key->identity, keyNow->identity);
-  if (recorder && !outcome.stopped && keyNow == key) recorder->finish();
+  // Each run is to say that it is no text.
+  if (recorder && !outcome.stopped && !outcome.isNoText && keyNow == key) recorder->finish();
 }
 
 }  // namespace quorvin

@@ -47,6 +47,8 @@ struct ScanOutcome {
   /// The file was written to while it was read, so that what was found may be partly of the old and partly of
   /// the new content. One that was replaced is not meant: it is read to its end as it was.
   bool changedMeanwhile = false;
+  /// There are zero bytes near its start: it is UTF-16 without a mark, or no text at all.
+  bool isNoText = false;
 };
 
 /// How a listing is read; the defaults are the program's, tests take small ones.
@@ -70,7 +72,7 @@ void scanListing(const ListingOpener& open, const ScanRequest& request, RunCount
                  ScanOutcome& outcome, const ScanLimits& limits = {});
 
 /// The same for the listing file at `path`, from its segments in `store` where they are known; else they are
-/// built and handed to the store. `store` may be null. Segments that turn out to be damaged are rebuilt,
+/// built and handed to the store, unless it is no text. `store` may be null. Segments that turn out to be damaged are rebuilt,
 /// and the scan goes on where it was.
 void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest& request, RunCounts& counts,
                      ScanOutcome& outcome, const ScanLimits& limits = {});

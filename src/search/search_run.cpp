@@ -33,6 +33,15 @@ std::int16_t correctedMatch(const QString& desMatch) {
   return std::clamp<std::int16_t>(wanted, 1, 100);
 }
 
+QString namesOf(const QStringList& listings) {
+  const auto named = std::min(listings.size(), static_cast<qsizetype>(kMostListingsNamed));
+  QString names = listings.first(named).join(QStringLiteral("\r\n"));
+  if (listings.size() > named) {
+    names += QStringLiteral("\r\nand %1 more listings").arg(listings.size() - named);
+  }
+  return names;
+}
+
 }  // namespace
 
 void SearchRun::Find_Click(const QString& searchText, const QString& desMatch) {
@@ -68,6 +77,7 @@ void SearchRun::run(const QString& searchText, const QString& desMatch,
   }
   reportUnreadable();
   reportChanged();
+  reportNoText();
 }
 
 void SearchRun::start() {
@@ -77,6 +87,7 @@ void SearchRun::start() {
   failedListings_ = 0;
   unreadable_.clear();
   changed_.clear();
+  noText_.clear();
   isRunning_ = true;
   if (parts_.display == nullptr) return;
   parts_.display->showFound(0);
@@ -151,6 +162,9 @@ void SearchRun::scan(const QString& path, SourceKind kind) {
   showSearched();
   if (outcome.unreadableHits > 0) unreadable_.push_back({path, outcome});
   if (outcome.changedMeanwhile) changed_ += path;
+  if (!outcome.isNoText) return;
+  ++failedListings_;
+  noText_ += path;
 }
 
 /// Shows counts and rows and lets events run; true stops the scan.
@@ -197,15 +211,18 @@ void SearchRun::reportUnreadable() {
 
 void SearchRun::reportChanged() {
   if (changed_.isEmpty() || isEnding()) return;
-  const auto named = std::min(changed_.size(), static_cast<qsizetype>(kMostListingsNamed));
-  QString message = QStringLiteral(
-                        "These listings were written to while they were searched. Hits in them may come from "
-                        "the old or the new content; press Find again for the new one.\r\n") +
-                    changed_.first(named).join(QStringLiteral("\r\n"));
-  if (changed_.size() > named) {
-    message += QStringLiteral("\r\nand %1 more listings").arg(changed_.size() - named);
-  }
-  parts_.messages.inform(message);
+  parts_.messages.inform(
+      QStringLiteral("These listings were written to while they were searched. Hits in them may come from "
+                     "the old or the new content; press Find again for the new one.\r\n") +
+      namesOf(changed_));
+}
+
+void SearchRun::reportNoText() {
+  if (noText_.isEmpty() || isEnding()) return;
+  parts_.messages.inform(
+      QStringLiteral("These listings are not plain text, so little or nothing is found in them. If one was "
+                     "saved as UTF-16 (\"Unicode\") without a byte order mark, save it as UTF-8.\r\n") +
+      namesOf(noText_));
 }
 
 }  // namespace quorvin

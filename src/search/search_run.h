@@ -78,7 +78,7 @@ class SearchRun {
 
   std::int64_t hitCount() const { return counts_.hits; }
   std::int64_t searchedCount() const { return counts_.searched; }
-  /// How many listings were missing or could not be searched to their end.
+  /// How many listings were missing, were no text or could not be searched to their end.
   int failedListings() const { return failedListings_; }
 
  private:
@@ -97,6 +97,7 @@ class SearchRun {
   void showSearched();
   void reportUnreadable();
   void reportChanged();
+  void reportNoText();
 
   struct Unreadable {
     QString path;
@@ -115,6 +116,8 @@ class SearchRun {
   std::vector<Unreadable> unreadable_;
   /// Listings that were written to while they were read.
   QStringList changed_;
+  /// Listings that are no text.
+  QStringList noText_;
 };
 
 }  // namespace quorvin

@@ -192,6 +192,7 @@ PlainResult PlainScan::scan(std::string_view listing, const std::vector<std::u32
   std::u32string tail;
   Values shown{0, 0};
   std::int64_t lineNumber = 0;
+  if (listing.starts_with("\xEF\xBB\xBF")) listing.remove_prefix(3);
   while (!listing.empty()) {
     const std::size_t end = listing.find('\n');
     std::string_view bytes = listing.substr(0, end);

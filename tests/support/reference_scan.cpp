@@ -33,8 +33,24 @@ QString trimmedOfBlanks(QString text) {
   return text;
 }
 
+/// UTF-8 or whatever bytes there are, without a byte order mark at the start.
+QByteArray plainTextOf(const QByteArray& listing) {
+  const QByteArray mark = listing.first(std::min(listing.size(), qsizetype{2}));
+  const bool isLittle = mark == "\xFF\xFE";
+  if (isLittle || mark == "\xFE\xFF") {
+    QString text;
+    for (qsizetype i = 2; i + 1 < listing.size(); i += 2) {
+      const auto one = static_cast<unsigned char>(listing[i]);
+      const auto two = static_cast<unsigned char>(listing[i + 1]);
+      text += QChar(static_cast<char16_t>(isLittle ? one | two << 8 : two | one << 8));
+    }
+    return text.toUtf8();
+  }
+  return listing.startsWith("\xEF\xBB\xBF") ? listing.sliced(3) : listing;
+}
+
 QList<QByteArray> linesOf(const QByteArray& listing) {
-  QList<QByteArray> lines = listing.split('\n');
+  QList<QByteArray> lines = plainTextOf(listing).split('\n');
   if (lines.back().isEmpty()) lines.pop_back();
   for (QByteArray& line : lines) {
     if (line.endsWith('\r')) line.chop(1);
