@@ -8,6 +8,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <new>
 #include <utility>
@@ -40,7 +41,30 @@ bool hasRareBitmapHeader(QByteArrayView start) {
 void useUsualBitmapHeader(PictureFile& file) {
   constexpr qint64 kSizePlace = 14;
   constexpr char kUsualSize = 40;
-  if (hasRareBitmapHeader(file.part(0, kFormatBytes))) file.replaceByte(kSizePlace, kUsualSize);
+  if (hasRareBitmapHeader(file.part(0, kFormatBytes)))
+    file.replaceBytes(kSizePlace, QByteArray(1, kUsualSize));
+}
+
+/// A mask of a colour without its lowest bits, where it has more than eight.
+quint32 eightBitsOf(quint32 mask) {
+  const int excess = std::popcount(mask) - 8;
+  return excess > 0 ? mask & (mask << excess) : mask;
+}
+
+/// The reader makes nothing of colours with more than eight bits; the others would not be seen anyway.
+void useEightBitsOfColours(PictureFile& file) {
+  constexpr qint64 kMasksPlace = 54;
+  constexpr qsizetype kMasks = 3;
+  const QByteArray start = file.part(0, kMasksPlace + kMasks * 4);
+  if (start.size() < kMasksPlace + kMasks * 4) return;
+  const bool hasMasks = qFromLittleEndian<quint32>(start.data() + 30) == 3;
+  if (!hasMasks || qFromLittleEndian<quint32>(start.data() + 14) < 40) return;
+  QByteArray masks(kMasks * 4, '\0');
+  for (qsizetype i = 0; i < kMasks; ++i) {
+    const auto mask = qFromLittleEndian<quint32>(start.data() + kMasksPlace + i * 4);
+    qToLittleEndian(eightBitsOf(mask), masks.data() + i * 4);
+  }
+  file.replaceBytes(kMasksPlace, masks);
 }
 
 /// The reader paints the background in its colour. Everybody else leaves it empty, and so does the reader
@@ -50,7 +74,7 @@ void leaveBackgroundEmpty(PictureFile& file) {
   constexpr int kFullPalette = 7;
   const QByteArray start = file.part(0, kFormatBytes);
   const bool isFull = start.size() > kColourPlace && (start[10] & kFullPalette) == kFullPalette;
-  if (!isFull) file.replaceByte(kColourPlace, '\xFF');
+  if (!isFull) file.replaceBytes(kColourPlace, "\xFF");
 }
 
 /// The proportions may change, since the picture is stretched anyway.
@@ -117,7 +141,10 @@ PictureDecoder::PictureDecoder(std::unique_ptr<PictureFile> file, PictureFormat 
   if (format == PictureFormat::Icon) chooseIcon();
   if (format == PictureFormat::Jpeg) file_->limitSteps(kJpegStep);
   if (format == PictureFormat::Gif) leaveBackgroundEmpty(*file_);
-  if (format == PictureFormat::Bitmap) useUsualBitmapHeader(*file_);
+  if (format == PictureFormat::Bitmap) {
+    useUsualBitmapHeader(*file_);
+    useEightBitsOfColours(*file_);
+  }
   refuseTooLarge(sizeInHeader(format, file_->part(0, kFormatBytes)));
   rewind();
   size_ = reader_->size();

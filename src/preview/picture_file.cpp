@@ -68,9 +68,8 @@ QByteArray PictureFile::part(qint64 position, qsizetype count) {
   return bytes;
 }
 
-void PictureFile::replaceByte(qint64 position, char byte) {
-  replacedPosition_ = position;
-  replacement_ = byte;
+void PictureFile::replaceBytes(qint64 position, const QByteArray& bytes) {
+  replacements_.push_back({position, bytes});
 }
 
 bool PictureFile::seek(qint64 position) {
@@ -81,8 +80,11 @@ qint64 PictureFile::readData(char* buffer, qint64 wanted) {
   if (stop_.stop_requested()) return -1;
   const qint64 position = file_.pos();
   const qint64 count = file_.read(buffer, std::min(wanted, largestStep_));
-  const qint64 replaced = replacedPosition_ - position;
-  if (replacedPosition_ >= 0 && replaced >= 0 && replaced < count) buffer[replaced] = replacement_;
+  for (const auto& [start, bytes] : replacements_) {
+    const qint64 first = std::max(start, position);
+    const qint64 last = std::min(start + bytes.size(), position + count);
+    for (qint64 at = first; at < last; ++at) buffer[at - position] = bytes[at - start];
+  }
   return count;
 }
 

@@ -10,6 +10,7 @@
 #include <limits>
 #include <optional>
 #include <stop_token>
+#include <vector>
 
 namespace quorvin {
 
@@ -44,8 +45,8 @@ class PictureFile : public QIODevice {
   /// more often, and can be stopped. Only for readers that accept less than they have asked for.
   void limitSteps(qint64 bytes) { largestStep_ = bytes; }
 
-  /// From now on a read gives `byte` for the one at `position`, whatever the file says.
-  void replaceByte(qint64 position, char byte);
+  /// From now on a read gives `bytes` for those at `position`, whatever the file says.
+  void replaceBytes(qint64 position, const QByteArray& bytes);
 
   /// May be called while another thread reads.
   void stop() { stop_.request_stop(); }
@@ -61,8 +62,11 @@ class PictureFile : public QIODevice {
   QFile file_;
   std::stop_source stop_;
   qint64 largestStep_ = std::numeric_limits<qint64>::max();
-  qint64 replacedPosition_ = -1;
-  char replacement_ = 0;
+  struct Replacement {
+    qint64 position;
+    QByteArray bytes;
+  };
+  std::vector<Replacement> replacements_;
 };
 
 }  // namespace quorvin
