@@ -72,8 +72,8 @@ void scanListing(const ListingOpener& open, const ScanRequest& request, RunCount
                  ScanOutcome& outcome, const ScanLimits& limits = {});
 
 /// The same for the listing file at `path`, from its segments in `store` where they are known; else they are
-/// built and handed to the store, unless it is no text. `store` may be null. Segments that turn out to be damaged are rebuilt,
-/// and the scan goes on where it was.
+/// built and handed to the store, unless it is no text. `store` may be null. Segments that turn out to be
+/// damaged are rebuilt, and the scan goes on where it was.
 void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest& request, RunCounts& counts,
                      ScanOutcome& outcome, const ScanLimits& limits = {});
 
