@@ -12,7 +12,8 @@ inline void scanInto(HitTable& table, SourceKind kind, const QByteArray& listing
   RunCounts counts;
   ScanOutcome outcome;
   table.startListing(kind);
-  scanListing([&] { return MemoryListing(listing); }, {query, QLocale::c(), &table, YieldLog()}, counts, outcome);
+  scanListing([&] { return MemoryListing(listing); }, {query, QLocale::c(), &table, YieldLog()}, counts,
+              outcome);
 }
 
 }  // namespace quorvin::test
