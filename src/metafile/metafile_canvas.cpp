@@ -1,6 +1,7 @@
 #include "metafile/metafile_canvas.h"
 
 #include "metafile/metafile_bytes.h"
+#include "metafile/near_path.h"
 
 #include <algorithm>
 #include <array>
@@ -155,7 +156,7 @@ void MetafileCanvas::beginPainting() {
 
 QPen MetafileCanvas::penInImage() const {
   if (state.pen.isNull()) return Qt::NoPen;
-  const double width = std::max(lengthInImage(state.pen.width), kThinnestLine);
+  const double width = std::clamp(lengthInImage(state.pen.width), kThinnestLine, kNear);
   return {state.pen.colour, width, penStyle(state.pen.style), penCap(state.pen.style),
           penJoin(state.pen.style)};
 }
@@ -184,13 +185,15 @@ void MetafileCanvas::draw(const QPainterPath& path, MetafilePaint paintWhat) {
 void MetafileCanvas::paint(const QPainterPath& imagePath, MetafilePaint paintWhat) {
   beginPainting();
   if (paintWhat != MetafilePaint::Stroke && !state.brush.isNull()) {
-    QPainterPath area = imagePath;
+    QPainterPath area = nearArea(imagePath);
     area.setFillRule(state.fillRule);
     const bool isHatched = state.brush.style != Qt::SolidPattern && state.brush.pattern.isNull();
     if (isHatched && state.isBackOpaque) painter_.fillPath(area, state.backColour);
     painter_.fillPath(area, brushInImage(state.brush));
   }
-  if (paintWhat != MetafilePaint::Fill && !state.pen.isNull()) painter_.strokePath(imagePath, penInImage());
+  if (paintWhat != MetafilePaint::Fill && !state.pen.isNull()) {
+    painter_.strokePath(nearLine(imagePath), penInImage());
+  }
 }
 
 void MetafileCanvas::lineTo(const QPointF& end) {
@@ -238,7 +241,7 @@ void MetafileCanvas::fillRegion(const QRegion& region, const MetafileBrush& brus
   QPainterPath path;
   path.addRegion(region);
   beginPainting();
-  painter_.fillPath(deviceToImage_.map(path), brushInImage(brush));
+  painter_.fillPath(nearArea(deviceToImage_.map(path)), brushInImage(brush));
 }
 
 void MetafileCanvas::beginPath() {

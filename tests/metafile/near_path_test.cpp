@@ -1,0 +1,96 @@
+// What is cut off far beyond the sheet, and what stays as it is.
+#include "metafile/near_path.h"
+
+#include "metafile/metafile_corpus.h"
+#include "metafile/metafile_writer.h"
+#include "metafile/play_metafile.h"
+#include "preview/picture_printing.h"
+#include "support/processor_clock.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quorvin::test {
+
+namespace {
+
+QPainterPath lineThrough(const std::vector<QPointF>& points) {
+  QPainterPath path(points.front());
+  for (std::size_t at = 1; at < points.size(); ++at) path.lineTo(points[at]);
+  return path;
+}
+
+TEST(NearPath, WhatIsNearStaysAsItIs) {
+  QPainterPath path = lineThrough({{0, 0}, {15'000, -15'000}, {3, 4}});
+  path.cubicTo(1, 2, 3, 4, 5, 6);
+  EXPECT_EQ(nearLine(path), path);
+  EXPECT_EQ(nearArea(path), path);
+  EXPECT_EQ(nearLine(QPainterPath()), QPainterPath());
+}
+
+TEST(NearPath, ALineIsCutWhereItLeaves) {
+  EXPECT_EQ(nearLine(lineThrough({{0, 0}, {60'000, 30'000}})), lineThrough({{0, 0}, {15'000, 7500}}));
+  EXPECT_EQ(nearLine(lineThrough({{-30'000, 100}, {30'000, 100}})),
+            lineThrough({{-15'000, 100}, {15'000, 100}}));
+  EXPECT_EQ(nearLine(lineThrough({{-30'000, 16'000}, {30'000, 16'000}})), QPainterPath());
+}
+
+TEST(NearPath, ALineThatComesBackGoesOnWhereItComesIn) {
+  QPainterPath expected = lineThrough({{0, 0}, {10, 0}, {15'000, 0}});
+  expected.moveTo(15'000, 50);
+  expected.lineTo(0, 50);
+  expected.lineTo(0, 60);
+  EXPECT_EQ(nearLine(lineThrough({{0, 0}, {10, 0}, {20'000, 0}, {20'000, 50}, {0, 50}, {0, 60}})), expected);
+}
+
+TEST(NearPath, AnAreaIsTheSameNearTheSheet) {
+  QPainterPath area = lineThrough({{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}});
+  area.closeSubpath();
+  area.addRect(100, 100, 200, 200);
+  area.setFillRule(Qt::WindingFill);
+  const QPainterPath cut = nearArea(area);
+  EXPECT_EQ(cut.fillRule(), Qt::WindingFill);
+  EXPECT_NEAR(cut.boundingRect().left(), -15'000, 0.001);
+  EXPECT_NEAR(cut.boundingRect().bottom(), 15'000, 0.001);
+  area.setFillRule(Qt::OddEvenFill);
+  const QPainterPath holed = nearArea(area);
+  EXPECT_TRUE(holed.contains(QPointF(50, 50)));
+  EXPECT_FALSE(holed.contains(QPointF(200, 200)));
+}
+
+TEST(PlayMetafile, LinesAndAreasThatEndFarBeyondTheSheetAreDrawnInNoTime) {
+  EmfWriter emf;
+  emf.pen(1, 0, 4, kRed).select(1).brush(2, 0, kBlue).select(2);
+  // A line to and fro with many corners, and a triangle that covers the lower left half of the sheet and
+  // more.
+  ByteWriter line;
+  line.zeros(16).u32(14);
+  for (int turn = 0; turn < 7; ++turn) line.u32(0).u32(20).u32(1'000'000).u32(20 + turn);
+  emf.record(4, line);
+  ByteWriter triangle;
+  triangle.zeros(16).u32(3).u32(-400'000'000).u32(-200'000'000).u32(400'000'000).u32(200'000'000);
+  triangle.u32(-400'000'000).u32(200'000'000);
+  emf.record(3, triangle);
+  ProcessorClock clock;
+  clock.start();
+  const QImage image = playMetafile(emf.file()).image;
+  EXPECT_LT(clock.elapsed(), 1000);
+  EXPECT_EQ(image.pixel(300, 30), kRed);
+  EXPECT_EQ(image.pixel(150, 250), kBlue);
+  EXPECT_EQ(image.pixel(450, 60), kWhite);
+}
+
+TEST(PlayMetafile, APenThatIsWiderThanTheSheetIsDrawnInNoTime) {
+  EmfWriter emf;
+  emf.pen(1, 0, 0x7FFFFFFF, kRed).select(1).moveTo(0, 0).lineTo(1'000'000, 500'000).lineTo(0, 200);
+  ProcessorClock clock;
+  clock.start();
+  const QImage image = playMetafile(emf.file()).image;
+  EXPECT_LT(clock.elapsed(), 1000);
+  EXPECT_EQ(image.pixel(300, 150), kRed);
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
