@@ -11,10 +11,10 @@ namespace quorvin {
 namespace {
 
 constexpr std::uint32_t kMark = 0x4D465151;
-constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kVersion = 2;
 constexpr std::uint32_t kLargestOwnSize = 0x7FFFFFFF;
 constexpr std::uint32_t kLongestSide = 2000;
-constexpr std::uint32_t kLongestReason = 200;
+constexpr std::int64_t kLongestReason = 200;
 
 QByteArray headerOf(const QSize& ownSize, const QSize& pixels, qsizetype textLength) {
   const std::array<qint64, 8> numbers = {kMark,          kVersion,        ownSize.width(), ownSize.height(),
@@ -27,13 +27,13 @@ QByteArray headerOf(const QSize& ownSize, const QSize& pixels, qsizetype textLen
   return bytes;
 }
 
-/// The reason of a refusal, in characters that do no harm in a message box.
-QByteArray cleanReason(QByteArrayView text) {
-  QByteArray reason = text.first(std::min<qsizetype>(text.size(), kLongestReason)).toByteArray();
-  for (char& letter : reason) {
+/// The start of a text, in characters that do no harm in a message box.
+QByteArray cleanText(QByteArrayView text, std::int64_t longest) {
+  QByteArray clean = text.first(std::min<qsizetype>(text.size(), longest)).toByteArray();
+  for (char& letter : clean) {
     if (letter < ' ' || letter > '~') letter = '?';
   }
-  return reason;
+  return clean;
 }
 
 QImage imageOf(const MetafileBytes& rows, std::uint32_t width, std::uint32_t height) {
@@ -64,11 +64,12 @@ bool isWindowsMetafile(QByteArrayView bytes) {
 
 QByteArray metafileAnswer(const MetafilePicture& picture) {
   const QImage image = picture.image.convertToFormat(QImage::Format_RGB32);
-  QByteArray answer = headerOf(picture.ownSize, image.size(), 0);
+  const QByteArray leftOut = cleanText(picture.leftOut.toLatin1(), kLongestLeftOut);
+  QByteArray answer = headerOf(picture.ownSize, image.size(), leftOut.size());
   for (int y = 0; y < image.height(); ++y) {
     answer.append(reinterpret_cast<const char*>(image.constScanLine(y)), 4LL * image.width());
   }
-  return answer;
+  return answer + leftOut;
 }
 
 QByteArray metafileRefusal(QByteArrayView why) {
@@ -84,14 +85,16 @@ MetafilePicture pictureOfMetafileAnswer(QByteArrayView answer) {
   const std::uint32_t width = bytes.u32(16);
   const std::uint32_t height = bytes.u32(20);
   const MetafileBytes body = bytes.from(kMetafileHeaderSize);
-  if (width == 0 && height == 0) throw MetafileFault(cleanReason(body.all()).constData());
+  if (width == 0 && height == 0) throw MetafileFault(cleanText(body.all(), kLongestReason).constData());
+  const std::uint32_t textLength = bytes.u32(24);
   const bool isAllowed = width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide &&
-                         body.size() == 4LL * width * height;
+                         textLength <= kLongestLeftOut && body.size() == 4LL * width * height + textLength;
   const std::uint32_t ownWidth = bytes.u32(8);
   const std::uint32_t ownHeight = bytes.u32(12);
   const auto isSize = [](std::uint32_t side) { return side > 0 && side <= kLargestOwnSize; };
   if (!isAllowed || !isSize(ownWidth) || !isSize(ownHeight)) throw MetafileFault(kNoAnswer);
-  return {QSize(static_cast<int>(ownWidth), static_cast<int>(ownHeight)), imageOf(body, width, height)};
+  return {QSize(static_cast<int>(ownWidth), static_cast<int>(ownHeight)), imageOf(body, width, height),
+          QString::fromLatin1(cleanText(body.all().last(textLength), kLongestLeftOut))};
 }
 
 }  // namespace quorvin

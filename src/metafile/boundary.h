@@ -10,6 +10,7 @@
 #include <QByteArrayView>
 #include <QImage>
 #include <QSize>
+#include <QString>
 
 #include <cstdint>
 #include <stdexcept>
@@ -33,20 +34,26 @@ inline constexpr std::int64_t kLargestMetafile = 64LL * 1024 * 1024;
 inline constexpr const char* kMetafileTooLarge = "it is larger than 64 MB";
 
 /// A metafile as an image. `ownSize` is the size that the file asks for, in hundredths of a millimetre.
+/// `leftOut` is what of the drawing is not in the image, as words that continue "Drawn without:" ("flood
+/// fills, letters of symbol fonts"); empty when nothing is known to be missing.
 struct MetafilePicture {
   QSize ownSize;
   QImage image;
+  QString leftOut = {};
 };
 
 /// The answer is a header of eight 32-bit little-endian numbers: a mark, a version, the picture's own size
 /// (width, height, in hundredths of a millimetre), the image (width, height, in pixels), the length of a text
-/// in UTF-8, and zero. Then come the rows of the image, from the top and without gaps, with four bytes for
-/// each pixel: blue, green, red and an unused one. Where there is no image (its width and height are zero),
-/// the text follows instead: the reason.
+/// in ASCII, and zero. Then come the rows of the image, from the top and without gaps, with four bytes for
+/// each pixel: blue, green, red and an unused one. The text comes last: what is left out of the image or,
+/// where there is no image (its width and height are zero), the reason.
 inline constexpr std::int64_t kMetafileHeaderSize = 32;
 
-/// No answer is longer: an image has at most 2000 pixels each way.
-inline constexpr std::int64_t kLongestMetafileAnswer = kMetafileHeaderSize + 4LL * 2000 * 2000;
+/// No answer is longer: an image has at most 2000 pixels each way, and what is left out takes at most 400
+/// bytes.
+inline constexpr std::int64_t kLongestLeftOut = 400;
+inline constexpr std::int64_t kLongestMetafileAnswer =
+    kMetafileHeaderSize + 4LL * 2000 * 2000 + kLongestLeftOut;
 
 QByteArray metafileAnswer(const MetafilePicture& picture);
 QByteArray metafileRefusal(QByteArrayView why);

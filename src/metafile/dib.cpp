@@ -18,6 +18,8 @@ constexpr std::int64_t kMostPixels = 64'000'000;
 constexpr std::uint32_t kOldHeaderSize = 12;
 constexpr std::uint32_t kUsualHeaderSize = 40;
 constexpr std::uint32_t kMasks = 3;
+constexpr std::uint32_t kJpeg = 4;
+constexpr std::uint32_t kPng = 5;
 constexpr qsizetype kFileHeaderSize = 14;
 
 bool hasOldHeader(const MetafileBytes& dib) {
@@ -61,6 +63,8 @@ void append32(QByteArray& bytes, std::int64_t value) {
 
 QImage imageOfDib(const MetafileBytes& header, const MetafileBytes& bits) {
   checkSize(header);
+  const std::uint32_t compression = hasOldHeader(header) ? 0 : header.u32(16);
+  if (compression == kJpeg || compression == kPng) throw MetafileOmission("JPEG and PNG pictures in it");
   const std::int64_t size = std::min<std::int64_t>(headerSize(header), header.size());
   QByteArray file("BM");
   append32(file, kFileHeaderSize + size + bits.size());

@@ -9,7 +9,8 @@
 namespace quorvin {
 
 /// The bitmap whose header (with masks and palette) is `header` and whose pixels are `bits`. Throws
-/// MetafileFault when it cannot be read or has more than 64 megapixels.
+/// MetafileFault when it cannot be read or has more than 64 megapixels, and MetafileOmission when its pixels
+/// are a JPEG or PNG picture.
 QImage imageOfDib(const MetafileBytes& header, const MetafileBytes& bits);
 
 /// The same for a bitmap in one piece: the pixels follow the palette.

@@ -78,6 +78,16 @@ MetafileFont fontOf(const MetafileBytes& record) {
   return font;
 }
 
+/// Whether a comment starts the later, extended kind of records without promising that the plain records draw
+/// the same.
+bool needsExtendedRecords(const MetafileBytes& comment) {
+  constexpr std::uint32_t kExtended = 0x2B464D45;
+  constexpr std::uint16_t kHeader = 0x4001;
+  constexpr std::uint16_t kPlainRecordsToo = 1;
+  if (comment.size() < 20 || comment.u32(12) != kExtended || comment.u16(16) != kHeader) return false;
+  return (comment.u16(18) & kPlainRecordsToo) == 0;
+}
+
 MetafilePen extendedPenOf(const MetafileBytes& record) {
   constexpr std::uint32_t kGeometric = 0x10000;
   const std::uint32_t style = record.u32(28);
@@ -135,11 +145,14 @@ MetafilePicture EmfPlayer::play() {
     const std::uint32_t size = file_.u32(at + 4);
     if (size < kLeastRecord) throw MetafileFault("it is damaged or cut short");
     const MetafileBytes record = file_.slice(at, size);
-    if (type == kEndOfFile) return {ownSize_, canvas_.finish()};
+    if (type == kEndOfFile) return canvas_.finish(ownSize_);
     try {
       playRecord(type, record);
+    } catch (const MetafileOmission& omission) {
+      canvas_.leaveOut(omission.what());
     } catch (const MetafileFault&) {
       // One record that makes no sense does not spoil the others.
+      canvas_.leaveOut("damaged parts");
     }
     at += size;
   }
@@ -148,7 +161,28 @@ MetafilePicture EmfPlayer::play() {
 void EmfPlayer::playRecord(std::uint32_t type, const MetafileBytes& record) {
   playMapping(type, record) || playSetting(type, record) || playObject(type, record) ||
       playShape(type, record) || playPoints(type, record) || playPath(type, record) ||
-      playClip(type, record) || playBitmap(type, record) || playText(type, record);
+      playClip(type, record) || playBitmap(type, record) || playText(type, record) ||
+      noteOmission(type, record);
+}
+
+bool EmfPlayer::noteOmission(std::uint32_t type, const MetafileBytes& record) {
+  enum { FloodFill = 53, Comment = 70, OpenGl = 102, OpenGlBounded, SetLayout = 115 };
+  constexpr std::uint32_t kMirrored = 1;
+  switch (type) {
+    case FloodFill:
+      throw MetafileOmission("flood fills");
+    case Comment:
+      if (needsExtendedRecords(record)) throw MetafileOmission("EMF+ drawings");
+      return true;
+    case OpenGl:
+    case OpenGlBounded:
+      throw MetafileOmission("OpenGL drawings");
+    case SetLayout:
+      if ((record.u32(8) & kMirrored) != 0) throw MetafileOmission("mirroring");
+      return true;
+    default:
+      return false;
+  }
 }
 
 bool EmfPlayer::playMapping(std::uint32_t type, const MetafileBytes& record) {
@@ -235,7 +269,7 @@ bool EmfPlayer::playObject(std::uint32_t type, const MetafileBytes& record) {
   enum { Select = 37, Pen, Brush, Delete, Font = 82, MonoBrush = 93, PatternBrush, ExtendedPen };
   switch (type) {
     case Select:
-      select(record.u32(8));
+      canvas_.select(objectOf(record.u32(8)));
       return true;
     case Pen:
       store(record.u32(8),
@@ -268,12 +302,9 @@ void EmfPlayer::store(std::uint32_t number, MetafileObject object) {
   objects_[number] = std::move(object);
 }
 
-void EmfPlayer::select(std::uint32_t number) {
-  if ((number & kStockMark) != 0) {
-    canvas_.select(stockObject(number & ~kStockMark));
-  } else if (number < objects_.size()) {
-    canvas_.select(objects_[number]);
-  }
+MetafileObject EmfPlayer::objectOf(std::uint32_t number) const {
+  if ((number & kStockMark) != 0) return stockObject(number & ~kStockMark);
+  return number < objects_.size() ? objects_[number] : MetafileObject();
 }
 
 void EmfPlayer::storePatternBrush(const MetafileBytes& record, bool isMonochrome) {

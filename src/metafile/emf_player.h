@@ -37,9 +37,12 @@ class EmfPlayer {
   void drawInParallelogram(const MetafileBytes& record);
   void fillGradients(const MetafileBytes& record);
   bool playText(std::uint32_t type, const MetafileBytes& record);
+  /// Throws MetafileOmission for what can be seen but is not drawn.
+  static bool noteOmission(std::uint32_t type, const MetafileBytes& record);
 
   void store(std::uint32_t number, MetafileObject object);
-  void select(std::uint32_t number);
+  /// Empty where there is no such object.
+  MetafileObject objectOf(std::uint32_t number) const;
   void storePatternBrush(const MetafileBytes& record, bool isMonochrome);
   void drawArc(const MetafileBytes& record, int joint);
   void arcTo(const MetafileBytes& record);
@@ -49,6 +52,8 @@ class EmfPlayer {
   void polyPoly(const MetafileBytes& record, bool isShort, bool isClosed);
   void drawBitmap(const MetafileBytes& record, std::int64_t offsets, const QRectF& target, QRectF source,
                   std::uint32_t operation);
+  /// `use` is where the record says what the numbers of a bitmap's palette mean.
+  void noteColoursOfPalettes(const MetafileBytes& record, std::int64_t use);
   void blend(const MetafileBytes& record);
   void drawWithoutColour(const MetafileBytes& record);
   void drawString(const MetafileBytes& record, std::int64_t at, std::uint32_t options, bool isWide);

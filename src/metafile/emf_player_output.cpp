@@ -35,6 +35,14 @@ QString wideText(const MetafileBytes& letters) {
   return text;
 }
 
+constexpr std::uint32_t kGlyphNumbers = 0x10;
+
+QList<quint32> glyphNumbers(const MetafileBytes& numbers) {
+  QList<quint32> glyphs;
+  for (qsizetype at = 0; at < numbers.size(); at += 2) glyphs.append(numbers.u16(at));
+  return glyphs;
+}
+
 bool hasBitmap(const MetafileBytes& record, std::int64_t offsets) {
   return record.u32(offsets + 4) != 0;
 }
@@ -82,11 +90,10 @@ class Mask {
 };
 
 /// Whether a raster operation, given by its first byte, copies the bitmap or leaves what is there. Throws
-/// MetafileFault for all others, which are hardly ever used with a mask.
+/// MetafileOmission for all others, which are hardly ever used with a mask.
 bool copies(std::uint32_t operation) {
   enum { LeaveAsItIs = 0xAA, Copy = 0xCC };
-  if (operation != Copy && operation != LeaveAsItIs)
-    throw MetafileFault("it draws through a mask in a rare way");
+  if (operation != Copy && operation != LeaveAsItIs) throw MetafileOmission("bitmaps mixed through masks");
   return operation == Copy;
 }
 
@@ -134,9 +141,15 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
   }
 }
 
+void EmfPlayer::noteColoursOfPalettes(const MetafileBytes& record, std::int64_t use) {
+  constexpr std::uint32_t kColoursOfPalette = 1;
+  if (record.u32(use) == kColoursOfPalette) canvas_.leaveOut("colours of palettes");
+}
+
 void EmfPlayer::drawBitmap(const MetafileBytes& record, std::int64_t offsets, const QRectF& target,
                            QRectF source, std::uint32_t operation) {
   if (record.u32(offsets + 4) == 0) return canvas_.fill(target, operation);
+  noteColoursOfPalettes(record, offsets == kStoredBitmap ? kStoredBitmap + 16 : offsets - 4);
   const StoredBitmap bitmap(record, offsets);
   if (offsets == kStoredBitmap) source = partFromTop(bitmap.header, source);
   canvas_.drawImage(target, imageOfDib(bitmap.header, bitmap.bits), source, operation);
@@ -192,6 +205,7 @@ void EmfPlayer::fillGradients(const MetafileBytes& record) {
 
 void EmfPlayer::blend(const MetafileBytes& record) {
   constexpr std::uint8_t kPixelsHaveAlpha = 1;
+  noteColoursOfPalettes(record, kCopiedPart - 4);
   const StoredBitmap bitmap(record, kCopiedPart);
   const QImage image = record.u8(43) == kPixelsHaveAlpha ? imageOfDibWithAlpha(bitmap.header, bitmap.bits)
                                                          : imageOfDib(bitmap.header, bitmap.bits);
@@ -226,7 +240,9 @@ bool EmfPlayer::playText(std::uint32_t type, const MetafileBytes& record) {
       const std::uint32_t options = record.u32(20);
       const std::int64_t at = (options & kNoBox) != 0 ? 36 : 52;
       MetafileText text{record.point32(8), {}, {}, {}, {}};
-      if ((options & kNarrow) != 0) {
+      if ((options & kGlyphNumbers) != 0) {
+        text.glyphs = glyphNumbers(record.slice(at, 2LL * count));
+      } else if ((options & kNarrow) != 0) {
         text.text = canvas_.state.font.textOf(record.slice(at, count).all());
       } else {
         text.text = wideText(record.slice(at, 2LL * count));
@@ -242,21 +258,22 @@ bool EmfPlayer::playText(std::uint32_t type, const MetafileBytes& record) {
 void EmfPlayer::drawString(const MetafileBytes& record, std::int64_t at, std::uint32_t options, bool isWide) {
   constexpr std::uint32_t kOpaque = 2;
   constexpr std::uint32_t kClipped = 4;
-  constexpr std::uint32_t kGlyphNumbers = 0x10;
   const std::uint32_t count = record.u32(at + 8);
-  const MetafileBytes letters = record.slice(record.u32(at + 12), count * (isWide ? 2LL : 1LL));
+  const bool isNumbered = (options & kGlyphNumbers) != 0;
+  // The numbers have 16 bits in both kinds of text.
+  const MetafileBytes letters = record.slice(record.u32(at + 12), count * (isWide || isNumbered ? 2LL : 1LL));
   MetafileText text{record.point32(at), {}, {}, {}, {}};
-  if (isWide) {
+  if (isNumbered) {
+    text.glyphs = glyphNumbers(letters);
+  } else if (isWide) {
     text.text = wideText(letters);
   } else {
     text.text = canvas_.state.font.textOf(letters.all());
   }
-  // The numbers of glyphs have a meaning only in one version of one font.
-  if ((options & kGlyphNumbers) != 0) text.text.clear();
   if ((options & kOpaque) != 0) text.opaque = record.rect32(at + 20);
   if ((options & kClipped) != 0) text.clip = record.rect32(at + 20);
   const std::uint32_t steps = record.u32(at + 36);
-  if (steps != 0 && text.text.size() == static_cast<qsizetype>(count)) {
+  if (steps != 0 && text.text.size() + text.glyphs.size() == static_cast<qsizetype>(count)) {
     const MetafileBytes widths = record.slice(steps, 4LL * count);
     for (std::uint32_t unit = 0; unit < count; ++unit) text.steps.push_back(widths.i32(4LL * unit));
   }

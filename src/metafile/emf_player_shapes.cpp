@@ -43,6 +43,17 @@ QRegion regionOf(const MetafileBytes& data) {
   return region;
 }
 
+/// A width and a height, not beyond any region.
+QSize frameSizeAt(const MetafileBytes& record, std::int64_t at) {
+  const QPoint size = deviceUnitAt(record, at);
+  return {std::abs(size.x()), std::abs(size.y())};
+}
+
+MetafileBrush brushIn(const MetafileObject& object) {
+  if (const auto* brush = std::get_if<MetafileBrush>(&object)) return *brush;
+  throw MetafileFault("it uses an object that it has not made");
+}
+
 }  // namespace
 
 bool EmfPlayer::playShape(std::uint32_t type, const MetafileBytes& record) {
@@ -185,7 +196,7 @@ void EmfPlayer::polyDraw(const MetafileBytes& record, bool isShort) {
 }
 
 bool EmfPlayer::playPath(std::uint32_t type, const MetafileBytes& record) {
-  enum { Begin = 59, End, Close, Fill, StrokeAndFill, Stroke, SelectClip = 67, Abort };
+  enum { Begin = 59, End, Close, Fill, StrokeAndFill, Stroke, Widen = 66, SelectClip, Abort };
   switch (type) {
     case Begin:
       canvas_.beginPath();
@@ -205,6 +216,9 @@ bool EmfPlayer::playPath(std::uint32_t type, const MetafileBytes& record) {
     case Stroke:
       canvas_.paintPath(MetafilePaint::Stroke);
       return true;
+    case Widen:
+      canvas_.widenPath();
+      return true;
     case SelectClip:
       canvas_.clipToPath(static_cast<MetafileClip>(record.i32(8)));
       return true;
@@ -217,7 +231,8 @@ bool EmfPlayer::playPath(std::uint32_t type, const MetafileBytes& record) {
 }
 
 bool EmfPlayer::playClip(std::uint32_t type, const MetafileBytes& record) {
-  enum { Offset = 26, Exclude = 29, Intersect, FillRegion = 71, PaintRegion = 74, SelectRegion };
+  enum { Offset = 26, Exclude = 29, Intersect };
+  enum { FillRegion = 71, FrameRegion, InvertRegion, PaintRegion, SelectRegion };
   switch (type) {
     case Offset:
       canvas_.moveClip(record.point32(8));
@@ -228,12 +243,16 @@ bool EmfPlayer::playClip(std::uint32_t type, const MetafileBytes& record) {
     case Intersect:
       canvas_.clip(record.rect32(8), MetafileClip::And);
       return true;
-    case FillRegion: {
-      const std::uint32_t number = record.u32(28);
-      const auto* brush = number < objects_.size() ? std::get_if<MetafileBrush>(&objects_[number]) : nullptr;
-      if (brush != nullptr) canvas_.fillRegion(regionOf(record.slice(32, record.u32(24))), *brush);
+    case FillRegion:
+      canvas_.fillRegion(regionOf(record.slice(32, record.u32(24))), brushIn(objectOf(record.u32(28))));
       return true;
-    }
+    case FrameRegion:
+      canvas_.frameRegion(regionOf(record.slice(40, record.u32(24))), frameSizeAt(record, 32),
+                          brushIn(objectOf(record.u32(28))));
+      return true;
+    case InvertRegion:
+      canvas_.invertRegion(regionOf(record.slice(28, record.u32(24))));
+      return true;
     case PaintRegion:
       canvas_.fillRegion(regionOf(record.slice(28, record.u32(24))), canvas_.state.brush);
       return true;

@@ -14,6 +14,12 @@
 
 namespace quorvin {
 
+/// Thrown for a record of a kind that is not drawn. what() continues the words "Drawn without:".
+class MetafileOmission : public MetafileFault {
+ public:
+  using MetafileFault::MetafileFault;
+};
+
 /// Part of a metafile: the whole file, a record, or a piece of one. Does not own its bytes. Numbers are
 /// little-endian; offsets are counted from the start of the part and need not be aligned. Every function
 /// throws MetafileFault where the part ends before what was asked for.

@@ -103,9 +103,14 @@ MetafileCanvas::MetafileCanvas(const MetafileSheet& sheet, const QTransform& dev
   painter_.begin(&image_);
 }
 
-QImage MetafileCanvas::finish() {
+void MetafileCanvas::leaveOut(const char* what) {
+  const QString words = QString::fromLatin1(what);
+  if (!leftOut_.contains(words)) leftOut_ += words;
+}
+
+MetafilePicture MetafileCanvas::finish(const QSize& ownSize) {
   painter_.end();
-  return image_;
+  return {ownSize, image_, leftOut_.join(QStringLiteral(", "))};
 }
 
 void MetafileCanvas::save() {
@@ -244,6 +249,22 @@ void MetafileCanvas::fillRegion(const QRegion& region, const MetafileBrush& brus
   painter_.fillPath(nearArea(deviceToImage_.map(path)), brushInImage(brush));
 }
 
+void MetafileCanvas::frameRegion(const QRegion& region, const QSize& frame, const MetafileBrush& brush) {
+  const auto moved = [&region](int x, int y) { return region.translated(x, y); };
+  const QRegion inner = moved(frame.width(), 0) & moved(-frame.width(), 0) & moved(0, frame.height()) &
+                        moved(0, -frame.height());
+  fillRegion(region - inner, brush);
+}
+
+void MetafileCanvas::invertRegion(const QRegion& region) {
+  QPainterPath path;
+  path.addRegion(region);
+  beginPainting();
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+  painter_.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+  painter_.fillPath(nearArea(deviceToImage_.map(path)), Qt::white);
+}
+
 void MetafileCanvas::beginPath() {
   path_ = {};
   isRecording_ = true;
@@ -270,6 +291,12 @@ void MetafileCanvas::clipToPath(MetafileClip mode) {
   }
   combineClip(region, mode);
   dropPath();
+}
+
+void MetafileCanvas::widenPath() {
+  if (state.pen.isNull()) return;
+  path_ = QPainterPathStroker(penInImage()).createStroke(path_);
+  path_.setFillRule(Qt::WindingFill);
 }
 
 void MetafileCanvas::clip(const std::optional<QRegion>& device, MetafileClip mode) {

@@ -1,9 +1,11 @@
 // The sheet that a metafile is drawn on.
 #pragma once
 
+#include "metafile/boundary.h"
 #include "metafile/metafile_state.h"
 
 #include <QImage>
+#include <QList>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointF>
@@ -11,6 +13,7 @@
 #include <QSize>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <cstdint>
@@ -33,7 +36,7 @@ struct MetafileSheet {
 /// above zero.
 MetafileSheet sheetFor(const QSizeF& ownSize);
 
-/// How a text is written besides what the state says.
+/// How a text is written besides what the state says. It is given by letters or by the numbers of glyphs.
 struct MetafileText {
   QPointF at;
   QString text;
@@ -43,6 +46,9 @@ struct MetafileText {
   /// A box that is filled with the background colour first, and one at which the text is cut off.
   std::optional<QRectF> opaque;
   std::optional<QRectF> clip;
+  /// Numbers of glyphs in the state's font, instead of letters. They have a meaning only in that font: where
+  /// it is not installed, they are left out.
+  QList<quint32> glyphs = {};
 };
 
 /// The ternary raster operation that draws a picture over what is there.
@@ -85,8 +91,10 @@ class MetafileCanvas {
   /// direction. `joint`: 0 leaves it open, 1 joins the ends, 2 joins both to the centre.
   QPainterPath arc(const QRectF& box, const QPointF& start, const QPointF& end, int joint) const;
   void setPixel(const QPointF& place, const QColor& colour);
-  /// Fills a region of device units.
+  /// Fills a region of device units, fills a frame along its inner edge, or inverts its colours.
   void fillRegion(const QRegion& region, const MetafileBrush& brush);
+  void frameRegion(const QRegion& region, const QSize& frame, const MetafileBrush& brush);
+  void invertRegion(const QRegion& region);
 
   void beginPath();
   void closeFigure();
@@ -94,19 +102,22 @@ class MetafileCanvas {
   void dropPath();
   void paintPath(MetafilePaint paint);
   void clipToPath(MetafileClip mode);
+  /// Replaces the recorded path by the area that the pen would cover along it.
+  void widenPath();
 
   /// No region means the whole sheet. A mode that is none of the above throws MetafileFault.
   void clip(const std::optional<QRegion>& device, MetafileClip mode);
   void clip(const QRectF& box, MetafileClip mode);
   void moveClip(const QPointF& offset);
 
-  /// Draws the part `source` (in pixels of `image`) into `target` by the ternary raster operation. `opacity`
-  /// goes from 0 to 1.
+  /// Draws the part `source` (in pixels of `image`) into `target` by the ternary raster operation; rare ones
+  /// copy. `opacity` goes from 0 to 1.
   void drawImage(const QRectF& target, const QImage& image, const QRectF& source, std::uint32_t operation,
                  double opacity = 1);
   /// Draws the part over what is there, into the parallelogram with these upper left, upper right and lower
   /// left corners.
   void drawImage(const std::array<QPointF, 3>& corners, const QImage& image, const QRectF& source);
+  /// Throws MetafileOmission for rare operations.
   void fill(const QRectF& target, std::uint32_t operation);
 
   /// Fills the rectangle with these two corners; the colour changes from left to right or from top to bottom.
@@ -116,8 +127,11 @@ class MetafileCanvas {
 
   void drawText(const MetafileText& text);
 
-  /// The finished sheet. Nothing can be drawn after it.
-  QImage finish();
+  /// Notes that something is not drawn: words that continue "Drawn without:". Repetitions do no harm.
+  void leaveOut(const char* what);
+
+  /// The finished sheet, of a drawing that asks for this size. Nothing can be drawn after it.
+  MetafilePicture finish(const QSize& ownSize);
 
  private:
   QTransform toImage() const;
@@ -138,6 +152,7 @@ class MetafileCanvas {
   std::vector<MetafileState> saved_;
   bool isRecording_ = false;
   QPainterPath path_;
+  QStringList leftOut_;
 };
 
 }  // namespace quorvin

@@ -1,11 +1,12 @@
 // The canvas: bitmaps and gradients.
-#include "metafile/boundary.h"
+#include "metafile/metafile_bytes.h"
 #include "metafile/metafile_canvas.h"
 
 #include <QLinearGradient>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace quorvin {
 
@@ -17,9 +18,12 @@ constexpr std::uint32_t kInvert = 0x00550009;
 constexpr std::uint32_t kPattern = 0x00F00021;
 constexpr std::uint32_t kPatternInvert = 0x005A0049;
 constexpr std::uint32_t kWhiteness = 0x00FF0062;
+constexpr std::uint32_t kNothing = 0x00AA0029;
 
-/// Operations that are not listed copy.
-QPainter::CompositionMode sourceComposition(std::uint32_t operation) {
+constexpr auto kRareOperations = "rare raster operations";
+
+/// Nothing for operations that are rare with a picture.
+std::optional<QPainter::CompositionMode> sourceComposition(std::uint32_t operation) {
   switch (operation) {
     case 0x00EE0086:
       return QPainter::RasterOp_SourceOrDestination;
@@ -35,9 +39,18 @@ QPainter::CompositionMode sourceComposition(std::uint32_t operation) {
       return QPainter::RasterOp_NotSourceAndNotDestination;
     case 0x00BB0226:
       return QPainter::RasterOp_NotSourceOrDestination;
-    default:
+    case kCopyOperation:
       return QPainter::CompositionMode_SourceOver;
+    default:
+      return std::nullopt;
   }
+}
+
+/// The third byte of an operation holds the result for each of the eight combinations of brush, picture and
+/// what is there. Two that differ in the picture alone are two bits apart.
+bool usesPicture(std::uint32_t operation) {
+  constexpr std::uint32_t kWithoutPicture = 0x330000;
+  return ((operation ^ (operation >> 2)) & kWithoutPicture) != 0;
 }
 
 double crossProduct(const QPointF& one, const QPointF& other) {
@@ -113,9 +126,12 @@ void MetafileCanvas::fillGradient(const std::array<MetafileVertex, 3>& corners) 
 
 void MetafileCanvas::drawImage(const QRectF& target, const QImage& image, const QRectF& source,
                                std::uint32_t operation, double opacity) {
+  if (!usesPicture(operation)) return fill(target, operation);
   beginPainting();
   painter_.setOpacity(opacity);
-  painter_.setCompositionMode(sourceComposition(operation));
+  const std::optional<QPainter::CompositionMode> composition = sourceComposition(operation);
+  if (!composition) leaveOut(kRareOperations);
+  painter_.setCompositionMode(composition.value_or(QPainter::CompositionMode_SourceOver));
   painter_.setTransform(toImage());
   painter_.translate(target.topLeft());
   // A negative width or height mirrors the picture.
@@ -154,8 +170,10 @@ void MetafileCanvas::fill(const QRectF& target, std::uint32_t operation) {
     case kPatternInvert:
       brush = brushInImage(state.brush);
       break;
-    default:
+    case kNothing:
       return;
+    default:
+      throw MetafileOmission(kRareOperations);
   }
   const bool inverts = operation == kInvert || operation == kPatternInvert;
   beginPainting();

@@ -3,6 +3,8 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QRawFont>
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +21,8 @@ constexpr int kCentre = 6;
 constexpr int kBottom = 8;
 constexpr int kBaseline = 24;
 constexpr int kUsualHeight = 16;
+/// A charset of fonts whose letters are pictures.
+constexpr std::uint8_t kSymbols = 2;
 /// Letters that are larger than any picture only cost time.
 constexpr int kTallestLetters = 4000;
 constexpr int kMostStretch = 4000;
@@ -49,9 +53,28 @@ QFont fontOf(const MetafileFont& wanted, double pixelsPerUnit, double usualHeigh
   return font;
 }
 
+/// Whether that very font is installed, and not only one that is like it.
+bool isInstalled(const QRawFont& found, const QString& wanted) {
+  return found.isValid() && found.familyName().compare(wanted, Qt::CaseInsensitive) == 0;
+}
+
 double widthOf(const MetafileText& text, const QFontMetricsF& metrics, double pixelsPerUnit) {
   if (text.steps.empty()) return metrics.horizontalAdvance(text.text);
   return std::accumulate(text.steps.begin(), text.steps.end(), 0.0) * pixelsPerUnit;
+}
+
+/// The places of the glyphs on the base line, and last the end of the line; in pixels.
+QList<QPointF> placesOfGlyphs(const MetafileText& text, const QRawFont& font, double pixelsPerUnit) {
+  const QList<QPointF> usual = font.advancesForGlyphIndexes(text.glyphs);
+  QList<QPointF> places{QPointF()};
+  for (qsizetype glyph = 0; glyph < text.glyphs.size(); ++glyph) {
+    const auto index = static_cast<std::size_t>(glyph);
+    const double step = index < text.steps.size() ? text.steps[index] * pixelsPerUnit
+                        : glyph < usual.size()    ? usual[glyph].x()
+                                                  : 0;
+    places += places.last() + QPointF(step, 0);
+  }
+  return places;
 }
 
 /// From the reference point to the start of the base line, in pixels.
@@ -90,6 +113,18 @@ void drawLetters(QPainter& painter, const QPointF& start, const MetafileText& te
   }
 }
 
+void drawGlyphs(QPainter& painter, const QPointF& start, const QList<quint32>& glyphs, QList<QPointF> places,
+                const QRawFont& font) {
+  places.removeLast();
+  QGlyphRun run;
+  run.setRawFont(font);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(places);
+  run.setUnderline(painter.font().underline());
+  run.setStrikeOut(painter.font().strikeOut());
+  painter.drawGlyphRun(start, run);
+}
+
 QPainterPath boxPath(const QRectF& box) {
   QPainterPath path;
   path.addRect(box.normalized());
@@ -111,7 +146,15 @@ void MetafileCanvas::drawText(const MetafileText& text) {
   const QFont font = fontOf(state.font, yScale, kUsualHeight * scale_);
   const QFontMetricsF metrics(font);
   const double pixelsPerUnit = yScale;
-  const double width = widthOf(text, metrics, pixelsPerUnit);
+  const QRawFont glyphFont = QRawFont::fromFont(font);
+  const bool isOwnFont = isInstalled(glyphFont, state.font.family);
+  const bool hasGlyphs = !text.glyphs.isEmpty() && isOwnFont;
+  if (!text.glyphs.isEmpty() && !isOwnFont) leaveOut("text by glyph numbers");
+  if (!text.text.isEmpty() && state.font.charset == kSymbols && !isOwnFont)
+    leaveOut("letters of symbol fonts");
+  const QList<QPointF> places =
+      hasGlyphs ? placesOfGlyphs(text, glyphFont, pixelsPerUnit) : QList<QPointF>{QPointF()};
+  const double width = hasGlyphs ? places.last().x() : widthOf(text, metrics, pixelsPerUnit);
   const bool usesPosition = (state.textAlign & kUpdatePosition) != 0;
   const QPointF reference = usesPosition ? state.position : text.at;
   const QPointF start = startOfLine(state.textAlign, width, metrics);
@@ -129,6 +172,7 @@ void MetafileCanvas::drawText(const MetafileText& text) {
     painter_.fillRect(line, state.backColour);
   }
   painter_.setPen(state.textColour);
+  if (hasGlyphs) drawGlyphs(painter_, start, text.glyphs, places, glyphFont);
   drawLetters(painter_, start, text, pixelsPerUnit);
   painter_.restore();
   if (usesPosition) state.position += QPointF(width / std::max(pixelsPerUnit, 1e-6), 0);

@@ -129,18 +129,36 @@ MetafilePicture WmfPlayer::play() {
   forEachRecord(records_, [this](std::uint16_t function, const WmfParameters& parameters) {
     try {
       playRecord(function, parameters);
+    } catch (const MetafileOmission& omission) {
+      canvas_->leaveOut(omission.what());
     } catch (const MetafileFault&) {
       // One record that makes no sense does not spoil the others.
+      canvas_->leaveOut("damaged parts");
     }
     return true;
   });
-  return {ownSize_, canvas_->finish()};
+  return canvas_->finish(ownSize_);
 }
 
 void WmfPlayer::playRecord(std::uint16_t function, const WmfParameters& parameters) {
   playWindow(function, parameters) || playSetting(function, parameters) || playObject(function, parameters) ||
       playShape(function, parameters) || playClip(function, parameters) || playBitmap(function, parameters) ||
-      playText(function, parameters);
+      playText(function, parameters) || noteOmission(function, parameters);
+}
+
+bool WmfPlayer::noteOmission(std::uint16_t function, const WmfParameters& parameters) {
+  enum { SetLayout = 0x0149, FloodFill = 0x0419, ExtendedFloodFill = 0x0548 };
+  constexpr std::uint16_t kMirrored = 1;
+  switch (function) {
+    case FloodFill:
+    case ExtendedFloodFill:
+      throw MetafileOmission("flood fills");
+    case SetLayout:
+      if ((parameters.u16(0) & kMirrored) != 0) throw MetafileOmission("mirroring");
+      return true;
+    default:
+      return false;
+  }
 }
 
 bool WmfPlayer::playWindow(std::uint16_t function, const WmfParameters& parameters) {
@@ -237,9 +255,11 @@ bool WmfPlayer::playObject(std::uint16_t function, const WmfParameters& paramete
                           imageOfPackedDib(parameters.from(4)).convertToFormat(QImage::Format_RGB32)});
       return true;
     case Palette:
-    case Pattern:
       store(MetafilePlaceholder{});
       return true;
+    case Pattern:
+      store(MetafilePlaceholder{});
+      throw MetafileOmission("patterns in the form of a device");
     default:
       return false;
   }

@@ -44,6 +44,8 @@ class WmfPlayer {
   bool playClip(std::uint16_t function, const WmfParameters& parameters);
   bool playBitmap(std::uint16_t function, const WmfParameters& parameters);
   bool playText(std::uint16_t function, const WmfParameters& parameters);
+  /// Throws MetafileOmission for what can be seen but is not drawn.
+  static bool noteOmission(std::uint16_t function, const WmfParameters& parameters);
 
   void store(MetafileObject object);
   const MetafileObject& object(std::uint16_t number) const;

@@ -17,6 +17,9 @@ QPolygonF pointsAt(const WmfParameters& parameters, std::int64_t at, std::uint16
   return points;
 }
 
+/// What the numbers of a bitmap's palette may mean: places in the palette that is selected.
+constexpr std::uint16_t kPaletteColours = 1;
+
 }  // namespace
 
 bool WmfPlayer::playShape(std::uint16_t function, const WmfParameters& parameters) {
@@ -92,7 +95,7 @@ void WmfPlayer::polyPolygon(const WmfParameters& parameters) {
 
 bool WmfPlayer::playClip(std::uint16_t function, const WmfParameters& parameters) {
   enum { SelectRegion = 0x012C, Offset = 0x0220, Exclude = 0x0415, Intersect = 0x0416 };
-  enum { PaintRegion = 0x012B, FillRegion = 0x0228 };
+  enum { InvertRegion = 0x012A, PaintRegion = 0x012B, FillRegion = 0x0228, FrameRegion = 0x0429 };
   switch (function) {
     case SelectRegion: {
       // Anything but a region takes the clip away.
@@ -117,6 +120,17 @@ bool WmfPlayer::playClip(std::uint16_t function, const WmfParameters& parameters
       if (region != nullptr) canvas_->fillRegion(*region, brush != nullptr ? *brush : canvas_->state.brush);
       return true;
     }
+    case FrameRegion: {
+      const auto* region = std::get_if<QRegion>(&object(parameters.u16(0)));
+      const auto* brush = std::get_if<MetafileBrush>(&object(parameters.u16(2)));
+      if (region == nullptr || brush == nullptr) return true;
+      canvas_->frameRegion(*region, {std::abs(parameters.i16(6)), std::abs(parameters.i16(4))}, *brush);
+      return true;
+    }
+    case InvertRegion:
+      if (const auto* region = std::get_if<QRegion>(&object(parameters.u16(0))))
+        canvas_->invertRegion(*region);
+      return true;
     default:
       return false;
   }
@@ -125,6 +139,8 @@ bool WmfPlayer::playClip(std::uint16_t function, const WmfParameters& parameters
 bool WmfPlayer::playBitmap(std::uint16_t function, const WmfParameters& parameters) {
   enum {
     PatternFill = 0x061D,
+    DeviceBitBlt = 0x0922,
+    DeviceStretch = 0x0B23,
     DibBitBlt = 0x0940,
     DibStretch = 0x0B41,
     SetDib = 0x0D33,
@@ -133,35 +149,42 @@ bool WmfPlayer::playBitmap(std::uint16_t function, const WmfParameters& paramete
   // A copy without a bitmap is as short as its numbers: it fills.
   constexpr qsizetype kBareCopy = 18;
   constexpr qsizetype kBareStretch = 22;
+  constexpr auto kDeviceBitmaps = "bitmaps in the form of a device";
   switch (function) {
     case PatternFill:
       canvas_->fill(parameters.sizeAndPlace(4), parameters.u32(0));
       return true;
+    case DeviceBitBlt:
     case DibBitBlt: {
       if (parameters.size() <= kBareCopy) {
         canvas_->fill(parameters.sizeAndPlace(10), parameters.u32(0));
         return true;
       }
+      if (function == DeviceBitBlt) throw MetafileOmission(kDeviceBitmaps);
       const QRectF target = parameters.sizeAndPlace(8);
       canvas_->drawImage(target, imageOfPackedDib(parameters.from(16)), {parameters.point(4), target.size()},
                          parameters.u32(0));
       return true;
     }
+    case DeviceStretch:
     case DibStretch:
       if (parameters.size() <= kBareStretch) {
         canvas_->fill(parameters.sizeAndPlace(14), parameters.u32(0));
         return true;
       }
+      if (function == DeviceStretch) throw MetafileOmission(kDeviceBitmaps);
       canvas_->drawImage(parameters.sizeAndPlace(12), imageOfPackedDib(parameters.from(20)),
                          parameters.sizeAndPlace(4), parameters.u32(0));
       return true;
     case SetDib: {
       const QSizeF size = parameters.extent(10);
+      if (parameters.u16(0) == kPaletteColours) canvas_->leaveOut("colours of palettes");
       drawStored(parameters.from(18), {parameters.point(14), size}, {parameters.point(6), size},
                  kCopyOperation);
       return true;
     }
     case StretchDib:
+      if (parameters.u16(4) == kPaletteColours) canvas_->leaveOut("colours of palettes");
       drawStored(parameters.from(22), parameters.sizeAndPlace(14), parameters.sizeAndPlace(6),
                  parameters.u32(0));
       return true;
@@ -195,12 +218,18 @@ void WmfPlayer::textOut(const WmfParameters& parameters) {
 void WmfPlayer::extTextOut(const WmfParameters& parameters) {
   constexpr int kOpaque = 2;
   constexpr int kClipped = 4;
+  constexpr int kGlyphNumbers = 0x10;
   const std::uint16_t count = parameters.u16(4);
   const std::uint16_t options = parameters.u16(6);
   const bool hasBox = (options & (kOpaque | kClipped)) != 0;
   const std::int64_t at = hasBox ? 16 : 8;
   MetafileText text{
       parameters.point(0), canvas_->state.font.textOf(parameters.slice(at, count).all()), {}, {}, {}};
+  // Hardly any file has them, and whether the numbers have one byte or two is not said.
+  if ((options & kGlyphNumbers) != 0) {
+    canvas_->leaveOut("text by glyph numbers");
+    text.text.clear();
+  }
   if ((options & kOpaque) != 0) text.opaque = QRectF(parameters.point16(8), parameters.point16(12));
   if ((options & kClipped) != 0) text.clip = QRectF(parameters.point16(8), parameters.point16(12));
   const std::int64_t steps = at + count + count % 2;

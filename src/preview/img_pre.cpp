@@ -19,6 +19,7 @@ namespace {
 
 constexpr float kTwipsPerPixel = 15;
 constexpr QSize kFirstSize(640, 480);
+constexpr int kNoteMargin = 4;
 
 int pixelsOf(float twips) {
   // The rule leaves no height to a picture that is far wider than high; a line of it can still be seen.
@@ -118,7 +119,11 @@ class ImgPre::Picture : public QWidget {
 };
 
 ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
-    : QWidget(parent, Qt::Window), PicBox_(new QWidget(this)), Pic_(new Picture(PicBox_)), animation_(pool) {
+    : QWidget(parent, Qt::Window),
+      PicBox_(new QWidget(this)),
+      Pic_(new Picture(PicBox_)),
+      Note_(new QLabel(this)),
+      animation_(pool) {
   setObjectName(QStringLiteral("ImgPre"));
   setWindowTitle(QStringLiteral("Image Preview"));
   PicBox_->setObjectName(QStringLiteral("PicBox"));
@@ -126,6 +131,12 @@ ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
   Pic_->setObjectName(QStringLiteral("Pic"));
   Pic_->setAccessibleName(QStringLiteral("Picture"));
   Pic_->setGeometry(0, 0, 1, 1);
+  Note_->setObjectName(QStringLiteral("Note"));
+  Note_->setTextFormat(Qt::PlainText);
+  Note_->setWordWrap(true);
+  Note_->setMargin(kNoteMargin);
+  Note_->setAutoFillBackground(true);
+  Note_->hide();
   resize(kFirstSize);
   connect(&animation_, &PictureAnimation::frameReached, Pic_, &Picture::setImage);
   connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
@@ -136,6 +147,10 @@ void ImgPre::setPicture(const LoadedPicture& picture, const QString& path) {
   Pic_->setImage(picture.frame.image);
   Pic_->setAccessibleName(QStringLiteral("Picture ") + QFileInfo(path).fileName());
   Pic_->setToolTip(path.toHtmlEscaped());
+  const QString without = picture.drawnWithout;
+  Note_->setText(without.isEmpty() ? QString() : QStringLiteral("Drawn without: %1.").arg(without));
+  Note_->setVisible(!without.isEmpty());
+  Pic_->setAccessibleDescription(Note_->text());
   animation_.start(picture.decoder, picture.frame.milliseconds);
   Form_Resize();
 }
@@ -168,6 +183,12 @@ void ImgPre::Form_Resize() {
                             static_cast<float>(PicBox_->height()) * kTwipsPerPixel};
   const auto fitted = fitPicture(frame, pictureSize_.width(), pictureSize_.height());
   if (fitted) Pic_->resize(pixelsOf(fitted->width), pixelsOf(fitted->height));
+  placeNote();
+}
+
+void ImgPre::placeNote() {
+  const int height = Note_->heightForWidth(width());
+  Note_->setGeometry(0, this->height() - height, width(), height);
 }
 
 }  // namespace quorvin

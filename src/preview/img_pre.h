@@ -4,6 +4,7 @@
 #include "preview/loaded_picture.h"
 
 #include <QImage>
+#include <QLabel>
 #include <QObject>
 #include <QSizeF>
 #include <QString>
@@ -52,7 +53,8 @@ class PictureAnimation : public QObject {
 
 /// The preview window `ImgPre`. The frame `PicBox` fills it. In its upper left corner, `Pic` shows the
 /// picture in the size that fitPicture gives, which is applied again after each change of the window's size
-/// and each activation. Esc closes the window; a closed window is only hidden and keeps its picture.
+/// and each activation. What is missing from a drawing is said in `Note`, a line over the lower edge that is
+/// seen only then. Esc closes the window; a closed window is only hidden and keeps its picture.
 class ImgPre : public QWidget {
   Q_OBJECT
 
@@ -74,9 +76,11 @@ class ImgPre : public QWidget {
 
   void Form_Activate();
   void Form_Resize();
+  void placeNote();
 
   QWidget* PicBox_;
   Picture* Pic_;
+  QLabel* Note_;
   QSizeF pictureSize_;
   PictureAnimation animation_;
 };

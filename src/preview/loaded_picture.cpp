@@ -230,7 +230,7 @@ LoadedPicture loadMetafile(PictureFile& file, const QString& path, const Metafil
   if (file.size() > kLargestMetafile) refusePicture(path, QString::fromLatin1(kMetafileTooLarge));
   try {
     const MetafilePicture picture = drawInChild(child, file.readAll(), stop.get_token());
-    return {picture.ownSize, {picture.image, 0}, {}};
+    return {picture.ownSize, {picture.image, 0}, {}, picture.leftOut};
   } catch (const MetafileFault& fault) {
     refusePicture(path, QString::fromLatin1(fault.what()));
   }

@@ -64,11 +64,13 @@ class PictureDecoder {
 };
 
 /// A picture that can be shown. `size` is its own size, in pixels or hundredths of a millimetre: only the
-/// ratio is of use. `decoder` is null unless further frames may follow.
+/// ratio is of use. `decoder` is null unless further frames may follow. `drawnWithout` names what of a
+/// drawing is missing, as MetafilePicture::leftOut does.
 struct LoadedPicture {
   QSizeF size;
   PictureFrame frame;
   std::shared_ptr<PictureDecoder> decoder;
+  QString drawnWithout = {};
 };
 
 /// Loads the picture, whatever its name says it is. May take long, so it is called outside of the user

@@ -18,6 +18,17 @@ TEST(MetafileAnswer, APictureComesBackAsItWent) {
   EXPECT_EQ(back.image, picture.image.convertToFormat(QImage::Format_RGB32));
 }
 
+TEST(MetafileAnswer, WhatIsLeftOutComesBackInHarmlessLetters) {
+  MetafilePicture picture{QSize(100, 100), QImage(3, 2, QImage::Format_RGB32), QStringLiteral("flood fills")};
+  EXPECT_EQ(pictureOfMetafileAnswer(metafileAnswer(picture)).leftOut, QStringLiteral("flood fills"));
+  EXPECT_EQ(pictureOfMetafileAnswer(metafileAnswer(picture).replace("flood", "f\n\xE4(d")).leftOut,
+            QStringLiteral("f\?\?(d fills"));
+  picture.leftOut = QString(400, u'x');
+  EXPECT_EQ(pictureOfMetafileAnswer(metafileAnswer(picture)).leftOut, QString(400, u'x'));
+  picture.leftOut += u'x';
+  EXPECT_EQ(pictureOfMetafileAnswer(metafileAnswer(picture)).leftOut, QString(400, u'x'));
+}
+
 std::string answerFault(const QByteArray& answer) {
   try {
     pictureOfMetafileAnswer(answer);
@@ -50,7 +61,11 @@ TEST(MetafileAnswer, WhateverIsNotExactlyAnAnswerIsRefused) {
     EXPECT_EQ(answerFault(with(size, 0xFFFFFFFF)), kNone) << size;
   }
   EXPECT_EQ(answerFault(with(16, 2001)), kNone);
-  EXPECT_EQ(answerFault(with(4, 2)), kNone);
+  EXPECT_EQ(answerFault(with(4, 1)), kNone);
+  EXPECT_EQ(answerFault(with(24, 1)), kNone);
+  EXPECT_EQ(answerFault(with(24, 1) + 'x'), "none");
+  EXPECT_EQ(answerFault(with(24, 401) + QByteArray(401, 'x')), kNone);
+  EXPECT_EQ(answerFault(with(24, 0xFFFFFFFF)), kNone);
 }
 
 }  // namespace

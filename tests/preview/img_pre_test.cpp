@@ -3,6 +3,7 @@
 
 #include "preview/picture_printing.h"
 
+#include <QLabel>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -121,6 +122,31 @@ TEST_F(ImgPreWindow, EscapeHidesIt) {
   show(400, 400);
   QTest::keyClick(&window_, Qt::Key_Escape);
   EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(ImgPreWindow, WhatIsMissingFromADrawingIsSaidOverItsLowerEdge) {
+  LoadedPicture drawing = still(100, 100);
+  drawing.drawnWithout = QStringLiteral("flood fills, EMF+ <b>drawings");
+  window_.setPicture(drawing, QStringLiteral("/m/a.emf"));
+  show(400, 300);
+  auto* note = window_.findChild<QLabel*>(QStringLiteral("Note"));
+  ASSERT_NE(note, nullptr);
+  EXPECT_TRUE(note->isVisible());
+  EXPECT_EQ(note->text(), QStringLiteral("Drawn without: flood fills, EMF+ <b>drawings."));
+  EXPECT_EQ(note->textFormat(), Qt::PlainText);
+  EXPECT_EQ(Pic()->accessibleDescription(), note->text());
+  EXPECT_EQ(note->geometry().bottom(), 299);
+  EXPECT_EQ(note->width(), 400);
+  EXPECT_LT(note->height(), 100);
+  EXPECT_EQ(PicBox()->geometry(), QRect(0, 0, 400, 300));
+  EXPECT_EQ(Pic()->size(), QSize(296, 296));
+  window_.resize(150, 500);
+  EXPECT_EQ(note->geometry().bottom(), 499);
+  EXPECT_GE(note->height(), note->heightForWidth(150));
+
+  window_.setPicture(still(100, 100), QStringLiteral("/m/a.bmp"));
+  EXPECT_FALSE(note->isVisible());
+  EXPECT_EQ(Pic()->accessibleDescription(), QString());
 }
 
 TEST_F(ImgPreWindow, ScreenReadersHearWhichPictureItIs) {

@@ -63,6 +63,12 @@ TEST_F(MetafileChildTest, DrawsAsThePlayerDoes) {
   }
 }
 
+TEST_F(MetafileChildTest, TellsWhatItHasLeftOut) {
+  EXPECT_EQ(drawInChild({kProgram}, EmfWriter().file(), {}).leftOut, QString());
+  EXPECT_EQ(drawInChild({kProgram}, EmfWriter().record(53).record(43).file(), {}).leftOut,
+            QStringLiteral("flood fills, damaged parts"));
+}
+
 TEST_F(MetafileChildTest, TellsWhyAMetafileCannotBeDrawn) {
   EXPECT_EQ(faultOf({kProgram}, {}, EmfWriter().file().chopped(3)), "it is damaged or cut short");
   EXPECT_EQ(faultOf({kProgram}, {}, "text"), "it is not a metafile");
