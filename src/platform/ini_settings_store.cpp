@@ -82,7 +82,8 @@ IniText::IniText(const QByteArray& text) {
   if (text.size() == mark) return;
   lines_ = text.mid(mark).split('\n');
   for (QByteArray& line : lines_) {
-    if (line.endsWith('\r')) line.chop(1);
+    // All of them: what is left of several would be a part of the line, until the file is written again.
+    while (line.endsWith('\r')) line.chop(1);
   }
   if (lines_.last().isEmpty()) lines_.removeLast();
 }
@@ -125,7 +126,7 @@ std::optional<QString> IniText::value(const QString& section, const QString& key
   if (line < 0) return std::nullopt;
   const QByteArray written = trimmed(lines_[line].mid(lines_[line].indexOf('=') + 1));
   // Text that is empty and yet there must not be taken for none.
-  return QStringLiteral("") + unescaped(QString::fromUtf8(written));
+  return QStringLiteral("") + unescaped(textOfUtf8(written.toStdString()));
 }
 
 void IniText::setValue(const QString& section, const QString& key, const QString& value) {

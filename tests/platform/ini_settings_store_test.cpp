@@ -76,6 +76,23 @@ TEST(IniSettingsStore, KeepsApplicationsAndSectionsApart) {
   EXPECT_EQ(store.read(QStringLiteral("D:\\lists\\[a]=b.txt"), kSection, QStringLiteral("Top"), {}), u"4");
 }
 
+TEST(IniText, AValueMayStartWithAByteOrderMark) {
+  const QString value = QStringLiteral("\uFEFFAnn");
+  IniText text(
+      "[a]\nb=\xEF\xBB\xBF"
+      "Bob\n");
+  EXPECT_EQ(text.value(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("\uFEFFBob"));
+  text.setValue(QStringLiteral("a"), QStringLiteral("b"), value);
+  EXPECT_EQ(IniText(text.text()).value(QStringLiteral("a"), QStringLiteral("b")), value);
+}
+
+TEST(IniText, ALineThatEndsInSeveralReturnsIsReadAlikeBeforeAndAfterAWrite) {
+  IniText text("[a]\nb=c\r\r\n");
+  EXPECT_EQ(text.value(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("c"));
+  text.setValue(QStringLiteral("a"), QStringLiteral("d"), QStringLiteral("e"));
+  EXPECT_EQ(IniText(text.text()).value(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("c"));
+}
+
 TEST(IniSettingsStore, ProgramsThatSaveAtOnceKeepEachOthersValues) {
   const TemporaryFolder folder;
   const auto saveMany = [&folder](const QString& prefix) {
