@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -38,19 +39,35 @@ class FileWriter {
 /// what is not written over, so the rest of a longer file stays behind the new bytes. This is for the archive
 /// of the web update alone, whose rules ask for it: whatever goes wrong on the way, the old file is lost.
 /// Everything else is a FileAside.
+///
+/// Half a file must not pass for the newest one, even if the program is killed on the way. So its time of
+/// modification is kNotKnownToBeWhole, while it is written and afterwards: from the start for a file that was
+/// empty, else from the first bytes on. Whoever has found it to be whole gives it the time it should have.
+/// Where the system lets nobody set the time (a file of another user), it is that of the last write.
 class OverwrittenFile {
  public:
+  /// 1 January 1980, 00:00 UTC, in seconds since 1970.
+  static constexpr std::int64_t kNotKnownToBeWhole = 315'532'800;
+
   /// Throws RuntimeFault as faultOfSystemError maps the error, and fault 75 for what is no regular file.
   explicit OverwrittenFile(const QString& path);
+  ~OverwrittenFile();
+  OverwrittenFile(const OverwrittenFile&) = delete;
+  OverwrittenFile& operator=(const OverwrittenFile&) = delete;
 
   /// Throws as FileWriter::write does.
-  void write(std::string_view bytes) { writer_.write(bytes); }
+  void write(std::string_view bytes);
   /// Brings everything into the file; to be called last. Throws as FileWriter::write does.
-  void flush() { writer_.flush(); }
+  void flush();
 
  private:
+  void setTimeBack() const;
+
   Descriptor file_;
   FileWriter writer_;
+  bool isTouched_ = false;
+  /// Bytes since the time was last set back.
+  std::size_t sinceSetBack_ = 0;
 };
 
 }  // namespace quorvin

@@ -1,6 +1,7 @@
 #include "faults/runtime_fault.h"
 #include "files/file_writer.h"
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -23,6 +24,11 @@ Descriptor openRegularFile(const QString& path) {
   struct stat status {};
   if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) throw faultOfSystemError(EISDIR, path);
   return file;
+}
+
+bool isEmpty(int file) {
+  struct stat status {};
+  return ::fstat(file, &status) == 0 && status.st_size == 0;
 }
 
 }  // namespace
@@ -57,6 +63,31 @@ void FileWriter::writeOut(std::string_view bytes) {
 }
 
 OverwrittenFile::OverwrittenFile(const QString& path)
-    : file_(openRegularFile(path)), writer_(file_.get(), path) {}
+    : file_(openRegularFile(path)), writer_(file_.get(), path) {
+  if (isEmpty(file_.get())) setTimeBack();
+}
+
+OverwrittenFile::~OverwrittenFile() {
+  // A write that failed may have changed the time too.
+  if (isTouched_) setTimeBack();
+}
+
+void OverwrittenFile::write(std::string_view bytes) {
+  isTouched_ = true;
+  writer_.write(bytes);
+  sinceSetBack_ += bytes.size();
+  if (sinceSetBack_ >= kBufferSize) flush();
+}
+
+void OverwrittenFile::flush() {
+  writer_.flush();
+  if (isTouched_) setTimeBack();
+  sinceSetBack_ = 0;
+}
+
+void OverwrittenFile::setTimeBack() const {
+  const std::array<timespec, 2> times{timespec{0, UTIME_OMIT}, timespec{kNotKnownToBeWhole, 0}};
+  static_cast<void>(::futimens(file_.get(), times.data()));
+}
 
 }  // namespace quorvin

@@ -34,6 +34,13 @@ class BusyPointer {
   WorkDisplay& display_;
 };
 
+/// Where the system does not let the time be set, the file has kept that of its last write.
+void setModified(const QString& path, const QDateTime& moment) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) return;
+  file.setFileTime(moment, QFileDevice::FileModificationTime);
+}
+
 /// What is wrong with the archive is shown in a message box.
 UnpackingOutcome unpackDataFile(Job& job, const QString& archivePath, const QString& targetFolder,
                                 MessageBoxes& boxes, std::int64_t archiveLength = -1) {
@@ -133,7 +140,10 @@ WebUpdate::Step WebUpdate::download() {
 WebUpdate::Step WebUpdate::receive(QByteArray next) {
   // Without a name there is no file to write; the document is only received.
   std::optional<OverwrittenFile> archive;
-  if (!archiveFile_.isEmpty()) archive.emplace(archivePath());
+  if (!archiveFile_.isEmpty()) {
+    isPartial_ = !ordinaryFileExists(archivePath());
+    archive.emplace(archivePath());
+  }
   bytesCounted_ = 0;
   archiveLength_ = 0;
   while (true) {
@@ -141,6 +151,7 @@ WebUpdate::Step WebUpdate::receive(QByteArray next) {
     std::optional<QByteArray> following = nextChunk();
     if (!following) return Step::Cancelled;
     next = *std::move(following);
+    isPartial_ = true;
     if (archive) archive->write(std::string_view(block.constData(), static_cast<std::size_t>(block.size())));
     archiveLength_ += block.size();
     count(next.size());
@@ -149,6 +160,7 @@ WebUpdate::Step WebUpdate::receive(QByteArray next) {
     if (next.isEmpty()) break;
   }
   if (archive) archive->flush();
+  received_ = QDateTime::currentDateTimeUtc();
   web_.cancel();
   return Step::GoOn;
 }
@@ -175,7 +187,7 @@ WebUpdate::Step WebUpdate::cancelDownload() {
   job_.dropStopRequest();
   web_.cancel();
   job_.hide();
-  if (archiveFile_.isEmpty() || !ordinaryFileExists(archivePath())) return Step::Cancelled;
+  if (archiveFile_.isEmpty() || !isPartial_ || !ordinaryFileExists(archivePath())) return Step::Cancelled;
   if (!QFile::remove(archivePath())) throw RuntimeFault(FaultNumber::PermissionDenied);
   return Step::Cancelled;
 }
@@ -185,8 +197,9 @@ void WebUpdate::unpack() {
   display_.setBarMaximum(kFullBar);
   display_.setBar(0);
   display_.setStatus(QStringLiteral("Decompressing..."));
-  unpackDataFile(job_, archivePath(), localFolder_, boxes_, archiveLength_);
+  const UnpackingOutcome outcome = unpackDataFile(job_, archivePath(), localFolder_, boxes_, archiveLength_);
   job_.dropStopRequest();
+  if (outcome == UnpackingOutcome::Unpacked) setModified(archivePath(), received_);
 }
 
 QString WebUpdate::archivePath() const {

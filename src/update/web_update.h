@@ -7,6 +7,7 @@
 #include "update/http_transfer.h"
 #include "work/work.h"
 
+#include <QDateTime>
 #include <QLocale>
 #include <QString>
 #include <QUrl>
@@ -30,10 +31,12 @@ class WebUpdate {
 
   /// Asks `WebServer` for the date of `ArchiveFile` and, when it is newer than the copy in `LocalFolder` and
   /// the user agrees, downloads it over that copy and unpacks it. `WebUpdate` is disabled meanwhile. After a
-  /// cancelled download the copy is deleted and `WebUpdate` stays disabled. Whatever fails is reported as
-  /// "NUMBER: Could not get an update."; what has been written of the archive then stays, and so does
-  /// `Progress`. The earlier archive is written over from its start and not cut: the rest of a longer one
-  /// stays behind the new one. To be called once.
+  /// cancelled download `WebUpdate` stays disabled, and what has been written of the archive is deleted; an
+  /// earlier copy stays when the download was cancelled before anything was written over it. Whatever fails
+  /// is reported as "NUMBER: Could not get an update."; what has been written of the archive then stays, and
+  /// so does `Progress`. The earlier archive is written over from its start and not cut: the rest of a longer
+  /// one stays behind the new one. An archive that was not unpacked whole dates from 1980, so that the next
+  /// update is offered again. To be called once.
   void WebUpdate_Click();
 
  private:
@@ -70,6 +73,10 @@ class WebUpdate {
   std::int32_t bytesCounted_ = 0;
   /// The length of the new archive; what follows it in the file is left of the earlier one.
   std::int64_t archiveLength_ = 0;
+  /// When its last byte had come.
+  QDateTime received_;
+  /// The file is no earlier archive any more: it was made for this one, or has been written over.
+  bool isPartial_ = false;
 };
 
 /// Unpacks the archive of the main data file at start-up, as a job of the kind Extraction, which is shown

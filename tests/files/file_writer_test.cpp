@@ -112,6 +112,8 @@ class OverwrittenFileTest : public testing::Test {
 
   QString path() const { return folder_.pathOf(u"a.zip"_qs); }
   QByteArray content() const { return folder_.readFile(u"a.zip"_qs); }
+  QDateTime modified() const { return QFileInfo(path()).lastModified().toUTC(); }
+  const QDateTime k1980{QDate(1980, 1, 1), QTime(0, 0), Qt::UTC};
 
   TemporaryFolder folder_;
 };
@@ -129,6 +131,43 @@ TEST_F(OverwrittenFileTest, KeepsWhatIsNotWrittenOver) {
   EXPECT_EQ(content(), QByteArray("abc3456789"));
   overwrite("a longer content");
   EXPECT_EQ(content(), QByteArray("a longer content"));
+}
+
+TEST_F(OverwrittenFileTest, NeverPassesForNewWhileItIsWritten) {
+  OverwrittenFile file(path());
+  EXPECT_EQ(modified(), k1980);
+  std::size_t written = 0;
+  for (const std::size_t size : {std::size_t{1024}, std::size_t{65'000}, std::size_t{70'000}}) {
+    for (int i = 0; i < 100; ++i) file.write(std::string(size, 'x'));
+    written += 100 * size;
+    EXPECT_GT(static_cast<std::size_t>(content().size()) + 65'536, written);
+    EXPECT_EQ(modified(), k1980) << size;
+  }
+  file.flush();
+  EXPECT_EQ(modified(), k1980);
+}
+
+TEST_F(OverwrittenFileTest, NeverPassesForNewAfterwards) {
+  folder_.writeFile(u"a.zip"_qs, "0123456789");
+  overwrite("abc");
+  EXPECT_EQ(modified(), k1980);
+}
+
+TEST_F(OverwrittenFileTest, NeverPassesForNewAfterAFault) {
+  {
+    const FullDisk full(100'000);
+    EXPECT_EQ(faultOf(std::string(1'000'000, 'x')), 61);
+  }
+  EXPECT_GT(content().size(), 0);
+  EXPECT_EQ(modified(), k1980);
+}
+
+TEST_F(OverwrittenFileTest, KeepsItsTimeWhenNothingIsWritten) {
+  folder_.writeFile(u"a.zip"_qs, "0123456789");
+  const QDateTime before = modified();
+  { const OverwrittenFile file(path()); }
+  EXPECT_EQ(modified(), before);
+  EXPECT_EQ(content(), QByteArray("0123456789"));
 }
 
 TEST_F(OverwrittenFileTest, RefusesFoldersAndPipes) {

@@ -25,11 +25,22 @@ class WebUpdateCancel : public WebUpdateTest {
   }
 
   void expectCancelled() const {
+    expectStoppedAndDisabled();
+    EXPECT_EQ(data_.names(), QStringList());
+  }
+
+  void expectCancelledWithTheEarlierArchiveKept() const {
+    expectStoppedAndDisabled();
+    EXPECT_EQ(data_.names(), QStringList{u"main.zip"_qs});
+    EXPECT_EQ(data_.readFile(u"main.zip"_qs), QByteArray("the earlier archive"));
+    EXPECT_EQ(modified(), utc(2001, 1, 1, 0, 0));
+  }
+
+  void expectStoppedAndDisabled() const {
     EXPECT_FALSE(webUpdateEnabled_);
     EXPECT_FALSE(view_.isShown);
     EXPECT_FALSE(state_.AbortRequested);
     EXPECT_EQ(log_.mid(log_.size() - 2), QStringList({u"cancel"_qs, u"progress unloaded"_qs}));
-    EXPECT_EQ(data_.names(), QStringList());
     EXPECT_THAT(boxes_.informed, IsEmpty());
   }
 };
@@ -53,16 +64,38 @@ TEST_F(WebUpdateCancel, ActsAfterTheLastChunkToo) {
   expectCancelled();
 }
 
-TEST_F(WebUpdateCancel, ActsWhileHeadersAreAwaited) {
+TEST_F(WebUpdateCancel, WhileHeadersAreAwaitedKeepsTheEarlierArchive) {
   web_.answers[1].pollsUntilHeaders = 1'000'000;
   view_.onWait = [this] { state_.AbortRequested = view_.waits == 10; };
   click();
-  expectCancelled();
+  expectCancelledWithTheEarlierArchiveKept();
   EXPECT_EQ(view_.waits, 10);
 }
 
-TEST_F(WebUpdateCancel, ActsWhileTheFirstChunkIsAwaited) {
+TEST_F(WebUpdateCancel, WhileTheFirstChunkIsAwaitedKeepsTheEarlierArchive) {
   web_.answers[1].pollsUntilChunk = 1'000'000;
+  view_.onWait = [this] { state_.AbortRequested = view_.waits == 10; };
+  click();
+  expectCancelledWithTheEarlierArchiveKept();
+}
+
+TEST_F(WebUpdateCancel, WhileTheSecondChunkIsAwaitedKeepsTheEarlierArchive) {
+  web_.answers[1].stallsAt = 1024;
+  view_.onWait = [this] { state_.AbortRequested = view_.waits == 10; };
+  click();
+  expectCancelledWithTheEarlierArchiveKept();
+}
+
+TEST_F(WebUpdateCancel, WhileTheThirdChunkIsAwaitedDeletesWhatWasWritten) {
+  web_.answers[1].stallsAt = 2048;
+  view_.onWait = [this] { state_.AbortRequested = view_.waits == 10; };
+  click();
+  expectCancelled();
+}
+
+TEST_F(WebUpdateCancel, LeavesNoEmptyFileWhereThereWasNone) {
+  ASSERT_TRUE(QFile::remove(data_.pathOf(u"main.zip"_qs)));
+  web_.answers[1].stallsAt = 1024;
   view_.onWait = [this] { state_.AbortRequested = view_.waits == 10; };
   click();
   expectCancelled();
@@ -79,6 +112,8 @@ TEST_F(WebUpdateCancel, OfTheUnpackingEndsItAndEnablesTheCommand) {
   EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("earlier"));
   EXPECT_EQ(data_.names(), QStringList({u"main.txt"_qs, u"main.zip"_qs}));
   EXPECT_THAT(boxes_.informed, IsEmpty());
+  // What was not unpacked is offered again.
+  EXPECT_EQ(modified(), k1980);
 }
 
 TEST_F(WebUpdateCancel, ClosingTheWindowWhileHeadersAreAwaitedEndsQuietly) {

@@ -7,6 +7,7 @@
 namespace quorvin::test {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -46,6 +47,44 @@ TEST_F(WebUpdateFailure, OfTheDownloadLeavesThePartialArchiveAndProgress) {
   EXPECT_TRUE(view_.isShown);
   EXPECT_TRUE(log_.contains(u"progress left"_qs));
   EXPECT_EQ(data_.names(), QStringList{u"main.zip"_qs});
+}
+
+TEST_F(WebUpdateFailure, OfTheDownloadIsFollowedByAnotherTry) {
+  const QByteArray archive = archiveOf("main.txt", "content") + QByteArray(200'000, 'x');
+  for (const qsizetype place : {1024, 102'400}) {
+    haveArchive(QByteArray(300'000, 'y'), utc(2001, 1, 1, 0, 0));
+    serve(kDate, archive);
+    web_.answers[1].failsAt = place;
+    boxes_.answers = {true};
+    click();
+    serve(kDate, archiveOf("main.txt", "content"));
+    boxes_.answers = {true};
+    click();
+    EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("content")) << place;
+    ASSERT_TRUE(QFile::remove(data_.pathOf(u"main.txt"_qs)));
+  }
+  EXPECT_THAT(boxes_.informed, Each(u"62: Could not get an update."_qs));
+}
+
+TEST_F(WebUpdateFailure, OfTheFirstDownloadIsFollowedByAnotherTry) {
+  web_.answers[1].failsAt = 1024;
+  web_.answers[1].body = QByteArray(5000, 'x');
+  click();
+  expectFailure(62);
+  EXPECT_EQ(modified(), k1980);
+}
+
+TEST_F(WebUpdateFailure, OfTheUnpackingIsFollowedByAnotherTry) {
+  serve(kDate, "<html>Not here</html>");
+  click();
+  ASSERT_EQ(boxes_.informed.size(), 1U);
+  EXPECT_TRUE(boxes_.informed[0].startsWith(u"Archive Error: "_qs));
+  EXPECT_EQ(modified(), k1980);
+  serve(kDate, archiveOf("main.txt", "content"));
+  boxes_.answers = {true};
+  click();
+  EXPECT_EQ(data_.readFile(u"main.txt"_qs), QByteArray("content"));
+  EXPECT_EQ(boxes_.informed.size(), 1U);
 }
 
 TEST_F(WebUpdateFailure, OfTheSecondRequestLeavesTheEarlierArchive) {
@@ -136,6 +175,7 @@ TEST_F(WebUpdateFailure, OfTheUnpackingsFilesIsToldByItsNumber) {
   click();
   expectFailure(75);
   EXPECT_EQ(data_.readFile(u"main.txt/inside.txt"_qs), QByteArray("mine"));
+  EXPECT_EQ(modified(), k1980);
 }
 
 TEST_F(WebUpdateFailure, IsNotToldWhenTheWindowIsClosed) {

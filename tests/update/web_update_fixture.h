@@ -9,6 +9,7 @@
 #include "update/web_update.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QMap>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,6 +31,8 @@ struct MadeAnswer {
   /// How often it is still executing when asked, and how often a chunk is not there yet.
   int pollsUntilHeaders = 0;
   int pollsUntilChunk = 0;
+  /// From this place on no chunk ever comes.
+  std::optional<qsizetype> stallsAt;
   /// Instead of headers.
   std::optional<FaultNumber> failure;
   /// Instead of the chunk that begins at this place.
@@ -53,7 +56,9 @@ class MadeTransfer : public HttpTransfer {
     log_ += QStringLiteral("header ") + name;
     return answer_.headers.value(name.chopped(1));
   }
-  bool chunkIsReady(qsizetype) const override { return answer_.pollsUntilChunk-- <= 0; }
+  bool chunkIsReady(qsizetype) const override {
+    return answer_.stallsAt != place_ && answer_.pollsUntilChunk-- <= 0;
+  }
   QByteArray chunk(qsizetype size) override {
     if (answer_.failure) throw RuntimeFault(*answer_.failure);
     if (answer_.failsAt == place_) throw RuntimeFault(FaultNumber::InputPastEnd);
@@ -109,6 +114,10 @@ class WebUpdateTest : public testing::Test {
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     ASSERT_TRUE(file.setFileTime(modified, QFileDevice::FileModificationTime));
   }
+
+  /// When the archive's file was modified.
+  QDateTime modified() const { return QFileInfo(data_.pathOf(state_.ArchiveFile)).lastModified().toUTC(); }
+  const QDateTime k1980 = utc(1980, 1, 1, 0, 0);
 
   static QDateTime utc(int year, int month, int day, int hour, int minute, int second = 0) {
     return {QDate(year, month, day), QTime(hour, minute, second), Qt::UTC};

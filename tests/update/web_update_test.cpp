@@ -170,6 +170,18 @@ TEST_F(WebUpdateTest, WritesOverALongerArchiveWithoutCuttingIt) {
   EXPECT_THAT(boxes_.informed, IsEmpty());
 }
 
+TEST_F(WebUpdateTest, ThatWasUnpackedWholeDatesFromItsArrival) {
+  const QDateTime before = QDateTime::currentDateTimeUtc();
+  serve(kDate, storedArchive("new"));
+  boxes_.answers = {true};
+  click();
+  EXPECT_GE(modified(), before);
+  EXPECT_LE(modified(), QDateTime::currentDateTimeUtc());
+  serve(kDate, storedArchive("new"));
+  click();
+  EXPECT_THAT(boxes_.informed, ElementsAre(kUpToDate));
+}
+
 TEST_F(WebUpdateTest, OfAnEmptyArchiveNameIsReceivedButNotUnpacked) {
   state_.ArchiveFile.clear();
   data_.writeFile(u"keep.txt"_qs, "mine");
