@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 
 #include <chrono>
 #include <cstdio>
@@ -18,7 +19,7 @@ void print(const quorvin::test::PeerLoadFigures& figures) {
               static_cast<double>(figures.memoryGrowth) / 1048576.0);
   std::printf("service back after:                          %.1f ms\n", figures.serviceBack);
   std::printf("connections at a time, at most:              %d\n", figures.mostConnections);
-  std::printf("connections begun, stood:                    %lld, %lld\n",
+  std::printf("calls, and those that got through:           %lld, %lld\n",
               static_cast<long long>(figures.begun), static_cast<long long>(figures.connected));
   std::printf("bytes that the callers read:                 %lld\n",
               static_cast<long long>(figures.received));
@@ -33,6 +34,7 @@ int main(int argc, char** argv) {
   CLI11_PARSE(options, argc, argv);
   quorvin::test::allowManyDescriptors();
   const QCoreApplication application(argc, argv);
-  print(quorvin::test::runPeerLoad(std::chrono::seconds(seconds)));
+  const QDeadlineTimer end{std::chrono::seconds(seconds)};
+  print(quorvin::test::runPeerLoad([&](const quorvin::test::PeerLoadFigures&) { return end.hasExpired(); }));
   return 0;
 }

@@ -35,22 +35,34 @@ class Random {
   std::mt19937 engine_{7};
 };
 
+/// Address `number` of the many that this machine has for itself.
+sockaddr loopbackAddress(std::uint32_t number, std::uint16_t port) {
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_port = htons(port);
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK - 1 + number);
+  // Copied, since the calls take a more general type.
+  sockaddr general{};
+  std::copy_n(reinterpret_cast<const char*>(&address), sizeof general, reinterpret_cast<char*>(&general));
+  return general;
+}
+
 /// One caller; -1 stands for a descriptor that is closed.
 class Caller {
  public:
-  Caller(Manner manner, bool stays) : manner_(manner), stays_(stays) {}
+  /// `number` is that of the caller's address.
+  Caller(Manner manner, bool stays, std::uint32_t number)
+      : manner_(manner), stays_(stays), ownAddress_(loopbackAddress(number, 0)) {}
 
   int descriptor() const { return descriptor_; }
   bool isConnected() const { return isConnected_; }
   bool isOpen() const { return descriptor_ >= 0; }
 
-  void begin(const sockaddr_in& address, Random& random) {
+  void call(const sockaddr& server, Random& random) {
     descriptor_ = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     if (descriptor_ < 0) return;
-    // Copied, since the call takes a more general type.
-    sockaddr general{};
-    std::copy_n(reinterpret_cast<const char*>(&address), sizeof general, reinterpret_cast<char*>(&general));
-    ::connect(descriptor_, &general, sizeof general);
+    ::bind(descriptor_, &ownAddress_, sizeof ownAddress_);
+    ::connect(descriptor_, &server, sizeof server);
     isConnected_ = false;
     // Those who stay, stay to the end.
     goesAt_ = Clock::now() + (stays_ ? milliseconds(3600000) : milliseconds(100 + random.below(3000)));
@@ -134,6 +146,7 @@ class Caller {
 
   Manner manner_;
   bool stays_;
+  sockaddr ownAddress_;
   int descriptor_ = -1;
   bool isConnected_ = false;
   Clock::time_point goesAt_;
@@ -141,18 +154,12 @@ class Caller {
   Clock::time_point writesAt_;
 };
 
-sockaddr_in loopbackAddress(std::uint16_t port) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_port = htons(port);
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  return address;
-}
-
 std::vector<Caller> makeCallers() {
   std::vector<Caller> callers;
   for (int i = 0; i < HostileCallers::kStaying + HostileCallers::kTrying; ++i) {
-    callers.emplace_back(static_cast<Manner>(i % kManners), i < HostileCallers::kStaying);
+    constexpr int kAddresses = 200;
+    callers.emplace_back(static_cast<Manner>(i % kManners), i < HostileCallers::kStaying,
+                         static_cast<std::uint32_t>(1 + i % kAddresses));
   }
   return callers;
 }
@@ -172,7 +179,7 @@ void HostileCallers::stop() {
 }
 
 void HostileCallers::run(std::uint16_t port, const char* largeList) {
-  const sockaddr_in address = loopbackAddress(port);
+  const sockaddr server = loopbackAddress(1, port);
   const std::string request = std::string("GetList: ") + largeList;
   Random random;
   std::vector<Caller> callers = makeCallers();
@@ -183,7 +190,7 @@ void HostileCallers::run(std::uint16_t port, const char* largeList) {
       Caller& caller = callers[i];
       if (caller.isOpen() && caller.mustGo(now)) caller.end(random);
       if (!caller.isOpen()) {
-        caller.begin(address, random);
+        caller.call(server, random);
         ++begun_;
       }
       short events = 0;

@@ -7,15 +7,16 @@
 
 namespace quorvin::test {
 
-/// Sixty-four callers that stay, and a thousand more that try to get in, on a thread of their own. Some read
-/// as fast as they can, some slowly or not at all, some send garbage, messages without end or a flood of
-/// requests, some say nothing, and those who try go away again and again, with and without a reset.
+/// Sixty-four callers that would stay, and a thousand more that try to get in, from two hundred addresses and
+/// on a thread of their own. Those that the server turns out call again. Some read as fast as they can, some
+/// slowly or not at all, some send garbage, messages without end or a flood of requests, some say nothing,
+/// and those who try go away again and again, with and without a reset.
 class HostileCallers {
  public:
   static constexpr int kStaying = 64;
   static constexpr int kTrying = 1000;
 
-  /// Begins at once. `largeList` names a list of the server on this machine at `port`.
+  /// Starts at once. `largeList` names a list of the server on this machine at `port`.
   HostileCallers(std::uint16_t port, const char* largeList);
   ~HostileCallers();
   HostileCallers(const HostileCallers&) = delete;
@@ -24,7 +25,7 @@ class HostileCallers {
   /// Ends every connection; returns when that is done.
   void stop();
 
-  /// How often a connection was begun, and how often one stood; how many bytes came back.
+  /// How often somebody called and got through, and how many bytes came back.
   std::int64_t begun() const { return begun_; }
   std::int64_t connected() const { return connected_; }
   std::int64_t received() const { return received_; }

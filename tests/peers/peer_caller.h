@@ -4,6 +4,8 @@
 #include "peers/peer_program.h"
 #include "peers/server/peer_server.h"
 
+#include <QCoreApplication>
+#include <QHostAddress>
 #include <QTcpSocket>
 
 #include <stdexcept>
@@ -12,7 +14,9 @@ namespace quorvin::test {
 
 class PeerCaller {
  public:
-  explicit PeerCaller(quint16 port) {
+  /// Calls from the address `from` of this machine, when one is given.
+  explicit PeerCaller(quint16 port, const QHostAddress& from = {}) {
+    if (!from.isNull() && !socket_.bind(from)) throw std::runtime_error("the address cannot be used");
     socket_.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
     if (!eventually([this] { return socket_.state() == QAbstractSocket::ConnectedState; })) {
       throw std::runtime_error("the server could not be reached");
@@ -36,10 +40,23 @@ class PeerCaller {
     return receive(answerLength);
   }
 
-  /// What has come after nothing more came for a while.
-  QByteArray receiveForAWhile() {
-    QTest::qWait(150);
-    return socket_.readAll();
+  /// What still comes in answer to what was said before: all that comes before the answer to a greeting.
+  QByteArray receiveRest() {
+    send("Connecting from: x");
+    QByteArray bytes;
+    const bool isAnswered = eventually([&] {
+      bytes += socket_.readAll();
+      return bytes.endsWith("OK:");
+    });
+    if (!isAnswered) throw std::runtime_error("the server has not answered the greeting");
+    return bytes.chopped(3);
+  }
+
+  /// Sends a message that the server takes as one, apart from the next: on one machine it is there at once.
+  void sendAlone(const QByteArray& message) {
+    constexpr int kTurns = 5;
+    send(message);
+    for (int turn = 0; turn < kTurns; ++turn) QCoreApplication::processEvents();
   }
 
   bool waitForClose() {

@@ -6,7 +6,6 @@
 #include "peers/server/peer_server.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QFile>
 #include <QTimer>
 
@@ -69,10 +68,10 @@ class LoadWatch {
   double busyBefore_ = 0;
 };
 
-void letEventsRun(std::chrono::milliseconds duration) {
-  QEventLoop loop;
-  QTimer::singleShot(duration, &loop, &QEventLoop::quit);
-  loop.exec();
+void take(const HostileCallers& callers, PeerLoadFigures& figures) {
+  figures.begun = callers.begun();
+  figures.connected = callers.connected();
+  figures.received = callers.received();
 }
 
 /// Milliseconds until a usual caller had the small list; -1 when it never had.
@@ -88,7 +87,7 @@ double timeOfUsualCall(quint16 port, const QByteArray& expected) {
 
 }  // namespace
 
-PeerLoadFigures runPeerLoad(std::chrono::milliseconds duration) {
+PeerLoadFigures runPeerLoad(const std::function<bool(const PeerLoadFigures& soFar)>& isEnough) {
   PeerProgram program;
   const QByteArray small = smallArchive();
   program.addSource(QStringLiteral("large"), QByteArray(kLargeList, 'x'));
@@ -100,13 +99,17 @@ PeerLoadFigures runPeerLoad(std::chrono::milliseconds duration) {
   HostileCallers callers(server.port(), "large");
   {
     const LoadWatch watch(server, figures);
-    letEventsRun(duration);
+    const auto progress = [&callers] { return callers.received() + callers.connected(); };
+    eventually(
+        [&] {
+          take(callers, figures);
+          return isEnough(figures);
+        },
+        progress);
   }
   callers.stop();
   figures.serviceBack = timeOfUsualCall(server.port(), "List: small.zip" + small);
-  figures.begun = callers.begun();
-  figures.connected = callers.connected();
-  figures.received = callers.received();
+  take(callers, figures);
   return figures;
 }
 

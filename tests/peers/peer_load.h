@@ -1,8 +1,8 @@
 // How a server fares under a load of hostile callers.
 #pragma once
 
-#include <chrono>
 #include <cstdint>
+#include <functional>
 
 namespace quorvin::test {
 
@@ -21,8 +21,9 @@ struct PeerLoadFigures {
   std::int64_t received = 0;
 };
 
-/// Runs a server with a large and a small list in this process under the load of HostileCallers for
-/// `duration`. Needs an application object and some 2,200 descriptors.
-PeerLoadFigures runPeerLoad(std::chrono::milliseconds duration);
+/// Runs a server with a large and a small list in this process under the load of HostileCallers until
+/// `isEnough` of the figures so far, which it is asked again and again. Needs an application object and some
+/// 2,200 descriptors.
+PeerLoadFigures runPeerLoad(const std::function<bool(const PeerLoadFigures& soFar)>& isEnough);
 
 }  // namespace quorvin::test

@@ -41,20 +41,20 @@ TEST_F(PeerServerTest, HoldsAWholeConversation) {
   EXPECT_EQ(caller.ask("I AM: Eve 40000", 15), QByteArray("I AM: Bob 37622"));
   EXPECT_EQ(caller.ask("Req List Info:", 22), QByteArray("Lists:\r\nMusic\r\nFilms\r\n"));
   EXPECT_EQ(caller.ask("GetList: Music", 15 + archive.size()), "List: Music.zip" + archive);
-  EXPECT_EQ(caller.receiveForAWhile(), QByteArray());
+  EXPECT_EQ(caller.receiveRest(), QByteArray());
 }
 
 TEST_F(PeerServerTest, WithoutSourcesTheListsAreEmpty) {
   PeerCaller caller(server_.port());
   EXPECT_EQ(caller.ask("Req List Info:", 8), QByteArray("Lists:\r\n"));
-  EXPECT_EQ(caller.receiveForAWhile(), QByteArray());
+  EXPECT_EQ(caller.receiveRest(), QByteArray());
 }
 
 TEST_F(PeerServerTest, AnUnknownListGetsItsAnnouncementAndNothingElse) {
   program_.addSource(QStringLiteral("Music"));
   PeerCaller caller(server_.port());
   EXPECT_EQ(caller.ask("GetList: Films", 15), QByteArray("List: Films.zip"));
-  EXPECT_EQ(caller.receiveForAWhile(), QByteArray());
+  EXPECT_EQ(caller.receiveRest(), QByteArray());
   EXPECT_EQ(program_.folder.readFile(QStringLiteral(".zip")), QByteArray());
   EXPECT_EQ(caller.ask("Connecting from: x", 3), QByteArray("OK:"));
 }
@@ -104,7 +104,7 @@ TEST_F(PeerServerTest, KeywordsAreComparedExactly) {
 TEST_F(PeerServerTest, WhatArrivesAtOnceIsOneMessage) {
   PeerCaller caller(server_.port());
   EXPECT_EQ(caller.ask("I AM: Eve 1Req List Info:", 15), QByteArray("I AM: Bob 37622"));
-  EXPECT_EQ(caller.receiveForAWhile(), QByteArray());
+  EXPECT_EQ(caller.receiveRest(), QByteArray());
   EXPECT_EQ(caller.ask("GetList: AGetList: B", 21), QByteArray("List: AGetList: B.zip"));
 }
 
@@ -149,12 +149,9 @@ TEST_F(PeerServerTest, RequestsThatComeDuringAnArchiveAreAnsweredAfterIt) {
   program_.addSource(QStringLiteral("B"), "second");
   PeerCaller caller(server_.port());
   caller.socket().setReadBufferSize(1000);
-  caller.send("GetList: A");
-  QTest::qWait(50);
-  caller.send("GetList: B");
-  QTest::qWait(50);
-  caller.send("Connecting from: x");
-  QTest::qWait(50);
+  caller.sendAlone("GetList: A");
+  caller.sendAlone("GetList: B");
+  caller.sendAlone("Connecting from: x");
   caller.socket().setReadBufferSize(0);
   const QByteArray expected = "List: A.zip" + large + "List: B.zipsecondOK:";
   EXPECT_EQ(caller.receive(expected.size()) == expected, true);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 namespace quorvin {
@@ -27,8 +28,8 @@ int rowOfArchive(QByteArrayView listName, const ProgramState& state) {
   return row;
 }
 
-/// The file is made when it is missing, as it is part of the exchange that the look for an unknown list ends
-/// with opening one.
+/// A missing file is made: it is part of the exchange that the search for an unknown list ends with opening
+/// one.
 std::unique_ptr<SequentialFile> openOrMake(const QString& path) {
   const QFileInfo file(path);
   if (!file.exists())
@@ -54,18 +55,24 @@ QString archivePathOf(const ProgramState& state, int row) {
 
 PeerConnection::PeerConnection(std::unique_ptr<QTcpSocket> socket, const ProgramState& state,
                                const QLocale& locale, const PeerServerLimits& limits, QObject* parent)
-    : QObject(parent), socket_(std::move(socket)), state_(state), locale_(locale), limits_(limits) {
+    : QObject(parent),
+      socket_(std::move(socket)),
+      address_(socket_->peerAddress()),
+      state_(state),
+      locale_(locale),
+      limits_(limits) {
   // One byte more than a message may have, so that a longer one is seen as such.
   socket_->setReadBufferSize(limits_.messageBytes + 1);
   // An announcement is to leave before its archive, as a packet of its own.
   socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+  idle_.setObjectName(QStringLiteral("idle"));
   idle_.setSingleShot(true);
   connect(&idle_, &QTimer::timeout, this, &PeerConnection::end);
   connect(socket_.get(), &QTcpSocket::readyRead, this, &PeerConnection::IPServ_DataArrival);
   // Queued, so that other events have their turn between an announcement and its archive.
   connect(socket_.get(), &QTcpSocket::bytesWritten, this, &PeerConnection::goOn, Qt::QueuedConnection);
   connect(socket_.get(), &QTcpSocket::disconnected, this, &PeerConnection::end);
-  idle_.start(limits_.idle);
+  noteActivity();
 }
 
 PeerConnection::~PeerConnection() {
@@ -73,8 +80,13 @@ PeerConnection::~PeerConnection() {
   socket_->abort();
 }
 
-void PeerConnection::IPServ_DataArrival() {
+void PeerConnection::noteActivity() {
   idle_.start(limits_.idle);
+  lastActive_.start();
+}
+
+void PeerConnection::IPServ_DataArrival() {
+  noteActivity();
   const QByteArray message = socket_->readAll();
   if (message.isEmpty()) return;
   if (!mayWait(message)) return end();
@@ -93,7 +105,7 @@ bool PeerConnection::mayWait(const QByteArray& message) const {
 /// Does what comes next, once everything before has been handed to the system.
 void PeerConnection::goOn() {
   if (isOver_) return;
-  idle_.start(limits_.idle);
+  noteActivity();
   if (socket_->bytesToWrite() > 0) return;
   endOnFault([this] {
     if (archiveRow_) openArchive();
@@ -140,8 +152,7 @@ void PeerConnection::end() {
   Q_EMIT closed();
 }
 
-/// What a stranger's message brings about must not stop the user's work: it costs the stranger the
-/// connection.
+/// Whatever a stranger's message causes must not stop the user's work: it costs the stranger the connection.
 template <typename Action>
 void PeerConnection::endOnFault(Action&& action) {
   try {
@@ -152,19 +163,14 @@ void PeerConnection::endOnFault(Action&& action) {
   }
 }
 
-void PeerListener::setAccepting(bool accepting) {
-  // The toolkit accepts everything that waits in one go, whatever it is told meanwhile, unless no connection
-  // may be pending.
-  setMaxPendingConnections(accepting ? 1 : 0);
-  if (!isListening()) return;
-  if (accepting) {
-    resumeAccepting();
-  } else {
-    pauseAccepting();
-  }
+void PeerListener::acceptNext() {
+  setMaxPendingConnections(1);
+  if (isListening()) resumeAccepting();
 }
 
 void PeerListener::incomingConnection(qintptr descriptor) {
+  // The toolkit accepts everything that waits in one go, pause or not, unless no connection may be pending.
+  setMaxPendingConnections(0);
   Q_EMIT requested(descriptor);
 }
 
@@ -174,7 +180,7 @@ PeerServer::PeerServer(const ProgramState& state, const QLocale& locale, PeerSer
   listener_.setObjectName(QStringLiteral("IPServ"));
   listener_.setProxy(QNetworkProxy::NoProxy);
   acceptPause_.setSingleShot(true);
-  connect(&acceptPause_, &QTimer::timeout, this, &PeerServer::acceptAsFitting);
+  connect(&acceptPause_, &QTimer::timeout, &listener_, &PeerListener::acceptNext);
   connect(&listener_, &PeerListener::requested, this, &PeerServer::IPServ_ConnectionRequest);
   connect(&listener_, &PeerListener::acceptError, this, [this] { acceptPause_.start(limits_.acceptPause); });
 }
@@ -185,7 +191,7 @@ PeerServer::~PeerServer() {
 
 bool PeerServer::start(std::uint16_t port, const QHostAddress& address) {
   if (!listener_.listen(address, port)) return false;
-  acceptAsFitting();
+  listener_.acceptNext();
   return true;
 }
 
@@ -202,23 +208,33 @@ void PeerServer::stop() {
 
 void PeerServer::IPServ_ConnectionRequest(qintptr descriptor) {
   ++servConnCount_;
+  acceptPause_.start(0);
   auto socket = std::make_unique<QTcpSocket>();
   if (!socket->setSocketDescriptor(descriptor)) return;
+  makeRoomFor(socket->peerAddress());
   auto* connection = new PeerConnection(std::move(socket), state_, locale_, limits_, this);
   connections_.push_back(connection);
   connect(connection, &PeerConnection::closed, this, [this, connection] { remove(connection); });
   connect(connection, &PeerConnection::faulted, this, &PeerServer::faulted);
-  if (connectionCount() >= limits_.connections) acceptAsFitting();
+}
+
+void PeerServer::makeRoomFor(const QHostAddress& address) {
+  std::vector<PeerConnection*> rivals;
+  std::copy_if(connections_.begin(), connections_.end(), std::back_inserter(rivals),
+               [&address](const PeerConnection* connection) { return connection->address() == address; });
+  const bool addressIsFull = static_cast<int>(rivals.size()) >= limits_.connectionsOfAddress;
+  if (!addressIsFull && connectionCount() < limits_.connections) return;
+  if (!addressIsFull) rivals = connections_;
+  const auto longestIdle = std::min_element(rivals.begin(), rivals.end(),
+                                            [](const PeerConnection* one, const PeerConnection* other) {
+                                              return one->isIdleForLongerThan(*other);
+                                            });
+  (*longestIdle)->end();
 }
 
 void PeerServer::remove(PeerConnection* connection) {
   connections_.erase(std::find(connections_.begin(), connections_.end(), connection));
   connection->deleteLater();
-  if (!acceptPause_.isActive()) acceptAsFitting();
-}
-
-void PeerServer::acceptAsFitting() {
-  listener_.setAccepting(connectionCount() < limits_.connections);
 }
 
 }  // namespace quorvin

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QElapsedTimer>
 #include <QHostAddress>
 #include <QLocale>
 #include <QObject>
@@ -41,16 +42,18 @@ PeerAnswer answerTo(QByteArrayView message, const ProgramState& state, const QLo
 /// beyond the table, which is where the look for an unknown list stops when all 2000 rows are in use.
 QString archivePathOf(const ProgramState& state, int row);
 
-/// What a caller may take up.
+/// What callers may take up.
 struct PeerServerLimits {
+  /// Of all callers, and of those that call from one address.
   int connections = 64;
+  int connectionsOfAddress = 8;
   /// Without a byte read or written.
   std::chrono::milliseconds idle = std::chrono::minutes(10);
   qsizetype messageBytes = qsizetype{64} << 10;
   /// Messages that wait to be answered, in number and in bytes: a client sends no more than 1000 in its life.
   std::size_t waitingMessages = 1000;
   qsizetype waitingBytes = qsizetype{256} << 10;
-  /// Accepting stops for this long when the system has no descriptor left.
+  /// How long accepting pauses when the system has no descriptor left.
   std::chrono::milliseconds acceptPause = std::chrono::seconds(1);
 };
 
@@ -69,14 +72,19 @@ class PeerConnection : public QObject {
   /// Ends the connection at once.
   void end();
 
+  const QHostAddress& address() const { return address_; }
+  /// Whether nothing has been read or written here for longer than in `other`.
+  bool isIdleForLongerThan(const PeerConnection& other) const { return lastActive_ < other.lastActive_; }
+
  Q_SIGNALS:
-  /// The connection is over; sent once, and the last that comes.
+  /// The connection is over. Emitted once, after everything else.
   void closed();
   /// A message could not be answered. The connection is ended after it.
   void faulted(const QString& description);
 
  private:
   void IPServ_DataArrival();
+  void noteActivity();
   bool mayWait(const QByteArray& message) const;
   void goOn();
   void answerNext();
@@ -86,13 +94,15 @@ class PeerConnection : public QObject {
   void endOnFault(Action&& action);
 
   std::unique_ptr<QTcpSocket> socket_;
+  QHostAddress address_;
   const ProgramState& state_;
   QLocale locale_;
   PeerServerLimits limits_;
-  QTimer idle_;
+  QTimer idle_{this};
+  QElapsedTimer lastActive_;
   std::deque<QByteArray> waiting_;
   qsizetype waitingBytes_ = 0;
-  /// Set between an announcement and the opening of the archive announced.
+  /// Set from an announcement to the opening of the archive announced.
   std::optional<int> archiveRow_;
   /// Only while an archive is being sent.
   std::unique_ptr<SequentialFile> archive_;
@@ -100,15 +110,15 @@ class PeerConnection : public QObject {
   bool isOver_ = false;
 };
 
-/// The listening socket, element 0 of `IPServ`. A connection is accepted only while there is room for one
-/// more; the others wait in the system's queue.
+/// The listening socket, element 0 of `IPServ`. It accepts one connection, and then no more until it is told
+/// to; the others wait in the system's queue. So a flood of callers leaves room for other events.
 class PeerListener : public QTcpServer {
   Q_OBJECT
 
  public:
   using QTcpServer::QTcpServer;
-  /// Accepts from now on, or stops accepting.
-  void setAccepting(bool accepting);
+  /// Accepts the next connection as soon as there is one.
+  void acceptNext();
 
  Q_SIGNALS:
   void requested(qintptr descriptor);
@@ -117,7 +127,9 @@ class PeerListener : public QTcpServer {
   void incomingConnection(qintptr descriptor) override;
 };
 
-/// Tells callers which lists there are, and sends their archives. It listens only between start() and stop().
+/// Answers callers which lists there are, and sends their archives. It listens only between start() and
+/// stop(). A new caller is always let in: where its address or all callers together have as many connections
+/// as they may, the one that has been idle for longest is ended.
 class PeerServer : public QObject {
   Q_OBJECT
 
@@ -147,13 +159,14 @@ class PeerServer : public QObject {
 
  private:
   void IPServ_ConnectionRequest(qintptr descriptor);
+  void makeRoomFor(const QHostAddress& address);
   void remove(PeerConnection* connection);
-  void acceptAsFitting();
 
   const ProgramState& state_;
   QLocale locale_;
   PeerServerLimits limits_;
   PeerListener listener_;
+  /// From an accepted connection, or a failure, to when the next one is accepted.
   QTimer acceptPause_;
   /// Children of the server.
   std::vector<PeerConnection*> connections_;
