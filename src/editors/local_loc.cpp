@@ -97,19 +97,29 @@ void LocalLoc::Desc_Edited() {
 }
 
 void LocalLoc::LocDel_Click() {
-  select(entries_.deleteEntry(controls_.Online->selectedRow()));
+  const std::optional<int> above = entries_.deleteEntries(controls_.Online->selectedRows());
+  if (above) controls_.Online->selectRows({*above});
 }
 
 void LocalLoc::MvUp_Click() {
-  select(entries_.moveUp(controls_.Online->selectedRow()));
+  std::vector<int> rows = controls_.Online->selectedRows();
+  // The first entry goes first: when it cannot move, none does.
+  for (int& row : rows) {
+    const std::optional<int> above = entries_.moveUp(row);
+    if (!above) return;
+    row = *above;
+  }
+  controls_.Online->selectRows(rows);
 }
 
 void LocalLoc::MvDn_Click() {
-  select(entries_.moveDown(controls_.Online->selectedRow()));
-}
-
-void LocalLoc::select(std::optional<int> row) {
-  if (row) controls_.Online->selectRow(*row);
+  std::vector<int> rows = controls_.Online->selectedRows();
+  for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+    const std::optional<int> below = entries_.moveDown(*row);
+    if (!below) return;
+    *row = *below;
+  }
+  controls_.Online->selectRows(rows);
 }
 
 void LocalLoc::GetListName_Click() {

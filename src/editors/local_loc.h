@@ -62,7 +62,6 @@ class LocalLoc : public QDialog {
 
   void connectControls();
   void takeInitialSize();
-  void select(std::optional<int> row);
   void proposeDescription(const QString& folder);
   void showNotice();
   std::optional<QString> pickedPath(const FileQuestion& question);

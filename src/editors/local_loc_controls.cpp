@@ -105,20 +105,31 @@ SourceListView::SourceListView(QWidget* parent) : QTreeView(parent) {
   setAllColumnsShowFocus(true);
   // Of a path both ends matter.
   setTextElideMode(Qt::ElideMiddle);
-  setSelectionMode(QAbstractItemView::SingleSelection);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   // Tab leads to the next control, as everywhere in the dialog.
   setTabKeyNavigation(false);
   header()->setSectionsMovable(false);
 }
 
-int SourceListView::selectedRow() const {
-  const QModelIndexList rows = selectionModel()->selectedRows();
-  return rows.isEmpty() ? -1 : rows.first().row();
+std::vector<int> SourceListView::selectedRows() const {
+  std::vector<int> rows;
+  for (const QModelIndex& index : selectionModel()->selectedRows()) rows.push_back(index.row());
+  std::sort(rows.begin(), rows.end());
+  return rows;
 }
 
-void SourceListView::selectRow(int row) {
-  setCurrentIndex(model()->index(row, 0));
+void SourceListView::selectRows(const std::vector<int>& rows) {
+  if (rows.empty()) return;
+  QItemSelection selection;
+  for (auto start = rows.begin(); start != rows.end();) {
+    auto end = start + 1;
+    while (end != rows.end() && *end == *(end - 1) + 1) ++end;
+    selection.append(QItemSelectionRange(model()->index(*start, 0), model()->index(*(end - 1), 1)));
+    start = end;
+  }
+  selectionModel()->setCurrentIndex(model()->index(rows.front(), 0), QItemSelectionModel::NoUpdate);
+  selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
 void SourceListView::keyPressEvent(QKeyEvent* event) {

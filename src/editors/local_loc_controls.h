@@ -7,9 +7,11 @@
 #include <QSize>
 #include <QTreeView>
 
+#include <vector>
+
 namespace quorvin {
 
-/// The list of entries: one row is selected at most, and the keys that mean something to the dialog stay in
+/// The list of entries, any number of which may be selected. Keys that mean something to the dialog stay in
 /// it.
 class SourceListView : public QTreeView {
   Q_OBJECT
@@ -17,9 +19,10 @@ class SourceListView : public QTreeView {
  public:
   explicit SourceListView(QWidget* parent);
 
-  /// The selected row, counted from 0; -1 when none is selected.
-  int selectedRow() const;
-  void selectRow(int row);
+  /// The selected rows, counted from 0, in ascending order.
+  std::vector<int> selectedRows() const;
+  /// Selects just these rows, which are there and ascend, and goes to the first.
+  void selectRows(const std::vector<int>& rows);
 
  Q_SIGNALS:
   void deletePressed();

@@ -106,13 +106,20 @@ void SourceListModel::append(const SourceEntry& entry) {
   endInsertRows();
 }
 
-std::optional<int> SourceListModel::deleteEntry(int row) {
-  if (!has(row)) return std::nullopt;
-  beginRemoveRows({}, row, row);
-  entries_.erase(entries_.begin() + row);
-  endRemoveRows();
-  if (row == 0) return std::nullopt;
-  return row - 1;
+std::optional<int> SourceListModel::deleteEntries(const std::vector<int>& rows) {
+  if (rows.empty() || !has(rows.front()) || !has(rows.back())) return std::nullopt;
+  // Each run of neighbours at once, from the last one on, so that the numbers of those before it stay true.
+  for (auto end = rows.end(); end != rows.begin();) {
+    auto start = end - 1;
+    while (start != rows.begin() && *(start - 1) == *start - 1) --start;
+    const int last = *(end - 1);
+    beginRemoveRows({}, *start, last);
+    entries_.erase(entries_.begin() + *start, entries_.begin() + last + 1);
+    endRemoveRows();
+    end = start;
+  }
+  if (rows.front() == 0) return std::nullopt;
+  return rows.front() - 1;
 }
 
 std::optional<int> SourceListModel::moveUp(int row) {

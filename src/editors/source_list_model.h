@@ -57,11 +57,11 @@ class SourceListModel : public QAbstractTableModel {
   void fill(std::vector<SourceEntry> entries);
   void append(const SourceEntry& entry);
 
-  // The commands on the selected row. Each gives the row to select afterwards; nothing when the selection is
-  // left to the view. A row that is not there (none is selected) changes nothing.
+  // The commands on selected rows. Each returns the row to select afterwards; nothing when the selection is
+  // left to the view. A row that is not there changes nothing.
 
-  /// Removes the entry; the one above it should be selected.
-  std::optional<int> deleteEntry(int row);
+  /// Removes the entries in `rows`, which ascend. The one above the first of them should be selected.
+  std::optional<int> deleteEntries(const std::vector<int>& rows);
   /// Exchanges the entry with the one above, or below; the selection follows it. Nothing happens at the end
   /// of the list.
   std::optional<int> moveUp(int row);

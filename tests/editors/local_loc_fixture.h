@@ -66,7 +66,11 @@ class LocalLocTest : public testing::Test {
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
   }
   /// The selected row, counted from 1; 0 when there is none.
-  int selected() { return controls().Online->selectedRow() + 1; }
+  int selected() {
+    const std::vector<int> rows = controls().Online->selectedRows();
+    EXPECT_LE(rows.size(), 1U);
+    return rows.empty() ? 0 : rows.front() + 1;
+  }
 
   ProgramState state_;
   RecordingMessageBoxes messages_;

@@ -66,6 +66,40 @@ TEST_F(EditorKeys, DeleteInTheListDeletesTheSelectedEntry) {
   EXPECT_EQ(selected(), 2);
 }
 
+TEST_F(EditorKeys, DeleteInTheListDeletesAllSelectedEntries) {
+  select(2);
+  press(Qt::Key_Down, Qt::ShiftModifier);
+  press(Qt::Key_Delete);
+  EXPECT_EQ(edited(), Entries{threeFolders()[0]});
+  EXPECT_EQ(selected(), 1);
+}
+
+TEST_F(EditorKeys, AWholeListIsEmptiedByTwoKeys) {
+  Entries full;
+  for (int i = 0; i < 2000; ++i) full.push_back({QStringLiteral("Offline"), QString::number(100 + i)});
+  haveOnline(full);
+  select(1);
+  press(Qt::Key_A, Qt::ControlModifier);
+  press(Qt::Key_Delete);
+  EXPECT_EQ(edited(), Entries());
+}
+
+TEST_F(EditorKeys, AltWithUpAndDownMovesAllSelectedEntriesTogether) {
+  const Entries three = threeFolders();
+  select(2);
+  press(Qt::Key_Down, Qt::ShiftModifier);
+  press(Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(edited(), (Entries{three[1], three[2], three[0]}));
+  press(Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(edited(), (Entries{three[1], three[2], three[0]}));
+  EXPECT_EQ(controls().Online->selectedRows(), (std::vector{0, 1}));
+  press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(edited(), three);
+  press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(edited(), three);
+  EXPECT_EQ(controls().Online->selectedRows(), (std::vector{1, 2}));
+}
+
 TEST_F(EditorKeys, DeleteInABoxDeletesCharacters) {
   select(3);
   controls().Desc->setFocus();

@@ -74,7 +74,7 @@ TEST_F(ManySources, TheNextOneIsRefusedBeforeAnythingIsLost) {
 TEST_F(ManySources, TheOfflineListIsRefusedInTheSameWay) {
   haveOffline(sources(2000));
   inOfflineEditor([](LocalLoc& dialog) {
-    dialog.controls().Online->selectRow(0);
+    dialog.controls().Online->selectRows({0});
     click(dialog.controls().MvDn);
     type(dialog.controls().LocalDataFolder, QStringLiteral("C:\\"));
     click(dialog.controls().LocAdd);

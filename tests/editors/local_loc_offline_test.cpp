@@ -116,7 +116,7 @@ TEST_F(OfflineEditor, ACancelledOrFailedPickerChangesNothing) {
 
 TEST_F(OfflineEditor, SaveStoresTheOfflineListAndAsksNothing) {
   edit([](LocalLoc& dialog) {
-    dialog.controls().Online->selectRow(1);
+    dialog.controls().Online->selectRows({1});
     click(dialog.controls().MvUp);
     click(dialog.controls().SaveOffLine);
     EXPECT_FALSE(dialog.isVisible());
@@ -129,20 +129,20 @@ TEST_F(OfflineEditor, SaveStoresTheOfflineListAndAsksNothing) {
 
 TEST_F(OfflineEditor, TheCloseBoxCancelAndEscapeDiscardTheEdits) {
   edit([](LocalLoc& dialog) {
-    dialog.controls().Online->selectRow(1);
+    dialog.controls().Online->selectRows({1});
     click(dialog.controls().LocDel);
     ASSERT_NE(dialog.entries().entries(), twoLists());
     dialog.close();
     EXPECT_FALSE(dialog.isVisible());
   });
   edit([](LocalLoc& dialog) {
-    dialog.controls().Online->selectRow(1);
+    dialog.controls().Online->selectRows({1});
     click(dialog.controls().LocDel);
     click(dialog.controls().Cancel);
     EXPECT_FALSE(dialog.isVisible());
   });
   edit([](LocalLoc& dialog) {
-    dialog.controls().Online->selectRow(1);
+    dialog.controls().Online->selectRows({1});
     click(dialog.controls().LocDel);
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());

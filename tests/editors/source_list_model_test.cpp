@@ -57,13 +57,21 @@ TEST_F(SourceList, AppendsAtTheEndAndTakesDuplicates) {
 }
 
 TEST_F(SourceList, DeletingTheThirdRowSelectsTheSecond) {
-  EXPECT_EQ(list_.deleteEntry(2), 1);
+  EXPECT_EQ(list_.deleteEntries({2}), 1);
   EXPECT_EQ(descriptions(), words("one two"));
 }
 
 TEST_F(SourceList, DeletingTheFirstRowSelectsNothing) {
-  EXPECT_EQ(list_.deleteEntry(0), std::nullopt);
+  EXPECT_EQ(list_.deleteEntries({0}), std::nullopt);
   EXPECT_EQ(descriptions(), words("two three"));
+}
+
+TEST_F(SourceList, DeletesAnyRowsAtOnceAndSelectsTheOneAboveThem) {
+  list_.fill({entry("0"), entry("1"), entry("2"), entry("3"), entry("4"), entry("5"), entry("6")});
+  EXPECT_EQ(list_.deleteEntries({1, 2, 4, 6}), 0);
+  EXPECT_EQ(descriptions(), words("0 3 5"));
+  EXPECT_EQ(list_.deleteEntries({0, 1, 2}), std::nullopt);
+  EXPECT_EQ(list_.rowCount(), 0);
 }
 
 TEST_F(SourceList, MovingExchangesBothTextsAndFollowsTheEntry) {
@@ -81,7 +89,9 @@ TEST_F(SourceList, MovingBeyondAnEndDoesNothing) {
 }
 
 TEST_F(SourceList, WithoutASelectionNothingHappens) {
-  EXPECT_EQ(list_.deleteEntry(-1), std::nullopt);
+  EXPECT_EQ(list_.deleteEntries({}), std::nullopt);
+  EXPECT_EQ(list_.deleteEntries({-1}), std::nullopt);
+  EXPECT_EQ(list_.deleteEntries({3}), std::nullopt);
   EXPECT_EQ(list_.moveUp(-1), std::nullopt);
   EXPECT_EQ(list_.moveDown(-1), std::nullopt);
   EXPECT_EQ(descriptions(), words("one two three"));
