@@ -6,24 +6,17 @@
 
 namespace quorvin {
 
-namespace {
-
-constexpr int kMillisecondsBetweenTries = 200;
-
-}  // namespace
-
 PeerExchange::PeerExchange(ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
-                           std::function<bool()> mayAsk, PeerServerLimits serverLimits,
-                           PeerClientLimits clientLimits, QObject* parent)
+                           std::function<bool()> mayAsk, PeerPace pace, QObject* parent)
     : QObject(parent),
       state_(state),
       work_(work),
       messages_(messages),
       mayAsk_(std::move(mayAsk)),
-      sndQTime_(work, queue_),
-      sharing_(state, work, messages, locale, serverLimits),
-      client_(state, queue_, sndQTime_, locale, clientLimits) {
-  offer_.setInterval(kMillisecondsBetweenTries);
+      sndQTime_(work, queue_, pace.sending),
+      sharing_(state, work, messages, locale),
+      client_(state, queue_, sndQTime_, locale) {
+  offer_.setInterval(pace.offering);
   connect(&client_, &PeerClient::ended, this, &PeerExchange::conversationEnded);
   connect(&offer_, &QTimer::timeout, this, &PeerExchange::offerWhenPossible);
 }
@@ -55,8 +48,10 @@ void PeerExchange::offerWhenPossible() {
   if (!outcome_ || !mayAsk_()) return;
   std::optional<Job> unpacking = work_.start(JobKind::Unpacking);
   if (!unpacking) return;
+  // Events run from here on, and may come here again.
+  if (!outcome_->listings) outcome_->listings = countListings(outcome_->received, *unpacking);
+  if (!mayAsk_()) return;
   offer_.stop();
-  // Events run meanwhile, and may come here again.
   const PeerOutcome outcome = *std::exchange(outcome_, std::nullopt);
   const bool added = offerReceivedLists(outcome, state_, *unpacking, messages_, unpackingIn(*unpacking));
   unpacking.reset();

@@ -14,35 +14,43 @@
 #include <QString>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
 namespace quorvin {
 
-/// Sharing and getting, which go on beside each other, and the timer `SndQTime`. One object for the program.
-/// Neither goes on at first. User-interface thread only.
+/// How often something is due; a test may be in a hurry.
+struct PeerPace {
+  /// Between two ticks of `SndQTime`.
+  std::chrono::milliseconds sending = SendTimer::kInterval;
+  /// Between two attempts to offer what came, while the user must not be asked.
+  std::chrono::milliseconds offering = std::chrono::milliseconds(200);
+};
+
+/// Sharing and getting, which may go on at the same time, and the timer `SndQTime`. One object for the
+/// program. Both are off at first. User-interface thread only.
 class PeerExchange : public QObject {
   Q_OBJECT
 
  public:
   /// `state`, `work` and `messages` must outlive the object. `mayAsk` says whether the user may be asked
-  /// something now, that is no dialog is open: one might write back sources as they were before lists were
-  /// added.
+  /// something now, that is, whether no dialog is open: one might write back the sources as they were before
+  /// lists were added.
   PeerExchange(ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
-               std::function<bool()> mayAsk, PeerServerLimits serverLimits = {},
-               PeerClientLimits clientLimits = {}, QObject* parent = nullptr);
+               std::function<bool()> mayAsk, PeerPace pace = {}, QObject* parent = nullptr);
 
   /// The timer that ends the program too; see SendTimer::setQuit().
   SendTimer& SndQTime() { return sndQTime_; }
   ListSharing& sharing() { return sharing_; }
   PeerClient& client() { return client_; }
 
-  /// Gets all lists of the peer that the user has named, "host" or "host:port". A name that makes no sense is
-  /// told, and so is that lists are being got already, or have come and are not dealt with yet.
+  /// Gets all lists of the peer that the user has named, "host" or "host:port". A message says so when the
+  /// name makes no sense, or when other lists are still being received or waiting to be offered.
   void getLists(const QString& peer);
 
  Q_SIGNALS:
-  /// Lists are being got; `peer` as it may be shown.
+  /// A conversation has started; `peer` as it may be shown.
   void gettingBegan(const QString& peer);
   /// No more lists are coming. What came is reported and offered next.
   void gettingEnded();
@@ -66,7 +74,7 @@ class PeerExchange : public QObject {
   QTimer offer_;
   /// What came of a conversation, until it is reported and offered.
   std::optional<PeerOutcome> outcome_;
-  /// From the first word to the peer until what came has been offered.
+  /// From the first message to the peer until what came has been offered.
   std::optional<Job> getting_;
 };
 

@@ -138,7 +138,7 @@ TEST_F(OpenedWindows, TheOfflineLayoutDoesNotReachIntoALaterOpening) {
 
 TEST_F(OpenedWindows, EverySourceEditorStartsFromTheTable) {
   addLocal([](LocalLoc& dialog) {
-    dialog.controls().Online->selectRow(2);
+    dialog.controls().Online->selectRows({2});
     click(dialog.controls().LocDel);
   });
   addLocal([](LocalLoc& dialog) { EXPECT_EQ(dialog.entries().entries(), threeFolders()); });
@@ -146,7 +146,7 @@ TEST_F(OpenedWindows, EverySourceEditorStartsFromTheTable) {
 
 TEST_F(OpenedWindows, UnloadingClosesTheSourceEditorWithoutSaving) {
   addLocal([this](LocalLoc& dialog) {
-    dialog.controls().Online->selectRow(2);
+    dialog.controls().Online->selectRows({2});
     click(dialog.controls().LocDel);
     windows_.unloadSources();
     EXPECT_FALSE(dialog.isVisible());

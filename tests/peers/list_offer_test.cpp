@@ -1,6 +1,7 @@
 // Telling what came from a peer, and adding it to the offline sources.
 #include "peers/client/list_offer.h"
 
+#include "archive/archive_maker.h"
 #include "faults/runtime_fault.h"
 #include "peers/peer_program.h"
 #include "state/source_list_file.h"
@@ -40,7 +41,7 @@ class PeerOfferTest : public testing::Test {
     return program_.folder.pathOf(QStringLiteral("Received/nas/") + name);
   }
   std::string told(std::size_t index) const { return program_.messages.informed.at(index).toStdString(); }
-  std::string asked() const { return program_.messages.asked.at(0).toStdString(); }
+  std::string asked(std::size_t index = 0) const { return program_.messages.asked.at(index).toStdString(); }
 
   PeerProgram program_;
   PeerOutcome outcome_{QStringLiteral("nas"), {}, {}, false};
@@ -73,6 +74,57 @@ TEST_F(PeerOfferTest, AddsListsToTheOfflineSources) {
   EXPECT_EQ(program_.state.OfflineSources.path(1), path(QStringLiteral("Music/Music.txt")));
   EXPECT_EQ(program_.state.OfflineSources.path(2), path(QStringLiteral("Films/Films.txt")));
   EXPECT_TRUE(program_.messages.informed.empty());
+}
+
+TEST_F(PeerOfferTest, TheQuestionSaysHowManyListingsThereAreAndHowMuchRoom) {
+  receive(QStringLiteral("Music"), {QStringLiteral("Music.txt")});
+  outcome_.listings = 2500;
+  offer(false);
+  receive(QStringLiteral("Films"), {QStringLiteral("Films.txt")});
+  outcome_.listings = 1;
+  offer(false);
+  program_.state.OfflineSourceCount = 1999;
+  outcome_.listings = 2;
+  offer(false);
+  program_.state.OfflineSourceCount = 2000;
+  offer(false);
+  EXPECT_THAT(asked(0), HasSubstr("\r\n\r\nThe archive holds 2500 listings. There is room for 2000 more "
+                                  "offline sources.\r\n\r\nAdd the received lists"));
+  EXPECT_THAT(asked(1), HasSubstr("\r\n\r\nThe archives hold 1 listing.\r\n\r\nAdd the received lists"));
+  EXPECT_THAT(asked(2),
+              HasSubstr("The archives hold 2 listings. There is room for 1 more offline source.\r\n"));
+  EXPECT_THAT(asked(3), HasSubstr(" There is room for 0 more offline sources.\r\n"));
+}
+
+TEST_F(PeerOfferTest, TheUsualQuestionSaysNothingOfListings) {
+  receive(QStringLiteral("Music"), {QStringLiteral("Music.txt")});
+  outcome_.listings = 1;
+  offer(false);
+  EXPECT_THAT(asked(0), testing::Not(HasSubstr("listing")));
+  EXPECT_THAT(asked(0), testing::Not(HasSubstr("room")));
+}
+
+TEST_F(PeerOfferTest, CountsTheListingsThatUnpackingWouldGive) {
+  const auto put = [this](const QString& name, const std::vector<MadeEntry>& entries) {
+    outcome_.received.push_back({name, program_.folder.writeFile(name, archiveOf(entries))});
+  };
+  MadeEntry folder;
+  folder.name = "folder.txt/";
+  folder.mode = kFolderMode;
+  const auto file = [](const QByteArray& name) {
+    MadeEntry entry;
+    entry.name = name;
+    entry.content = "x";
+    return entry;
+  };
+  put(QStringLiteral("a.zip"),
+      {file("a.txt"), file("sub/B.TXT"), file("c.doc"), file(".hidden.txt"), file(".sub/d.txt"), folder});
+  EXPECT_EQ(countListings(outcome_.received, job()), 2);
+  // What would lead out of the folder is not unpacked at all.
+  put(QStringLiteral("b.zip"), {file("a.txt"), file("../b.txt")});
+  outcome_.received.push_back(
+      {QStringLiteral("c"), program_.folder.writeFile(QStringLiteral("c.zip"), "no")});
+  EXPECT_EQ(countListings(outcome_.received, job()), 2);
 }
 
 TEST_F(PeerOfferTest, TheListsOfAPeerAreReplacedByItsNewOnes) {

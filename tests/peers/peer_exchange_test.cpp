@@ -1,12 +1,14 @@
 // Two programs, each with its own state and folder, that exchange lists.
 #include "peers/peer_exchange.h"
 
+#include "archive/archive_maker.h"
 #include "peers/peer_program.h"
 #include "peers/scripted_server.h"
 #include "search/hit_table.h"
 #include "search/search_run.h"
 #include "support/listing_lines.h"
 #include "support/sweep.h"
+#include "support/timer_tick.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,7 +24,13 @@ using testing::HasSubstr;
 
 /// A whole program, but for its windows.
 struct ExchangingProgram : PeerProgram {
-  ExchangingProgram() : exchange(state, work, messages, QLocale::c(), [this] { return mayAsk; }) {
+  ExchangingProgram()
+      : exchange(state, work, messages, QLocale::c(),
+                 [this] {
+                   ++attempts;
+                   return mayAsk;
+                 },
+                 {std::chrono::milliseconds(1), std::chrono::milliseconds(1)}) {
     QObject::connect(&exchange, &PeerExchange::gettingBegan, &exchange, [this] { ++begins; });
     QObject::connect(&exchange, &PeerExchange::gettingEnded, &exchange, [this] { ++ends; });
     QObject::connect(&exchange, &PeerExchange::offlineSourcesAdded, &exchange, [this] { ++additions; });
@@ -39,7 +47,14 @@ struct ExchangingProgram : PeerProgram {
     return names;
   }
 
+  /// What came could be offered now, and at the last attempts has not been.
+  void waitForAttempts() {
+    const int before = attempts;
+    ASSERT_EVENTUALLY(attempts >= before + 3);
+  }
+
   bool mayAsk = true;
+  int attempts = 0;
   int begins = 0;
   int ends = 0;
   int additions = 0;
@@ -103,6 +118,41 @@ TEST_F(PeerExchangeTest, ALargeArchiveIsTheSameOnBothSides) {
   EXPECT_EQ(client_.folder.readFile(receivedName(QStringLiteral("Noise.zip"), port)) == sent, true);
 }
 
+TEST_F(PeerExchangeTest, SendsTenTimesASecondAndOffersFiveTimes) {
+  EXPECT_EQ(PeerPace{}.sending, std::chrono::milliseconds(100));
+  EXPECT_EQ(PeerPace{}.offering, std::chrono::milliseconds(200));
+  EXPECT_EQ(timerOf(client_.exchange.SndQTime(), QStringLiteral("SndQTime")).interval(), 1);
+}
+
+TEST_F(PeerExchangeTest, TheQuestionSaysHowManyListingsThereAreAndHowMuchRoom) {
+  std::vector<MadeEntry> entries(2500);
+  for (std::size_t i = 0; i < entries.size(); ++i) entries[i].name = QByteArray::number(i) + ".txt";
+  server_.addSource(QStringLiteral("Music"), archiveOf(entries));
+  client_.state.OfflineSourceCount = 1990;
+  const quint16 port = share();
+  client_.messages.answers = {true};
+  client_.getFrom(port);
+  ASSERT_TRUE(eventually([&] { return client_.additions == 1; }));
+  EXPECT_THAT(client_.messages.asked[0].toStdString(),
+              HasSubstr("\r\n\r\nThe archive holds 2500 listings. There is room for 10 more offline "
+                        "sources.\r\n\r\nAdd the received lists"));
+  EXPECT_EQ(client_.state.OfflineSourceCount, 2000);
+}
+
+TEST_F(PeerExchangeTest, ADialogThatOpensWhileListingsAreCountedIsNotDisturbed) {
+  server_.addListedSource(QStringLiteral("Music"), "x");
+  const quint16 port = share();
+  client_.messages.answers = {true};
+  client_.display.onEvents = [this] {
+    if (client_.attempts == 1) client_.mayAsk = false;
+  };
+  client_.getFrom(port);
+  ASSERT_TRUE(eventually([&] { return client_.attempts >= 3; }));
+  EXPECT_TRUE(client_.messages.asked.empty());
+  client_.mayAsk = true;
+  EXPECT_TRUE(eventually([&] { return client_.additions == 1; }));
+}
+
 TEST_F(PeerExchangeTest, AServerWithoutListsIsTold) {
   const quint16 port = share();
   client_.getFrom(port);
@@ -160,9 +210,9 @@ TEST_F(PeerExchangeTest, ReceivedListsWaitForSearchRefreshAndUpdate) {
   ASSERT_TRUE(refresh && search);
   client_.getFrom(port);
   ASSERT_TRUE(eventually([&] { return client_.ends == 1; }));
-  QTest::qWait(500);
+  client_.waitForAttempts();
   search.reset();
-  QTest::qWait(500);
+  client_.waitForAttempts();
   EXPECT_TRUE(client_.messages.asked.empty());
   client_.getFrom(port);
   EXPECT_EQ(client_.messages.informed,
@@ -179,7 +229,7 @@ TEST_F(PeerExchangeTest, TheUserIsNotAskedWhileADialogIsOpen) {
   client_.messages.answers = {true};
   client_.getFrom(port);
   ASSERT_TRUE(eventually([&] { return client_.ends == 1; }));
-  QTest::qWait(500);
+  client_.waitForAttempts();
   EXPECT_TRUE(client_.messages.asked.empty());
   client_.mayAsk = true;
   EXPECT_TRUE(eventually([&] { return client_.additions == 1; }));
@@ -193,7 +243,7 @@ TEST_F(PeerExchangeTest, AClosingProgramAsksNothing) {
   ASSERT_TRUE(eventually([&] { return client_.ends == 1; }));
   client_.state.QuitPending = true;
   client_.mayAsk = true;
-  QTest::qWait(500);
+  client_.waitForAttempts();
   EXPECT_TRUE(client_.messages.asked.empty());
 }
 

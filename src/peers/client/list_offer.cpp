@@ -1,5 +1,6 @@
 #include "peers/client/list_offer.h"
 
+#include "archive/archive_plan.h"
 #include "archive/archive_unpacking.h"
 #include "faults/runtime_fault.h"
 #include "files/path_style.h"
@@ -10,6 +11,8 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
+
+#include <algorithm>
 
 namespace quorvin {
 
@@ -25,19 +28,66 @@ QString folderOfFirst(const PeerOutcome& outcome) {
   return QDir::toNativeSeparators(QFileInfo(outcome.received.front().archivePath).absolutePath());
 }
 
-void tellNothingCame(const PeerOutcome& outcome, MessageBoxes& messages) {
+void showThatNothingCame(const PeerOutcome& outcome, MessageBoxes& messages) {
   QString text = QStringLiteral("No lists came from %1.").arg(shownPeerText(outcome.peer));
   if (!outcome.problems.isEmpty()) text += kLineEnd + kLineEnd + shownProblems(outcome.problems);
   messages.inform(text);
 }
 
-QString question(const PeerOutcome& outcome) {
+bool isListing(const QString& fileName) {
+  return fileName.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive);
+}
+
+/// Hidden files are no listings either.
+bool isListing(const PlannedEntry& entry) {
+  const QStringList& path = entry.place.path;
+  const bool isHidden =
+      std::any_of(path.begin(), path.end(), [](const QString& name) { return name.startsWith(u'.'); });
+  return !entry.place.isFolder && !isHidden && isListing(path.last());
+}
+
+std::int64_t listingsInArchive(const QString& archivePath, const Job& job) {
+  const auto pause = [&job](int) {
+    job.letEventsRun();
+    return job.isClosing();
+  };
+  const ArchiveLimits limits;
+  try {
+    const ArchiveReader archive(archivePath, -1, limits.entries, pause);
+    const std::vector<PlannedEntry> entries = planOf(archive, limits).entries;
+    return std::count_if(entries.begin(), entries.end(),
+                         [](const PlannedEntry& entry) { return isListing(entry); });
+  } catch (const ArchiveError&) {
+    // What is wrong with it is shown when it is to be unpacked.
+  } catch (const ArchiveStopped&) {
+    // The program is closing.
+  }
+  return 0;
+}
+
+/// What the user gets for a Yes, where it is not what the names of the lists promise.
+QString contentOf(const PeerOutcome& outcome, int room) {
+  const std::int64_t listings = outcome.listings.value_or(static_cast<std::int64_t>(outcome.received.size()));
+  if (listings == static_cast<std::int64_t>(outcome.received.size()) && listings <= room) return {};
+  const QString archives = outcome.received.size() == 1 ? QStringLiteral("The archive holds ")
+                                                        : QStringLiteral("The archives hold ");
+  QString text = archives + (listings == 1 ? QStringLiteral("1 listing.")
+                                           : QStringLiteral("%1 listings.").arg(listings));
+  if (listings > room) {
+    text += room == 1 ? QStringLiteral(" There is room for 1 more offline source.")
+                      : QStringLiteral(" There is room for %1 more offline sources.").arg(room);
+  }
+  return text + kLineEnd + kLineEnd;
+}
+
+QString question(const PeerOutcome& outcome, int room) {
   QString text = QStringLiteral("%1 came from %2 into the folder")
                      .arg(countOfLists(outcome.received.size()), shownPeerText(outcome.peer)) +
                  kLineEnd + folderOfFirst(outcome) + kLineEnd + kLineEnd;
   if (!outcome.problems.isEmpty()) text += shownProblems(outcome.problems) + kLineEnd + kLineEnd;
-  return text + QStringLiteral(
-                    "Add the received lists to the offline sources, so that the next search includes them?");
+  return text + contentOf(outcome, room) +
+         QStringLiteral(
+             "Add the received lists to the offline sources, so that the next search includes them?");
 }
 
 QString leftOut(std::size_t count) {
@@ -101,7 +151,7 @@ class ListAdder {
     QDirIterator files(folder, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
     while (files.hasNext()) {
       const QString path = files.next();
-      if (path.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) listings += path;
+      if (isListing(path)) listings += path;
     }
     listings.sort();
     return listings;
@@ -116,14 +166,14 @@ class ListAdder {
     QString description = shownPeerText(name) + QStringLiteral(" from ") + peer_;
     description.replace(u'"', u'\'');
     const int row = rowFor(description);
-    if (row > SourceTable::kLastRow) return tellFull();
+    if (row > SourceTable::kLastRow) return noteFull();
     state_.OfflineSources.set(row, description, QDir::toNativeSeparators(path));
     state_.OfflineSourceCount = qMax(state_.OfflineSourceCount, row);
     setRows_.insert(row);
   }
 
-  /// That of the same list of the same peer as it came earlier, which the new one replaces; else the next
-  /// free one. Lists of one conversation do not replace each other.
+  /// The row of the same list of the same peer from an earlier conversation, which the new one replaces; else
+  /// the next free row. Lists of one conversation do not replace each other.
   int rowFor(const QString& description) const {
     for (int row = 1; row <= state_.OfflineSourceCount; ++row) {
       const bool isOfPeer = state_.OfflineSources.path(row).startsWith(folder_);
@@ -133,7 +183,7 @@ class ListAdder {
     return state_.OfflineSourceCount + 1;
   }
 
-  void tellFull() {
+  void noteFull() {
     const QString text = QStringLiteral(
                              "There is no room for more than %1 offline sources. The received lists stay "
                              "unpacked beside its archives.")
@@ -165,16 +215,27 @@ UnpackArchive unpackingIn(Job& job) {
   };
 }
 
+std::int64_t countListings(const std::vector<ReceivedList>& lists, const Job& job) {
+  std::int64_t count = 0;
+  for (const ReceivedList& list : lists) {
+    job.letEventsRun();
+    if (job.isClosing()) break;
+    count += listingsInArchive(list.archivePath, job);
+  }
+  return count;
+}
+
 bool offerReceivedLists(const PeerOutcome& outcome, ProgramState& state, Job& job, MessageBoxes& messages,
                         const UnpackArchive& unpack) {
   if (outcome.received.empty()) {
-    if (!outcome.isCancelled || !outcome.problems.isEmpty()) tellNothingCame(outcome, messages);
+    if (!outcome.isCancelled || !outcome.problems.isEmpty()) showThatNothingCame(outcome, messages);
     return false;
   }
-  if (!messages.askYesNo(question(outcome))) return false;
+  const int room = SourceTable::kLastRow - state.OfflineSourceCount;
+  if (!messages.askYesNo(question(outcome, room))) return false;
   const QString folder = withTrailingSeparator(folderOfFirst(outcome), nativePathStyle());
   ListAdder adder(shownPeerText(outcome.peer), folder, state, job);
-  // A stop request that was left over is not meant for this, nor this one's for what comes after it.
+  // A stop request from before is not meant for this job, nor is one of this job meant for the next.
   job.dropStopRequest();
   job.show();
   adder.addAll(outcome.received, unpack);

@@ -42,6 +42,7 @@ PeerClient::PeerClient(ProgramState& state, SendQueue& queue, SendTimer& timer, 
   connect(&silence_, &QTimer::timeout, this, &PeerClient::silent);
   connect(&restPiece_, &QTimer::timeout, this, &PeerClient::feedRestPiece);
   connect(&progressPace_, &QTimer::timeout, this, &PeerClient::progressed);
+  silence_.setObjectName(QStringLiteral("silence"));
   for (QTimer* once : {&settle_, &stall_, &silence_, &progressPace_}) once->setSingleShot(true);
 }
 
@@ -88,7 +89,7 @@ void PeerClient::IPClient_DataArrival() {
   if (!isRunning() || rest_) return;
   const QByteArray bytes = IPClient_.readAll();
   if (bytes.isEmpty()) return;
-  // Whatever has come is taken for the reply to what was sent last.
+  // Whatever has come counts as the reply to what was sent last.
   queue_.replyArrived();
   feed(bytes);
   if (isRunning() && !queue_.isDrained()) sndQTime_.enable();
@@ -111,7 +112,7 @@ void PeerClient::noteAnnounced() {
 }
 
 void PeerClient::connectionFailed() {
-  // The end of a connection that stood is told by connectionClosed().
+  // How an established connection ends is the business of connectionClosed().
   if (!isRunning() || IPClient_.state() == QAbstractSocket::ConnectedState) return;
   if (IPClient_.error() == QAbstractSocket::RemoteHostClosedError) return;
   if (stream_->hasLists()) return;
@@ -129,14 +130,14 @@ void PeerClient::connectionClosed() {
 /// Nothing more will come.
 void PeerClient::endStream() {
   if (!succeeds([this] { stream_->end(); })) return;
-  if (receiver_->hasRest()) return beginRest();
+  if (receiver_->hasRest()) return startRest();
   if (stream_->isComplete()) return finish();
   finish(isClosed_ ? QStringLiteral("The peer ended the connection before everything had arrived.")
                    : QStringLiteral("The peer has stopped sending before everything had arrived."));
 }
 
-/// What stands in a broken archive after its end is fed again, piece by piece, since it may be long.
-void PeerClient::beginRest() {
+/// What follows a broken archive in its file is fed again, piece by piece, since it may be long.
+void PeerClient::startRest() {
   succeeds([this] {
     rest_ = receiver_->takeRest();
     restFile_ = std::make_unique<RandomAccessFile>(rest_->path);

@@ -23,28 +23,30 @@
 
 namespace quorvin {
 
-/// How long a peer may say nothing, and how much it may say.
+/// How long a peer may be silent, and how much it may send.
 struct PeerClientLimits {
   /// After this long without data, what may be the start of an answer is taken for all of it.
   std::chrono::milliseconds settle = std::chrono::seconds(2);
   /// After this long, an archive that seems to have broken off is given up for those after it.
   std::chrono::milliseconds stall = std::chrono::seconds(15);
-  /// After this long the conversation ends; for connecting too.
+  /// After this long the conversation ends. The limit for connecting, too.
   std::chrono::milliseconds silence = std::chrono::seconds(60);
   std::int64_t archiveBytes = std::int64_t{4} << 30;
 };
 
 /// What came of a conversation.
 struct PeerOutcome {
-  /// The peer as the user named it.
+  /// The peer as the user has named it.
   QString peer;
   std::vector<ReceivedList> received;
-  /// What went wrong, each a sentence; may be there although lists have come.
+  /// What went wrong, each a sentence. There may be problems although lists have come.
   QStringList problems;
   bool isCancelled = false;
+  /// How many listings the received archives hold; nothing before they have been counted.
+  std::optional<std::int64_t> listings = std::nullopt;
 };
 
-/// `IPClient`: one conversation at a time. It sends one message after the other through the send queue and
+/// `IPClient`: one conversation at a time. It sends one message after another through the send queue, and
 /// keeps every archive that comes in `LocalFolder` + "Received" + separator + peer + separator.
 class PeerClient : public QObject {
   Q_OBJECT
@@ -55,16 +57,16 @@ class PeerClient : public QObject {
              PeerClientLimits limits = {}, QObject* parent = nullptr);
   ~PeerClient() override;
 
-  /// Begins a conversation; ended() tells its end. Does nothing while one goes on.
+  /// Starts a conversation; ended() is emitted at its end. Does nothing during another one.
   void start(const HostAndPort& peer);
-  /// Ends the conversation at once, without the archive that is coming. Those that have come stay.
+  /// Ends the conversation at once. The archive that is coming is dropped; those that have come stay.
   void cancel();
 
   bool isRunning() const { return receiver_ != nullptr; }
-  /// As long as it is running.
+  /// Only while it is running.
   const PeerFigures& figures() const { return receiver_->figures(); }
 
-  /// The identity that a server announced last, the address it had then, and the archive announced last.
+  /// The identity last announced by a server, that server's address, and the archive last announced.
   const QString& PeerIdent() const { return peerIdent_; }
   const QString& PeerAddress() const { return peerAddress_; }
   const QString& PeerListName() const { return peerListName_; }
@@ -83,7 +85,7 @@ class PeerClient : public QObject {
   void feed(QByteArrayView bytes);
   void noteAnnounced();
   void endStream();
-  void beginRest();
+  void startRest();
   void feedRestPiece();
   void endRest();
   void dropRest();
@@ -104,14 +106,14 @@ class PeerClient : public QObject {
   QTcpSocket IPClient_;
   QTimer settle_;
   QTimer stall_;
-  QTimer silence_;
+  QTimer silence_{this};
   QTimer restPiece_;
   QTimer progressPace_;
   HostAndPort peer_;
   /// Only during a conversation.
   std::unique_ptr<ListReceiver> receiver_;
   std::unique_ptr<AnswerStream> stream_;
-  /// What is read of an archive that broke off, before anything else is taken.
+  /// The part of an archive that broke off which is read again before anything else is taken.
   std::optional<ListReceiver::Rest> rest_;
   std::unique_ptr<RandomAccessFile> restFile_;
   bool isClosed_ = false;

@@ -33,10 +33,10 @@ void SendQueue::abandon() {
   replyArrived();
 }
 
-SendTimer::SendTimer(const Work& work, SendQueue& queue, QObject* parent)
+SendTimer::SendTimer(const Work& work, SendQueue& queue, std::chrono::milliseconds interval, QObject* parent)
     : QObject(parent), work_(work), queue_(queue) {
   timer_.setObjectName(QStringLiteral("SndQTime"));
-  timer_.setInterval(kInterval);
+  timer_.setInterval(interval);
   connect(&timer_, &QTimer::timeout, this, &SendTimer::SndQTime_Timer);
 }
 

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <utility>
@@ -24,8 +25,8 @@ struct SendQueueEntry {
   std::int32_t State = 0;
 };
 
-/// The send queue of the whole program: entries 1 to 1000, entry 0 being one that nothing is awaited for. It
-/// is never wrapped or emptied, so a run of the program can send 1000 messages.
+/// The send queue of the whole program: entries 1 to 1000. Entry 0 stands for nothing sent and nothing
+/// awaited. The queue is never wrapped or emptied, so one run of the program can send 1000 messages.
 class SendQueue {
  public:
   static constexpr std::int32_t kLastEntry = 1000;
@@ -50,8 +51,8 @@ class SendQueue {
   const SendQueueEntry& takeNext();
   /// The reply to the entry taken last has come.
   void replyArrived();
-  /// Passes over everything that has not been sent, and awaits nothing: the conversation is over, and the
-  /// next peer must not be sent what was meant for this one.
+  /// Skips everything that has not been sent, and awaits nothing: the conversation is over, and the next peer
+  /// must not get what was meant for this one.
   void abandon();
 
  private:
@@ -62,15 +63,16 @@ class SendQueue {
 
 /// `SndQTime`, ticking every 100 ms while it is enabled; at first it is not. Each tick sends at most one
 /// message, and none while the reply to the last one is awaited. When the program is closing it sends nothing
-/// more, waits until no refresh is running, and then has the program end.
+/// more, waits until no refresh is running, and then ends the program.
 class SendTimer : public QObject {
   Q_OBJECT
 
  public:
-  static constexpr int kInterval = 100;
+  static constexpr std::chrono::milliseconds kInterval{100};
 
   /// `work` and `queue` must outlive the timer.
-  SendTimer(const Work& work, SendQueue& queue, QObject* parent = nullptr);
+  SendTimer(const Work& work, SendQueue& queue, std::chrono::milliseconds interval = kInterval,
+            QObject* parent = nullptr);
 
   /// What sends a message to the peer.
   void setSender(std::function<void(const QByteArray&)> send) { send_ = std::move(send); }
@@ -78,7 +80,7 @@ class SendTimer : public QObject {
   /// program.
   void setQuit(std::function<void()> quit) { quit_ = std::move(quit); }
 
-  /// Ticks from now on; a timer that ticks already keeps its pace.
+  /// Ticks from now on; a timer that is already ticking keeps its pace.
   void enable();
   void disable() { timer_.stop(); }
   bool isEnabled() const { return timer_.isActive(); }
@@ -89,7 +91,7 @@ class SendTimer : public QObject {
 
   const Work& work_;
   SendQueue& queue_;
-  QTimer timer_;
+  QTimer timer_{this};
   std::function<void(const QByteArray&)> send_;
   std::function<void()> quit_;
 };

@@ -36,8 +36,8 @@ QStringList ownNetworkAddresses() {
 }  // namespace
 
 ListSharing::ListSharing(const ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
-                         PeerServerLimits limits, QObject* parent)
-    : QObject(parent), state_(state), work_(work), messages_(messages), server_(state, locale, limits) {}
+                         QObject* parent)
+    : QObject(parent), state_(state), work_(work), messages_(messages), server_(state, locale) {}
 
 bool ListSharing::start(std::uint16_t port, const QHostAddress& address) {
   if (isSharing()) return true;
@@ -50,7 +50,7 @@ bool ListSharing::start(std::uint16_t port, const QHostAddress& address) {
   }
   const bool waits = work_.answerTo(JobKind::Packing) == Answer::Waits;
   if (waits) {
-    tell(addressText() + QStringLiteral("\r\n\r\nThey are packed when the running work has ended."), {});
+    show(addressText() + QStringLiteral("\r\n\r\nThey are packed when the running work has ended."), {});
   }
   packAll(!waits);
   return isSharing();
@@ -64,13 +64,13 @@ void ListSharing::sourcesRefreshed() {
   if (isSharing()) packAll(false);
 }
 
-void ListSharing::packAll(bool tellsAddress) {
-  work_.run(JobKind::Packing, [this, tellsAddress](Job& job) {
+void ListSharing::packAll(bool showsAddress) {
+  work_.run(JobKind::Packing, [this, showsAddress](Job& job) {
     const QStringList problems = packEach(job);
     job.end();
     if (!isSharing()) return;
-    if (tellsAddress) return tell(addressText(), problems);
-    if (!problems.isEmpty()) tell(QStringLiteral("Your lists are shared."), problems);
+    if (showsAddress) return show(addressText(), problems);
+    if (!problems.isEmpty()) show(QStringLiteral("Your lists are shared."), problems);
   });
 }
 
@@ -88,8 +88,8 @@ QStringList ListSharing::packEach(const Job& job) {
   return problems;
 }
 
-/// The look for an unknown list ends with the row after the last source, whatever it still says, and its
-/// archive would be sent. So nothing that sharing made for a source of earlier may stay.
+/// The search for an unknown list ends at the row after the last source. That row may still hold an earlier
+/// source, whose archive would then be sent. So no archive that sharing made for an earlier source may stay.
 void ListSharing::removeUnlisted() const {
   QSet<QString> listed;
   for (int row = 1; row <= state_.OnlineSourceCount; ++row) listed.insert(archivePathOf(state_, row));
@@ -127,7 +127,7 @@ bool ListSharing::mustStop() const {
   return !isSharing() || work_.isClosing();
 }
 
-void ListSharing::tell(const QString& first, const QStringList& problems) {
+void ListSharing::show(const QString& first, const QStringList& problems) {
   if (work_.isClosing()) return;
   if (problems.isEmpty()) return messages_.inform(first);
   messages_.inform(first + QStringLiteral("\r\n\r\nNot all could be packed:\r\n") + shownProblems(problems));

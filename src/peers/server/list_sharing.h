@@ -16,10 +16,10 @@
 
 namespace quorvin {
 
-/// What the menu item "Share My Lists" does. While sharing is on, the server listens, and the archive of each
-/// online source that has a listing is made anew after each refresh. Archives that sharing made for sources
-/// that are no longer listed are removed then. Archives stay when sharing ends; they are replaced by the next
-/// ones. An archive of the user's, by which is meant any that was not made here, is never replaced.
+/// What the menu item "Share My Lists" does. While sharing is on, the server listens, and after each refresh
+/// the archive of each online source that has a listing is made again. Archives that sharing made for sources
+/// that are no longer listed are then removed. Archives stay when sharing ends, until the next ones replace
+/// them. An archive that was not made here is the user's own and is never replaced.
 class ListSharing : public QObject {
   Q_OBJECT
 
@@ -27,30 +27,29 @@ class ListSharing : public QObject {
   /// `state`, `work` and `messages` must outlive the object. Making archives is a job of the kind Packing,
   /// which lets window events run all the time.
   ListSharing(const ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
-              PeerServerLimits limits = {}, QObject* parent = nullptr);
+              QObject* parent = nullptr);
 
-  /// Opens the listener, makes the archives and tells the address and what could not be packed; or tells why
-  /// the port could not be opened. Where packing has to wait for another job, that is told with the address,
-  /// at once. True when sharing is on in the end. Does nothing when it is on already.
+  /// Opens the listener, makes the archives, and shows the address and what could not be packed, or why the
+  /// port could not be opened. Where packing has to wait for another job, the address is shown at once, and
+  /// with it that packing follows. True when sharing is on in the end. Does nothing when it is on already.
   bool start(std::uint16_t port = kPeerPort, const QHostAddress& address = QHostAddress::Any);
-  /// Nothing is offered any more: the listener and every connection are closed, and the making of archives
-  /// ends.
+  /// Nothing is offered any more: the listener and every connection are closed, and packing ends.
   void stop();
   bool isSharing() const { return server_.isListening(); }
 
-  /// To be called after each refresh: makes the archives anew if sharing is on, now or when the running job
-  /// has ended, and tells what could not be packed.
+  /// To be called after each refresh. If sharing is on, makes the archives again, now or when the running job
+  /// has ended, and shows what could not be packed.
   void sourcesRefreshed();
 
   const PeerServer& server() const { return server_; }
 
  private:
-  void packAll(bool tellsAddress);
+  void packAll(bool showsAddress);
   QStringList packEach(const Job& job);
   void removeUnlisted() const;
   QString packRow(int row, const Job& job);
   bool mustStop() const;
-  void tell(const QString& first, const QStringList& problems);
+  void show(const QString& first, const QStringList& problems);
   QString addressText() const;
 
   const ProgramState& state_;
