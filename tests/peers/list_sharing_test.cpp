@@ -100,7 +100,7 @@ TEST_F(PeerSharingTest, ArchivesOfSourcesThatAreNoLongerListedAreNotSent) {
   EXPECT_EQ(archives(), (QStringList{QStringLiteral("Music.zip"), QStringLiteral("mine.zip")}));
   PeerCaller caller(sharing_.server().port());
   EXPECT_EQ(caller.ask("GetList: whatever", 18), QByteArray("List: whatever.zip"));
-  EXPECT_EQ(caller.receiveForAWhile(), QByteArray());
+  EXPECT_EQ(caller.receiveRest(), QByteArray());
 }
 
 TEST_F(PeerSharingTest, ARefreshWithoutSharingMakesNothing) {

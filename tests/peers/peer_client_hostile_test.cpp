@@ -3,6 +3,7 @@
 #include "peers/client/peer_client.h"
 #include "peers/peer_program.h"
 #include "peers/scripted_server.h"
+#include "support/timer_tick.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,11 +18,12 @@ namespace {
 using testing::ElementsAre;
 using Pieces = std::vector<QByteArray>;
 
+/// Little patience with what may be half an answer, and much with a busy machine.
 PeerClientLimits shortLimits() {
   PeerClientLimits limits;
-  limits.settle = std::chrono::milliseconds(300);
-  limits.stall = std::chrono::milliseconds(600);
-  limits.silence = std::chrono::milliseconds(1200);
+  limits.settle = std::chrono::milliseconds(20);
+  limits.stall = std::chrono::milliseconds(40);
+  limits.silence = std::chrono::hours(1);
   return limits;
 }
 
@@ -57,9 +59,40 @@ class PeerClientHostileTest : public testing::Test {
 
 TEST_F(PeerClientHostileTest, AServerThatSaysNothingIsGivenUp) {
   ScriptedServer server([](const QByteArray&) { return Pieces{}; });
-  EXPECT_THAT(outcomeWith(server).problems,
-              ElementsAre(QStringLiteral("The peer has not sent anything for 1 seconds.")));
+  GettingProgram program;
+  program.start(server.port());
+  ASSERT_EVENTUALLY(!server.messages.empty());
+  TimerTick(timerOf(program.client, QStringLiteral("silence"))).happen();
+  ASSERT_TRUE(program.outcome.has_value());
+  EXPECT_THAT(program.outcome->problems,
+              ElementsAre(QStringLiteral("The peer has not sent anything for 60 seconds.")));
   EXPECT_TRUE(eventually([&] { return server.isClosed; }));
+}
+
+TEST_F(PeerClientHostileTest, EachAnswerStartsTheSilenceAgain) {
+  ScriptedServer server([](const QByteArray&) { return Pieces{"x"}; });
+  SendTimer hourly(program_.work, program_.queue, std::chrono::hours(1));
+  PeerClient client(program_.state, program_.queue, hourly, QLocale::c());
+  client.start({QStringLiteral("127.0.0.1"), server.port()});
+  QTimer& silence = timerOf(client, QStringLiteral("silence"));
+  ASSERT_EVENTUALLY(hourly.isEnabled());
+  for (int i = 0; i < 2; ++i) {
+    const TimerTick due(silence);
+    TimerTick(timerOf(hourly, QStringLiteral("SndQTime"))).happen();
+    // The reply starts it.
+    ASSERT_EVENTUALLY(hourly.isEnabled());
+    due.happen();
+    EXPECT_TRUE(client.isRunning());
+  }
+}
+
+TEST_F(PeerClientHostileTest, ASilenceEndsTheConversationByItself) {
+  PeerClientLimits limits = shortLimits();
+  limits.silence = std::chrono::milliseconds(50);
+  GettingProgram program(limits);
+  ScriptedServer server([](const QByteArray&) { return Pieces{}; });
+  program.start(server.port());
+  EXPECT_TRUE(program.waitForEnd());
 }
 
 TEST_F(PeerClientHostileTest, APortWithoutServerIsToldWithTheReason) {
@@ -255,7 +288,12 @@ struct GarbledConversation {
 
   std::mt19937 random;
   ScriptedServer server;
-  GettingProgram program{shortLimits()};
+  static PeerClientLimits impatient() {
+    PeerClientLimits limits = shortLimits();
+    limits.silence = std::chrono::milliseconds(100);
+    return limits;
+  }
+  GettingProgram program{impatient()};
 };
 
 TEST_F(PeerClientHostileTest, GarbageInEveryAnswerNeverHangsTheClient) {

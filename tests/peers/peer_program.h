@@ -13,7 +13,6 @@
 #include "work/work.h"
 
 #include <QCoreApplication>
-#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -68,10 +67,10 @@ inline QByteArray smallArchive(const QByteArray& text = "a listing") {
   return folder.readFile(QStringLiteral("list.zip"));
 }
 
-/// A program that gets lists.
+/// A program that gets lists. It asks as soon as it may.
 struct GettingProgram : PeerProgram {
   explicit GettingProgram(const PeerClientLimits& limits = {})
-      : timer(work, queue), client(state, queue, timer, QLocale::c(), limits) {
+      : timer(work, queue, std::chrono::milliseconds(1)), client(state, queue, timer, QLocale::c(), limits) {
     QObject::connect(&client, &PeerClient::ended, &client, [this](const PeerOutcome& it) { outcome = it; });
   }
 

@@ -3,6 +3,7 @@
 
 #include "peers/peer_program.h"
 
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace quorvin::test {

@@ -3,8 +3,8 @@
 
 #include "faults/runtime_fault.h"
 #include "peers/peer_program.h"
+#include "support/timer_tick.h"
 
-#include <QElapsedTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -75,6 +75,10 @@ class PeerSendTimerTest : public testing::Test {
     timer_.setQuit([this] { ++quits_; });
   }
 
+  QTimer& timer() { return timerOf(timer_, QStringLiteral("SndQTime")); }
+  /// One tick of the timer, which must be enabled.
+  void tick() { TimerTick(timer()).happen(); }
+
   ProgramState state_;
   SendQueue queue_;
   RecordingWorkDisplay display_;
@@ -88,34 +92,27 @@ TEST_F(PeerSendTimerTest, IsOffAtFirst) {
   EXPECT_FALSE(timer_.isEnabled());
 }
 
+TEST_F(PeerSendTimerTest, TicksTenTimesASecond) {
+  EXPECT_EQ(timer().intervalAsDuration(), std::chrono::milliseconds(100));
+  EXPECT_FALSE(timer().isSingleShot());
+}
+
+TEST_F(PeerSendTimerTest, TicksByItself) {
+  SendTimer quick(work_, queue_, std::chrono::milliseconds(1));
+  quick.setSender([this](const QByteArray& payload) { sent_.push_back(payload); });
+  queue_.append("a");
+  quick.enable();
+  EXPECT_EVENTUALLY(sent_.size() == 1);
+}
+
 TEST_F(PeerSendTimerTest, SendsAtTheFirstTickAndSwitchesItselfOff) {
   queue_.append("a");
   queue_.append("b");
-  QElapsedTimer clock;
-  clock.start();
   timer_.enable();
-  ASSERT_TRUE(eventually([this] { return !sent_.empty(); }));
-  EXPECT_GE(clock.elapsed(), 90);
+  EXPECT_TRUE(sent_.empty());
+  tick();
   EXPECT_FALSE(timer_.isEnabled());
-  QTest::qWait(250);
   EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("a")));
-}
-
-TEST_F(PeerSendTimerTest, TicksTenTimesASecond) {
-  // On a busy machine a tick may be late, so the quickest of many counts.
-  qint64 quickest = 1000;
-  for (int round = 0; round < 100 && quickest >= 150; ++round) {
-    queue_.append("a");
-    const std::size_t sent = sent_.size();
-    QElapsedTimer clock;
-    clock.start();
-    timer_.enable();
-    ASSERT_EVENTUALLY(sent_.size() > sent);
-    queue_.replyArrived();
-    quickest = std::min(quickest, clock.elapsed());
-  }
-  EXPECT_GE(quickest, 90);
-  EXPECT_LT(quickest, 150);
 }
 
 TEST_F(PeerSendTimerTest, KeepsTickingWhileAReplyIsAwaited) {
@@ -123,25 +120,26 @@ TEST_F(PeerSendTimerTest, KeepsTickingWhileAReplyIsAwaited) {
   queue_.append("b");
   queue_.takeNext();
   timer_.enable();
-  QTest::qWait(250);
+  for (int i = 0; i < 3; ++i) tick();
   EXPECT_TRUE(timer_.isEnabled());
   EXPECT_TRUE(sent_.empty());
   queue_.replyArrived();
-  ASSERT_TRUE(eventually([this] { return !sent_.empty(); }));
+  tick();
   EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("b")));
 }
 
 TEST_F(PeerSendTimerTest, SwitchesItselfOffWhenTheQueueIsDrained) {
   timer_.enable();
-  EXPECT_TRUE(eventually([this] { return !timer_.isEnabled(); }));
+  tick();
+  EXPECT_FALSE(timer_.isEnabled());
 }
 
 TEST_F(PeerSendTimerTest, EnablingItAgainKeepsItsPace) {
   queue_.append("a");
-  for (int i = 0; i < 20 && sent_.empty(); ++i) {
-    timer_.enable();
-    QTest::qWait(20);
-  }
+  timer_.enable();
+  const TimerTick due(timer());
+  timer_.enable();
+  due.happen();
   EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("a")));
 }
 
@@ -149,8 +147,7 @@ TEST_F(PeerSendTimerTest, AClosingProgramSendsNothingAndQuitsOnce) {
   queue_.append("a");
   state_.QuitPending = true;
   timer_.enable();
-  ASSERT_TRUE(eventually([this] { return quits_ > 0; }));
-  QTest::qWait(250);
+  tick();
   EXPECT_EQ(quits_, 1);
   EXPECT_FALSE(timer_.isEnabled());
   EXPECT_TRUE(sent_.empty());
@@ -160,11 +157,12 @@ TEST_F(PeerSendTimerTest, QuittingWaitsForTheRefresh) {
   state_.QuitPending = true;
   state_.RescanRunning = true;
   timer_.enable();
-  QTest::qWait(250);
+  for (int i = 0; i < 3; ++i) tick();
   EXPECT_EQ(quits_, 0);
   EXPECT_TRUE(timer_.isEnabled());
   state_.RescanRunning = false;
-  EXPECT_TRUE(eventually([this] { return quits_ == 1; }));
+  tick();
+  EXPECT_EQ(quits_, 1);
 }
 
 }  // namespace

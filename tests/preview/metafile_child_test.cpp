@@ -5,6 +5,7 @@
 #include "metafile/metafile_writer.h"
 #include "metafile/play_metafile.h"
 #include "preview/second_decoder.h"
+#include "support/eventually.h"
 #include "support/temporary_folder.h"
 
 #include <QElapsedTimer>
@@ -137,10 +138,8 @@ TEST_F(MetafileChildTest, TheLimitsHoldBeforeAnythingIsRead) {
   // Nothing has been written to it, and nothing will be.
   const QString path = QStringLiteral("/proc/%1/limits").arg(process.processId());
   QByteArray limits;
-  for (int look = 0; look < 100 && !limits.contains("Max cpu time              5"); ++look) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    limits = outputOf(QStringLiteral("cat"), {path});
-  }
+  ASSERT_EVENTUALLY(
+      (limits = outputOf(QStringLiteral("cat"), {path})).contains("Max cpu time              5"));
   const std::string text = limits.toStdString();
   EXPECT_THAT(text, testing::ContainsRegex("Max cpu time +5 +5 +seconds"));
   EXPECT_THAT(text, testing::ContainsRegex("Max open files +64 +64 +files"));

@@ -10,9 +10,9 @@ namespace quorvin {
 namespace {
 
 constexpr QByteArrayView kLineEnd("\r\n");
-// Requests leave a tenth of a second apart; more than a few are never joined.
+// Requests leave a tenth of a second apart, so no more than a few are ever joined.
 constexpr std::size_t kMostJoinedRequests = 8;
-// Far more than 1000 names take.
+// Far more than 1000 names need.
 constexpr std::int64_t kMostNameBytes = std::int64_t{1} << 20;
 
 RuntimeFault noSense(const QString& what) {
@@ -31,7 +31,7 @@ void AnswerStream::feed(QByteArrayView bytes) {
   while (step()) continue;
 }
 
-/// Takes one piece from the front of the buffer; false when there is none, or it is not whole yet.
+/// Takes one piece from the front of the buffer. False if there is none, or it is not whole yet.
 bool AnswerStream::step() {
   switch (part_) {
     case Part::Opening:
@@ -50,7 +50,7 @@ bool AnswerStream::step() {
 
 bool AnswerStream::takeOpening() {
   const qsizetype lists = buffer_.indexOf(kListsStart);
-  tellIdentity(lists < 0 ? QByteArrayView(buffer_) : QByteArrayView(buffer_).first(lists));
+  reportIdentity(lists < 0 ? QByteArrayView(buffer_) : QByteArrayView(buffer_).first(lists));
   if (lists < 0 && buffer_.size() > kLongestPeerMessage) {
     throw noSense(QStringLiteral("The answer is not that of a list exchange"));
   }
@@ -60,7 +60,7 @@ bool AnswerStream::takeOpening() {
   return true;
 }
 
-void AnswerStream::tellIdentity(QByteArrayView opening) {
+void AnswerStream::reportIdentity(QByteArrayView opening) {
   for (const QByteArrayView answer : {QByteArrayView(kGreetingAnswer), QByteArrayView(kUnknownAnswer)}) {
     if (opening.startsWith(answer)) opening = opening.sliced(answer.size());
   }
@@ -166,8 +166,8 @@ void AnswerStream::giveArchiveBytes(QByteArrayView bytes) {
   sink_.archiveBytes(bytes);
 }
 
-/// Notes where the next announcement, followed by an archive, stands in this archive's bytes: should this
-/// archive turn out to be cut off, it was the end of it.
+/// Notes where the next announcement, with an archive after it, appears in this archive's bytes. If this
+/// archive turns out to have broken off, it ended there.
 void AnswerStream::lookForNextAnnouncement(QByteArrayView bytes) {
   if (nextAnnouncement_ || expected_.empty()) return;
   const QByteArray wanted = announcementMessage(expected_.front().name) + "PK";

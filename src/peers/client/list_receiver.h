@@ -1,4 +1,4 @@
-// What is done with what a peer sends: its lists are asked for, and their archives kept.
+// The receiving end of a conversation: asks for the lists that a peer names, and keeps their archives.
 #pragma once
 
 #include "files/file_aside.h"
@@ -16,23 +16,24 @@
 
 namespace quorvin {
 
-/// Written aside in its folder, and given its name when it is whole; without that nothing of it stays.
+/// An archive on its way in. It is written aside in its folder and gets its name when it is whole; otherwise
+/// nothing of it stays.
 class ReceivedArchive {
  public:
-  /// `folder` ends in a separator and is made with those above it; `name` is the archive's name without its
-  /// ending, safe for a file. Throws RuntimeFault when the folder or the file cannot be made.
+  /// `folder` ends in a separator and is made if need be; `name` is the archive's name without its ending,
+  /// safe for a file. Throws RuntimeFault when the folder or the file cannot be made.
   ReceivedArchive(const QString& folder, const QString& name);
 
   /// Throws RuntimeFault when the bytes cannot be written.
   void write(QByteArrayView bytes);
   std::int64_t size() const { return size_; }
 
-  /// Gives the archive its name and returns its path. No file is replaced: where one of that name stands, the
+  /// Gives the archive its name and returns its path. No file is replaced: if there is one of that name, the
   /// archive gets a number, unless that file holds the very same bytes and so is this archive already. Throws
   /// RuntimeFault when it cannot be put in place.
   QString keep();
 
-  /// Ends the writing and gives the path at which the file can be read as long as the object lives. Throws
+  /// Finishes writing and returns the path at which the file can be read while the object lives. Throws
   /// RuntimeFault when the last bytes cannot be written.
   QString finishForReading();
 
@@ -53,7 +54,7 @@ struct ReceivedList {
   bool operator==(const ReceivedList&) const = default;
 };
 
-/// How far the getting of lists has come.
+/// How far a conversation has come.
 struct PeerFigures {
   /// The list that is coming, as it may be shown; empty before the first.
   QString list;
@@ -67,16 +68,16 @@ struct PeerFigures {
 /// One conversation's receiving end.
 class ListReceiver : public AnswerSink {
  public:
-  /// Bytes of an archive that broke off, in which other messages follow.
+  /// What follows an archive that broke off, in the same file: further messages.
   struct Rest {
     QString path;
-    /// From this byte to before that one.
+    /// The first byte, and the one after the last.
     std::int64_t from = 0;
     std::int64_t to = 0;
   };
 
-  /// Archives go into `folder`, which ends in a separator and is made when the first one comes; none may grow
-  /// beyond `mostBytes`. `queue` must outlive the object.
+  /// Archives go into `folder`, which ends in a separator and is made when the first one comes. None may be
+  /// larger than `mostBytes`. `queue` must outlive the object.
   ListReceiver(SendQueue& queue, const QString& folder, std::int64_t mostBytes);
 
   /// The identity last announced, and the name of the archive last announced, each without its first
@@ -90,7 +91,7 @@ class ListReceiver : public AnswerSink {
   const QStringList& problems() const { return problems_; }
 
   bool hasRest() const { return cut_ != nullptr; }
-  /// What is to be fed to the stream once more. Throws RuntimeFault when it cannot be read.
+  /// What must be fed to the stream again. Throws RuntimeFault when it cannot be read.
   Rest takeRest();
 
   // For the stream. Each may throw RuntimeFault when a file cannot be written.
@@ -119,7 +120,7 @@ class ListReceiver : public AnswerSink {
   /// The list that is coming, and its archive from its first byte on.
   QString name_;
   std::unique_ptr<ReceivedArchive> archive_;
-  /// An archive that broke off, as long as what follows in it has not been taken.
+  /// An archive that broke off, until what follows it has been taken.
   std::unique_ptr<ReceivedArchive> cut_;
   std::unique_ptr<ReceivedArchive> cutBeingRead_;
   std::int64_t cutLength_ = 0;

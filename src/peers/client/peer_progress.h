@@ -13,7 +13,7 @@
 namespace quorvin {
 
 /// Labels `Peer`, `List` and `Bytes`, and a `CancelButton`. Like `Progress` it takes no focus when it is
-/// shown. Cancelling is the button, Esc, or closing the window.
+/// shown. The button, Esc and closing the window cancel.
 class PeerProgress : public QDialog {
   Q_OBJECT
 

@@ -19,9 +19,9 @@ inline constexpr std::uint16_t kPeerPort = 6060;
 /// A message longer than this is none of ours. Bytes.
 inline constexpr qsizetype kLongestPeerMessage = qsizetype{64} << 10;
 
-/// How a message's argument is found: the server skips the blank after the colon, the client one character
-/// more, so that it loses the first character of a nickname and of an archive's name. Both are part of the
-/// exchange as it is.
+/// Where a message's argument starts. The server skips the blank after the colon, the client one character
+/// more, so it loses the first character of a nickname and of an archive's name. Both are part of the
+/// exchange.
 enum class ArgumentOffset { Server = 1, Client = 2 };
 
 /// A date as a number: its days since 30 December 1899 in up to 15 significant digits, with the locale's

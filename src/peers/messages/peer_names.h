@@ -25,8 +25,8 @@ QString shownProblems(const QStringList& problems);
 /// characters. Never empty. Different texts may give the same name.
 QString safeFileName(const QString& text);
 
-/// The first of `folder` + `name` + `ending`, `name` + " (2)" + `ending` and so on at which nothing stands.
-/// `folder` ends in a separator.
+/// The first of `folder` + `name` + `ending`, `name` + " (2)" + `ending` and so on where there is nothing
+/// yet. `folder` ends in a separator.
 QString freePath(const QString& folder, const QString& name, const QString& ending);
 
 /// A host with or without a port, as the user types it. `port` is that of the exchange when none is given.
