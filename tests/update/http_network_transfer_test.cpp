@@ -137,7 +137,7 @@ TEST_F(HttpNetworkTransferTest, FailsOnARedirectThatLeadsNowhere) {
 TEST_F(HttpNetworkTransferTest, EndsARedirectWithABodyThatNeverEnds) {
   const QByteArray headers =
       "HTTP/1.1 302 Found\r\nLocation: /main.zip\r\nContent-Length: 1000000000\r\n\r\n";
-  const Outcome outcome = get({sendsForEver(headers, QByteArray(1000, 'x'), 1)});
+  const Outcome outcome = get({sendsForEver(headers, QByteArray(1000, 'x'), 1)}, shortLimits());
   EXPECT_EQ(outcome.fault, 57);
 }
 
@@ -176,16 +176,18 @@ TEST_F(HttpNetworkTransferTest, FailsOnAnAnswerThatIsNone) {
 }
 
 TEST_F(HttpNetworkTransferTest, FailsOnASilentServer) {
-  EXPECT_EQ(get({isSilent()}).fault, 57);
+  EXPECT_EQ(get({isSilent()}, shortLimits()).fault, 57);
 }
 
 TEST_F(HttpNetworkTransferTest, FailsOnHeadersThatDripForEver) {
-  EXPECT_EQ(get({sendsForEver("HTTP/1.1 200 OK\r\nX-Long: ", "x", 20)}).fault, 57);
-  EXPECT_EQ(get({sendsForEver("HTTP/1.1 200 OK\r\n", "X-More: x\r\n", 20)}).fault, 57);
+  EXPECT_EQ(get({sendsForEver("HTTP/1.1 200 OK\r\nX-Long: ", "x", 20)}, shortLimits()).fault, 57);
+  EXPECT_EQ(get({sendsForEver("HTTP/1.1 200 OK\r\n", "X-More: x\r\n", 20)}, shortLimits()).fault, 57);
 }
 
 TEST_F(HttpNetworkTransferTest, FailsOnABodyThatFallsSilent) {
-  EXPECT_EQ(get({sendsAndWaits(headersOf("Content-Length: 5000\r\n") + QByteArray(2000, 'x'))}).fault, 57);
+  EXPECT_EQ(get({sendsAndWaits(headersOf("Content-Length: 5000\r\n") + QByteArray(2000, 'x'))}, shortLimits())
+                .fault,
+            57);
 }
 
 TEST_F(HttpNetworkTransferTest, FailsOnABodyBeyondTheLimit) {
@@ -221,7 +223,7 @@ TEST_F(HttpNetworkTransferTest, EndsWithTheConnectionWhenNoLengthIsTold) {
 TEST_F(HttpNetworkTransferTest, NeverGivesMoreThanWasSentInBadChunks) {
   for (const char* body : {"zz\r\nhello\r\n0\r\n\r\n", "5\r\nhel", "-5\r\nhello\r\n0\r\n\r\n",
                            "FFFFFFFFFFFFFFFFFF\r\nhello", "5\r\nhelloXX5\r\nworld\r\n0\r\n\r\n", "5"}) {
-    const Outcome outcome = get({sends(headersOf("Transfer-Encoding: chunked\r\n") + body)});
+    const Outcome outcome = get({sends(headersOf("Transfer-Encoding: chunked\r\n") + body)}, shortLimits());
     EXPECT_LE(outcome.body.size(), 40) << body;
   }
 }

@@ -44,7 +44,7 @@ class HttpSecureTransfer : public HttpTransferTest {
  protected:
   Outcome getSecurely(const char* certificate, const QByteArray& answer) {
     ScriptedWebServer server({sends(answer)}, secureServer(certificate));
-    HttpNetworkTransfer transfer(shortLimits());
+    HttpNetworkTransfer transfer;
     const Outcome outcome =
         HttpTransferTest::get(transfer, QUrl(u"https://"_qs + server.host() + u"/main.zip"_qs));
     requests_ = server.requests.size();
@@ -77,7 +77,7 @@ TEST_F(HttpSecureTransfer, TakesACertificateOfATrustedAuthority) {
 TEST_F(HttpSecureTransfer, RefusesATrustedCertificateOfAnotherHost) {
   const TrustedAuthority trusted;
   ScriptedWebServer server({sends(goodAnswer("body"))}, secureServer("server.pem"));
-  HttpNetworkTransfer transfer(shortLimits());
+  HttpNetworkTransfer transfer;
   QUrl address(u"https://"_qs + server.host() + u"/main.zip"_qs);
   address.setHost(u"localhost"_qs);
   EXPECT_EQ(HttpTransferTest::get(transfer, address).fault, 57);
