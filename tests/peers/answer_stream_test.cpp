@@ -234,6 +234,10 @@ TEST_F(PeerStreamTest, EightRequestsMayBeTakenForOne) {
   Reading nine;
   nine.stream.feed(names + joined + "GetList: 9.zip");
   EXPECT_EQ(nine.log.lines.size(), 9U);
+  Reading later;
+  later.stream.feed("Lists:\r\n0\r\n" + names.sliced(8) + "List: 0.zip" + first_ + joined + "GetList: 9.zip");
+  EXPECT_EQ(later.log.lines.size(), 12U);
+  EXPECT_EQ(later.log.lines.back(), "whole");
 }
 
 TEST_F(PeerStreamTest, ARequestIsOnlyLostTwice) {

@@ -62,7 +62,7 @@ TEST_F(PeerClientHostileTest, AServerThatSaysNothingIsGivenUp) {
   GettingProgram program;
   program.start(server.port());
   ASSERT_EVENTUALLY(!server.messages.empty());
-  TimerTick(timerOf(program.client, QStringLiteral("silence"))).happen();
+  tick(timerOf(program.client, QStringLiteral("silence")));
   ASSERT_TRUE(program.outcome.has_value());
   EXPECT_THAT(program.outcome->problems,
               ElementsAre(QStringLiteral("The peer has not sent anything for 60 seconds.")));
@@ -77,12 +77,12 @@ TEST_F(PeerClientHostileTest, EachAnswerStartsTheSilenceAgain) {
   QTimer& silence = timerOf(client, QStringLiteral("silence"));
   ASSERT_EVENTUALLY(hourly.isEnabled());
   for (int i = 0; i < 2; ++i) {
-    const TimerTick due(silence);
-    TimerTick(timerOf(hourly, QStringLiteral("SndQTime"))).happen();
+    const RestartWatch watch(silence);
+    tick(timerOf(hourly, QStringLiteral("SndQTime")));
+    EXPECT_FALSE(watch.hasRestarted());
     // The reply starts it.
     ASSERT_EVENTUALLY(hourly.isEnabled());
-    due.happen();
-    EXPECT_TRUE(client.isRunning());
+    EXPECT_TRUE(watch.hasRestarted());
   }
 }
 
@@ -122,15 +122,12 @@ TEST_F(PeerClientHostileTest, AServerThatClosesAtOnceIsTold) {
 }
 
 TEST_F(PeerClientHostileTest, AResetInAnArchiveLeavesWhatHadComeBefore) {
-  ScriptedServer server([this](const QByteArray& asked) -> Pieces {
-    if (asked == "GetList: A") return {answers_.to(asked) + "List: B.zip" + second_.chopped(9)};
-    return answers_(asked);
+  bool isLast = false;
+  ScriptedServer server([&](const QByteArray& asked) -> Pieces {
+    isLast = asked == "GetList: A";
+    return {isLast ? answers_.to(asked) + "List: B.zip" + second_.chopped(9) : answers_.to(asked)};
   });
-  QTimer reset;
-  QObject::connect(&reset, &QTimer::timeout, &reset, [&] {
-    if (server.messages.size() >= 4) server.resetWhenSent = true;
-  });
-  reset.start(1);
+  server.resetsWhenSent = [&isLast] { return isLast; };
   const PeerOutcome& outcome = outcomeWith(server);
   ASSERT_EQ(outcome.received.size(), 1U);
   EXPECT_EQ(outcome.received[0].name, QStringLiteral("A"));

@@ -125,7 +125,7 @@ TEST_F(PeerExchangeTest, SendsTenTimesASecondAndOffersFiveTimes) {
 }
 
 TEST_F(PeerExchangeTest, TheQuestionSaysHowManyListingsThereAreAndHowMuchRoom) {
-  std::vector<MadeEntry> entries(2500);
+  std::vector<MadeEntry> entries(60);
   for (std::size_t i = 0; i < entries.size(); ++i) entries[i].name = QByteArray::number(i) + ".txt";
   server_.addSource(QStringLiteral("Music"), archiveOf(entries));
   client_.state.OfflineSourceCount = 1990;
@@ -134,7 +134,7 @@ TEST_F(PeerExchangeTest, TheQuestionSaysHowManyListingsThereAreAndHowMuchRoom) {
   client_.getFrom(port);
   ASSERT_TRUE(eventually([&] { return client_.additions == 1; }));
   EXPECT_THAT(client_.messages.asked[0].toStdString(),
-              HasSubstr("\r\n\r\nThe archive holds 2500 listings. There is room for 10 more offline "
+              HasSubstr("\r\n\r\nThe archive holds 60 listings. There is room for 10 more offline "
                         "sources.\r\n\r\nAdd the received lists"));
   EXPECT_EQ(client_.state.OfflineSourceCount, 2000);
 }
@@ -156,7 +156,11 @@ TEST_F(PeerExchangeTest, ADialogThatOpensWhileListingsAreCountedIsNotDisturbed) 
 TEST_F(PeerExchangeTest, AServerWithoutListsIsTold) {
   const quint16 port = share();
   client_.getFrom(port);
-  ASSERT_TRUE(eventually([&] { return !client_.messages.informed.empty(); }));
+  QTimer& settling = timerOf(client_.exchange.client(), QStringLiteral("settle"));
+  ASSERT_TRUE(eventually([&] {
+    if (settling.isActive()) tick(settling);
+    return !client_.messages.informed.empty();
+  }));
   EXPECT_THAT(client_.messages.informed[0].toStdString(), HasSubstr("the answer names no lists"));
 }
 

@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+#include <vector>
 
 namespace quorvin::test {
 
@@ -76,6 +78,23 @@ TEST_F(PeerServerLimitsTest, TheSixtyFifthCallerTakesThePlaceOfTheLongestIdle) {
   for (const auto& caller : callers) EXPECT_EQ(caller->ask("Connecting from: x", 3), QByteArray("OK:"));
 }
 
+TEST_F(PeerServerLimitsTest, AcceptsOneCallerInATurnOfTheEventLoop) {
+  const PeerServer& server = start();
+  std::vector<std::unique_ptr<QTcpSocket>> callers;
+  for (int i = 0; i < 8; ++i) {
+    callers.push_back(std::make_unique<QTcpSocket>());
+    callers.back()->connectToHost(QHostAddress(QHostAddress::LocalHost), server.port());
+  }
+  std::int32_t before = 0;
+  std::int32_t most = 0;
+  ASSERT_EVENTUALLY([&] {
+    most = std::max(most, server.ServConnCount() - before);
+    before = server.ServConnCount();
+    return before == 8;
+  }());
+  EXPECT_EQ(most, 1);
+}
+
 TEST_F(PeerServerLimitsTest, AnArchiveThatIsTakenIsNotCutOffByNewCallers) {
   addLargeSource();
   PeerServer& server = start();
@@ -118,13 +137,12 @@ TEST_F(PeerServerLimitsTest, EachMessageStartsTheIdleTimeAgain) {
   PeerCaller caller(server.port());
   EXPECT_EQ(caller.ask("Connecting from: x", 3), QByteArray("OK:"));
   QTimer& idle = timerOf(server, QStringLiteral("idle"));
-  for (int i = 0; i < 3; ++i) {
-    const TimerTick due(idle);
-    EXPECT_EQ(caller.ask("Connecting from: x", 3), QByteArray("OK:"));
-    due.happen();
-    EXPECT_EQ(server.connectionCount(), 1);
-  }
-  TimerTick(idle).happen();
+  const RestartWatch watch(idle);
+  EXPECT_FALSE(watch.hasRestarted());
+  EXPECT_EQ(caller.ask("Connecting from: x", 3), QByteArray("OK:"));
+  EXPECT_TRUE(watch.hasRestarted());
+  EXPECT_EQ(server.connectionCount(), 1);
+  tick(idle);
   EXPECT_EQ(server.connectionCount(), 0);
   EXPECT_TRUE(caller.waitForClose());
 }

@@ -89,8 +89,11 @@ class BeforeTheServerGoesOn : public QObject {
 
 TEST_F(PeerServerTest, EventsRunBetweenAnAnnouncementAndItsArchive) {
   program_.addSource(QStringLiteral("Music"), "early");
-  const BeforeTheServerGoesOn later(
-      [this] { program_.folder.writeFile(QStringLiteral("Music.zip"), "later"); });
+  // A new file, so that an archive that was opened before keeps what it held.
+  const BeforeTheServerGoesOn later([this] {
+    QFile::remove(program_.folder.pathOf(QStringLiteral("Music.zip")));
+    program_.folder.writeFile(QStringLiteral("Music.zip"), "later");
+  });
   PeerCaller caller(server_.port());
   EXPECT_EQ(caller.ask("GetList: Music", 20), QByteArray("List: Music.ziplater"));
 }

@@ -32,9 +32,9 @@ class ScriptedServer {
 
   /// Sent as soon as somebody connects.
   std::vector<QByteArray> welcome;
-  /// Ends the connection once everything has been sent; by a reset if so wished.
+  /// Whether to end the connection once everything has been sent, or to break it with a reset.
   bool closeWhenSent = false;
-  bool resetWhenSent = false;
+  std::function<bool()> resetsWhenSent = [] { return false; };
   /// Every message that came, one for each data event.
   std::vector<QByteArray> messages;
   bool isClosed = false;
@@ -69,7 +69,7 @@ class ScriptedServer {
       return;
     }
     pace_.stop();
-    if (resetWhenSent) reset();
+    if (resetsWhenSent()) reset();
     if (closeWhenSent) connection->disconnectFromHost();
   }
 

@@ -76,8 +76,6 @@ class PeerSendTimerTest : public testing::Test {
   }
 
   QTimer& timer() { return timerOf(timer_, QStringLiteral("SndQTime")); }
-  /// One tick of the timer, which must be enabled.
-  void tick() { TimerTick(timer()).happen(); }
 
   ProgramState state_;
   SendQueue queue_;
@@ -110,7 +108,7 @@ TEST_F(PeerSendTimerTest, SendsAtTheFirstTickAndSwitchesItselfOff) {
   queue_.append("b");
   timer_.enable();
   EXPECT_TRUE(sent_.empty());
-  tick();
+  tick(timer());
   EXPECT_FALSE(timer_.isEnabled());
   EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("a")));
 }
@@ -120,26 +118,27 @@ TEST_F(PeerSendTimerTest, KeepsTickingWhileAReplyIsAwaited) {
   queue_.append("b");
   queue_.takeNext();
   timer_.enable();
-  for (int i = 0; i < 3; ++i) tick();
+  for (int i = 0; i < 3; ++i) tick(timer());
   EXPECT_TRUE(timer_.isEnabled());
   EXPECT_TRUE(sent_.empty());
   queue_.replyArrived();
-  tick();
+  tick(timer());
   EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("b")));
 }
 
 TEST_F(PeerSendTimerTest, SwitchesItselfOffWhenTheQueueIsDrained) {
   timer_.enable();
-  tick();
+  tick(timer());
   EXPECT_FALSE(timer_.isEnabled());
 }
 
 TEST_F(PeerSendTimerTest, EnablingItAgainKeepsItsPace) {
   queue_.append("a");
   timer_.enable();
-  const TimerTick due(timer());
+  const RestartWatch watch(timer());
   timer_.enable();
-  due.happen();
+  EXPECT_FALSE(watch.hasRestarted());
+  tick(timer());
   EXPECT_THAT(sent_, testing::ElementsAre(QByteArray("a")));
 }
 
@@ -147,7 +146,7 @@ TEST_F(PeerSendTimerTest, AClosingProgramSendsNothingAndQuitsOnce) {
   queue_.append("a");
   state_.QuitPending = true;
   timer_.enable();
-  tick();
+  tick(timer());
   EXPECT_EQ(quits_, 1);
   EXPECT_FALSE(timer_.isEnabled());
   EXPECT_TRUE(sent_.empty());
@@ -157,11 +156,11 @@ TEST_F(PeerSendTimerTest, QuittingWaitsForTheRefresh) {
   state_.QuitPending = true;
   state_.RescanRunning = true;
   timer_.enable();
-  for (int i = 0; i < 3; ++i) tick();
+  for (int i = 0; i < 3; ++i) tick(timer());
   EXPECT_EQ(quits_, 0);
   EXPECT_TRUE(timer_.isEnabled());
   state_.RescanRunning = false;
-  tick();
+  tick(timer());
   EXPECT_EQ(quits_, 1);
 }
 

@@ -1,7 +1,9 @@
-// Ticks of timers that a test causes instead of waiting for them.
+// Timers under the hands of a test, which does not wait for them.
 #pragma once
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QThread>
 #include <QTimer>
 #include <QTimerEvent>
 
@@ -9,28 +11,50 @@
 
 namespace quorvin::test {
 
-/// The next tick of a timer as it is running now. If the timer is stopped or started again before it happens,
-/// it does nothing, as the tick in time would not have come either.
-class TimerTick {
- public:
-  explicit TimerTick(QTimer& timer) : timer_(timer), id_(timer.timerId()) {
-    if (!timer.isActive()) throw std::logic_error("the timer is not running");
-  }
-  void happen() const {
-    QTimerEvent tick(id_);
-    QCoreApplication::sendEvent(&timer_, &tick);
-  }
-
- private:
-  QTimer& timer_;
-  int id_;
-};
-
 /// The timer of this name that belongs to `owner`.
 inline QTimer& timerOf(const QObject& owner, const QString& name) {
   auto* timer = owner.findChild<QTimer*>(name);
   if (timer == nullptr) throw std::logic_error("there is no such timer");
   return *timer;
 }
+
+/// Brings about the next tick of a running timer.
+inline void tick(QTimer& timer) {
+  if (!timer.isActive()) throw std::logic_error("the timer is not running");
+  QTimerEvent event(timer.timerId());
+  QCoreApplication::sendEvent(&timer, &event);
+}
+
+/// Tells whether a running timer is started again. It is started for the first time by the watch itself.
+class RestartWatch {
+ public:
+  explicit RestartWatch(QTimer& timer) : timer_(timer) {
+    if (!timer.isActive()) throw std::logic_error("the timer is not running");
+    clock_.start();
+    // A coarse one would round its end.
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.start();
+    end_ = end();
+    QThread::msleep(kApart);
+  }
+  bool hasRestarted() const { return end() > end_ + kApart / 2; }
+
+ private:
+  /// Far enough apart for milliseconds to be told apart, whatever happens in between.
+  static constexpr int kApart = 20;
+
+  /// When the timer ends, by the clock of the watch, in milliseconds.
+  qint64 end() const {
+    for (;;) {
+      const qint64 before = clock_.elapsed();
+      const qint64 left = timer_.remainingTime();
+      if (clock_.elapsed() == before) return before + left;
+    }
+  }
+
+  QTimer& timer_;
+  QElapsedTimer clock_;
+  qint64 end_ = 0;
+};
 
 }  // namespace quorvin::test

@@ -42,6 +42,7 @@ PeerClient::PeerClient(ProgramState& state, SendQueue& queue, SendTimer& timer, 
   connect(&silence_, &QTimer::timeout, this, &PeerClient::silent);
   connect(&restPiece_, &QTimer::timeout, this, &PeerClient::feedRestPiece);
   connect(&progressPace_, &QTimer::timeout, this, &PeerClient::progressed);
+  settle_.setObjectName(QStringLiteral("settle"));
   silence_.setObjectName(QStringLiteral("silence"));
   for (QTimer* once : {&settle_, &stall_, &silence_, &progressPace_}) once->setSingleShot(true);
 }

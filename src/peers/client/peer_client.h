@@ -104,7 +104,7 @@ class PeerClient : public QObject {
   QLocale locale_;
   PeerClientLimits limits_;
   QTcpSocket IPClient_;
-  QTimer settle_;
+  QTimer settle_{this};
   QTimer stall_;
   QTimer silence_{this};
   QTimer restPiece_;
