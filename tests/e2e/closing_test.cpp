@@ -2,6 +2,7 @@
 #include "archive/archive_maker.h"
 #include "e2e/running_program.h"
 #include "e2e/source_records.h"
+#include "files/file_identity.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 
@@ -9,7 +10,9 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <iostream>
+#include <optional>
 #include <unistd.h>
 
 namespace quorvin::test {
@@ -140,6 +143,39 @@ TEST_F(ClosingAtWork, TheUnpackingAtStartUpEndsAndEverythingIsSaved) {
   EXPECT_FALSE(home_.hasData(QStringLiteral("main.txt")));
   EXPECT_TRUE(home_.hasData(QStringLiteral("Locations.txt")));
   EXPECT_TRUE(home_.hasData(QStringLiteral("OfflineLocations.txt")));
+}
+
+TEST_F(ClosingAtWork, WhatWasNotSavedBeforeACrashIsOfferedAtTheNextStart) {
+  const auto copies = [this] {
+    return QDir(home_.folder.path()).entryList({QStringLiteral("settings.ini.recovery-*")}, QDir::Files);
+  };
+  {
+    RunningProgram crashing(desktop_, home_);
+    crashing.openFromFileMenu({QStringLiteral("o")}, QStringLiteral("Options"));
+    // Past the folder, the main data file, the archive, the server and the date.
+    crashing.typeAfterTabs(7, QStringLiteral("bob"));
+    crashing.press({QStringLiteral("Return")});
+    crashing.waitForMainWindow();
+    waitUntil(QStringLiteral("for the recovery copy"), [&] { return copies().size() == 1; });
+    ASSERT_EQ(::kill(static_cast<pid_t>(desktop_.processOf(crashing.mainWindow())), SIGKILL), 0);
+  }
+  EXPECT_TRUE(home_.settings().contains(QStringLiteral("\nNickName=ann\n")));
+
+  RunningProgram next(desktop_, home_);
+  const QString copy = home_.folder.pathOf(copies().value(0));
+  const std::optional<FileIdentity> left = fileIdentity(copy);
+  // Taken over, the changes are kept again. The main window knows no such key.
+  waitUntil(QStringLiteral("for the answer to be taken"), [&] {
+    next.press({QStringLiteral("alt+y")});
+    return fileIdentity(copy) != left;
+  });
+  // Which of its two windows the program was first seen by is left open.
+  waitUntil(QStringLiteral("for the main window"),
+            [&] { return desktop_.titleOf(desktop_.activeWindow()) == QStringLiteral("Quorvin Utility"); });
+  const ProgramEnd end = next.endBy({QStringLiteral("ctrl+q")});
+  EXPECT_EQ(end.code, 0);
+  EXPECT_TRUE(home_.settings().contains(QStringLiteral("\nNickName=bob\n")));
+  EXPECT_EQ(copies(), QStringList());
 }
 
 }  // namespace
