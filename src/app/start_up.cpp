@@ -63,7 +63,8 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
 void StartUp::takeCommandLine(const QString& commandLine, PathStyle style) {
   state_.TextFile = commandLine;
   if (!ordinaryFileExists(commandLine)) {
-    boxes_.inform(QStringLiteral("Could not find file specified on command line. Using default file."));
+    state_.missingListing = commandLine;
+    boxes_.inform(QString::fromUtf16(kListingNotFound));
     return;
   }
   // A settings set and a list of online sources of the file's own.

@@ -15,6 +15,10 @@
 
 namespace quorvin {
 
+/// What the user is told of a file on the command line that is not there.
+inline constexpr char16_t kListingNotFound[] =
+    u"Could not find file specified on command line. Using default file.";
+
 /// What start-up does with the main window, besides moving it.
 class StartUpView : public WindowPlacement {
  public:
@@ -34,7 +38,7 @@ using ExtractDataFile = std::function<void(const QString& archivePath, const QSt
 /// How this run of the program was started.
 struct StartUpConditions {
   /// The command line without the program's name, as one text exactly as it was received: not split into
-  /// words, quotes not removed. Empty when there is none.
+  /// words, quotes not removed. Empty when there is none. See readCommandLine() for what comes before.
   QString commandLine;
   /// Gives the program's own folder, with or without a trailing separator; it is asked only when no data
   /// folder is set. It may throw RuntimeFault.

@@ -3,6 +3,7 @@
 #include "console/error_lines.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
+#include "files/file_lookup.h"
 #include "index/dir_io.h"
 #include "index/local_list_refresh.h"
 #include "platform/stop_signal.h"
@@ -113,15 +114,6 @@ void ConsoleProgress::clearLine() {
   lineShown_ = false;
 }
 
-// As the user wrote it, but from the top; ".." is resolved by the system, since behind a link it leads
-// elsewhere than the text says.
-QString fullPath(const QString& folder) {
-  const QFileInfo info(folder);
-  const bool goesUp = QDir::fromNativeSeparators(folder).split(u'/').contains(QStringLiteral(".."));
-  const QString canonical = goesUp ? info.canonicalFilePath() : QString();
-  return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
-}
-
 QString labelOf(const IndexRequest& request, const QString& folder) {
   if (!request.label.isEmpty()) return request.label;
   const QString name = QFileInfo(folder).fileName();
@@ -133,7 +125,7 @@ class Indexing {
  public:
   explicit Indexing(const IndexRequest& request)
       : request_(request),
-        folder_(fullPath(request.folder)),
+        folder_(pathFromTop(request.folder)),
         progress_(*job_, QLocale()),
         dirIO_(state_, *folders_, progress_, messages_, QLocale()) {}
 

@@ -89,4 +89,11 @@ bool ordinaryFileExists(const QString& path) {
   return !findOrdinaryFile(path).isEmpty();
 }
 
+QString pathFromTop(const QString& path) {
+  const QFileInfo info(path);
+  const bool goesUp = QDir::fromNativeSeparators(path).split(u'/').contains(QStringLiteral(".."));
+  const QString canonical = goesUp ? info.canonicalFilePath() : QString();
+  return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
+}
+
 }  // namespace quorvin

@@ -17,6 +17,11 @@ QString findOrdinaryFile(const QString& pattern);
 /// Whether findOrdinaryFile(`path`) finds anything.
 bool ordinaryFileExists(const QString& path);
 
+/// `path` as the user wrote it, but from the top of the file system; a relative one starts in the current
+/// folder.
+/// ".." is resolved by the system, since behind a link it leads elsewhere than the text says. Never throws.
+QString pathFromTop(const QString& path);
+
 /// Whether a regular file, or a link to one, is at `path`, hidden or not; nothing in `path` is a wildcard.
 /// Never throws.
 bool fileExists(const QString& path);

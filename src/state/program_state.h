@@ -52,6 +52,10 @@ struct ProgramState {
   /// changed by the user.
   QMap<QString, QString> settingsAtStart;
 
+  /// The listing that the command line named and that was not there; empty without such a one. While
+  /// `TextFile` still is that, it is not saved: a typing error would be searched for at every start.
+  QString missingListing;
+
   // Names that the command line may change.
   /// The application name under which the settings are kept.
   QString RegKey;

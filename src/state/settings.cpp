@@ -163,8 +163,10 @@ bool isSettingChanged(const ProgramState& state, const Setting& setting) {
 }
 
 void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale) {
+  const bool listingIsMissing = !state.missingListing.isEmpty() && state.TextFile == state.missingListing;
   for (const Setting& setting : settingTexts(state, locale)) {
     if (!state.settingsRead.contains(setting.key) && !isSettingChanged(state, setting)) continue;
+    if (listingIsMissing && setting.key == u"TextFile") continue;
     store.write(state.RegKey, QString::fromUtf16(kSettingsSection), setting.key, setting.text);
   }
 }

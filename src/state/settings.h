@@ -75,8 +75,8 @@ void noteSettingsAtStart(const SettingsStore& store, ProgramState& state, const 
 bool isSettingChanged(const ProgramState& state, const Setting& setting);
 
 /// Stores the six settings under `state.RegKey`, in the order in which they are read. One that was not read
-/// at start-up is stored only if the user has changed it since. Throws as the store does; what was stored
-/// before the fault stays.
+/// at start-up is stored only if the user has changed it since, and a `TextFile` that is still `missingListing`
+/// is not stored. Throws as the store does; what was stored before the fault stays.
 void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale);
 
 /// Stores the window's place and size under `state.RegKey`: Top, Left, Width, Height. One that was not read

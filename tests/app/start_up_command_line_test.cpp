@@ -77,6 +77,16 @@ TEST_F(StartUpTest, AMissingFileIsToldAndOnlyBecomesTheDefaultDataFileOnUnix) {
   EXPECT_EQ(state_.TextFile, QStringLiteral("/no/such/none.txt"));
 }
 
+TEST_F(StartUpTest, AMissingFileIsKnownAsSuch) {
+  startWithCommandLine(QStringLiteral("/no/such/none.txt"), kUnixPaths);
+  EXPECT_EQ(state_.missingListing, QStringLiteral("/no/such/none.txt"));
+}
+
+TEST_F(StartUpTest, AnExistingFileIsNotMissing) {
+  startWithCommandLine(data_.writeFile(QStringLiteral("music.txt"), ""), kUnixPaths);
+  EXPECT_EQ(state_.missingListing, QString());
+}
+
 TEST_F(StartUpTest, AMissingFileGivesWayToTheSavedDataFile) {
   saved(QStringLiteral("TextFile"), QStringLiteral("main.txt"));
   startWithCommandLine(QStringLiteral("none.txt"), kUnixPaths);

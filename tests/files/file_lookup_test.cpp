@@ -132,6 +132,23 @@ TEST(FindOrdinaryFile, WildcardsInTheFolderAreNone) {
   EXPECT_EQ(findOrdinaryFile(folder.pathOf(QStringLiteral("s*/a.txt"))), u"");
 }
 
+TEST(PathFromTop, ARelativePathStartsInTheCurrentFolder) {
+  const TemporaryFolder folder;
+  const CurrentFolder inside(folder.path());
+  EXPECT_EQ(pathFromTop(u"lists/disk.txt"_qs), QDir::currentPath() + u"/lists/disk.txt"_qs);
+  EXPECT_EQ(pathFromTop(u"./disk.txt"_qs), QDir::currentPath() + u"/disk.txt"_qs);
+  EXPECT_EQ(pathFromTop(u"/lists/disk.txt"_qs), u"/lists/disk.txt"_qs);
+}
+
+TEST(PathFromTop, TheFolderAboveIsThatOfTheSystem) {
+  const TemporaryFolder folder;
+  folder.writeFile(u"real/disk.txt"_qs, "x");
+  folder.makeFolder(u"real/sub"_qs);
+  ASSERT_TRUE(QFile::link(folder.pathOf(u"real/sub"_qs), folder.pathOf(u"link"_qs)));
+  EXPECT_EQ(pathFromTop(folder.pathOf(u"link/../disk.txt"_qs)),
+            QFileInfo(folder.pathOf(u"real/disk.txt"_qs)).canonicalFilePath());
+}
+
 TEST(FileExists, HiddenOnesToo) {
   const TemporaryFolder folder;
   folder.writeFile(QStringLiteral(".hidden"), "x");
