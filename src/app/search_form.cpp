@@ -2,6 +2,7 @@
 
 #include "app/fault_report.h"
 #include "app/version.h"
+#include "app/window_place.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -38,6 +39,20 @@ constexpr std::int64_t kMillisecondsBetweenShowings = 16;
 
 void showCount(QLabel& label, std::optional<std::int64_t>& count) {
   if (!count) return;
+/// The usable areas of the screens, that of the primary one first.
+QList<QRect> usableScreens() {
+  QList<QRect> areas;
+  for (const QScreen* screen : QGuiApplication::screens()) areas.append(screen->availableGeometry());
+  return areas;
+}
+
+/// As wide as the widest and as high as the highest screen.
+QSize largestScreen() {
+  QSize largest;
+  for (const QRect& area : usableScreens()) largest = largest.expandedTo(area.size());
+  return largest.isEmpty() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : largest;
+}
+
   label.setText(QString::number(*count));
   count.reset();
 }
@@ -247,11 +262,35 @@ void SearchFormFrame::settleOuterSize() {
 
 void SearchFormFrame::moveOntoScreen() {
   const QRect outer = window_.frameGeometry();
-  const QList<QScreen*> screens = QGuiApplication::screens();
-  const bool canBeSeen = std::ranges::any_of(
-      screens, [&](const QScreen* screen) { return screen->availableGeometry().intersects(outer); });
-  if (canBeSeen || screens.isEmpty()) return;
-  window_.move(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+  const QRect place = placeOnScreens(outer, usableScreens());
+  if (place.topLeft() != outer.topLeft()) window_.move(place.topLeft());
+  if (place.size() == outer.size()) return;
+  window_.resize(place.size() - frameSize());
+  if (outerSizeWished_) outerSizeWished_ = place.size();
+}
+
+QString SearchFormFrame::maximizedFrom() const {
+  if (!window_.isMaximized()) return {};
+  const QRect inner = window_.normalGeometry();
+  if (inner == maximizedPlace_) return maximizedText_;
+  const QPoint place = inner.topLeft() - (window_.geometry().topLeft() - window_.frameGeometry().topLeft());
+  return QStringLiteral("%1 %2 %3 %4").arg(place.x()).arg(place.y()).arg(inner.width()).arg(inner.height());
+}
+
+void SearchFormFrame::restoreMaximized(const QString& text) {
+  if (text.isEmpty()) return;
+  const QStringList numbers = text.split(u' ');
+  const auto number = [&](qsizetype index) { return numbers.value(index).toInt(); };
+  const QSize inner = QSize(number(2), number(3)).boundedTo(largestScreen());
+  if (!window_.isVisible() && inner.isValid() && !inner.isEmpty()) {
+    outerSizeWished_.reset();
+    window_.move(number(0), number(1));
+    window_.resize(inner);
+    moveOntoScreen();
+  }
+  maximizedText_ = text;
+  maximizedPlace_ = window_.geometry();
+  window_.setWindowState(window_.windowState() | Qt::WindowMaximized);
 }
 
 float SearchFormFrame::placement(PlacementKey key) const {
@@ -268,6 +307,7 @@ float SearchFormFrame::placement(PlacementKey key) const {
   }
   return 0;
 }
+  if (window_.isMaximized()) return;
 
 void SearchFormFrame::setPlacement(PlacementKey key, float twips) {
   const int pixels = toPixels(twips);
@@ -280,10 +320,10 @@ void SearchFormFrame::setPlacement(PlacementKey key, float twips) {
       window_.move(pixels, window_.y());
       break;
     case PlacementKey::Width:
-      window_.resize(pixels - frame.width(), window_.height());
+      window_.resize(std::min(pixels, largestScreen().width()) - frame.width(), window_.height());
       break;
     case PlacementKey::Height:
-      window_.resize(window_.width(), pixels - frame.height());
+      window_.resize(window_.width(), std::min(pixels, largestScreen().height()) - frame.height());
       break;
   }
   if (!window_.isVisible()) outerSizeWished_ = window_.frameGeometry().size();

@@ -54,7 +54,8 @@ class SearchFormDisplay : public RunDisplay {
   QElapsedTimer sinceShown_;
 };
 
-/// Keeps the main window on a screen and no smaller than its controls need, in sizes that include its frame.
+/// Keeps the main window on a screen, no larger than that and no smaller than its controls need, in sizes
+/// that include its frame.
 class SearchFormFrame : public StartUpView, public ShutdownView {
  public:
   /// All must outlive the object.
@@ -71,8 +72,12 @@ class SearchFormFrame : public StartUpView, public ShutdownView {
   /// each start.
   bool isUnsettled() const { return outerSizeWished_.has_value(); }
   void settleOuterSize();
-  /// A place that was saved on a screen which is gone would hide the window.
+  /// Sees to it that the window is no larger than its screen and can be taken hold of: what was saved may be
+  /// of a screen that is gone.
   void moveOntoScreen();
+  /// Makes the window a maximized one that goes back to the place in `text`, which maximizedFrom() gave; does
+  /// nothing for empty text.
+  void restoreMaximized(const QString& text);
 
   // For start-up.
   void processEvents() override { display_.processEvents(); }
@@ -83,6 +88,7 @@ class SearchFormFrame : public StartUpView, public ShutdownView {
 
   // For shutdown.
   bool isMinimized() const override { return window_.isMinimized(); }
+  QString maximizedFrom() const override;
   void unloadOtherWindows() override;
   void enableSndQTime() override { jobs_.peers().SndQTime().enable(); }
 
@@ -96,6 +102,10 @@ class SearchFormFrame : public StartUpView, public ShutdownView {
   SearchFormWindows& windows_;
   /// The outer size asked for before the window had a frame.
   std::optional<QSize> outerSizeWished_;
+  /// What restoreMaximized() was given last, and the place that this gave the window. While the window still
+  /// goes back there, the text is kept as it is: without its frame it could only be guessed anew.
+  QString maximizedText_;
+  QRect maximizedPlace_;
 };
 
 /// The main window: it puts the parts together and hands over what the user does.

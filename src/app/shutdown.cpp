@@ -55,7 +55,9 @@ bool Shutdown::saveWhatCanBeSaved() {
 
 /// The place of a minimized window is none that anyone wants to find it in.
 void Shutdown::saveWindowPlace() {
-  if (!view_.isMinimized()) writePlacement(store_, state_, view_);
+  if (view_.isMinimized()) return;
+  writePlacement(store_, state_, view_);
+  writeMaximized(store_, state_, view_.maximizedFrom());
 }
 
 void Shutdown::stopAndLeave() {

@@ -15,6 +15,8 @@ namespace quorvin {
 class ShutdownView : public WindowPlacement {
  public:
   virtual bool isMinimized() const = 0;
+  /// Where a maximized window goes back to; empty for one that is not maximized.
+  virtual QString maximizedFrom() const = 0;
   /// Lets the pending window events run once.
   virtual void processEvents() = 0;
   /// Unloads `frmSplash`, `ListOptions`, `LocalLoc`, `Progress`, `ImgPre` and `frmBrowser`, in this order.

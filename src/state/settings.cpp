@@ -21,6 +21,8 @@ namespace quorvin {
 
 namespace {
 
+constexpr char16_t kMaximizedKey[] = u"Maximized";
+
 struct PlacementName {
   PlacementKey key;
   QString name;
@@ -177,6 +179,17 @@ void writePlacement(SettingsStore& store, const ProgramState& state, const Windo
     store.write(state.RegKey, QString::fromUtf16(kSettingsSection), name,
                 placementText(window.placement(key)));
   }
+}
+
+QString readMaximized(const SettingsStore& store, const ProgramState& state) {
+  return readSetting(store, state, QString::fromUtf16(kMaximizedKey), QString());
+}
+
+void writeMaximized(SettingsStore& store, const ProgramState& state, const QString& place) {
+  // Where start-up did not come to the window's place, it did not come to this one either.
+  if (!state.settingsRead.contains(placementNames().back().name)) return;
+  if (readMaximized(store, state) == place) return;
+  store.write(state.RegKey, QString::fromUtf16(kSettingsSection), QString::fromUtf16(kMaximizedKey), place);
 }
 
 void loadUserSources(ProgramState& state, const QLocale& locale) {

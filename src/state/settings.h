@@ -75,14 +75,21 @@ void noteSettingsAtStart(const SettingsStore& store, ProgramState& state, const 
 bool isSettingChanged(const ProgramState& state, const Setting& setting);
 
 /// Stores the six settings under `state.RegKey`, in the order in which they are read. One that was not read
-/// at start-up is stored only if the user has changed it since, and a `TextFile` that is still `missingListing`
-/// is not stored. Throws as the store does; what was stored before the fault stays.
+/// at start-up is stored only if the user has changed it since, and a `TextFile` that is still
+/// `missingListing` is not stored. Throws as the store does; what was stored before the fault stays.
 void writeSettings(SettingsStore& store, const ProgramState& state, const QLocale& locale);
 
 /// Stores the window's place and size under `state.RegKey`: Top, Left, Width, Height. One that was not read
 /// at start-up replaces only what is no number, which would end the next start-up too. Throws as the store
 /// does in writing.
 void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window);
+
+/// The eleventh key, "Maximized": where a maximized main window goes back to, as text that only the window
+/// understands; empty for one that is not maximized. Nothing is written where nothing changes, so the key is
+/// there only after the window was maximized once, nor where the window's place was not read. Both throw as
+/// the store does.
+QString readMaximized(const SettingsStore& store, const ProgramState& state);
+void writeMaximized(SettingsStore& store, const ProgramState& state, const QString& place);
 
 /// Settings and sources of this user, as the window loads them when no file is on its command line: the
 /// defaults, the settings store, both source lists. Throws RuntimeFault where the window would report a

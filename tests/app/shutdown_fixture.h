@@ -18,6 +18,7 @@ class LoggingWindows : public ShutdownView {
   float placement(PlacementKey key) const override { return static_cast<float>(key) * 1000 + 15.5F; }
   void setPlacement(PlacementKey, float) override {}
   bool isMinimized() const override { return minimized; }
+  QString maximizedFrom() const override { return maximized; }
   void processEvents() override {
     log += QStringLiteral("events");
     if (onEvents) onEvents();
@@ -26,6 +27,7 @@ class LoggingWindows : public ShutdownView {
   void enableSndQTime() override { log += QStringLiteral("SndQTime"); }
 
   bool minimized = false;
+  QString maximized;
   QStringList log;
   std::function<void()> onEvents;
 };

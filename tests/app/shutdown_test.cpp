@@ -206,17 +206,3 @@ TEST_F(ShutdownWithRecovery, ListsWithoutAFolderAreKept) {
 
 }  // namespace
 }  // namespace quorvin
-TEST_F(StartUpTest, ATypingErrorOnTheCommandLineIsGoneAtTheNextStart) {
-  data_.writeFile(QStringLiteral("any.txt"), "x");
-  saved(QStringLiteral("LocalFolder"), data_.path());
-  startWithCommandLine(QStringLiteral("/lists/dsik.txt"), kUnixPaths);
-  LoggingWindows windows;
-  Shutdown(state_, store_, boxes_, windows, conditions_.locale).Form_Unload();
-  EXPECT_FALSE(store_.has(QStringLiteral("Ketta Quorvin"), QStringLiteral("TextFile")));
-
-  conditions_.commandLine.clear();
-  ProgramState again;
-  startOf(again);
-  EXPECT_EQ(again.TextFile, QString());
-}
-

@@ -34,6 +34,7 @@ class WholeProgram {
     };
     StartUp(state, settings_, messages, form.frame(), extract).Form_Load(conditions);
     form.sourcesChanged();
+    form.frame().restoreMaximized(readMaximized(settings_, state));
     form.show();
     form.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&form));

@@ -24,6 +24,7 @@ class PlacedWindow : public StartUpView, public ShutdownView {
   void setWebUpdateEnabled(bool) override {}
   void processEvents() override {}
   bool isMinimized() const override { return false; }
+  QString maximizedFrom() const override { return {}; }
   void unloadOtherWindows() override {}
   void enableSndQTime() override {}
 

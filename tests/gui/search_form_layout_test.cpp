@@ -201,6 +201,62 @@ TEST_F(WindowLayout, APlaceOnNoScreenIsLeftWhenTheWindowIsShown) {
   EXPECT_TRUE(lost.screen()->availableGeometry().intersects(lost.frameGeometry()));
 }
 
+TEST_F(WindowLayout, ATitleBarAboveTheScreenComesBack) {
+  SearchForm lost(state_, messages_, shell_, QLocale::c());
+  lost.frame().setPlacement(PlacementKey::Top, -9000);
+  lost.frame().setPlacement(PlacementKey::Left, 150);
+  lost.frame().setPlacement(PlacementKey::Width, 9000);
+  lost.show();
+  EXPECT_EQ(lost.frameGeometry().top(), lost.screen()->availableGeometry().top());
+  EXPECT_EQ(lost.frameGeometry().left(), 10);
+}
+
+TEST_F(WindowLayout, AWindowIsNoLargerThanItsScreen) {
+  SearchForm large(state_, messages_, shell_, QLocale::c());
+  for (const PlacementKey key : {PlacementKey::Width, PlacementKey::Height}) {
+    large.frame().setPlacement(key, 500000);
+  }
+  const QRect screen = large.screen()->availableGeometry();
+  EXPECT_EQ(large.frameGeometry().size(), screen.size()) << "from the start, before any memory is taken";
+  large.show();
+  EXPECT_EQ(large.frameGeometry(), screen);
+}
+
+TEST_F(WindowLayout, AMaximizedWindowComesBackMaximizedAndGoesBackToItsPlace) {
+  form().frame().setPlacement(PlacementKey::Left, 450);
+  form().frame().setPlacement(PlacementKey::Top, 300);
+  form().resize(700, 500);
+  EXPECT_EQ(form().frame().maximizedFrom(), QString());
+  form().showMaximized();
+  QTest::qWait(0);
+  const QString kept = form().frame().maximizedFrom();
+  EXPECT_EQ(kept, QStringLiteral("30 20 700 500"));
+
+  SearchForm next(state_, messages_, shell_, QLocale::c());
+  // What shutdown keeps of a maximized window is as large as the screen.
+  next.frame().setPlacement(PlacementKey::Width, 12000);
+  next.frame().setPlacement(PlacementKey::Height, 12000);
+  next.frame().restoreMaximized(kept);
+  next.show();
+  QTest::qWait(0);
+  EXPECT_TRUE(next.isMaximized());
+  EXPECT_EQ(next.frame().maximizedFrom(), kept);
+  next.showNormal();
+  QTest::qWait(0);
+  EXPECT_EQ(next.frameGeometry().topLeft(), QPoint(30, 20));
+  EXPECT_EQ(next.size(), QSize(700, 500));
+}
+
+TEST_F(WindowLayout, AMaximizedWindowWhosePlaceMakesNoSenseIsStillMaximized) {
+  for (const char* text : {"x", "1 2", "90000 90000 -5 0", "0 0 999999999 999999999"}) {
+    SearchForm next(state_, messages_, shell_, QLocale::c());
+    next.frame().restoreMaximized(QString::fromLatin1(text));
+    EXPECT_LE(next.normalGeometry().width(), next.screen()->availableGeometry().width()) << text;
+    next.show();
+    EXPECT_TRUE(next.isMaximized()) << text;
+  }
+}
+
 /// The controls of a window with a font of `points`, at its first size.
 class InitialLayout : public SearchFormTest, public testing::WithParamInterface<int> {
  protected:
