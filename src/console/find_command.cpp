@@ -52,7 +52,7 @@ int runFind(const FindRequest& request) {
   SearchRun run(std::move(parts));
   bool failed = false;
   try {
-    if (request.listings.empty()) loadUserSources(state, locale);
+    if (request.listings.empty()) loadUserSources(state, locale, messages);
     watchStopSignal();
     search(request, run);
   } catch (const RuntimeFault& fault) {

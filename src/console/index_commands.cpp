@@ -217,7 +217,7 @@ int runRefresh() {
   ErrorLines messages;
   watchStopSignal();
   try {
-    loadUserSources(state, locale);
+    loadUserSources(state, locale, messages);
   } catch (const RuntimeFault& fault) {
     printError(fault.description());
     return 2;

@@ -36,8 +36,18 @@ void prepareUserDataFolder(const QString& folder) {
               "You can choose another folder under File, Options.\r\n");
 }
 
+ProgramPlace usualProgramPlace() {
+  const QString executableFolder = QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
+  return {withTrailingSeparator(executableFolder, nativePathStyle()), userDataFolder()};
+}
+
+bool isInstalledOrBuilt(const QString& executableFolder) {
+  return QFileInfo(executableFolder + QStringLiteral("/../share/quorvin/help")).isDir() ||
+         QFileInfo(executableFolder + QStringLiteral("/../CMakeCache.txt")).isFile();
+}
+
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataFolder) {
-  if (QFileInfo(executableFolder).isWritable()) {
+  if (!isInstalledOrBuilt(executableFolder) && QFileInfo(executableFolder).isWritable()) {
     return withTrailingSeparator(QDir::toNativeSeparators(executableFolder), nativePathStyle());
   }
   prepareUserDataFolder(dataFolder);

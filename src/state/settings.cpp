@@ -6,6 +6,7 @@
 #include "files/path_style.h"
 #include "platform/ini_settings_store.h"
 #include "platform/standard_folders.h"
+#include "state/data_taken_along.h"
 #include "state/source_list_file.h"
 #include "state/text_line_reader.h"
 
@@ -192,10 +193,11 @@ void writeMaximized(SettingsStore& store, const ProgramState& state, const QStri
   store.write(state.RegKey, QString::fromUtf16(kSettingsSection), QString::fromUtf16(kMaximizedKey), place);
 }
 
-void loadUserSources(ProgramState& state, const QLocale& locale) {
+void loadUserSources(ProgramState& state, const QLocale& locale, MessageBoxes& messages) {
   state.resetFileNames();
+  IniSettingsStore store(userSettingsPath());
+  takeAlongData(store, state.RegKey, usualProgramPlace(), messages);
   readDefaultsFile(state);
-  const IniSettingsStore store(userSettingsPath());
   readSettings(store, state, dateValueOf(QDateTime::currentDateTime()), locale);
   completeLocalFolder(state, programFolder);
   loadSourceLists(state);

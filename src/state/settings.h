@@ -2,6 +2,7 @@
 // the local data folder, which is one of them. What start-up could not read is not overwritten by shutdown.
 #pragma once
 
+#include "platform/message_box.h"
 #include "platform/settings_store.h"
 #include "state/program_state.h"
 
@@ -91,10 +92,11 @@ void writePlacement(SettingsStore& store, const ProgramState& state, const Windo
 QString readMaximized(const SettingsStore& store, const ProgramState& state);
 void writeMaximized(SettingsStore& store, const ProgramState& state, const QString& place);
 
-/// Settings and sources of this user, as the window loads them when no file is on its command line: the
-/// defaults, the settings store, both source lists. Throws RuntimeFault where the window would report a
-/// start-up error; what was loaded before stays.
-void loadUserSources(ProgramState& state, const QLocale& locale);
+/// Settings and sources of this user, as the window loads them when no file is on its command line: what an
+/// earlier version kept beside the program is taken along and `messages` say so, then come the defaults, the
+/// settings store, both source lists. Throws RuntimeFault where the window would report a start-up error;
+/// what was loaded before stays.
+void loadUserSources(ProgramState& state, const QLocale& locale, MessageBoxes& messages);
 
 /// Whether `folder`, which ends in a separator or is empty, can be the local data folder: at least one
 /// ordinary file is in it. Empty text names no folder, not even the current one.

@@ -6,8 +6,11 @@
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace quorvin {
 
@@ -81,6 +84,34 @@ TEST(ChooseProgramFolder, IsTheDataFolderMadeReadyElsewhere) {
   const QString data = folder.pathOf(QStringLiteral("data/"));
   EXPECT_EQ(chooseProgramFolder(folder.pathOf(QStringLiteral("no such folder")), data), data);
   EXPECT_TRUE(folder.has(kNote));
+}
+
+TEST(ChooseProgramFolder, OfAnInstalledProgramIsTheDataFolderWhoeverMayWrite) {
+  const TemporaryFolder folder;
+  const QString own = folder.makeFolder(QStringLiteral("usr/bin"));
+  folder.makeFolder(QStringLiteral("usr/share/quorvin/help"));
+  const QString data = folder.pathOf(QStringLiteral("data/"));
+  EXPECT_EQ(chooseProgramFolder(own.chopped(1), data), data);
+  EXPECT_TRUE(folder.has(kNote));
+}
+
+TEST(ChooseProgramFolder, OfAProgramInItsBuildFolderIsTheDataFolder) {
+  const TemporaryFolder folder;
+  const QString own = folder.makeFolder(QStringLiteral("build/bin"));
+  folder.writeFile(QStringLiteral("build/CMakeCache.txt"), "x");
+  const QString data = folder.pathOf(QStringLiteral("data/"));
+  EXPECT_EQ(chooseProgramFolder(own.chopped(1), data), data);
+  EXPECT_TRUE(folder.has(kNote));
+}
+
+TEST(ProgramPlaceOfThisRun, IsBesideTheExecutableAndInTheUsersData) {
+  std::array<char, 5> name{"test"};
+  std::array<char*, 2> arguments{name.data(), nullptr};
+  int count = 1;
+  const QCoreApplication application(count, arguments.data());
+  const ProgramPlace place = usualProgramPlace();
+  EXPECT_EQ(place.executableFolder, QFileInfo(u"/proc/self/exe"_qs).canonicalPath() + u'/');
+  EXPECT_EQ(place.dataFolder, userDataFolder());
 }
 
 }  // namespace quorvin
