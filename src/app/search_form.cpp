@@ -205,6 +205,26 @@ void SearchForm::closeEvent(QCloseEvent* event) {
 
 /// False where the program could not save everything: then the window stays, with all that it has.
 bool SearchForm::Form_Unload() {
+void SearchForm::comeForward(const QString& activationToken) {
+  // Wayland's plugin takes the token from there when it asks for the focus.
+  if (!activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+  if (isVisible()) setWindowState(windowState() & ~Qt::WindowMinimized);
+  QWidget* dialog = QApplication::activeModalWidget();
+  QWidget& front = dialog ? *dialog : *this;
+  front.raise();
+  front.activateWindow();
+}
+
+void SearchForm::closeUnasked() {
+  if (!close()) close();
+  const QWidget* before = nullptr;
+  while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+    if (dialog == before) return;
+    before = dialog;
+    dialog->reject();
+  }
+}
+
   bool isThrough = !unloadHandler_;
   reportFaults(messages_, QStringLiteral("saving. The program stays open; close it again to leave"), [&] {
     if (unloadHandler_) unloadHandler_();

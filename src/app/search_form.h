@@ -129,6 +129,13 @@ class SearchForm : public QMainWindow {
   /// What is to happen whenever sourcesChanged() is called.
   void setSourcesHandler(std::function<void()> handler) { sourcesHandler_ = std::move(handler); }
 
+  /// Brings the window to the front, or the dialog that is open above it. `activationToken` is the desktop's
+  /// permission for that; it may be empty.
+  void comeForward(const QString& activationToken);
+  /// The system wants the program to end: closes the window as the user would, and the dialogs and messages
+  /// that are open. What cannot be saved at the second attempt either is given up.
+  void closeUnasked();
+
   /// What start-up and shutdown work with.
   SearchFormFrame& frame() { return frame_; }
   /// Its long jobs.

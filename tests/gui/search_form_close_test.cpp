@@ -108,6 +108,66 @@ TEST_F(WindowClose, ARunningSearchEndsAtItsNextYield) {
 }
 
 // What the menus open.
+// Closing because the system wants it.
+
+TEST_F(WindowClose, WithoutTheUserItSavesAndLeavesToo) {
+  form().closeUnasked();
+  expectSavedAndLeaving();
+}
+
+TEST_F(WindowClose, WithoutTheUserItLeavesEvenWhatCannotBeSaved) {
+  form();
+  settings_.refusesWrites = true;
+  form().closeUnasked();
+  EXPECT_FALSE(form().isVisible());
+  EXPECT_TRUE(state_.ShuttingDown);
+  EXPECT_TRUE(folder_.has(QStringLiteral("Locations.txt")));
+}
+
+TEST_F(WindowClose, WithoutTheUserNoQuestionStaysOpen) {
+  form();
+  WidgetMessageBoxes boxes;
+  QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, [&] {
+      ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+      boxes.fallSilent();
+      form().closeUnasked();
+    });
+    EXPECT_FALSE(boxes.askYesNo(QStringLiteral("Really?")));
+  });
+  form().menus().OptionsMenu->trigger();
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(state_.ShuttingDown);
+}
+
+// Coming to the front.
+
+TEST_F(WindowClose, AMinimizedWindowComesForward) {
+  form().showMinimized();
+  QTest::qWait(0);
+  form().comeForward({});
+  EXPECT_FALSE(form().isMinimized());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&form()));
+}
+
+TEST_F(WindowClose, TheOpenDialogComesForward) {
+  form();
+  bool isInFront = false;
+  QTimer::singleShot(0, [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    form().comeForward({});
+    isInFront = QTest::qWaitForWindowActive(dialog);
+    qobject_cast<QDialog*>(dialog)->reject();
+  });
+  form().menus().OptionsMenu->trigger();
+  EXPECT_TRUE(isInFront);
+}
+
 
 class WindowMenus : public WindowClose {
  protected:
