@@ -1,4 +1,5 @@
 // The program with the window.
+#include "app/command_line.h"
 #include "app/hit_actions.h"
 #include "app/main_application.h"
 #include "app/search_form.h"
@@ -6,10 +7,14 @@
 #include "app/start_up.h"
 #include "app/version.h"
 #include "dates/general_date.h"
+#include "faults/runtime_fault.h"
+#include "files/file_lookup.h"
 #include "platform/desktop_shell.h"
 #include "platform/ini_settings_store.h"
+#include "platform/one_window.h"
 #include "platform/standard_folders.h"
 #include "search/segment/segment_store.h"
+#include "state/data_taken_along.h"
 #include "state/program_state.h"
 #include "state/recovery_copy.h"
 
@@ -19,6 +24,8 @@
 #include <QTimer>
 
 #include <chrono>
+#include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -31,54 +38,164 @@ QString versionNumbers() {
   return QStringLiteral("%1.%2.%3").arg(version.majorNumber).arg(version.minorNumber).arg(version.revision);
 }
 
-StartUpConditions conditionsOfThisRun(const QLocale& locale) {
-  StartUpConditions conditions;
-  conditions.commandLine = QCoreApplication::arguments().mid(1).join(u' ');
-  conditions.programFolder = [] { return programFolder(); };
-  conditions.now = dateValueOf(QDateTime::currentDateTime());
-  conditions.locale = locale;
-  return conditions;
+int write(const QString& text) {
+  std::fputs(text.toLocal8Bit().constData(), stdout);
+  return std::fflush(stdout) == 0 ? 0 : 2;
 }
+
+/// Nothing where the window is wanted.
+std::optional<int> answerToOption(const CommandLine& line) {
+  switch (line.wish) {
+    case CommandLine::Wish::ShowVersion:
+      return write(QStringLiteral("quorvin %1\n").arg(versionNumbers()));
+    case CommandLine::Wish::ShowHelp:
+      return write(usageText());
+    case CommandLine::Wish::RefuseOption:
+      std::fprintf(stderr, "quorvin: unknown option %s\nTry: quorvin --help\n",
+                   line.text.toLocal8Bit().constData());
+      return 2;
+    case CommandLine::Wish::OpenWindow:
+      break;
+  }
+  return std::nullopt;
+}
+
+/// Help and version are also shown where there is no screen. Other options may be the toolkit's, which only
+/// the application object can tell.
+std::optional<int> answerWithoutScreen(int argc, char** argv) {
+  QStringList arguments;
+  for (int index = 1; index < argc; ++index) arguments.append(QString::fromLocal8Bit(argv[index]));
+  const CommandLine line = readCommandLine(arguments);
+  return line.wish == CommandLine::Wish::RefuseOption ? std::nullopt : answerToOption(line);
+}
+
+/// The same for starts that are to share a window: those with one set of settings on one screen.
+QString sharedWindow(const QString& commandLine) {
+  const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
+  const QString screen = wayland.isEmpty() ? qEnvironmentVariable("DISPLAY") : wayland;
+  return QStringList{pathFromTop(userSettingsPath()), settingsSetOf(commandLine), screen}.join(u'\n');
+}
+
+/// The toolkit removes it from the environment.
+QString activationToken() {
+  const QString token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
+  return token.isEmpty() ? qEnvironmentVariable("DESKTOP_STARTUP_ID") : token;
+}
+
+/// One run of the program with its window.
+class Run {
+ public:
+  Run(Application& application, WidgetMessageBoxes& messages, const QString& commandLine)
+      : application_(application), messages_(messages), commandLine_(commandLine) {
+    form_.setUnloadHandler([this] { shutdown_.Form_Unload(); });
+    shutdown_.setRecoveryCopy(&recovery_);
+    untilKept_.setSingleShot(true);
+    untilKept_.setInterval(kChangeIsKeptAfter);
+    QObject::connect(&untilKept_, &QTimer::timeout, &form_, [this] { recovery_.keep(); });
+    // The timer of the main window ends the program, once a refresh has come to its end.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+  }
+  ~Run() { application_.setLeaveHandler({}); }
+  Run(const Run&) = delete;
+  Run& operator=(const Run&) = delete;
+
+  /// Answers a later start with the same settings; false while the program closes.
+  bool take(const LaterStart& later) {
+    if (form_.jobs().work().isClosing()) return false;
+    // The later one is to have its answer first.
+    QTimer::singleShot(0, &form_, [this, later] {
+      form_.comeForward(later.activationToken);
+      // One that is there has this window only where it is this window's own.
+      const bool isMissing = !later.commandLine.isEmpty() && later.commandLine != commandLine_;
+      if (isMissing) messages_.inform(QString::fromUtf16(kListingNotFound));
+    });
+    return true;
+  }
+
+  int exec() {
+    takeAlongData(settings_, settingsSetOf(commandLine_), usualProgramPlace(), messages_);
+    StartUp(state_, settings_, messages_, form_.frame(),
+            [this](const QString& archivePath, const QString& targetFolder) {
+              watchForTheEnd();
+              form_.jobs().extractDataFile(archivePath, targetFolder);
+            })
+        .Form_Load(conditions());
+    // The window may have been closed while the main data file was being unpacked.
+    if (form_.hasLeft()) return 0;
+    watchForTheEnd();
+    form_.sourcesChanged();
+    form_.setSourcesHandler([this] { untilKept_.start(); });
+    // Once events run, so that the program can be closed over the question.
+    QTimer::singleShot(0, &form_, [this] { offerRecovery(); });
+    if (!form_.jobs().work().isClosing()) {
+      form_.frame().restoreMaximized(placeOfMaximized());
+      form_.show();
+    }
+    return QCoreApplication::exec();
+  }
+
+ private:
+  StartUpConditions conditions() const {
+    StartUpConditions conditions;
+    conditions.commandLine = commandLine_;
+    conditions.programFolder = [] { return programFolder(); };
+    conditions.now = dateValueOf(QDateTime::currentDateTime());
+    conditions.locale = locale_;
+    return conditions;
+  }
+
+  void offerRecovery() {
+    if (form_.jobs().work().isClosing()) return;
+    recovery_.offer(messages_);
+    form_.sourcesChanged();
+  }
+
+  /// From when the settings and lists have been read: before, there is nothing that could be lost.
+  void watchForTheEnd() {
+    application_.setLeaveHandler([this] {
+      messages_.fallSilent();
+      form_.closeUnasked();
+    });
+  }
+
+  QString placeOfMaximized() const {
+    try {
+      return readMaximized(settings_, state_);
+    } catch (const RuntimeFault&) {
+      // Start-up has reported that the settings cannot be read.
+      return {};
+    }
+  }
+
+  Application& application_;
+  WidgetMessageBoxes& messages_;
+  const QString commandLine_;
+  const QLocale locale_;
+  ProgramState state_;
+  IniSettingsStore settings_{userSettingsPath()};
+  RecoveryCopy recovery_{state_, locale_, userSettingsPath()};
+  QTimer untilKept_;
+  SegmentStore segments_{SegmentStore::defaultOptions()};
+  DesktopShell shell_{[this] { return enqueueCommand(settings_, state_); }};
+  SearchForm form_{state_, messages_, shell_, locale_, &segments_};
+  Shutdown shutdown_{state_, settings_, messages_, form_.frame(), locale_};
+};
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (const std::optional<int> status = answerWithoutScreen(argc, argv)) return *status;
+  const QString token = activationToken();
   WidgetMessageBoxes messages;
   Application application(argc, argv, messages);
   QCoreApplication::setApplicationName(QStringLiteral("quorvin"));
   QCoreApplication::setApplicationVersion(versionNumbers());
 
-  const QLocale locale;
-  ProgramState state;
-  IniSettingsStore settings(userSettingsPath());
-  SegmentStore images(SegmentStore::defaultOptions());
-  DesktopShell shell([&] { return enqueueCommand(settings, state); });
-  SearchForm form(state, messages, shell, locale, &images);
-  Shutdown shutdown(state, settings, messages, form.frame(), locale);
-  RecoveryCopy recovery(state, locale, userSettingsPath());
-  shutdown.setRecoveryCopy(&recovery);
-  QTimer untilKept;
-  untilKept.setSingleShot(true);
-  untilKept.setInterval(kChangeIsKeptAfter);
-  QObject::connect(&untilKept, &QTimer::timeout, &form, [&recovery] { recovery.keep(); });
-  form.setUnloadHandler([&shutdown] { shutdown.Form_Unload(); });
-  // The timer of the main window ends the program, once a refresh has come to its end.
-  QGuiApplication::setQuitOnLastWindowClosed(false);
-  StartUp startUp(state, settings, messages, form.frame(),
-                  [&form](const QString& archivePath, const QString& targetFolder) {
-                    form.jobs().extractDataFile(archivePath, targetFolder);
-                  });
-  startUp.Form_Load(conditionsOfThisRun(locale));
-  // The window may have been closed while the main data file was being unpacked.
-  if (form.hasLeft()) return 0;
-  form.sourcesChanged();
-  form.setSourcesHandler([&untilKept] { untilKept.start(); });
-  // Once events run, so that the question can be left by closing the program.
-  QTimer::singleShot(0, &form, [&] {
-    if (form.jobs().work().isClosing()) return;
-    recovery.offer(messages);
-    form.sourcesChanged();
-  });
-  if (!form.jobs().work().isClosing()) form.show();
-  return QCoreApplication::exec();
+  const CommandLine line = readCommandLine(QCoreApplication::arguments().mid(1));
+  if (const std::optional<int> status = answerToOption(line)) return *status;
+  OneWindow oneWindow(sharedWindow(line.text), usualOneWindowOptions());
+  if (oneWindow.handOver({line.text, token})) return 0;
+  Run run(application, messages, line.text);
+  oneWindow.serve([&run](const LaterStart& later) { return run.take(later); });
+  return run.exec();
 }

@@ -11,6 +11,9 @@
 #include <QMessageBox>
 #include <QWidget>
 
+#include <cstdio>
+#include <utility>
+
 namespace quorvin {
 
 namespace {
@@ -37,6 +40,10 @@ void nameIcon(const QMessageBox& box) {
   }
 }
 
+void writeLine(const QString& text) {
+  std::fprintf(stderr, "quorvin: %s\n", text.simplified().toLocal8Bit().constData());
+}
+
 QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
                                  QMessageBox::StandardButtons buttons) {
   QString lines = text;
@@ -54,6 +61,19 @@ QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
 Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
+  // The session goes on only when everybody has answered, so the handler has to be through by then.
+  connect(
+      this, &QGuiApplication::commitDataRequest, this,
+      [this] {
+        if (leave_) leave_();
+      },
+      Qt::DirectConnection);
+}
+
+void Application::setLeaveHandler(std::function<void()> leave) {
+  leave_ = std::move(leave);
+  signals_.reset();
+  if (leave_) signals_.emplace([this] { leave_(); });
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
@@ -64,14 +84,20 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void WidgetMessageBoxes::inform(const QString& text) {
+  if (isSilent_) return writeLine(text);
   show(QMessageBox::Information, text, QMessageBox::Ok);
 }
 
 bool WidgetMessageBoxes::askYesNo(const QString& text) {
-  return show(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+  return !isSilent_ &&
+         show(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 FaultAnswer WidgetMessageBoxes::askAbortRetryIgnore(const QString& text) {
+  if (isSilent_) {
+    writeLine(text);
+    return FaultAnswer::Abort;
+  }
   switch (show(QMessageBox::Warning, text, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore)) {
     case QMessageBox::Abort:
       return FaultAnswer::Abort;

@@ -1,9 +1,13 @@
 // The application object and its message boxes.
 #pragma once
 
+#include "platform/close_signals.h"
 #include "platform/message_box.h"
 
 #include <QApplication>
+
+#include <functional>
+#include <optional>
 
 namespace quorvin {
 
@@ -18,17 +22,31 @@ class Application : public QApplication {
 
   bool notify(QObject* receiver, QEvent* event) override;
 
+  /// Has `leave` called from the event loop when the system wants the program to end: by the signals of
+  /// CloseSignals, or since the desktop session ends. Without one, signals do what they did before. Throws as
+  /// CloseSignals does.
+  void setLeaveHandler(std::function<void()> leave);
+
  private:
   MessageBoxes& messages_;
+  std::function<void()> leave_;
+  std::optional<CloseSignals> signals_;
 };
 
 /// Shows each message in a separate box above the window in use, with the application title. A call
 /// returns when the user has answered; events run meanwhile.
 class WidgetMessageBoxes : public MessageBoxes {
  public:
+  /// Nobody is there to answer any more: from now on messages become lines on standard error, questions are
+  /// answered with No, and faults in a long piece of work with Abort.
+  void fallSilent() { isSilent_ = true; }
+
   void inform(const QString& text) override;
   bool askYesNo(const QString& text) override;
   FaultAnswer askAbortRetryIgnore(const QString& text) override;
+
+ private:
+  bool isSilent_ = false;
 };
 
 }  // namespace quorvin

@@ -4,8 +4,10 @@
 #include "app/version.h"
 #include "app/window_place.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -37,8 +39,6 @@ float toTwips(int pixels) {
 
 constexpr std::int64_t kMillisecondsBetweenShowings = 16;
 
-void showCount(QLabel& label, std::optional<std::int64_t>& count) {
-  if (!count) return;
 /// The usable areas of the screens, that of the primary one first.
 QList<QRect> usableScreens() {
   QList<QRect> areas;
@@ -53,6 +53,8 @@ QSize largestScreen() {
   return largest.isEmpty() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : largest;
 }
 
+void showCount(QLabel& label, std::optional<std::int64_t>& count) {
+  if (!count) return;
   label.setText(QString::number(*count));
   count.reset();
 }
@@ -203,8 +205,6 @@ void SearchForm::closeEvent(QCloseEvent* event) {
   event->setAccepted(Form_Unload());
 }
 
-/// False where the program could not save everything: then the window stays, with all that it has.
-bool SearchForm::Form_Unload() {
 void SearchForm::comeForward(const QString& activationToken) {
   // Wayland's plugin takes the token from there when it asks for the focus.
   if (!activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
@@ -217,14 +217,14 @@ void SearchForm::comeForward(const QString& activationToken) {
 
 void SearchForm::closeUnasked() {
   if (!close()) close();
-  const QWidget* before = nullptr;
-  while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-    if (dialog == before) return;
-    before = dialog;
-    dialog->reject();
+  const QWidget* last = nullptr;
+  for (QWidget* open; (open = QApplication::activeModalWidget()) != last; last = open) {
+    if (auto* dialog = qobject_cast<QDialog*>(open)) dialog->reject();
   }
 }
 
+/// False where the program could not save everything: then the window stays, with all that it has.
+bool SearchForm::Form_Unload() {
   bool isThrough = !unloadHandler_;
   reportFaults(messages_, QStringLiteral("saving. The program stays open; close it again to leave"), [&] {
     if (unloadHandler_) unloadHandler_();
@@ -281,6 +281,7 @@ void SearchFormFrame::settleOuterSize() {
 }
 
 void SearchFormFrame::moveOntoScreen() {
+  if (window_.isMaximized()) return;
   const QRect outer = window_.frameGeometry();
   const QRect place = placeOnScreens(outer, usableScreens());
   if (place.topLeft() != outer.topLeft()) window_.move(place.topLeft());
@@ -327,7 +328,6 @@ float SearchFormFrame::placement(PlacementKey key) const {
   }
   return 0;
 }
-  if (window_.isMaximized()) return;
 
 void SearchFormFrame::setPlacement(PlacementKey key, float twips) {
   const int pixels = toPixels(twips);
@@ -339,6 +339,7 @@ void SearchFormFrame::setPlacement(PlacementKey key, float twips) {
     case PlacementKey::Left:
       window_.move(pixels, window_.y());
       break;
+    // A larger one would take memory for pixels that nobody can see.
     case PlacementKey::Width:
       window_.resize(std::min(pixels, largestScreen().width()) - frame.width(), window_.height());
       break;

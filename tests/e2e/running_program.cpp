@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 
+#include <csignal>
 #include <stdexcept>
 
 namespace quorvin::test {
@@ -158,9 +159,20 @@ void RunningProgram::waitForHits(const QStringList& rows) const {
 }
 
 ProgramEnd RunningProgram::endBy(const QStringList& keys) {
+  press(keys);
+  return waitForEnd();
+}
+
+ProgramEnd RunningProgram::endBySignal(int number) {
+  if (::kill(static_cast<pid_t>(process_.processId()), number) != 0) {
+    throw std::runtime_error("the program is not there");
+  }
+  return waitForEnd();
+}
+
+ProgramEnd RunningProgram::waitForEnd() {
   QElapsedTimer sinceAsked;
   sinceAsked.start();
-  press(keys);
   if (!process_.waitForFinished(kLongestEndMilliseconds))
     throw std::runtime_error("the program does not end");
   return {process_.exitStatus() == QProcess::NormalExit, process_.exitCode(),

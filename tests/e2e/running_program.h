@@ -75,8 +75,11 @@ class RunningProgram {
 
   /// Presses these keys, upon which the program ends.
   ProgramEnd endBy(const QStringList& keys);
+  /// Sends the program a signal, upon which it ends.
+  ProgramEnd endBySignal(int number);
 
  private:
+  ProgramEnd waitForEnd();
   QString activeTitle() const;
 
   const Desktop& desktop_;

@@ -3,10 +3,16 @@
 
 #include "faults/runtime_fault.h"
 #include "gui/last_resort_messages.h"
+#include "support/eventually.h"
 #include "support/qt_printing.h"
 
 #include <QEvent>
+#include <QMetaMethod>
 #include <gtest/gtest.h>
+
+#include <array>
+#include <csignal>
+#include <cstddef>
 
 namespace quorvin::test {
 
@@ -28,6 +34,29 @@ TEST(MainApplication, TellsAFaultThatNoHandlerDealtWithAndGoesOn) {
   EXPECT_EQ(lastResortMessages().informed[0],
             QStringLiteral("Run-time error '61': Disk full: /data\r\n\r\n"
                            "This happened while handling an event of the window system."));
+}
+
+/// As the toolkit does when the desktop session ends. The session manager itself is one of its private
+/// classes; nobody looks at it here.
+void endTheSession() {
+  alignas(std::max_align_t) std::array<char, 64> manager{};
+  const QMetaMethod ending = QMetaMethod::fromSignal(&QGuiApplication::commitDataRequest);
+  ASSERT_TRUE(
+      ending.invoke(qApp, Qt::DirectConnection, QGenericArgument("QSessionManager&", manager.data())));
+}
+
+TEST(MainApplication, LeavesAtASignalAndAtTheEndOfTheSession) {
+  auto* application = qobject_cast<Application*>(qApp);
+  ASSERT_NE(application, nullptr);
+  int calls = 0;
+  application->setLeaveHandler([&] { ++calls; });
+  endTheSession();
+  EXPECT_EQ(calls, 1) << "before the session goes on";
+  std::raise(SIGTERM);
+  EXPECT_EVENTUALLY(calls == 2);
+  application->setLeaveHandler({});
+  endTheSession();
+  EXPECT_EQ(calls, 2);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "app/main_application.h"
 #include "gui/search_form_fixture.h"
 #include "state/source_list_file.h"
 #include "support/eventually.h"
@@ -107,7 +108,6 @@ TEST_F(WindowClose, ARunningSearchEndsAtItsNextYield) {
   EXPECT_TRUE(messages_.informed.empty());
 }
 
-// What the menus open.
 // Closing because the system wants it.
 
 TEST_F(WindowClose, WithoutTheUserItSavesAndLeavesToo) {
@@ -168,6 +168,7 @@ TEST_F(WindowClose, TheOpenDialogComesForward) {
   EXPECT_TRUE(isInFront);
 }
 
+// What the menus open.
 
 class WindowMenus : public WindowClose {
  protected:

@@ -40,6 +40,16 @@ TEST(WidgetMessageBoxes, InformShowsTheTextWithTheTitleAndOk) {
   EXPECT_EQ(seen.buttons, QMessageBox::Ok);
 }
 
+TEST(WidgetMessageBoxes, WithoutAnybodyToAnswerTheyAreLinesOnStandardError) {
+  WidgetMessageBoxes boxes;
+  boxes.fallSilent();
+  testing::internal::CaptureStderr();
+  boxes.inform(QStringLiteral("one\r\n\r\ntwo"));
+  EXPECT_FALSE(boxes.askYesNo(QStringLiteral("Really?")));
+  EXPECT_EQ(boxes.askAbortRetryIgnore(QStringLiteral("three")), FaultAnswer::Abort);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "quorvin: one two\nquorvin: three\n");
+}
+
 TEST(WidgetMessageBoxes, LinesAreBroken) {
   SeenBox seen;
   answerWith(QMessageBox::Ok, seen);
