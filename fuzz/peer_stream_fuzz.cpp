@@ -1,39 +1,39 @@
 // What a peer's server sends, held against the order that AnswerSink promises. An input is a byte for the
 // size of the pieces in which the stream comes, and the stream.
 #include "faults/runtime_fault.h"
+#include "fuzz/require.h"
 #include "peers/client/answer_stream.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <set>
 
 namespace quorvin {
 namespace {
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::require;
 
 class OrderCheck : public AnswerSink {
  public:
-  void identityArrived(const QByteArray& message) override { require(!message.isEmpty()); }
+  void identityArrived(const QByteArray& message) override {
+    require(!message.isEmpty(), "an identity has a text");
+  }
   bool listNamed(const QByteArray& name) override { return asked_.insert(name).second; }
   void archiveAnnounced(const QByteArray& name, const QByteArray& message) override {
-    require(!isComing_);
-    require(asked_.count(name) != 0);
-    require(!message.isEmpty());
+    require(!isComing_, "one archive comes at a time");
+    require(asked_.count(name) != 0, "what is announced was asked for");
+    require(!message.isEmpty(), "an announcement has a text");
     isComing_ = true;
     length_ = 0;
   }
   void archiveBytes(QByteArrayView bytes) override {
-    require(isComing_);
+    require(isComing_, "bytes belong to an archive");
     length_ += bytes.size();
   }
   void archiveWhole() override { endArchive(); }
   void archiveMissing() override { endArchive(); }
   void archiveCut(std::int64_t length) override {
-    require(length >= 0 && length <= length_);
+    require(length >= 0 && length <= length_, "an archive is cut where it was");
     endArchive();
   }
   // Asked for once more only once, as a client does that does not go on for ever.
@@ -41,12 +41,11 @@ class OrderCheck : public AnswerSink {
 
  private:
   void endArchive() {
-    require(isComing_);
+    require(isComing_, "an archive ends that has come");
     isComing_ = false;
   }
 
   std::set<QByteArray> asked_;
-  std::set<QByteArray> askedAgain_;
   bool isComing_ = false;
   std::int64_t length_ = 0;
 };

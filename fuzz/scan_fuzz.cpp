@@ -1,15 +1,15 @@
 // The scan of a listing, held against the plain reference. An input is a byte for the size of the chunks, a
 // byte for the desired match and the way to scan, a line with the search text, and the listing.
 #include "faults/runtime_fault.h"
+#include "fuzz/require.h"
 #include "platform/text_encoding.h"
 #include "search/quick_scan.h"
 #include "support/reference_scan.h"
 #include "support/scan_of.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
+#include <string>
 
 namespace quorvin {
 namespace {
@@ -36,8 +36,7 @@ std::optional<Input> inputOf(const std::uint8_t* data, std::size_t size) {
 
 void require(const test::PlainResult& result, const test::PlainResult& expected, const char* way) {
   if (result == expected) return;
-  std::fprintf(stderr, "%s: %s\n", way, test::differenceOf(result, expected).c_str());
-  std::abort();
+  throw fuzz::BrokenPromise(std::string(way) + ": " + test::differenceOf(result, expected));
 }
 
 void compareParts(const Input& input, const test::PlainResult& expected) {

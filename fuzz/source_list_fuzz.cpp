@@ -1,6 +1,7 @@
 // The reader of source lists, held against the rules of docs/formats/source-lists.md written down as plainly
 // as can be, over the whole file at once. An input is the file.
 #include "faults/runtime_fault.h"
+#include "fuzz/require.h"
 #include "platform/text_encoding.h"
 #include "state/source_list_file.h"
 
@@ -8,8 +9,7 @@
 #include <QTemporaryDir>
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -97,7 +97,7 @@ class PlainFields {
 
 Reading plainReading(const QByteArray& file) {
   Reading reading;
-  PlainFields fields(file);
+  PlainFields fields(file.startsWith("\xEF\xBB\xBF") ? file.sliced(3) : file);
   while (!fields.atEnd()) {
     QString description;
     QString path;
@@ -118,7 +118,8 @@ Reading programReading(const QByteArray& bytes) {
   static const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("list.txt"));
   QFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) std::abort();
+  const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+  fuzz::require(isWritten, "the list can be written");
   file.close();
   SourceTable table;
   int count = 0;
@@ -141,8 +142,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const QByteArray file(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
   const Reading reading = programReading(file);
   const Reading expected = plainReading(file);
-  if (reading == expected) return 0;
-  std::fprintf(stderr, "read %zu records and fault %d, expected %zu and fault %d\n", reading.records.size(),
-               reading.fault, expected.records.size(), expected.fault);
-  std::abort();
+  const auto text = [](const Reading& it) {
+    return std::to_string(it.records.size()) + " records and fault " + std::to_string(it.fault);
+  };
+  fuzz::require(reading == expected, text(reading) + " are read, and should be " + text(expected));
+  return 0;
 }
