@@ -3,6 +3,8 @@
 set(QUORVIN_FUZZ_TARGETS
   archive
   date
+  made_archive
+  made_metafile
   metafile
   number
   peer_stream
@@ -16,7 +18,12 @@ set(QUORVIN_FUZZ_TARGETS
 
 set(QUORVIN_FUZZ_HELPERS
   fuzz/drawing_check.cpp
+  fuzz/drawing_maker.cpp
+  fuzz/record_maker.cpp
+  fuzz/record_maker_text.cpp
   fuzz/unpacking_check.cpp
+  tests/archive/archive_maker.cpp
+  tests/metafile/metafile_writer.cpp
   tests/search/quick_scan.cpp
   tests/support/plain_scan.cpp
   tests/support/reference_scan.cpp)
