@@ -11,7 +11,7 @@ TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fon
   at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold)
 TIDY_PACKAGES=(clang-tidy-14)
 # What the clang preset needs on top:
-CLANG_PACKAGES=(clang-14 libclang-rt-14-dev)
+CLANG_PACKAGES=(clang-14 libclang-rt-14-dev llvm-14)
 
 SCRIPT=./$(basename "$0")
 STEP=starting
