@@ -4,7 +4,7 @@
 set -Eeuo pipefail
 
 # Debian packages. To build the program and to open its window:
-BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev libzip-dev zlib1g-dev pkgconf)
+BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev libzip-dev libzstd-dev zlib1g-dev pkgconf)
 WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
 # To build and run the tests, and to check format and code:
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14

@@ -1,0 +1,168 @@
+#include "history/history_window.h"
+
+#include <QAbstractItemView>
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+constexpr int kWidthInCharacters = 90;
+constexpr int kHeightInLines = 22;
+constexpr int kNumberRole = Qt::UserRole;
+constexpr int kReadableRole = Qt::UserRole + 1;
+
+QTreeWidget* makeVersions() {
+  auto* versions = new QTreeWidget;
+  versions->setObjectName(QStringLiteral("Versions"));
+  versions->setAccessibleName(QStringLiteral("Earlier versions"));
+  versions->setHeaderLabels({QStringLiteral("Date"), QStringLiteral("Entries"), QStringLiteral("Size"),
+                             QStringLiteral("Complete")});
+  versions->setRootIsDecorated(false);
+  versions->setUniformRowHeights(true);
+  versions->setAllColumnsShowFocus(true);
+  versions->setTabKeyNavigation(false);
+  versions->header()->setSectionsMovable(false);
+  versions->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  return versions;
+}
+
+QString completeness(const ListingVersion& version) {
+  if (!version.isReadable) return QStringLiteral("damaged");
+  return version.isComplete ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+QString dateOf(const ListingVersion& version, const QLocale& locale) {
+  return locale.toString(QDateTime::fromMSecsSinceEpoch(version.made), QLocale::ShortFormat);
+}
+
+}  // namespace
+
+HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& locale, Restore restore,
+                             QWidget* owner)
+    : QDialog(owner),
+      history_(history),
+      locale_(locale),
+      restore_(std::move(restore)),
+      listing_(new QComboBox),
+      present_(new QLabel),
+      versions_(makeVersions()) {
+  setObjectName(QStringLiteral("ListingHistory"));
+  setWindowTitle(QStringLiteral("Listing History"));
+  listing_->setObjectName(QStringLiteral("Listing"));
+  listing_->setAccessibleName(QStringLiteral("Listing"));
+  listing_->view()->setAccessibleName(QStringLiteral("Listings that have earlier versions"));
+  present_->setObjectName(QStringLiteral("Present"));
+  present_->setTextFormat(Qt::PlainText);
+  present_->setWordWrap(true);
+  auto* caption = new QLabel(QStringLiteral("&Listing:"));
+  caption->setBuddy(listing_);
+
+  auto* buttons = new QDialogButtonBox;
+  restoreButton_ = buttons->addButton(QStringLiteral("&Restore"), QDialogButtonBox::ActionRole);
+  restoreButton_->setObjectName(QStringLiteral("Restore"));
+  restoreButton_->setAutoDefault(false);
+  QPushButton* close = buttons->addButton(QStringLiteral("&Close"), QDialogButtonBox::RejectRole);
+  close->setObjectName(QStringLiteral("close"));
+  close->setDefault(true);
+
+  auto* choice = new QHBoxLayout;
+  choice->addWidget(caption);
+  choice->addWidget(listing_, 1);
+  auto* rows = new QVBoxLayout(this);
+  rows->addLayout(choice);
+  rows->addWidget(present_);
+  rows->addWidget(versions_, 1);
+  rows->addWidget(buttons);
+  resize(fontMetrics().averageCharWidth() * kWidthInCharacters, fontMetrics().lineSpacing() * kHeightInLines);
+
+  connect(listing_, &QComboBox::currentIndexChanged, this, &HistoryWindow::showVersions);
+  connect(versions_, &QTreeWidget::itemSelectionChanged, this,
+          [this] { restoreButton_->setEnabled(selectedNumber() > 0); });
+  connect(restoreButton_, &QPushButton::clicked, this, &HistoryWindow::Restore_Click);
+  connect(close, &QPushButton::clicked, this, &HistoryWindow::reject);
+  showListings();
+}
+
+void HistoryWindow::showListings() {
+  listing_->addItems(history_.listings());
+  const bool isEmpty = listing_->count() == 0;
+  listing_->setEnabled(!isEmpty);
+  versions_->setEnabled(!isEmpty);
+  (isEmpty ? static_cast<QWidget*>(listing_) : versions_)->setFocus();
+  if (isEmpty) showVersions();
+}
+
+void HistoryWindow::showVersions() {
+  versions_->clear();
+  restoreButton_->setEnabled(false);
+  const QString listing = listing_->currentText();
+  showPresent(listing);
+  if (listing.isEmpty()) return;
+  for (const ListingVersion& version : history_.versions(listing)) {
+    auto* row = new QTreeWidgetItem(versions_);
+    row->setText(0, dateOf(version, locale_));
+    row->setText(1, locale_.toString(static_cast<qulonglong>(version.entries)));
+    row->setText(2, locale_.formattedDataSize(static_cast<qint64>(version.size)));
+    row->setText(3, completeness(version));
+    row->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    row->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+    row->setData(0, kNumberRole, version.number);
+    row->setData(0, kReadableRole, version.isReadable);
+  }
+  versions_->setCurrentItem(versions_->topLevelItem(0));
+}
+
+void HistoryWindow::showPresent(const QString& listing) {
+  if (listing.isEmpty()) {
+    present_->setText(
+        QStringLiteral("There are no earlier versions yet. One is kept whenever a rescan or an "
+                       "update replaces a listing by another."));
+    return;
+  }
+  const std::optional<ListingVersion> present = history_.present(listing);
+  present_->setText(present ? QStringLiteral("Now: ") + textOf(*present)
+                            : QStringLiteral("The listing itself is not there now."));
+}
+
+QString HistoryWindow::textOf(const ListingVersion& version) const {
+  return QStringLiteral("%1, %2 entries, %3, %4")
+      .arg(dateOf(version, locale_), locale_.toString(static_cast<qulonglong>(version.entries)),
+           locale_.formattedDataSize(static_cast<qint64>(version.size)),
+           version.isComplete ? QStringLiteral("complete") : QStringLiteral("incomplete"));
+}
+
+/// 0 when nothing that could be restored is selected.
+int HistoryWindow::selectedNumber() const {
+  const QList<QTreeWidgetItem*> rows = versions_->selectedItems();
+  if (rows.isEmpty() || !rows.first()->data(0, kReadableRole).toBool()) return 0;
+  return rows.first()->data(0, kNumberRole).toInt();
+}
+
+void HistoryWindow::Restore_Click() {
+  const int number = selectedNumber();
+  if (number == 0) return;
+  allowChoice(false);
+  restore_(listing_->currentText(), number, [window = QPointer(this)] {
+    if (!window) return;
+    window->allowChoice(true);
+    window->showVersions();
+    window->versions_->setFocus();
+  });
+}
+
+/// A restore may have to wait for something else; meanwhile the window can only be closed.
+void HistoryWindow::allowChoice(bool allowed) {
+  for (QWidget* widget : {static_cast<QWidget*>(listing_), static_cast<QWidget*>(versions_),
+                          static_cast<QWidget*>(restoreButton_)}) {
+    widget->setEnabled(allowed);
+  }
+}
+
+}  // namespace quorvin

@@ -1,0 +1,50 @@
+// The window that shows the earlier versions of listings.
+#pragma once
+
+#include "history/listing_history.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QString>
+#include <QTreeWidget>
+
+#include <functional>
+
+namespace quorvin {
+
+/// The window `ListingHistory`: the listings that have a history, the listing as it is now, and its versions
+/// with date, entries, size and whether they are complete. `Restore` puts the selected one in the listing's
+/// place.
+class HistoryWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// Restores a version, which may take its time; calls `ended` when that has been done or has failed, which
+  /// the user has been told by then.
+  using Restore = std::function<void(const QString& listing, int number, std::function<void()> ended)>;
+
+  /// `history` must outlive the window.
+  HistoryWindow(const ListingHistory& history, const QLocale& locale, Restore restore, QWidget* owner);
+
+ private:
+  void showListings();
+  void showVersions();
+  void showPresent(const QString& listing);
+  void Restore_Click();
+  void allowChoice(bool allowed);
+  int selectedNumber() const;
+  QString textOf(const ListingVersion& version) const;
+
+  const ListingHistory& history_;
+  QLocale locale_;
+  Restore restore_;
+  QComboBox* listing_;
+  QLabel* present_;
+  QTreeWidget* versions_;
+  QPushButton* restoreButton_;
+};
+
+}  // namespace quorvin
