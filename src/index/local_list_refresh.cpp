@@ -3,9 +3,11 @@
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_lock.h"
+#include "history/listing_history.h"
 #include "index/dir_io.h"
 #include "index/walk_faults.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 
@@ -31,8 +33,11 @@ class Refresh {
   Refresh(ProgramState& state, Job& job, MessageBoxes& messages, const QLocale& locale)
       : state_(state),
         progress_(job, locale),
+        locale_(locale),
         folders_(makeFolderReader()),
-        dirIO_(state, *folders_, progress_, messages, locale) {
+        dirIO_(state, *folders_, progress_, messages, locale),
+        dataFolder_(state.LocalFolder),
+        history_(dataFolder_, [&job] { job.letEventsRun(); }) {
     progress_.follow(RefreshShare(listingSizes(state)));
   }
 
@@ -42,10 +47,7 @@ class Refresh {
       progress_.job().display().setTitle(
           QStringLiteral(" Updating online file lists... %1 of %2").arg(row).arg(state_.OnlineSourceCount));
       progress_.beginSource(row);
-      // Copies, since the user may edit the table while events run.
-      const QString description = state_.OnlineSources.description(row);
-      const QString path = state_.OnlineSources.path(row);
-      const Ending ending = refreshSource(description, path);
+      const Ending ending = refreshSource(sourceIn(row));
       outcome.isStopped = ending == Ending::Stopped;
       if (outcome.isStopped) break;
       ++(ending == Ending::Made ? outcome.made : outcome.kept);
@@ -57,32 +59,38 @@ class Refresh {
  private:
   enum class Ending { Made, Kept, Stopped };
 
-  Ending refreshSource(const QString& description, const QString& path) {
-    const QString finished = state_.onlineListingPath(description);
-    const QString temporary = finished.chopped(QStringLiteral("txt").size()) + QStringLiteral("tmp");
-    for (const QString& file : {temporary, finished}) {
+  /// A copy of a row: the user may edit the table while events run.
+  struct Source {
+    QString description;
+    QString path;
+    /// The path of its finished listing.
+    QString listing;
+  };
+
+  Source sourceIn(int row) const {
+    const QString description = state_.OnlineSources.description(row);
+    return {description, state_.OnlineSources.path(row), state_.onlineListingPath(description)};
+  }
+
+  Ending refreshSource(const Source& source) {
+    const QString temporary = source.listing.chopped(QStringLiteral("txt").size()) + QStringLiteral("tmp");
+    for (const QString& file : {temporary, source.listing}) {
       if (!state_.isOwnFile(file)) continue;
-      noteNotMade(description, file);
+      note(QStringLiteral(
+               "The listing of %1 was not made, since it would overwrite %2; please give it another "
+               "description")
+               .arg(source.description, file));
       return Ending::Kept;
     }
-    if (!canBeOpened(path)) {
-      noteKept(path, description);
-      return Ending::Kept;
-    }
-    FileAside listing(finished, {.nameAside = QFileInfo(temporary).fileName()});
-    const WalkResult walked = writeListing(listing, description, path);
+    if (!canBeOpened(source.path)) return keptAsItIs(source);
+    FileAside listing(source.listing, {.nameAside = QFileInfo(temporary).fileName()});
+    const WalkResult walked = writeListing(listing, source);
     if (progress_.job().takeRescanAbort()) return Ending::Stopped;
     // Pulled while it was read, be it for a moment: the walk has met errors only, which would cost the
     // catalogue.
-    if (walked.opened && folders_->topIsStillAt(path)) {
-      listing.commit();
-      leftOut_ += walked.leftOut;
-      noteReplaced(finished, description, path);
-      return Ending::Made;
-    }
+    if (walked.opened && folders_->topIsStillAt(source.path)) return putInPlace(listing, source, walked);
     listing.discard();
-    noteKept(path, description);
-    return Ending::Kept;
+    return keptAsItIs(source);
   }
 
   bool canBeOpened(const QString& path) {
@@ -93,41 +101,82 @@ class Refresh {
     return true;
   }
 
-  void noteKept(const QString& path, const QString& description) {
-    note(QStringLiteral("%1 not found; the listing of %2 was kept").arg(path, description));
+  Ending keptAsItIs(const Source& source) {
+    note(QStringLiteral("%1 not found; the listing of %2 was kept").arg(source.path, source.description));
+    return Ending::Kept;
   }
-
-  void noteNotMade(const QString& description, const QString& file) {
-    note(QStringLiteral("The listing of %1 was not made, since it would overwrite %2; please give it another "
-                        "description")
-             .arg(description, file));
-  }
-
-  // Two sources may have one description; the later one has the listing.
-  void noteReplaced(const QString& listing, const QString& description, const QString& path) {
-    const QString earlier = madeFrom_.value(listing);
-    madeFrom_.insert(listing, path);
-    if (earlier.isEmpty()) return;
-    note(QStringLiteral(
-             "The listing of %1 from %2 was replaced by that from %3, which has the same description; "
-             "please give one of them another description")
-             .arg(description, earlier, path));
-  }
-
-  void note(const QString& sentence) { state_.errorLog += sentence + QStringLiteral("\r\n"); }
 
   // Where the folder could not be opened any more, the listing is its head alone.
-  WalkResult writeListing(FileAside& listing, const QString& description, QString path) {
+  WalkResult writeListing(FileAside& listing, const Source& source) {
     const LineOutputs outputs{&listing.writer(), nullptr};
-    const WalkResult walked = dirIO_.walk(path, QStringLiteral("*.*"), outputs, description, kToOutput1);
+    QString path = source.path;
+    const WalkResult walked =
+        dirIO_.walk(path, QStringLiteral("*.*"), outputs, source.description, kToOutput1);
     listing.finish();
     return walked;
   }
 
+  Ending putInPlace(FileAside& listing, const Source& source, const WalkResult& walked) {
+    const QString sameListingFrom = madeFrom_.value(source.listing);
+    KeptListing kept;
+    // What another source has just left there is nothing earlier.
+    if (sameListingFrom.isEmpty()) kept = history_.keep(nameOf(source), listing.path(), walked.isWhole);
+    // The program may have been closed meanwhile.
+    if (progress_.job().takeRescanAbort()) return Ending::Stopped;
+    listing.commit();
+    leftOut_ += walked.leftOut;
+    madeFrom_.insert(source.listing, source.path);
+    if (!sameListingFrom.isEmpty()) {
+      note(QStringLiteral(
+               "The listing of %1 from %2 was replaced by that from %3, which has the same description; "
+               "please give one of them another description")
+               .arg(source.description, sameListingFrom, source.path));
+    }
+    noteEarlier(source, walked, kept);
+    return Ending::Made;
+  }
+
+  // What the new listing lacks that the earlier one has, and how to have that one back.
+  void noteEarlier(const Source& source, const WalkResult& walked, const KeptListing& kept) {
+    if (!kept.fault.isEmpty()) {
+      note(QStringLiteral("The earlier listing of %1 could not be kept in the listing history: %2")
+               .arg(source.description, kept.fault));
+    }
+    if (!walked.isWhole) {
+      note(QStringLiteral("The listing of %1 is incomplete, since the rescan was stopped")
+               .arg(source.description) +
+           earlierOf(source));
+    } else if (walked.files == 0 && kept.entries > 0) {
+      note(QStringLiteral(
+               "%1 holds no files any more; if its drive is not connected, connect it and rescan. The "
+               "listing of %2 is empty now")
+               .arg(source.path, source.description) +
+           earlierOf(source));
+    }
+  }
+
+  QString earlierOf(const Source& source) {
+    const std::optional<ListingVersion> earlier = history_.newestComplete(nameOf(source));
+    if (!earlier) return {};
+    return QStringLiteral("; File, Listing History brings back the one of %1 with %2 entries")
+        .arg(locale_.toString(QDateTime::fromMSecsSinceEpoch(earlier->made), QLocale::ShortFormat),
+             locale_.toString(static_cast<qulonglong>(earlier->entries)));
+  }
+
+  /// The listing's name in the data folder. That may be another one by now; its history is not this one's.
+  QString nameOf(const Source& source) const {
+    return source.listing.startsWith(dataFolder_) ? source.listing.mid(dataFolder_.size()) : source.listing;
+  }
+
+  void note(const QString& sentence) { state_.errorLog += sentence + QStringLiteral("\r\n"); }
+
   ProgramState& state_;
   IndexProgress progress_;
+  QLocale locale_;
   std::unique_ptr<FolderReader> folders_;
   DirIO dirIO_;
+  QString dataFolder_;
+  ListingHistory history_;
   /// The folders of the listings that this refresh has made.
   QHash<QString, QString> madeFrom_;
   std::int64_t leftOut_ = 0;

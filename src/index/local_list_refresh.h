@@ -34,10 +34,12 @@ struct RefreshOutcome {
 /// after the current source, whose old listing stays. A source whose folder cannot be opened, or whose path
 /// leads to another folder after the walk (a drive was pulled), keeps its old listing, and a line in the
 /// error log says so. A source whose listing would overwrite the main data file or a source list is passed
-/// over, and where two sources have one description the later one has the listing; both are logged too. At
-/// the end the title of `Progress` is as before, its status shows `versionCaption`, and the mouse pointer is
-/// the default one. A fault ends the refresh at once; every listing on disk is then the old or the new one,
-/// whole. Questions about single names go to `messages`.
+/// over, and where two sources have one description the later one has the listing; both are logged too. What
+/// a listing held before it is replaced is kept in the listing history; the error log names each listing that
+/// is incomplete, or empty where it was not, and the earlier one that can be had back. A history that cannot
+/// be written is logged and stops nothing. At the end the title of `Progress` is as before, its status shows
+/// `versionCaption`, and the mouse pointer is the default one. A fault ends the refresh at once; every
+/// listing on disk is then the old or the new one, whole. Questions about single names go to `messages`.
 ///
 /// One refresh at a time for a data folder, whatever program runs it: while there is another, this one does
 /// nothing and its fault says so.

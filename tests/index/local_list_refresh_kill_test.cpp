@@ -109,7 +109,8 @@ TEST_F(KilledRefresh, TheNextRefreshGoesThroughWithWhatWasLeft) {
   ASSERT_TRUE(killAt(20));
   refresh();
   for (const QString& source : kSources) EXPECT_EQ(data.readFile(source + u".txt"_qs), whole_[source]);
-  EXPECT_EQ(data.names().size(), 3);
+  EXPECT_EQ(data.names().size(), 4);
+  EXPECT_TRUE(data.has(u"history"_qs));
 }
 
 }  // namespace

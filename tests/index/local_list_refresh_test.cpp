@@ -27,7 +27,7 @@ TEST_F(LocalListRefresh, ReplacesTheOldListing) {
   data.writeFile(u"Music.tmp"_qs, "left over and longer than the listing " + QByteArray(10'000, 'x'));
   addSource(u"Music"_qs, u"song.mp3"_qs);
   refresh();
-  EXPECT_EQ(data.names(), QStringList{u"Music.txt"_qs});
+  EXPECT_EQ(data.names(), (QStringList{u"Music.txt"_qs, u"history"_qs}));
   EXPECT_TRUE(isListed(u"Music.txt"_qs, "song.mp3"));
   EXPECT_FALSE(data.readFile(u"Music.txt"_qs).contains("xxx"));
 }
@@ -107,7 +107,9 @@ TEST_F(LocalListRefresh, ClosingDuringTheSecondOfFiveLeavesTheRestAsItWas) {
   EXPECT_EQ(data.readFile(u"S2.txt"_qs), "old");
   EXPECT_TRUE(isListed(u"S2.tmp"_qs, "new2"));
   for (int i = 3; i <= 5; ++i) EXPECT_EQ(data.readFile(u"S%1.txt"_qs.arg(i)), "old");
-  EXPECT_EQ(data.names().size(), 6);
+  // The six files, and what S1 was.
+  EXPECT_EQ(data.names().size(), 7);
+  EXPECT_TRUE(data.has(u"history"_qs));
   EXPECT_FALSE(state.RescanAbort);
   EXPECT_FALSE(state.RescanRunning);
   EXPECT_EQ(view.titles.last(), u"Progress"_qs);
