@@ -1,5 +1,5 @@
-// The commands of the console companion: "find", "cache", "index" and "refresh". Each gives the exit status
-// of the program.
+// The commands of the console companion: "find", "cache", "index", "refresh" and "history". Each gives the
+// exit status of the program.
 #pragma once
 
 #include "console/hit_writer.h"
@@ -62,5 +62,19 @@ int runIndex(const IndexRequest& request);
 /// kInterrupted after an interrupt, which leaves the old listing of the source at work and
 /// of those after it.
 int runRefresh();
+
+/// What the command line asked of "history".
+struct HistoryRequest {
+  /// The description of an own folder, or the name or path of a listing; empty for all listings.
+  QString listing;
+  /// Whether a version is put in the listing's place, and which; 0 for the newest complete one.
+  bool restores = false;
+  int number = 0;
+};
+
+/// Writes a line for each earlier version: the listing's name, the version's number, when the listing was
+/// made, its entries, its bytes, and "complete", "incomplete" or "damaged", parted by tabs, newest first. Or
+/// restores one. The exit status: 0; 1 where there is no version to show; 2 when anything could not be done.
+int runHistory(const HistoryRequest& request);
 
 }  // namespace quorvin

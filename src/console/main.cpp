@@ -65,6 +65,28 @@ CLI::App* addIndex(CLI::App& app, IndexOptions& options) {
   return index;
 }
 
+struct HistoryOptions {
+  std::string listing;
+  bool restores = false;
+  int number = 0;
+};
+
+CLI::App* addHistory(CLI::App& app, HistoryOptions& options) {
+  CLI::App* history = app.add_subcommand("history", "Show the earlier versions of listings, or restore one");
+  CLI::Option* restore = history->add_flag("--restore", options.restores,
+                                           "Put the newest complete version in the listing's place");
+  history->add_option("--number", options.number, "Restore this version instead")
+      ->type_name("N")
+      ->check(CLI::Range(1, 99'999'999).description(""))
+      ->needs(restore);
+  history->add_option("LISTING", options.listing, "The description of a folder, or the name of a listing");
+  return history;
+}
+
+quorvin::HistoryRequest requestOf(const HistoryOptions& options) {
+  return {QString::fromLocal8Bit(options.listing.c_str()), options.restores, options.number};
+}
+
 quorvin::IndexRequest requestOf(const IndexOptions& options) {
   quorvin::IndexRequest request;
   request.folder = QString::fromLocal8Bit(options.folder.c_str());
@@ -97,11 +119,13 @@ int main(int argc, char** argv) {
   app.require_subcommand(1);
   FindOptions findOptions;
   IndexOptions indexOptions;
+  HistoryOptions historyOptions;
   bool clearCache = false;
   const CLI::App* find = addFind(app, findOptions);
   const CLI::App* index = addIndex(app, indexOptions);
   const CLI::App* refresh =
       app.add_subcommand("refresh", "Renew the listings of the user's own online sources");
+  const CLI::App* history = addHistory(app, historyOptions);
   const CLI::App* cache = addCache(app, clearCache);
   try {
     app.parse(argc, argv);
@@ -113,6 +137,7 @@ int main(int argc, char** argv) {
   if (find->parsed()) return quorvin::runFind(requestOf(findOptions));
   if (index->parsed()) return quorvin::runIndex(requestOf(indexOptions));
   if (refresh->parsed()) return quorvin::runRefresh();
+  if (history->parsed()) return quorvin::runHistory(requestOf(historyOptions));
   if (cache->parsed()) return clearCache ? quorvin::clearCache() : quorvin::listCache();
   return 2;
 }
