@@ -18,8 +18,13 @@ constexpr int kFull = 100;
 class Unpacking {
  public:
   Unpacking(const ArchiveReader& archive, const ArchivePlan& plan, const QString& targetFolder,
-            const ArchivePause& pause)
-      : archive_(archive), plan_(plan), target_(targetFolder), pause_(pause), buffer_(kBlockSize) {}
+            const ArchivePause& pause, const BeforeReplacing& beforeReplacing)
+      : archive_(archive),
+        plan_(plan),
+        target_(targetFolder),
+        pause_(pause),
+        beforeReplacing_(beforeReplacing),
+        buffer_(kBlockSize) {}
 
   UnpackingOutcome run() {
     isStopped_ = pause_(0);
@@ -49,6 +54,8 @@ class Unpacking {
       pause();
       if (isStopped_) return false;
     }
+    file.finish();
+    if (beforeReplacing_) beforeReplacing_(planned.place.path.join(u'/'), file.path());
     file.commit();
     ++filesInPlace_;
     return true;
@@ -60,6 +67,7 @@ class Unpacking {
   const ArchivePlan& plan_;
   FolderWriter target_;
   const ArchivePause& pause_;
+  const BeforeReplacing& beforeReplacing_;
   std::vector<char> buffer_;
   std::uint64_t done_ = 0;
   int entries_ = 0;
@@ -74,8 +82,9 @@ QString afterFailure(int filesInPlace) {
 }
 
 UnpackingOutcome unpackEntries(const ArchiveReader& archive, const ArchivePlan& plan,
-                               const QString& targetFolder, const ArchivePause& pause) {
-  Unpacking unpacking(archive, plan, targetFolder, pause);
+                               const QString& targetFolder, const ArchivePause& pause,
+                               const BeforeReplacing& beforeReplacing) {
+  Unpacking unpacking(archive, plan, targetFolder, pause, beforeReplacing);
   try {
     return unpacking.run();
   } catch (const ArchiveError& error) {
@@ -87,10 +96,10 @@ UnpackingOutcome unpackEntries(const ArchiveReader& archive, const ArchivePlan& 
 
 UnpackingResult unpackArchive(const QString& archivePath, const QString& targetFolder,
                               const ArchivePause& pause, const ArchiveLimits& limits,
-                              std::int64_t archiveLength) {
+                              std::int64_t archiveLength, const BeforeReplacing& beforeReplacing) {
   try {
     const ArchiveReader archive(archivePath, archiveLength, limits.entries, pause);
-    return {unpackEntries(archive, planOf(archive, limits), targetFolder, pause), {}, {}};
+    return {unpackEntries(archive, planOf(archive, limits), targetFolder, pause, beforeReplacing), {}, {}};
   } catch (const ArchiveError& error) {
     return {UnpackingOutcome::Failed, error.code(), error.description()};
   } catch (const ArchiveStopped&) {
@@ -99,7 +108,7 @@ UnpackingResult unpackArchive(const QString& archivePath, const QString& targetF
 }
 
 UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QString& targetFolder,
-                              std::int64_t archiveLength) {
+                              std::int64_t archiveLength, const BeforeReplacing& beforeReplacing) {
   int shownPercent = -1;
   const auto pause = [&job, &shownPercent](int percent) {
     if (percent != shownPercent) job.display().setBar(percent);
@@ -107,7 +116,7 @@ UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QStrin
     job.letEventsRun();
     return job.isStopRequested();
   };
-  return unpackArchive(archivePath, targetFolder, pause, {}, archiveLength);
+  return unpackArchive(archivePath, targetFolder, pause, {}, archiveLength, beforeReplacing);
 }
 
 }  // namespace quorvin

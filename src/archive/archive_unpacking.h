@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 
 namespace quorvin {
 
@@ -21,6 +22,11 @@ struct UnpackingResult {
   QString error;
 };
 
+/// Called before a file is put in its place, when it is whole: `name` is its path below the target folder,
+/// parted by
+/// "/", and `made` is where it is until then.
+using BeforeReplacing = std::function<void(const QString& name, const QString& made)>;
+
 /// Unpacks every entry of the zip archive in the first `archiveLength` bytes of the file at `archivePath`
 /// (all of them when negative) into `targetFolder`, which must exist, replacing files of the same names.
 /// `pause` is called at the start, every few milliseconds, and at the end.
@@ -32,11 +38,11 @@ struct UnpackingResult {
 /// folder in the way (75).
 UnpackingResult unpackArchive(const QString& archivePath, const QString& targetFolder,
                               const ArchivePause& pause, const ArchiveLimits& limits = {},
-                              std::int64_t archiveLength = -1);
+                              std::int64_t archiveLength = -1, const BeforeReplacing& beforeReplacing = {});
 
 /// The same as a part of `job`: what has been done is shown on the bar of its display, in per cent, and a
 /// stop request ends the unpacking.
 UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QString& targetFolder,
-                              std::int64_t archiveLength = -1);
+                              std::int64_t archiveLength = -1, const BeforeReplacing& beforeReplacing = {});
 
 }  // namespace quorvin

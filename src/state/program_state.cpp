@@ -17,6 +17,10 @@ void ProgramState::resetFileNames() {
   OffLineFile = QStringLiteral("OfflineLocations.txt");
 }
 
+QString ProgramState::placeOf(const QString& name) const {
+  return isTakenAsItStands(name, nativePathStyle()) ? name : LocalFolder + name;
+}
+
 QString ProgramState::onlineListingPath(const QString& description) const {
   return LocalFolder + trimBlanks(description).toString() + QStringLiteral(".txt");
 }
@@ -24,14 +28,24 @@ QString ProgramState::onlineListingPath(const QString& description) const {
 bool ProgramState::isOwnFile(const QString& path) const {
   QStringList ownFiles;
   for (const QString& name : {LocFile, OffLineFile, TextFile}) {
-    if (name.isEmpty()) continue;
-    ownFiles += isTakenAsItStands(name, nativePathStyle()) ? name : LocalFolder + name;
+    if (!name.isEmpty()) ownFiles += placeOf(name);
   }
   if (ownFiles.contains(path)) return true;
   // Only the file system knows which names are one to it.
   const std::optional<FileIdentity> identity = fileIdentity(path);
   return identity &&
          std::ranges::any_of(ownFiles, [&](const QString& own) { return fileIdentity(own) == identity; });
+}
+
+bool ProgramState::isListing(const QString& path) const {
+  if (!TextFile.isEmpty() && path == placeOf(TextFile)) return true;
+  for (int row = 1; row <= OnlineSourceCount; ++row) {
+    if (path == onlineListingPath(OnlineSources.description(row))) return true;
+  }
+  for (int row = 1; row <= OfflineSourceCount; ++row) {
+    if (path == OfflineSources.path(row)) return true;
+  }
+  return false;
 }
 
 bool ProgramState::hasSources() const {

@@ -86,6 +86,9 @@ struct ProgramState {
   /// What went wrong with single names while folders were indexed: lines ended by CR LF.
   QString errorLog;
 
+  /// Where a file of this name is: in `LocalFolder`, unless the name is a whole path.
+  QString placeOf(const QString& name) const;
+
   /// Sets `RegKey`, `LocFile` and `OffLineFile` to the values of a run without a command line.
   void resetFileNames();
 
@@ -97,6 +100,10 @@ struct ProgramState {
   /// yet: no listing may stand there. Another way of writing the name of one that is there counts as well:
   /// capital letters, where the file system takes them for small ones, or a link.
   bool isOwnFile(const QString& path) const;
+
+  /// Whether the file at `path` is searched: the main data file, the listing of an online source, or an
+  /// offline source.
+  bool isListing(const QString& path) const;
 
   /// Whether there is anything to search: a source, or the name of a main data file.
   bool hasSources() const;

@@ -5,6 +5,7 @@
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
 #include "files/file_writer.h"
+#include "history/listing_history.h"
 #include "update/web_update_server.h"
 
 #include <QFile>
@@ -43,10 +44,19 @@ void setModified(const QString& path, const QDateTime& moment) {
 
 /// What is wrong with the archive is shown in a message box.
 UnpackingOutcome unpackDataFile(Job& job, const QString& archivePath, const QString& targetFolder,
-                                MessageBoxes& boxes, std::int64_t archiveLength = -1) {
-  const UnpackingResult result = unpackArchive(job, archivePath, targetFolder, archiveLength);
+                                MessageBoxes& boxes, std::int64_t archiveLength = -1,
+                                const BeforeReplacing& beforeReplacing = {}) {
+  const UnpackingResult result =
+      unpackArchive(job, archivePath, targetFolder, archiveLength, beforeReplacing);
   if (!result.error.isEmpty()) boxes.inform(QStringLiteral("Archive Error: ") + result.error);
   return result.outcome;
+}
+
+/// What there is to report of a listing that the update replaces; empty when all is well.
+QString sentenceOf(const QString& name, const KeptListing& kept) {
+  if (kept.fault.isEmpty()) return {};
+  return QStringLiteral("The earlier %1 could not be kept in the listing history: %2\r\n")
+      .arg(name, kept.fault);
 }
 
 }  // namespace
@@ -197,9 +207,16 @@ void WebUpdate::unpack() {
   display_.setBarMaximum(kFullBar);
   display_.setBar(0);
   display_.setStatus(QStringLiteral("Decompressing..."));
-  const UnpackingOutcome outcome = unpackDataFile(job_, archivePath(), localFolder_, boxes_, archiveLength_);
+  QString notKept;
+  ListingHistory history(localFolder_, [this] { job_.letEventsRun(); });
+  const auto keepListing = [&](const QString& name, const QString& made) {
+    if (state_.isListing(localFolder_ + name)) notKept += sentenceOf(name, history.keep(name, made, true));
+  };
+  const UnpackingOutcome outcome =
+      unpackDataFile(job_, archivePath(), localFolder_, boxes_, archiveLength_, keepListing);
   job_.dropStopRequest();
   if (outcome == UnpackingOutcome::Unpacked) setModified(archivePath(), received_);
+  if (!notKept.isEmpty()) boxes_.inform(notKept);
 }
 
 QString WebUpdate::archivePath() const {
