@@ -75,13 +75,9 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
                   [this] { return jobs_.work().isClosing(); }}),
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale),
-      windows_(
-          state, messages, menus_,
-          [this] {
-            sourcesChanged();
-            jobs_.startRefresh();
-          },
-          *this, locale, picker),
+      windows_(state, messages, menus_,
+               {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_)}, *this,
+               locale, picker),
       frame_(*this, controls_, display_, jobs_, windows_) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
@@ -127,6 +123,8 @@ void SearchForm::connectMenus() {
   handle(menus_.EditOffline, QStringLiteral("editing the offline lists"),
          [this] { windows_.EditOffline_Click(); });
   handle(menus_.ReScan, QStringLiteral("refreshing the local lists"), [this] { jobs_.startRefresh(); });
+  handle(menus_.ListingHistory, QStringLiteral("showing the listing history"),
+         [this] { windows_.ListingHistory_Click(); });
   handle(menus_.OptionsMenu, QStringLiteral("editing the options"), [this] { windows_.OptionsMenu_Click(); });
   handle(menus_.ShareLists, QStringLiteral("sharing lists"),
          [this] { jobs_.ShareLists_Click(menus_.ShareLists->isChecked()); });
@@ -357,6 +355,7 @@ void SearchFormFrame::unloadOtherWindows() {
   jobs_.progress().hide();
   windows_.unloadPreview();
   windows_.unloadBrowser();
+  windows_.unloadHistory();
   jobs_.unload();
 }
 

@@ -179,6 +179,11 @@ class SearchForm : public QMainWindow {
   void leave();
   void Find_Click();
   void stopRun();
+  /// What the source editor asks for when it has stored the sources.
+  void rescan() {
+    sourcesChanged();
+    jobs_.startRefresh();
+  }
   void layOut();
   bool isRestored(const QEvent& event) const;
 

@@ -218,6 +218,8 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
       addItem(made.FileMenu, QStringLiteral("EditOffline"), QStringLiteral("Add/Edit Offline List files"));
   made.ReScan =
       addItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
+  made.ListingHistory =
+      addItem(made.FileMenu, QStringLiteral("ListingHistory"), QStringLiteral("Listing &History..."));
   made.OptionsMenu = addItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
   made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.

@@ -59,6 +59,7 @@ struct SearchFormMenus {
   QAction* AddLocal;
   QAction* EditOffline;
   QAction* ReScan;
+  QAction* ListingHistory;
   QAction* OptionsMenu;
   QAction* MenuQuit;
   QMenu* PeersMenu;

@@ -35,12 +35,15 @@ PreviewFaultReport previewReport(MessageBoxes& messages) {
 }  // namespace
 
 SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages,
-                                     const SearchFormMenus& menus, std::function<void()> refreshLocalLists,
-                                     QWidget& owner, const QLocale& locale, FilePicker* picker)
+                                     const SearchFormMenus& menus, WindowRequests requests, QWidget& owner,
+                                     const QLocale& locale, FilePicker* picker)
     : menus_(menus),
       owner_(owner),
-      sourceEditing_{state, messages, picker ? *picker : systemPicker_, std::move(refreshLocalLists)},
+      sourceEditing_{state, messages, picker ? *picker : systemPicker_,
+                     std::move(requests.refreshLocalLists)},
       optionsEditing_{state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)},
+      restoreListing_(std::move(requests.restoreListing)),
+      locale_(locale),
       preview_(&owner, usualMetafileChild(), previewReport(messages)) {}
 
 SearchFormWindows::~SearchFormWindows() = default;
@@ -75,6 +78,13 @@ void SearchFormWindows::OptionsMenu_Click() {
   dialog.exec();
 }
 
+void SearchFormWindows::ListingHistory_Click() {
+  const ListingHistory history(sourceEditing_.state.LocalFolder);
+  HistoryWindow window(history, locale_, restoreListing_, &owner_);
+  history_ = &window;
+  window.exec();
+}
+
 void SearchFormWindows::AboutMenu_Click() {
   frmSplash splash(productFacts(), &owner_);
   splash_ = &splash;
@@ -104,6 +114,10 @@ void SearchFormWindows::unloadOptions() {
 
 void SearchFormWindows::unloadSources() {
   if (sources_) sources_->reject();
+}
+
+void SearchFormWindows::unloadHistory() {
+  if (history_) history_->reject();
 }
 
 void SearchFormWindows::unloadBrowser() {

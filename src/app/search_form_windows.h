@@ -7,6 +7,7 @@
 #include "help/frm_browser.h"
 #include "help/frm_splash.h"
 #include "help/page_transfer.h"
+#include "history/history_window.h"
 #include "platform/message_box.h"
 #include "preview/image_preview.h"
 #include "state/program_state.h"
@@ -21,16 +22,21 @@
 
 namespace quorvin {
 
+/// What the windows ask the main window to do.
+struct WindowRequests {
+  /// What the source editor runs when the user wants a rescan (see SourceEditing).
+  std::function<void()> refreshLocalLists;
+  HistoryWindow::Restore restoreListing;
+};
+
 /// Opens the editors, the options, the about window and the help browser, each above the main window, and
 /// unloads them when the program ends.
 class SearchFormWindows {
  public:
-  /// Everything must outlive the object; `owner` is the main window. `refreshLocalLists` is what the source
-  /// editor runs when the user wants a rescan (see SourceEditing). `picker` may be null for the system's own
-  /// dialogs.
+  /// Everything must outlive the object; `owner` is the main window. `picker` may be null for the system's
+  /// own dialogs.
   SearchFormWindows(ProgramState& state, MessageBoxes& messages, const SearchFormMenus& menus,
-                    std::function<void()> refreshLocalLists, QWidget& owner, const QLocale& locale,
-                    FilePicker* picker);
+                    WindowRequests requests, QWidget& owner, const QLocale& locale, FilePicker* picker);
   ~SearchFormWindows();
 
   // The handlers of the menu items. Those of the dialogs return when the dialog has been closed.
@@ -40,6 +46,8 @@ class SearchFormWindows {
   void AddLocal_Click();
   /// Edits the offline sources.
   void EditOffline_Click();
+  /// Shows the earlier versions of the listings.
+  void ListingHistory_Click();
   void OptionsMenu_Click();
   void AboutMenu_Click();
   void HlpGen_Click();
@@ -58,6 +66,7 @@ class SearchFormWindows {
   void unloadSources();
   void unloadPreview() { preview_.unload(); }
   void unloadBrowser();
+  void unloadHistory();
 
  private:
   void showSources(LocalLoc& dialog);
@@ -68,9 +77,12 @@ class SearchFormWindows {
   DialogFilePicker systemPicker_;
   SourceEditing sourceEditing_;
   OptionsEditing optionsEditing_;
+  HistoryWindow::Restore restoreListing_;
+  QLocale locale_;
   QString LocMode_;
   QPointer<LocalLoc> sources_;
   QPointer<ListOptions> options_;
+  QPointer<HistoryWindow> history_;
   QPointer<frmSplash> splash_;
   ImagePreview preview_;
   NetworkPageTransfer transfer_;

@@ -2,6 +2,7 @@
 
 #include "app/fault_report.h"
 #include "app/version.h"
+#include "history/listing_history.h"
 #include "preview/res_win.h"
 #include "update/web_update.h"
 
@@ -34,10 +35,11 @@ SearchFormWork::SearchFormWork(ProgramState& state, MessageBoxes& messages, QWid
   connectPeers();
 }
 
-void SearchFormWork::startOrTell(JobKind kind, const std::function<void(Job&)>& action) {
-  if (work_.run(kind, action) != Answer::Refused) return;
+bool SearchFormWork::startOrTell(JobKind kind, const std::function<void(Job&)>& action) {
+  if (work_.run(kind, action) != Answer::Refused) return true;
   const QString why = work_.refusalOf(kind);
   if (!why.isEmpty()) messages_.inform(why);
+  return false;
 }
 
 void SearchFormWork::startRefresh() {
@@ -54,6 +56,28 @@ void SearchFormWork::refresh(Job& job) {
   progress_->setBusyPointer(false);
   menus_.ReScan->setEnabled(true);
   showOutcome(outcome);
+  peers_.sharing().sourcesRefreshed();
+}
+
+void SearchFormWork::restoreListing(const QString& listing, int number, std::function<void()> ended) {
+  const bool isAccepted = startOrTell(JobKind::Refresh, [this, listing, number, ended](Job& job) {
+    restore(job, listing, number);
+    ended();
+  });
+  if (!isAccepted) ended();
+}
+
+void SearchFormWork::restore(Job& job, const QString& listing, int number) {
+  progress_->setBusyPointer(true);
+  try {
+    ListingHistory(state_.LocalFolder, [&job] { job.letEventsRun(); }).restore(listing, number);
+  } catch (const std::exception& fault) {
+    messages_.inform(faultReport(fault, QStringLiteral("restoring the listing %1").arg(listing)));
+  }
+  progress_->setBusyPointer(false);
+  // There is no next source to end before.
+  static_cast<void>(job.takeRescanAbort());
+  job.end();
   peers_.sharing().sourcesRefreshed();
 }
 

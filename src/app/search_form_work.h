@@ -40,6 +40,9 @@ class SearchFormWork {
   /// could not be indexed is shown in `ResWin` afterwards, and shared lists are packed anew. Where the
   /// refresh has to wait, the call returns at once.
   void startRefresh();
+  /// Puts an earlier version in the place of a listing, as a job of the kind Refresh, and packs shared lists
+  /// anew. `ended` is called when that is done, has failed, or was refused, which the user has been told.
+  void restoreListing(const QString& listing, int number, std::function<void()> ended);
   void WebUpdate_Click();
   /// What start-up does when only the archive of the main data file is there: shows the main window and
   /// unpacks. Throws RuntimeFault as quorvin::extractDataFile() does.
@@ -59,8 +62,10 @@ class SearchFormWork {
   void unload();
 
  private:
-  void startOrTell(JobKind kind, const std::function<void(Job&)>& action);
+  /// False when it was refused.
+  bool startOrTell(JobKind kind, const std::function<void(Job&)>& action);
   void refresh(Job& job);
+  void restore(Job& job, const QString& listing, int number);
   void showOutcome(const RefreshOutcome& outcome);
   void connectPeers();
   PeerProgress& peerProgress();

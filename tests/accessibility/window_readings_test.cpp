@@ -74,6 +74,7 @@ TEST_F(AccessibleWindows, SearchForm) {
                      "MenuItem AddLocal: Add/Edit Local Folder To Search List (hidden)\n"
                      "MenuItem EditOffline: Add/Edit Offline List files (hidden)\n"
                      "MenuItem ReScan: Rescan Local Search Folders (hidden)\n"
+                     "MenuItem ListingHistory: Listing History... (hidden)\n"
                      "MenuItem OptionsMenu: Options (hidden)\n"
                      "MenuItem MenuQuit: Quit (hidden)\n"
                      "MenuItem : Peers\n"
@@ -161,6 +162,38 @@ TEST_F(AccessibleWindows, LocalLocForOfflineLists) {
                                         "Button Cancel: Cancel\n"
                                         "StaticText Label1: Description (hidden)\n"
                                         "StaticText Label2: Path to List file"));
+}
+
+TEST_F(AccessibleWindows, ListingHistory) {
+  ListingHistory history(folder_.path());
+  folder_.writeFile(QStringLiteral("disk.txt"), listingOf("DISK", 2, "tune"));
+  const QString made = folder_.writeFile(QStringLiteral("made"), listingOf("DISK", 1, "tune"));
+  history.keep(QStringLiteral("disk.txt"), made, true);
+  const auto date = [](qint64 moment) {
+    return QLocale(QLocale::English, QLocale::UnitedStates)
+        .toString(QDateTime::fromMSecsSinceEpoch(moment), QLocale::ShortFormat);
+  };
+  const QString now = date(history.present(QStringLiteral("disk.txt"))->made);
+  const QString then = date(history.versions(QStringLiteral("disk.txt"))[0].made);
+  expectReadingsOfDialog([this] { form().menus().ListingHistory->trigger(); },
+                         QStringLiteral("ListingHistory"), QStringLiteral("Listing History"),
+                         QStringLiteral("StaticText : Listing:\n"
+                                        "ComboBox Listing: Listing:\n"
+                                        "List : Listings that have earlier versions (hidden)\n"
+                                        "ListItem : disk.txt\n"
+                                        "StaticText Present: Now: %1, 2 entries, 261 bytes, complete\n"
+                                        "Tree Versions: Earlier versions\n"
+                                        "ColumnHeader : Date\n"
+                                        "ColumnHeader : Entries\n"
+                                        "ColumnHeader : Size\n"
+                                        "ColumnHeader : Complete\n"
+                                        "TreeItem : %2\n"
+                                        "TreeItem : 2\n"
+                                        "TreeItem : 261 bytes\n"
+                                        "TreeItem : yes\n"
+                                        "Button Restore: Restore\n"
+                                        "Button close: Close")
+                             .arg(now, then));
 }
 
 TEST_F(AccessibleWindows, ListOptions) {

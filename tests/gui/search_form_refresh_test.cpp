@@ -1,4 +1,5 @@
 // The local list refresh, started and watched in the real window.
+#include "files/file_lock.h"
 #include "gui/search_form_fixture.h"
 #include "preview/res_win.h"
 #include "search/segment/segment_store.h"
@@ -28,6 +29,20 @@ class WindowRefresh : public SearchFormTest {
     });
     watch.start(5000);
     form().menus().ReScan->trigger();
+  }
+  /// Rescans, and gives what the result window shows.
+  QString resultsOfRescan() {
+    QString shown;
+    std::function<void()> look = [&] {
+      auto* window = qobject_cast<ResWin*>(QApplication::activeModalWidget());
+      if (!window) return QTimer::singleShot(0, &form(), look);
+      shown = window->findChild<QPlainTextEdit*>()->toPlainText();
+      EXPECT_FALSE(form().progress().isVisible());
+      QTest::keyClick(window, Qt::Key_Escape);
+    };
+    QTimer::singleShot(0, &form(), look);
+    rescan();
+    return shown;
   }
   QString status() { return form().progress().findChild<QLabel*>(QStringLiteral("Status"))->text(); }
   QString detail() { return form().progress().findChild<QLabel*>(QStringLiteral("Detail"))->text(); }
@@ -148,12 +163,25 @@ TEST_F(WindowRefresh, CancelEndsTheWalkAndTheListingIsPutInPlace) {
                       Qt::LeftButton);
     EXPECT_TRUE(detail().startsWith(QStringLiteral("Stopping...")));
   });
-  rescan();
+  EXPECT_EQ(resultsOfRescan(),
+            QStringLiteral("The listing of Music is incomplete, since the rescan was stopped\n"));
   EXPECT_TRUE(state_.AbortRequested);
   const int blocks = static_cast<int>(listing(QStringLiteral("Music")).count(QStringLiteral("Directory:")));
   EXPECT_GE(blocks, 1);
   EXPECT_LT(blocks, 3);
   EXPECT_FALSE(form().progress().isVisible());
+}
+
+TEST_F(WindowRefresh, AnotherProgramThatRefreshesIsNamed) {
+  addFolder(QStringLiteral("Music"), {QStringLiteral("song.mp3")});
+  const auto another = FolderLock::take(folder_.path());
+  rescan();
+  EXPECT_EQ(
+      messages_.informed,
+      std::vector{QStringLiteral("The local lists cannot be refreshed now: another refresh is running.")});
+  EXPECT_FALSE(form().progress().isVisible());
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_TRUE(form().menus().ReScan->isEnabled());
 }
 
 TEST_F(WindowRefresh, ASearchMeanwhileReadsTheLastFinishedListings) {
@@ -239,19 +267,8 @@ TEST_F(WindowRefresh, AFaultIsToldAndTheWindowIsUsableAgain) {
 TEST_F(WindowRefresh, AFolderThatIsGoneIsToldInTheResultWindow) {
   addOnlineFolder(QStringLiteral("Stick"), files_.pathOf(QStringLiteral("stick/")));
   folder_.writeFile(QStringLiteral("Stick.txt"), "old");
-  form();
-  QString shown;
-  std::function<void()> look = [&] {
-    auto* window = qobject_cast<ResWin*>(QApplication::activeModalWidget());
-    if (!window) return QTimer::singleShot(0, &form(), look);
-    shown = window->findChild<QPlainTextEdit*>()->toPlainText();
-    EXPECT_FALSE(form().progress().isVisible());
-    QTest::keyClick(window, Qt::Key_Escape);
-  };
-  QTimer::singleShot(0, &form(), look);
-  rescan();
-  EXPECT_EQ(shown, QStringLiteral("%1 not found; the listing of Stick was kept\n")
-                       .arg(files_.pathOf(QStringLiteral("stick/"))));
+  EXPECT_EQ(resultsOfRescan(), QStringLiteral("%1 not found; the listing of Stick was kept\n")
+                                   .arg(files_.pathOf(QStringLiteral("stick/"))));
   EXPECT_EQ(listing(QStringLiteral("Stick")), QStringLiteral("old"));
 }
 

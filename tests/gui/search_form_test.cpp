@@ -81,6 +81,7 @@ TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
                                                  "AddLocal=&Add/Edit Local Folder To Search List\n"
                                                  "EditOffline=Add/Edit Offline List files\n"
                                                  "ReScan=Rescan Local Search Folders\n"
+                                                 "ListingHistory=Listing &History...\n"
                                                  "OptionsMenu=&Options\n"
                                                  "MenuQuit=&Quit\n"
                                                  "PeersMenu=&Peers\n"

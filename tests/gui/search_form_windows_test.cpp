@@ -58,10 +58,11 @@ class OpenedWindows : public testing::Test {
   SearchFormWindows windows_{state_,
                              messages_,
                              menus_,
-                             [this] {
-                               log_.append(QStringLiteral("refresh"));
-                               if (duringRefresh_) duringRefresh_();
-                             },
+                             {[this] {
+                                log_.append(QStringLiteral("refresh"));
+                                if (duringRefresh_) duringRefresh_();
+                              },
+                              {}},
                              main_,
                              QLocale(QLocale::English, QLocale::UnitedStates),
                              &picker_};
