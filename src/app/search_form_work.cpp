@@ -46,7 +46,21 @@ void SearchFormWork::startRefresh() {
   startOrTell(JobKind::Refresh, [this](Job& job) { refresh(job); });
 }
 
+/// A request that is left over is not taken back by a rescan, which would make short listings with it.
+bool SearchFormWork::isMeantToRun(const Job& job) {
+  if (!job.isAbortRequested() || job.isClosing()) return true;
+  if (!messages_.askYesNo(
+          QStringLiteral("The request to stop an earlier rescan is still in force. With it, most "
+                         "folders would be left out of the listings.\r\n\r\nForget the "
+                         "request, and rescan everything?"))) {
+    return false;
+  }
+  job.dropStopRequest();
+  return true;
+}
+
 void SearchFormWork::refresh(Job& job) {
+  if (!isMeantToRun(job)) return;
   RefreshOutcome outcome;
   menus_.ReScan->setEnabled(false);
   progress_->setBusyPointer(true);

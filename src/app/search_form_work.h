@@ -36,9 +36,10 @@ class SearchFormWork {
   Progress& progress() { return *progress_; }
   PeerExchange& peers() { return peers_; }
 
-  /// Refreshes the local lists, with `ReScan` disabled and the busy pointer shown; events run meanwhile. What
-  /// could not be indexed is shown in `ResWin` afterwards, and shared lists are packed anew. Where the
-  /// refresh has to wait, the call returns at once.
+  /// Where a request to stop is left over from an earlier rescan, asks whether it is to be forgotten; without
+  /// that nothing is done. Then refreshes the local lists, with `ReScan` disabled and the busy pointer shown;
+  /// events run meanwhile. What could not be indexed is shown in `ResWin` afterwards, and shared lists are
+  /// packed anew. Where the refresh has to wait, the call returns at once.
   void startRefresh();
   /// Puts an earlier version in the place of a listing, as a job of the kind Refresh, and packs shared lists
   /// anew. `ended` is called when that is done, has failed, or was refused, which the user has been told.
@@ -64,6 +65,7 @@ class SearchFormWork {
  private:
   /// False when it was refused.
   bool startOrTell(JobKind kind, const std::function<void(Job&)>& action);
+  bool isMeantToRun(const Job& job);
   void refresh(Job& job);
   void restore(Job& job, const QString& listing, int number);
   void showOutcome(const RefreshOutcome& outcome);

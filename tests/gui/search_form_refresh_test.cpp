@@ -172,6 +172,32 @@ TEST_F(WindowRefresh, CancelEndsTheWalkAndTheListingIsPutInPlace) {
   EXPECT_FALSE(form().progress().isVisible());
 }
 
+TEST_F(WindowRefresh, ARequestToStopThatIsLeftOverIsAskedAboutAndForgotten) {
+  addFolder(QStringLiteral("Music"), {QStringLiteral("a/1.mp3"), QStringLiteral("b/2.mp3")});
+  state_.AbortRequested = true;
+  messages_.answers = {true};
+  rescan();
+  EXPECT_EQ(messages_.asked, std::vector{QStringLiteral(
+                                 "The request to stop an earlier rescan is still in force. With it, most "
+                                 "folders would be left out of the listings.\r\n\r\nForget the request, "
+                                 "and rescan everything?")});
+  EXPECT_FALSE(state_.AbortRequested);
+  EXPECT_EQ(listing(QStringLiteral("Music")).count(QStringLiteral("Directory:")), 3);
+}
+
+TEST_F(WindowRefresh, ARequestToStopThatIsNotForgottenLeavesEveryListing) {
+  addFolder(QStringLiteral("Music"), {QStringLiteral("a/1.mp3"), QStringLiteral("b/2.mp3")});
+  folder_.writeFile(QStringLiteral("Music.txt"), "old");
+  state_.AbortRequested = true;
+  messages_.answers = {false};
+  rescan();
+  EXPECT_EQ(messages_.asked.size(), 1U);
+  EXPECT_TRUE(state_.AbortRequested);
+  EXPECT_EQ(listing(QStringLiteral("Music")), QStringLiteral("old"));
+  EXPECT_FALSE(state_.RescanRunning);
+  EXPECT_TRUE(form().menus().ReScan->isEnabled());
+}
+
 TEST_F(WindowRefresh, AnotherProgramThatRefreshesIsNamed) {
   addFolder(QStringLiteral("Music"), {QStringLiteral("song.mp3")});
   const auto another = FolderLock::take(folder_.path());
