@@ -40,6 +40,7 @@ set(QUORVIN_FUZZED_LIBRARIES
   quorvin_state
   quorvin_work
   quorvin_search
+  quorvin_history
   quorvin_archive
   quorvin_update
   quorvin_peers
