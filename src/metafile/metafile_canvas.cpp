@@ -75,6 +75,13 @@ QPolygon pixelsAt(const QPolygonF& places) {
   return pixels;
 }
 
+/// The pixels in an area. Far beyond the sheet it is cut: a region has a part for each row of a slanted edge.
+QRegion regionOf(const QPainterPath& area, Qt::FillRule rule) {
+  QRegion region;
+  for (const QPolygonF& polygon : nearArea(area).toFillPolygons()) region ^= QRegion(pixelsAt(polygon), rule);
+  return region;
+}
+
 /// In degrees from the right, counter-clockwise as one sees it.
 double angleOf(const QPointF& point, const QRectF& box) {
   const QPointF from = point - box.center();
@@ -144,7 +151,9 @@ QRect MetafileCanvas::pixelsAround(const QPolygonF& corners) const {
 }
 
 QRegion MetafileCanvas::regionInImage(const QRectF& box) const {
-  return QRegion(pixelsAt(toImage().map(QPolygonF(box))));
+  QPainterPath path;
+  path.addPolygon(toImage().map(QPolygonF(box)));
+  return regionOf(path, Qt::OddEvenFill);
 }
 
 double MetafileCanvas::lengthInImage(double length) const {
@@ -285,11 +294,7 @@ void MetafileCanvas::paintPath(MetafilePaint paintWhat) {
 }
 
 void MetafileCanvas::clipToPath(MetafileClip mode) {
-  QRegion region;
-  for (const QPolygonF& polygon : path_.toFillPolygons()) {
-    region ^= QRegion(pixelsAt(polygon), state.fillRule);
-  }
-  combineClip(region, mode);
+  combineClip(regionOf(path_, state.fillRule), mode);
   dropPath();
 }
 

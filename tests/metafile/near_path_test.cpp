@@ -81,6 +81,22 @@ TEST(PlayMetafile, LinesAndAreasThatEndFarBeyondTheSheetAreDrawnInNoTime) {
   EXPECT_EQ(image.pixel(450, 60), kWhite);
 }
 
+TEST(PlayMetafile, AClipThatReachesFarBeyondTheSheetIsMadeInNoTime) {
+  EmfWriter emf = filledEmf(kRed);
+  // Below the diagonal of the sheet, and that many times.
+  for (int time = 0; time < 5; ++time) {
+    emf.record(59).moveTo(-400'000, -200'000).lineTo(400'000, 200'000).lineTo(-400'000, 200'000).record(61);
+    emf.record(60).record(67, ByteWriter().u32(1));
+  }
+  emf.rectangle(0, 0, 400, 200);
+  ProcessorClock clock;
+  clock.start();
+  const QImage image = playMetafile(emf.file()).image;
+  EXPECT_LT(clock.elapsed(), 1000);
+  EXPECT_EQ(image.pixel(150, 250), kRed);
+  EXPECT_EQ(image.pixel(450, 60), kWhite);
+}
+
 TEST(PlayMetafile, APenThatIsWiderThanTheSheetIsDrawnInNoTime) {
   EmfWriter emf;
   emf.pen(1, 0, 0x7FFFFFFF, kRed).select(1).moveTo(0, 0).lineTo(1'000'000, 500'000).lineTo(0, 200);
