@@ -75,7 +75,7 @@ using Names = std::pair<QByteArray, QByteArray>;
 
 /// Every value of a file, by section and key: of what is there twice, the first counts.
 std::map<Names, QString> plainReading(QByteArray file) {
-  if (file.startsWith("\xEF\xBB\xBF")) file.remove(0, 3);
+  while (file.startsWith("\xEF\xBB\xBF")) file.remove(0, 3);
   std::map<Names, QString> values;
   std::set<QByteArray> sections;
   std::optional<QByteArray> section;

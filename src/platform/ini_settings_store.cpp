@@ -78,9 +78,11 @@ QString unescaped(const QString& text) {
 }  // namespace
 
 IniText::IniText(const QByteArray& text) {
-  const qsizetype mark = byteOrderMarkLength(text);
-  if (text.size() == mark) return;
-  lines_ = text.mid(mark).split('\n');
+  qsizetype start = 0;
+  // All of them: a second one would be taken for the first when the file is read again.
+  while (const qsizetype mark = byteOrderMarkLength(QByteArrayView(text).sliced(start))) start += mark;
+  if (text.size() == start) return;
+  lines_ = text.mid(start).split('\n');
   for (QByteArray& line : lines_) {
     // All of them: what is left of several would be a part of the line, until the file is written again.
     while (line.endsWith('\r')) line.chop(1);

@@ -86,6 +86,12 @@ TEST(IniText, AValueMayStartWithAByteOrderMark) {
   EXPECT_EQ(IniText(text.text()).value(QStringLiteral("a"), QStringLiteral("b")), value);
 }
 
+TEST(IniText, SeveralByteOrderMarksAtTheFrontAreAllSkipped) {
+  IniText text("\xEF\xBB\xBF\xEF\xBB\xBF[a]\nb=c\n");
+  EXPECT_EQ(text.value(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("c"));
+  EXPECT_EQ(text.text(), QByteArray("[a]\nb=c\n"));
+}
+
 TEST(IniText, ALineThatEndsInSeveralReturnsIsReadAlikeBeforeAndAfterAWrite) {
   IniText text("[a]\nb=c\r\r\n");
   EXPECT_EQ(text.value(QStringLiteral("a"), QStringLiteral("b")), QStringLiteral("c"));
