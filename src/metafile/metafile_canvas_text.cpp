@@ -1,5 +1,6 @@
 // The canvas: text.
 #include "metafile/metafile_canvas.h"
+#include "metafile/near_path.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -89,13 +90,28 @@ QPointF startOfLine(std::uint32_t align, double width, const QFontMetricsF& metr
   return {x, (align & kBottom) != 0 ? -metrics.descent() : metrics.ascent()};
 }
 
-/// The toolkit does not draw letters that are stretched very wide, but gives their outlines.
+/// The toolkit does not draw letters that are stretched very wide, by their font or by the units of the
+/// drawing, and crashes when it draws some that are pressed to nearly nothing; but it gives their outlines.
+bool needsOutlines(const QPainter& painter) {
+  constexpr double kLeastDrawnStretch = 1;
+  constexpr double kMostDrawnStretch = 400;
+  const QTransform& transform = painter.worldTransform();
+  const double stretch = painter.font().stretch() * std::hypot(transform.m11(), transform.m12());
+  return !(stretch >= kLeastDrawnStretch && stretch <= kMostDrawnStretch);
+}
+
+void fillOutlines(QPainter& painter, const QPainterPath& outlines) {
+  const QTransform transform = painter.worldTransform();
+  painter.resetTransform();
+  painter.fillPath(nearArea(transform.map(outlines)), painter.pen().color());
+  painter.setWorldTransform(transform);
+}
+
 void drawPiece(QPainter& painter, const QPointF& start, const QString& letters) {
-  constexpr int kMostDrawnStretch = 400;
-  if (painter.font().stretch() <= kMostDrawnStretch) return painter.drawText(start, letters);
+  if (!needsOutlines(painter)) return painter.drawText(start, letters);
   QPainterPath outlines;
   outlines.addText(start, painter.font(), letters);
-  painter.fillPath(outlines, painter.pen().color());
+  fillOutlines(painter, outlines);
 }
 
 void drawLetters(QPainter& painter, const QPointF& start, const MetafileText& text, double pixelsPerUnit) {
@@ -115,6 +131,13 @@ void drawLetters(QPainter& painter, const QPointF& start, const MetafileText& te
 
 void drawGlyphs(QPainter& painter, const QPointF& start, const QList<quint32>& glyphs, QList<QPointF> places,
                 const QRawFont& font) {
+  if (needsOutlines(painter)) {
+    QPainterPath outlines;
+    for (qsizetype at = 0; at < glyphs.size(); ++at) {
+      outlines.addPath(font.pathForGlyph(glyphs[at]).translated(start + places[at]));
+    }
+    return fillOutlines(painter, outlines);
+  }
   places.removeLast();
   QGlyphRun run;
   run.setRawFont(font);

@@ -97,6 +97,26 @@ TEST(PlayMetafile, AClipThatReachesFarBeyondTheSheetIsMadeInNoTime) {
   EXPECT_EQ(image.pixel(450, 60), kWhite);
 }
 
+TEST(PlayMetafile, LettersThatTheUnitsOfTheDrawingStretchAreDrawn) {
+  // A font of one unit, and units that are 4000 times as wide as high.
+  EmfWriter emf;
+  emf.record(18, ByteWriter().u32(1)).font(1, -1, QStringLiteral("DejaVu Sans Mono")).select(1);
+  emf.record(35, ByteWriter().f32(4000).f32(0).f32(0).f32(1).f32(0).f32(0));
+  // A full block is as wide as the sheet and more.
+  emf.text(0, 100, QString(QChar(0x2588)));
+  const QImage image = playMetafile(emf.file()).image;
+  EXPECT_LT(qGray(image.pixel(300, 151)), 64);
+  EXPECT_EQ(image.pixel(300, 100), kWhite);
+}
+
+TEST(PlayMetafile, LettersThatAreNearlyWithoutWidthDoNoHarm) {
+  EmfWriter emf;
+  emf.font(1, -20, QStringLiteral("DejaVu Sans")).select(1).record(18, ByteWriter().u32(1));
+  emf.record(35, ByteWriter().f32(1).f32(-720).f32(1e30F).f32(359).f32(1'000'000).f32(1e-6F));
+  emf.text(66, 156, QStringLiteral("letters"));
+  EXPECT_EQ(playMetafile(emf.file()).image, playMetafile(EmfWriter().file()).image);
+}
+
 TEST(PlayMetafile, APenThatIsWiderThanTheSheetIsDrawnInNoTime) {
   EmfWriter emf;
   emf.pen(1, 0, 0x7FFFFFFF, kRed).select(1).moveTo(0, 0).lineTo(1'000'000, 500'000).lineTo(0, 200);
