@@ -3,6 +3,7 @@
 #include "preview/in_background.h"
 #include "preview/picture_fit.h"
 
+#include <QCloseEvent>
 #include <QFileInfo>
 #include <QKeySequence>
 #include <QPainter>
@@ -171,6 +172,12 @@ void ImgPre::showEvent(QShowEvent*) {
 
 void ImgPre::hideEvent(QHideEvent*) {
   animation_.setPaused(true);
+}
+
+/// The medium of a picture that nobody looks at any more can be taken out.
+void ImgPre::closeEvent(QCloseEvent* event) {
+  animation_.stop();
+  QWidget::closeEvent(event);
 }
 
 void ImgPre::Form_Activate() {

@@ -54,7 +54,8 @@ class PictureAnimation : public QObject {
 /// The preview window `ImgPre`. The frame `PicBox` fills it. In its upper left corner, `Pic` shows the
 /// picture in the size that fitPicture gives, which is applied again after each change of the window's size
 /// and each activation. What is missing from a drawing is said in `Note`, a line over the lower edge that is
-/// seen only then. Esc closes the window; a closed window is only hidden and keeps its picture.
+/// seen only then. Esc closes the window; a closed window is only hidden and keeps its
+/// picture, but no open file: a moving picture stands still from then on.
 class ImgPre : public QWidget {
   Q_OBJECT
 
@@ -70,6 +71,7 @@ class ImgPre : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   class Picture;

@@ -19,6 +19,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <sys/stat.h>
 
@@ -221,6 +222,25 @@ TEST_F(PreviewImageTest, AnimatedPicturesMove) {
     return seen.size() > 1;
   };
   EXPECT_TRUE(eventually(look));
+}
+
+/// Whether this process has the file open.
+bool isOpen(const QString& path) {
+  const QFileInfoList descriptors =
+      QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::AllEntries | QDir::System);
+  return std::ranges::any_of(descriptors, [&](const QFileInfo& one) { return one.symLinkTarget() == path; });
+}
+
+TEST_F(PreviewImageTest, AClosedWindowLetsGoOfTheFileOfAMovingPicture) {
+  const auto isForEver = [](const CorpusPicture& picture) { return picture.name == "moving, disposal 2"; };
+  const std::vector<CorpusPicture> corpus = gifCorpus();
+  const auto moving = std::ranges::find_if(corpus, isForEver);
+  ASSERT_NE(moving, corpus.end());
+  const QString path = write(QStringLiteral("a.gif"), moving->bytes);
+  preview(path);
+  EXPECT_TRUE(isOpen(path));
+  preview_.window()->close();
+  EXPECT_EVENTUALLY(!isOpen(path));
 }
 
 TEST_F(PreviewImageTest, AStillPictureCausesNoBoxToAppear) {
