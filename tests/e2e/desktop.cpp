@@ -105,6 +105,15 @@ QString Desktop::titleOf(const QString& window) const {
   return run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("getwindowname"), window}).output.trimmed();
 }
 
+QStringList Desktop::windowsOf(qint64 process, const QString& title) const {
+  const Answer answer =
+      run(QStringLiteral(QUORVIN_XDOTOOL),
+          {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
+           QStringLiteral("--pid"), QString::number(process), QStringLiteral("--name"),
+           QStringLiteral("^%1$").arg(title)});
+  return answer.output.split(u'\n', Qt::SkipEmptyParts);
+}
+
 qint64 Desktop::processOf(const QString& window) const {
   const Answer answer = run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("getwindowpid"), window});
   return answer.isGood ? answer.output.trimmed().toLongLong() : 0;

@@ -38,6 +38,8 @@ class Desktop {
   QString activeWindow() const;
   void activate(const QString& window) const;
   QString titleOf(const QString& window) const;
+  /// The windows of this title that the process shows.
+  QStringList windowsOf(qint64 process, const QString& title) const;
   /// The number of the process that the window belongs to; 0 for a window that has just gone.
   qint64 processOf(const QString& window) const;
   /// The place of the window's inside, as "X=1 Y=2 WIDTH=3 HEIGHT=4".

@@ -59,6 +59,20 @@ RunningProgram::RunningProgram(const Desktop& desktop, const ProgramHome& home, 
   mainWindow_ = desktop_.activeWindow();
 }
 
+void RunningProgram::answerAtStart(const QStringList& keys, const std::function<bool()>& isTaken) {
+  waitUntil(QStringLiteral("for the answer to be taken"), [&] {
+    press(keys);
+    return isTaken();
+  });
+  // The question may have been the first window that was seen.
+  waitUntil(QStringLiteral("for the main window alone"), [this] {
+    const QStringList windows = desktop_.windowsOf(processId(), kTitle);
+    mainWindow_ = windows.value(0);
+    return windows.size() == 1;
+  });
+  waitForMainWindow();
+}
+
 void RunningProgram::comeToFront() const {
   desktop_.activate(mainWindow_);
   waitForMainWindow();

@@ -46,6 +46,11 @@ class RunningProgram {
   RunningProgram(const Desktop& desktop, const ProgramHome& home, const QStringList& arguments = {});
 
   const QString& mainWindow() const { return mainWindow_; }
+  qint64 processId() const { return process_.processId(); }
+
+  /// Right after a start that asks something: presses these keys until the answer `isTaken`. They must not
+  /// mean anything to the main window.
+  void answerAtStart(const QStringList& keys, const std::function<bool()>& isTaken);
 
   /// Makes the main window the one that takes keys, where another program's did.
   void comeToFront() const;

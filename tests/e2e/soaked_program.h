@@ -1,0 +1,140 @@
+// A real program that is used at random for long, with all that it has to know.
+#pragma once
+
+#include "e2e/running_program.h"
+#include "e2e/soak_catalogue.h"
+#include "e2e/soak_figures.h"
+#include "e2e/source_records.h"
+#include "e2e/web_site.h"
+#include "files/file_identity.h"
+
+#include <QJsonObject>
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace quorvin::test {
+
+/// Hears what is about to be done.
+using SoakNote = std::function<void(const QString& text)>;
+
+/// What everybody knows after a step is compared with what the program shows; a difference is a
+/// std::runtime_error. Every step starts and ends with the main window taking the keys, the program at rest.
+class SoakedProgram {
+ public:
+  /// When a program ends: at rest, or in the middle of something.
+  enum class Moment : std::uint8_t { AtRest, Searching, Refreshing, InDialog };
+  enum class WayOut : std::uint8_t { Keys, Terminate, Kill };
+
+  /// Fills `home` with folders, lists and settings, without starting anything. `home` and `site` must outlive
+  /// the object.
+  SoakedProgram(const QString& name, ProgramHome& home, WebSite& site, Dice& dice, SoakNote note);
+
+  bool isRunning() const { return program_.has_value(); }
+  /// Changes that were not saved before a kill are taken back, or are not.
+  void start(Dice& dice);
+  void end(WayOut way, Moment moment, Dice& dice);
+  /// Another start with the same settings, which hands over to this one.
+  void startAgain();
+
+  void search(const QStringList& words);
+  void refresh();
+  void editFolders(Dice& dice);
+  void editOfflineLists(Dice& dice);
+  void editOptions(Dice& dice);
+  void preview(Dice& dice);
+  void lookAtHistory(Dice& dice);
+  void lookAtHelp(Dice& dice);
+  void wander(Dice& dice);
+  void updateFromWeb(Dice& dice);
+  /// Shares; `peer`, another program, gets the lists and adds them or not; sharing ends.
+  void shareWith(SoakedProgram& peer, bool isAdded, bool refreshesMeanwhile);
+
+  /// Changes that no program makes: in the own folders, and in lists from elsewhere.
+  void changeFiles(Dice& dice);
+  void takeAwayOrBringBack(Dice& dice);
+
+  /// What the program expects and shows, for the report of a failure.
+  QString stateShown() const;
+  /// Waits until no more threads than these are left.
+  void waitForThreads(int most) const;
+  /// The program's figures, after a search that is always the same.
+  ProcessFigures figures();
+  /// Refreshes a last time, closes, and looks at everything on the disk. Gives the number of listings that
+  /// were compared.
+  int closeAndCompare(Dice& dice);
+
+ private:
+  struct Lists {
+    SourceRecords online;
+    SourceRecords offline;
+  };
+  using Identities = std::map<QString, std::optional<FileIdentity>>;
+  using AddEntry = std::function<void(const SourceRecord&)>;
+
+  void note(const QString& text) const { note_(name_ + QStringLiteral(": ") + text); }
+  Listing mainListing() const;
+  void writeFarList(const QString& path, Dice& dice);
+
+  void press(const QStringList& keys) const { program_->press(keys); }
+  /// Waits for a message, and gives this answer to it.
+  void answer(const QStringList& keys) const;
+  void waitUntilAtRest() const;
+  /// The window that has the keys, and its text where it is a message.
+  QString messageShown() const;
+
+  QStringList expectedHits(const QStringList& words) const;
+  int missingListings() const;
+  QStringList copiedHits() const;
+  void compareHits(const QStringList& words) const;
+
+  bool isListedAndThere(const SourceFolder& folder) const;
+  bool isAnyFolderAway() const;
+  QString listingPath(const SourceFolder& folder) const;
+  QByteArray listingFile(const SourceFolder& folder) const;
+  Identities identitiesOfListings() const;
+  void startRefresh() const;
+  void waitForRefreshed(const Identities& before, int count) const;
+  void refreshHasStarted(const Identities& before);
+  void takeOverListings();
+
+  void selectRow(int row) const;
+  QString editOnce(SourceRecords& records, const SourceRecords& unlisted, const AddEntry& add,
+                   Dice& dice) const;
+  void getListsOf(const SoakedProgram& sharer, bool isAdded);
+  void addReceived(const SoakedProgram& sharer, const QStringList& foldersBefore);
+
+  bool isGoingToReport() const { return missingListings() > 0 || isAnyFolderAway(); }
+  void beInTheMiddle(Moment moment, Dice& dice);
+  void forgetUnsaved();
+  QString recoveryCopy() const;
+  QJsonObject unsavedChanges() const;
+  void waitForRecoveryCopy() const;
+  void compareSaved() const;
+  int compareListings() const;
+  void compareNamesLeft() const;
+
+  QString name_;
+  ProgramHome& home_;
+  WebSite& site_;
+  SoakNote note_;
+  Desktop desktop_;
+  std::optional<RunningProgram> program_;
+
+  std::vector<SourceFolder> folders_;
+  /// By the descriptions of own folders; those that have been made.
+  std::map<QString, Listing> listings_;
+  /// By path.
+  std::map<QString, Listing> offline_;
+  std::vector<QString> offlineOnDisk_;
+  Listing main_;
+  int mainVersion_ = 0;
+  Lists lists_;
+  Lists saved_;
+  QString nickName_;
+  QString savedNickName_;
+};
+
+}  // namespace quorvin::test
