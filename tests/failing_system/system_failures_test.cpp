@@ -1,0 +1,246 @@
+// The program and the console while the system fails them: every call of every kind once, until a run gets
+// through.
+#include "archive/archive_maker.h"
+#include "failing_system/failing_program.h"
+#include "platform/ini_settings_store.h"
+#include "support/qt_printing.h"
+#include "support/sweep.h"
+#include "support/temporary_folder.h"
+
+#include <QDirIterator>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+#include <map>
+#include <ostream>
+
+namespace quorvin::test {
+
+namespace {
+
+/// The contents of all files below a folder by their names.
+using Files = std::map<QString, QByteArray>;
+
+QString errorNumber(int number) {
+  return QString::number(number);
+}
+
+const std::vector<SystemFailure> kFailures = {
+    {"open", errorNumber(EACCES)},    {"open", errorNumber(EMFILE)},      {"read", errorNumber(EIO)},
+    {"write", errorNumber(ENOSPC)},   {"write", QStringLiteral("short")}, {"fsync", errorNumber(EIO)},
+    {"rename", errorNumber(EACCES)},  {"mkdir", errorNumber(ENOSPC)},     {"stat", errorNumber(EIO)},
+    {"list", errorNumber(EIO)},       {"list", errorNumber(EMFILE)},      {"socket", errorNumber(ECONNRESET)},
+    {"allocate", errorNumber(ENOMEM)}};
+
+/// What is done, and the files that this makes or replaces. A listing is short where its folder could not be
+/// read, and an archive where it did not come whole: the messages say so.
+struct Deed {
+  const char* name;
+  QStringList command;
+  QStringList products;
+};
+
+QStringList console(const QStringList& arguments) {
+  return QStringList(QStringLiteral(QUORVIN_CLI)) + arguments;
+}
+
+QStringList window(const QString& scenario) {
+  return {QStringLiteral(QUORVIN_SCENARIOS), scenario};
+}
+
+const std::vector<Deed> kDeeds = {
+    {"Find", console({u"find"_qs, u"song"_qs}), {}},
+    {"FindInListing", console({u"find"_qs, u"--format"_qs, u"json"_qs, u"old"_qs, u"data/Music.txt"_qs}), {}},
+    {"FindUncached", console({u"find"_qs, u"--no-cache"_qs, u"--count"_qs, u"song"_qs}), {}},
+    {"Index",
+     console({u"index"_qs, u"Music"_qs, u"--output"_qs, u"data/Music.txt"_qs}),
+     {u"data/Music.txt"_qs}},
+    {"Refresh", console({u"refresh"_qs}), {u"data/Music.txt"_qs, u"data/Films.txt"_qs}},
+    {"ClearCache", console({u"cache"_qs, u"--clear"_qs}), {}},
+    {"Closing",
+     window(u"closing"_qs),
+     {u"settings.ini"_qs, u"data/Locations.txt"_qs, u"data/OfflineLocations.txt"_qs}},
+    {"Update", window(u"update"_qs), {u"data/main.txt"_qs, u"data/main.zip"_qs}},
+    {"Exchange", window(u"exchange"_qs), {}},
+};
+
+bool isOfConsole(const Deed& deed) {
+  return deed.command.first() == QStringLiteral(QUORVIN_CLI);
+}
+
+std::ostream& operator<<(std::ostream& out, const Deed& deed) {
+  return out << deed.name;
+}
+
+class FailingSystem : public testing::TestWithParam<Deed> {
+ protected:
+  FailingSystem() {
+    prepare();
+    undisturbed_ = run({"none", {}}, 0);
+    after_ = filesOf(place_->path());
+  }
+
+  /// A new folder with two sources, one of which has an older listing; a peer's folder with one listing; and
+  /// an archive that a web server has.
+  void prepare() {
+    place_ = std::make_unique<TemporaryFolder>();
+    place_->writeFile(u"Music/song.mp3"_qs, "12345");
+    place_->writeFile(u"Music/Deep/song two.mp3"_qs, "1");
+    place_->writeFile(u"Films/film.avi"_qs, "12345");
+    const QByteArray top = place_->path().toUtf8();
+    place_->writeFile(u"data/Locations.txt"_qs,
+                      "\"Music\",\"" + top + "Music/\"\r\n\"Films\",\"" + top + "Films/\"\r\n");
+    place_->writeFile(u"data/Music.txt"_qs, kOldListing);
+    place_->writeFile(u"data/main.txt"_qs, "the main list as it was");
+    place_->writeFile(u"peer/Far.txt"_qs, kOldListing);
+    place_->writeFile(u"served.zip"_qs, served_);
+    setTimes();
+    IniSettingsStore store(place_->pathOf(u"settings.ini"_qs));
+    store.write(u"Ketta Quorvin"_qs, u"Settings"_qs, u"LocalFolder"_qs, place_->pathOf(u"data/"_qs));
+    store.write(u"Ketta Quorvin"_qs, u"Settings"_qs, u"JoinDate"_qs, u"15 Jan 2004"_qs);
+    before_ = filesOf(place_->path());
+  }
+
+  /// Listings and archives hold the times of files.
+  void setTimes() {
+    for (const auto& name :
+         {u"Music/song.mp3"_qs, u"Music/Deep/song two.mp3"_qs, u"Films/film.avi"_qs, u"peer/Far.txt"_qs}) {
+      QFile file(place_->pathOf(name));
+      ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+      ASSERT_TRUE(
+          file.setFileTime(QDateTime(QDate(2004, 1, 15), QTime(12, 0)), QFileDevice::FileModificationTime));
+    }
+  }
+
+  FailedRun run(const SystemFailure& failure, int number) {
+    FailedRun run = runFailing(place_->path(), GetParam().command, failure, number);
+    run.output = withoutPlace(run.output, place_->path());
+    run.errors = QString::fromUtf8(withoutPlace(run.errors.toUtf8(), place_->path()));
+    return run;
+  }
+
+  /// The same text in each folder, as a path of the system and as listings have it, and with each port.
+  static QByteArray withoutPlace(QByteArray bytes, const QString& folder) {
+    const QByteArray path = folder.toUtf8();
+    bytes.replace(path, "HERE/").replace(QByteArray(path).replace('/', '\\'), "HERE\\");
+    static const QRegularExpression port(QStringLiteral("(?<=127\\.0\\.0\\.1[:_])\\d+"));
+    // Byte by byte, so that archives come through too.
+    return QString::fromLatin1(bytes).replace(port, QStringLiteral("PORT")).toLatin1();
+  }
+
+  static Files filesOf(const QString& folder) {
+    Files files;
+    QDirIterator below(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (below.hasNext()) {
+      QFile file(below.next());
+      EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+      const QString name =
+          QString::fromUtf8(withoutPlace(file.fileName().mid(folder.size()).toUtf8(), folder));
+      // What is kept of a search can be made again at any time, and its names differ from folder to folder.
+      if (name.startsWith(u"cache/")) continue;
+      // A peer answers a question for a list that it does not have with an empty archive, which it makes
+      // first.
+      if (name == u"peer/.zip") continue;
+      files[name] = withoutPlace(file.readAll(), folder);
+      // Packed listings hold the time of packing.
+      if (name.startsWith(u"peer/") && files[name].startsWith("PK")) files[name] = "an archive";
+      if (name.endsWith(u"/Far.zip") && files[name].startsWith("PK")) files[name] = "an archive";
+    }
+    return files;
+  }
+
+  /// Every file is what it was before or what an undisturbed run makes of it, and there is no other one.
+  void expectWholeFiles(const FailedRun& run) {
+    const Files now = filesOf(place_->path());
+    for (const auto& [name, content] : now) {
+      const bool old = before_.count(name) != 0 && before_.at(name) == content;
+      const bool made = after_.count(name) != 0 && after_.at(name) == content;
+      const bool admittedlyShort = GetParam().products.contains(name) && !run.errors.isEmpty();
+      EXPECT_TRUE(old || made || admittedlyShort) << name.toStdString() << ":\n" << content.toStdString();
+    }
+    for (const auto& [name, content] : before_)
+      EXPECT_EQ(now.count(name), 1U) << name.toStdString() << " is gone";
+  }
+
+  /// A run that says nothing has done all of its work.
+  void expectAllDoneOrSaid(const FailedRun& run) {
+    EXPECT_FALSE(run.errors.contains(u"terminate") || run.errors.contains(u"std::"))
+        << run.errors.toStdString();
+    if (run.status == 2) {
+      EXPECT_NE(run.errors, undisturbed_.errors) << "it ends with 2 and does not say why";
+      return;
+    }
+    if (run.errors != undisturbed_.errors) return;
+    EXPECT_EQ(run.status, undisturbed_.status);
+    EXPECT_EQ(run.output, undisturbed_.output);
+    for (const QString& name : GetParam().products) {
+      EXPECT_EQ(filesOf(place_->path())[name], after_[name]) << name.toStdString();
+    }
+  }
+
+  const QByteArray served_ = archiveOf("main.txt", "the main list as it is now");
+  FailedRun undisturbed_;
+  Files before_;
+  Files after_;
+  std::unique_ptr<TemporaryFolder> place_;
+
+ private:
+  static constexpr const char* kOldListing =
+      "\r\nVolume:    MUSIC\r\nDirectory: \\old\\\r\n\r\n"
+      "old song.mp3                                                                  1 bytes 2004-01-15 "
+      "12:00:00\r\n";
+};
+
+TEST_P(FailingSystem, EveryFailureIsSaidAndLeavesWholeFiles) {
+  for (const SystemFailure& failure : kFailures) {
+    const bool allocates = failure.call == std::string_view("allocate");
+    // The toolkit's windows end a program that has no memory, by its own rules.
+    if (allocates && !isOfConsole(GetParam())) continue;
+    const int stride = allocates ? sweep(7, 499) : isOfConsole(GetParam()) ? 1 : sweep(1, 5);
+    int number = 1;
+    for (;; number += stride) {
+      SCOPED_TRACE(testing::Message()
+                   << failure.call << " " << number << " fails by " << failure.how.toStdString());
+      prepare();
+      const FailedRun run = this->run(failure, number);
+      EXPECT_FALSE(run.crashed) << run.errors.toStdString();
+      EXPECT_TRUE(run.status >= 0 && run.status <= 2) << run.status;
+      expectWholeFiles(run);
+      expectAllDoneOrSaid(run);
+      if (!run.failed || run.crashed) break;
+    }
+    RecordProperty(std::string(failure.call) + "_" + failure.how.toStdString(), number);
+  }
+}
+
+TEST_P(FailingSystem, AKilledRunLeavesWholeFilesAndTheNextOneNeedsNoHelp) {
+  for (const char* call : {"open", "write", "fsync", "rename", "mkdir", "read", "list"}) {
+    for (int number = 1;; ++number) {
+      SCOPED_TRACE(testing::Message() << "killed at " << call << " " << number);
+      prepare();
+      const FailedRun killed = run({call, QStringLiteral("kill")}, number);
+      if (!killed.failed) break;
+      ASSERT_TRUE(killed.crashed);
+      const Files left = filesOf(place_->path());
+      for (const auto& [name, content] : before_) {
+        ASSERT_EQ(left.count(name), 1U) << name.toStdString() << " is gone";
+        const bool made = after_.count(name) != 0 && after_.at(name) == left.at(name);
+        EXPECT_TRUE(left.at(name) == content || made) << name.toStdString();
+      }
+      const FailedRun next = run({"none", {}}, 0);
+      EXPECT_EQ(next.status, undisturbed_.status);
+      EXPECT_EQ(next.output, undisturbed_.output);
+      for (const QString& name : GetParam().products) {
+        EXPECT_EQ(filesOf(place_->path())[name], after_[name]) << name.toStdString();
+      }
+      if (HasFailure()) return;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Deeds, FailingSystem, testing::ValuesIn(kDeeds),
+                         [](const auto& deed) { return std::string(deed.param.name); });
+
+}  // namespace
+
+}  // namespace quorvin::test

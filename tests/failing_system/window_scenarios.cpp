@@ -1,0 +1,150 @@
+// What the program with the window does with the user's files, without a person: "closing", "update",
+// "exchange".
+//
+//   window_scenarios SCENARIO
+//
+// The current folder holds settings.ini and data/; for an update data/main.zip is fetched from served.zip in
+// it, and an exchange gets the list of peer/. Messages to the user go to standard error; the program ends
+// with 0 when it comes to its end.
+#include "e2e/whole_program.h"
+#include "peers/peer_exchange.h"
+#include "support/eventually.h"
+#include "support/recording_work_display.h"
+#include "update/http_transfer.h"
+#include "update/scripted_web_server.h"
+#include "update/web_update.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <iostream>
+#include <string_view>
+
+namespace quorvin::test {
+
+namespace {
+
+/// Tells what a person would read, and agrees to everything.
+class PrintedMessages : public MessageBoxes {
+ public:
+  void inform(const QString& text) override { print(text); }
+  bool askYesNo(const QString& text) override {
+    print(text);
+    return true;
+  }
+  FaultAnswer askAbortRetryIgnore(const QString& text) override {
+    print(text);
+    return FaultAnswer::Abort;
+  }
+
+  static void print(const QString& text) { std::cerr << text.toStdString() << std::endl; }
+};
+
+void runEventsIn(RecordingWorkDisplay& display) {
+  display.onEvents = [] { QCoreApplication::processEvents(); };
+  display.onWait = [] { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20); };
+}
+
+/// Then nobody is waited for long who says nothing. Without failures nothing depends on the speed of the
+/// machine.
+bool somethingFails() {
+  return qEnvironmentVariableIntValue("QUORVIN_FAIL_AT") > 0;
+}
+
+void closing(const QString& folder) {
+  WholeProgram program(folder + QStringLiteral("settings.ini"), folder);
+  program.state.NickName = QStringLiteral("New");
+  program.state.OnlineSources.set(++program.state.OnlineSourceCount, QStringLiteral("Films"),
+                                  QStringLiteral("/films/"));
+  program.state.OfflineSources.set(++program.state.OfflineSourceCount, QStringLiteral("Offline"),
+                                   QStringLiteral("/lists/new.txt"));
+  // What cannot be saved keeps the window once; closing it again leaves.
+  if (!program.close()) program.close();
+  for (const QString& text : program.takeMessages()) PrintedMessages::print(text);
+}
+
+void update(const QString& folder) {
+  QFile served(folder + QStringLiteral("served.zip"));
+  if (!served.open(QIODevice::ReadOnly)) return PrintedMessages::print(served.errorString());
+  const QByteArray archive = served.readAll();
+  ScriptedWebServer server({sends(goodAnswer(archive))});
+  ProgramState state;
+  state.LocalFolder = folder + QStringLiteral("data/");
+  state.ArchiveFile = QStringLiteral("main.zip");
+  state.WebServer = server.host();
+  RecordingWorkDisplay display;
+  runEventsIn(display);
+  Work work(state, display);
+  PrintedMessages messages;
+  HttpLimits limits;
+  if (somethingFails()) limits.silence = limits.headers = std::chrono::milliseconds(500);
+  HttpNetworkTransfer web(limits);
+  work.run(JobKind::Update, [&](Job& job) {
+    WebUpdate(state, job, messages, web, QLocale::c(), [](bool) {}).WebUpdate_Click();
+  });
+}
+
+/// The parts of a program that exchanges lists.
+struct Exchanging {
+  explicit Exchanging(const QString& dataFolder)
+      : exchange(
+            state, work, messages, QLocale::c(), [] { return true; }, {}, shortLimits()) {
+    state.LocalFolder = dataFolder;
+    state.NickName = QStringLiteral("Bob");
+    state.JoinDate = 37622;
+    runEventsIn(display);
+  }
+
+  static PeerClientLimits shortLimits() {
+    PeerClientLimits limits;
+    if (!somethingFails()) return limits;
+    limits.settle = std::chrono::milliseconds(200);
+    limits.stall = std::chrono::milliseconds(400);
+    limits.silence = std::chrono::milliseconds(800);
+    return limits;
+  }
+
+  ProgramState state;
+  RecordingWorkDisplay display;
+  Work work{state, display};
+  PrintedMessages messages;
+  PeerExchange exchange;
+};
+
+void exchange(const QString& folder) {
+  Exchanging sharing(folder + QStringLiteral("peer/"));
+  sharing.state.OnlineSources.set(++sharing.state.OnlineSourceCount, QStringLiteral("Far"),
+                                  QStringLiteral("/far/"));
+  if (!sharing.exchange.sharing().start(0)) return;
+  Exchanging getting(folder + QStringLiteral("data/"));
+  bool isDone = false;
+  QObject::connect(&getting.exchange, &PeerExchange::outcomeDealtWith, [&isDone] { isDone = true; });
+  getting.exchange.getLists(QStringLiteral("127.0.0.1:%1").arg(sharing.exchange.sharing().server().port()));
+  if (!eventually([&isDone] { return isDone; })) PrintedMessages::print(QStringLiteral("it never ended"));
+}
+
+void play(std::string_view scenario, const QString& folder) {
+  if (scenario == "closing") return closing(folder);
+  if (scenario == "update") return update(folder);
+  if (scenario == "exchange") return exchange(folder);
+  throw std::invalid_argument("no such scenario");
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  const QString folder = QDir::currentPath() + u'/';
+  try {
+    quorvin::test::play(argv[1], folder);
+  } catch (const quorvin::RuntimeFault& fault) {
+    // As the event loop's edge shows it.
+    quorvin::test::PrintedMessages::print(fault.text());
+  } catch (const std::runtime_error& error) {
+    // The scenario's own server did not come up.
+    quorvin::test::PrintedMessages::print(QString::fromUtf8(error.what()));
+  }
+  return 0;
+}
