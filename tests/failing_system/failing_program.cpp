@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 
+#include <thread>
+
 namespace quorvin::test {
 
 namespace {
@@ -21,6 +23,20 @@ QProcessEnvironment environmentIn(const QString& folder) {
   environment.insert(QStringLiteral("XDG_CACHE_HOME"), folder + QStringLiteral("cache"));
   environment.insert(QStringLiteral("XDG_DATA_HOME"), folder + QStringLiteral("home"));
   return environment;
+}
+
+/// Waits for the end of `process`, and says how it ended.
+FailedRun endOf(QProcess& process) {
+  if (!process.waitForFinished(kHangs)) {
+    process.kill();
+    process.waitForFinished();
+  }
+  FailedRun run;
+  run.crashed = process.exitStatus() != QProcess::NormalExit;
+  run.status = process.exitCode();
+  run.output = process.readAllStandardOutput();
+  run.errors = QString::fromUtf8(process.readAllStandardError());
+  return run;
 }
 
 }  // namespace
@@ -40,17 +56,20 @@ FailedRun runFailing(const QString& folder, const QStringList& command, const Sy
   process.setProcessEnvironment(environment);
   process.setWorkingDirectory(folder);
   process.start(command.first(), command.mid(1));
-  FailedRun run;
-  if (!process.waitForFinished(kHangs)) {
-    process.kill();
-    process.waitForFinished();
-  }
+  FailedRun run = endOf(process);
   run.failed = aside.has(QStringLiteral("failed"));
-  run.crashed = process.exitStatus() != QProcess::NormalExit;
-  run.status = process.exitCode();
-  run.output = process.readAllStandardOutput();
-  run.errors = QString::fromUtf8(process.readAllStandardError());
   return run;
+}
+
+FailedRun runKilled(const QString& folder, const QStringList& command, std::chrono::microseconds after) {
+  QProcess process;
+  process.setProcessEnvironment(environmentIn(folder));
+  process.setWorkingDirectory(folder);
+  process.start(command.first(), command.mid(1));
+  process.waitForStarted(kHangs);
+  std::this_thread::sleep_for(after);
+  process.kill();
+  return endOf(process);
 }
 
 }  // namespace quorvin::test

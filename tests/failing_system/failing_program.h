@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <cerrno>
+#include <chrono>
 
 namespace quorvin::test {
 
@@ -22,7 +23,7 @@ struct SystemFailure {
 struct FailedRun {
   /// Whether the program made so many calls that the chosen one failed.
   bool failed = false;
-  /// Whether it ended by a signal of its own making.
+  /// Whether it ended by a signal.
   bool crashed = false;
   int status = 0;
   QByteArray output;
@@ -35,5 +36,8 @@ struct FailedRun {
 /// hangs counts as crashed.
 FailedRun runFailing(const QString& folder, const QStringList& arguments, const SystemFailure& failure,
                      int number);
+
+/// The same without a failure, killed so long after its start, unless it has ended before.
+FailedRun runKilled(const QString& folder, const QStringList& command, std::chrono::microseconds after);
 
 }  // namespace quorvin::test
