@@ -25,6 +25,10 @@ struct FileIdentity {
 /// The identity of the file at `path`; nothing when there is none.
 std::optional<FileIdentity> fileIdentity(const QString& path);
 
+/// Whether a file is at `path`. For what must not be taken for missing because a look at it failed, as on a
+/// disk with errors: then it throws RuntimeFault.
+bool fileIsThere(const QString& path);
+
 /// Whether both paths lead to one file: they are equal, or the file system takes one for a way of writing the
 /// other (a link, "./", capital letters). False where neither leads to a file and they differ.
 bool isSameFile(const QString& path, const QString& other);

@@ -1,7 +1,9 @@
+#include "faults/runtime_fault.h"
 #include "files/file_identity.h"
 
 #include <QFile>
 
+#include <cerrno>
 #include <sys/stat.h>
 
 namespace quorvin {
@@ -14,6 +16,13 @@ std::optional<FileIdentity> fileIdentity(const QString& path) {
   };
   return FileIdentity{status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim), status.st_dev,
                       status.st_ino};
+}
+
+bool fileIsThere(const QString& path) {
+  struct stat status {};
+  if (::stat(QFile::encodeName(path).constData(), &status) == 0) return S_ISREG(status.st_mode);
+  if (errno == ENOENT || errno == ENOTDIR) return false;
+  throw faultOfSystemError(errno, path);
 }
 
 bool isSameFile(const QString& path, const QString& other) {

@@ -175,7 +175,7 @@ void load(const QString& path, SourceTable& table, int& count, SourceListRead& r
   read = {};
   read.path = path;
   const auto afterwards = qScopeGuard([&] { noteRecords(table, count, read); });
-  if (ordinaryFileExists(path)) read.digest = loadSourceList(path, table, count);
+  if (fileIsThere(path)) read.digest = loadSourceList(path, table, count);
   read.isComplete = true;
 }
 

@@ -1,5 +1,6 @@
 #include "files/file_identity.h"
 
+#include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -33,6 +34,15 @@ TEST_F(FileIdentityTest, StaysWhileNothingChanges) {
 
 TEST_F(FileIdentityTest, ThereIsNoneWithoutAFile) {
   EXPECT_FALSE(fileIdentity(folder_.pathOf(u"none"_qs)));
+}
+
+TEST_F(FileIdentityTest, AFileThatCannotBeLookedAtIsNotTakenForMissing) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(fileIsThere(folder.writeFile(QStringLiteral("a.txt"), "a")));
+  EXPECT_FALSE(fileIsThere(folder.pathOf(QStringLiteral("b.txt"))));
+  EXPECT_FALSE(fileIsThere(folder.pathOf(QStringLiteral("a.txt/b.txt"))));
+  EXPECT_FALSE(fileIsThere(folder.path()));
+  EXPECT_FAULT(fileIsThere(folder.pathOf(QString(300, u'x'))), 52);
 }
 
 TEST_F(FileIdentityTest, ContentOfTheSameSizeAndTimeIsAnother) {
