@@ -95,7 +95,8 @@ class FailingSystem : public testing::TestWithParam<Deed> {
     const QByteArray top = place_->path().toUtf8();
     place_->writeFile(u"data/Locations.txt"_qs,
                       "\"Music\",\"" + top + "Music/\"\r\n\"Films\",\"" + top + "Films/\"\r\n");
-    place_->writeFile(u"data/Music.txt"_qs, kOldListing);
+    for (const auto& name : {u"data/Music.txt"_qs, u"data/Films.txt"_qs})
+      place_->writeFile(name, kOldListing);
     place_->writeFile(u"data/main.txt"_qs, "the main list as it was");
     place_->writeFile(u"peer/Far.txt"_qs, kOldListing);
     place_->writeFile(u"served.zip"_qs, served_);
@@ -143,6 +144,8 @@ class FailingSystem : public testing::TestWithParam<Deed> {
           QString::fromUtf8(withoutPlace(file.fileName().mid(folder.size()).toUtf8(), folder));
       // What is kept of a search can be made again at any time, and its names differ from folder to folder.
       if (name.startsWith(u"cache/")) continue;
+      // A listing that could not be finished stays aside; the next refresh replaces it.
+      if (name.endsWith(u".tmp")) continue;
       // A peer answers a question for a list that it does not have with an empty archive, which it makes
       // first.
       if (name == u"peer/.zip") continue;
@@ -158,7 +161,9 @@ class FailingSystem : public testing::TestWithParam<Deed> {
   void expectWholeFiles(const FailedRun& run) {
     const Files now = filesOf(place_->path());
     for (const auto& [name, content] : now) {
-      const bool old = before_.count(name) != 0 && before_.at(name) == content;
+      // A list that could not be read when the program started is kept beside the new one.
+      const QString base = name.endsWith(u".kept") ? name.chopped(5) : name;
+      const bool old = before_.count(base) != 0 && before_.at(base) == content;
       const bool made = after_.count(name) != 0 && after_.at(name) == content;
       const bool admittedlyShort = GetParam().products.contains(name) && !run.errors.isEmpty();
       EXPECT_TRUE(old || made || admittedlyShort) << name.toStdString() << ":\n" << content.toStdString();
@@ -171,7 +176,7 @@ class FailingSystem : public testing::TestWithParam<Deed> {
   void expectAllDoneOrSaid(const FailedRun& run) {
     EXPECT_FALSE(run.errors.contains(u"terminate") || run.errors.contains(u"std::"))
         << run.errors.toStdString();
-    if (run.status == 2) {
+    if (run.status == 2 && undisturbed_.status != 2) {
       EXPECT_NE(run.errors, undisturbed_.errors) << "it ends with 2 and does not say why";
       return;
     }
@@ -221,7 +226,7 @@ class FailingSystem : public testing::TestWithParam<Deed> {
  private:
   static constexpr const char* kOldListing =
       "\r\nVolume:    MUSIC\r\nDirectory: \\old\\\r\n\r\n"
-      "old song.mp3                                                                  1 bytes 2004-01-15 "
+      "old song.mp3                                                                  1 bytes 15 Jan 2004 "
       "12:00:00\r\n";
 };
 

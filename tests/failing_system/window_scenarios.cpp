@@ -87,21 +87,11 @@ void update(const QString& folder) {
 /// The parts of a program that exchanges lists.
 struct Exchanging {
   explicit Exchanging(const QString& dataFolder)
-      : exchange(
-            state, work, messages, QLocale::c(), [] { return true; }, {}, shortLimits()) {
+      : exchange(state, work, messages, QLocale::c(), [] { return true; }) {
     state.LocalFolder = dataFolder;
     state.NickName = QStringLiteral("Bob");
     state.JoinDate = 37622;
     runEventsIn(display);
-  }
-
-  static PeerClientLimits shortLimits() {
-    PeerClientLimits limits;
-    if (!somethingFails()) return limits;
-    limits.settle = std::chrono::milliseconds(200);
-    limits.stall = std::chrono::milliseconds(400);
-    limits.silence = std::chrono::milliseconds(800);
-    return limits;
   }
 
   ProgramState state;
