@@ -325,7 +325,8 @@ TEST_F(AccessibleWindows, ImgPre) {
   EXPECT_EQ(roleOf(window), QAccessible::Window);
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Image Preview"));
   expectReadings(window, QStringLiteral("Client PicBox: Picture frame\n"
-                                        "Client Pic: Picture"));
+                                        "Client Pic: Picture\n"
+                                        "StaticText Note:  (hidden)"));
 }
 
 TEST_F(AccessibleWindows, TheBoxOfAPictureThatLoads) {
