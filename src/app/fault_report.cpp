@@ -1,5 +1,6 @@
 #include "app/fault_report.h"
 
+#include <cstdio>
 #include <new>
 
 namespace quorvin {
@@ -18,6 +19,14 @@ QString whatHappened(const std::exception& fault) {
 
 QString faultReport(const std::exception& fault, const QString& doing) {
   return whatHappened(fault) + QStringLiteral("\r\n\r\nThis happened while ") + doing + QStringLiteral(".");
+}
+
+void showFault(MessageBoxes& messages, const std::exception& fault, const QString& doing) noexcept {
+  try {
+    messages.inform(faultReport(fault, doing));
+  } catch (const std::exception&) {
+    std::fprintf(stderr, "quorvin: %s\n", fault.what());
+  }
 }
 
 }  // namespace quorvin

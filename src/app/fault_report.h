@@ -14,6 +14,10 @@ namespace quorvin {
 /// exceptions have no number, only their text.
 QString faultReport(const std::exception& fault, const QString& doing);
 
+/// Reports `fault` as faultReport() words it in a message box; where not even that can be shown, for want of
+/// memory, on standard error. Throws nothing.
+void showFault(MessageBoxes& messages, const std::exception& fault, const QString& doing) noexcept;
+
 /// Runs `action`; what it throws is reported in a message box, and the program continues. `doing` says what
 /// the action does, in words that follow "while". Every handler of a window runs its work through this: a
 /// fault must not pass through the toolkit's own code.
@@ -22,7 +26,7 @@ void reportFaults(MessageBoxes& messages, const QString& doing, Action&& action)
   try {
     action();
   } catch (const std::exception& fault) {
-    messages.inform(faultReport(fault, doing));
+    showFault(messages, fault, doing);
   }
 }
 

@@ -33,6 +33,20 @@ TEST(FaultReport, TellsThatMemoryHasRunOut) {
             QStringLiteral("Run-time error: Out of memory\r\n\r\nThis happened while counting."));
 }
 
+/// A box for which there is no memory.
+class NoRoomForBoxes : public RecordingMessageBoxes {
+ public:
+  void inform(const QString&) override { throw std::bad_alloc(); }
+};
+
+TEST(FaultReport, GoesToStandardErrorWhereThereIsNoMemoryForABox) {
+  NoRoomForBoxes messages;
+  testing::internal::CaptureStderr();
+  reportFaults(messages, QStringLiteral("counting"),
+               [] { throw RuntimeFault(FaultNumber::DiskFull, QStringLiteral("Disk full: /data")); });
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "quorvin: Disk full: /data\n");
+}
+
 TEST(FaultReport, TellsNothingWhenNothingHappens) {
   RecordingMessageBoxes messages;
   bool done = false;
