@@ -29,8 +29,7 @@ bool isListing(const QString& path) {
 }
 
 std::int16_t correctedMatch(const QString& desMatch) {
-  const std::int16_t wanted = roundToInt16(leadingNumber(desMatch));
-  return std::clamp<std::int16_t>(wanted, 1, 100);
+  return roundToInt16(std::clamp(leadingNumber(desMatch), 1.0, 100.0));
 }
 
 QString namesOf(const QStringList& listings) {

@@ -64,8 +64,7 @@ class SearchRun {
   /// desired match, lower-cases the search text (an empty one ends the run before anything changes), clears
   /// the hits and scans the online listings, the main data file and the offline listings, in this order. A
   /// listing that is missing or cannot be read is reported in a message; only a missing main data file ends
-  /// the run. Throws fault 9 for more than 101 words and fault 6 for a desired match beyond 16 bits, before
-  /// anything is cleared.
+  /// the run. Throws fault 9 for more than 101 words, before anything is cleared.
   void Find_Click(const QString& searchText, const QString& desMatch);
 
   /// Scans the listings at `paths`, in order, instead of the sources of the state; the console's way of

@@ -23,7 +23,8 @@ TEST_F(SearchRunTest, DesiredMatchIsClampedAndRoundedToEven) {
   const std::vector<std::pair<QString, QString>> cases = {
       {u"0"_qs, u"1"_qs},      {u"-5"_qs, u"1"_qs},      {u"250"_qs, u"100"_qs}, {u"50.5"_qs, u"50"_qs},
       {u"51.5"_qs, u"52"_qs},  {u"abc"_qs, u"1"_qs},     {u""_qs, u"1"_qs},      {u"70%"_qs, u"70"_qs},
-      {u" 33 x"_qs, u"33"_qs}, {u"100.4"_qs, u"100"_qs}, {u"0.5"_qs, u"1"_qs},
+      {u" 33 x"_qs, u"33"_qs}, {u"100.4"_qs, u"100"_qs}, {u"0.5"_qs, u"1"_qs},   {u"32768"_qs, u"100"_qs},
+      {u"-40000"_qs, u"1"_qs}, {u"1e999"_qs, u"100"_qs},
   };
   for (const auto& [typed, shown] : cases) {
     run_.Find_Click(QString(), typed);
@@ -31,10 +32,11 @@ TEST_F(SearchRunTest, DesiredMatchIsClampedAndRoundedToEven) {
   }
 }
 
-TEST_F(SearchRunTest, DesiredMatchBeyond16BitsIsAFaultBeforeAnythingChanges) {
-  EXPECT_FAULT(find(u"song", u"40000"), 6);
-  EXPECT_EQ(display_.clearings, 0);
-  EXPECT_FALSE(run_.isRunning());
+TEST_F(SearchRunTest, DesiredMatchBeyond16BitsIsCorrectedWithoutAWord) {
+  find(u"song", u"40000");
+  EXPECT_EQ(display_.desMatch, u"100"_qs);
+  EXPECT_EQ(display_.clearings, 1);
+  EXPECT_TRUE(messages_.informed.empty());
 }
 
 TEST_F(SearchRunTest, EmptySearchTextDoesNothingButCorrectTheMatch) {
