@@ -54,6 +54,8 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   completeLocalFolder(state_, [&] { return programFolderOf(conditions); });
   loadSourceLists(state_);
   removeLeftovers(state_.LocalFolder);
+  removeEarlierLeftovers(state_.LocalFolder + state_.LocFile);
+  removeEarlierLeftovers(state_.LocalFolder + state_.OffLineFile);
   if (dataFileIsOnlyInArchive()) {
     extractDataFile_(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
   }

@@ -150,4 +150,9 @@ bool isHeld(const QString& path);
 /// to which nobody has written for a day. Errors are passed over: the next call may have more luck.
 void removeLeftovers(const QString& folder);
 
+/// Removes what earlier versions left beside the file at `path` when they were killed while they replaced it:
+/// its name, a dot and six random letters. Only those to which nobody has written for a day, since they do
+/// not say whose they are. Errors are passed over.
+void removeEarlierLeftovers(const QString& path);
+
 }  // namespace quorvin

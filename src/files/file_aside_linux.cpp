@@ -70,10 +70,10 @@ QByteArray freshName() {
   return ".quorvin-" + QByteArray::number(::getpid()) + '-' + random.rightJustified(16, '0') + ".part";
 }
 
-/// The process in a name that freshName() made; nothing for other names.
+/// The process in a name that freshName() made, or an earlier version in its ways; nothing for other names.
 std::optional<pid_t> processOf(const QString& name) {
   static const QRegularExpression pattern(
-      QStringLiteral("^\\.quorvin-([1-9][0-9]{0,8})-[0-9a-f]{16}\\.part$"));
+      QStringLiteral("^\\.quorvin-([1-9][0-9]{0,8})(-[0-9a-f]{16}\\.part|-[0-9]{1,15}\\.part|\\.tmp)$"));
   const QRegularExpressionMatch match = pattern.match(name);
   if (!match.hasMatch()) return std::nullopt;
   return match.captured(1).toInt();
@@ -280,8 +280,8 @@ void replaceFile(const QString& path, QByteArrayView contents) {
 QStringList filesAside(const QString& folder) {
   QStringList paths;
   const QDir names(folder);
-  for (const QString& name :
-       names.entryList({QStringLiteral(".quorvin-*.part")}, QDir::Files | QDir::Hidden)) {
+  const QStringList patterns = {QStringLiteral(".quorvin-*.part"), QStringLiteral(".quorvin-*.tmp")};
+  for (const QString& name : names.entryList(patterns, QDir::Files | QDir::Hidden)) {
     if (processOf(name)) paths += names.filePath(name);
   }
   return paths;
@@ -300,6 +300,19 @@ void removeLeftovers(const QString& folder) {
   for (const QString& path : filesAside(folder)) {
     const bool isOld = isUntouchedForADay(path) && lockState(path) != LockState::Held;
     if (isOld || isOfDeadProcess(path)) ::unlink(encodedPath(path).constData());
+  }
+}
+
+void removeEarlierLeftovers(const QString& path) {
+  // Six letters, of which some are small and some, not only the first, are capitals: "list.backup" and
+  // "list.Backup" are somebody's own.
+  static const QRegularExpression ending(QStringLiteral("^\\.(?=.*[a-z])(?=.+[A-Z])[A-Za-z]{6}$"));
+  const QFileInfo place(path);
+  const QDir folder = place.dir();
+  for (const QString& name : folder.entryList({place.fileName() + QStringLiteral(".??????")}, QDir::Files)) {
+    const QString leftover = folder.filePath(name);
+    const bool isLeftover = ending.match(name.mid(place.fileName().size())).hasMatch();
+    if (isLeftover && isUntouchedForADay(leftover)) ::unlink(encodedPath(leftover).constData());
   }
 }
 

@@ -1,6 +1,7 @@
 #include "app/start_up_fixture.h"
 #include "support/qt_printing.h"
 
+#include <QDateTime>
 #include <gmock/gmock.h>
 
 namespace quorvin {
@@ -76,9 +77,18 @@ TEST_F(StartUpTest, WhatKilledProgramsLeftInTheDataFolderIsRemoved) {
   const QString left = QStringLiteral(".quorvin-999999999-0123456789abcdef.part");
   data_.writeFile(left, "half a lis");
   data_.writeFile(QStringLiteral("Music.tmp"), "mine");
+  for (const QString& list :
+       {QStringLiteral("Locations.txt.bXcQwz"), QStringLiteral("OfflineLocations.txt.aBCdef")}) {
+    QFile file(data_.writeFile(list, "half a list of an earlier version"));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        file.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime));
+  }
   saved(QStringLiteral("LocalFolder"), data_.path());
   start();
   EXPECT_FALSE(data_.has(left));
+  EXPECT_FALSE(data_.has(QStringLiteral("Locations.txt.bXcQwz")));
+  EXPECT_FALSE(data_.has(QStringLiteral("OfflineLocations.txt.aBCdef")));
   EXPECT_TRUE(data_.has(QStringLiteral("Music.tmp")));
 }
 
