@@ -1,4 +1,5 @@
-// Reading files: the user's from front to back, and the program's own at any place or as memory.
+// Reading files, from front to back, at any place, and as memory. Only regular files are opened, and none
+// ever holds the program up.
 #pragma once
 
 #include <QByteArray>
@@ -39,7 +40,7 @@ class SequentialFile {
 /// All bytes of the regular file at `path`; for small files. Throws as SequentialFile does.
 QByteArray contentOfFile(const QString& path);
 
-/// A regular file that is open for reading, by plain read calls.
+/// A regular file that is open for reading at any place, by plain read calls.
 class RandomAccessFile {
  public:
   /// Opens `path`. Throws as SequentialFile does.
@@ -52,14 +53,22 @@ class RandomAccessFile {
   /// the file ends before the buffer is full.
   void read(std::int64_t position, std::span<std::byte> buffer) const;
 
+  /// The file's length in bytes when it was opened.
+  std::int64_t sizeWhenOpened() const { return size_; }
+
+  /// Whether the program has so many files open that this one should not stay open for long: the system
+  /// allows a thousand or so.
+  bool isOneOfMany() const;
+
  private:
   QString path_;
   int descriptor_ = -1;
+  std::int64_t size_ = 0;
 };
 
-/// A stretch of a file mapped for reading. Only for files that the program itself writes aside and renames,
-/// which nobody shortens: the user's own files are read with SequentialFile. The mapping outlives the file's
-/// name.
+/// A stretch of a file mapped for reading. Looking at a part that somebody has cut off in the meantime ends
+/// the program with a signal, so only a program that has nothing to lose may do that, one that has called
+/// explainCutMapping(). The mapping outlives the file's name.
 class MappedFile {
  public:
   /// Maps `size` bytes (more than 0) from `offset` on, which is a multiple of kMappingAlignment. Throws
@@ -78,5 +87,9 @@ class MappedFile {
 
 /// A multiple of every page size in use.
 inline constexpr std::size_t kMappingAlignment = std::size_t{1} << 16;
+
+/// From now on the program ends with `sentence` on standard error and exit status 2 when it looks at a mapped
+/// file where that has been cut. `sentence` must outlive the program.
+void explainCutMapping(const char* sentence);
 
 }  // namespace quorvin

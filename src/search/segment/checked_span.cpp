@@ -1,6 +1,7 @@
 #include "search/segment/checked_span.h"
 
 #include <algorithm>
+#include <utility>
 // On this processor family the library has faster ways to the same sums, and a header that picks one.
 #if defined(__x86_64__) && __has_include(<xxh_x86dispatch.h>)
 #include <xxh_x86dispatch.h>
@@ -13,17 +14,44 @@ namespace quorvin {
 DamagedSegment::DamagedSegment()
     : RuntimeFault(FaultNumber::DeviceError, QStringLiteral("A file of the search cache is damaged")) {}
 
-ByteCheck::ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums)
-    : bytes_(bytes), sums_(sums), good_((bytes.size() + kBlockSize - 1) / kBlockSize, 0) {
+ByteCheck::ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums, Fetch fetch)
+    : bytes_(bytes),
+      sums_(sums),
+      fetch_(std::move(fetch)),
+      good_((bytes.size() + kBlockSize - 1) / kBlockSize, 0) {
   if (sums_.size() != good_.size()) throw DamagedSegment();
 }
 
-void ByteCheck::checkBlock(std::size_t block) const {
-  const std::size_t begin = block * kBlockSize;
-  if (block >= good_.size()) throw DamagedSegment();
-  const std::size_t size = std::min(kBlockSize, bytes_.size() - begin);
-  requireBlock(block, bytes_.subspan(begin, size));
-  good_[block] = 1;
+void ByteCheck::forget() {
+  std::ranges::fill(good_, std::uint8_t{0});
+  goodBlocks_ = 0;
+}
+
+/// Fetches and checks the block `first`, which is not good yet, and some of those after it up to `last`.
+void ByteCheck::checkBlocks(std::size_t first, std::size_t last) const {
+  // So many that they are still in the processor's cache when they are checked.
+  constexpr std::size_t kMostAtOnce = 8;
+  if (last >= good_.size()) throw DamagedSegment();
+  std::size_t end = first + 1;
+  while (end <= last && end - first < kMostAtOnce && !good_[end]) ++end;
+  fetchBlocks(first, end - first);
+  for (std::size_t block = first; block < end; ++block) {
+    const std::size_t begin = block * kBlockSize;
+    requireBlock(block, bytes_.subspan(begin, std::min(kBlockSize, bytes_.size() - begin)));
+    good_[block] = 1;
+    ++goodBlocks_;
+  }
+}
+
+void ByteCheck::fetchBlocks(std::size_t first, std::size_t count) const {
+  if (!fetch_) return;
+  const std::size_t begin = first * kBlockSize;
+  try {
+    fetch_(begin, std::min(count * kBlockSize, bytes_.size() - begin));
+  } catch (const RuntimeFault&) {
+    foundDamage_ = true;
+    throw DamagedSegment();
+  }
 }
 
 void ByteCheck::requireBlock(std::size_t block, std::span<const std::byte> copy) const {

@@ -3,9 +3,11 @@
 
 #include "faults/runtime_fault.h"
 
+#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -18,14 +20,19 @@ class DamagedSegment : public RuntimeFault {
   DamagedSegment();
 };
 
-/// Checks a stretch of a mapped file block by block, each block when it is first asked for.
+/// Fetches a stretch of a kept file into memory and checks it, block by block, each block when it is first
+/// asked for. From then on it stays what it was when it was checked, whatever becomes of the file.
 class ByteCheck {
  public:
   static constexpr std::size_t kBlockSize = std::size_t{1} << 14;
 
-  /// `sums` are the checksums of `bytes`, block by block; the last block may be shorter. Both must outlive
-  /// the check.
-  ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums);
+  /// Brings the `size` bytes of the stretch from `offset` on to their place in memory. May throw
+  /// RuntimeFault, which counts as damage.
+  using Fetch = std::function<void(std::size_t offset, std::size_t size)>;
+
+  /// `bytes` is where the stretch has its place; without `fetch` it is there already. `sums` are its
+  /// checksums, block by block; the last block may be shorter. Both must outlive the check.
+  ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums, Fetch fetch = {});
 
   /// The size of the stretch.
   std::size_t size() const { return bytes_.size(); }
@@ -33,10 +40,18 @@ class ByteCheck {
   /// Makes sure of the `size` bytes from `offset` on, which lie in the stretch. Throws DamagedSegment.
   void require(std::size_t offset, std::size_t size) const {
     if (size == 0) return;
-    for (std::size_t block = offset / kBlockSize; block <= (offset + size - 1) / kBlockSize; ++block) {
-      if (!good_[block]) checkBlock(block);
+    const std::size_t last = (offset + size - 1) / kBlockSize;
+    for (std::size_t block = offset / kBlockSize; block <= last; ++block) {
+      if (!good_[block]) checkBlocks(block, last);
     }
   }
+
+  /// Forgets what has been fetched: it is fetched again when it is asked for. Elements that were given out
+  /// are no longer valid.
+  void forget();
+
+  /// How many bytes have been fetched.
+  std::size_t fetchedSize() const { return std::min(goodBlocks_ * kBlockSize, bytes_.size()); }
 
   /// Makes sure that `copy` is the content of `block`. Throws DamagedSegment.
   void requireBlock(std::size_t block, std::span<const std::byte> copy) const;
@@ -45,18 +60,20 @@ class ByteCheck {
   bool foundDamage() const { return foundDamage_; }
 
  private:
-  void checkBlock(std::size_t block) const;
+  void checkBlocks(std::size_t first, std::size_t last) const;
+  void fetchBlocks(std::size_t first, std::size_t count) const;
 
   std::span<const std::byte> bytes_;
   std::span<const std::uint64_t> sums_;
-  /// A 1 for each block that has been looked at; asking does not change what the bytes are.
+  Fetch fetch_;
+  /// A 1 for each block that is there and good; asking does not change what the bytes are.
   mutable std::vector<std::uint8_t> good_;
+  mutable std::size_t goodBlocks_ = 0;
   mutable bool foundDamage_ = false;
 };
 
-/// An array that lies in memory of the program's own or in a mapped file. Elements of a mapped one come out
-/// only through a check of their blocks; those in memory are given as they are. The array itself is somebody
-/// else's.
+/// An array that somebody else owns. Elements of one that comes out of a kept file are given out only through
+/// a check of their blocks, others as they are.
 template <typename Element>
 class CheckedSpan {
  public:

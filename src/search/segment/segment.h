@@ -19,7 +19,7 @@ namespace quorvin {
 
 /// The arrays of a segment; somebody else owns them.
 struct SegmentArrays {
-  /// From this block on (until the next run) the volume is `volume`.
+  /// The volume of the blocks from `firstBlock` on, up to the next run.
   struct VolumeRun {
     std::uint32_t firstBlock;
     /// Where the volume's text starts in `volumeTexts`; it ends where the next run's starts.
@@ -47,7 +47,7 @@ struct SegmentArrays {
   CheckedSpan<VolumeRun> volumes;
   CheckedSpan<char> volumeTexts;
   CheckedSpan<CompactValues> values;
-  /// Every entry has values of its own, which is nearly always so; then nobody needs to look at each.
+  /// Every entry has values of its own. This is nearly always so, and saves looking at each.
   bool allOwn = false;
   /// A bit for each entry: it has none of its own, or they could not be read.
   CheckedSpan<std::uint64_t> notOwn;
@@ -72,8 +72,14 @@ class Segment {
   Segment(const Segment&) = delete;
   Segment& operator=(const Segment&) = delete;
 
-  /// Comes after a search of the whole segment: what was held open for that can go.
+  /// Called after a search of the whole segment: files that were open for it can be closed.
   virtual void searched() const {}
+
+  /// Bytes of memory that it takes up. It may grow while what is kept in a file is looked at.
+  virtual std::size_t memorySize() const = 0;
+
+  /// Gives back memory whose content can be had again out of a file.
+  virtual void release() const {}
 
   /// Whether some of it has turned out to be damaged, so that it is not to be searched again.
   virtual bool foundDamage() const { return false; }
@@ -131,8 +137,7 @@ class GrowingSegment : public Segment {
   /// Forgets everything and keeps the memory for the next entries.
   void clear();
 
-  /// Bytes of memory that the arrays take up.
-  std::size_t memorySize() const;
+  std::size_t memorySize() const override;
 
  private:
   void makeRoomForValues();

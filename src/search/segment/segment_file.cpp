@@ -2,25 +2,24 @@
 
 #include "faults/runtime_fault.h"
 #include "files/file_reader.h"
-#include "search/segment/passing_bytes.h"
 
 #include <QDataStream>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <concepts>
 #include <cstring>
+#include <new>
+#include <optional>
 #include <utility>
 
 namespace quorvin {
 
 namespace {
 
-/// The system keeps what is written at once in one piece of memory, and maps each piece whole when any of it
-/// is touched: of larger ones a window would seem to use nearly all, whatever little it looked at.
-constexpr std::size_t kLargestWrite = std::size_t{1} << 16;
+/// Smaller segments and files are kept in memory whole: a search looks at most of them anyway, and a file
+/// that stays open is one of few that the system allows.
+constexpr std::uint64_t kSmall = std::uint64_t{1} << 20;
 
 constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '7'};
 /// Arrays start at multiples of this, the width of the widest vectors.
@@ -80,125 +79,31 @@ bool readDirectory(const QByteArray& bytes, Directory& directory) {
   return stream.status() == QDataStream::Ok;
 }
 
-bool readDirectoryOf(const QString& path, Directory& directory) {
-  QFile file(path);
-  Trailer trailer;
-  constexpr qint64 kTrailerSize = sizeof trailer;
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() < kTrailerSize) return false;
-  if (!file.seek(file.size() - kTrailerSize)) return false;
-  if (file.read(reinterpret_cast<char*>(&trailer), kTrailerSize) != kTrailerSize) return false;
-  if (std::memcmp(trailer.magic, kMagic, sizeof kMagic) != 0) return false;
-  const auto end = static_cast<std::uint64_t>(file.size() - kTrailerSize);
-  if (trailer.directoryOffset > end || trailer.directorySize != end - trailer.directoryOffset) return false;
-  if (!file.seek(static_cast<qint64>(trailer.directoryOffset))) return false;
-  const QByteArray bytes = file.read(static_cast<qint64>(trailer.directorySize));
-  if (static_cast<std::uint64_t>(bytes.size()) != trailer.directorySize) return false;
-  if (checksumOf(std::as_bytes(std::span(bytes.constData(), trailer.directorySize))) != trailer.directorySum)
-    return false;
-  return readDirectory(bytes, directory);
-}
-
-/// Calls `visit(array)` for each array of `arrays`, in the order of the file; it can be assigned to.
-template <typename Visit>
-void visitArrays(SegmentArrays& arrays, Visit&& visit) {
-  for (TextTable* table : {&arrays.entries, &arrays.folders}) {
-    visit(table->trigrams);
-    visit(table->marks);
-    visit(table->folded);
-    visit(table->hasUpper);
-    visit(table->upperBits);
-    visit(table->exceptions);
-    visit(table->exceptionTexts);
-  }
-  visit(arrays.blockStarts);
-  visit(arrays.volumes);
-  visit(arrays.volumeTexts);
-  visit(arrays.values);
-  visit(arrays.notOwn);
-  visit(arrays.wideValues);
-  visit(arrays.unreadable);
-}
-
-/// Texts are searched beyond their end, so readable bytes follow them.
 template <typename Element>
-constexpr std::size_t kPaddingBehind = std::same_as<Element, char> ? kScanPadding : 0;
+std::span<std::byte> writableBytesOf(Element* first, std::size_t count) {
+  return std::as_writable_bytes(std::span(first, count));
+}
 
-/// Points arrays into a mapped segment, one after another, each place checked against the segment's size.
-class ArrayPlacer {
- public:
-  ArrayPlacer(std::span<const std::byte> bytes, const SegmentRecord& record, const ByteCheck& check)
-      : bytes_(bytes), record_(record), check_(check) {}
-
-  template <typename Element>
-  void operator()(CheckedSpan<Element>& array) {
-    const auto [offset, count] = record_.arrays[next_++];
-    const std::size_t padding = kPaddingBehind<Element>;
-    const bool inside = offset <= bytes_.size() && padding <= bytes_.size() - offset &&
-                        count <= (bytes_.size() - offset - padding) / sizeof(Element);
-    if (!inside || offset % alignof(Element) != 0) throw DamagedSegment();
-    array = CheckedSpan<Element>(bytes_, offset, count, check_);
+/// Throws RuntimeFault where the file cannot be read.
+std::optional<Directory> directoryOf(const RandomAccessFile& file) {
+  Trailer trailer;
+  constexpr std::int64_t kTrailerSize = sizeof trailer;
+  const std::int64_t end = file.sizeWhenOpened() - kTrailerSize;
+  if (end < 0) return std::nullopt;
+  file.read(end, writableBytesOf(&trailer, 1));
+  if (std::memcmp(trailer.magic, kMagic, sizeof kMagic) != 0) return std::nullopt;
+  const auto size = static_cast<std::uint64_t>(end);
+  if (trailer.directoryOffset > size || trailer.directorySize != size - trailer.directoryOffset) {
+    return std::nullopt;
   }
-
- private:
-  std::span<const std::byte> bytes_;
-  const SegmentRecord& record_;
-  const ByteCheck& check_;
-  std::size_t next_ = 0;
-};
-
-/// What segments that are searched only once share: their texts pass through it.
-struct PassingBuffers {
-  PassingBuffer entries;
-  PassingBuffer folders;
-};
-
-/// A segment whose arrays lie in a mapped file.
-class MappedSegment : public Segment {
- public:
-  /// `sums` are the checksums of the segment's bytes. Throws RuntimeFault when the file cannot be mapped, and
-  /// DamagedSegment when the record does not fit the segment. `buffers` may be null; else it is shared, since
-  /// nobody knows which of the segments of a file lives longest.
-  MappedSegment(const QString& path, const SegmentRecord& record, std::vector<std::uint64_t> sums,
-                std::shared_ptr<PassingBuffers> buffers = nullptr)
-      : file_(path, static_cast<std::int64_t>(record.offset), static_cast<std::size_t>(record.size)),
-        sums_(std::move(sums)),
-        check_(file_.bytes(), sums_),
-        buffers_(std::move(buffers)) {
-    visitArrays(arrays_, ArrayPlacer(file_.bytes(), record, check_));
-    arrays_.entries.count = static_cast<std::uint32_t>(record.entryCount);
-    arrays_.folders.count = static_cast<std::uint32_t>(record.blockCount);
-    arrays_.allOwn = record.allOwn != 0;
-    if (buffers_) readInPassing(path, static_cast<std::int64_t>(record.offset));
-  }
-
-  void searched() const override {
-    if (!passing_) return;
-    passing_->entries.rest();
-    passing_->folders.rest();
-  }
-
-  bool foundDamage() const override { return check_.foundDamage(); }
-
- private:
-  struct Passing {
-    PassingBytes entries;
-    PassingBytes folders;
-  };
-
-  void readInPassing(const QString& path, std::int64_t offset) {
-    passing_.reset(
-        new Passing{{path, offset, check_, buffers_->entries}, {path, offset, check_, buffers_->folders}});
-    arrays_.entries.passing = &passing_->entries;
-    arrays_.folders.passing = &passing_->folders;
-  }
-
-  MappedFile file_;
-  std::vector<std::uint64_t> sums_;
-  ByteCheck check_;
-  std::shared_ptr<PassingBuffers> buffers_;
-  /// Only where there are buffers.
-  std::unique_ptr<Passing> passing_;
-};
+  QByteArray bytes(static_cast<qsizetype>(trailer.directorySize), Qt::Uninitialized);
+  file.read(static_cast<std::int64_t>(trailer.directoryOffset),
+            writableBytesOf(bytes.data(), trailer.directorySize));
+  const auto read = std::as_bytes(std::span(bytes.constData(), trailer.directorySize));
+  Directory directory;
+  if (checksumOf(read) != trailer.directorySum || !readDirectory(bytes, directory)) return std::nullopt;
+  return directory;
+}
 
 /// Lays the arrays of a segment out one behind another.
 class SegmentLayout {
@@ -250,13 +155,8 @@ SegmentFileWriter::SegmentFileWriter(const QString& path)
     : file_(inMadeFolder(path), {.durability = Durability::None}) {}
 
 void SegmentFileWriter::write(const void* data, std::size_t size) {
-  std::string_view bytes(static_cast<const char*>(data), size);
-  while (!bytes.empty()) {
-    const std::string_view piece = bytes.substr(0, kLargestWrite);
-    file_.writeAt(static_cast<std::int64_t>(position_), piece);
-    position_ += piece.size();
-    bytes.remove_prefix(piece.size());
-  }
+  file_.writeAt(static_cast<std::int64_t>(position_), {static_cast<const char*>(data), size});
+  position_ += size;
 }
 
 void SegmentFileWriter::pad() {
@@ -266,7 +166,7 @@ void SegmentFileWriter::pad() {
   write(zeros.data(), zeros.size());
 }
 
-std::shared_ptr<const Segment> SegmentFileWriter::append(const Segment& segment) {
+void SegmentFileWriter::append(const Segment& segment) {
   pad();
   SegmentArrays arrays = segment.arrays();
   SegmentRecord record{};
@@ -282,7 +182,14 @@ std::shared_ptr<const Segment> SegmentFileWriter::append(const Segment& segment)
   write(bytes.data(), bytes.size());
   sums_.push_back(checksumsOf(bytes));
   segments_.push_back(record);
-  return std::make_shared<MappedSegment>(file_.path(), record, sums_.back());
+}
+
+std::shared_ptr<const Segment> SegmentFileWriter::last() {
+  const SegmentRecord& record = segments_.back();
+  if (record.size <= kSmall) return nullptr;
+  if (!readable_) readable_ = std::make_shared<RandomAccessFile>(file_.path());
+  if (readable_->isOneOfMany()) return nullptr;
+  return std::make_shared<KeptSegment>(readable_, record, sums_.back());
 }
 
 void SegmentFileWriter::finish(const SegmentKey& key) {
@@ -297,26 +204,63 @@ void SegmentFileWriter::finish(const SegmentKey& key) {
   file_.commit();
 }
 
-std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,
-                                                            SegmentUse use) {
-  Directory directory;
-  if (!readDirectoryOf(path, directory) || directory.key != key) return {};
-  const auto buffers = use == SegmentUse::Once ? std::make_shared<PassingBuffers>() : nullptr;
-  std::vector<std::shared_ptr<const Segment>> segments;
-  try {
-    for (std::size_t i = 0; i < directory.segments.size(); ++i) {
-      segments.push_back(std::make_shared<MappedSegment>(path, directory.segments[i],
-                                                         std::move(directory.sums[i]), buffers));
-    }
-  } catch (const RuntimeFault&) {
-    return {};
+namespace {
+
+using Segments = std::vector<std::shared_ptr<const Segment>>;
+
+/// Both throw RuntimeFault, and std::bad_alloc, where the segments cannot be opened.
+Segments passingSegments(const QString& path, Directory& directory) {
+  const auto buffers = std::make_shared<PassingBuffers>();
+  Segments segments;
+  for (std::size_t i = 0; i < directory.segments.size(); ++i) {
+    segments.push_back(
+        std::make_shared<PassingSegment>(path, directory.segments[i], std::move(directory.sums[i]), buffers));
   }
   return segments;
 }
 
+/// Whether the file has room for the segment where its record says that it is.
+bool isInside(const SegmentRecord& record, const RandomAccessFile& file) {
+  const auto size = static_cast<std::uint64_t>(file.sizeWhenOpened());
+  return record.offset <= size && record.size <= size - record.offset;
+}
+
+Segments keptSegments(const std::shared_ptr<const RandomAccessFile>& file, Directory& directory) {
+  const bool isSmall = static_cast<std::uint64_t>(file->sizeWhenOpened()) <= kSmall;
+  Segments segments;
+  for (std::size_t i = 0; i < directory.segments.size(); ++i) {
+    if (!isInside(directory.segments[i], *file)) throw DamagedSegment();
+    const auto segment =
+        std::make_shared<KeptSegment>(file, directory.segments[i], std::move(directory.sums[i]));
+    if (isSmall || file->isOneOfMany()) segment->readWhole();
+    segments.push_back(segment);
+  }
+  return segments;
+}
+
+}  // namespace
+
+std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,
+                                                            SegmentUse use) {
+  try {
+    const auto file = std::make_shared<const RandomAccessFile>(path);
+    std::optional<Directory> directory = directoryOf(*file);
+    if (!directory || directory->key != key) return {};
+    return use == SegmentUse::Once ? passingSegments(path, *directory) : keptSegments(file, *directory);
+  } catch (const RuntimeFault&) {
+    return {};
+  } catch (const std::bad_alloc&) {
+    return {};
+  }
+}
+
 QString listingOfSegmentFile(const QString& path) {
-  Directory directory;
-  return readDirectoryOf(path, directory) ? directory.key.listing : QString();
+  try {
+    const std::optional<Directory> directory = directoryOf(RandomAccessFile(path));
+    return directory ? directory->key.listing : QString();
+  } catch (const RuntimeFault&) {
+    return {};
+  }
 }
 
 }  // namespace quorvin

@@ -3,7 +3,7 @@
 
 #include "files/file_aside.h"
 #include "files/file_identity.h"
-#include "search/segment/segment.h"
+#include "search/segment/filed_segment.h"
 
 #include <QByteArray>
 #include <QString>
@@ -13,8 +13,10 @@
 
 namespace quorvin {
 
-/// How often segments out of a file are going to be searched. For a single time their texts are read piece by
-/// piece; for more they are mapped, so that a later search need not read them again.
+/// How often segments out of a file are going to be searched. For a single time they are mapped and their
+/// texts read piece by piece, by a program that has called explainCutMapping(). For more, what has been
+/// looked at stays in memory of the program's own, whatever becomes of the file, so that a later search need
+/// not read it again.
 enum class SegmentUse { Once, Repeated };
 
 /// What a segment file belongs to: a listing as it was, and the rules by which it was read.
@@ -27,32 +29,19 @@ struct SegmentKey {
   bool operator==(const SegmentKey&) const = default;
 };
 
-/// One segment of a segment file: where its bytes are, and where each array is in them.
-struct SegmentRecord {
-  static constexpr std::size_t kArrayCount = 21;
-  struct ArrayPlace {
-    /// Bytes from the segment's start; number of elements.
-    std::uint64_t offset;
-    std::uint64_t count;
-  };
-  std::uint64_t offset;
-  std::uint64_t size;
-  std::uint64_t entryCount;
-  std::uint64_t blockCount;
-  /// SegmentArrays::allOwn: 1 or 0.
-  std::uint64_t allOwn;
-  ArrayPlace arrays[kArrayCount];
-};
-
-/// Writes a segment file beside its place, segment by segment. Without finish() nothing of it stays.
+/// Writes a segment file beside its place, segment by segment. Without finish() nothing of it is left.
 class SegmentFileWriter {
  public:
   /// Throws RuntimeFault when the file cannot be made.
   explicit SegmentFileWriter(const QString& path);
 
-  /// Writes a complete segment and returns it as it is in the file. Throws RuntimeFault when the disk is
-  /// full or the like; the writer is then of no more use.
-  std::shared_ptr<const Segment> append(const Segment& segment);
+  /// Writes a complete segment. Throws RuntimeFault when the disk is full or the like; the writer is then of
+  /// no more use.
+  void append(const Segment& segment);
+
+  /// The segment that was appended last as it is in the file, for repeated use. Null where it is better kept
+  /// in memory: it is small, or too many files are open.
+  std::shared_ptr<const Segment> last();
 
   /// Writes the key and puts the file in place. Throws as append does.
   void finish(const SegmentKey& key);
@@ -62,13 +51,17 @@ class SegmentFileWriter {
   void pad();
 
   FileAside file_;
+  /// The same, once it has been opened for reading.
+  std::shared_ptr<const RandomAccessFile> readable_;
   std::uint64_t position_ = 0;
   std::vector<SegmentRecord> segments_;
   std::vector<std::vector<std::uint64_t>> sums_;
 };
 
-/// The segments of the file at `path` if it is whole and belongs to `key`; else none. Only its directory is
-/// read now; each stretch of the segments is checked when it is first used (DamagedSegment). Never throws.
+/// The segments of the file at `path` if it is whole and belongs to `key`; else none. Of a large file only
+/// the directory is read now; each block of the segments is read and checked when it is first used
+/// (DamagedSegment). They stay as they are when the file is replaced or removed. When it is cut or written
+/// to, blocks that have not been read yet are damaged, for SegmentUse::Repeated. Never throws.
 std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,
                                                             SegmentUse use);
 

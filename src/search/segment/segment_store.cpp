@@ -10,6 +10,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
+#include <new>
 #include <utility>
 
 namespace quorvin {
@@ -63,7 +65,9 @@ QStringList segmentFiles(const QString& cacheFolder) {
 
 QStringList earlierSegmentFiles(const QString& cacheFolder) {
   const QString files = u'*' + QString::fromUtf16(kEarlierEnding);
-  return filesThatFit(cacheFolder, {files, files + QStringLiteral(".*.new")});
+  const QString unfinished = QStringLiteral(".*.new");
+  return filesThatFit(cacheFolder,
+                      {files, files + unfinished, u'*' + QString::fromUtf16(kSegmentEnding) + unfinished});
 }
 
 SegmentStore::Options SegmentStore::defaultOptions(SegmentUse use) {
@@ -73,6 +77,7 @@ SegmentStore::Options SegmentStore::defaultOptions(SegmentUse use) {
 SegmentStore::SegmentStore(Options options) : options_(std::move(options)) {}
 
 SegmentStore::Segments SegmentStore::find(const SegmentKey& key) {
+  makeRoom();
   const auto known = std::find_if(kept_.begin(), kept_.end(),
                                   [&](const Kept& kept) { return kept.key.listing == key.listing; });
   if (known != kept_.end()) {
@@ -87,32 +92,53 @@ SegmentStore::Segments SegmentStore::find(const SegmentKey& key) {
       kept_.splice(kept_.begin(), kept_, known);
       return kept_.front().segments;
     }
-    kept_.erase(known);
+    remove(known);
   }
   if (options_.cacheFolder.isEmpty()) return {};
   Segments segments = openSegmentFile(segmentFilePath(options_.cacheFolder, key.listing), key, options_.use);
-  if (!segments.empty()) keep({key, segments, 0});
+  if (!segments.empty()) keep({key, segments});
   return segments;
 }
 
 void SegmentStore::forget(const QString& listing) {
-  kept_.remove_if([&](const Kept& kept) { return kept.key.listing == listing; });
+  const auto known =
+      std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) { return kept.key.listing == listing; });
+  if (known != kept_.end()) remove(known);
   if (!options_.cacheFolder.isEmpty()) QFile::remove(segmentFilePath(options_.cacheFolder, listing));
 }
 
 void SegmentStore::keep(Kept kept) {
-  kept_.remove_if([&](const Kept& other) { return other.key.listing == kept.key.listing; });
+  const auto known = std::find_if(kept_.begin(), kept_.end(),
+                                  [&](const Kept& other) { return other.key.listing == kept.key.listing; });
+  if (known != kept_.end()) remove(known);
   kept_.push_front(std::move(kept));
-  std::size_t memory = 0;
-  for (const Kept& each : kept_) memory += each.memory;
+  makeRoom();
+}
+
+void SegmentStore::remove(std::list<Kept>::iterator kept) {
+  memory_ -= kept->memory;
+  kept_.erase(kept);
+}
+
+/// Lets go of what was used longest ago until the rest is within the budget. Only the segments that were used
+/// last have grown since the last look.
+void SegmentStore::makeRoom() {
+  if (kept_.empty()) return;
+  Kept& newest = kept_.front();
+  memory_ -= newest.memory;
+  newest.memory = 0;
+  for (const auto& segment : newest.segments) newest.memory += segment->memorySize();
+  memory_ += newest.memory;
   // The newest stays: it was let in because there is room for it alone.
-  while (memory > options_.memoryBudget && kept_.size() > 1) {
-    memory -= kept_.back().memory;
-    kept_.pop_back();
+  while (memory_ > options_.memoryBudget && kept_.size() > 1) {
+    // Hits may keep them alive for a long time.
+    for (const auto& segment : kept_.back().segments) segment->release();
+    remove(std::prev(kept_.end()));
   }
 }
 
-SegmentStore::Recorder::Recorder(SegmentStore& store, const SegmentKey& key) : store_(store), key_(key) {
+SegmentStore::Recorder::Recorder(SegmentStore& store, const SegmentKey& key)
+    : store_(store), key_(key), isHolding_(store.options_.use == SegmentUse::Repeated) {
   if (store.options_.cacheFolder.isEmpty()) return;
   if (!std::exchange(store.hasTidied_, true)) tidy(store.options_.cacheFolder);
   try {
@@ -123,35 +149,49 @@ SegmentStore::Recorder::Recorder(SegmentStore& store, const SegmentKey& key) : s
 }
 
 std::shared_ptr<const Segment> SegmentStore::Recorder::add(const std::shared_ptr<GrowingSegment>& segment) {
-  if (!keeping_) return nullptr;
-  std::shared_ptr<const Segment> kept = segment;
-  if (writer_) {
-    try {
-      kept = writer_->append(*segment);
-    } catch (const RuntimeFault&) {
-      writer_.reset();
-    }
+  std::shared_ptr<const Segment> kept = write(*segment);
+  if (!isHolding_) return nullptr;
+  if (!kept) {
+    kept = segment;
+    memory_ += segment->memorySize();
   }
-  if (kept == segment) memory_ += segment->memorySize();
   if (memory_ > store_.options_.memoryBudget) {
-    keeping_ = false;
-    segments_.clear();
+    stopHolding();
     return nullptr;
   }
   segments_.push_back(kept);
   return kept;
 }
 
+/// The segment as it is in the file, where that is the better one to hold.
+std::shared_ptr<const Segment> SegmentStore::Recorder::write(const Segment& segment) {
+  if (!writer_) return nullptr;
+  try {
+    writer_->append(segment);
+    return isHolding_ ? writer_->last() : nullptr;
+  } catch (const RuntimeFault&) {
+    writer_.reset();
+  } catch (const std::bad_alloc&) {
+    writer_.reset();
+    stopHolding();
+  }
+  return nullptr;
+}
+
+void SegmentStore::Recorder::stopHolding() {
+  isHolding_ = false;
+  segments_.clear();
+}
+
 void SegmentStore::Recorder::finish() {
-  if (!keeping_ || segments_.empty()) return;
   if (writer_) {
     try {
       writer_->finish(key_);
     } catch (const RuntimeFault&) {
-      // The segments stay usable for this run: they are mapped from the file that now loses its name.
+      // The segments stay usable for this run: the file that now loses its name is still open.
     }
   }
-  store_.keep({key_, std::move(segments_), memory_});
+  if (!segments_.empty()) store_.keep({key_, std::move(segments_)});
 }
 
 }  // namespace quorvin

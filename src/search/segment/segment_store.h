@@ -29,7 +29,7 @@ class SegmentStore {
   struct Options {
     /// Where segment files are kept, with a trailing separator; empty for none.
     QString cacheFolder;
-    /// Bytes that segments without a file may take up in memory.
+    /// Bytes that segments may take up in memory. Those used last stay even where they are more.
     std::size_t memoryBudget = 0;
     /// Once where the program ends after one search.
     SegmentUse use = SegmentUse::Repeated;
@@ -53,35 +53,44 @@ class SegmentStore {
     Recorder(SegmentStore& store, const SegmentKey& key);
 
     /// Takes a complete segment and returns the one to be used from now on instead: an equal one in a file,
-    /// or itself. Null if there is no room for it; then nothing of the listing will be kept.
+    /// or itself. Null where the store does not hold it: there is no room for the listing in memory, or the
+    /// store is for a single search. The listing may go to the cache folder all the same.
     std::shared_ptr<const Segment> add(const std::shared_ptr<GrowingSegment>& segment);
 
     /// The listing has been read to its end and has not changed.
     void finish();
 
    private:
+    std::shared_ptr<const Segment> write(const Segment& segment);
+    void stopHolding();
+
     SegmentStore& store_;
     SegmentKey key_;
     std::unique_ptr<SegmentFileWriter> writer_;
     Segments segments_;
     std::size_t memory_ = 0;
-    bool keeping_ = true;
+    /// Whether the segments will be held in memory, by the store.
+    bool isHolding_;
   };
 
  private:
   struct Kept {
     SegmentKey key;
     Segments segments;
-    /// Bytes in memory that no file backs.
-    std::size_t memory;
+    /// Bytes that the segments took up when they were last looked at.
+    std::size_t memory = 0;
   };
 
   void keep(Kept kept);
+  void remove(std::list<Kept>::iterator kept);
+  void makeRoom();
 
   Options options_;
   bool hasTidied_ = false;
   /// The one used last comes first.
   std::list<Kept> kept_;
+  /// Their memory altogether.
+  std::size_t memory_ = 0;
 };
 
 /// The file for a listing's segments in `cacheFolder`.

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace quorvin {
@@ -10,7 +12,7 @@ namespace {
 
 constexpr std::size_t kBlock = ByteCheck::kBlockSize;
 
-/// Numbers over three blocks and a bit, as a mapped file would hold them.
+/// Numbers over three blocks and a bit, as a kept file would hold them.
 class CheckedSpanTest : public testing::Test {
  protected:
   CheckedSpanTest() { std::iota(numbers_.begin(), numbers_.end(), 0U); }
@@ -81,6 +83,64 @@ TEST_F(CheckedSpanTest, MoreThanThereIsIsDamage) {
   EXPECT_THROW(span_.part(kCount, 1), DamagedSegment);
   EXPECT_THROW(span_.part(1, SIZE_MAX), DamagedSegment);
   EXPECT_TRUE(span_.part(kCount, 0).empty());
+}
+
+/// The same numbers in a file, from which blocks are fetched into memory that holds nothing at first.
+class FetchedSpanTest : public CheckedSpanTest {
+ protected:
+  std::vector<std::uint32_t> memory_ = std::vector<std::uint32_t>(kCount);
+  /// Offset and size of each fetch.
+  std::vector<std::pair<std::size_t, std::size_t>> fetches_;
+  ByteCheck fetching_{std::as_bytes(std::span(memory_)), sums_, [this](std::size_t offset, std::size_t size) {
+                        fetches_.emplace_back(offset, size);
+                        if (isGone_) throw RuntimeFault(FaultNumber::InputPastEnd);
+                        std::ranges::copy(bytes().subspan(offset, size),
+                                          std::as_writable_bytes(std::span(memory_)).begin() +
+                                              static_cast<std::ptrdiff_t>(offset));
+                      }};
+  CheckedSpan<std::uint32_t> fetched_{std::as_bytes(std::span(memory_)), 0, kCount, fetching_};
+  bool isGone_ = false;
+};
+
+TEST_F(FetchedSpanTest, BlocksAreFetchedWhenTheyAreFirstAskedFor) {
+  EXPECT_EQ(fetching_.fetchedSize(), 0U);
+  EXPECT_EQ(fetched_[kBlock / 4], kBlock / 4);
+  EXPECT_EQ(fetched_[kBlock / 4 + 1], kBlock / 4 + 1);
+  EXPECT_EQ(fetches_, (std::vector<std::pair<std::size_t, std::size_t>>{{kBlock, kBlock}}));
+  EXPECT_EQ(fetching_.fetchedSize(), kBlock);
+  EXPECT_EQ(fetched_.all().back(), kCount - 1);
+  EXPECT_EQ(fetches_, (std::vector<std::pair<std::size_t, std::size_t>>{
+                          {kBlock, kBlock}, {0, kBlock}, {2 * kBlock, kBlock + 20}}));
+  EXPECT_EQ(fetching_.fetchedSize(), 3 * kBlock + 20);
+}
+
+TEST_F(FetchedSpanTest, WhatWasFetchedStaysWhateverBecomesOfTheFile) {
+  EXPECT_EQ(fetched_[3], 3U);
+  damage(12);
+  isGone_ = true;
+  EXPECT_EQ(fetched_[3], 3U);
+  EXPECT_FALSE(fetching_.foundDamage());
+}
+
+TEST_F(FetchedSpanTest, WhatCannotBeFetchedIsDamage) {
+  isGone_ = true;
+  EXPECT_THROW(fetched_[3], DamagedSegment);
+  EXPECT_TRUE(fetching_.foundDamage());
+}
+
+TEST_F(FetchedSpanTest, DamageInAFetchedBlockIsFound) {
+  damage(12);
+  EXPECT_THROW(fetched_[3], DamagedSegment);
+  EXPECT_TRUE(fetching_.foundDamage());
+}
+
+TEST_F(FetchedSpanTest, WhatIsForgottenIsFetchedAgain) {
+  EXPECT_EQ(fetched_[3], 3U);
+  fetching_.forget();
+  EXPECT_EQ(fetching_.fetchedSize(), 0U);
+  std::ranges::fill(memory_, 0U);
+  EXPECT_EQ(fetched_[3], 3U);
+  EXPECT_EQ(fetches_.size(), 2U);
 }
 
 TEST_F(CheckedSpanTest, SumsOfAnotherSizeAreDamage) {

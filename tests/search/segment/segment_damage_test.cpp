@@ -162,5 +162,116 @@ TEST_F(SegmentStoreTest, FileOfAnotherListingIsNotTrusted) {
   expectRight(store);
 }
 
+/// A cache file so large that it is not read whole when it is opened.
+class LargeSegmentFile : public SegmentStoreTest {
+ protected:
+  static constexpr int kEntries = 60'000;
+
+  LargeSegmentFile() {
+    bytes_.clear();
+    for (int i = 0; i < kEntries; ++i) {
+      if (i % 5000 == 0) bytes_ += blockHead("V", "\\Music\\F" + QByteArray::number(i) + "\\");
+      bytes_ += entryLine("Song Of The Long Evening On The Pier " + QByteArray::number(i), "1,000");
+    }
+    folder_.writeFile(u"cd.lst"_qs, bytes_);
+    limits_ = ScanLimits();
+    SegmentStore writer({cache_, kPlenty});
+    scan(writer, u"song"_qs);
+    EXPECT_GT(QFileInfo(cacheFile()).size(), 2 << 20);
+  }
+
+  /// In place, as no program of ours would.
+  void cutTo(qint64 size) const { ASSERT_TRUE(QFile::resize(cacheFile(), size)); }
+
+  /// How many rows are right; the others must say that they are gone.
+  int rightRows(const std::vector<ReferenceHit>& expected) const {
+    int right = 0;
+    const std::vector<ReferenceHit> shown = hitsOf(table_);
+    EXPECT_EQ(shown.size(), expected.size());
+    for (std::size_t i = 0; i < std::min(shown.size(), expected.size()); ++i) {
+      if (shown[i] == expected[i]) {
+        ++right;
+      } else {
+        EXPECT_EQ(shown[i].name, u"(damaged in the search cache; press Find again)"_qs);
+      }
+    }
+    return right;
+  }
+};
+
+TEST_F(LargeSegmentFile, ThatIsCutWhileItsHitsAreShownShowsThemAsGoneAndIsMadeAgain) {
+  SegmentStore store({cache_, kPlenty});
+  TestScan search(u"song"_qs);
+  search.runFile(listing_, &store, limits_);
+  table_ = std::move(search.table);
+  ASSERT_EQ(table_.rowCount(), kEntries);
+  cutTo(0);
+  const std::vector<ReferenceHit> expected = reference(u"song"_qs).hits;
+  EXPECT_LT(rightRows(expected), kEntries);
+  EXPECT_EQ(scan(store, u"song"_qs).hits, expected);
+  EXPECT_GT(QFileInfo(cacheFile()).size(), 2 << 20);
+}
+
+TEST_F(LargeSegmentFile, ThatIsCutAfterItsHitsWereShownShowsThemStill) {
+  SegmentStore store({cache_, kPlenty});
+  scan(store, u"song"_qs);
+  cutTo(100'000);
+  EXPECT_EQ(rightRows(reference(u"song"_qs).hits), kEntries);
+}
+
+TEST_F(LargeSegmentFile, ThatIsCutWhileItIsSearchedIsMadeAgain) {
+  SegmentStore store({cache_, kPlenty});
+  onYield_ = [this](std::int64_t searched) {
+    if (searched == 20'000) cutTo(QFileInfo(cacheFile()).size() / 3);
+    return false;
+  };
+  EXPECT_EQ(scan(store, u"evening 7"_qs).searched, kEntries);
+  onYield_ = {};
+  EXPECT_EQ(scan(store, u"evening 7"_qs).hits, reference(u"evening 7"_qs).hits);
+  EXPECT_GT(QFileInfo(cacheFile()).size(), 2 << 20);
+}
+
+// A program that searches once maps the file; it has nothing to lose.
+TEST_F(LargeSegmentFile, ThatIsCutWhileAMappedSearchLooksAtItEndsTheProgramWithASentence) {
+  const auto searchOnce = [this] {
+    explainCutMapping("a file of the search cache was cut\n");
+    SegmentStore store({cache_, kPlenty, SegmentUse::Once});
+    onYield_ = [this](std::int64_t) {
+      cutTo(0);
+      return false;
+    };
+    scan(store, u"song"_qs);
+  };
+  EXPECT_EXIT(searchOnce(), testing::ExitedWithCode(2), "^a file of the search cache was cut\n$");
+}
+
+TEST_F(LargeSegmentFile, ThatIsWrittenOverInPlaceNeverShowsWhatWasWritten) {
+  SegmentStore store({cache_, kPlenty});
+  TestScan search(u"song"_qs);
+  search.runFile(listing_, &store, limits_);
+  table_ = std::move(search.table);
+  QFile file(cacheFile());
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  file.write(QByteArray(static_cast<qsizetype>(file.size()), '?'));
+  file.close();
+  rightRows(reference(u"song"_qs).hits);
+}
+
+TEST_F(LargeSegmentFile, GivesItsMemoryBackWhenItIsShortAndItsHitsAreShownAllTheSame) {
+  const QString first = listing_;
+  const QString second = folder_.writeFile(u"second.lst"_qs, bytes_);
+  SegmentStore store({cache_, 1'000'000});
+  TestScan search(u"song"_qs);
+  search.runFile(first, &store, limits_);
+  const auto segments = store.find(*segmentKeyOf(first, QLocale::c()));
+  ASSERT_EQ(segments.size(), 1U);
+  EXPECT_GT(segments[0]->memorySize(), 500'000U);
+  listing_ = second;
+  scan(store, u"song"_qs);
+  EXPECT_EQ(segments[0]->memorySize(), 0U);
+  table_ = std::move(search.table);
+  EXPECT_EQ(rightRows(reference(u"song"_qs).hits), kEntries);
+}
+
 }  // namespace
 }  // namespace quorvin::test

@@ -6,9 +6,11 @@
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 #include <string>
+#include <sys/stat.h>
 
 namespace quorvin {
 namespace {
@@ -25,7 +27,7 @@ class SegmentFileTest : public testing::TestWithParam<SegmentUse> {
     whole_ = folder_.readFile(kName);
   }
 
-  /// The file with other bytes instead of its own; a new one, since the old one may still be mapped.
+  /// The file with other bytes instead of its own; a new one, as the store makes it.
   void replaceWith(const QByteArray& bytes) const {
     ASSERT_TRUE(QFile::remove(path_));
     folder_.writeFile(kName, bytes);
@@ -137,6 +139,22 @@ TEST_P(SegmentFileTest, WithoutItsEndNothingOfAFileStays) {
 TEST_P(SegmentFileTest, NoFileIsNoSegments) {
   ASSERT_TRUE(QFile::remove(path_));
   expectNoSegmentFile();
+}
+
+TEST_P(SegmentFileTest, APipeInItsPlaceIsNone) {
+  ASSERT_TRUE(QFile::remove(path_));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(path_).constData(), 0600), 0);
+  expectNoSegmentFile();
+}
+
+TEST_P(SegmentFileTest, ARecordThatLeadsOutOfTheFileIsNotFollowed) {
+  // Without the segments' own bytes, but with the directory and the trailer that tell of them.
+  const auto directory = qFromUnaligned<quint64>(whole_.constData() + whole_.size() - kTrailerSize);
+  QByteArray cut = whole_.mid(static_cast<qsizetype>(directory));
+  qToUnaligned<quint64>(0, cut.data() + cut.size() - kTrailerSize);
+  replaceWith(cut);
+  EXPECT_EQ(listingOfSegmentFile(path_), u"/lists/cd.lst"_qs);
+  EXPECT_TRUE(open().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Searched, SegmentFileTest, testing::Values(SegmentUse::Once, SegmentUse::Repeated),
