@@ -5,6 +5,7 @@
 #include "files/file_aside.h"
 #include "platform/standard_folders.h"
 #include "platform/stop_signal.h"
+#include "search/match/search_query.h"
 #include "search/search_run.h"
 #include "search/segment/segment_store.h"
 #include "state/settings.h"
@@ -12,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <optional>
@@ -19,6 +21,34 @@
 namespace quorvin {
 
 namespace {
+
+bool isNumber(const QString& text) {
+  static const QRegularExpression number(
+      QRegularExpression::anchoredPattern(QStringLiteral("[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)")));
+  return number.match(text).hasMatch();
+}
+
+bool hasTooManyWords(const QString& searchText) {
+  try {
+    splitSearchText(searchText);
+  } catch (const RuntimeFault&) {
+    return true;
+  }
+  return false;
+}
+
+/// What is wrong with the request, as a sentence; empty when nothing is.
+QString complaintAbout(const FindRequest& request) {
+  if (request.searchText.isEmpty()) return QStringLiteral("the search text is empty");
+  if (hasTooManyWords(request.searchText)) {
+    return QStringLiteral("the search text has more than %1 words").arg(kMostWords);
+  }
+  if (!isNumber(request.desiredMatch)) {
+    return QStringLiteral("the value of --match is a percentage from 1 to 100, not \"%1\"")
+        .arg(request.desiredMatch);
+  }
+  return {};
+}
 
 void search(const FindRequest& request, SearchRun& run) {
   if (request.listings.empty()) {
@@ -35,8 +65,9 @@ void printCacheFile(const QString& path, const char* listing) {
 }  // namespace
 
 int runFind(const FindRequest& request) {
-  if (request.searchText.isEmpty()) {
-    printError(QStringLiteral("the search text is empty"));
+  const QString complaint = complaintAbout(request);
+  if (!complaint.isEmpty()) {
+    printError(complaint);
     return 2;
   }
   const QLocale locale;
@@ -52,7 +83,15 @@ int runFind(const FindRequest& request) {
   SearchRun run(std::move(parts));
   bool failed = false;
   try {
-    if (request.listings.empty()) loadUserSources(state, locale, messages);
+    if (request.listings.empty()) {
+      loadUserSources(state, locale, messages);
+      if (!state.hasSources()) {
+        printError(QStringLiteral(
+            "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
+            "window"));
+        return 2;
+      }
+    }
     watchStopSignal();
     search(request, run);
   } catch (const RuntimeFault& fault) {
@@ -64,7 +103,9 @@ int runFind(const FindRequest& request) {
   if (!writer.good()) printError(QStringLiteral("the hits could not all be written to standard output"));
   std::fprintf(stderr, "%lld found, %lld searched\n", static_cast<long long>(run.hitCount()),
                static_cast<long long>(run.searchedCount()));
-  if (failed || run.failedListings() > 0 || !writer.good()) return 2;
+  if (failed || !writer.good()) return 2;
+  if (stopSignalled()) return stopStatus();
+  if (run.failedListings() > 0) return 2;
   return run.hitCount() > 0 ? 0 : 1;
 }
 
@@ -75,7 +116,10 @@ int listCache() {
     printCacheFile(path, listing.isEmpty() ? "(damaged)" : listing.constData());
   }
   for (const QString& path : filesAside(folder)) printCacheFile(path, "(unfinished)");
-  return 0;
+  for (const QString& path : earlierSegmentFiles(folder)) printCacheFile(path, "(of an earlier version)");
+  if (std::fflush(stdout) == 0) return 0;
+  printError(QStringLiteral("the list could not be written to standard output"));
+  return 2;
 }
 
 int clearCache() {

@@ -207,7 +207,7 @@ int runIndex(const IndexRequest& request) {
     printError(failure);
     return 2;
   }
-  if (indexing.interrupted()) return kInterrupted;
+  if (indexing.interrupted()) return stopStatus();
   return indexing.isComplete() ? 0 : 2;
 }
 
@@ -232,7 +232,7 @@ int runRefresh() {
     printError(outcome.fault);
     return 2;
   }
-  if (outcome.isStopped) return kInterrupted;
+  if (outcome.isStopped) return stopStatus();
   return outcome.leftOut == 0 ? 0 : 2;
 }
 

@@ -10,19 +10,27 @@ namespace {
 volatile std::sig_atomic_t stopSignal = 0;
 
 extern "C" void noteStopSignal(int signalNumber) {
-  stopSignal = 1;
+  stopSignal = signalNumber;
   std::signal(signalNumber, SIG_DFL);
+}
+
+void watch(int signalNumber) {
+  if (std::signal(signalNumber, noteStopSignal) == SIG_IGN) std::signal(signalNumber, SIG_IGN);
 }
 
 }  // namespace
 
 void watchStopSignal() {
-  std::signal(SIGINT, noteStopSignal);
-  std::signal(SIGTERM, noteStopSignal);
+  watch(SIGINT);
+  watch(SIGTERM);
 }
 
 bool stopSignalled() {
   return stopSignal != 0;
+}
+
+int stopStatus() {
+  return stopSignal == 0 ? 0 : 128 + static_cast<int>(stopSignal);
 }
 
 }  // namespace quorvin

@@ -3,11 +3,16 @@
 
 namespace quorvin {
 
-/// From now on an interrupt or termination signal no longer ends the program but sets stopSignalled(). A
-/// second signal ends it as usual, should the program not come to look.
+/// From now on an interrupt or termination signal no longer ends the program but is noted. A second one ends
+/// it as usual, in case the program does not come to look. A signal that was ignored when the program
+/// started, as under nohup, stays ignored.
 void watchStopSignal();
 
 /// Whether such a signal has arrived.
 bool stopSignalled();
+
+/// The exit status of a program that such a signal has ended: 128 and the signal's number, as in shells (130
+/// for an interrupt, 143 for a termination). 0 while none has arrived.
+int stopStatus();
 
 }  // namespace quorvin

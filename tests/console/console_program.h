@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace quorvin::test {
 
 struct Ended {
@@ -29,6 +31,8 @@ class ConsoleProgramTest : public ::testing::Test {
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder.path());
     process.setProgram(QStringLiteral(QUORVIN_CLI));
+    // A shell that runs the tests in the background has them ignore it.
+    process.setChildProcessModifier([] { std::signal(SIGINT, SIG_DFL); });
   }
 
   void start(const QStringList& arguments) {
