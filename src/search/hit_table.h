@@ -87,7 +87,7 @@ class HitTable : public HitSink {
   std::int64_t rowCount_ = 0;
   std::vector<SegmentRows> segments_;
   std::vector<CarriedRows> carried_;
-  /// Of the hits at hand: the entry has values of its own.
+  /// Of the hits that are being added: the entry has values of its own.
   std::vector<std::uint8_t> ownValues_;
   SourceKind kind_ = SourceKind::Online;
   /// No hit of the listing has come yet. The same listing may come again as another kind of source, with the

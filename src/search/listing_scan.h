@@ -67,7 +67,7 @@ struct ScanLimits {
 /// the sink in file order. Only one chunk, one segment and the hits are in memory. The listing is opened a
 /// second time where the order of its days and months has to be looked for beyond the first chunk. Throws
 /// RuntimeFault when reading fails or a line is too long (fault 6, naming the line); `outcome`, `counts` and
-/// the hits up to there stand.
+/// the hits up to there are kept.
 void scanListing(const ListingOpener& open, const ScanRequest& request, RunCounts& counts,
                  ScanOutcome& outcome, const ScanLimits& limits = {});
 

@@ -25,8 +25,8 @@ void setBits(std::vector<std::uint64_t>& bits, std::uint32_t from, std::uint32_t
   bits[end] |= last;
 }
 
-/// The first of `starts` from `from` on that is not below `value`. It is looked for nearby first: stretch
-/// follows stretch, and each holds few of very many blocks.
+/// The first of `starts` from `from` on that is not below `value`. Nearby ones are tried first: each stretch
+/// follows the one before and holds few of very many blocks.
 std::uint32_t firstNotBelow(std::span<const std::uint32_t> starts, std::uint32_t from, std::uint32_t value) {
   std::size_t step = 1;
   std::size_t end = from;

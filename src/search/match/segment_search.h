@@ -57,7 +57,7 @@ class SegmentSearch {
   WordSearch folderWords_;
   SeenWords inEntries_;
   SeenWords inFolders_;
-  /// Of the segment at hand: the first entry of each block; the blocks that are searched.
+  /// Of the segment being searched: the first entry of each block; the blocks that are searched.
   std::span<const std::uint32_t> blockStarts_;
   std::uint32_t firstBlock_ = 0;
   std::uint32_t lastBlock_ = 0;

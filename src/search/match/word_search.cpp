@@ -88,8 +88,8 @@ void WordSearch::makeRoom(std::size_t blocks) {
   ends_.resize(blocks);
 }
 
-/// Rules out the words that cannot be in a page with these trigrams, if they are known. Gives how many words
-/// are missing for certain.
+/// Rules out the words that cannot be in a page with these trigrams, if they are known. Returns how many
+/// words are certainly missing.
 int WordSearch::ruleOut(const TrigramSet* trigrams, const Slack& slack) {
   int missing = 0;
   for (std::size_t word = 0; word < needles_.size(); ++word) {
@@ -135,7 +135,7 @@ bool WordSearch::findTexts(std::string_view text, const Needle& needle, bool& en
   return true;
 }
 
-/// The word has been found in the stretch: takes the texts with it, but for those before and behind what is
+/// The word has been found in the stretch: notes the texts that hold it, except those outside of what is
 /// wanted.
 void WordSearch::seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen) {
   const std::uint32_t before = stretch.first - stretch.firstText;

@@ -36,7 +36,7 @@ static_assert(kMostWords <= 128);
 /// Which words were seen in which texts of a stretch.
 class SeenWords {
  public:
-  /// With `oneWord` there is but one to be seen: then touched() says it all, and in() must not be asked.
+  /// With `oneWord` there is only one word: touched() is then the whole answer, and in() must not be called.
   explicit SeenWords(bool oneWord) : oneWord_(oneWord) {}
 
   /// Forgets everything and takes texts `first` to `first` + `count` - 1.
@@ -48,8 +48,8 @@ class SeenWords {
     touched_[i / 64] |= std::uint64_t{1} << (i % 64);
   }
 
-  /// see() for each text whose bit is set: bit k stands for text `text` + k, and only those of this stretch
-  /// may be set.
+  /// Calls see() for each text whose bit is set. Bit k is for text `text` + k; only bits of this stretch may
+  /// be set.
   void seeAll(std::uint32_t text, std::span<const std::uint64_t> bits, std::size_t word);
 
   const WordSet& in(std::uint32_t text) const { return words_[text - first_]; }
@@ -57,7 +57,7 @@ class SeenWords {
   /// A bit for each text of the stretch: some word was seen in it.
   const std::vector<std::uint64_t>& touched() const { return touched_; }
   bool none() const;
-  /// The words seen in any text. Not to be asked with `oneWord`.
+  /// The words seen in any text. Must not be called with `oneWord`.
   WordSet all() const;
 
  private:
@@ -89,12 +89,12 @@ class WordSearch {
     BytePair pair;
     TrigramProbe probe;
     int times;
-    /// It is not worth looking for in the page at hand: it is not there.
+    /// The current page certainly does not hold it.
     bool isRuledOut = false;
     /// The stretch that was searched before held it, so the next one is likely to.
     bool isLikely = false;
   };
-  /// Texts of one page, from a marked one on, and the part of the answer that is wanted of them.
+  /// Texts of one page, starting with a marked one, and which of them the answer is wanted for.
   struct Stretch {
     TextTable::Stretch place;
     std::uint32_t firstText;
@@ -114,7 +114,7 @@ class WordSearch {
   void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);
 
   std::vector<Needle> needles_;
-  /// For the stretch at hand, a bit for each byte: the current word starts here; a text ends here.
+  /// For the current stretch, a bit for each byte: the current word starts there; a text ends there.
   std::vector<std::uint64_t> places_;
   std::vector<std::uint64_t> ends_;
   /// And a bit for each text, which holds the word.

@@ -19,7 +19,7 @@ struct BytePair {
 
 inline constexpr std::size_t kFarthestPairByte = 64;
 
-/// scanBytePair may read this many bytes behind the text it is given.
+/// scanBytePair may read this many bytes past the end of the text it is given.
 inline constexpr std::size_t kScanPadding = 2 * kFarthestPairByte;
 
 /// The pair of bytes of `word` (not empty) that are rarest in names of files; only its first 64 bytes are

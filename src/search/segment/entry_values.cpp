@@ -39,7 +39,7 @@ bool isGrouping(char c) {
   return c == ',' || c == '.' || c == ' ' || c == '\'';
 }
 
-/// Writes one more digit behind a value that is not positive; false where it does not fit.
+/// Appends a digit to a value that is zero or negative; false where the result does not fit.
 bool appendDigit(std::int64_t& value, char digit) {
   return !__builtin_mul_overflow(value, std::int64_t{10}, &value) &&
          !__builtin_sub_overflow(value, std::int64_t{digit - '0'}, &value);

@@ -14,9 +14,9 @@ namespace quorvin {
 
 /// Where an entry's size and date come from.
 enum class ValueState : std::uint8_t {
-  /// They are in its line, or in the tail in force at its line.
+  /// They are in its line, or in the last line before it that was long enough.
   Own,
-  /// The tail in force is too short to hold any.
+  /// No line up to its own is long enough to hold any.
   Absent,
   /// There is text where they should be, but it cannot be read.
   Unreadable,

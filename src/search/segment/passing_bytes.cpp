@@ -13,9 +13,9 @@ constexpr std::size_t kBlock = ByteCheck::kBlockSize;
 /// Enough to keep the number of calls small, and little enough to stay in the processor's cache until it has
 /// been searched.
 constexpr std::size_t kBlocksAhead = (std::size_t{1} << 17) / kBlock;
-/// Single pieces here and there are cheaper to look at where they are mapped.
+/// Single pieces here and there are read more cheaply where they are mapped.
 constexpr int kPiecesUntilPassing = 4;
-/// What is left of the piece before, then the blocks read in one go, then what a scan may look at.
+/// Room for what is left of the piece before, the blocks read in one go, and what a scan may read past them.
 constexpr std::size_t kBufferSize = PassingBytes::kLongestPiece + kBlocksAhead * kBlock + kScanPadding;
 static_assert(PassingBytes::kLongestPiece + 2 * kBlock <= kBlocksAhead * kBlock);
 
@@ -48,8 +48,8 @@ void PassingBytes::claimBuffer() {
   buffer_.user_ = this;
 }
 
-/// What is in the buffer from `begin` on goes to its front; where nothing does, the block of `begin`
-/// will.
+/// Moves what the buffer holds from `begin` on to its front. Where that is nothing, the buffer is to start
+/// with the block of `begin`.
 void PassingBytes::keepFrom(std::size_t begin) {
   if (begin < begin_ || begin >= end_) {
     begin_ = end_ = begin / kBlock * kBlock;

@@ -14,8 +14,8 @@ namespace quorvin {
 
 class PassingBytes;
 
-/// Memory through which bytes pass. Several PassingBytes may share one; whoever uses it loses what the others
-/// had in it.
+/// Memory through which bytes pass. Several PassingBytes may share one; each use replaces what the others had
+/// in it.
 class PassingBuffer {
  private:
   friend class PassingBytes;
@@ -23,9 +23,8 @@ class PassingBuffer {
   const PassingBytes* user_ = nullptr;
 };
 
-/// Reads a stretch of a mapped file through a small buffer, each block checked as it passes. For a single
-/// pass this takes half the time of touching mapped pages, whose making and unmaking costs more than copying
-/// them.
+/// Reads a stretch of a mapped file through a small buffer and checks each block on its way. For a single
+/// pass this takes half the time of touching mapped pages: making and unmaking those costs more than copying.
 class PassingBytes {
  public:
   /// The stretch starts at `offset` in the file at `path`, which is opened when bytes are first read. `check`
@@ -36,9 +35,9 @@ class PassingBytes {
   static constexpr std::size_t kLongestPiece = std::size_t{1} << 16;
 
   /// The `size` bytes of the stretch from `begin` on, with kScanPadding readable bytes behind them; valid
-  /// until the next call. None unless some pieces before went on from one another as this one does (it may
-  /// start a little before the end of the one before), and for too long a piece: then the mapped bytes are
-  /// the better ones to look at. Throws DamagedSegment, also when the file cannot be read.
+  /// until the next call. Nothing until several pieces in a row have each continued the one before
+  /// (overlapping it a little at most), and nothing for too long a piece: the mapped bytes are quicker to
+  /// look at then. Throws DamagedSegment, also when the file cannot be read.
   std::optional<std::string_view> take(std::size_t begin, std::size_t size);
 
   /// Closes the file until bytes are read again.
@@ -60,7 +59,7 @@ class PassingBytes {
   std::size_t end_ = 0;
   /// Where the piece before ended.
   std::size_t pieceEnd_ = 0;
-  /// How many went on from the one before.
+  /// How many pieces in a row have continued the one before.
   int piecesInARow_ = 0;
 };
 

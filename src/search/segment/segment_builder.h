@@ -33,7 +33,7 @@ class SegmentBuilder {
   /// stay until finishText(); kLinePadding bytes before and behind it can be read.
   std::size_t addLines(const char* text, std::size_t size);
 
-  /// Adds one line, given without its line end, that addLines left over; the same holds for its bytes.
+  /// Adds one line, given without its line end, that addLines did not take; its bytes must stay as long.
   void addLine(std::string_view line);
 
   /// Reads size and date of entry `entry` of the segment, if that has not been done; entries come in
@@ -57,7 +57,7 @@ class SegmentBuilder {
   std::int64_t lineCount() const { return lineCount_; }
 
  private:
-  /// The tail in force at an entry whose values have not been read.
+  /// The tail that applies to an entry whose values have not been read.
   struct Unread {
     /// Null where there has been none so far.
     const char* tail;
@@ -78,7 +78,7 @@ class SegmentBuilder {
   EntryValuesReader valuesReader_;
   std::shared_ptr<GrowingSegment> segment_ = std::make_shared<GrowingSegment>();
   std::int64_t lineCount_ = 0;
-  /// The line count when the text at hand began.
+  /// The line count at the start of the current text.
   std::int64_t textFirstLine_ = 0;
 
   std::string volume_;
@@ -86,8 +86,8 @@ class SegmentBuilder {
   /// Volume or folder have changed since the segment's last block.
   bool blockPending_ = true;
 
-  /// The tail in force, null where there has been none: in the current text or, from an earlier one, in
-  /// keptTail_.
+  /// The tail that applies now, null where there has been none: in the current text or, from an earlier one,
+  /// in keptTail_.
   const char* tail_ = nullptr;
   std::uint32_t tailLength_ = 0;
   std::string keptTail_;
@@ -97,7 +97,7 @@ class SegmentBuilder {
   ValueState readState_ = ValueState::Absent;
   EntryValues readValues_;
 
-  /// The entries of the text at hand, from firstUnread_ on.
+  /// The entries of the current text, from firstUnread_ on.
   std::vector<Unread> unread_;
   std::uint32_t firstUnread_ = 0;
   /// Entries before this one have been read or passed over.
@@ -105,7 +105,7 @@ class SegmentBuilder {
 
   std::vector<std::uint64_t> lineEnds_;
   std::vector<std::uint64_t> care_;
-  /// Lines of the text at hand that had to be decoded; tails point into them.
+  /// Lines of the current text that had to be decoded; tails point into them.
   std::vector<std::string> decoded_;
 };
 

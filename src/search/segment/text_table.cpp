@@ -12,7 +12,7 @@ namespace quorvin {
 
 namespace {
 
-/// Room that is made at a time, beyond what is needed now.
+/// How much more room than needed is made at a time.
 constexpr std::size_t kGrowth = std::size_t{1} << 16;
 
 constexpr std::uint64_t lowBits(std::size_t count) {
@@ -27,7 +27,7 @@ bool bitAt(std::uint64_t bits, std::uint32_t index) {
   return (bits >> (index % 64) & 1U) != 0;
 }
 
-/// Capitals back into place.
+/// Puts the capitals back.
 void raise(std::string& text, std::span<const std::uint8_t> upperBits) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if ((static_cast<unsigned>(upperBits[i / 8]) >> (i % 8) & 1U) != 0)
@@ -133,7 +133,7 @@ void TextTableBuilder::completeTrigrams() {
     const std::size_t nextMark = (page + 1) * kMarksPerPage;
     const std::size_t begin = marks_[page * kMarksPerPage].text;
     const std::size_t end = nextMark < marks_.size() ? marks_[nextMark].text : foldedSize_;
-    // Trigrams across two texts are taken along: they cost a few bits and no test for each byte.
+    // Trigrams that span two texts are added too: that costs a few bits, and saves a test for each byte.
     addTrigrams(trigrams_[page], std::string_view(folded_).substr(begin, end - begin));
   }
 }

@@ -47,7 +47,7 @@ class TrigramProbe {
 };
 
 /// A table of texts, numbered from 0. It refers to arrays that somebody else owns: a TextTableBuilder or a
-/// mapped file. Whatever reads a mapped one may throw DamagedSegment.
+/// segment out of a file. Reading the latter may throw DamagedSegment.
 struct TextTable {
   /// Where every 32nd text starts.
   struct Mark {
@@ -93,7 +93,7 @@ struct TextTable {
   Stretch between(std::size_t beginMark, std::size_t endMark) const;
 
   /// A stretch ready to be searched: itself, or a copy that is valid until the next call. kScanPadding
-  /// readable bytes stand behind it.
+  /// readable bytes follow it.
   std::string_view toSearch(Stretch stretch) const;
 
   /// The text as listed, UTF-8.
@@ -103,7 +103,7 @@ struct TextTable {
 /// Grows a TextTable.
 class TextTableBuilder {
  public:
-  /// Adds a text as listed, UTF-8; `ascii` says that all its bytes are below 0x80.
+  /// Adds a text as listed, UTF-8; with `ascii` all its bytes are below 0x80.
   void add(std::string_view listed, bool ascii);
 
   /// Adds the first `columns` (at most 69) bytes at `line`, which are ASCII, without the blanks at their end
