@@ -3,6 +3,7 @@
 #include "search/segment/segment_file.h"
 
 #include "search/segment/segment_builder.h"
+#include "support/descriptors.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -139,6 +140,15 @@ TEST_P(SegmentFileTest, WithoutItsEndNothingOfAFileStays) {
 TEST_P(SegmentFileTest, NoFileIsNoSegments) {
   ASSERT_TRUE(QFile::remove(path_));
   expectNoSegmentFile();
+}
+
+TEST_P(SegmentFileTest, ASmallFileDoesNotStayOpen) {
+  // The system lets a program have some thousand files open, and a catalogue may have more listings.
+  const rlim_t before = test::nextDescriptor();
+  const auto segments = open();
+  ASSERT_EQ(segments.size(), 2U);
+  EXPECT_EQ(segments[1]->name(0), u"Third"_qs);
+  EXPECT_EQ(test::nextDescriptor(), before);
 }
 
 TEST_P(SegmentFileTest, APipeInItsPlaceIsNone) {
