@@ -135,11 +135,13 @@ TEST_F(MetafileChildTest, TheLimitsHoldBeforeAnythingIsRead) {
   QProcess process;
   process.start(kProgram, {});
   ASSERT_TRUE(process.waitForStarted());
-  // Nothing has been written to it, and nothing will be.
+  // Nothing has been written to it, and nothing will be. It sets one limit after the other.
   const QString path = QStringLiteral("/proc/%1/limits").arg(process.processId());
   QByteArray limits;
   ASSERT_EVENTUALLY(
-      (limits = outputOf(QStringLiteral("cat"), {path})).contains("Max cpu time              5"));
+      (limits = outputOf(QStringLiteral("cat"), {path})).contains("Max open files            64") &&
+      limits.contains("Max file size             0") && limits.contains("Max core file size        0") &&
+      limits.contains("Max cpu time              5"));
   const std::string text = limits.toStdString();
   EXPECT_THAT(text, testing::ContainsRegex("Max cpu time +5 +5 +seconds"));
   EXPECT_THAT(text, testing::ContainsRegex("Max open files +64 +64 +files"));
