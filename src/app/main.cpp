@@ -1,6 +1,5 @@
 // The program with the window.
 #include "app/command_line.h"
-#include "app/hit_actions.h"
 #include "app/main_application.h"
 #include "app/search_form.h"
 #include "app/shutdown.h"
@@ -9,6 +8,7 @@
 #include "dates/general_date.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
+#include "hits/hit_actions.h"
 #include "platform/desktop_shell.h"
 #include "platform/ini_settings_store.h"
 #include "platform/one_window.h"

@@ -1,13 +1,13 @@
 // The main window.
 #pragma once
 
-#include "app/hit_list_model.h"
 #include "app/search_form_controls.h"
 #include "app/search_form_hits.h"
 #include "app/search_form_windows.h"
 #include "app/search_form_work.h"
 #include "app/shutdown.h"
 #include "app/start_up.h"
+#include "hits/hit_list_model.h"
 #include "search/hit_table.h"
 #include "search/search_run.h"
 

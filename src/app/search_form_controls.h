@@ -1,7 +1,7 @@
 // The menus and controls of the main window, and their places.
 #pragma once
 
-#include "app/hit_list.h"
+#include "hits/hit_list.h"
 
 #include <QAction>
 #include <QFrame>

@@ -1,7 +1,7 @@
 #include "app/search_form_hits.h"
 
 #include "app/fault_report.h"
-#include "app/hit_list_model.h"
+#include "hits/hit_list_model.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
 // The hit list's mouse, keys and pop-up menu: what the main window does with single hits.
 #pragma once
 
-#include "app/hit_actions.h"
-#include "app/hit_list.h"
+#include "hits/hit_actions.h"
+#include "hits/hit_list.h"
 #include "search/hit_table.h"
 
 #include <QAction>

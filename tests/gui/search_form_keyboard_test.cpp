@@ -1,7 +1,7 @@
 // The main window by keys alone: searching, going through the hits, and doing something with one.
-#include "app/hit_list.h"
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"
+#include "hits/hit_list.h"
 #include "search/hit_path.h"
 
 #include <QClipboard>

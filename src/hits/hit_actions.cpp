@@ -1,4 +1,4 @@
-#include "app/hit_actions.h"
+#include "hits/hit_actions.h"
 
 #include "files/file_lookup.h"
 #include "files/path_style.h"

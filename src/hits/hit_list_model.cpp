@@ -1,4 +1,4 @@
-#include "app/hit_list_model.h"
+#include "hits/hit_list_model.h"
 
 #include <QColor>
 

@@ -1,7 +1,7 @@
 // Selecting several rows of the hit list, also very many, and the requests to open and for the menu.
-#include "app/hit_list.h"
-#include "app/hit_list_model.h"
-#include "gui/many_rows_model.h"
+#include "hits/hit_list.h"
+#include "hits/hit_list_model.h"
+#include "hits/many_rows_model.h"
 #include "support/qt_printing.h"
 
 #include <QContextMenuEvent>

@@ -1,4 +1,4 @@
-#include "app/hit_list_delegate.h"
+#include "hits/hit_list_delegate.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

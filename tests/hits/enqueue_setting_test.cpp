@@ -1,5 +1,5 @@
 // The setting for the user's own audio player, as it is stored.
-#include "app/hit_actions.h"
+#include "hits/hit_actions.h"
 #include "support/memory_settings_store.h"
 #include "support/qt_printing.h"
 

@@ -1,7 +1,7 @@
 // The model of the hit list over a real hit table.
-#include "app/hit_list_model.h"
+#include "hits/hit_list_model.h"
 
-#include "gui/scan_into.h"
+#include "hits/scan_into.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 

@@ -1,4 +1,4 @@
-#include "app/hit_list.h"
+#include "hits/hit_list.h"
 
 #include <QAccessible>
 #include <QAccessibleInterface>

@@ -1,5 +1,5 @@
 // What is done with a hit, seen from what the shell is asked for.
-#include "app/hit_actions.h"
+#include "hits/hit_actions.h"
 
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"

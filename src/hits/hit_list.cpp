@@ -1,6 +1,6 @@
-#include "app/hit_list.h"
+#include "hits/hit_list.h"
 
-#include "app/hit_list_delegate.h"
+#include "hits/hit_list_delegate.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>

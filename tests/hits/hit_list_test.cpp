@@ -1,8 +1,8 @@
 // The hit list's view: scrolling, selecting and painting without a cost for rows that are not seen.
-#include "app/hit_list.h"
+#include "hits/hit_list.h"
 
-#include "app/hit_list_delegate.h"
-#include "gui/many_rows_model.h"
+#include "hits/hit_list_delegate.h"
+#include "hits/many_rows_model.h"
 #include "support/qt_printing.h"
 
 #include <QHeaderView>

@@ -1,6 +1,6 @@
 // Many look-ups in the same folders, with no folder read twice.
-#include "app/hit_actions.h"
 #include "files/file_lookup.h"
+#include "hits/hit_actions.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 

@@ -1,9 +1,9 @@
 // The colours in which rows are drawn on light and dark backgrounds.
-#include "app/hit_list_delegate.h"
+#include "hits/hit_list_delegate.h"
 
-#include "app/hit_list.h"
-#include "app/hit_list_model.h"
-#include "gui/scan_into.h"
+#include "hits/hit_list.h"
+#include "hits/hit_list_model.h"
+#include "hits/scan_into.h"
 #include "support/listing_lines.h"
 
 #include <QHeaderView>
