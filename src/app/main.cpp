@@ -17,6 +17,7 @@
 #include "state/data_taken_along.h"
 #include "state/program_state.h"
 #include "state/recovery_copy.h"
+#include "state/view_settings.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -87,11 +88,17 @@ class Run {
  public:
   Run(Application& application, WidgetMessageBoxes& messages, const QString& commandLine)
       : application_(application), messages_(messages), commandLine_(commandLine) {
-    form_.setUnloadHandler([this] { shutdown_.Form_Unload(); });
+    form_.setUnloadHandler([this] {
+      keepView();
+      shutdown_.Form_Unload();
+    });
     shutdown_.setRecoveryCopy(&recovery_);
-    untilKept_.setSingleShot(true);
-    untilKept_.setInterval(kChangeIsKeptAfter);
+    for (QTimer* timer : {&untilKept_, &untilViewKept_}) {
+      timer->setSingleShot(true);
+      timer->setInterval(kChangeIsKeptAfter);
+    }
     QObject::connect(&untilKept_, &QTimer::timeout, &form_, [this] { recovery_.keep(); });
+    QObject::connect(&untilViewKept_, &QTimer::timeout, &form_, [this] { writeView(); });
     // The timer of the main window ends the program, once a refresh has come to its end.
     QGuiApplication::setQuitOnLastWindowClosed(false);
   }
@@ -123,6 +130,7 @@ class Run {
     // The window may have been closed while the main data file was being unpacked.
     if (form_.hasLeft()) return 0;
     watchForTheEnd();
+    takeView();
     form_.sourcesChanged();
     form_.setSourcesHandler([this] { untilKept_.start(); });
     // Once events run, so that the program can be closed over the question.
@@ -158,6 +166,29 @@ class Run {
     });
   }
 
+  void takeView() {
+    try {
+      form_.view().take(readViewSettings(settings_, state_.RegKey));
+    } catch (const RuntimeFault&) {
+      // Start-up has reported that the settings cannot be read. What they hold is not overwritten.
+      return;
+    }
+    form_.view().setChangeHandler([this] { untilViewKept_.start(); });
+  }
+
+  void keepView() {
+    if (untilViewKept_.isActive()) writeView();
+  }
+
+  void writeView() {
+    untilViewKept_.stop();
+    try {
+      writeViewSettings(settings_, state_.RegKey, form_.view().settings());
+    } catch (const RuntimeFault&) {
+      // Nobody is kept from working by that. Shutdown writes to the same place, and reports what is wrong.
+    }
+  }
+
   QString placeOfMaximized() const {
     try {
       return readMaximized(settings_, state_);
@@ -175,6 +206,8 @@ class Run {
   IniSettingsStore settings_{userSettingsPath()};
   RecoveryCopy recovery_{state_, locale_, userSettingsPath()};
   QTimer untilKept_;
+  /// Runs while view settings have changed and are not written yet.
+  QTimer untilViewKept_;
   SegmentStore segments_{SegmentStore::defaultOptions()};
   DesktopShell shell_{[this] { return enqueueCommand(settings_, state_); }};
   SearchForm form_{state_, messages_, shell_, locale_, &segments_};

@@ -74,6 +74,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       searchRun_({state, runMessages_, locale, &hits_, segments, &display_,
                   [this] { return jobs_.work().isClosing(); }}),
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
+      view_(controls_, menus_, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale),
       windows_(state, messages, menus_,
                {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_)}, *this,

@@ -3,6 +3,7 @@
 
 #include "app/search_form_controls.h"
 #include "app/search_form_hits.h"
+#include "app/search_form_view.h"
 #include "app/search_form_windows.h"
 #include "app/search_form_work.h"
 #include "app/shutdown.h"
@@ -138,6 +139,8 @@ class SearchForm : public QMainWindow {
 
   /// What start-up and shutdown work with.
   SearchFormFrame& frame() { return frame_; }
+  /// How the hits are seen, and what is kept of that.
+  SearchFormView& view() { return view_; }
   /// Its long jobs.
   SearchFormWork& jobs() { return jobs_; }
 
@@ -198,6 +201,7 @@ class SearchForm : public QMainWindow {
   RunMessages runMessages_;
   SearchRun searchRun_;
   SearchFormHits hitActions_;
+  SearchFormView view_;
   SearchFormWork jobs_;
   SearchFormWindows windows_;
   SearchFormFrame frame_;

@@ -225,6 +225,10 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.
   made.MenuQuit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 
+  made.ViewMenu = addMenu(bar, QStringLiteral("ViewMenu"), QStringLiteral("&View"));
+  made.ResetColumns =
+      addItem(made.ViewMenu, QStringLiteral("ResetColumns"), QStringLiteral("&Reset Columns"));
+
   made.PeersMenu = addMenu(bar, QStringLiteral("PeersMenu"), QStringLiteral("&Peers"));
   made.ShareLists = addItem(made.PeersMenu, QStringLiteral("ShareLists"), QStringLiteral("&Share My Lists"));
   made.ShareLists->setCheckable(true);

@@ -62,6 +62,8 @@ struct SearchFormMenus {
   QAction* ListingHistory;
   QAction* OptionsMenu;
   QAction* MenuQuit;
+  QMenu* ViewMenu;
+  QAction* ResetColumns;
   QMenu* PeersMenu;
   /// Can be checked; is checked while lists are shared.
   QAction* ShareLists;

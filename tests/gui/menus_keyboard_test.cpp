@@ -119,6 +119,8 @@ TEST_F(MenuKeys, SidewaysLeadsFromMenuToMenuAndEscLeaves) {
   press(Qt::Key_F, Qt::AltModifier);
   EXPECT_TRUE(form().menus().FileMenu->isVisible());
   press(Qt::Key_Right);
+  EXPECT_TRUE(form().menus().ViewMenu->isVisible());
+  press(Qt::Key_Right);
   EXPECT_TRUE(form().menus().PeersMenu->isVisible());
   press(Qt::Key_Right);
   EXPECT_TRUE(form().menus().HlpMnu->isVisible());

@@ -189,7 +189,8 @@ class WindowMenus : public WindowClose {
 };
 
 TEST_F(WindowMenus, EveryItemCanBeChosen) {
-  for (const QMenu* menu : {form().menus().FileMenu, form().menus().PeersMenu, form().menus().HlpMnu}) {
+  for (const QMenu* menu :
+       {form().menus().FileMenu, form().menus().ViewMenu, form().menus().PeersMenu, form().menus().HlpMnu}) {
     for (const QAction* item : menu->actions()) {
       EXPECT_TRUE(item->isEnabled() || item->isSeparator()) << item->objectName().toStdString();
     }

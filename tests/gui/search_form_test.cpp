@@ -84,6 +84,8 @@ TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
                                                  "ListingHistory=Listing &History...\n"
                                                  "OptionsMenu=&Options\n"
                                                  "MenuQuit=&Quit\n"
+                                                 "ViewMenu=&View\n"
+                                                 "ResetColumns=&Reset Columns\n"
                                                  "PeersMenu=&Peers\n"
                                                  "ShareLists=&Share My Lists\n"
                                                  "GetLists=&Get Lists From Peer...\n"
