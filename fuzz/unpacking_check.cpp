@@ -82,7 +82,7 @@ void checkUnpacking(QByteArrayView archive, const std::map<QString, QByteArray>&
     return false;
   };
   try {
-    const UnpackingResult result = unpackArchive(archivePath, target, pause, limits);
+    const UnpackingResult result = unpackArchive(archivePath, target, pause, {.limits = limits});
     const bool isUnpacked = result.outcome == UnpackingOutcome::Unpacked;
     require(result.error.isEmpty() == isUnpacked, "a failure has a sentence");
     if (isUnpacked)

@@ -126,9 +126,8 @@ void check(const WebAnswer& answer, bool isWanted, bool isSlow) {
   SameAnswer web(answer, isSlow);
   bool isEnabled = true;
   work.run(JobKind::Update, [&](Job& job) {
-    WebUpdate(state, job, boxes, web, QLocale::c(), [&isEnabled](bool enabled) {
-      isEnabled = enabled;
-    }).WebUpdate_Click();
+    WebUpdate(state, job, boxes, web, QLocale::c(), [&isEnabled](bool enabled) { isEnabled = enabled; }, {})
+        .WebUpdate_Click();
   });
   const std::optional<Announced> expected = announced(answer);
   require(isEnabled, "the command can be used again");

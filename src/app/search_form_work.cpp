@@ -3,6 +3,9 @@
 #include "app/fault_report.h"
 #include "app/version.h"
 #include "history/listing_history.h"
+#include "platform/ini_settings_store.h"
+#include "platform/one_window.h"
+#include "platform/standard_folders.h"
 #include "preview/res_win.h"
 #include "update/web_update.h"
 
@@ -16,6 +19,10 @@ namespace {
 
 bool noDialogIsOpen() {
   return QApplication::activeModalWidget() == nullptr;
+}
+
+OwnPlaces ownPlaces() {
+  return {usualProgramPlace().executableFolder, userSettingsPath(), usualOneWindowOptions().folder};
 }
 
 }  // namespace
@@ -106,8 +113,9 @@ void SearchFormWork::showOutcome(const RefreshOutcome& outcome) {
 void SearchFormWork::WebUpdate_Click() {
   startOrTell(JobKind::Update, [this](Job& job) {
     const auto enable = [this](bool enabled) { controls_.WebUpdate->setEnabled(enabled); };
-    reportFaults(messages_, QStringLiteral("updating from the web"),
-                 [&] { WebUpdate(state_, job, messages_, web_, locale_, enable).WebUpdate_Click(); });
+    reportFaults(messages_, QStringLiteral("updating from the web"), [&] {
+      WebUpdate(state_, job, messages_, web_, locale_, enable, ownPlaces()).WebUpdate_Click();
+    });
     if (controls_.WebUpdate->isEnabled()) return;
     controls_.WebUpdate->setToolTip(QStringLiteral(
         "The update was cancelled. It can be started again when the program is started again."));
@@ -127,7 +135,8 @@ void SearchFormWork::extractDataFile(const QString& archivePath, const QString& 
   owner_.show();
   const auto afterwards = qScopeGuard([this] { work_.wake(); });
   if (std::optional<Job> job = work_.start(JobKind::Extraction)) {
-    quorvin::extractDataFile(*job, archivePath, targetFolder, messages_);
+    quorvin::extractDataFile(*job, archivePath, targetFolder, messages_,
+                             ProtectedFiles(state_, targetFolder, ownPlaces()));
   }
 }
 

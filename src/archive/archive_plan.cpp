@@ -201,8 +201,6 @@ class Totals {
     if (packed_ > archiveLength_) overlap();
   }
 
-  std::uint64_t unpacked() const { return unpacked_; }
-
  private:
   [[noreturn]] static void overlap() {
     refuse(ArchiveErrorCode::Overlapping,
@@ -217,7 +215,8 @@ class Totals {
 
 }  // namespace
 
-ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits) {
+ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits,
+                   const IsProtected& isProtected) {
   ArchivePlan plan;
   TakenPlaces taken(limits.entries);
   Totals totals(archive.length(), limits);
@@ -237,9 +236,13 @@ ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits) {
       refuseEntry(ArchiveErrorCode::BadName, QStringLiteral("The archive has a file without a name: \"%1\"."),
                   entry.name);
     }
+    if (isProtected && !place.isFolder && isProtected(place.path)) {
+      plan.leftOut += entry.name;
+      continue;
+    }
+    plan.bytes += entry.size;
     plan.entries.push_back({entry, place});
   }
-  plan.bytes = totals.unpacked();
   return plan;
 }
 

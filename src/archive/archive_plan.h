@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace quorvin {
@@ -32,18 +33,25 @@ struct PlannedEntry {
   ArchivePlace place;
 };
 
+/// Whether the file at this place (see ArchivePlace::path) is not to be written, whatever the archive holds.
+using IsProtected = std::function<bool(const QStringList& path)>;
+
 struct ArchivePlan {
   std::vector<PlannedEntry> entries;
-  /// Bytes of all files together, as the archive announces them.
+  /// The names of the files that are sound but protected, in the archive's order.
+  QStringList leftOut;
+  /// Bytes of all files in `entries` together, as the archive announces them.
   std::uint64_t bytes = 0;
 };
 
-/// Looks at every entry of `archive`. Throws ArchiveError when one of them must not be unpacked:
+/// Looks at every entry of `archive`; those that are `isProtected`, which may be empty, are left out. Throws
+/// ArchiveError when one of them must not be unpacked:
 /// - its name leads or might lead out of the folder (an absolute path, a drive, ".."), holds control
 ///   characters, is too long (255 bytes) or lies too deep (64 folders),
 /// - it is no regular file or folder, is encrypted or packed by an unknown method,
 /// - two entries have the same place or share packed bytes,
 /// - there are more entries, folders or bytes than `limits` allow.
-ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits);
+ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits,
+                   const IsProtected& isProtected = {});
 
 }  // namespace quorvin

@@ -95,20 +95,22 @@ UnpackingOutcome unpackEntries(const ArchiveReader& archive, const ArchivePlan& 
 }  // namespace
 
 UnpackingResult unpackArchive(const QString& archivePath, const QString& targetFolder,
-                              const ArchivePause& pause, const ArchiveLimits& limits,
-                              std::int64_t archiveLength, const BeforeReplacing& beforeReplacing) {
+                              const ArchivePause& pause, const UnpackingOptions& options) {
   try {
-    const ArchiveReader archive(archivePath, archiveLength, limits.entries, pause);
-    return {unpackEntries(archive, planOf(archive, limits), targetFolder, pause, beforeReplacing), {}, {}};
+    const ArchiveReader archive(archivePath, options.archiveLength, options.limits.entries, pause);
+    const ArchivePlan plan = planOf(archive, options.limits, options.isProtected);
+    const UnpackingOutcome outcome =
+        unpackEntries(archive, plan, targetFolder, pause, options.beforeReplacing);
+    return {outcome, {}, {}, plan.leftOut};
   } catch (const ArchiveError& error) {
-    return {UnpackingOutcome::Failed, error.code(), error.description()};
+    return {UnpackingOutcome::Failed, error.code(), error.description(), {}};
   } catch (const ArchiveStopped&) {
-    return {UnpackingOutcome::Stopped, {}, {}};
+    return {UnpackingOutcome::Stopped, {}, {}, {}};
   }
 }
 
 UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QString& targetFolder,
-                              std::int64_t archiveLength, const BeforeReplacing& beforeReplacing) {
+                              const UnpackingOptions& options) {
   int shownPercent = -1;
   const auto pause = [&job, &shownPercent](int percent) {
     if (percent != shownPercent) job.display().setBar(percent);
@@ -116,7 +118,7 @@ UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QStrin
     job.letEventsRun();
     return job.isStopRequested();
   };
-  return unpackArchive(archivePath, targetFolder, pause, {}, archiveLength, beforeReplacing);
+  return unpackArchive(archivePath, targetFolder, pause, options);
 }
 
 }  // namespace quorvin

@@ -5,6 +5,7 @@
 #include "work/work.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <functional>
@@ -20,16 +21,26 @@ struct UnpackingResult {
   /// become of the files.
   ArchiveErrorCode errorCode = {};
   QString error;
+  /// The names of the entries that were left out, since they are protected.
+  QStringList leftOut;
 };
 
 /// Called before a file is put in its place, when it is whole: `name` is its path below the target folder,
-/// parted by
-/// "/", and `made` is where it is until then.
+/// parted by "/", and `made` is where it is until then.
 using BeforeReplacing = std::function<void(const QString& name, const QString& made)>;
 
-/// Unpacks every entry of the zip archive in the first `archiveLength` bytes of the file at `archivePath`
-/// (all of them when negative) into `targetFolder`, which must exist, replacing files of the same names.
-/// `pause` is called at the start, every few milliseconds, and at the end.
+struct UnpackingOptions {
+  ArchiveLimits limits = {};
+  /// How many bytes of the file, from its start, are the archive; all of them when negative.
+  std::int64_t archiveLength = -1;
+  /// Both may be empty.
+  BeforeReplacing beforeReplacing = {};
+  IsProtected isProtected = {};
+};
+
+/// Unpacks every entry of the zip archive at `archivePath` that is not protected into `targetFolder`, which
+/// must exist, replacing files of the same names. `pause` is called at the start, every few milliseconds, and
+/// at the end.
 ///
 /// The whole archive is judged first (planOf), and nothing is written when anything in it is wrong. Then each
 /// file is written aside and put in its place when it is whole and its checksum is right; until then the
@@ -37,12 +48,11 @@ using BeforeReplacing = std::function<void(const QString& name, const QString& m
 /// stay. Throws RuntimeFault when a file cannot be written: a full disk (61), no permission (70), a link or a
 /// folder in the way (75).
 UnpackingResult unpackArchive(const QString& archivePath, const QString& targetFolder,
-                              const ArchivePause& pause, const ArchiveLimits& limits = {},
-                              std::int64_t archiveLength = -1, const BeforeReplacing& beforeReplacing = {});
+                              const ArchivePause& pause, const UnpackingOptions& options = {});
 
 /// The same as a part of `job`: what has been done is shown on the bar of its display, in per cent, and a
 /// stop request ends the unpacking.
 UnpackingResult unpackArchive(Job& job, const QString& archivePath, const QString& targetFolder,
-                              std::int64_t archiveLength = -1, const BeforeReplacing& beforeReplacing = {});
+                              const UnpackingOptions& options = {});
 
 }  // namespace quorvin

@@ -4,6 +4,7 @@
 #include "files/file_aside.h"
 #include "files/file_lookup.h"
 #include "files/file_reader.h"
+#include "state/protected_files.h"
 #include "state/settings.h"
 
 #include <QDir>
@@ -21,17 +22,11 @@ namespace {
 
 constexpr std::size_t kPieceBytes = std::size_t{1} << 20;
 constexpr char16_t kLocalFolder[] = u"LocalFolder";
-constexpr QStringView kOnlineList = u"Locations.txt";
 constexpr QStringView kOfflineList = u"OfflineLocations.txt";
 constexpr QStringView kOwnNote = u"about-this-folder.txt";
 
-/// A list may have the name of a listing behind it, or be a copy that was kept.
-bool isSourceList(const QString& name) {
-  return name.startsWith(kOnlineList) || name.startsWith(kOfflineList);
-}
-
 bool hasSourceList(const QString& folder) {
-  return std::ranges::any_of(QDir(folder).entryList(QDir::Files), isSourceList);
+  return std::ranges::any_of(QDir(folder).entryList(QDir::Files), isSourceListName);
 }
 
 bool isSameFolder(const QString& one, const QString& other) {
@@ -73,10 +68,10 @@ class DataMove {
     const QStringList names = QDir(from_).entryList(QDir::Files, QDir::Name);
     for (const QString& name : names) {
       const bool isListing = name.endsWith(QStringLiteral(".txt")) || name == textFile || name == archiveFile;
-      if (isListing && !isSourceList(name) && name != kOwnNote) names_.append(name);
+      if (isListing && !isSourceListName(name) && name != kOwnNote) names_.append(name);
     }
     // The lists come last: a move that was interrupted is seen by their absence.
-    std::ranges::copy_if(names, std::back_inserter(names_), isSourceList);
+    std::ranges::copy_if(names, std::back_inserter(names_), isSourceListName);
   }
 
   bool hasAny() const { return !names_.isEmpty(); }

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QScopeGuard>
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -42,13 +43,27 @@ void setModified(const QString& path, const QDateTime& moment) {
   file.setFileTime(moment, QFileDevice::FileModificationTime);
 }
 
-/// What is wrong with the archive is shown in a message box.
+QString leftOutText(const QStringList& names) {
+  constexpr qsizetype kMostShown = 10;
+  QString text = QStringLiteral(
+      "These files of the archive were left out, since they would have replaced your source lists, your "
+      "settings, your listing history, or the program itself:");
+  for (const QString& name : names.first(std::min(names.size(), kMostShown))) {
+    text += QStringLiteral("\r\n") + shownEntryName(name);
+  }
+  const qsizetype more = names.size() - kMostShown;
+  if (more > 0) text += QStringLiteral("\r\nand %1 more").arg(QLocale().toString(more));
+  return text;
+}
+
+/// What is wrong with the archive, and what was left out of it, is shown in a message box.
 UnpackingOutcome unpackDataFile(Job& job, const QString& archivePath, const QString& targetFolder,
-                                MessageBoxes& boxes, std::int64_t archiveLength = -1,
-                                const BeforeReplacing& beforeReplacing = {}) {
-  const UnpackingResult result =
-      unpackArchive(job, archivePath, targetFolder, archiveLength, beforeReplacing);
+                                MessageBoxes& boxes, const ProtectedFiles& files,
+                                UnpackingOptions options = {}) {
+  options.isProtected = [&files](const QStringList& path) { return files.has(path); };
+  const UnpackingResult result = unpackArchive(job, archivePath, targetFolder, options);
   if (!result.error.isEmpty()) boxes.inform(QStringLiteral("Archive Error: ") + result.error);
+  if (!result.leftOut.isEmpty() && !job.isClosing()) boxes.inform(leftOutText(result.leftOut));
   return result.outcome;
 }
 
@@ -62,14 +77,15 @@ QString sentenceOf(const QString& name, const KeptListing& kept) {
 }  // namespace
 
 WebUpdate::WebUpdate(const ProgramState& state, Job& job, MessageBoxes& boxes, HttpTransfer& web,
-                     const QLocale& locale, EnableCommand enableCommand)
+                     const QLocale& locale, EnableCommand enableCommand, OwnPlaces places)
     : state_(state),
       job_(job),
       display_(job.display()),
       boxes_(boxes),
       web_(web),
       locale_(locale),
-      enableCommand_(std::move(enableCommand)) {}
+      enableCommand_(std::move(enableCommand)),
+      places_(std::move(places)) {}
 
 void WebUpdate::WebUpdate_Click() {
   try {
@@ -213,7 +229,8 @@ void WebUpdate::unpack() {
     if (state_.isListing(localFolder_ + name)) notKept += sentenceOf(name, history.keep(name, made, true));
   };
   const UnpackingOutcome outcome =
-      unpackDataFile(job_, archivePath(), localFolder_, boxes_, archiveLength_, keepListing);
+      unpackDataFile(job_, archivePath(), localFolder_, boxes_, ProtectedFiles(state_, localFolder_, places_),
+                     {.archiveLength = archiveLength_, .beforeReplacing = keepListing});
   job_.dropStopRequest();
   if (outcome == UnpackingOutcome::Unpacked) setModified(archivePath(), received_);
   if (!notKept.isEmpty()) boxes_.inform(notKept);
@@ -223,7 +240,8 @@ QString WebUpdate::archivePath() const {
   return localFolder_ + archiveFile_;
 }
 
-void extractDataFile(Job& job, const QString& archivePath, const QString& targetFolder, MessageBoxes& boxes) {
+void extractDataFile(Job& job, const QString& archivePath, const QString& targetFolder, MessageBoxes& boxes,
+                     const ProtectedFiles& files) {
   job.dropStopRequest();
   const auto afterwards = qScopeGuard([&job] { job.dropStopRequest(); });
   job.show();
@@ -231,7 +249,7 @@ void extractDataFile(Job& job, const QString& archivePath, const QString& target
   display.setStatus(QStringLiteral("Decompressing Compressed Data File."));
   display.setBarMaximum(kFullBar);
   display.setBar(0);
-  if (unpackDataFile(job, archivePath, targetFolder, boxes) != UnpackingOutcome::Failed) return;
+  if (unpackDataFile(job, archivePath, targetFolder, boxes, files) != UnpackingOutcome::Failed) return;
   throw RuntimeFault(FaultNumber::PathFileAccess, describe(FaultNumber::PathFileAccess) +
                                                       QStringLiteral(": ") + archivePath +
                                                       QStringLiteral(" could not be unpacked"));

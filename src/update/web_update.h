@@ -4,6 +4,7 @@
 #include "dates/general_date.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
+#include "state/protected_files.h"
 #include "update/http_transfer.h"
 #include "work/work.h"
 
@@ -25,9 +26,9 @@ class WebUpdate {
   /// What enables or disables the `WebUpdate` button.
   using EnableCommand = std::function<void(bool enabled)>;
 
-  /// All must outlive the object; `locale` is the one in which dates are read.
+  /// All but `places` must outlive the object; `locale` is the one in which dates are read.
   WebUpdate(const ProgramState& state, Job& job, MessageBoxes& boxes, HttpTransfer& web,
-            const QLocale& locale, EnableCommand enableCommand);
+            const QLocale& locale, EnableCommand enableCommand, OwnPlaces places);
 
   /// Asks `WebServer` for the date of `ArchiveFile` and, when it is newer than the copy in `LocalFolder` and
   /// the user agrees, downloads it over that copy and unpacks it. `WebUpdate` is disabled meanwhile. After a
@@ -36,7 +37,7 @@ class WebUpdate {
   /// is reported as "NUMBER: Could not get an update."; what has been written of the archive then stays, and
   /// so does `Progress`. The earlier archive is written over from its start and not cut: the rest of a longer
   /// one stays behind the new one. An archive that was not unpacked whole dates from 1980, so that the next
-  /// update is offered again. To be called once.
+  /// update is offered again. ProtectedFiles are left out, which is reported. To be called once.
   void WebUpdate_Click();
 
  private:
@@ -64,6 +65,7 @@ class WebUpdate {
   HttpTransfer& web_;
   QLocale locale_;
   EnableCommand enableCommand_;
+  OwnPlaces places_;
 
   // The settings may change meanwhile.
   QString archiveFile_;
@@ -81,9 +83,10 @@ class WebUpdate {
 
 /// Unpacks the archive of the main data file at start-up, as a job of the kind Extraction, which is shown
 /// meanwhile: every entry of the archive at `archivePath` into `targetFolder` (which ends in a separator),
-/// replacing files of the same names. What is wrong with the archive is shown in a message box before fault
-/// 75 is thrown; a file that cannot be written is a fault as unpackArchive() throws it. The user may cancel;
-/// that is no fault.
-void extractDataFile(Job& job, const QString& archivePath, const QString& targetFolder, MessageBoxes& boxes);
+/// replacing files of the same names, but for `files`; those that are left out are reported. What is wrong
+/// with the archive is shown in a message box before fault 75 is thrown; a file that cannot be written is a
+/// fault as unpackArchive() throws it. The user may cancel; that is no fault.
+void extractDataFile(Job& job, const QString& archivePath, const QString& targetFolder, MessageBoxes& boxes,
+                     const ProtectedFiles& files);
 
 }  // namespace quorvin

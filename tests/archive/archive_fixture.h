@@ -70,7 +70,8 @@ class ArchiveTest : public testing::Test {
 
   UnpackingOutcome unpackFile(const QString& archivePath, const QString& target,
                               const ArchiveLimits& limits = {}, std::int64_t length = -1) {
-    const UnpackingResult result = unpackArchive(archivePath, target, record_.pause(), limits, length);
+    const UnpackingResult result =
+        unpackArchive(archivePath, target, record_.pause(), {.limits = limits, .archiveLength = length});
     if (result.outcome == UnpackingOutcome::Failed) {
       record_.codes.push_back(result.errorCode);
       record_.descriptions += result.error;

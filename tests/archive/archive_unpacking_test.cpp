@@ -17,6 +17,13 @@ using testing::IsEmpty;
 
 class ArchiveUnpacking : public ArchiveTest {};
 
+MadeEntry named(const QByteArray& name) {
+  MadeEntry entry;
+  entry.name = name;
+  if (!name.endsWith('/')) entry.content = "newer";
+  return entry;
+}
+
 MadeEntry file(const QByteArray& name, const QByteArray& content) {
   MadeEntry entry;
   entry.name = name;
@@ -214,6 +221,33 @@ TEST_F(ArchiveUnpacking, WritesNothingAsideThatStays) {
   damaged.toldChecksum = 1;
   EXPECT_EQ(unpack({file("a.txt", "a"), damaged, file("c.txt", "c")}), UnpackingOutcome::Failed);
   EXPECT_EQ(tree(), (Tree{{u"a.txt"_qs, "a"}}));
+}
+
+TEST_F(ArchiveUnpacking, WhatIsProtectedIsLeftOutAndNamed) {
+  outer_.writeFile(u"target/mine.txt"_qs, "earlier");
+  archivePath_ = outer_.writeFile(
+      u"lists.zip"_qs, archiveOf({named("mine.txt"), named("sub/"), named("sub/a.txt"), named("b.txt")}));
+  const auto isProtected = [](const QStringList& path) {
+    return path.join(u'/') == u"mine.txt" || path.first() == u"sub";
+  };
+  const UnpackingResult result =
+      unpackArchive(archivePath_, target_, record_.pause(), {.isProtected = isProtected});
+  EXPECT_EQ(result.outcome, UnpackingOutcome::Unpacked);
+  EXPECT_EQ(result.leftOut, QStringList({u"mine.txt"_qs, u"sub/a.txt"_qs}));
+  EXPECT_EQ(tree(), (Tree{{u"b.txt"_qs, "newer"}, {u"mine.txt"_qs, "earlier"}, {u"sub/"_qs, {}}}));
+  EXPECT_EQ(record_.percentages.back(), 100);
+}
+
+TEST_F(ArchiveUnpacking, WhatIsProtectedIsJudgedLikeTheRest) {
+  MadeEntry encrypted = named("mine.txt");
+  encrypted.flags = 1;
+  encrypted.packed = QByteArray(12, 'k') + "newer";
+  archivePath_ = outer_.writeFile(u"lists.zip"_qs, archiveOf({named("a.txt"), encrypted}));
+  const UnpackingResult result =
+      unpackArchive(archivePath_, target_, record_.pause(),
+                    {.isProtected = [](const QStringList& path) { return path.first() == u"mine.txt"; }});
+  EXPECT_EQ(result.errorCode, ArchiveErrorCode::Encrypted);
+  EXPECT_EQ(tree(), Tree{});
 }
 
 }  // namespace

@@ -80,7 +80,7 @@ void update(const QString& folder) {
   if (somethingFails()) limits.silence = limits.headers = std::chrono::milliseconds(500);
   HttpNetworkTransfer web(limits);
   work.run(JobKind::Update, [&](Job& job) {
-    WebUpdate(state, job, messages, web, QLocale::c(), [](bool) {}).WebUpdate_Click();
+    WebUpdate(state, job, messages, web, QLocale::c(), [](bool) {}, {}).WebUpdate_Click();
   });
 }
 

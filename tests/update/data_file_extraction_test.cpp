@@ -16,7 +16,7 @@ class DataFileExtractionTest : public testing::Test {
     const QString path = data_.writeFile(u"main.zip"_qs, archive);
     std::optional<Job> job = work_.start(JobKind::Extraction);
     ASSERT_TRUE(job);
-    extractDataFile(*job, path, data_.path(), boxes_);
+    extractDataFile(*job, path, data_.path(), boxes_, ProtectedFiles(state_, data_.path(), {}));
   }
 
   TemporaryFolder data_;
@@ -85,6 +85,20 @@ TEST_F(DataFileExtractionTest, IsEndedByTheUserWithoutAFault) {
   EXPECT_EQ(data_.names(), QStringList{u"main.zip"_qs});
   EXPECT_FALSE(state_.AbortRequested);
   EXPECT_FALSE(view_.isShown);
+}
+
+TEST_F(DataFileExtractionTest, LeavesOutSourceListsAndSaysSo) {
+  MadeEntry main;
+  main.name = "main.txt";
+  main.content = "content";
+  MadeEntry list = main;
+  list.name = "OfflineLocations.txt";
+  extract(archiveOf({list, main}));
+  EXPECT_EQ(data_.names(), QStringList({u"main.txt"_qs, u"main.zip"_qs}));
+  EXPECT_THAT(boxes_.informed,
+              ElementsAre(u"These files of the archive were left out, since they would have replaced your "
+                          u"source lists, your settings, your listing history, or the program itself:\r\n"
+                          u"OfflineLocations.txt"_qs));
 }
 
 }  // namespace

@@ -103,7 +103,7 @@ class WebUpdateTest : public testing::Test {
     };
     const Answer answer = work_.run(JobKind::Update, [&](Job& job) {
       atTheStart();
-      WebUpdate(state_, job, boxes_, web_, QLocale::c(), enable).WebUpdate_Click();
+      WebUpdate(state_, job, boxes_, web_, QLocale::c(), enable, places_).WebUpdate_Click();
     });
     EXPECT_EQ(answer, Answer::Starts);
   }
@@ -127,6 +127,7 @@ class WebUpdateTest : public testing::Test {
 
   TemporaryFolder data_;
   ProgramState state_;
+  OwnPlaces places_;
   RecordingWorkDisplay view_;
   Work work_{state_, view_};
   bool webUpdateEnabled_ = true;

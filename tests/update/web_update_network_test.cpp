@@ -64,7 +64,7 @@ class WebUpdateNetwork : public testing::Test {
     const EventLoopWatch watch;
     work_.run(JobKind::Update, [&](Job& job) {
       const auto enable = [this](bool enabled) { webUpdate_.setEnabled(enabled); };
-      WebUpdate(state_, job, boxes_, web, QLocale::c(), enable).WebUpdate_Click();
+      WebUpdate(state_, job, boxes_, web, QLocale::c(), enable, {}).WebUpdate_Click();
     });
     EXPECT_LT(watch.longestWait(), 300) << "the window did not answer";
   }
