@@ -60,7 +60,8 @@ TEST_F(PeerSharingTest, MakesAnArchiveOfEachListingAndTellsTheAddress) {
   program_.addListedSource(QStringLiteral(" Books "), "never");
   program_.folder.writeFile(QStringLiteral("Books.txt"), "book listing");
   EXPECT_TRUE(start());
-  EXPECT_EQ(archives(), (QStringList{QStringLiteral(" Books .zip"), QStringLiteral("Music.zip")}));
+  EXPECT_EQ(archives(), (QStringList{QStringLiteral(" Books .zip"), QStringLiteral("Films.zip"),
+                                     QStringLiteral("Music.zip")}));
   EXPECT_EQ(contentOf(program_.folder.pathOf(QStringLiteral("Music.zip"))), "Music.txt: music listing");
   EXPECT_EQ(contentOf(program_.folder.pathOf(QStringLiteral(" Books .zip"))), "Books.txt: book listing");
   ASSERT_EQ(program_.messages.informed.size(), 1U);
@@ -101,6 +102,29 @@ TEST_F(PeerSharingTest, ArchivesOfSourcesThatAreNoLongerListedAreNotSent) {
   PeerCaller caller(sharing_.server().port());
   EXPECT_EQ(caller.ask("GetList: whatever", 18), QByteArray("List: whatever.zip"));
   EXPECT_EQ(caller.receiveRest(), QByteArray());
+}
+
+TEST_F(PeerSharingTest, ASourceWithoutAListingIsNotAnsweredWithTheArchiveOfAnother) {
+  program_.addSource(QStringLiteral("Films"));
+  program_.addListedSource(QStringLiteral("Music"), "music");
+  // As it is left when the first of three rows was deleted.
+  program_.state.OnlineSources.set(3, QStringLiteral("Music"), QStringLiteral("/nowhere/"));
+  ASSERT_TRUE(start());
+  EXPECT_EQ(program_.folder.readFile(QStringLiteral("Films.zip")), QByteArray());
+  PeerCaller caller(sharing_.server().port());
+  EXPECT_EQ(caller.ask("GetList: Films", 15), QByteArray("List: Films.zip"));
+  EXPECT_EQ(caller.receiveRest(), QByteArray());
+}
+
+TEST_F(PeerSharingTest, TheEmptyArchiveGoesWithItsSourceAndAnEarlierOneStays) {
+  program_.addSource(QStringLiteral("Music"), smallArchive());
+  program_.addSource(QStringLiteral("Films"));
+  ASSERT_TRUE(start());
+  EXPECT_EQ(archives(), (QStringList{QStringLiteral("Films.zip"), QStringLiteral("Music.zip")}));
+  EXPECT_NE(program_.folder.readFile(QStringLiteral("Music.zip")), QByteArray());
+  program_.state.OnlineSourceCount = 1;
+  sharing_.sourcesRefreshed();
+  EXPECT_EQ(archives(), QStringList{QStringLiteral("Music.zip")});
 }
 
 TEST_F(PeerSharingTest, ARefreshWithoutSharingMakesNothing) {

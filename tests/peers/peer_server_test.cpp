@@ -65,6 +65,34 @@ TEST_F(PeerServerTest, AnUnknownListGetsWhatStandsInTheFileThatIsOpened) {
   EXPECT_EQ(caller.ask("GetList: Films", 19), QByteArray("List: Films.zipkept"));
 }
 
+TEST_F(PeerServerTest, WhatSharingMadeForARemovedSourceIsNotSentAnyMore) {
+  program_.addSource(QStringLiteral("Music"), "music");
+  program_.addSource(QStringLiteral("Films"), smallArchive());
+  program_.state.OnlineSourceCount = 1;
+  PeerCaller caller(server_.port());
+  EXPECT_EQ(caller.ask("GetList: whatever", 18), QByteArray("List: whatever.zip"));
+  EXPECT_EQ(caller.receiveRest(), QByteArray());
+  EXPECT_EQ(program_.folder.readFile(QStringLiteral("Films.zip")), QByteArray());
+}
+
+TEST_F(PeerServerTest, TheArchiveOfASourceThatIsStillListedStays) {
+  const QByteArray archive = smallArchive();
+  program_.addSource(QStringLiteral("Music"), archive);
+  // As it is left when the first of two rows was deleted.
+  program_.state.OnlineSources.set(2, QStringLiteral("Music"), QStringLiteral("/nowhere/"));
+  PeerCaller caller(server_.port());
+  caller.ask("GetList: whatever", 18);
+  EXPECT_EQ(program_.folder.readFile(QStringLiteral("Music.zip")), archive);
+}
+
+TEST_F(PeerServerTest, AnArchiveOfTheUsersIsNotRemoved) {
+  program_.addSource(QStringLiteral("Films"), "the user's own");
+  program_.state.OnlineSourceCount = 0;
+  PeerCaller caller(server_.port());
+  EXPECT_EQ(caller.ask("GetList: whatever", 32), QByteArray("List: whatever.zipthe user's own"));
+  EXPECT_EQ(program_.folder.readFile(QStringLiteral("Films.zip")), QByteArray("the user's own"));
+}
+
 TEST_F(PeerServerTest, OfTwoSourcesOfANameTheFirstWithAnArchiveIsSent) {
   program_.addSource(QStringLiteral("Music"));
   program_.addSource(QStringLiteral("Music"), "second");

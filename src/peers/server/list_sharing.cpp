@@ -33,6 +33,12 @@ QStringList ownNetworkAddresses() {
   return addresses + longAddresses;
 }
 
+/// The one of the empty name is the exchange's own.
+bool isEmptyArchive(const QString& path) {
+  const QFileInfo file(path);
+  return file.isFile() && !file.isSymLink() && file.size() == 0 && file.fileName() != u".zip";
+}
+
 }  // namespace
 
 ListSharing::ListSharing(const ProgramState& state, Work& work, MessageBoxes& messages, const QLocale& locale,
@@ -80,8 +86,12 @@ QStringList ListSharing::packEach(const Job& job) {
   QSet<QString> packed;
   for (int row = 1; row <= state_.OnlineSourceCount && !mustStop(); ++row) {
     const QString description = state_.OnlineSources.description(row);
-    if (packed.contains(description) || !QFileInfo(state_.onlineListingPath(description)).isFile()) continue;
+    if (packed.contains(description)) continue;
     packed.insert(description);
+    if (!QFileInfo(state_.onlineListingPath(description)).isFile()) {
+      makeEmpty(row);
+      continue;
+    }
     const QString problem = packRow(row, job);
     if (!problem.isEmpty()) problems += problem;
   }
@@ -97,7 +107,16 @@ void ListSharing::removeUnlisted() const {
   for (const QString& name : folder.entryList({QStringLiteral("*.zip")}, QDir::Files | QDir::Hidden)) {
     const QString path = state_.LocalFolder + name;
     const bool isMainArchive = name == state_.ArchiveFile;
-    if (!listed.contains(path) && !isMainArchive && isMadeByPacking(path)) QFile::remove(path);
+    if (listed.contains(path) || isMainArchive) continue;
+    if (isEmptyArchive(path) || isMadeByPacking(path)) QFile::remove(path);
+  }
+}
+
+void ListSharing::makeEmpty(int row) const {
+  try {
+    makeEmptyArchive(archivePathOf(state_, row));
+  } catch (const RuntimeFault&) {
+    // Nothing is missing that the user could have expected.
   }
 }
 

@@ -17,9 +17,10 @@
 namespace quorvin {
 
 /// What the menu item "Share My Lists" does. While sharing is on, the server listens, and after each refresh
-/// the archive of each online source that has a listing is made again. Archives that sharing made for sources
-/// that are no longer listed are then removed. Archives stay when sharing ends, until the next ones replace
-/// them. An archive that was not made here is the user's own and is never replaced.
+/// the archive of each online source that has a listing is made again. One without gets an empty archive, so
+/// that callers who ask for it do not get what the search for an unknown list ends at. Archives that sharing
+/// made for sources that are no longer listed are then removed. Archives stay when sharing ends, until the
+/// next ones replace them. An archive that was not made here is the user's own and is never replaced.
 class ListSharing : public QObject {
   Q_OBJECT
 
@@ -47,6 +48,7 @@ class ListSharing : public QObject {
   void packAll(bool showsAddress);
   QStringList packEach(const Job& job);
   void removeUnlisted() const;
+  void makeEmpty(int row) const;
   QString packRow(int row, const Job& job);
   bool mustStop() const;
   void show(const QString& first, const QStringList& problems);

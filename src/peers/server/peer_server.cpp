@@ -1,9 +1,11 @@
 #include "peers/server/peer_server.h"
 
+#include "archive/archive_packing.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "platform/text_encoding.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QNetworkProxy>
 
@@ -28,13 +30,19 @@ int rowOfArchive(QByteArrayView listName, const ProgramState& state) {
   return row;
 }
 
-/// A missing file is made: it is part of the exchange that the search for an unknown list ends with opening
-/// one.
-std::unique_ptr<SequentialFile> openOrMake(const QString& path) {
-  const QFileInfo file(path);
-  if (!file.exists())
-    static_cast<void>(FileAside(path, {.mayReplace = false}).commitUnlessTaken(file.fileName()));
-  return std::make_unique<SequentialFile>(path);
+bool isArchiveOfSource(const QString& path, const ProgramState& state) {
+  for (int row = 1; row <= state.OnlineSourceCount; ++row) {
+    if (archivePathOf(state, row) == path) return true;
+  }
+  return false;
+}
+
+/// The search for an unknown list ends at the row after the last, which may still hold an earlier source:
+/// what sharing made for that one is not shared any more.
+void removeUnlisted(const QString& path, const ProgramState& state) {
+  const bool isMainArchive = path == state.LocalFolder + state.ArchiveFile;
+  if (isArchiveOfSource(path, state) || isMainArchive || !isMadeByPacking(path)) return;
+  QFile::remove(path);
 }
 
 }  // namespace
@@ -51,6 +59,12 @@ PeerAnswer answerTo(QByteArrayView message, const ProgramState& state, const QLo
 
 QString archivePathOf(const ProgramState& state, int row) {
   return state.LocalFolder + state.OnlineSources.description(row) + QStringLiteral(".zip");
+}
+
+void makeEmptyArchive(const QString& path) {
+  const QFileInfo file(path);
+  if (file.exists()) return;
+  static_cast<void>(FileAside(path, {.mayReplace = false}).commitUnlessTaken(file.fileName()));
 }
 
 PeerConnection::PeerConnection(std::unique_ptr<QTcpSocket> socket, const ProgramState& state,
@@ -128,7 +142,11 @@ void PeerConnection::answerNext() {
 
 void PeerConnection::openArchive() {
   const int row = *std::exchange(archiveRow_, std::nullopt);
-  archive_ = openOrMake(archivePathOf(state_, row));
+  const QString path = archivePathOf(state_, row);
+  if (row > state_.OnlineSourceCount) removeUnlisted(path, state_);
+  // It is part of the exchange that the search for an unknown list ends with opening a file.
+  makeEmptyArchive(path);
+  archive_ = std::make_unique<SequentialFile>(path);
   archiveBytesLeft_ = archive_->sizeWhenOpened();
 }
 

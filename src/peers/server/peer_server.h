@@ -42,6 +42,9 @@ PeerAnswer answerTo(QByteArrayView message, const ProgramState& state, const QLo
 /// beyond the table, which is where the look for an unknown list stops when all 2000 rows are in use.
 QString archivePathOf(const ProgramState& state, int row);
 
+/// Makes an empty file at `path` where there is nothing. Throws RuntimeFault as FileAside does.
+void makeEmptyArchive(const QString& path);
+
 /// What callers may take up.
 struct PeerServerLimits {
   /// Of all callers, and of those that call from one address.
