@@ -6,10 +6,14 @@
 #include "history/listing_history.h"
 #include "index/dir_io.h"
 #include "index/walk_faults.h"
+#include "platform/text_encoding.h"
 
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QSet>
 
 #include <memory>
 #include <optional>
@@ -27,6 +31,36 @@ std::vector<std::int64_t> listingSizes(const ProgramState& state) {
   return sizes;
 }
 
+QString temporaryOf(const QString& listing) {
+  return listing.chopped(QStringLiteral("txt").size()) + QStringLiteral("tmp");
+}
+
+/// Whether the file starts as the listing of a source of this base name does.
+bool startsAsListingOf(const QString& baseName, const QString& path) {
+  constexpr qint64 kLongestStart = 4096;
+  const QByteArray volume("\r\nVolume:    ");
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  const QByteArray start = file.read(kLongestStart);
+  const qsizetype end = start.indexOf("\r\n", volume.size());
+  if (!start.startsWith(volume) || end < 0) return false;
+  return trimBlanks(decodeSystemText(start.mid(volume.size(), end - volume.size()))) == baseName;
+}
+
+/// What an interrupted refresh has left of sources that were removed since: no refresh would replace it.
+void removeUnfinishedOfRemoved(const ProgramState& state) {
+  QSet<QString> listed;
+  for (int row = 1; row <= state.OnlineSourceCount; ++row) {
+    listed.insert(temporaryOf(state.onlineListingPath(state.OnlineSources.description(row))));
+  }
+  const auto plainFiles = QDir::Files | QDir::Hidden | QDir::NoSymLinks;
+  for (const QString& name : QDir(state.LocalFolder).entryList({QStringLiteral("*.tmp")}, plainFiles)) {
+    const QString path = state.LocalFolder + name;
+    const QString baseName = name.chopped(QStringLiteral(".tmp").size());
+    if (!listed.contains(path) && !isHeld(path) && startsAsListingOf(baseName, path)) QFile::remove(path);
+  }
+}
+
 /// One refresh, from its first source to its last.
 class Refresh {
  public:
@@ -38,6 +72,7 @@ class Refresh {
         dirIO_(state, *folders_, progress_, messages, locale),
         dataFolder_(state.LocalFolder),
         history_(dataFolder_, [&job] { job.letEventsRun(); }) {
+    removeUnfinishedOfRemoved(state);
     progress_.follow(RefreshShare(listingSizes(state)));
   }
 
@@ -73,7 +108,7 @@ class Refresh {
   }
 
   Ending refreshSource(const Source& source) {
-    const QString temporary = source.listing.chopped(QStringLiteral("txt").size()) + QStringLiteral("tmp");
+    const QString temporary = temporaryOf(source.listing);
     for (const QString& file : {temporary, source.listing}) {
       if (!state_.isOwnFile(file)) continue;
       note(QStringLiteral(

@@ -36,8 +36,9 @@ struct RefreshOutcome {
 /// error log says so. A source whose listing would overwrite the main data file or a source list is passed
 /// over, and where two sources have one description the later one has the listing; both are logged too. What
 /// a listing held before it is replaced is kept in the listing history; the error log names each listing that
-/// is incomplete, or empty where it was not, and the earlier one that can be had back. A history that cannot
-/// be written is logged and stops nothing. At the end the title of `Progress` is as before, its status shows
+/// is incomplete, or empty where it was not, and the earlier one that can be had back. What an interrupted
+/// refresh has left of sources that are not in the table any more is removed. A history that cannot be
+/// written is logged and stops nothing. At the end the title of `Progress` is as before, its status shows
 /// `versionCaption`, and the mouse pointer is the default one. A fault ends the refresh at once; every
 /// listing on disk is then the old or the new one, whole. Questions about single names go to `messages`.
 ///

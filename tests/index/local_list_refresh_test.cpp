@@ -278,5 +278,28 @@ TEST_F(LocalListRefresh, SourcesTakenOutMeanwhileAreNotRefreshed) {
   EXPECT_EQ(data.names(), QStringList{u"A.txt"_qs});
 }
 
+TEST_F(LocalListRefresh, WhatWasLeftOfRemovedSourcesIsRemoved) {
+  addSource(u"Music"_qs, u"a.mp3"_qs);
+  addSource(u"Gone"_qs, u"b.mp3"_qs);
+  addSourceAt(u"Absent"_qs, folders.pathOf(u"absent/"_qs));
+  refresh();
+  ASSERT_TRUE(QFile::copy(data.pathOf(u"Gone.txt"_qs), data.pathOf(u"Gone.tmp"_qs)));
+  data.writeFile(u"Absent.tmp"_qs, "\r\nVolume:    Absent\r\n");
+  state.OnlineSources.set(2, u"Absent"_qs, folders.pathOf(u"absent/"_qs));
+  state.OnlineSourceCount = 2;
+  refresh();
+  // A source that is still in the table keeps its one until its next listing is made.
+  EXPECT_EQ(data.names(), QStringList({u"Absent.tmp"_qs, u"Gone.txt"_qs, u"Music.txt"_qs}));
+}
+
+TEST_F(LocalListRefresh, TemporaryFilesOfOthersStay) {
+  addSource(u"Music"_qs, u"a.mp3"_qs);
+  data.writeFile(u"notes.tmp"_qs, "my notes");
+  data.writeFile(u"Films.tmp"_qs, "\r\nVolume:    Music\r\nDirectory: \\\r\n\r\n");
+  data.writeFile(u"empty.tmp"_qs, "");
+  refresh();
+  EXPECT_EQ(data.names(), QStringList({u"Films.tmp"_qs, u"Music.txt"_qs, u"empty.tmp"_qs, u"notes.tmp"_qs}));
+}
+
 }  // namespace
 }  // namespace quorvin
