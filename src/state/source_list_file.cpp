@@ -13,6 +13,7 @@
 #include "state/text_line_reader.h"
 
 #include <QByteArray>
+#include <QFileInfo>
 #include <QScopeGuard>
 
 #include <optional>
@@ -257,16 +258,60 @@ void makeFolders(const QString& localFolder, const QString& name) {
   FolderWriter(localFolder).makeFolder(names);
 }
 
-void replace(const List& list) {
-  saveSourceList(list.path, list.table, list.count);
+/// False where there is something at the place already.
+bool makeFirst(const List& list) {
+  const QFileInfo place(list.path);
+  if (place.exists() || place.isSymLink() || !QFileInfo(place.path()).isDir()) return false;
+  FileAside file(list.path, {.durability = Durability::New, .mayReplace = false});
+  const QByteArray text = recordsText(list.table, list.count);
+  file.write({text.constData(), static_cast<std::size_t>(text.size())});
+  return file.commitUnlessTaken(place.fileName());
+}
+
+void noteSaved(const List& list) {
   list.read.path = list.path;
   list.read.isComplete = true;
   noteRecords(list.table, list.count, list.read);
   list.read.digest = digestOf(list.read.records);
 }
 
+void replace(const List& list) {
+  saveSourceList(list.path, list.table, list.count);
+  noteSaved(list);
+}
+
 // Long enough for any other program to finish its own write.
 constexpr int kLockWaitMilliseconds = 5000;
+
+/// False where another program has made a list at the same moment, which is to be looked at then.
+bool saveFirst(const ProgramState& state, const QString& name, const List& list) {
+  // A start-up that never came as far as the lists leaves no empty one behind.
+  if (list.count == 0 && !list.read.isComplete) return true;
+  makeFolders(state.LocalFolder, name);
+  if (makeFirst(list)) {
+    noteSaved(list);
+    return true;
+  }
+  if (ordinaryFileExists(list.path)) return false;
+  replace(list);
+  return true;
+}
+
+void saveAgain(const List& list, MessageBoxes& messages) {
+  const QString unknown = whyUnknown(list);
+  // Nothing is lost by a list that stays, so there is nothing to report.
+  if (!unknown.isEmpty() && hasNothingToSave(list)) return;
+  if (list.count == 0 && !list.read.isComplete) return;
+  const bool isShifted = !list.read.shiftedPath.isEmpty();
+  if (!unknown.isEmpty()) {
+    keepCopy(list, unknown, messages);
+  } else if (isShifted && isChanged(list.read, list.table, list.count)) {
+    keepCopy(list, whyShifted(list), messages);
+  } else if (isShifted) {
+    return messages.inform(whyShifted(list) + QStringLiteral("\r\nIt was left as it is."));
+  }
+  replace(list);
+}
 
 bool save(const ProgramState& state, const QString& name, const List& list, MessageBoxes& messages) {
   if (!isValidDataFolder(state.LocalFolder)) {
@@ -276,23 +321,11 @@ bool save(const ProgramState& state, const QString& name, const List& list, Mess
     return false;
   }
   // Two programs may be closed at the same moment, as at the end of a session.
-  const FileLock lock = FileLock::onFileItself(list.path, kLockWaitMilliseconds);
-  const QString unknown = whyUnknown(list);
-  // Nothing is lost by a list that stays, so there is nothing to report.
-  if (!unknown.isEmpty() && hasNothingToSave(list)) return true;
-  // Nor does a start-up that never came as far as the lists leave an empty one behind.
-  if (list.count == 0 && !list.read.isComplete) return true;
-  const bool isShifted = !list.read.shiftedPath.isEmpty() && ordinaryFileExists(list.path);
-  if (!unknown.isEmpty()) {
-    keepCopy(list, unknown, messages);
-  } else if (isShifted && isChanged(list.read, list.table, list.count)) {
-    keepCopy(list, whyShifted(list), messages);
-  } else if (isShifted) {
-    messages.inform(whyShifted(list) + QStringLiteral("\r\nIt was left as it is."));
-    return true;
+  while (!ordinaryFileExists(list.path)) {
+    if (saveFirst(state, name, list)) return true;
   }
-  makeFolders(state.LocalFolder, name);
-  replace(list);
+  const FileLock lock = FileLock::onFileItself(list.path, kLockWaitMilliseconds);
+  saveAgain(list, messages);
   return true;
 }
 
