@@ -17,19 +17,13 @@ constexpr qsizetype kKept = 1024;
 // An end record with the longest comment, and the locator before it.
 constexpr std::int64_t kTailSize = kZipLocatorSize + kZipEndRecordSize + 65535;
 
-QByteArray bytesAt(const RandomAccessFile& file, std::int64_t position, std::int64_t count) {
-  QByteArray bytes(static_cast<qsizetype>(count), Qt::Uninitialized);
-  file.read(position, std::as_writable_bytes(std::span(bytes.data(), static_cast<std::size_t>(count))));
-  return bytes;
-}
-
 // The large end record that the locator at `locator` belongs to: where the locator says, or right before it
 // when other bytes come before the archive.
 std::optional<EndRecord> largeEndRecord(const RandomAccessFile& file, quint64 told, std::int64_t locator) {
   const auto before = static_cast<quint64>(std::max<std::int64_t>(0, locator - kZipLargeEndRecordSize));
   for (const quint64 place : {told, before}) {
     if (place > before) continue;
-    const QByteArray bytes = bytesAt(file, static_cast<std::int64_t>(place), kZipLargeEndRecordSize);
+    const QByteArray bytes = file.read(static_cast<std::int64_t>(place), kZipLargeEndRecordSize);
     const ZipBytes record(bytes);
     if (!record.has(kZipLargeEndRecord)) continue;
     EndRecord end{record.number<quint64>(32), record.number<quint64>(40), record.number<quint64>(48),
@@ -60,7 +54,7 @@ bool hasDirectory(const RandomAccessFile& file, const EndRecord& end) {
   if (end.directorySize == 0) return end.entries == 0;
   if (end.directorySize > place || end.directorySize < kZipDirectoryEntrySize) return false;
   const auto start = static_cast<std::int64_t>(place - end.directorySize);
-  return ZipBytes(bytesAt(file, start, kZipDirectoryEntry.size())).has(kZipDirectoryEntry);
+  return ZipBytes(file.read(start, kZipDirectoryEntry.size())).has(kZipDirectoryEntry);
 }
 
 }  // namespace
@@ -135,7 +129,7 @@ bool ArchiveEnd::isEndOfLargeArchive(qsizetype at) const {
 
 std::optional<EndRecord> endRecordOf(const RandomAccessFile& file, std::int64_t length) {
   const std::int64_t start = std::max<std::int64_t>(0, length - kTailSize);
-  const QByteArray tail = bytesAt(file, start, length - start);
+  const QByteArray tail = file.read(start, length - start);
   std::optional<EndRecord> last;
   for (qsizetype end = tail.size(); end > 0;) {
     const qsizetype at = QByteArrayView(tail).first(end).lastIndexOf(kZipEndRecord);

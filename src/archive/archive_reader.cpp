@@ -54,12 +54,6 @@ struct Refusal {
                 QStringLiteral("The archive \"%1\" is damaged: its parts contradict each other.")};
 }
 
-QByteArray bytesAt(const RandomAccessFile& file, std::int64_t position, std::int64_t count) {
-  QByteArray bytes(static_cast<qsizetype>(count), Qt::Uninitialized);
-  file.read(position, std::as_writable_bytes(std::span(bytes.data(), static_cast<std::size_t>(count))));
-  return bytes;
-}
-
 std::uint32_t addToChecksum(std::uint32_t checksum, QByteArrayView bytes) {
   return static_cast<std::uint32_t>(
       crc32_z(checksum, reinterpret_cast<const Bytef*>(bytes.data()), static_cast<z_size_t>(bytes.size())));
@@ -149,8 +143,7 @@ class DirectoryReading {
     start_ = place - end.directorySize;
     if (end.directoryOffset > start_ || end.directorySize > kMostDirectoryBytes) contradicts();
     before_ = start_ - end.directoryOffset;
-    directory_ =
-        bytesAt(file, static_cast<std::int64_t>(start_), static_cast<std::int64_t>(end.directorySize));
+    directory_ = file.read(static_cast<std::int64_t>(start_), static_cast<std::int64_t>(end.directorySize));
   }
 
   std::vector<ArchiveEntry> entries() {
@@ -206,7 +199,7 @@ class DirectoryReading {
     const std::uint64_t room = end_.directoryOffset;
     if (it.header > room || room - it.header < static_cast<std::uint64_t>(size)) contradicts();
     const auto place = static_cast<std::int64_t>(before_ + it.header);
-    const QByteArray bytes = bytesAt(file_, place, size);
+    const QByteArray bytes = file_.read(place, size);
     const ZipBytes header(bytes);
     const auto flags = header.number<quint16>(6);
     const bool isSame = header.has(kZipFileHeader) && ((flags ^ it.flags) & kIsEncrypted) == 0 &&
@@ -226,7 +219,7 @@ class DirectoryReading {
     const auto packedSize = header.number<quint32>(18);
     const auto size = header.number<quint32>(22);
     const bool isLarge = packedSize == kZipSeeLarge || size == kZipSeeLarge;
-    const QByteArray extras = isLarge ? bytesAt(file_, extrasPlace, extrasSize) : QByteArray();
+    const QByteArray extras = isLarge ? file_.read(extrasPlace, extrasSize) : QByteArray();
     LargeNumbers large(extras);
     const bool isSame = large.next(size) == entry.size && large.next(packedSize) == entry.packedSize &&
                         header.number<quint32>(14) == entry.checksum;
@@ -274,7 +267,7 @@ std::optional<std::int64_t> lengthOfArchiveAtFront(const RandomAccessFile& file,
                                                    const ArchivePause& pause) {
   ArchiveEnd end;
   for (std::int64_t position = 0; position < length; position += kBlockSize) {
-    const QByteArray block = bytesAt(file, position, std::min(kBlockSize, length - position));
+    const QByteArray block = file.read(position, std::min(kBlockSize, length - position));
     if (position == 0 && ArchiveEnd::canStartWith(block) != true) return std::nullopt;
     const std::optional<qsizetype> last = end.feed(block);
     if (!last) {

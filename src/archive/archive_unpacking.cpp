@@ -10,9 +10,9 @@ namespace quorvin {
 namespace {
 
 /// Some tenths of a millisecond's work.
-constexpr std::size_t kBlockSize = std::size_t{1} << 16;
+constexpr std::size_t kUnpackedAtOnce = std::size_t{1} << 16;
 /// Entries without content take time too.
-constexpr int kEntriesPerPause = 16;
+constexpr int kFilesPerPause = 16;
 constexpr int kFull = 100;
 
 class Unpacking {
@@ -24,12 +24,12 @@ class Unpacking {
         target_(targetFolder),
         pause_(pause),
         beforeReplacing_(beforeReplacing),
-        buffer_(kBlockSize) {}
+        buffer_(kUnpackedAtOnce) {}
 
   UnpackingOutcome run() {
     isStopped_ = pause_(0);
     for (const PlannedEntry& planned : plan_.entries) {
-      if (++entries_ % kEntriesPerPause == 0) pause();
+      if (++entries_ % kFilesPerPause == 0) pause();
       if (isStopped_ || !unpack(planned)) return UnpackingOutcome::Stopped;
     }
     if (isStopped_) return UnpackingOutcome::Stopped;

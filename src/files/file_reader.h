@@ -52,6 +52,8 @@ class RandomAccessFile {
   /// Fills `buffer` with the bytes from `position` on. Throws RuntimeFault when reading fails, fault 62 when
   /// the file ends before the buffer is full.
   void read(std::int64_t position, std::span<std::byte> buffer) const;
+  /// The `count` bytes from `position` on. Throws as read() does.
+  QByteArray read(std::int64_t position, std::int64_t count) const;
 
   /// The file's length in bytes when it was opened.
   std::int64_t sizeWhenOpened() const { return size_; }

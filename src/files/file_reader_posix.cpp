@@ -106,6 +106,12 @@ void RandomAccessFile::read(std::int64_t position, std::span<std::byte> buffer) 
   }
 }
 
+QByteArray RandomAccessFile::read(std::int64_t position, std::int64_t count) const {
+  QByteArray bytes(static_cast<qsizetype>(count), Qt::Uninitialized);
+  read(position, std::as_writable_bytes(std::span(bytes.data(), static_cast<std::size_t>(count))));
+  return bytes;
+}
+
 MappedFile::MappedFile(const QString& path, std::int64_t offset, std::size_t size) : size_(size) {
   const auto [descriptor, fileSize] = openForReading(path);
   const bool longEnough = fileSize >= offset + static_cast<std::int64_t>(size);
