@@ -14,6 +14,12 @@ if(QUORVIN_PRECOMPILE)
     <QStringList> <QTimer>)
 endif()
 
+function(quorvin_compile_together name)
+  if(QUORVIN_UNITY)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+  endif()
+endfunction()
+
 # One library for each folder of src/. Includes are written from src/ on ("state/program_state.h"), so
 # that every include names the folder it reaches into; tests/lint holds them against the table of who may
 # include whom.
@@ -26,6 +32,9 @@ function(quorvin_library name)
   # The headers were read without optimisation; a library that has it cannot use them.
   if(QUORVIN_PRECOMPILE AND NOT ARG_OPTIMISED)
     target_precompile_headers(${name} REUSE_FROM quorvin_precompiled)
+  endif()
+  if(NOT ARG_OPTIMISED)
+    quorvin_compile_together(${name})
   endif()
   if(ARG_OPTIMISED)
     target_compile_options(${name} PRIVATE $<$<CONFIG:Debug>:-O2>)

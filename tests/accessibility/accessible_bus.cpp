@@ -13,7 +13,7 @@ constexpr char kRoot[] = "/org/a11y/atspi/accessible/root";
 /// Numbers of the protocol.
 constexpr uint kLabelledBy = 2;
 constexpr int kShowing = 25;
-constexpr int kPatienceMilliseconds = 120'000;
+constexpr int kLongestCallMilliseconds = 120'000;
 
 QString latin(const char* text) {
   return QString::fromLatin1(text);
@@ -97,7 +97,7 @@ QDBusMessage AccessibleBus::callTo(const BusNode& node, const char* interface, c
 }
 
 QVariant AccessibleBus::answer(const QDBusMessage& call) const {
-  const QDBusMessage reply = bus_.call(call, QDBus::Block, kPatienceMilliseconds);
+  const QDBusMessage reply = bus_.call(call, QDBus::Block, kLongestCallMilliseconds);
   return reply.arguments().isEmpty() || reply.type() != QDBusMessage::ReplyMessage
              ? QVariant()
              : reply.arguments().first();

@@ -12,6 +12,11 @@
 
 namespace quorvin::test {
 
+/// What the program's main window and its messages are called.
+inline const QString kTitle = QStringLiteral("Quorvin Utility");
+/// What ends the program.
+inline const QStringList kCtrlQ = {QStringLiteral("ctrl+q")};
+
 /// Looks at `condition` until it holds, so that a test waits for what happens and never for a time. Throws
 /// std::runtime_error with `what` was waited for and what there is `instead`, when it does not hold and
 /// `progress` (a number that changes as work gets done) has stayed the same for minutes.

@@ -13,7 +13,6 @@ namespace quorvin::test {
 namespace {
 
 constexpr int kLongestEndMilliseconds = 180'000;
-const QString kTitle = QStringLiteral("Quorvin Utility");
 const QString kOfflineTitle = QStringLiteral("Offline Search List files");
 
 }  // namespace

@@ -18,9 +18,9 @@ const QString kStaysOpen =
 const QString kInvalidFolder =
     QStringLiteral("The Local Data Folder path is invalid.\r\n\r\nUnable to save the online sources list.");
 
-const QByteArray kOldOnline = "\"Old\",\"/old/\"\r\n";
-const QByteArray kOldOffline = "\"Offline\",\"/lists/old.txt\"\r\n";
-const SourceRecords kNewOffline = {{QStringLiteral("Offline"), QStringLiteral("/lists/new.txt")}};
+const QByteArray kOnlineBefore = "\"Old\",\"/old/\"\r\n";
+const QByteArray kOfflineBefore = "\"Offline\",\"/lists/old.txt\"\r\n";
+const SourceRecords kOfflineAfter = {{QStringLiteral("Offline"), QStringLiteral("/lists/new.txt")}};
 
 SourceRecords manyRecords() {
   SourceRecords records;
@@ -37,14 +37,14 @@ class SavingFaults : public testing::Test {
   SavingFaults() {
     place_.writeFile(QStringLiteral("settings/settings.ini"),
                      "[Ketta%20Quorvin/Settings]\nLocalFolder=" + data().toUtf8() + "\nNickName=Old\n");
-    place_.writeFile(QStringLiteral("data/Locations.txt"), kOldOnline);
-    place_.writeFile(QStringLiteral("data/OfflineLocations.txt"), kOldOffline);
+    place_.writeFile(QStringLiteral("data/Locations.txt"), kOnlineBefore);
+    place_.writeFile(QStringLiteral("data/OfflineLocations.txt"), kOfflineBefore);
     program_ = std::make_unique<WholeProgram>(settingsPath(), place_.path());
     EXPECT_TRUE(program_->takeMessages().empty());
     EXPECT_EQ(program_->state.OnlineSourceCount, 1);
     program_->state.NickName = QStringLiteral("New");
     fillTable(online_, program_->state.OnlineSources, program_->state.OnlineSourceCount);
-    fillTable(kNewOffline, program_->state.OfflineSources, program_->state.OfflineSourceCount);
+    fillTable(kOfflineAfter, program_->state.OfflineSources, program_->state.OfflineSourceCount);
   }
   ~SavingFaults() override {
     // What is protected could not be removed.
@@ -97,12 +97,12 @@ TEST_F(SavingFaults, ADiskWithoutRoomForTheListKeepsTheOldOne) {
   {
     const FullDisk disk(20'000);
     expectStaysOpen(fault);
-    EXPECT_EQ(onlineFile(), kOldOnline);
-    EXPECT_EQ(offlineFile(), kOldOffline);
+    EXPECT_EQ(onlineFile(), kOnlineBefore);
+    EXPECT_EQ(offlineFile(), kOfflineBefore);
     expectLeaves({told(fault, QStringLiteral("saving the online sources"))});
   }
-  EXPECT_EQ(onlineFile(), kOldOnline);
-  EXPECT_EQ(offlineFile(), listFile(kNewOffline));
+  EXPECT_EQ(onlineFile(), kOnlineBefore);
+  EXPECT_EQ(offlineFile(), listFile(kOfflineAfter));
   EXPECT_EQ(savedNickName(), u"New");
   EXPECT_EQ(dataNames(), kLists);
 }
@@ -114,7 +114,7 @@ TEST_F(SavingFaults, RoomMadeInTimeSavesEverything) {
   }
   expectLeaves({});
   EXPECT_EQ(onlineFile(), listFile(online_));
-  EXPECT_EQ(offlineFile(), listFile(kNewOffline));
+  EXPECT_EQ(offlineFile(), listFile(kOfflineAfter));
 }
 
 TEST_F(SavingFaults, ADiskWithoutAnyRoomIsToldForEachThing) {
@@ -129,8 +129,8 @@ TEST_F(SavingFaults, ADiskWithoutAnyRoomIsToldForEachThing) {
                   told(fault + offlinePath(), QStringLiteral("saving the offline sources"))});
   }
   EXPECT_EQ(place_.readFile(QStringLiteral("settings/settings.ini")), oldSettings);
-  EXPECT_EQ(onlineFile(), kOldOnline);
-  EXPECT_EQ(offlineFile(), kOldOffline);
+  EXPECT_EQ(onlineFile(), kOnlineBefore);
+  EXPECT_EQ(offlineFile(), kOfflineBefore);
   EXPECT_EQ(dataNames(), kLists);
 }
 
@@ -140,8 +140,8 @@ TEST_F(SavingFaults, AProtectedDataFolderKeepsItsLists) {
   expectStaysOpen(fault + onlinePath());
   expectLeaves({told(fault + onlinePath(), QStringLiteral("saving the online sources")),
                 told(fault + offlinePath(), QStringLiteral("saving the offline sources"))});
-  EXPECT_EQ(onlineFile(), kOldOnline);
-  EXPECT_EQ(offlineFile(), kOldOffline);
+  EXPECT_EQ(onlineFile(), kOnlineBefore);
+  EXPECT_EQ(offlineFile(), kOfflineBefore);
   EXPECT_EQ(savedNickName(), u"New");
 }
 
@@ -149,21 +149,21 @@ TEST_F(SavingFaults, AProtectedListStaysAndTheOtherIsSaved) {
   protect(QStringLiteral("data/Locations.txt"), 0400);
   const QString fault = QStringLiteral("Run-time error '70': Permission denied: ") + onlinePath();
   expectStaysOpen(fault);
-  EXPECT_EQ(offlineFile(), kOldOffline);
+  EXPECT_EQ(offlineFile(), kOfflineBefore);
   expectLeaves({told(fault, QStringLiteral("saving the online sources"))});
-  EXPECT_EQ(onlineFile(), kOldOnline);
-  EXPECT_EQ(offlineFile(), listFile(kNewOffline));
+  EXPECT_EQ(onlineFile(), kOnlineBefore);
+  EXPECT_EQ(offlineFile(), listFile(kOfflineAfter));
 }
 
 TEST_F(SavingFaults, ProtectedSettingsDoNotKeepTheListsFromBeingSaved) {
   protect(QStringLiteral("settings"), 0500);
   const QString fault = QStringLiteral("Run-time error '70': Permission denied: ") + settingsPath();
   expectStaysOpen(fault);
-  EXPECT_EQ(onlineFile(), kOldOnline);
+  EXPECT_EQ(onlineFile(), kOnlineBefore);
   expectLeaves({told(fault, QStringLiteral("saving the settings")),
                 told(fault, QStringLiteral("saving the window's place"))});
   EXPECT_EQ(onlineFile(), listFile(online_));
-  EXPECT_EQ(offlineFile(), listFile(kNewOffline));
+  EXPECT_EQ(offlineFile(), listFile(kOfflineAfter));
   EXPECT_EQ(savedNickName(), u"Old");
 }
 

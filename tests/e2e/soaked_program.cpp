@@ -12,7 +12,6 @@ namespace quorvin::test {
 
 namespace {
 
-const QString kTitle = QStringLiteral("Quorvin Utility");
 const QString kEverything = QStringLiteral("everything");
 constexpr int kFolders = 5;
 constexpr int kFilesOfLargeFolder = 1500;

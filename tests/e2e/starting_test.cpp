@@ -15,9 +15,6 @@ namespace quorvin::test {
 
 namespace {
 
-const QString kTitle = QStringLiteral("Quorvin Utility");
-const QStringList kCtrlQ = {QStringLiteral("ctrl+q")};
-
 void expectCleanEnd(const ProgramEnd& end) {
   EXPECT_TRUE(end.isExit);
   EXPECT_EQ(end.code, 0);

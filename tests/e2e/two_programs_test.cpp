@@ -14,7 +14,6 @@ namespace quorvin::test {
 namespace {
 
 const qsizetype kListingBytes = sweep<qsizetype>(200'000'000, 20'000'000);
-const QString kTitle = QStringLiteral("Quorvin Utility");
 const QString kAskForPeer = QStringLiteral("Get Lists From Peer");
 const QString kReceived = QStringLiteral("data/Received/127.0.0.1/");
 

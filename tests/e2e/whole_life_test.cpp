@@ -18,7 +18,6 @@ const QString kEditOffline = QStringLiteral("Offline Search List files");
 const QString kOptions = QStringLiteral("Options");
 
 const QStringList kAltF4 = {QStringLiteral("alt+F4")};
-const QStringList kCtrlQ = {QStringLiteral("ctrl+q")};
 const QStringList kQuitInMenu = {QStringLiteral("alt+f"), QStringLiteral("q")};
 
 class WholeLife : public testing::Test {

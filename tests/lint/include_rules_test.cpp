@@ -24,7 +24,7 @@ const IncludeRules& smallTable() {
   return rules;
 }
 
-bool isWidgetsHeader(const std::string& header) {
+bool isWidget(const std::string& header) {
   return header == "QWidget";
 }
 
@@ -102,17 +102,15 @@ TEST(IncludeRules, ARoomOfALaterLineCannotBePermitted) {
 
 TEST(IncludeRules, WidgetsPassInAWindowAndInThePartsOfItAlone) {
   const std::string text = "#include <QWidget>\n";
-  EXPECT_THAT(smallTable().brokenWidgets({"src/view/main_window.cpp", text}, isWidgetsHeader), IsEmpty());
-  EXPECT_THAT(smallTable().brokenWidgets({"src/view/main_window_menus.cpp", text}, isWidgetsHeader),
-              IsEmpty());
+  EXPECT_THAT(smallTable().brokenWidgets({"src/view/main_window.cpp", text}, isWidget), IsEmpty());
+  EXPECT_THAT(smallTable().brokenWidgets({"src/view/main_window_menus.cpp", text}, isWidget), IsEmpty());
   EXPECT_THAT(
-      smallTable().brokenWidgets({"src/view/main_windows.cpp", text}, isWidgetsHeader),
+      smallTable().brokenWidgets({"src/view/main_windows.cpp", text}, isWidget),
       ElementsAre(HasSubstr("src/view/main_windows.cpp:1 includes <QWidget>, but QtWidgets belong to")));
 }
 
 TEST(IncludeRules, OtherQtHeadersPassAnywhere) {
-  EXPECT_THAT(smallTable().brokenWidgets({"src/core/a.cpp", "#include <QString>\n"}, isWidgetsHeader),
-              IsEmpty());
+  EXPECT_THAT(smallTable().brokenWidgets({"src/core/a.cpp", "#include <QString>\n"}, isWidget), IsEmpty());
 }
 
 TEST(IncludeRules, ALineThatIsNoRuleIsRefused) {

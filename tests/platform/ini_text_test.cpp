@@ -7,7 +7,7 @@ namespace quorvin {
 
 namespace {
 
-const QString kSection = QStringLiteral("Quorvin%20Utility/Settings");
+const QString kGroup = QStringLiteral("Quorvin%20Utility/Settings");
 const QString kTop = QStringLiteral("Top");
 
 }  // namespace
@@ -52,9 +52,9 @@ TEST(IniText, EveryValueComesBack) {
         QStringLiteral("a=b"), QStringLiteral("Zürich 🎵"), QStringLiteral("@Invalid()"),
         QStringLiteral("\ttabs\t"), QString(QChar(u'\0')) + u'x'}) {
     IniText ini;
-    ini.setValue(kSection, kTop, value);
+    ini.setValue(kGroup, kTop, value);
     const IniText again(ini.text());
-    EXPECT_EQ(again.value(kSection, kTop), value) << value.toStdString();
+    EXPECT_EQ(again.value(kGroup, kTop), value) << value.toStdString();
   }
 }
 

@@ -11,14 +11,14 @@ namespace quorvin::test {
 
 namespace {
 
-QImage plain(int width, int height, const QColor& colour) {
+QImage filled(int width, int height, const QColor& colour) {
   QImage image(width, height, QImage::Format_RGB32);
   image.fill(colour);
   return image;
 }
 
 LoadedPicture still(int width, int height, const QColor& colour = Qt::red) {
-  return {QSizeF(width, height), {plain(width, height, colour), 0}, {}};
+  return {QSizeF(width, height), {filled(width, height, colour), 0}, {}};
 }
 
 class ImgPreWindow : public testing::Test {
@@ -106,7 +106,7 @@ TEST_F(ImgPreWindow, APictureFarLongerThanWideStaysVisible) {
 }
 
 TEST_F(ImgPreWindow, ThePictureIsStretchedOverPic) {
-  QImage halves = plain(2, 1, Qt::red);
+  QImage halves = filled(2, 1, Qt::red);
   halves.setPixelColor(1, 0, Qt::blue);
   window_.setPicture({halves.size(), {halves, 0}, {}}, QStringLiteral("/m/a.bmp"));
   show(404, 404);

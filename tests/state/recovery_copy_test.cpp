@@ -16,7 +16,7 @@
 namespace quorvin {
 namespace {
 
-const QLocale kAmerican(QLocale::English, QLocale::UnitedStates);
+const QLocale kUsersLocale(QLocale::English, QLocale::UnitedStates);
 const QString kUsualSet = QStringLiteral("Ketta Quorvin");
 
 /// A run of the program, as far as a recovery copy knows it. One that is destroyed has crashed.
@@ -25,15 +25,15 @@ struct ProgramRun {
   ProgramRun(
       const TemporaryFolder& folder, std::deque<bool> answers, const QString& settingsSet,
       const std::function<void(ProgramRun&)>& whenAsked = [](ProgramRun&) {})
-      : recovery(state, kAmerican, folder.pathOf(QStringLiteral("settings/settings.ini"))) {
+      : recovery(state, kUsersLocale, folder.pathOf(QStringLiteral("settings/settings.ini"))) {
     messages.answers = std::move(answers);
     messages.whenAsked = [this, whenAsked] { whenAsked(*this); };
     state.resetFileNames();
     state.RegKey = settingsSet;
     state.LocalFolder = folder.pathOf(QStringLiteral("data/"));
-    readSettings(store, state, 38001, kAmerican);
+    readSettings(store, state, 38001, kUsersLocale);
     loadSourceLists(state);
-    noteSettingsAtStart(store, state, kAmerican, [] { return QString(); });
+    noteSettingsAtStart(store, state, kUsersLocale, [] { return QString(); });
     recovery.offer(messages);
   }
 
@@ -224,7 +224,7 @@ TEST_F(Recovery, BeforeTheOfferNothingIsTouched) {
   }
   ProgramState closedEarly;
   closedEarly.resetFileNames();
-  RecoveryCopy recovery(closedEarly, kAmerican, folder_.pathOf(QStringLiteral("settings/settings.ini")));
+  RecoveryCopy recovery(closedEarly, kUsersLocale, folder_.pathOf(QStringLiteral("settings/settings.ini")));
   recovery.keep();
   recovery.close(true);
   EXPECT_EQ(copies().size(), 1);

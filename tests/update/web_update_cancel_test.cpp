@@ -7,8 +7,6 @@ namespace {
 
 using testing::IsEmpty;
 
-const QString kDate = QStringLiteral("15 Nov 2004 10:20:30");
-
 class WebUpdateCancel : public WebUpdateTest {
  protected:
   WebUpdateCancel() {

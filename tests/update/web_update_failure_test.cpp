@@ -11,8 +11,6 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const QString kDate = QStringLiteral("15 Nov 2004 10:20:30");
-
 class WebUpdateFailure : public WebUpdateTest {
  protected:
   WebUpdateFailure() {

@@ -21,6 +21,9 @@
 
 namespace quorvin::test {
 
+/// What the server says about its archive's last change.
+inline const QString kDate = QStringLiteral("15 Nov 2004 10:20:30");
+
 /// What is shown and asked for, in order: "WebUpdate off", "GET http://...", "status ...", "bar 1024".
 using UpdateLog = QStringList;
 

@@ -14,7 +14,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 const QString kUpToDate = QStringLiteral("Your data file is up to date.");
-const QString kDate = QStringLiteral("15 Nov 2004 10:20:30");
 
 /// Bytes that no packing makes smaller.
 QByteArray noise(qsizetype size) {

@@ -18,7 +18,7 @@ namespace quorvin {
 
 namespace {
 
-const QLatin1String kLineEnd("\r\n");
+const QLatin1String kNewLine("\r\n");
 
 QString countOfLists(std::size_t count) {
   return count == 1 ? QStringLiteral("1 list") : QStringLiteral("%1 lists").arg(count);
@@ -30,7 +30,7 @@ QString folderOfFirst(const PeerOutcome& outcome) {
 
 void showThatNothingCame(const PeerOutcome& outcome, MessageBoxes& messages) {
   QString text = QStringLiteral("No lists came from %1.").arg(shownPeerText(outcome.peer));
-  if (!outcome.problems.isEmpty()) text += kLineEnd + kLineEnd + shownProblems(outcome.problems);
+  if (!outcome.problems.isEmpty()) text += kNewLine + kNewLine + shownProblems(outcome.problems);
   messages.inform(text);
 }
 
@@ -77,14 +77,14 @@ QString contentOf(const PeerOutcome& outcome, int room) {
     text += room == 1 ? QStringLiteral(" There is room for 1 more offline source.")
                       : QStringLiteral(" There is room for %1 more offline sources.").arg(room);
   }
-  return text + kLineEnd + kLineEnd;
+  return text + kNewLine + kNewLine;
 }
 
 QString question(const PeerOutcome& outcome, int room) {
   QString text = QStringLiteral("%1 came from %2 into the folder")
                      .arg(countOfLists(outcome.received.size()), shownPeerText(outcome.peer)) +
-                 kLineEnd + folderOfFirst(outcome) + kLineEnd + kLineEnd;
-  if (!outcome.problems.isEmpty()) text += shownProblems(outcome.problems) + kLineEnd + kLineEnd;
+                 kNewLine + folderOfFirst(outcome) + kNewLine + kNewLine;
+  if (!outcome.problems.isEmpty()) text += shownProblems(outcome.problems) + kNewLine + kNewLine;
   return text + contentOf(outcome, room) +
          QStringLiteral(
              "Add the received lists to the offline sources, so that the next search includes them?");

@@ -13,10 +13,10 @@
 namespace quorvin {
 namespace {
 
-constexpr std::size_t kBlock = ByteCheck::kBlockSize;
+constexpr std::size_t kPassedBlock = ByteCheck::kBlockSize;
 /// Where the stretch begins in its file.
 constexpr std::size_t kOffset = 1000;
-constexpr std::size_t kSize = 80 * kBlock + 77;
+constexpr std::size_t kSize = 80 * kPassedBlock + 77;
 constexpr std::size_t kLongest = PassingBytes::kLongestPiece;
 
 class PassingBytesTest : public ::testing::Test {
@@ -61,7 +61,7 @@ class PassingBytesTest : public ::testing::Test {
 
 TEST_F(PassingBytesTest, PiecesPassAfterFourThatWentOn) {
   PassingBytes passing = stretch();
-  constexpr std::size_t kBegin = kBlock + 5000;
+  constexpr std::size_t kBegin = kPassedBlock + 5000;
   for (std::size_t piece = 0; piece < 4; ++piece) {
     EXPECT_FALSE(passing.take(kBegin + piece * 100, 100)) << "piece " << piece;
   }
@@ -73,13 +73,13 @@ TEST_F(PassingBytesTest, PiecesPassAfterFourThatWentOn) {
 TEST_F(PassingBytesTest, SinglePiecesDoNotPass) {
   PassingBytes passing = stretch();
   for (std::size_t piece = 0; piece < 10; ++piece) {
-    EXPECT_FALSE(passing.take(piece * 2 * kBlock, 100)) << "piece " << piece;
+    EXPECT_FALSE(passing.take(piece * 2 * kPassedBlock, 100)) << "piece " << piece;
   }
 }
 
 TEST_F(PassingBytesTest, AllPiecesOfAllSizesAreRight) {
   for (const std::size_t piece :
-       {std::size_t{1000}, std::size_t{20000}, kBlock - 1, kBlock, kBlock + 1, kLongest}) {
+       {std::size_t{1000}, std::size_t{20000}, kPassedBlock - 1, kPassedBlock, kPassedBlock + 1, kLongest}) {
     PassingBytes passing = stretch();
     EXPECT_EQ(takeAll(passing, piece), kSize - 3 * piece) << "pieces of " << piece;
   }
@@ -116,35 +116,37 @@ TEST_F(PassingBytesTest, WhatAScanLooksAtBehindAPieceCanBeRead) {
 TEST_F(PassingBytesTest, TwoStretchesShareABuffer) {
   PassingBytes one = stretch();
   PassingBytes other = stretch();
-  for (std::size_t at = 0; at < 2 * kBlock; at += 1000) {
+  for (std::size_t at = 0; at < 2 * kPassedBlock; at += 1000) {
     const auto fromOne = one.take(at, 1000);
     ASSERT_EQ(fromOne.has_value(), at >= 3000);
     EXPECT_EQ(fromOne.value_or(""), std::string_view(bytes_).substr(at, fromOne ? 1000 : 0));
-    const auto fromOther = other.take(kBlock + at, 1000);
+    const auto fromOther = other.take(kPassedBlock + at, 1000);
     ASSERT_EQ(fromOther.has_value(), at >= 4000);
-    EXPECT_EQ(fromOther.value_or(""), std::string_view(bytes_).substr(kBlock + at, fromOther ? 1000 : 0));
+    EXPECT_EQ(fromOther.value_or(""),
+              std::string_view(bytes_).substr(kPassedBlock + at, fromOther ? 1000 : 0));
   }
 }
 
 TEST_F(PassingBytesTest, GoesOnAfterARest) {
   PassingBytes passing = stretch();
-  for (std::size_t at = 0; at < 3 * kBlock; at += kBlock) EXPECT_FALSE(passing.take(at, kBlock));
-  for (std::size_t at = 3 * kBlock; at < 8 * kBlock; at += kBlock) {
-    EXPECT_EQ(passing.take(at, kBlock).value_or(""), std::string_view(bytes_).substr(at, kBlock));
+  for (std::size_t at = 0; at < 3 * kPassedBlock; at += kPassedBlock)
+    EXPECT_FALSE(passing.take(at, kPassedBlock));
+  for (std::size_t at = 3 * kPassedBlock; at < 8 * kPassedBlock; at += kPassedBlock) {
+    EXPECT_EQ(passing.take(at, kPassedBlock).value_or(""), std::string_view(bytes_).substr(at, kPassedBlock));
     passing.rest();
   }
 }
 
 TEST_F(PassingBytesTest, DamagedBlockIsNoticed) {
   std::string damaged = bytes_;
-  damaged[9 * kBlock + 5] = static_cast<char>(damaged[9 * kBlock + 5] ^ 1);
+  damaged[9 * kPassedBlock + 5] = static_cast<char>(damaged[9 * kPassedBlock + 5] ^ 1);
   writeStretch(damaged);
   PassingBytes passing = stretch();
   EXPECT_THROW(takeAll(passing, 1000), DamagedSegment);
 }
 
 TEST_F(PassingBytesTest, CutFileIsNoticed) {
-  writeStretch(bytes_.substr(0, 9 * kBlock));
+  writeStretch(bytes_.substr(0, 9 * kPassedBlock));
   PassingBytes passing = stretch();
   EXPECT_THROW(takeAll(passing, 1000), DamagedSegment);
 }
