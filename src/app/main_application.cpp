@@ -7,6 +7,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QWidget>
@@ -44,16 +45,34 @@ void writeLine(const QString& text) {
   std::fprintf(stderr, "quorvin: %s\n", text.simplified().toLocal8Bit().constData());
 }
 
+/// A box that knows whether Esc has closed it.
+class Box : public QMessageBox {
+ public:
+  Box(Icon icon, const QString& text, StandardButtons buttons)
+      : QMessageBox(icon, applicationTitle(),
+                    QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), buttons,
+                    QApplication::activeWindow()) {
+    // Messages name files, and a file's name may look like markup.
+    setTextFormat(Qt::PlainText);
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    nameIcon(*this);
+  }
+
+  bool isClosedByEsc() const { return isClosedByEsc_; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Cancel)) isClosedByEsc_ = true;
+    QMessageBox::keyPressEvent(event);
+  }
+
+ private:
+  bool isClosedByEsc_ = false;
+};
+
 QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
                                  QMessageBox::StandardButtons buttons) {
-  QString lines = text;
-  lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-  QMessageBox box(icon, applicationTitle(), lines, buttons, QApplication::activeWindow());
-  // Messages name files, and a file's name may look like markup.
-  box.setTextFormat(Qt::PlainText);
-  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-  nameIcon(box);
-  return static_cast<QMessageBox::StandardButton>(box.exec());
+  return static_cast<QMessageBox::StandardButton>(Box(icon, text, buttons).exec());
 }
 
 }  // namespace
@@ -86,6 +105,16 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 void WidgetMessageBoxes::inform(const QString& text) {
   if (isSilent_) return writeLine(text);
   show(QMessageBox::Information, text, QMessageBox::Ok);
+}
+
+bool WidgetMessageBoxes::informOneOfMany(const QString& text) {
+  if (isSilent_) {
+    writeLine(text);
+    return true;
+  }
+  Box box(QMessageBox::Information, text, QMessageBox::Ok);
+  box.exec();
+  return !box.isClosedByEsc();
 }
 
 bool WidgetMessageBoxes::askYesNo(const QString& text) {

@@ -42,6 +42,8 @@ class WidgetMessageBoxes : public MessageBoxes {
   void fallSilent() { isSilent_ = true; }
 
   void inform(const QString& text) override;
+  /// Closed by Esc, the box says that the user wants no more of its kind.
+  bool informOneOfMany(const QString& text) override;
   bool askYesNo(const QString& text) override;
   FaultAnswer askAbortRetryIgnore(const QString& text) override;
 

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QString>
 #include <QTimer>
 #include <QWindowStateChangeEvent>
@@ -37,8 +38,6 @@ float toTwips(int pixels) {
   return static_cast<float>(pixels * kTwipsPerPixel);
 }
 
-constexpr std::int64_t kMillisecondsBetweenShowings = 16;
-
 /// The usable areas of the screens, that of the primary one first.
 QList<QRect> usableScreens() {
   QList<QRect> areas;
@@ -53,12 +52,6 @@ QSize largestScreen() {
   return largest.isEmpty() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : largest;
 }
 
-void showCount(QLabel& label, std::optional<std::int64_t>& count) {
-  if (!count) return;
-  label.setText(QString::number(*count));
-  count.reset();
-}
-
 }  // namespace
 
 SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell, const QLocale& locale,
@@ -69,13 +62,13 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       rows_(hits_, locale),
       controls_(makeControls(new QWidget(this))),
       menus_(makeMenus(menuBar())),
-      display_(controls_, rows_),
-      runMessages_(*this),
-      searchRun_({state, runMessages_, locale, &hits_, segments, &display_,
-                  [this] { return jobs_.work().isClosing(); }}),
+      status_(*this, locale),
+      display_(controls_, rows_, status_),
+      runMessages_(messages, display_, [this] { return jobs_.work().isClosing(); }),
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
       view_(controls_, menus_, locale),
-      jobs_(state, runMessages_, *this, controls_, menus_, locale),
+      jobs_(state, runMessages_, *this, controls_, menus_, locale, status_),
+      search_({state, runMessages_, hits_, segments, display_, status_, controls_, jobs_.work(), locale}),
       windows_(state, messages, menus_,
                {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_)}, *this,
                locale, picker),
@@ -85,6 +78,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   setCentralWidget(controls_.HitList->parentWidget());
   centralWidget()->installEventFilter(this);
   controls_.HitList->setModel(&rows_);
+  selectionSize_.emplace(*controls_.HitList->selectionModel(), [this](int row) { return rows_.size(row); });
   controls_.lblVer->setText(versionCaption());
   placeControls(controls_);
   setInitialColumnWidths(controls_, locale);
@@ -99,13 +93,17 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
 }
 
 void SearchForm::connectControls() {
-  connect(controls_.Find, &QPushButton::clicked, this, &SearchForm::Find_Click);
-  connect(controls_.SearchStr, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
-  connect(controls_.DesMatch, &QLineEdit::returnPressed, controls_.Find, &QPushButton::click);
+  connect(controls_.Find, &QPushButton::clicked, &search_, &SearchFormRun::Find_Click);
+  connect(controls_.SearchStr, &QLineEdit::returnPressed, &search_, &SearchFormRun::enter);
+  connect(controls_.DesMatch, &QLineEdit::returnPressed, &search_, &SearchFormRun::enter);
+  connect(&search_, &SearchFormRun::ended, this, &SearchForm::showEmptyText);
   connect(controls_.WebUpdate, &QPushButton::clicked, this, [this] { jobs_.WebUpdate_Click(); });
 
+  connect(&*selectionSize_, &SelectionSize::changed, this,
+          [this] { status_.setSelected(selectionSize_->rows(), selectionSize_->bytes()); });
+
   auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-  connect(stop, &QShortcut::activated, this, &SearchForm::stopRun);
+  connect(stop, &QShortcut::activated, &search_, &SearchFormRun::stop);
   auto* goToSearch = new QShortcut(QKeySequence(QKeySequence::Find), this);
   connect(goToSearch, &QShortcut::activated, this, [this] {
     controls_.SearchStr->setFocus(Qt::ShortcutFocusReason);
@@ -140,28 +138,18 @@ void SearchForm::connectMenus() {
 
 void SearchForm::sourcesChanged() {
   if (sourcesHandler_) sourcesHandler_();
+  showEmptyText();
+}
+
+void SearchForm::showEmptyText() {
   if (state_.hasSources()) {
-    controls_.HitList->setEmptyText({});
+    controls_.HitList->setEmptyText(search_.emptyText());
     return;
   }
   controls_.HitList->setEmptyText(
       QStringLiteral("There is nothing to search yet.\n\n"
                      "File, Add/Edit Local Folder To Search List: catalogue folders of your own.\n"
                      "File, Add/Edit Offline List files: search listings that you have."));
-}
-
-void SearchForm::Find_Click() {
-  const auto search = [this] {
-    const QString searchText = controls_.SearchStr->text();
-    reportFaults(runMessages_, QStringLiteral("searching for \"%1\"").arg(searchText),
-                 [&] { searchRun_.Find_Click(searchText, controls_.DesMatch->text()); });
-  };
-  // A press during a search is the request to stop it.
-  if (jobs_.work().run(JobKind::Search, [&search](Job&) { search(); }) == Answer::Stops) search();
-}
-
-void SearchForm::stopRun() {
-  if (searchRun_.isRunning()) controls_.Find->click();
 }
 
 bool SearchForm::eventFilter(QObject* watched, QEvent* event) {
@@ -240,21 +228,6 @@ void SearchForm::leave() {
   QCoreApplication::quit();
 }
 
-void SearchForm::RunMessages::inform(const QString& text) {
-  form_.display_.show();
-  if (!form_.jobs_.work().isClosing()) form_.messages_.inform(text);
-}
-
-bool SearchForm::RunMessages::askYesNo(const QString& text) {
-  form_.display_.show();
-  return !form_.jobs_.work().isClosing() && form_.messages_.askYesNo(text);
-}
-
-FaultAnswer SearchForm::RunMessages::askAbortRetryIgnore(const QString& text) {
-  form_.display_.show();
-  return form_.jobs_.work().isClosing() ? FaultAnswer::Abort : form_.messages_.askAbortRetryIgnore(text);
-}
-
 SearchFormFrame::SearchFormFrame(QMainWindow& window, const SearchFormControls& controls,
                                  SearchFormDisplay& display, SearchFormWork& jobs, SearchFormWindows& windows)
     : window_(window), controls_(controls), display_(display), jobs_(jobs), windows_(windows) {}
@@ -262,7 +235,8 @@ SearchFormFrame::SearchFormFrame(QMainWindow& window, const SearchFormControls& 
 void SearchFormFrame::takeInitialPlace() {
   limitSize();
   const QRect available = window_.screen()->availableGeometry();
-  const QSize wanted = initialInnerSize(controls_) + QSize(0, window_.menuBar()->sizeHint().height());
+  const QSize wanted = initialInnerSize(controls_) + QSize(0, window_.menuBar()->sizeHint().height()) +
+                       QSize(0, window_.statusBar()->sizeHint().height());
   window_.resize(wanted.boundedTo(available.size()));
   window_.move(available.center() - window_.rect().center());
 }
@@ -358,42 +332,6 @@ void SearchFormFrame::unloadOtherWindows() {
   windows_.unloadBrowser();
   windows_.unloadHistory();
   jobs_.unload();
-}
-
-SearchFormDisplay::SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows)
-    : controls_(controls), rows_(rows) {}
-
-void SearchFormDisplay::setDesMatch(const QString& text) {
-  controls_.DesMatch->setText(text);
-}
-
-void SearchFormDisplay::runStarted() {
-  controls_.Find->setText(QStringLiteral("Stop"));
-  show();
-}
-
-void SearchFormDisplay::runEnded() {
-  controls_.Find->setText(QStringLiteral("Find"));
-  show();
-}
-
-void SearchFormDisplay::clearHits() {
-  hasNewRows_ = false;
-  rows_.clear();
-}
-
-void SearchFormDisplay::processEvents() {
-  if (!sinceShown_.isValid() || sinceShown_.hasExpired(kMillisecondsBetweenShowings)) show();
-  QCoreApplication::processEvents();
-}
-
-void SearchFormDisplay::show() {
-  sinceShown_.start();
-  showCount(*controls_.lblFound, found_);
-  showCount(*controls_.lblSearched, searched_);
-  if (!hasNewRows_) return;
-  hasNewRows_ = false;
-  rows_.hitsArrived();
 }
 
 }  // namespace quorvin

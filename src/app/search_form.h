@@ -3,57 +3,28 @@
 
 #include "app/search_form_controls.h"
 #include "app/search_form_hits.h"
+#include "app/search_form_run.h"
+#include "app/search_form_status.h"
 #include "app/search_form_view.h"
 #include "app/search_form_windows.h"
 #include "app/search_form_work.h"
 #include "app/shutdown.h"
 #include "app/start_up.h"
 #include "hits/hit_list_model.h"
+#include "hits/selection_size.h"
 #include "search/hit_table.h"
-#include "search/search_run.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLocale>
 #include <QMainWindow>
 #include <QSize>
 #include <QString>
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <utility>
 
 namespace quorvin {
-
-/// Shows a run in the window's controls. Counts and rows are collected and put on the screen 60 times a
-/// second at most: a run reports its counts at every 2000th entry, which is up to a million times a second,
-/// and writing a label each time would cost more than the search itself.
-class SearchFormDisplay : public RunDisplay {
- public:
-  /// `controls` and `rows` must outlive the display.
-  SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows);
-
-  void setDesMatch(const QString& text) override;
-  void runStarted() override;
-  void runEnded() override;
-  void showFound(std::int64_t count) override { found_ = count; }
-  void showSearched(std::int64_t count) override { searched_ = count; }
-  void clearHits() override;
-  void hitsArrived() override { hasNewRows_ = true; }
-  void processEvents() override;
-
-  /// Shows what is new at once.
-  void show();
-
- private:
-  const SearchFormControls& controls_;
-  HitListModel& rows_;
-  std::optional<std::int64_t> found_;
-  std::optional<std::int64_t> searched_;
-  bool hasNewRows_ = false;
-  QElapsedTimer sinceShown_;
-};
 
 /// Keeps the main window on a screen, no larger than that and no smaller than its controls need, in sizes
 /// that include its frame.
@@ -156,6 +127,7 @@ class SearchForm : public QMainWindow {
   const SearchFormControls& controls() const { return controls_; }
   const ItemMenu& itemMenu() const { return hitActions_.itemMenu(); }
   const SearchFormMenus& menus() const { return menus_; }
+  SearchFormStatus& status() { return status_; }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -164,24 +136,11 @@ class SearchForm : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  /// The messages of a run: what the run has to show comes first, and a closed window shows none.
-  class RunMessages : public MessageBoxes {
-   public:
-    explicit RunMessages(SearchForm& form) : form_(form) {}
-    void inform(const QString& text) override;
-    bool askYesNo(const QString& text) override;
-    FaultAnswer askAbortRetryIgnore(const QString& text) override;
-
-   private:
-    SearchForm& form_;
-  };
-
   void connectControls();
   void connectMenus();
   bool Form_Unload();
   void leave();
-  void Find_Click();
-  void stopRun();
+  void showEmptyText();
   /// What the source editor asks for when it has stored the sources.
   void rescan() {
     sourcesChanged();
@@ -197,12 +156,15 @@ class SearchForm : public QMainWindow {
   HitListModel rows_;
   SearchFormControls controls_;
   SearchFormMenus menus_;
+  SearchFormStatus status_;
   SearchFormDisplay display_;
   RunMessages runMessages_;
-  SearchRun searchRun_;
   SearchFormHits hitActions_;
   SearchFormView view_;
   SearchFormWork jobs_;
+  SearchFormRun search_;
+  /// Made when the list has its model.
+  std::optional<SelectionSize> selectionSize_;
   SearchFormWindows windows_;
   SearchFormFrame frame_;
   std::function<void()> unloadHandler_;

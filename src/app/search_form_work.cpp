@@ -1,6 +1,7 @@
 #include "app/search_form_work.h"
 
 #include "app/fault_report.h"
+#include "app/status_texts.h"
 #include "app/version.h"
 #include "history/listing_history.h"
 #include "platform/ini_settings_store.h"
@@ -29,13 +30,14 @@ OwnPlaces ownPlaces() {
 
 SearchFormWork::SearchFormWork(ProgramState& state, MessageBoxes& messages, QWidget& owner,
                                const SearchFormControls& controls, const SearchFormMenus& menus,
-                               const QLocale& locale)
+                               const QLocale& locale, SearchFormStatus& status)
     : state_(state),
       messages_(messages),
       owner_(owner),
       controls_(controls),
       menus_(menus),
       locale_(locale),
+      status_(status),
       progress_(new Progress(state, &owner)),
       work_(state, *progress_),
       peers_(state, work_, messages, locale, noDialogIsOpen) {
@@ -103,6 +105,7 @@ void SearchFormWork::restore(Job& job, const QString& listing, int number) {
 }
 
 void SearchFormWork::showOutcome(const RefreshOutcome& outcome) {
+  if (outcome.fault.isEmpty()) status_.setNote(refreshText(outcome, locale_));
   if (!outcome.fault.isEmpty()) messages_.inform(outcome.fault);
   if (outcome.errorLog.isEmpty() || work_.isClosing()) return;
   ResWin window(&owner_);

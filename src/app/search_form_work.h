@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/search_form_controls.h"
+#include "app/search_form_status.h"
 #include "index/local_list_refresh.h"
 #include "peers/client/peer_progress.h"
 #include "peers/peer_exchange.h"
@@ -30,7 +31,8 @@ class SearchFormWork {
   /// Everything must outlive the object; `owner`, the main window, owns the windows that are shown.
   /// `messages` shows nothing any more when the program is closing.
   SearchFormWork(ProgramState& state, MessageBoxes& messages, QWidget& owner,
-                 const SearchFormControls& controls, const SearchFormMenus& menus, const QLocale& locale);
+                 const SearchFormControls& controls, const SearchFormMenus& menus, const QLocale& locale,
+                 SearchFormStatus& status);
 
   Work& work() { return work_; }
   Progress& progress() { return *progress_; }
@@ -78,6 +80,7 @@ class SearchFormWork {
   const SearchFormControls& controls_;
   const SearchFormMenus& menus_;
   QLocale locale_;
+  SearchFormStatus& status_;
   /// The owner's.
   Progress* progress_;
   Work work_;

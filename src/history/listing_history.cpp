@@ -243,6 +243,7 @@ KeptListing ListingHistory::keep(const QString& listing, const QString& replacem
   try {
     const bool isThere = QFileInfo(pathOf(listing)).isFile();
     const bool isReplaced = isThere && !isSameText(pathOf(listing), replacement, pause_);
+    kept.isSame = isThere && !isReplaced;
     if (!isReplaced && isComplete) return kept;
     makeFolder(listing);
     const std::optional<FolderLock> lock = FolderLock::take(historyFolder());

@@ -40,6 +40,8 @@ struct ListingVersion {
 struct KeptListing {
   /// Its entries; 0 where there is no listing, or where the new one has the same text: then nothing is lost.
   std::uint64_t entries = 0;
+  /// The listing is there and has the same text as the new one.
+  bool isSame = false;
   /// Why it could not be kept; empty when it was, or when there was nothing to keep.
   QString fault;
 };

@@ -31,6 +31,9 @@ class HitListModel : public QAbstractTableModel {
   /// Empties the table and the model.
   void clear();
 
+  /// The size of the file in `row`, in bytes, as its row shows it.
+  std::int64_t size(int row) const { return table_.size(row); }
+
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
   /// Besides the texts: the exact colour of the kind of source (ForegroundRole), the alignment, and the kind

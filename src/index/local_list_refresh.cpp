@@ -78,6 +78,7 @@ class Refresh {
 
   /// Throws RuntimeFault when a listing cannot be made; `outcome` then says what was done before.
   void run(RefreshOutcome& outcome) {
+    outcome_ = &outcome;
     for (int row = 1; row <= state_.OnlineSourceCount; ++row) {
       progress_.job().display().setTitle(
           QStringLiteral(" Updating online file lists... %1 of %2").arg(row).arg(state_.OnlineSourceCount));
@@ -86,7 +87,6 @@ class Refresh {
       outcome.isStopped = ending == Ending::Stopped;
       if (outcome.isStopped) break;
       ++(ending == Ending::Made ? outcome.made : outcome.kept);
-      outcome.leftOut = leftOut_;
     }
     progress_.show();
   }
@@ -137,6 +137,7 @@ class Refresh {
   }
 
   Ending keptAsItIs(const Source& source) {
+    ++outcome_->missing;
     note(QStringLiteral("%1 not found; the listing of %2 was kept").arg(source.path, source.description));
     return Ending::Kept;
   }
@@ -155,11 +156,15 @@ class Refresh {
     const QString sameListingFrom = madeFrom_.value(source.listing);
     KeptListing kept;
     // What another source has just left there is nothing earlier.
-    if (sameListingFrom.isEmpty()) kept = history_.keep(nameOf(source), listing.path(), walked.isWhole);
+    std::optional<ListingChanges> changes = ListingChanges{};
+    if (sameListingFrom.isEmpty()) {
+      kept = history_.keep(nameOf(source), listing.path(), walked.isWhole);
+      if (!kept.isSame) changes = changesOf(source, listing, walked);
+    }
     // The program may have been closed meanwhile.
     if (progress_.job().takeRescanAbort()) return Ending::Stopped;
     listing.commit();
-    leftOut_ += walked.leftOut;
+    addToOutcome(walked, changes);
     madeFrom_.insert(source.listing, source.path);
     if (!sameListingFrom.isEmpty()) {
       note(QStringLiteral(
@@ -169,6 +174,29 @@ class Refresh {
     }
     noteEarlier(source, walked, kept);
     return Ending::Made;
+  }
+
+  /// Nothing where they cannot be found out.
+  std::optional<ListingChanges> changesOf(const Source& source, const FileAside& listing,
+                                          const WalkResult& walked) {
+    if (!QFileInfo::exists(source.listing)) return ListingChanges{walked.files, 0};
+    try {
+      return changesBetween(source.listing, listing.path(), [this] {
+        progress_.job().letEventsRun();
+        return !progress_.job().isClosing();
+      });
+    } catch (const RuntimeFault&) {
+      // Only the numbers are missing then. What is wrong with the earlier listing is the history's to report.
+      return std::nullopt;
+    }
+  }
+
+  void addToOutcome(const WalkResult& walked, const std::optional<ListingChanges>& changes) {
+    outcome_->leftOut += walked.leftOut;
+    outcome_->entries += walked.files;
+    if (!changes) outcome_->areChangesKnown = false;
+    outcome_->changes.added += changes.value_or(ListingChanges{}).added;
+    outcome_->changes.gone += changes.value_or(ListingChanges{}).gone;
   }
 
   // What the new listing lacks that the earlier one has, and how to have that one back.
@@ -214,7 +242,8 @@ class Refresh {
   ListingHistory history_;
   /// The folders of the listings that this refresh has made.
   QHash<QString, QString> madeFrom_;
-  std::int64_t leftOut_ = 0;
+  /// The run's.
+  RefreshOutcome* outcome_ = nullptr;
 };
 
 }  // namespace

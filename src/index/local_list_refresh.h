@@ -1,6 +1,7 @@
 // The local list refresh: renews the listing of every online source.
 #pragma once
 
+#include "history/listing_changes.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 #include "work/work.h"
@@ -17,6 +18,14 @@ struct RefreshOutcome {
   /// How many listings were made anew, and how many sources kept what they had.
   int made = 0;
   int kept = 0;
+  /// Sources that kept their listing since their folder was not there.
+  int missing = 0;
+  /// The entries of the new listings, and those of them that the earlier ones did not have; and the entries
+  /// of the earlier ones that are gone. What makes an entry a new one is said in history/listing_changes.h.
+  std::int64_t entries = 0;
+  ListingChanges changes;
+  /// False where the changes of a listing could not be found out, so that they are more.
+  bool areChangesKnown = true;
   /// How many names have no place in the new listings, since their folders hold more than a listing takes.
   std::int64_t leftOut = 0;
   /// `RescanAbort` ended it before its last source.

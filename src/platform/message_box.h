@@ -17,6 +17,12 @@ class MessageBoxes {
   /// Shows `text` with an OK button only and returns when the user has confirmed it.
   virtual void inform(const QString& text) = 0;
 
+  /// The same for a text that may be one of very many: false when the user wants to see no more of its kind.
+  virtual bool informOneOfMany(const QString& text) {
+    inform(text);
+    return true;
+  }
+
   /// Shows `text` with a Yes and a No button; true for Yes.
   virtual bool askYesNo(const QString& text) = 0;
 

@@ -77,6 +77,16 @@ void HitTable::readRow(std::int64_t row, HitRow& result) const {
   result.date = values.date;
 }
 
+std::int64_t HitTable::size(std::int64_t row) const {
+  const std::int64_t valueRow = valueRowOf(row);
+  if (valueRow == kNoRow) return 0;
+  try {
+    return segmentRows(valueRow).segment->values(hit(valueRow).entry).size;
+  } catch (const DamagedSegment&) {
+    return 0;
+  }
+}
+
 SourceKind HitTable::kind(std::int64_t row) const {
   return segmentRows(row).kind;
 }

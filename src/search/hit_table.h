@@ -46,6 +46,8 @@ class HitTable : public HitSink {
   /// a name that says so.
   HitRow row(std::int64_t row) const;
   SourceKind kind(std::int64_t row) const;
+  /// HitRow::size of that row, without making its texts; 0 for a damaged one.
+  std::int64_t size(std::int64_t row) const;
 
   /// Removes all rows and releases the segments.
   void clear();

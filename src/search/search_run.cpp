@@ -51,9 +51,16 @@ void SearchRun::Find_Click(const QString& searchText, const QString& desMatch) {
   run(searchText, desMatch, [this] { searchSources(); });
 }
 
+void SearchRun::searchQuietly(const QString& searchText, const QString& desMatch) {
+  isQuiet_ = true;
+  const auto afterwards = qScopeGuard([this] { isQuiet_ = false; });
+  run(searchText, desMatch, [this] { searchSources(); });
+}
+
 void SearchRun::searchListings(const QString& searchText, const QString& desMatch,
                                const std::vector<QString>& paths) {
   run(searchText, desMatch, [&] {
+    report_.listings = static_cast<int>(paths.size());
     for (const QString& path : paths) {
       if (!isEnding()) searchIfFound(path, SourceKind::Offline);
     }
@@ -65,13 +72,13 @@ void SearchRun::run(const QString& searchText, const QString& desMatch,
                     const std::function<void()>& searchListings) {
   counts_.hits = 0;
   const std::int16_t desiredMatch = correctedMatch(desMatch);
-  if (parts_.display != nullptr) parts_.display->setDesMatch(QString::number(desiredMatch));
+  if (parts_.display != nullptr && !isQuiet_) parts_.display->setDesMatch(QString::number(desiredMatch));
   const QString lowered = simpleLowerCase(searchText);
   if (lowered.isEmpty()) return;
   query_ = SearchQuery(lowered, desiredMatch);
   {
     const auto ending = qScopeGuard([this] { end(); });
-    start();
+    start(searchText, desiredMatch);
     searchListings();
   }
   reportUnreadable();
@@ -79,8 +86,12 @@ void SearchRun::run(const QString& searchText, const QString& desMatch,
   reportNoText();
 }
 
-void SearchRun::start() {
+void SearchRun::start(const QString& searchText, std::int16_t desiredMatch) {
   counts_ = {};
+  report_ = {};
+  report_.searchText = searchText;
+  report_.desiredMatch = desiredMatch;
+  tellsMissing_ = !isQuiet_;
   shownHits_ = 0;
   enough_ = false;
   failedListings_ = 0;
@@ -90,7 +101,7 @@ void SearchRun::start() {
   isRunning_ = true;
   if (parts_.display == nullptr) return;
   parts_.display->showFound(0);
-  parts_.display->runStarted();
+  parts_.display->runStarted(query_);
   parts_.display->clearHits();
 }
 
@@ -99,7 +110,13 @@ void SearchRun::end() {
   if (parts_.display != nullptr) parts_.display->runEnded();
 }
 
+int SearchRun::sourceCount() const {
+  const ProgramState& state = parts_.state;
+  return state.OnlineSourceCount + (state.TextFile.isEmpty() ? 0 : 1) + state.OfflineSourceCount;
+}
+
 void SearchRun::searchSources() {
+  report_.listings = sourceCount();
   searchOnlineSources();
   if (!searchMainDataFile()) return;
   searchOfflineSources();
@@ -122,7 +139,8 @@ bool SearchRun::searchMainDataFile() {
   const QString& file = parts_.state.TextFile;
   if (file.isEmpty() || isEnding()) return true;
   const QString path = isTakenAsItStands(file, nativePathStyle()) ? file : parts_.state.LocalFolder + file;
-  return searchIfFound(path, SourceKind::MainDataFile);
+  report_.isMainDataFileMissing = !searchIfFound(path, SourceKind::MainDataFile);
+  return !report_.isMainDataFileMissing;
 }
 
 void SearchRun::searchOfflineSources() {
@@ -136,9 +154,15 @@ bool SearchRun::searchIfFound(const QString& path, SourceKind kind) {
     scan(path, kind);
     return true;
   }
-  ++failedListings_;
-  parts_.messages.inform(QStringLiteral("Listing file not found: ") + path);
+  reportMissing(path);
   return false;
+}
+
+void SearchRun::reportMissing(const QString& path) {
+  ++failedListings_;
+  ++report_.missing;
+  if (!tellsMissing_) return;
+  tellsMissing_ = parts_.messages.informOneOfMany(QStringLiteral("Listing file not found: ") + path);
 }
 
 void SearchRun::scan(const QString& path, SourceKind kind) {
@@ -147,16 +171,17 @@ void SearchRun::scan(const QString& path, SourceKind kind) {
   try {
     const ScanRequest request{query_, parts_.locale, parts_.hits, [this](std::int64_t) { return yield(); }};
     scanListingFile(path, parts_.segments, request, counts_, outcome);
+    if (!outcome.stopped) ++report_.searchedToTheEnd;
   } catch (const RuntimeFault& fault) {
     ++failedListings_;
-    parts_.messages.inform(
-        QStringLiteral("The listing %1 could not be searched to its end.\r\nRun-time error '%2': "
-                       "%3\r\nThe hits found in it so far are kept.")
-            .arg(path)
-            .arg(fault.number())
-            .arg(fault.description()));
+    inform(QStringLiteral("The listing %1 could not be searched to its end.\r\nRun-time error '%2': "
+                          "%3\r\nThe hits found in it so far are kept.")
+               .arg(path)
+               .arg(fault.number())
+               .arg(fault.description()));
   }
   enough_ = outcome.enough;
+  if (outcome.stopped && !outcome.enough) report_.isStopped = true;
   showHits();
   showSearched();
   if (outcome.unreadableHits > 0) unreadable_.push_back({path, outcome});
@@ -171,8 +196,9 @@ bool SearchRun::yield() {
   showHits();
   showSearched();
   if (parts_.display != nullptr) parts_.display->processEvents();
-  if (parts_.endRequested()) return true;
-  if (!parts_.state.AbortRequested) return false;
+  // A stop request that comes with the closing of the program is for others too.
+  const bool isStopped = parts_.state.AbortRequested && !parts_.state.QuitPending;
+  if (!isStopped) return parts_.endRequested();
   showSearched();
   parts_.state.AbortRequested = false;
   return true;
@@ -187,6 +213,10 @@ void SearchRun::showHits() {
 
 void SearchRun::showSearched() {
   if (parts_.display != nullptr) parts_.display->showSearched(counts_.searched);
+}
+
+void SearchRun::inform(const QString& text) {
+  if (!isQuiet_) parts_.messages.inform(text);
 }
 
 void SearchRun::reportUnreadable() {
@@ -205,20 +235,19 @@ void SearchRun::reportUnreadable() {
   if (unreadable_.size() > named) {
     message += QStringLiteral("\r\nand in %1 more listings").arg(unreadable_.size() - named);
   }
-  parts_.messages.inform(message);
+  inform(message);
 }
 
 void SearchRun::reportChanged() {
   if (changed_.isEmpty() || isEnding()) return;
-  parts_.messages.inform(
-      QStringLiteral("These listings were written to while they were searched. Hits in them may come from "
-                     "the old or the new content; press Find again for the new one.\r\n") +
-      namesOf(changed_));
+  inform(QStringLiteral("These listings were written to while they were searched. Hits in them may come from "
+                        "the old or the new content; press Find again for the new one.\r\n") +
+         namesOf(changed_));
 }
 
 void SearchRun::reportNoText() {
   if (noText_.isEmpty() || isEnding()) return;
-  parts_.messages.inform(
+  inform(
       QStringLiteral("These listings are not plain text, so little or nothing is found in them. If one was "
                      "saved as UTF-16 (\"Unicode\") without a byte order mark, save it as UTF-8.\r\n") +
       namesOf(noText_));

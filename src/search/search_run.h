@@ -23,8 +23,9 @@ class RunDisplay {
 
   /// Writes the corrected desired match back to `DesMatch`.
   virtual void setDesMatch(const QString& text) = 0;
-  /// The run has started: `Find` is "Stop" from now on.
-  virtual void runStarted() = 0;
+  /// The run has started: `Find` is "Stop" from now on. `query` is what it searches for, as long as the run's
+  /// object lives or until the next run starts.
+  virtual void runStarted(const SearchQuery& query) = 0;
   /// The run has ended, however it did: `Find` is "Find" again.
   virtual void runEnded() = 0;
   /// `lblFound` and `lblSearched`.
@@ -50,9 +51,26 @@ struct RunParts {
   SegmentStore* segments = nullptr;
   /// Null where nobody watches.
   RunDisplay* display = nullptr;
-  /// Whether the program is closing: the run then ends at its next yield, without further sources or
-  /// messages.
+  /// Whether the run is of no use any more, since the program is closing or another search is wanted: it then
+  /// ends at its next yield, without further sources or messages.
   std::function<bool()> endRequested = [] { return false; };
+};
+
+/// How a run went over its listings.
+struct RunReport {
+  /// What was asked for, as it was typed.
+  QString searchText;
+  /// The match that entries must exceed, after its correction.
+  std::int16_t desiredMatch = 0;
+  /// The listings that it was to search, and those of them that it has searched to their end.
+  int listings = 0;
+  int searchedToTheEnd = 0;
+  /// Those that are not there.
+  int missing = 0;
+  /// One of them is the main data file, so that the offline lists were not searched.
+  bool isMainDataFileMissing = false;
+  /// A stop request has cut a listing short: one of this run, or one that was left over from before.
+  bool isStopped = false;
 };
 
 /// Runs a search over all sources. User-interface thread only.
@@ -64,8 +82,13 @@ class SearchRun {
   /// desired match, lower-cases the search text (an empty one ends the run before anything changes), clears
   /// the hits and scans the online listings, the main data file and the offline listings, in this order. A
   /// listing that is missing or cannot be read is reported in a message; only a missing main data file ends
-  /// the run. Throws fault 9 for more than 101 words, before anything is cleared.
+  /// the run. When the user wants no more messages about missing listings, further ones are only counted.
+  /// Throws fault 9 for more than 101 words, before anything is cleared.
   void Find_Click(const QString& searchText, const QString& desMatch);
+
+  /// The same without any message, and without writing the desired match back: what a search does while its
+  /// words are still being typed.
+  void searchQuietly(const QString& searchText, const QString& desMatch);
 
   /// Scans the listings at `paths`, in order, instead of the sources of the state; the console's way of
   /// searching listings that are named. Missing ones are reported and skipped.
@@ -75,6 +98,10 @@ class SearchRun {
   /// about the whole run come after it.
   bool isRunning() const { return isRunning_; }
 
+  /// What the present run, or the last one, searches for, and how it went.
+  const SearchQuery& query() const { return query_; }
+  const RunReport& report() const { return report_; }
+
   std::int64_t hitCount() const { return counts_.hits; }
   std::int64_t searchedCount() const { return counts_.searched; }
   /// How many listings were missing, were no text or could not be searched to their end.
@@ -82,18 +109,21 @@ class SearchRun {
 
  private:
   void run(const QString& searchText, const QString& desMatch, const std::function<void()>& searchListings);
-  void start();
+  void start(const QString& searchText, std::int16_t desiredMatch);
   void end();
   void searchSources();
   void searchOnlineSources();
   bool searchMainDataFile();
   void searchOfflineSources();
+  int sourceCount() const;
   bool searchIfFound(const QString& path, SourceKind kind);
+  void reportMissing(const QString& path);
   void scan(const QString& path, SourceKind kind);
   bool yield();
   bool isEnding() const { return enough_ || parts_.endRequested(); }
   void showHits();
   void showSearched();
+  void inform(const QString& text);
   void reportUnreadable();
   void reportChanged();
   void reportNoText();
@@ -106,7 +136,10 @@ class SearchRun {
   RunParts parts_;
   SearchQuery query_;
   RunCounts counts_;
+  RunReport report_;
   bool isRunning_ = false;
+  bool isQuiet_ = false;
+  bool tellsMissing_ = true;
   /// The hit count that the display knows.
   std::int64_t shownHits_ = 0;
   /// The sink wants no more hits.

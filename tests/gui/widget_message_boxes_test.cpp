@@ -50,6 +50,26 @@ TEST(WidgetMessageBoxes, WithoutAnybodyToAnswerTheyAreLinesOnStandardError) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "quorvin: one two\nquorvin: three\n");
 }
 
+/// What informOneOfMany() gives when `key` is pressed in the box.
+bool wantsMoreAfter(Qt::Key key) {
+  SeenBox seen;
+  QTimer::singleShot(0, [key, &seen] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    seen.buttons = box->standardButtons();
+    QTest::keyClick(box->button(QMessageBox::Ok), key);
+  });
+  const bool wantsMore = WidgetMessageBoxes().informOneOfMany(QStringLiteral("one of many"));
+  EXPECT_EQ(seen.buttons, QMessageBox::Ok);
+  return wantsMore;
+}
+
+TEST(WidgetMessageBoxes, OneOfManyIsClosedAloneByItsButtonAndWithAllFurtherOnesByEsc) {
+  EXPECT_TRUE(wantsMoreAfter(Qt::Key_Return));
+  EXPECT_TRUE(wantsMoreAfter(Qt::Key_Space));
+  EXPECT_FALSE(wantsMoreAfter(Qt::Key_Escape));
+}
+
 TEST(WidgetMessageBoxes, LinesAreBroken) {
   SeenBox seen;
   answerWith(QMessageBox::Ok, seen);

@@ -30,6 +30,12 @@ class ManyRowsModel : public QAbstractTableModel {
     endInsertRows();
   }
 
+  void exchange(int rows) {
+    beginResetModel();
+    rows_ = rows;
+    endResetModel();
+  }
+
   mutable int dataCalls = 0;
   mutable std::set<int> rowsAskedFor;
 

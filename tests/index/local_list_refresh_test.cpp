@@ -32,6 +32,34 @@ TEST_F(LocalListRefresh, ReplacesTheOldListing) {
   EXPECT_FALSE(data.readFile(u"Music.txt"_qs).contains("xxx"));
 }
 
+TEST_F(LocalListRefresh, SaysWhatIsNewAndWhatIsGone) {
+  addSource(u"Music"_qs, u"song.mp3"_qs);
+  addSource(u"Films"_qs, u"film.avi"_qs);
+  refresh();
+  EXPECT_EQ(refreshed.made, 2);
+  EXPECT_EQ(refreshed.entries, 2);
+  EXPECT_EQ(refreshed.changes, (ListingChanges{2, 0}));
+  const QString music = state.OnlineSources.path(1);
+  QFile::rename(music + u"/song.mp3"_qs, music + u"/tune.mp3"_qs);
+  QFile::copy(music + u"/tune.mp3"_qs, music + u"/more.mp3"_qs);
+  refresh();
+  EXPECT_EQ(refreshed.entries, 3);
+  EXPECT_EQ(refreshed.changes, (ListingChanges{2, 1}));
+  EXPECT_EQ(refreshed.missing, 0);
+  refresh();
+  EXPECT_EQ(refreshed.changes, ListingChanges{});
+  EXPECT_TRUE(refreshed.areChangesKnown);
+}
+
+TEST_F(LocalListRefresh, CountsFoldersThatAreNotThere) {
+  addSource(u"Music"_qs, u"song.mp3"_qs);
+  addSourceAt(u"Gone"_qs, u"/nowhere/at/all"_qs);
+  refresh();
+  EXPECT_EQ(refreshed.made, 1);
+  EXPECT_EQ(refreshed.missing, 1);
+  EXPECT_EQ(refreshed.entries, 1);
+}
+
 TEST_F(LocalListRefresh, ShowsTitlesSourcesAndTheVersion) {
   addSource(u"Music"_qs, u"song.mp3"_qs);
   addSource(u"Films"_qs, u"film.avi"_qs);

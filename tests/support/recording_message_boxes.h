@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace quorvin {
@@ -14,6 +15,12 @@ namespace quorvin {
 class RecordingMessageBoxes : public MessageBoxes {
  public:
   void inform(const QString& text) override { informed.push_back(text); }
+
+  /// Records the text, and wants no more of its kind once `mostOfAKind` were shown.
+  bool informOneOfMany(const QString& text) override {
+    inform(text);
+    return ++shownOfAKind < mostOfAKind;
+  }
 
   /// Records the question and gives the next of `answers`; No when there is none left.
   bool askYesNo(const QString& text) override {
@@ -38,6 +45,8 @@ class RecordingMessageBoxes : public MessageBoxes {
   std::vector<QString> informed;
   std::vector<QString> asked;
   std::vector<QString> askedOfFaults;
+  int mostOfAKind = std::numeric_limits<int>::max();
+  int shownOfAKind = 0;
   /// Called while a question with Yes and No is shown; may be empty.
   std::function<void()> whenAsked;
   /// What the coming questions are answered with: true for Yes.

@@ -17,7 +17,7 @@ class RecordingRunDisplay : public RunDisplay {
   explicit RecordingRunDisplay(HitTable& hits) : hits_(hits) {}
 
   void setDesMatch(const QString& text) override { desMatch = text; }
-  void runStarted() override { running.push_back(true); }
+  void runStarted(const SearchQuery&) override { running.push_back(true); }
   void runEnded() override { running.push_back(false); }
   void showFound(std::int64_t count) override { found.push_back(count); }
   void showSearched(std::int64_t count) override { searched.push_back(count); }

@@ -1,0 +1,121 @@
+// The searches of the main window: when they start, what is seen of them, and how one gives way to the next.
+#pragma once
+
+#include "app/search_form_controls.h"
+#include "app/search_form_status.h"
+#include "hits/hit_list_model.h"
+#include "platform/message_box.h"
+#include "search/hit_table.h"
+#include "search/search_run.h"
+#include "state/program_state.h"
+#include "work/work.h"
+
+#include <QElapsedTimer>
+#include <QLocale>
+#include <QObject>
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace quorvin {
+
+/// Shows a run in the window's controls. Counts and rows are collected and put on the screen 60 times a
+/// second at most: a run reports its counts at every 2000th entry, which is up to a million times a second,
+/// and writing a label each time would cost more than the search itself. The first rows are shown at once.
+class SearchFormDisplay : public RunDisplay {
+ public:
+  /// All must outlive the display.
+  SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows, SearchFormStatus& status);
+
+  void setDesMatch(const QString& text) override;
+  void runStarted(const SearchQuery& query) override;
+  void runEnded() override;
+  void showFound(std::int64_t count) override { found_ = count; }
+  void showSearched(std::int64_t count) override { searched_ = count; }
+  void clearHits() override;
+  void hitsArrived() override { hasNewRows_ = true; }
+  void processEvents() override;
+
+  /// Shows what is new at once.
+  void show();
+
+ private:
+  bool isDue() const;
+
+  const SearchFormControls& controls_;
+  HitListModel& rows_;
+  SearchFormStatus& status_;
+  std::optional<std::int64_t> found_;
+  std::optional<std::int64_t> searched_;
+  bool hasNewRows_ = false;
+  QElapsedTimer sinceShown_;
+};
+
+/// The messages of long work: what a run has to show comes first, and a closing window shows none.
+class RunMessages : public MessageBoxes {
+ public:
+  /// `messages` and `display` must outlive the object.
+  RunMessages(MessageBoxes& messages, SearchFormDisplay& display, std::function<bool()> isClosing)
+      : messages_(messages), display_(display), isClosing_(std::move(isClosing)) {}
+  void inform(const QString& text) override;
+  bool informOneOfMany(const QString& text) override;
+  bool askYesNo(const QString& text) override;
+  FaultAnswer askAbortRetryIgnore(const QString& text) override;
+
+ private:
+  MessageBoxes& messages_;
+  SearchFormDisplay& display_;
+  std::function<bool()> isClosing_;
+};
+
+/// What searches work with; all of it must outlive SearchFormRun.
+struct SearchFormRunParts {
+  ProgramState& state;
+  RunMessages& messages;
+  HitTable& hits;
+  /// May be null.
+  SegmentStore* segments;
+  SearchFormDisplay& display;
+  SearchFormStatus& status;
+  const SearchFormControls& controls;
+  Work& work;
+  QLocale locale;
+};
+
+/// Starts searches, one at a time, as jobs of the kind Search.
+class SearchFormRun : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit SearchFormRun(const SearchFormRunParts& parts);
+
+  /// `Find` was pressed: starts a search, or asks the one that runs to stop.
+  void Find_Click();
+  /// Enter in one of the search fields: presses `Find`, unless a search for something else is running. That
+  /// one ends then, and the new one follows.
+  void enter();
+  /// Asks a running search to stop; does nothing while there is none.
+  void stop();
+
+  /// Why the list is empty after the last run; empty while one runs, before the first, and where there are
+  /// hits.
+  QString emptyText() const;
+
+ Q_SIGNALS:
+  /// No search runs any more.
+  void ended();
+
+ private:
+  bool isForSomethingElse() const;
+  void runAll();
+  void runOnce();
+
+  SearchFormRunParts parts_;
+  /// Another run is to follow the present one, which is of no use any more.
+  bool isSuperseded_ = false;
+  SearchRun run_;
+};
+
+}  // namespace quorvin

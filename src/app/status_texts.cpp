@@ -1,0 +1,113 @@
+#include "app/status_texts.h"
+
+#include <algorithm>
+
+namespace quorvin {
+
+namespace {
+
+QString number(std::int64_t value, const QLocale& locale) {
+  return locale.toString(static_cast<qlonglong>(value));
+}
+
+/// "1 hit", "3,481 hits".
+QString counted(std::int64_t count, const QString& noun, const QLocale& locale) {
+  return number(count, locale) + u' ' + noun + (count == 1 ? QString() : QStringLiteral("s"));
+}
+
+QString listings(std::int64_t count, const QLocale& locale) {
+  return counted(count, QStringLiteral("listing"), locale);
+}
+
+QString stoppedText(const RunReport& report, const QLocale& locale) {
+  return QStringLiteral("stopped after %1 of %2")
+      .arg(locale.toString(report.searchedToTheEnd), listings(report.listings, locale));
+}
+
+QString missingText(const RunReport& report, const QLocale& locale) {
+  return listings(report.missing, locale) + QStringLiteral(" missing");
+}
+
+QString nothingFoundText(const RunReport& report, const QLocale& locale) {
+  if (report.missing > 0 && report.missing == report.listings) {
+    return QStringLiteral("Nothing was searched: %1.").arg(missingText(report, locale));
+  }
+  if (report.isStopped) return QStringLiteral("No file found: %1.").arg(stoppedText(report, locale));
+  const QString missing = report.missing > 0 ? QStringLiteral("; ") + missingText(report, locale) : QString();
+  return QStringLiteral("No file found in %1%2.")
+      .arg(listings(report.listings - report.missing, locale), missing);
+}
+
+/// What a lower match would find; empty where one word decides anyway.
+QString fewerWordsText(const SearchQuery& query, const RunReport& report) {
+  const int fewest = query.fewestForHit();
+  if (fewest < 2 || query.emptyWords() > 0) return {};
+  const int enough = fewest - 1;
+  const int lower = std::max(1, query.match(enough) - 1);
+  const QString needed = fewest == query.wordCount()
+                             ? QStringLiteral("all %1 of them").arg(fewest)
+                             : QStringLiteral("%1 of %2").arg(fewest).arg(query.wordCount());
+  return QStringLiteral("More than %1% of the words means %2; with %3, %4 is enough.")
+      .arg(report.desiredMatch)
+      .arg(needed)
+      .arg(lower)
+      .arg(enough);
+}
+
+}  // namespace
+
+QString hitCountText(std::int64_t hits, const QLocale& locale) {
+  return counted(hits, QStringLiteral("hit"), locale);
+}
+
+QString selectionText(std::int64_t rows, std::optional<std::int64_t> bytes, const QLocale& locale) {
+  if (rows == 0) return {};
+  const QString selected = QStringLiteral("%1 selected").arg(number(rows, locale));
+  if (!bytes) return selected;
+  return selected + QStringLiteral(", ") +
+         locale.formattedDataSize(*bytes, 2, QLocale::DataSizeTraditionalFormat);
+}
+
+QStringList runTexts(const RunReport& report, const QLocale& locale) {
+  QStringList texts;
+  if (report.isStopped) texts += stoppedText(report, locale);
+  if (report.missing > 0) texts += missingText(report, locale);
+  if (report.isMainDataFileMissing) {
+    texts += QStringLiteral("without the main data file offline lists are not searched");
+  }
+  return texts;
+}
+
+QString refreshText(const RefreshOutcome& outcome, const QLocale& locale) {
+  QStringList parts{listings(outcome.made, locale)};
+  parts += outcome.entries == 1 ? QStringLiteral("1 entry")
+                                : QStringLiteral("%1 entries").arg(number(outcome.entries, locale));
+  if (outcome.areChangesKnown) {
+    parts += QStringLiteral("%1 new").arg(number(outcome.changes.added, locale));
+    parts += QStringLiteral("%1 gone").arg(number(outcome.changes.gone, locale));
+  }
+  if (outcome.missing > 0) {
+    parts += counted(outcome.missing, QStringLiteral("drive"), locale) + QStringLiteral(" missing");
+  }
+  if (outcome.isStopped) parts += QStringLiteral("stopped");
+  return parts.join(QStringLiteral(", "));
+}
+
+QString emptyResultText(const SearchQuery& query, const RunReport& report, const QLocale& locale) {
+  if (query.fewestForHit() > query.wordCount()) {
+    return QStringLiteral("No file holds more than 100% of the words; 99 asks for all of them.");
+  }
+  QStringList lines{nothingFoundText(report, locale)};
+  if (report.isMainDataFileMissing) {
+    lines += QStringLiteral("Without the main data file the offline lists are not searched.");
+  }
+  if (report.searchText.contains(u'/')) {
+    lines += QStringLiteral("Folders are written with \\: try %1")
+                 .arg(QString(report.searchText).replace(u'/', u'\\').trimmed());
+  }
+  const QString fewerWords = fewerWordsText(query, report);
+  if (!fewerWords.isEmpty()) lines += fewerWords;
+  return lines.join(u'\n');
+}
+
+}  // namespace quorvin

@@ -1,0 +1,32 @@
+// What the main window says about the hits, the last search and the last rescan.
+#pragma once
+
+#include "index/local_list_refresh.h"
+#include "search/search_run.h"
+
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <optional>
+
+namespace quorvin {
+
+/// "3,481 hits".
+QString hitCountText(std::int64_t hits, const QLocale& locale);
+
+/// "12 selected, 4.56 MB"; the number alone while the bytes are still being added up. Empty for none.
+QString selectionText(std::int64_t rows, std::optional<std::int64_t> bytes, const QLocale& locale);
+
+/// What is unusual about a run, for the status line: that it was stopped, what it did not search. Empty after
+/// a usual run.
+QStringList runTexts(const RunReport& report, const QLocale& locale);
+
+/// "3 listings, 81,204 entries, 412 new, 18 gone, 1 drive missing".
+QString refreshText(const RefreshOutcome& outcome, const QLocale& locale);
+
+/// Why the hit list is empty after a run for `query`, and what to type instead: one sentence a line.
+QString emptyResultText(const SearchQuery& query, const RunReport& report, const QLocale& locale);
+
+}  // namespace quorvin
