@@ -30,7 +30,7 @@ TEST(HitCountText, IsGroupedAsTheLocaleDoes) {
 TEST(SelectionText, SaysHowManyAndHowMuch) {
   EXPECT_EQ(selectionText(0, 0, kEnglish), QString());
   EXPECT_EQ(selectionText(1234, std::nullopt, kEnglish), u"1,234 selected"_qs);
-  EXPECT_EQ(selectionText(2, 1536, kEnglish), u"2 selected, 1.50 KB"_qs);
+  EXPECT_EQ(selectionText(2, 1536, kEnglish), u"2 selected, 1.50 kB"_qs);
   EXPECT_EQ(selectionText(12, 5'000'000'000, kEnglish), u"12 selected, 4.66 GB"_qs);
 }
 

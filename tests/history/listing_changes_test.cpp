@@ -50,9 +50,12 @@ TEST_F(Changes, EachOfSeveralEqualNamesCounts) {
 }
 
 TEST_F(Changes, LongNamesAndOtherAlphabetsAreTakenByTheirColumns) {
-  const QByteArray name = QByteArray("\xC3\xA4").repeated(60);
-  EXPECT_EQ(between(blockHead("D", "\\") + entryLine(name), blockHead("D", "\\") + entryLine(name, "9")),
-            (ListingChanges{0, 0}));
+  // 65 characters in 130 bytes: the size begins behind them.
+  const QByteArray name = QByteArray("\xC3\xA4").repeated(65);
+  const auto line = [&](const QByteArray& size) {
+    return blockHead("DISK", "\\") + name + size.rightJustified(16) + " bytes 15 Jan 2004\r\n";
+  };
+  EXPECT_EQ(between(line("1,024"), line("2,048")), (ListingChanges{0, 0}));
 }
 
 TEST_F(Changes, ManyEntriesAcrossPiecesAreAllSeen) {
