@@ -88,7 +88,9 @@ TEST_F(AccessibleWindows, SearchForm) {
                      "PopupMenu HlpMnu: Help (hidden)\n"
                      "MenuItem HlpGen: Program Usage (hidden)\n"
                      "MenuItem RelInfo: Release Information (hidden)\n"
-                     "MenuItem AboutMenu: About (hidden)"));
+                     "MenuItem AboutMenu: About (hidden)\n"
+                     "StatusBar StatusLine: Status\n"
+                     "StaticText StatusText: 2 hits"));
 }
 
 TEST_F(AccessibleWindows, TheCountsAreReadAfterTheirCaptions) {
