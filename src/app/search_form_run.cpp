@@ -32,7 +32,8 @@ void SearchFormDisplay::setDesMatch(const QString& text) {
   controls_.DesMatch->setText(text);
 }
 
-void SearchFormDisplay::runStarted(const SearchQuery&) {
+void SearchFormDisplay::runStarted(const SearchQuery& query) {
+  query_ = &query;
   controls_.Find->setText(QStringLiteral("Stop"));
   controls_.HitList->setEmptyText({});
   status_.runStarted();
@@ -46,7 +47,7 @@ void SearchFormDisplay::runEnded() {
 
 void SearchFormDisplay::clearHits() {
   hasNewRows_ = false;
-  rows_.clear();
+  rows_.clear(query_ ? *query_ : SearchQuery());
 }
 
 bool SearchFormDisplay::isDue() const {

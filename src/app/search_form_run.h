@@ -47,6 +47,7 @@ class SearchFormDisplay : public RunDisplay {
   const SearchFormControls& controls_;
   HitListModel& rows_;
   SearchFormStatus& status_;
+  const SearchQuery* query_ = nullptr;
   std::optional<std::int64_t> found_;
   std::optional<std::int64_t> searched_;
   bool hasNewRows_ = false;

@@ -1,12 +1,17 @@
 #include "hits/hit_list_delegate.h"
 
+#include "hits/hit_list_model.h"
+#include "hits/marked_text.h"
+
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QStyleOptionHeader>
 #include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quorvin {
 
@@ -39,6 +44,15 @@ bool isDark(const QColor& background) {
   return luminance(background) < 0.179;
 }
 
+QPalette::ColorGroup colourGroup(const QStyleOptionViewItem& option) {
+  if (!option.state.testFlag(QStyle::State_Enabled)) return QPalette::Disabled;
+  return option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+}
+
+TextRanges wordsIn(const QModelIndex& index) {
+  return index.data(kWordPlacesRole).value<TextRanges>();
+}
+
 /// Narrow enough to follow the column division in a small window, wide enough to be taken hold of.
 constexpr int kLeastColumnWidth = 4;
 
@@ -59,11 +73,7 @@ QColor readableOn(const QColor& colour, const QColor& background) {
 }
 
 QBrush HitListDelegate::selectionBrush(const QStyleOptionViewItem& option) {
-  if (!option.state.testFlag(QStyle::State_Enabled)) {
-    return option.palette.brush(QPalette::Disabled, QPalette::Highlight);
-  }
-  const bool isActive = option.state.testFlag(QStyle::State_Active);
-  return option.palette.brush(isActive ? QPalette::Active : QPalette::Inactive, QPalette::Highlight);
+  return option.palette.brush(colourGroup(option), QPalette::Highlight);
 }
 
 void HitListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -71,11 +81,41 @@ void HitListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
   const int padding = cellPadding(option);
   QStyleOptionViewItem padded = option;
   padded.rect.adjust(padding, 0, -padding, 0);
-  QStyledItemDelegate::paint(painter, padded, index);
+  const TextRanges bold = wordsIn(index);
+  if (bold.empty()) return QStyledItemDelegate::paint(painter, padded, index);
+  paintMarked(*painter, padded, index, bold);
+}
+
+/// As the style draws a cell, but for the text, which it can only draw in one font.
+void HitListDelegate::paintMarked(QPainter& painter, const QStyleOptionViewItem& option,
+                                  const QModelIndex& index, const TextRanges& bold) const {
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  const QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
+  const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 1;
+  const QRect place =
+      style->subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget).adjusted(margin, 0, -margin, 0);
+  const MarkedText whole{std::exchange(cell.text, {}), bold};
+  style->drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
+
+  QTextOption lines(QStyle::visualAlignment(cell.direction, cell.displayAlignment));
+  lines.setTextDirection(cell.direction);
+  const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+  painter.save();
+  painter.setClipRect(option.rect, Qt::IntersectClip);
+  painter.setPen(
+      cell.palette.color(colourGroup(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
+  drawLine(painter, cutToWidth(whole, cell.font, place.width()), cell.font, place, lines);
+  painter.restore();
 }
 
 QSize HitListDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * cellPadding(option), 0);
+  const QSize plain = QStyledItemDelegate::sizeHint(option, index) + QSize(2 * cellPadding(option), 0);
+  const TextRanges bold = wordsIn(index);
+  if (bold.empty()) return plain;
+  const QString text = index.data().toString();
+  const qreal wider = widthOf({text, bold}, option.font) - widthOf({text, {}}, option.font);
+  return plain + QSize(std::max(0, static_cast<int>(std::ceil(wider))), 0);
 }
 
 bool HitListDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,

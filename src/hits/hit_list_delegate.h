@@ -1,6 +1,8 @@
 // How the cells and column titles of the hit list are drawn.
 #pragma once
 
+#include "search/word_places.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QHeaderView>
@@ -12,7 +14,8 @@ namespace quorvin {
 /// well there.
 QColor readableOn(const QColor& colour, const QColor& background);
 
-/// Draws cells in the colour of their kind of source, and shows in a tooltip what does not fit into a cell.
+/// Draws cells in the colour of their kind of source, with the words that were found bold, and shows in a
+/// tooltip what does not fit into a cell.
 class HitListDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -31,6 +34,10 @@ class HitListDelegate : public QStyledItemDelegate {
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+ private:
+  void paintMarked(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                   const TextRanges& bold) const;
 };
 
 /// Keeps titles a little away from the edges of their columns, so that one that is at the right side of

@@ -47,9 +47,10 @@ void HitListModel::hitsArrived() {
   endInsertRows();
 }
 
-void HitListModel::clear() {
+void HitListModel::clear(const SearchQuery& query) {
   beginResetModel();
   table_.clear();
+  words_ = WordPlaces(query);
   announcedRows_ = 0;
   readRowNumber_ = -1;
   endResetModel();
@@ -72,12 +73,33 @@ QVariant HitListModel::data(const QModelIndex& index, int role) const {
       return QColor(QRgb{rowColour(table_.kind(index.row()))});
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(columnAlignment(index.column()));
+    case kWordPlacesRole:
+      return wordPlaces(index);
     case Qt::ToolTipRole:
+      return explanation(index.row(), QStringLiteral("\n"));
     case Qt::AccessibleDescriptionRole:
-      return sourceKindText(table_.kind(index.row()));
+      return explanation(index.row(), QStringLiteral(". "));
     default:
       return {};
   }
+}
+
+QVariant HitListModel::wordPlaces(const QModelIndex& index) const {
+  switch (static_cast<HitColumn>(index.column())) {
+    case HitColumn::Folder:
+      return QVariant::fromValue(words_.in(hitRow(index.row()).folder));
+    case HitColumn::Name:
+      return QVariant::fromValue(words_.in(hitRow(index.row()).name));
+    default:
+      return {};
+  }
+}
+
+QString HitListModel::explanation(int row, const QString& separator) const {
+  const HitRow& hit = hitRow(row);
+  const QString kind = sourceKindText(hit.kind);
+  const QString words = words_.explanation(hit.folder, hit.name);
+  return words.isEmpty() ? kind : kind + separator + words;
 }
 
 QVariant HitListModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "search/hit_table.h"
+#include "search/word_places.h"
 
 #include <QAbstractTableModel>
 #include <QItemSelectionModel>
@@ -12,6 +13,9 @@
 #include <vector>
 
 namespace quorvin {
+
+/// For folders and names: the TextRanges at which words of the search are in the text.
+inline constexpr int kWordPlacesRole = Qt::UserRole;
 
 /// What a row says about its kind of source in words, for those who do not see or know the colours.
 QString sourceKindText(SourceKind kind);
@@ -28,24 +32,28 @@ class HitListModel : public QAbstractTableModel {
 
   /// Announces the rows that the table has got since the last call; does nothing when there are none.
   void hitsArrived();
-  /// Empties the table and the model.
-  void clear();
+  /// Empties the table and the model; what comes now was found by `query`.
+  void clear(const SearchQuery& query = {});
 
   /// The size of the file in `row`, in bytes, as its row shows it.
   std::int64_t size(int row) const { return table_.size(row); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
-  /// Besides the texts: the exact colour of the kind of source (ForegroundRole), the alignment, and the kind
-  /// in words (ToolTipRole and AccessibleDescriptionRole).
+  /// Besides the texts: the exact colour of the kind of source (ForegroundRole), the alignment, where words
+  /// of the search are (kWordPlacesRole), and in words the kind of source and which of the words the row
+  /// holds (ToolTipRole and AccessibleDescriptionRole).
   QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
  private:
   const HitRow& hitRow(int row) const;
+  QVariant wordPlaces(const QModelIndex& index) const;
+  QString explanation(int row, const QString& separator) const;
 
   HitTable& table_;
   QLocale locale_;
+  WordPlaces words_;
   int announcedRows_ = 0;
   /// The row read last: the six columns of a row are asked for one after another.
   mutable HitRow readRow_;

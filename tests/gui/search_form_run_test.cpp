@@ -20,6 +20,20 @@ TEST_F(WindowRun, FindShowsAHitInSixColumns) {
   EXPECT_EQ(controls().Find->text(), QStringLiteral("Find"));
 }
 
+TEST_F(WindowRun, AHitSaysWhichWordsItHoldsAlsoWhenOthersAreTypedLater) {
+  addOnlineSource(QStringLiteral("disk"),
+                  blockHead("DISK", "\\Music\\Rock\\") + entryLine("Northern Live.mp3"));
+  find(QStringLiteral("NORTHERN rock zebra"));
+  type(controls().SearchStr, QStringLiteral("music"));
+  ASSERT_EQ(rows(), 1);
+  const QModelIndex name = controls().HitList->model()->index(0, static_cast<int>(HitColumn::Name));
+  EXPECT_EQ(name.data(kWordPlacesRole).value<TextRanges>(), (TextRanges{{0, 8}}));
+  EXPECT_EQ(name.data(Qt::AccessibleDescriptionRole).toString(),
+            QStringLiteral("From the listing of an online source. 2 of 3 words; missing: zebra"));
+  pressFind();
+  EXPECT_EQ(name.sibling(0, 2).data(kWordPlacesRole).value<TextRanges>(), (TextRanges{{1, 5}}));
+}
+
 TEST_F(WindowRun, RowsStandInTheOrderAndColourOfTheirSources) {
   addOfflineSource(QStringLiteral("cd.lst"), listingOf("CD", 1, "tune"));
   setMainDataFile(listingOf("MAIN", 1, "tune"));

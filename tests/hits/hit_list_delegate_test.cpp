@@ -100,6 +100,86 @@ TEST_P(PaintedRow, IsDrawnAsSelectedTextWhenSelected) {
   EXPECT_EQ(picture.pixelColor(picture.width() - 1, picture.height() / 2), QColor(0, 90, 160));
 }
 
+class FoundWords : public testing::Test {
+ protected:
+  /// A picture of the only row, found by the words "live" and "song"; with `words` the model knows them.
+  QImage paint(bool knowsWords, bool isSelected = false, const QColor& base = kLight) {
+    const QString words = QStringLiteral("live song");
+    model_.clear(knowsWords ? SearchQuery(words, 40) : SearchQuery());
+    scanInto(table_, SourceKind::Online, blockHead("D", "\\Live\\") + "A song of life.mp3\r\n", words);
+    model_.hitsArrived();
+    QPalette palette;
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, base);
+    palette.setColor(QPalette::Highlight, QColor(0, 90, 160));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    view_.setPalette(palette);
+    view_.setModel(&model_);
+    view_.resize(700, 100);
+    view_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&view_));
+    if (isSelected)
+      view_.selectionModel()->select(model_.index(0, 0),
+                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    return view_.viewport()->grab(view_.rowRect(0)).toImage();
+  }
+  /// How far the pixels of a column of the list are from its background, together.
+  qint64 ink(const QImage& picture, HitColumn column) {
+    const int section = static_cast<int>(column);
+    const int left = view_.header()->sectionViewportPosition(section);
+    const QColor background = picture.pixelColor(picture.width() - 1, picture.height() / 2);
+    qint64 sum = 0;
+    for (int x = left; x < left + view_.header()->sectionSize(section); ++x) {
+      for (int y = 0; y < picture.height(); ++y) {
+        const QColor pixel = picture.pixelColor(x, y);
+        sum += std::abs(pixel.red() - background.red()) + std::abs(pixel.green() - background.green()) +
+               std::abs(pixel.blue() - background.blue());
+      }
+    }
+    return sum;
+  }
+
+  HitTable table_;
+  HitListModel model_{table_, QLocale::c()};
+  HitListView view_;
+};
+
+TEST_F(FoundWords, AreBoldInFolderAndName) {
+  const QImage plain = paint(false);
+  const QImage marked = paint(true);
+  EXPECT_GT(ink(marked, HitColumn::Folder), ink(plain, HitColumn::Folder));
+  EXPECT_GT(ink(marked, HitColumn::Name), ink(plain, HitColumn::Name));
+  for (const HitColumn column : {HitColumn::Match, HitColumn::Volume, HitColumn::Size, HitColumn::Date}) {
+    EXPECT_EQ(ink(marked, column), ink(plain, column)) << static_cast<int>(column);
+  }
+}
+
+TEST_F(FoundWords, AreInTheColoursOfTheirRow) {
+  EXPECT_TRUE(holds(paint(true), QColor(0, 0, 255)));
+  EXPECT_TRUE(holds(paint(true, false, kDark), readableOn(QColor(0, 0, 255), kDark)));
+  const QImage selected = paint(true, true);
+  EXPECT_TRUE(holds(selected, Qt::white));
+  EXPECT_FALSE(holds(selected, QColor(0, 0, 255)));
+}
+
+TEST_F(FoundWords, HaveRoomInAColumnThatIsFitted) {
+  paint(true);
+  const auto nameHint = [this] { return view_.sizeHintForColumn(static_cast<int>(HitColumn::Name)); };
+  const int marked = nameHint();
+  paint(false);
+  EXPECT_GT(marked, nameHint());
+}
+
+TEST_F(FoundWords, AreCountedInTheTooltip) {
+  paint(true);
+  QStyleOptionViewItem option;
+  option.rect = QRect(0, 0, 1000, 20);
+  const auto* delegate = qobject_cast<HitListDelegate*>(view_.itemDelegate());
+  EXPECT_EQ(delegate->tooltip(option, model_.index(0, static_cast<int>(HitColumn::Name))),
+            QStringLiteral("<p style='white-space:pre-wrap'>From the listing of an online source\n"
+                           "2 of 2 words</p>"));
+}
+
 const auto kKinds = testing::Values(SourceKind::Online, SourceKind::MainDataFile, SourceKind::Offline);
 INSTANTIATE_TEST_SUITE_P(OfEachKind, RowColours, kKinds);
 INSTANTIATE_TEST_SUITE_P(OfEachKind, PaintedRow, kKinds);

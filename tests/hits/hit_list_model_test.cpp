@@ -56,6 +56,23 @@ TEST_F(HitListModelTest, GivesTheSixTexts) {
   EXPECT_EQ(at(0, HitColumn::Date).toString(), QStringLiteral("Jan, 15 04"));
 }
 
+TEST_F(HitListModelTest, SaysWhichWordsOfTheSearchARowHoldsAndWhere) {
+  model_.clear(SearchQuery(QStringLiteral("music mp3 missing"), 50));
+  addHits(SourceKind::Online, 1);
+  model_.hitsArrived();
+  EXPECT_EQ(at(0, HitColumn::Folder, kWordPlacesRole).value<TextRanges>(), (TextRanges{{1, 5}}));
+  EXPECT_EQ(at(0, HitColumn::Name, kWordPlacesRole).value<TextRanges>(), (TextRanges{{5, 3}}));
+  EXPECT_FALSE(at(0, HitColumn::Volume, kWordPlacesRole).isValid());
+  EXPECT_EQ(at(0, HitColumn::Match, Qt::ToolTipRole).toString(),
+            QStringLiteral("From the listing of an online source\n2 of 3 words; missing: missing"));
+  EXPECT_EQ(at(0, HitColumn::Match, Qt::AccessibleDescriptionRole).toString(),
+            QStringLiteral("From the listing of an online source. 2 of 3 words; missing: missing"));
+  model_.clear();
+  addHits(SourceKind::Online, 1);
+  model_.hitsArrived();
+  EXPECT_TRUE(at(0, HitColumn::Name, kWordPlacesRole).value<TextRanges>().empty());
+}
+
 TEST_F(HitListModelTest, TellsTheKindOfSourceInColourAndInWords) {
   addHits(SourceKind::Online, 1);
   addHits(SourceKind::MainDataFile, 1);

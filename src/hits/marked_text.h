@@ -1,0 +1,34 @@
+// A line of text with some of its characters bold.
+#pragma once
+
+#include "search/word_places.h"
+
+#include <QFont>
+#include <QPainter>
+#include <QRect>
+#include <QString>
+#include <QTextOption>
+
+namespace quorvin {
+
+struct MarkedText {
+  QString text;
+  /// From left to right, apart from each other.
+  TextRanges bold;
+
+  bool operator==(const MarkedText&) const = default;
+};
+
+/// The width of `line` in pixels.
+qreal widthOf(const MarkedText& line, const QFont& font);
+
+/// The line as it is where it fits into `width` pixels, otherwise as many of its first characters as fit
+/// with an ellipsis behind them.
+MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width);
+
+/// Draws the line in the painter's pen, in the middle of the height of `place`; direction and alignment are
+/// those of `option`.
+void drawLine(QPainter& painter, const MarkedText& line, const QFont& font, const QRect& place,
+              const QTextOption& option);
+
+}  // namespace quorvin
