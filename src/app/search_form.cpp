@@ -68,7 +68,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
       view_(controls_, menus_, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale, status_),
-      search_({state, runMessages_, hits_, segments, display_, status_, controls_, jobs_.work(), locale}),
+      search_(
+          {state, runMessages_, hits_, segments, display_, status_, controls_, menus_, jobs_.work(), locale}),
       windows_(state, messages, menus_,
                {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_)}, *this,
                locale, picker),
@@ -96,6 +97,11 @@ void SearchForm::connectControls() {
   connect(controls_.Find, &QPushButton::clicked, &search_, &SearchFormRun::Find_Click);
   connect(controls_.SearchStr, &QLineEdit::returnPressed, &search_, &SearchFormRun::enter);
   connect(controls_.DesMatch, &QLineEdit::returnPressed, &search_, &SearchFormRun::enter);
+  for (QLineEdit* field : {static_cast<QLineEdit*>(controls_.SearchStr), controls_.DesMatch}) {
+    connect(field, &QLineEdit::textEdited, &search_, &SearchFormRun::fieldEdited);
+  }
+  search_.setParent(this);
+  connect(&search_, &SearchFormRun::confirmed, &view_, &SearchFormView::keepSearch);
   connect(&search_, &SearchFormRun::ended, this, &SearchForm::showEmptyText);
   connect(controls_.WebUpdate, &QPushButton::clicked, this, [this] { jobs_.WebUpdate_Click(); });
 

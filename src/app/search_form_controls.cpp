@@ -8,7 +8,6 @@
 #include <QKeySequence>
 #include <QString>
 #include <QStyle>
-#include <QStyleOptionFrame>
 
 #include <algorithm>
 #include <cmath>
@@ -38,8 +37,8 @@ QLabel* makeValue(QWidget* parent, const QString& name, const QString& text, con
   return label;
 }
 
-EdgeLineEdit* makeSearchStr(QWidget* parent) {
-  auto* edit = new EdgeLineEdit(parent);
+SearchTextEdit* makeSearchStr(QWidget* parent) {
+  auto* edit = new SearchTextEdit(parent);
   edit->setObjectName(QStringLiteral("SearchStr"));
   edit->setAccessibleName(QStringLiteral("Search text"));
   edit->setPlaceholderText(QStringLiteral("Words from the name or folder, for example: rock live"));
@@ -73,6 +72,19 @@ QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
   QAction* item = menu->addAction(caption);
   item->setObjectName(name);
   return item;
+}
+
+/// Those of the View menu that concern the search text.
+void addSearchItems(SearchFormMenus& menus) {
+  menus.ViewMenu->addSeparator();
+  menus.SearchWhileTyping =
+      addItem(menus.ViewMenu, QStringLiteral("SearchWhileTyping"), QStringLiteral("Search While &Typing"));
+  menus.SearchWhileTyping->setCheckable(true);
+  menus.KeepSearchHistory =
+      addItem(menus.ViewMenu, QStringLiteral("KeepSearchHistory"), QStringLiteral("&Keep Search History"));
+  menus.KeepSearchHistory->setCheckable(true);
+  menus.ClearSearchHistory =
+      addItem(menus.ViewMenu, QStringLiteral("ClearSearchHistory"), QStringLiteral("Clear Search &History"));
 }
 
 /// Room, in twips, for the scroll bar and the frame of the hit list.
@@ -165,16 +177,6 @@ int widestDate(const QFontMetrics& metrics, const QLocale& locale) {
 
 }  // namespace
 
-void EdgeLineEdit::setEdgeMargin(int pixels) {
-  edgeMargin_ = pixels;
-  update();
-}
-
-void EdgeLineEdit::initStyleOption(QStyleOptionFrame* option) const {
-  QLineEdit::initStyleOption(option);
-  if (option) option->rect.setRight(option->rect.right() - edgeMargin_);
-}
-
 SearchFormControls makeControls(QWidget* parent) {
   SearchFormControls made{};
   made.MenuLine = new QFrame(parent);
@@ -228,6 +230,8 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   made.ViewMenu = addMenu(bar, QStringLiteral("ViewMenu"), QStringLiteral("&View"));
   made.ResetColumns =
       addItem(made.ViewMenu, QStringLiteral("ResetColumns"), QStringLiteral("&Reset Columns"));
+
+  addSearchItems(made);
 
   made.PeersMenu = addMenu(bar, QStringLiteral("PeersMenu"), QStringLiteral("&Peers"));
   made.ShareLists = addItem(made.PeersMenu, QStringLiteral("ShareLists"), QStringLiteral("&Share My Lists"));

@@ -1,6 +1,7 @@
 // The menus and controls of the main window, and their places.
 #pragma once
 
+#include "app/search_form_text.h"
 #include "hits/hit_list.h"
 
 #include <QAction>
@@ -15,28 +16,12 @@
 
 namespace quorvin {
 
-/// A line edit whose frame is a little away from the control's right edge, so that the control itself can
-/// reach to the edge of the window.
-class EdgeLineEdit : public QLineEdit {
-  Q_OBJECT
-
- public:
-  using QLineEdit::QLineEdit;
-  void setEdgeMargin(int pixels);
-
- protected:
-  void initStyleOption(QStyleOptionFrame* option) const override;
-
- private:
-  int edgeMargin_ = 0;
-};
-
 /// The controls inside the main window, below the menu bar. The window owns them; they are made once and
 /// live as long as it does.
 struct SearchFormControls {
   QFrame* MenuLine;
   QLabel* searchLabel;
-  EdgeLineEdit* SearchStr;
+  SearchTextEdit* SearchStr;
   QLabel* matchLabel;
   QLineEdit* DesMatch;
   QPushButton* Find;
@@ -64,6 +49,10 @@ struct SearchFormMenus {
   QAction* MenuQuit;
   QMenu* ViewMenu;
   QAction* ResetColumns;
+  /// Can be checked.
+  QAction* SearchWhileTyping;
+  QAction* KeepSearchHistory;
+  QAction* ClearSearchHistory;
   QMenu* PeersMenu;
   /// Can be checked; is checked while lists are shared.
   QAction* ShareLists;

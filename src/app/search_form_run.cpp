@@ -93,17 +93,38 @@ FaultAnswer RunMessages::askAbortRetryIgnore(const QString& text) {
 SearchFormRun::SearchFormRun(const SearchFormRunParts& parts)
     : parts_(parts),
       run_({parts.state, parts.messages, parts.locale, &parts.hits, parts.segments, &parts.display,
-            [this] { return isSuperseded_ || parts_.work.isClosing(); }}) {}
+            [this] { return isGivenUp_ || parts_.work.isClosing(); }}) {
+  typingPause_.setObjectName(QStringLiteral("TypingPause"));
+  typingPause_.setParent(this);
+  typingPause_.setSingleShot(true);
+  typingPause_.setTimerType(Qt::PreciseTimer);
+  typingPause_.setInterval(kTypingPauseMilliseconds);
+  connect(&typingPause_, &QTimer::timeout, this, &SearchFormRun::searchTyped);
+}
 
 void SearchFormRun::Find_Click() {
-  const Answer answer = parts_.work.run(JobKind::Search, [this](Job&) { runAll(); });
-  // A press during a search is the request to stop it.
-  if (answer == Answer::Stops) runOnce();
+  typingPause_.stop();
+  start(Manner::Asked);
+}
+
+void SearchFormRun::start(Manner manner) {
+  const Answer answer = parts_.work.run(JobKind::Search, [this, manner](Job&) { runAll(manner); });
+  if (answer != Answer::Stops) return;
+  if (!run_.isRunning()) {
+    // What it has to report is still on the screen.
+    next_ = manner;
+  } else if (manner == Manner::Asked) {
+    // A press during a search is the request to stop it.
+    run_.Find_Click({}, {});
+  }
 }
 
 void SearchFormRun::enter() {
-  if (run_.isRunning() && isForSomethingElse()) {
-    isSuperseded_ = true;
+  typingPause_.stop();
+  const bool isOfUse = manner_ == Manner::Asked && !isGivenUp_ && !isForSomethingElse();
+  if (run_.isRunning() && !isOfUse) {
+    isGivenUp_ = true;
+    next_ = Manner::Asked;
   } else {
     parts_.controls.Find->click();
   }
@@ -116,28 +137,67 @@ bool SearchFormRun::isForSomethingElse() const {
          parts_.controls.DesMatch->text() != QString::number(report.desiredMatch);
 }
 
+void SearchFormRun::fieldEdited() {
+  if (!parts_.menus.SearchWhileTyping->isChecked()) return;
+  if (run_.isRunning()) isGivenUp_ = true;
+  typingPause_.start();
+}
+
+void SearchFormRun::searchTyped() {
+  const bool isComplete =
+      !parts_.controls.SearchStr->text().isEmpty() && !parts_.controls.DesMatch->text().isEmpty();
+  if (isComplete && run_.isRunning()) {
+    next_ = Manner::Typed;
+  } else if (isComplete) {
+    start(Manner::Typed);
+  } else if (isGivenUp_ && !run_.isRunning()) {
+    // Its hits stay, and nothing follows.
+    parts_.status.setRun(runTexts(run_.report(), parts_.locale));
+  }
+}
+
 void SearchFormRun::stop() {
   if (run_.isRunning()) parts_.controls.Find->click();
 }
 
-void SearchFormRun::runAll() {
-  do {
-    isSuperseded_ = false;
-    runOnce();
-  } while (isSuperseded_ && !parts_.work.isClosing());
-  isSuperseded_ = false;
-  parts_.status.setRun(runTexts(run_.report(), parts_.locale));
+void SearchFormRun::runAll(Manner manner) {
+  std::optional<Manner> now = manner;
+  while (now) {
+    isGivenUp_ = false;
+    runOnce(*now);
+    now = std::exchange(next_, std::nullopt);
+    if (parts_.work.isClosing()) break;
+  }
+  if (!isGivenUp_) parts_.status.setRun(runTexts(run_.report(), parts_.locale));
   Q_EMIT ended();
 }
 
-void SearchFormRun::runOnce() {
+void SearchFormRun::runOnce(Manner manner) {
+  manner_ = manner;
   const QString text = parts_.controls.SearchStr->text();
-  reportFaults(parts_.messages, QStringLiteral("searching for \"%1\"").arg(text),
-               [&] { run_.Find_Click(text, parts_.controls.DesMatch->text()); });
+  const QString doing = QStringLiteral("searching for \"%1\"").arg(text);
+  if (manner == Manner::Typed) {
+    reportFaults(parts_.messages, doing, [&] { runQuietly(text); });
+    return;
+  }
+  Q_EMIT confirmed(text);
+  reportFaults(parts_.messages, doing, [&] { run_.Find_Click(text, parts_.controls.DesMatch->text()); });
+}
+
+/// Without a message even for too many words.
+void SearchFormRun::runQuietly(const QString& text) {
+  try {
+    run_.searchQuietly(text, parts_.controls.DesMatch->text());
+  } catch (const RuntimeFault& fault) {
+    const bool areTooMany = fault.faultNumber() == FaultNumber::SubscriptOutOfRange;
+    parts_.status.setNote(areTooMany ? QStringLiteral("not searched: more than %1 words").arg(kMostWords)
+                                     : fault.description());
+  }
 }
 
 QString SearchFormRun::emptyText() const {
-  if (run_.isRunning() || run_.report().listings == 0 || parts_.hits.rowCount() > 0) return {};
+  const bool isKnown = !run_.isRunning() && !isGivenUp_ && run_.report().listings > 0;
+  if (!isKnown || parts_.hits.rowCount() > 0) return {};
   return emptyResultText(run_.query(), run_.report(), parts_.locale);
 }
 

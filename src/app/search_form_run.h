@@ -14,6 +14,7 @@
 #include <QLocale>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <cstdint>
 #include <functional>
@@ -81,9 +82,13 @@ struct SearchFormRunParts {
   SearchFormDisplay& display;
   SearchFormStatus& status;
   const SearchFormControls& controls;
+  const SearchFormMenus& menus;
   Work& work;
   QLocale locale;
 };
+
+/// How long nothing is typed before what was typed is searched for.
+inline constexpr int kTypingPauseMilliseconds = 80;
 
 /// Starts searches, one at a time, as jobs of the kind Search.
 class SearchFormRun : public QObject {
@@ -94,9 +99,12 @@ class SearchFormRun : public QObject {
 
   /// `Find` was pressed: starts a search, or asks the one that runs to stop.
   void Find_Click();
-  /// Enter in one of the search fields: presses `Find`, unless a search for something else is running. That
-  /// one ends then, and the new one follows.
+  /// Enter in one of the search fields: presses `Find`, unless a search for something else is running, or one
+  /// that nobody has asked for yet. That one ends then, and the new one follows.
   void enter();
+  /// The user has typed in one of the search fields. With `SearchWhileTyping` checked, a running search ends,
+  /// and a quiet one starts when nothing was typed for a moment.
+  void fieldEdited();
   /// Asks a running search to stop; does nothing while there is none.
   void stop();
 
@@ -105,17 +113,30 @@ class SearchFormRun : public QObject {
   QString emptyText() const;
 
  Q_SIGNALS:
+  /// The user has asked for a search for this text.
+  void confirmed(const QString& text);
   /// No search runs any more.
   void ended();
 
  private:
+  /// Whether the user has asked for a search, or it only follows what is being typed.
+  enum class Manner { Asked, Typed };
+
   bool isForSomethingElse() const;
-  void runAll();
-  void runOnce();
+  void start(Manner manner);
+  void searchTyped();
+  void runAll(Manner manner);
+  void runOnce(Manner manner);
+  void runQuietly(const QString& text);
 
   SearchFormRunParts parts_;
-  /// Another run is to follow the present one, which is of no use any more.
-  bool isSuperseded_ = false;
+  /// What the present run, or the last one, is.
+  Manner manner_ = Manner::Asked;
+  /// The run that is to follow the present one, which is of no use any more.
+  std::optional<Manner> next_;
+  /// The present run is of no use any more, or the last one was not when it ended.
+  bool isGivenUp_ = false;
+  QTimer typingPause_;
   SearchRun run_;
 };
 

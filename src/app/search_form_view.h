@@ -21,16 +21,21 @@ class SearchFormView : public QObject {
 
   const ViewSettings& settings() const { return settings_; }
   /// What the last run kept; shows it.
-  void take(const ViewSettings& settings) { settings_ = settings; }
+  void take(const ViewSettings& settings);
   /// Changes the settings on behalf of the user, so that they are kept.
   void change(const std::function<void(ViewSettings&)>& change);
+  /// The user has searched for `text`: keeps it, where such texts are kept.
+  void keepSearch(const QString& text);
   /// What is to happen whenever the user has changed a setting.
   void setChangeHandler(std::function<void()> handler) { changeHandler_ = std::move(handler); }
 
  private:
+  void connectSearches();
   void ResetColumns_Click();
+  void showSearches();
 
   SearchFormControls controls_;
+  SearchFormMenus menus_;
   QLocale locale_;
   ViewSettings settings_;
   std::function<void()> changeHandler_;

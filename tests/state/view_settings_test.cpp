@@ -32,6 +32,29 @@ TEST(ViewSettings, ComeBackAsTheyWereWritten) {
   EXPECT_EQ(readViewSettings(store, QStringLiteral("/lists/other.txt")), ViewSettings());
 }
 
+TEST(ViewSettings, OfSearchesComeBackToo) {
+  MemorySettingsStore store;
+  EXPECT_FALSE(readViewSettings(store, kApplication).searchWhileTyping);
+  EXPECT_TRUE(readViewSettings(store, kApplication).keepSearchHistory);
+  ViewSettings settings;
+  settings.searchWhileTyping = true;
+  settings.keepSearchHistory = false;
+  settings.searches = {QStringLiteral("rock live"), QStringLiteral("tune ")};
+  writeViewSettings(store, kApplication, settings);
+  EXPECT_EQ(store.values[place(QStringLiteral("SearchWhileTyping"))], QStringLiteral("1"));
+  EXPECT_EQ(store.values[place(QStringLiteral("KeepSearchHistory"))], QStringLiteral("0"));
+  const auto texts = std::tuple{kApplication, QStringLiteral("Searches"), QStringLiteral("Texts")};
+  EXPECT_EQ(store.values[texts], QStringLiteral("rock live\ntune "));
+  EXPECT_EQ(readViewSettings(store, kApplication), settings);
+}
+
+TEST(ViewSettings, ThatMakeNoSenseAreTheDefaults) {
+  MemorySettingsStore store;
+  store.values[place(QStringLiteral("SearchWhileTyping"))] = QStringLiteral("maybe");
+  store.values[place(QStringLiteral("KeepSearchHistory"))] = QStringLiteral("");
+  EXPECT_EQ(readViewSettings(store, kApplication), ViewSettings());
+}
+
 TEST(ViewSettings, WritesOnlyWhatHasChanged) {
   MemorySettingsStore store;
   writeViewSettings(store, kApplication, {});
