@@ -71,6 +71,10 @@ SegmentStore& SearchWindow::segments() {
   return parts_->segments;
 }
 
+SearchForm& SearchWindow::form() {
+  return parts_->form;
+}
+
 void SearchWindow::type(const QString& words, const QString& match) {
   const SearchFormControls& controls = parts_->form.controls();
   typeOver(*controls.DesMatch, match);

@@ -13,6 +13,8 @@
 
 namespace quorvin {
 
+class SearchForm;
+
 /// What came of pressing Stop when a run let events run for the first time.
 struct StopFigures {
   /// Entries searched by the end of the run.
@@ -34,6 +36,9 @@ class SearchWindow {
 
   /// The segments that the window searches.
   SegmentStore& segments();
+
+  /// The window itself.
+  SearchForm& form();
 
   /// Types the search text and the desired match over what stands in their fields.
   void type(const QString& words, const QString& match);

@@ -164,7 +164,9 @@ TEST_F(FoundWords, AreInTheColoursOfTheirRow) {
 
 TEST_F(FoundWords, HaveRoomInAColumnThatIsFitted) {
   paint(true);
-  const auto nameHint = [this] { return view_.sizeHintForColumn(static_cast<int>(HitColumn::Name)); };
+  const auto nameHint = [this] {
+    return static_cast<const QAbstractItemView&>(view_).sizeHintForColumn(static_cast<int>(HitColumn::Name));
+  };
   const int marked = nameHint();
   paint(false);
   EXPECT_GT(marked, nameHint());
