@@ -47,11 +47,12 @@ void SearchFormDisplay::runEnded() {
 
 void SearchFormDisplay::clearHits() {
   hasNewRows_ = false;
+  hasShownRows_ = false;
   rows_.clear(query_ ? *query_ : SearchQuery());
 }
 
 bool SearchFormDisplay::isDue() const {
-  const bool areFirstRows = hasNewRows_ && rows_.rowCount() == 0;
+  const bool areFirstRows = hasNewRows_ && !hasShownRows_;
   return areFirstRows || !sinceShown_.isValid() || sinceShown_.hasExpired(kMillisecondsBetweenShowings);
 }
 
@@ -67,6 +68,7 @@ void SearchFormDisplay::show() {
   showCount(*controls_.lblSearched, searched_);
   if (!hasNewRows_) return;
   hasNewRows_ = false;
+  hasShownRows_ = true;
   rows_.hitsArrived();
 }
 

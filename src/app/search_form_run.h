@@ -52,6 +52,8 @@ class SearchFormDisplay : public RunDisplay {
   std::optional<std::int64_t> found_;
   std::optional<std::int64_t> searched_;
   bool hasNewRows_ = false;
+  /// Rows of this run have been shown.
+  bool hasShownRows_ = false;
   QElapsedTimer sinceShown_;
 };
 
