@@ -63,7 +63,7 @@ void SearchTextEdit::showHistory() {
     QAction* item = menu_->addAction(shown.replace(u'&', QStringLiteral("&&")));
     connect(item, &QAction::triggered, this, [this, text] { take(text); });
   }
-  menu_->setMinimumWidth(frameRect().width());
+  menu_->setMinimumWidth(std::max(0, frameRect().width()));
   menu_->setActiveAction(menu_->actions().constFirst());
   menu_->popup(mapToGlobal(rect().bottomLeft()));
 }
@@ -100,8 +100,9 @@ void SearchTextEdit::paintEvent(QPaintEvent* event) {
   if (rest.isEmpty()) return;
   const QRect cursor = cursorRect();
   const int end = (button_->isHidden() ? frameRect().right() : button_->x()) - kInsideFrame;
-  const QRect place(cursor.center().x() + 1, cursor.y(), std::max(0, end - cursor.center().x()),
-                    cursor.height());
+  // Behind the cursor, which must stay visible.
+  const int start = cursor.center().x() + kInsideFrame;
+  const QRect place(start, cursor.y(), std::max(0, end - start), cursor.height());
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::PlaceholderText));
   painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,

@@ -53,6 +53,7 @@ TEST_F(AccessibleWindows, SearchForm) {
       form(),
       QStringLiteral("Border MenuLine: Line below the menu\n"
                      "EditableText SearchStr: Search text\n"
+                     "Button SearchHistoryButton: Earlier searches\n"
                      "EditableText DesMatch: Desired match in percent\n"
                      "Button Find: Find\n"
                      "Button WebUpdate: Web Update?\n"

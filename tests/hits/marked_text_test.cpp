@@ -53,13 +53,13 @@ TEST_F(MarkedTexts, AreCutWhereTheWordsOfOtherCellsAre) {
 
 TEST_F(MarkedTexts, KeepTheirBoldPartsInFrontOfTheCut) {
   const MarkedText line{u"iiiiiiiiiiiiiiiiiiiiiiiiiiiiii"_qs, {{0, 2}, {5, 20}}};
-  const MarkedText cut = cutToWidth(line, font_, widthOf({u"iiiiiiiiii"_qs, {}}, font_));
+  const MarkedText cut = cutToWidth(line, font_, widthOf({u"iiiiiiiiiiiiiiii"_qs, {}}, font_));
   ASSERT_TRUE(cut.text.endsWith(u'\u2026'));
   const qsizetype kept = cut.text.size() - 1;
   ASSERT_GT(kept, 5);
   ASSERT_LT(kept, 25);
   EXPECT_EQ(cut.bold, (TextRanges{{0, 2}, {5, kept - 5}}));
-  EXPECT_LE(widthOf(cut, font_), widthOf({u"iiiiiiiiii"_qs, {}}, font_));
+  EXPECT_LE(widthOf(cut, font_), widthOf({u"iiiiiiiiiiiiiiii"_qs, {}}, font_));
 }
 
 TEST_F(MarkedTexts, OfEveryScriptFitWhenTheyAreCut) {
