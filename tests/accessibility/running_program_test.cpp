@@ -17,6 +17,7 @@ TEST_F(RunningProgram, TheMainWindowIsReadAndSearchedOverTheBus) {
   EXPECT_EQ(linesOf(*window).join(u'\n').toStdString(),
             "frame: Line below the menu\n"
             "text: Search for: Search text\n"
+            "push button: Earlier searches\n"
             "text: Match %: Desired match in percent\n"
             "push button: Find\n"
             "push button: Web Update?\n"
@@ -32,8 +33,11 @@ TEST_F(RunningProgram, TheMainWindowIsReadAndSearchedOverTheBus) {
             "label: Ver:2.5(64)\n"
             "menu bar: Main menu\n"
             "menu item: File\n"
+            "menu item: View\n"
             "menu item: Peers\n"
-            "menu item: Help");
+            "menu item: Help\n"
+            "status bar: Status\n"
+            "label: 1 hit");
   expectEveryControlNamed();
 }
 

@@ -110,6 +110,7 @@ TEST_F(WholeLife, EverythingIsAsItWasLeft) {
   };
   expectSaved();
   const QString head = QStringLiteral(
+                           "[Ketta%20Quorvin/Searches]\nTexts=song\n\n"
                            "[Ketta%20Quorvin/Settings]\nLocalFolder=%1\nTextFile=main.txt\n"
                            "ArchiveFile=main.zip\nWebServer=lists.example\nJoinDate=15 Jan 2004 10:20:30\n"
                            "NickName=ann\n")
