@@ -13,8 +13,8 @@ namespace quorvin {
 
 namespace {
 
-constexpr QStringView kOnlineList = u"Locations.txt";
-constexpr QStringView kOfflineList = u"OfflineLocations.txt";
+constexpr QStringView kOnlineListName = u"Locations.txt";
+constexpr QStringView kOfflineListName = u"OfflineLocations.txt";
 
 /// Empty where there is no such folder.
 QString canonicalFolder(const QString& folder) {
@@ -52,7 +52,7 @@ bool holdsWhatRuns(const QString& path) {
 }  // namespace
 
 bool isSourceListName(const QString& name) {
-  return name.startsWith(kOnlineList) || name.startsWith(kOfflineList);
+  return name.startsWith(kOnlineListName) || name.startsWith(kOfflineListName);
 }
 
 ProtectedFiles::ProtectedFiles(const ProgramState& state, const QString& folder, const OwnPlaces& places)
