@@ -121,6 +121,7 @@ void SearchRun::searchSources() {
   if (!searchMainDataFile()) return;
   searchOfflineSources();
   showSearched();
+  if (parts_.segments != nullptr && !isEnding()) parts_.segments->releaseUnused();
 }
 
 void SearchRun::searchOnlineSources() {

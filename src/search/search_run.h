@@ -47,7 +47,8 @@ struct RunParts {
   QLocale locale;
   /// Where hits go; null where they are only counted.
   HitSink* hits = nullptr;
-  /// Keeps what was read for later runs; null to read every listing again.
+  /// Keeps what was read for later runs, as long as the listing is among the sources; null to read every
+  /// listing again.
   SegmentStore* segments = nullptr;
   /// Null where nobody watches.
   RunDisplay* display = nullptr;

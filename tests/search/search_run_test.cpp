@@ -297,5 +297,41 @@ TEST_F(SearchRunTest, NamedListingsAreSearchedInOrder) {
   EXPECT_EQ(run_.failedListings(), 1);
 }
 
+class SearchRunWithStore : public SearchRunTest {
+ protected:
+  void find() { run_.Find_Click(u"song"_qs, u"50"_qs); }
+  bool isKept(const QString& path) { return !store_.find(*segmentKeyOf(path, QLocale::c())).empty(); }
+
+  SegmentStore store_{{QString(), std::size_t{1} << 30}};
+  SearchRun run_{{state_, messages_, QLocale::c(), &hits_, &store_, &display_, [this] { return closing_; }}};
+};
+
+TEST_F(SearchRunWithStore, ListingsThatAreNoSourcesAnyMoreAreReleased) {
+  const QString first = folder_.writeFile(u"1"_qs, "song 1\r\n");
+  const QString second = folder_.writeFile(u"2"_qs, "song 2\r\n");
+  addOffline(first);
+  addOffline(second);
+  find();
+  find();
+  state_.OfflineSourceCount = 1;
+  find();
+  EXPECT_TRUE(isKept(first));
+  EXPECT_FALSE(isKept(second));
+}
+
+TEST_F(SearchRunWithStore, ARunThatDoesNotComeToItsEndReleasesNothing) {
+  const QString first = folder_.writeFile(u"1"_qs, "song 1\r\n");
+  const QString second = folder_.writeFile(u"2"_qs, "song 2\r\n");
+  addOffline(first);
+  addOffline(second);
+  find();
+  state_.OfflineSourceCount = 1;
+  state_.TextFile = u"missing.txt"_qs;
+  find();
+  find();
+  EXPECT_TRUE(isKept(first));
+  EXPECT_TRUE(isKept(second));
+}
+
 }  // namespace
 }  // namespace quorvin

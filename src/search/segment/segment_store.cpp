@@ -90,6 +90,7 @@ SegmentStore::Segments SegmentStore::find(const SegmentKey& key) {
     }
     if (known->key == key) {
       kept_.splice(kept_.begin(), kept_, known);
+      known->isUsed = true;
       return kept_.front().segments;
     }
     remove(known);
@@ -105,6 +106,14 @@ void SegmentStore::forget(const QString& listing) {
       std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) { return kept.key.listing == listing; });
   if (known != kept_.end()) remove(known);
   if (!options_.cacheFolder.isEmpty()) QFile::remove(segmentFilePath(options_.cacheFolder, listing));
+}
+
+void SegmentStore::releaseUnused() {
+  makeRoom();
+  for (auto kept = kept_.begin(); kept != kept_.end();) {
+    const auto here = kept++;
+    if (!std::exchange(here->isUsed, false)) remove(here);
+  }
 }
 
 void SegmentStore::keep(Kept kept) {

@@ -46,6 +46,10 @@ class SegmentStore {
   /// Lets go of a listing's segments, in memory and on disk.
   void forget(const QString& listing);
 
+  /// Lets go, in memory, of the listings that nobody has found or recorded since the last call. To be called
+  /// when all listings have been searched: the others are in no list any more.
+  void releaseUnused();
+
   /// Takes the segments of one listing while they are built. Unless finish() is called nothing is kept.
   class Recorder {
    public:
@@ -79,6 +83,7 @@ class SegmentStore {
     Segments segments;
     /// Bytes that the segments took up when they were last looked at.
     std::size_t memory = 0;
+    bool isUsed = true;
   };
 
   void keep(Kept kept);

@@ -217,5 +217,31 @@ TEST_F(SegmentStoreTest, GeneratedListingsAgreeWarmAndCold) {
   }
 }
 
+TEST_F(SegmentStoreTest, ListingsThatNobodySearchesAnyMoreAreReleased) {
+  SegmentStore store({cache_, kPlenty});
+  scan(store, u"song"_qs);
+  table_ = {};
+  const SegmentKey key = *segmentKeyOf(listing_, QLocale::c());
+  const std::weak_ptr<const Segment> segment = store.find(key).front();
+  store.releaseUnused();
+  EXPECT_FALSE(segment.expired()) << "it was searched since the last call";
+  store.releaseUnused();
+  EXPECT_TRUE(segment.expired());
+  EXPECT_FALSE(store.find(key).empty()) << "the file stays";
+  expectRight(store);
+}
+
+TEST_F(SegmentStoreTest, WhatIsFoundAgainStays) {
+  SegmentStore store({QString(), kPlenty});
+  scan(store, u"song"_qs);
+  const SegmentKey key = *segmentKeyOf(listing_, QLocale::c());
+  for (int round = 0; round < 3; ++round) {
+    EXPECT_FALSE(store.find(key).empty()) << round;
+    store.releaseUnused();
+  }
+  store.releaseUnused();
+  EXPECT_TRUE(store.find(key).empty());
+}
+
 }  // namespace
 }  // namespace quorvin::test
