@@ -38,6 +38,10 @@ QString completeness(const ListingVersion& version) {
   return version.isComplete ? QStringLiteral("yes") : QStringLiteral("no");
 }
 
+QString cannotBeRead(const QString& fault) {
+  return QStringLiteral("The listing history cannot be read: ") + fault;
+}
+
 QString dateOf(const ListingVersion& version, const QLocale& locale) {
   return locale.toString(QDateTime::fromMSecsSinceEpoch(version.made), QLocale::ShortFormat);
 }
@@ -91,12 +95,18 @@ HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& local
 }
 
 void HistoryWindow::showListings() {
-  listing_->addItems(history_.listings());
+  QString fault;
+  try {
+    listing_->addItems(history_.listings());
+  } catch (const RuntimeFault& unreadable) {
+    fault = unreadable.description();
+  }
   const bool isEmpty = listing_->count() == 0;
   listing_->setEnabled(!isEmpty);
   versions_->setEnabled(!isEmpty);
   (isEmpty ? static_cast<QWidget*>(listing_) : versions_)->setFocus();
   if (isEmpty) showVersions();
+  if (!fault.isEmpty()) present_->setText(cannotBeRead(fault));
 }
 
 void HistoryWindow::showVersions() {
@@ -105,6 +115,15 @@ void HistoryWindow::showVersions() {
   const QString listing = listing_->currentText();
   showPresent(listing);
   if (listing.isEmpty()) return;
+  try {
+    listVersions(listing);
+  } catch (const RuntimeFault& unreadable) {
+    versions_->clear();
+    present_->setText(cannotBeRead(unreadable.description()));
+  }
+}
+
+void HistoryWindow::listVersions(const QString& listing) {
   for (const ListingVersion& version : history_.versions(listing)) {
     auto* row = new QTreeWidgetItem(versions_);
     row->setText(0, dateOf(version, locale_));

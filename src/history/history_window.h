@@ -32,6 +32,7 @@ class HistoryWindow : public QDialog {
  private:
   void showListings();
   void showVersions();
+  void listVersions(const QString& listing);
   void showPresent(const QString& listing);
   void Restore_Click();
   void allowChoice(bool allowed);

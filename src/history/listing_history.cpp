@@ -2,11 +2,12 @@
 
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
+#include "files/file_identity.h"
 #include "files/file_lock.h"
+#include "files/folder_reader.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -15,6 +16,7 @@
 #include <cerrno>
 #include <cstring>
 #include <exception>
+#include <functional>
 #include <utility>
 
 namespace quorvin {
@@ -67,15 +69,45 @@ struct Stored {
   std::int64_t fileSize = 0;
 };
 
-/// The versions in `folder`, newest first.
+struct Names {
+  QStringList files;
+  QStringList folders;
+};
+
+/// What is in `folder`; nothing where there is no such folder. A folder that cannot be read must not be taken
+/// for an empty one, whose numbers are free: then RuntimeFault is thrown.
+Names namesIn(const QString& folder) {
+  const std::unique_ptr<FolderReader> reader = makeFolderReader();
+  int error = reader->enterTop(folder);
+  if (error == ENOENT || error == ENOTDIR) return {};
+  Names names;
+  FolderName name;
+  while (error == 0 && (error = reader->next(name)) == 0 && !name.bytes.empty()) {
+    const QString text =
+        QFile::decodeName(QByteArray(name.bytes.data(), static_cast<qsizetype>(name.bytes.size())));
+    if (name.kind == NameKind::File) names.files += text;
+    if (name.kind == NameKind::Folder) names.folders += text;
+  }
+  if (error != 0) throw faultOfSystemError(error, folder);
+  return names;
+}
+
+bool hasVersions(const Names& names) {
+  return std::ranges::any_of(names.files, [](const QString& name) { return numberOf(name) > 0; });
+}
+
+/// The versions in `folder`, which ends in a separator, newest first. Throws RuntimeFault where one cannot be
+/// read.
 std::vector<Stored> storedIn(const QString& folder) {
   std::vector<Stored> versions;
-  for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files, QDir::Name | QDir::Reversed)) {
-    const int number = numberOf(file.fileName());
+  for (const QString& name : namesIn(folder).files) {
+    const int number = numberOf(name);
     if (number == 0) continue;
-    const std::optional<VersionHead> head = readVersionHead(file.filePath());
-    if (head) versions.push_back({number, file.filePath(), *head, file.size()});
+    const QString path = folder + name;
+    const std::optional<VersionHead> head = readVersionHead(path);
+    if (head) versions.push_back({number, path, *head, QFileInfo(path).size()});
   }
+  std::ranges::sort(versions, std::ranges::greater(), &Stored::number);
   return versions;
 }
 
@@ -188,21 +220,23 @@ void ListingHistory::makeFolder(const QString& listing) const {
 }
 
 QStringList ListingHistory::listings() const {
-  QStringList names;
-  const QDir history(historyFolder());
-  QDirIterator files(history.path(), QDir::Files, QDirIterator::Subdirectories);
-  while (files.hasNext()) {
-    files.next();
-    if (numberOf(files.fileName()) > 0) names += history.relativeFilePath(files.fileInfo().path());
+  QStringList listings;
+  QStringList folders{QString()};
+  while (!folders.isEmpty()) {
+    const QString folder = folders.takeFirst();
+    const Names names = namesIn(historyFolder() + u'/' + folder);
+    if (!folder.isEmpty() && hasVersions(names)) listings += folder;
+    for (const QString& name : names.folders) {
+      folders += folder.isEmpty() ? name : folder + u'/' + name;
+    }
   }
-  names.sort();
-  names.removeDuplicates();
-  return names;
+  listings.sort();
+  return listings;
 }
 
 int ListingHistory::freeNumber(const QString& listing) const {
   int newest = 0;
-  for (const QString& name : QDir(folderOf(listing)).entryList(QDir::Files)) {
+  for (const QString& name : namesIn(folderOf(listing)).files) {
     newest = std::max(newest, numberOf(name));
   }
   if (newest == kLastNumber) throw faultOfSystemError(EEXIST, versionPath(listing, newest));
@@ -241,7 +275,7 @@ std::optional<ListingVersion> ListingHistory::present(const QString& listing) co
 KeptListing ListingHistory::keep(const QString& listing, const QString& replacement, bool isComplete) {
   KeptListing kept;
   try {
-    const bool isThere = QFileInfo(pathOf(listing)).isFile();
+    const bool isThere = fileIsThere(pathOf(listing));
     const bool isReplaced = isThere && !isSameText(pathOf(listing), replacement, pause_);
     kept.isSame = isThere && !isReplaced;
     if (!isReplaced && isComplete) return kept;
@@ -274,9 +308,10 @@ void ListingHistory::addPresent(const QString& listing, const ListingFacts& fact
   head.isComplete = !isMarkedIncomplete(listing, facts);
   // The earlier one is going to depend on it.
   const Durability durability = earlier.empty() ? Durability::OldOrNew : Durability::New;
-  FileAside file(versionPath(listing, freeNumber(listing)), {.durability = durability});
+  const QString path = versionPath(listing, freeNumber(listing));
+  FileAside file(path, {.durability = durability, .mayReplace = false});
   writeVersion(file.writer(), head, *openListing(pathOf(listing)), nullptr, pause_);
-  file.commit();
+  if (!file.commitUnlessTaken(QFileInfo(path).fileName())) throw faultOfSystemError(EEXIST, path);
   try {
     const std::vector<Stored> versions = storedIn(folderOf(listing));
     if (versions.size() > 1) storeDifference(versions, 1, 0, false, pause_);

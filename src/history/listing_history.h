@@ -55,6 +55,8 @@ class ListingHistory {
   /// `dataFolder` ends in a separator. `pause` may let events run.
   explicit ListingHistory(const QString& dataFolder, HistoryPause pause = {}, HistoryLimits limits = {});
 
+  // Where a folder or a file of the history cannot be read, these throw RuntimeFault.
+
   /// The listings that have a history, sorted.
   QStringList listings() const;
   /// The versions of a listing, newest first, without those whose heads are damaged.

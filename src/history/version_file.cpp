@@ -231,6 +231,7 @@ class Version : public ListingBytes {
     const std::optional<VersionHead> head = headIn({bytes.data(), bytes.size()});
     if (!head || head->base.has_value() != (base_ != nullptr)) failDamaged(path_);
     head_ = *head;
+    if (head_.text.size == 0) checkSum();
   }
 
   std::size_t read(std::span<char> buffer) override {
@@ -265,7 +266,11 @@ class Version : public ListingBytes {
     unpacked_ += size;
     position_ = 0;
     filled_ = size;
-    if (unpacked_ == head_.text.size && sum_.value() != head_.text.checksum) failDamaged(path_);
+    if (unpacked_ == head_.text.size) checkSum();
+  }
+
+  void checkSum() const {
+    if (sum_.value() != head_.text.checksum) failDamaged(path_);
   }
 
   void readPacked() {
@@ -325,8 +330,12 @@ std::optional<VersionHead> readVersionHead(const QString& path) {
     std::array<std::byte, kHeadSize> bytes{};
     RandomAccessFile(path).read(0, bytes);
     return headIn({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-  } catch (const RuntimeFault&) {
-    return std::nullopt;
+  } catch (const RuntimeFault& fault) {
+    // There is no file, or one that is too short for a head.
+    const bool isMissing =
+        fault.faultNumber() == FaultNumber::FileNotFound || fault.faultNumber() == FaultNumber::PathNotFound;
+    if (isMissing || fault.faultNumber() == FaultNumber::InputPastEnd) return std::nullopt;
+    throw;
   }
 }
 

@@ -66,8 +66,8 @@ struct VersionHead {
   std::optional<std::uint64_t> base;
 };
 
-/// The head of the version in the file at `path`; nothing where there is none, or a damaged one. Never
-/// throws.
+/// The head of the version in the file at `path`; nothing where there is none, or a damaged one. Throws
+/// RuntimeFault when the file cannot be read.
 std::optional<VersionHead> readVersionHead(const QString& path);
 
 /// Opens the version in the file at `path`; `base` gives the text that it differs from, null for a whole

@@ -219,7 +219,12 @@ class Refresh {
   }
 
   QString earlierOf(const Source& source) {
-    const std::optional<ListingVersion> earlier = history_.newestComplete(nameOf(source));
+    std::optional<ListingVersion> earlier;
+    try {
+      earlier = history_.newestComplete(nameOf(source));
+    } catch (const RuntimeFault&) {
+      // Whoever looks for an earlier version is told why there is none.
+    }
     if (!earlier) return {};
     return QStringLiteral("; File, Listing History brings back the one of %1 with %2 entries")
         .arg(locale_.toString(QDateTime::fromMSecsSinceEpoch(earlier->made), QLocale::ShortFormat),

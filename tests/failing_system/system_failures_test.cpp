@@ -2,6 +2,7 @@
 // through.
 #include "archive/archive_maker.h"
 #include "failing_system/failing_program.h"
+#include "history/listing_history.h"
 #include "platform/ini_settings_store.h"
 #include "support/qt_printing.h"
 #include "support/sweep.h"
@@ -61,6 +62,10 @@ const std::vector<Deed> kDeeds = {
      {u"data/Music.txt"_qs}},
     {"Refresh", console({u"refresh"_qs}), {u"data/Music.txt"_qs, u"data/Films.txt"_qs}},
     {"ClearCache", console({u"cache"_qs, u"--clear"_qs}), {}},
+    {"History", console({u"history"_qs}), {}},
+    {"Restore",
+     console({u"history"_qs, u"Music"_qs, u"--restore"_qs, u"--number"_qs, u"2"_qs}),
+     {u"data/Music.txt"_qs}},
     {"Closing",
      window(u"closing"_qs),
      {u"settings.ini"_qs, u"data/Locations.txt"_qs, u"data/OfflineLocations.txt"_qs},
@@ -95,6 +100,7 @@ class FailingSystem : public testing::TestWithParam<Deed> {
     const QByteArray top = place_->path().toUtf8();
     place_->writeFile(u"data/Locations.txt"_qs,
                       "\"Music\",\"" + top + "Music/\"\r\n\"Films\",\"" + top + "Films/\"\r\n");
+    makeHistory();
     for (const auto& name : {u"data/Music.txt"_qs, u"data/Films.txt"_qs})
       place_->writeFile(name, kOldListing);
     place_->writeFile(u"data/main.txt"_qs, "the main list as it was");
@@ -107,15 +113,62 @@ class FailingSystem : public testing::TestWithParam<Deed> {
     before_ = filesOf(place_->path());
   }
 
+  /// Three versions of a listing, the second of which may be restored.
+  void makeHistory() {
+    const QString data = place_->pathOf(u"data/"_qs);
+    ListingHistory history(data);
+    for (int version = 1; version <= 3; ++version) {
+      const QByteArray next = version == 3 ? QByteArray(kOldListing) : earlierListing(version + 1);
+      place_->writeFile(kRestored, earlierListing(version));
+      setTime(kRestored);
+      ASSERT_EQ(history.keep(u"Music.txt"_qs, place_->writeFile(u"next"_qs, next), true).fault, QString());
+    }
+    QFile::remove(place_->pathOf(u"next"_qs));
+  }
+
+  static QByteArray earlierListing(int version) {
+    return QByteArray(kOldListing).replace("old song", "song " + QByteArray::number(version));
+  }
+
+  /// Everything that the listing ever held is still there, in its place or as a version. `lastIsTold`: what
+  /// it held last may be gone, since that was said.
+  void expectHistoryKept(bool lastIsTold = false) {
+    const ListingHistory history(place_->pathOf(u"data/"_qs));
+    std::vector<QByteArray> held = {place_->readFile(kRestored)};
+    for (const ListingVersion& version : history.versions(u"Music.txt"_qs)) {
+      held.push_back(textOf(*history.text(u"Music.txt"_qs, version.number)));
+    }
+    std::vector<QByteArray> wanted;
+    // What is written to a file of the user's choice goes there without a history.
+    if (!lastIsTold && GetParam().name != std::string_view("Index")) wanted.push_back(kOldListing);
+    for (int version = 1; version <= 3; ++version) wanted.push_back(earlierListing(version));
+    for (const QByteArray& text : wanted) {
+      EXPECT_TRUE(std::ranges::find(held, text) != held.end()) << "lost: " << text.toStdString();
+    }
+  }
+
+  static QByteArray textOf(ListingBytes& version) {
+    QByteArray text;
+    std::vector<char> piece(4096);
+    while (const std::size_t count = version.read(piece)) {
+      text.append(piece.data(), static_cast<qsizetype>(count));
+    }
+    return text;
+  }
+
   /// Listings and archives hold the times of files.
   void setTimes() {
     for (const auto& name :
          {u"Music/song.mp3"_qs, u"Music/Deep/song two.mp3"_qs, u"Films/film.avi"_qs, u"peer/Far.txt"_qs}) {
-      QFile file(place_->pathOf(name));
-      ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-      ASSERT_TRUE(
-          file.setFileTime(QDateTime(QDate(2004, 1, 15), QTime(12, 0)), QFileDevice::FileModificationTime));
+      setTime(name);
     }
+  }
+
+  void setTime(const QString& name) {
+    QFile file(place_->pathOf(name));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        file.setFileTime(QDateTime(QDate(2004, 1, 15), QTime(12, 0)), QFileDevice::FileModificationTime));
   }
 
   FailedRun run(const SystemFailure& failure, int number) {
@@ -172,6 +225,7 @@ class FailingSystem : public testing::TestWithParam<Deed> {
     }
     for (const auto& [name, content] : before_)
       EXPECT_EQ(now.count(name), 1U) << name.toStdString() << " is gone";
+    expectHistoryKept(run.errors.contains(u"could not be kept in the listing history"));
   }
 
   /// A run that says nothing has done all of its work.
@@ -210,6 +264,7 @@ class FailingSystem : public testing::TestWithParam<Deed> {
       EXPECT_TRUE(isOldOrNew(name, left.at(name))) << name.toStdString() << ":\n"
                                                    << left.at(name).toStdString();
     }
+    expectHistoryKept();
     if (!GetParam().isRepeatable) return;
     const FailedRun next = run({"none", {}}, 0);
     EXPECT_EQ(next.status, undisturbed_.status);
@@ -225,7 +280,7 @@ class FailingSystem : public testing::TestWithParam<Deed> {
   Files after_;
   std::unique_ptr<TemporaryFolder> place_;
 
- private:
+  static inline const QString kRestored = QStringLiteral("data/Music.txt");
   static constexpr const char* kOldListing =
       "\r\nVolume:    MUSIC\r\nDirectory: \\old\\\r\n\r\n"
       "old song.mp3                                                                  1 bytes 15 Jan 2004 "

@@ -158,6 +158,17 @@ TEST_F(ShownHistory, WhatCannotBeRestoredIsReported) {
   EXPECT_EQ(entriesNow(), 2);
 }
 
+TEST_F(ShownHistory, AHistoryThatCannotBeReadIsNotCalledEmpty) {
+  const QString folder = folder_.pathOf(QStringLiteral("history"));
+  ASSERT_TRUE(QFile::link(folder, folder));
+  inWindow([&](HistoryWindow& window) {
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("Present"))->text(),
+              QStringLiteral("The listing history cannot be read: Path/File access error: ") + folder +
+                  QStringLiteral("/"));
+    EXPECT_FALSE(restore(window)->isEnabled());
+  });
+}
+
 TEST_F(ShownHistory, ClosesWithTheProgram) {
   put(5, 15);
   put(2, 16);

@@ -286,5 +286,25 @@ TEST_F(History, KilledAtAnyMomentEveryVersionIsWholeAndTheNextGoesOn) {
   EXPECT_EQ(numbers(), (std::vector{3, 2, 1}));
 }
 
+TEST_F(History, AFolderThatCannotBeReadIsNotTakenForAnEmptyOne) {
+  put(listingOf(3));
+  put(listingOf(4));
+  const QString folder = data.pathOf(u"history/Music.txt"_qs);
+  ASSERT_TRUE(QDir(folder).removeRecursively());
+  // A link to itself leads nowhere, and neither to nothing.
+  ASSERT_TRUE(QFile::link(folder, folder));
+  EXPECT_FAULT(history.versions(kMusic), 75);
+  EXPECT_FAULT(history.newestComplete(kMusic), 75);
+  EXPECT_FAULT(history.restore(kMusic, 1), 75);
+  EXPECT_EQ(data.readFile(kMusic), listingOf(4));
+  EXPECT_NE(put(listingOf(5)).fault, QString());
+}
+
+TEST_F(History, AHistoryThatCannotBeReadIsNotTakenForNone) {
+  const QString folder = data.pathOf(u"history"_qs);
+  ASSERT_TRUE(QFile::link(folder, folder));
+  EXPECT_FAULT(history.listings(), 75);
+}
+
 }  // namespace
 }  // namespace quorvin

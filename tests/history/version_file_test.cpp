@@ -6,6 +6,10 @@
 #include "history/history_fixture.h"
 #include "support/fault_number.h"
 
+#include <QtEndian>
+
+#include <xxhash.h>
+
 namespace quorvin {
 namespace {
 
@@ -139,6 +143,26 @@ TEST(VersionFile, ATextWithoutLineEndsIsOneEntry) {
   const ListingFacts facts = factsOf(*openListing(path), {});
   EXPECT_EQ(facts.entries, 1U);
   EXPECT_EQ(facts.size, 3'000'000U);
+}
+
+TEST(VersionFile, AnEmptyTextHasAChecksumToo) {
+  const TemporaryFolder folder;
+  const QString path = folder.writeFile(u"a.txt"_qs, "");
+  const auto openedWith = [&](std::uint64_t checksum) {
+    VersionHead head;
+    head.text = factsOf(*openListing(path), {});
+    FileAside file(folder.pathOf(u"version"_qs));
+    writeVersion(file.writer(), head, *openListing(path), nullptr, {});
+    file.commit();
+    // The head's own checksum is the last of its numbers.
+    QByteArray bytes = folder.readFile(u"version"_qs);
+    qToLittleEndian<quint64>(checksum, bytes.data() + 32);
+    qToLittleEndian<quint64>(XXH3_64bits(bytes.constData(), 56), bytes.data() + 56);
+    folder.writeFile(u"version"_qs, bytes);
+    return openVersion(folder.pathOf(u"version"_qs), nullptr);
+  };
+  EXPECT_EQ(test::allOf(*openedWith(XXH3_64bits("", 0))), QByteArray());
+  EXPECT_FAULT(openedWith(12345), 57);
 }
 
 }  // namespace
