@@ -3,6 +3,7 @@
 set(QUORVIN_FUZZ_TARGETS
   archive
   date
+  history_version
   made_archive
   made_metafile
   metafile
