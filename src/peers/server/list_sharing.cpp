@@ -2,6 +2,7 @@
 
 #include "archive/archive_packing.h"
 #include "faults/runtime_fault.h"
+#include "files/file_identity.h"
 #include "peers/messages/peer_names.h"
 
 #include <QDir>
@@ -88,10 +89,6 @@ QStringList ListSharing::packEach(const Job& job) {
     const QString description = state_.OnlineSources.description(row);
     if (packed.contains(description)) continue;
     packed.insert(description);
-    if (!QFileInfo(state_.onlineListingPath(description)).isFile()) {
-      makeEmpty(row);
-      continue;
-    }
     const QString problem = packRow(row, job);
     if (!problem.isEmpty()) problems += problem;
   }
@@ -121,6 +118,19 @@ void ListSharing::makeEmpty(int row) const {
 }
 
 QString ListSharing::packRow(int row, const Job& job) {
+  try {
+    return packListingOf(row, job);
+  } catch (const RuntimeFault& fault) {
+    return sentence(fault.description());
+  }
+}
+
+QString ListSharing::packListingOf(int row, const Job& job) {
+  const QString listing = state_.onlineListingPath(state_.OnlineSources.description(row));
+  if (!fileIsThere(listing)) {
+    makeEmpty(row);
+    return {};
+  }
   const QString archive = archivePathOf(state_, row);
   const bool isMainArchive = archive == state_.LocalFolder + state_.ArchiveFile;
   if (isMainArchive || !mayBeReplacedByPacking(archive)) {
@@ -134,12 +144,8 @@ QString ListSharing::packRow(int row, const Job& job) {
     sinceEvents.restart();
     return mustStop();
   };
-  try {
-    packListing(state_.onlineListingPath(state_.OnlineSources.description(row)), archive, pause);
-    return {};
-  } catch (const RuntimeFault& fault) {
-    return sentence(fault.description());
-  }
+  packListing(listing, archive, pause);
+  return {};
 }
 
 bool ListSharing::mustStop() const {

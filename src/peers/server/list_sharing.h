@@ -50,6 +50,7 @@ class ListSharing : public QObject {
   void removeUnlisted() const;
   void makeEmpty(int row) const;
   QString packRow(int row, const Job& job);
+  QString packListingOf(int row, const Job& job);
   bool mustStop() const;
   void show(const QString& first, const QStringList& problems);
   QString addressText() const;
