@@ -97,6 +97,7 @@ class Soak {
   }
   std::vector<Step> steps();
   void exchange();
+  void cancelRefresh();
   void doStep(const Step& step);
   void doOneStep();
   void takeFigures();
@@ -133,7 +134,8 @@ std::vector<Soak::Step> Soak::steps() {
       {QStringLiteral("edit of the offline lists"), 5, onAny(&SoakedProgram::editOfflineLists)},
       {QStringLiteral("options"), 3, onAny(&SoakedProgram::editOptions)},
       {QStringLiteral("preview"), 6, onAny(&SoakedProgram::preview)},
-      {QStringLiteral("listing history"), 3, onAny(&SoakedProgram::lookAtHistory)},
+      {QStringLiteral("restore from the history"), 5, onAny(&SoakedProgram::restoreListing)},
+      {QStringLiteral("cancelled refresh"), 4, [this] { cancelRefresh(); }},
       {QStringLiteral("help"), 3, onAny(&SoakedProgram::lookAtHelp)},
       {QStringLiteral("wandering"), 4, onAny(&SoakedProgram::wander)},
       {QStringLiteral("web update"), 4, onAny(&SoakedProgram::updateFromWeb)},
@@ -152,6 +154,10 @@ void Soak::exchange() {
   SoakedProgram& getter = steadyShares ? restless_ : steady_;
   const bool isAdded = !dice_.oneIn(3);
   sharer.shareWith(getter, isAdded, dice_.oneIn(3));
+}
+
+void Soak::cancelRefresh() {
+  if (anyProgram().cancelRefresh()) ++counts_[QStringLiteral("cancelled refresh, before it ended")];
 }
 
 void Soak::leaveAndReturn(SoakedProgram::WayOut way) {

@@ -113,6 +113,15 @@ bool Listing::isIn(const QByteArray& file) const {
   return found == entriesOf(*this);
 }
 
+Listing Listing::cutAs(const QByteArray& file) const {
+  const PlainBlocks blocks = blocksOf(file, volume.toStdString());
+  Listing cut = *this;
+  std::erase_if(cut.files, [&](const auto& one) {
+    return !blocks.contains(listedFolder(top, one.first).toStdString());
+  });
+  return cut;
+}
+
 QStringList Listing::hits(const QStringList& words) const {
   QStringList rows;
   const auto count = static_cast<int>(words.size());

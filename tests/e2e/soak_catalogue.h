@@ -55,6 +55,8 @@ struct Listing {
   /// Whether a file holds exactly these entries. Throws std::runtime_error for one that is no listing of the
   /// volume.
   bool isIn(const QByteArray& file) const;
+  /// What is left of it where only the folders that `file` has were walked.
+  Listing cutAs(const QByteArray& file) const;
   /// What a search for `words` at a desired match of 50% has to find in it, as rows of the hit list when they
   /// are copied.
   QStringList hits(const QStringList& words) const;

@@ -68,6 +68,7 @@ SoakedProgram::SoakedProgram(const QString& name, ProgramHome& home, WebSite& si
   lists_.offline.push_back({QStringLiteral("Offline"), offlineOnDisk_.front()});
   saved_ = lists_;
   main_ = mainListing();
+  everListed_[QStringLiteral("main.txt")] = {main_};
   home_.folder.writeFile(QStringLiteral("data/main.txt"), main_.text());
   home_.folder.writeFile(QStringLiteral("data/Locations.txt"), listFile(lists_.online));
   home_.folder.writeFile(QStringLiteral("data/OfflineLocations.txt"), listFile(lists_.offline));
@@ -132,16 +133,17 @@ void SoakedProgram::startAgain() {
   waitUntilAtRest();
 }
 
+bool SoakedProgram::isMessageShown() const {
+  const QString window = desktop_.activeWindow();
+  return window != program_->mainWindow() && desktop_.titleOf(window) == kTitle &&
+         desktop_.processOf(window) == program_->processId();
+}
+
 void SoakedProgram::answer(const QStringList& keys) const {
-  QString message;
   waitUntil(
-      QStringLiteral("for a message"),
-      [&] {
-        message = desktop_.activeWindow();
-        return message != program_->mainWindow() && desktop_.titleOf(message) == kTitle &&
-               desktop_.processOf(message) == program_->processId();
-      },
-      [this] { return messageShown(); }, [this] { return activityOf(program_->processId()).ticks; });
+      QStringLiteral("for a message"), [this] { return isMessageShown(); }, [this] { return messageShown(); },
+      [this] { return activityOf(program_->processId()).ticks; });
+  const QString message = desktop_.activeWindow();
   press(keys);
   // It may stay the last window that had the keys.
   waitUntil(
@@ -316,18 +318,29 @@ void SoakedProgram::refreshHasStarted(const Identities& before) {
 }
 
 /// Each listing is what it has to be now, or still what it was: then it stays known so.
-void SoakedProgram::takeOverListings() {
+/// One that was cut may hold less.
+void SoakedProgram::takeOverListings(bool mayBeCut) {
   for (const SourceFolder& folder : folders_) {
     const auto earlier = listings_.find(folder.description());
     const bool isThere = fileIdentity(listingPath(folder)).has_value();
     if (!isThere && earlier == listings_.end()) continue;
     const QByteArray file = listingFile(folder);
     if (isListedAndThere(folder) && folder.listing().isIn(file)) {
-      listings_[folder.description()] = folder.listing();
-    } else if (earlier == listings_.end() || !earlier->second.isIn(file)) {
+      takeOver(folder.description(), folder.listing());
+    } else if (earlier != listings_.end() && earlier->second.isIn(file)) {
+      continue;
+    } else if (const Listing cut = folder.listing().cutAs(file); mayBeCut && cut.isIn(file)) {
+      takeOver(folder.description(), cut);
+    } else {
       fail(QStringLiteral("the listing of %1 is neither the old nor the new one").arg(folder.description()));
     }
   }
+}
+
+void SoakedProgram::takeOver(const QString& description, const Listing& listing) {
+  listings_[description] = listing;
+  std::vector<Listing>& ever = everListed_[description + QStringLiteral(".txt")];
+  if (ever.empty() || !(ever.back().files == listing.files)) ever.push_back(listing);
 }
 
 void SoakedProgram::refresh() {

@@ -45,7 +45,11 @@ class SoakedProgram {
   void editOfflineLists(Dice& dice);
   void editOptions(Dice& dice);
   void preview(Dice& dice);
-  void lookAtHistory(Dice& dice);
+  /// Brings an earlier version of a listing back, or only looks at the history.
+  void restoreListing(Dice& dice);
+  /// A refresh that is cancelled, whose listings are short then, and another one. False when the first one has
+  /// ended before it could be cancelled.
+  bool cancelRefresh();
   void lookAtHelp(Dice& dice);
   void wander(Dice& dice);
   void updateFromWeb(Dice& dice);
@@ -82,6 +86,7 @@ class SoakedProgram {
   /// Waits for a message, and gives this answer to it.
   void answer(const QStringList& keys) const;
   void waitUntilAtRest() const;
+  bool isMessageShown() const;
   /// The window that has the keys, and its text where it is a message.
   QString messageShown() const;
 
@@ -98,7 +103,11 @@ class SoakedProgram {
   void startRefresh() const;
   void waitForRefreshed(const Identities& before, int count) const;
   void refreshHasStarted(const Identities& before);
-  void takeOverListings();
+  void takeOverListings(bool mayBeCut = false);
+  void takeOver(const QString& description, const Listing& listing);
+  void takeOverRestored(const QString& name);
+  bool pressCancel(const Identities& before) const;
+  void refreshAgain();
 
   void selectRow(int row) const;
   QString editOnce(SourceRecords& records, const SourceRecords& unlisted, const AddEntry& add,
@@ -126,6 +135,8 @@ class SoakedProgram {
   std::vector<SourceFolder> folders_;
   /// By the descriptions of own folders; those that have been made.
   std::map<QString, Listing> listings_;
+  /// By the names of listings in the data folder: what they have held, the history's versions among it.
+  std::map<QString, std::vector<Listing>> everListed_;
   /// By path.
   std::map<QString, Listing> offline_;
   std::vector<QString> offlineOnDisk_;

@@ -166,14 +166,6 @@ void SoakedProgram::preview(Dice& dice) {
   waitUntilAtRest();
 }
 
-void SoakedProgram::lookAtHistory(Dice& dice) {
-  note(QStringLiteral("listing history"));
-  program_->openFromFileMenu({QStringLiteral("h")}, QStringLiteral("Listing History"));
-  press(times(1 + dice.below(3), QStringLiteral("Down")) + QStringList{QStringLiteral("Escape")});
-  program_->waitForMainWindow();
-  waitUntilAtRest();
-}
-
 void SoakedProgram::lookAtHelp(Dice& dice) {
   const QString page = dice.oneIn(2) ? QStringLiteral("u") : QStringLiteral("r");
   note(QStringLiteral("help, ") + page);
@@ -224,6 +216,7 @@ void SoakedProgram::updateFromWeb(Dice& dice) {
         [&] { return home_.dataFile(QStringLiteral("main.txt")) == next.text(); },
         [this] { return messageShown(); });
     main_ = next;
+    everListed_[QStringLiteral("main.txt")].push_back(next);
   } else {
     answer({isNew ? QStringLiteral("alt+n") : QStringLiteral("Return")});
   }
