@@ -33,6 +33,8 @@ SearchTextEdit::SearchTextEdit(QWidget* parent)
   menu_->setObjectName(QStringLiteral("SearchHistory"));
   menu_->setAccessibleName(QStringLiteral("Earlier searches"));
   connect(button_, &QToolButton::clicked, this, &SearchTextEdit::showHistory);
+  connect(this, &QLineEdit::textChanged, this, &SearchTextEdit::describeCompletion);
+  connect(this, &QLineEdit::cursorPositionChanged, this, &SearchTextEdit::describeCompletion);
 }
 
 void SearchTextEdit::setEdgeMargin(int pixels) {
@@ -52,6 +54,11 @@ QString SearchTextEdit::completion() const {
   const bool isAtEnd = cursorPosition() == text().size() && !hasSelectedText();
   if (!hasFocus() || !isAtEnd || isComposing_ || isRightToLeft() || text().isRightToLeft()) return {};
   return completionOf(history_, text()).mid(text().size());
+}
+
+void SearchTextEdit::describeCompletion() {
+  const QString rest = completion();
+  setAccessibleDescription(rest.isEmpty() ? QString() : QStringLiteral("Right adds \"%1\"").arg(rest));
 }
 
 void SearchTextEdit::showHistory() {

@@ -12,7 +12,8 @@ namespace quorvin {
 /// A line edit that knows earlier texts. Down, or the small button at its end, shows them in a menu, and the
 /// one that is chosen takes the place of the text. Behind the text that is being typed, the rest of the
 /// newest one that begins with it is shown in a quiet colour; Right or End at the end of the text takes it.
-/// Until then it is no part of the text, so that nobody searches for more than was typed.
+/// Until then it is no part of the text, so that nobody searches for more than was typed; screen readers
+/// find it in the description.
 ///
 /// The frame is a little away from the control's right edge, so that the control itself can reach to the edge
 /// of the window.
@@ -46,6 +47,7 @@ class SearchTextEdit : public QLineEdit {
  private:
   /// Makes `text` the text as if it had been typed.
   void take(const QString& text);
+  void describeCompletion();
   void placeButton();
   QRect frameRect() const { return rect().adjusted(0, 0, -edgeMargin_, 0); }
 

@@ -86,6 +86,7 @@ TEST_F(SearchText, TheRestOfAnEarlierTextIsShownBehindWhatIsTypedAndIsNoPartOfIt
   search({QStringLiteral("tune 1"), QStringLiteral("TUNE 2 zebra")});
   typeText(QStringLiteral("tu"));
   EXPECT_EQ(box().completion(), QStringLiteral("NE 2 zebra"));
+  EXPECT_EQ(box().accessibleDescription(), QStringLiteral("Right adds \"NE 2 zebra\""));
   EXPECT_EQ(text(), QStringLiteral("tu"));
   press(Qt::Key_Return);
   EXPECT_EQ(rows(), 2) << "only what was typed is searched for";
@@ -99,6 +100,7 @@ TEST_F(SearchText, RightAndEndAtTheEndTakeTheRest) {
     press(key);
     EXPECT_EQ(text(), QStringLiteral("Rock live")) << key;
     EXPECT_EQ(box().completion(), QString()) << key;
+    EXPECT_EQ(box().accessibleDescription(), QString()) << key;
     press(key);
     EXPECT_EQ(text(), QStringLiteral("Rock live")) << key;
   }
