@@ -67,7 +67,7 @@ class TextGathering {
       for (; (ends & (place - 1)) != 0; ends &= ends - 1) nextText();
       texts_[text_ / 64] |= std::uint64_t{1} << (text_ % 64);
       // The rest of this text is skipped.
-      places &= ~(ends == 0 ? ~std::uint64_t{0} : ends ^ (ends - 1));
+      places &= ~(ends ^ (ends - 1));
     }
     for (; ends != 0; ends &= ends - 1) nextText();
   }
