@@ -50,12 +50,13 @@ SegmentSearch::SegmentSearch(const SearchQuery& query)
       inEntries_(wordDecides_),
       inFolders_(wordDecides_) {
   if (!fewWords_) return;
-  for (std::size_t set = 0; set < counts_.size(); ++set) {
+  for (std::size_t set = 0; int& count : counts_) {
     WordSet seen;
     for (std::size_t word = 0; word < query.words().size(); ++word) {
       if ((set >> word & 1U) != 0) seen.add(word);
     }
-    counts_[set] = countOfMany(seen);
+    count = countOfMany(seen);
+    ++set;
   }
 }
 

@@ -140,10 +140,9 @@ bool WordSearch::findTexts(std::string_view text, const Needle& needle, bool& en
 void WordSearch::seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen) {
   const std::uint32_t before = stretch.first - stretch.firstText;
   const std::uint32_t end = stretch.last - stretch.firstText;
-  const std::size_t elements = (end + 63) / 64;
   texts_[0] &= ~std::uint64_t{0} << before;
-  if (end % 64 != 0) texts_[elements - 1] &= (std::uint64_t{1} << (end % 64)) - 1;
-  seen.seeAll(stretch.firstText, {texts_.data(), elements}, word);
+  texts_[end / 64] &= (std::uint64_t{1} << (end % 64)) - 1;
+  seen.seeAll(stretch.firstText, {texts_.data(), end / 64 + 1}, word);
 }
 
 }  // namespace quorvin

@@ -23,7 +23,7 @@ ByteCheck::ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint
 }
 
 void ByteCheck::forget() {
-  std::ranges::fill(good_, std::uint8_t{0});
+  std::ranges::fill(good_, false);
   goodBlocks_ = 0;
 }
 
@@ -38,7 +38,7 @@ void ByteCheck::checkBlocks(std::size_t first, std::size_t last) const {
   for (std::size_t block = first; block < end; ++block) {
     const std::size_t begin = block * kBlockSize;
     requireBlock(block, bytes_.subspan(begin, std::min(kBlockSize, bytes_.size() - begin)));
-    good_[block] = 1;
+    good_[block] = true;
     ++goodBlocks_;
   }
 }

@@ -66,7 +66,7 @@ class ByteCheck {
   std::span<const std::byte> bytes_;
   std::span<const std::uint64_t> sums_;
   Fetch fetch_;
-  /// A 1 for each block that is there and good; asking does not change what the bytes are.
+  /// True for each block that is there and good; asking does not change what the bytes are.
   mutable std::vector<std::uint8_t> good_;
   mutable std::size_t goodBlocks_ = 0;
   mutable bool foundDamage_ = false;

@@ -159,15 +159,9 @@ void SegmentFileWriter::write(const void* data, std::size_t size) {
   position_ += size;
 }
 
-void SegmentFileWriter::pad() {
-  const std::size_t over = position_ % kMappingAlignment;
-  if (over == 0) return;
-  const std::vector<char> zeros(kMappingAlignment - over, 0);
-  write(zeros.data(), zeros.size());
-}
-
 void SegmentFileWriter::append(const Segment& segment) {
-  pad();
+  // Where it can be mapped. What lies between is never written, and takes up no room on the disk.
+  position_ = (position_ + kMappingAlignment - 1) / kMappingAlignment * kMappingAlignment;
   SegmentArrays arrays = segment.arrays();
   SegmentRecord record{};
   SegmentLayout layout(record);

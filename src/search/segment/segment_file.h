@@ -48,7 +48,6 @@ class SegmentFileWriter {
 
  private:
   void write(const void* data, std::size_t size);
-  void pad();
 
   FileAside file_;
   /// The same, once it has been opened for reading.

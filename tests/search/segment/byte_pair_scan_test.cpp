@@ -141,6 +141,14 @@ TEST(RarestPair, TakesTheTwoRarestBytes) {
   EXPECT_EQ(pair.secondAt, 7);
 }
 
+TEST(RarestPair, TheLastByteOfACharacterBeyondAsciiIsRarerThanAnyLetterAndItsFirstByteIsCommon) {
+  const BytePair pair = rarestPair("qo\xC3\xA4");
+  EXPECT_EQ(pair.first, 0xA4);
+  EXPECT_EQ(pair.firstAt, 3);
+  EXPECT_EQ(pair.second, 'q');
+  EXPECT_EQ(pair.secondAt, 0);
+}
+
 TEST(RarestPair, WordOfOneByteIsItsOwnPair) {
   const BytePair pair = rarestPair("e");
   EXPECT_EQ(pair.first, 'e');

@@ -61,6 +61,25 @@ TEST_F(CheckedSpanTest, AStretchMayEndOneByteIntoABlock) {
   EXPECT_FALSE(check.foundDamage());
 }
 
+TEST_F(CheckedSpanTest, AStretchMayEndWithABlock) {
+  const auto stretch = bytes().first(2 * kBlock);
+  const std::vector<std::uint64_t> sums = checksumsOf(stretch);
+  ASSERT_EQ(sums.size(), 2U);
+  const ByteCheck check(stretch, sums);
+  const CheckedSpan<std::byte> span(stretch, 0, 2 * kBlock, check);
+  EXPECT_EQ(span.all().size(), 2 * kBlock);
+  EXPECT_FALSE(check.foundDamage());
+}
+
+TEST_F(CheckedSpanTest, ABlockBehindTheStretchIsDamageWhateverItsBytes) {
+  // Behind the sums of the first two blocks is that of the third, but it is not theirs.
+  const ByteCheck check(bytes().first(2 * kBlock), std::span(sums_).first(2));
+  check.requireBlock(1, bytes().subspan(kBlock, kBlock));
+  EXPECT_FALSE(check.foundDamage());
+  EXPECT_THROW(check.requireBlock(2, bytes().subspan(2 * kBlock, kBlock)), DamagedSegment);
+  EXPECT_TRUE(check.foundDamage());
+}
+
 TEST_F(CheckedSpanTest, LastBlockMayBeShort) {
   damage(3 * kBlock + 4);
   EXPECT_EQ(span_[3 * kBlock / 4 - 1], 3 * kBlock / 4 - 1);

@@ -94,6 +94,21 @@ TEST_F(SegmentBuilderTest, OnlyTheAskedValuesAreRead) {
   EXPECT_EQ(segment().arrays().values[3].second, CompactValues::kAbsent);
 }
 
+TEST(GrowingSegment, HasTheValuesOfItsOwnEntriesOnlyAfterItWasCleared) {
+  GrowingSegment segment;
+  segment.beginBlock("V1", "\\Music\\", true);
+  for (const std::uint32_t entry : {0U, 1U}) {
+    segment.addEntry("Song", true);
+    segment.setValues(entry, ValueState::Own, {1500, 1}, entry);
+  }
+  segment.clear();
+  segment.beginBlock("V2", "\\Films\\", true);
+  segment.addEntry("Film", true);
+  segment.publish();
+  ASSERT_EQ(segment.arrays().values.size(), 1U);
+  EXPECT_EQ(segment.arrays().values[0].second, CompactValues::kAbsent);
+}
+
 TEST_F(SegmentBuilderTest, ReadingAgainChangesNothing) {
   add(test::entryLine("a", "n/a") + test::entryLine("b", "99999999999"));
   builder_.readValues(0);

@@ -87,6 +87,13 @@ TEST_P(SegmentFileTest, TheFileEndsInItsEightLetters) {
   EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT7"));
 }
 
+TEST_P(SegmentFileTest, EachSegmentStartsAtTheNextMultipleOf65536Bytes) {
+  // The first one at the front; both are far smaller than that.
+  const auto directory = qFromUnaligned<quint64>(whole_.constData() + whole_.size() - kTrailerSize);
+  EXPECT_GT(directory, 65536U);
+  EXPECT_LT(directory, 2U * 65536U);
+}
+
 TEST_P(SegmentFileTest, OtherLettersAreAnotherFormat) {
   QByteArray other = whole_;
   other.replace(other.size() - 8, 8, "QVSEGMT6");

@@ -28,6 +28,11 @@ TEST_F(SegmentStoreTest, AnotherRunUsesTheFileOfTheOneBefore) {
   expectRight(second);
 }
 
+TEST_F(SegmentStoreTest, AFileIsNamedAfterTheChecksumOfItsListingsPathInSixteenDigits) {
+  EXPECT_EQ(segmentFilePath(u"/cache/"_qs, u"/lists/1.lst"_qs), u"/cache/e8881987c5049c1f.qsegments"_qs);
+  EXPECT_EQ(segmentFilePath(u"/cache/"_qs, u"/lists/20.lst"_qs), u"/cache/0ab5591f1bf0a51c.qsegments"_qs);
+}
+
 TEST_F(SegmentStoreTest, FilesOfEarlierVersionsAreRemovedWhenAListingIsKept) {
   const QString kept = folder_.writeFile(u"cache/0123456789abcdef.qimage"_qs, "of an earlier version");
   const QString unfinished = folder_.writeFile(u"cache/0123456789abcdef.qimage.7.new"_qs, "begun");
