@@ -10,6 +10,8 @@
 namespace quorvin {
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr NameTraits kBeyondAscii = 4;
 
 constexpr std::array<NameTraits, 256> traitsOfBytes() {
@@ -72,11 +74,11 @@ NameTraits traitsOfName(std::string_view name) {
 }
 
 std::string listedText(std::string_view name) {
-  return replaced(name, std::string_view("\\\r\n\0", 4));
+  return replaced(name, "\\\r\n\0"sv);
 }
 
 std::string lineText(std::string_view text) {
-  return replaced(text, std::string_view("\r\n\0", 3));
+  return replaced(text, "\r\n\0"sv);
 }
 
 std::string_view cutToColumns(std::string_view listed, std::size_t columns) {
