@@ -131,10 +131,9 @@ std::optional<EndRecord> endRecordOf(const RandomAccessFile& file, std::int64_t 
   const std::int64_t start = std::max<std::int64_t>(0, length - kTailSize);
   const QByteArray tail = file.read(start, length - start);
   std::optional<EndRecord> last;
-  for (qsizetype end = tail.size(); end > 0;) {
-    const qsizetype at = QByteArrayView(tail).first(end).lastIndexOf(kZipEndRecord);
-    if (at < 0) break;
-    end = at + kZipEndRecord.size() - 1;
+  const QByteArrayView bytes(tail);
+  for (qsizetype at = bytes.lastIndexOf(kZipEndRecord); at >= 0;
+       at = bytes.first(at).lastIndexOf(kZipEndRecord)) {
     if (tail.size() - at < kZipEndRecordSize) continue;
     if (tail.size() - at - kZipEndRecordSize < ZipBytes(tail).number<quint16>(at + 20)) continue;
     const EndRecord record = endRecordAt(file, tail, start, at);

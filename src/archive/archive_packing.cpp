@@ -95,7 +95,6 @@ class ListingReader {
     } catch (const RuntimeFault& fault) {
       fault_ = fault;
     }
-    zip_error_set(&error_, ZIP_ER_READ, 0);
     return -1;
   }
 
@@ -125,7 +124,8 @@ class ListingReader {
   std::size_t size_;
   std::size_t bytesLeft_;
   const ArchivePause& pause_;
-  zip_error_t error_{};
+  /// What libzip is told when it asks why: reading is all that can fail.
+  zip_error_t error_{ZIP_ER_READ, 0, nullptr};
   bool isStopped_ = false;
   std::optional<RuntimeFault> fault_;
 };
@@ -198,8 +198,7 @@ class ArchiveWriter {
 };
 
 Archive newArchive(ArchiveWriter& writer, const QString& path) {
-  zip_error_t error;
-  zip_error_init(&error);
+  zip_error_t error{};
   zip_source_t* source = zip_source_function_create(ArchiveWriter::serve, &writer, &error);
   Archive archive(source ? zip_open_from_source(source, ZIP_TRUNCATE, &error) : nullptr);
   if (archive) return archive;
@@ -256,7 +255,7 @@ bool mayBeReplacedByPacking(const QString& path) {
 
 bool isMadeByPacking(const QString& path) {
   const QFileInfo file(path);
-  if (!file.isFile() || file.isSymLink() || file.size() == 0) return false;
+  if (!file.isFile() || file.isSymLink()) return false;
   try {
     return hasMark(openArchive(path).get());
   } catch (const RuntimeFault&) {

@@ -84,6 +84,22 @@ TEST(ArchiveEnd, TheCommentBelongsToTheArchive) {
 
 TEST(ArchiveEnd, AnArchiveWithoutEntriesIsItsEndRecord) {
   EXPECT_EQ(endIn(endRecord(0, 0, 0) + "List: x.zip", 5), 22);
+  const TemporaryFolder folder;
+  const RandomAccessFile file(folder.writeFile(QStringLiteral("a.zip"), endRecord(0, 0, 0)));
+  const std::optional<EndRecord> end = endRecordOf(file, 22);
+  ASSERT_TRUE(end);
+  EXPECT_EQ(end->place, 0);
+}
+
+TEST(ArchiveEnd, RecordsBehindTheRealOneArePassedOver) {
+  // One that points elsewhere, and one that is cut short.
+  const QByteArray archive = stored("some text", endRecord(7, 7, 7) + "PK\x05\x06");
+  const TemporaryFolder folder;
+  const RandomAccessFile file(folder.writeFile(QStringLiteral("a.zip"), archive));
+  const std::optional<EndRecord> end = endRecordOf(file, archive.size());
+  ASSERT_TRUE(end);
+  EXPECT_EQ(end->place, archive.size() - 26 - 22);
+  EXPECT_EQ(end->entries, 1U);
 }
 
 TEST(ArchiveEnd, AnArchiveInsideAnotherIsNotItsEnd) {
@@ -100,13 +116,13 @@ TEST(ArchiveEnd, AnEndRecordThatPointsElsewhereIsNone) {
 }
 
 /// The three records at the end of an archive beyond the limits of the plain one.
-QByteArray largeEnd(quint64 offset, quint64 size, quint64 recordPlace) {
+QByteArray largeEnd(quint64 offset, quint64 size, quint64 recordPlace, const QByteArray& comment = {}) {
   const QByteArray record = QByteArray("PK\x06\x06", 4) + little(quint64{44}) + little(quint16{45}) +
                             little(quint16{45}) + little(quint32{0}) + little(quint32{0}) +
                             little(quint64{1}) + little(quint64{1}) + little(size) + little(offset);
   const QByteArray locator =
       QByteArray("PK\x06\x07", 4) + little(quint32{0}) + little(recordPlace) + little(quint32{1});
-  return record + locator + endRecord(0xFFFFFFFF, 0xFFFFFFFF, 0xFFFF);
+  return record + locator + endRecord(0xFFFFFFFF, 0xFFFFFFFF, 0xFFFF, comment);
 }
 
 TEST(ArchiveEnd, ALargeArchiveIsKnownByItsLargeRecord) {
@@ -115,6 +131,18 @@ TEST(ArchiveEnd, ALargeArchiveIsKnownByItsLargeRecord) {
   for (const qsizetype piece : {1, 2, 3, 7, 50, 1000}) {
     EXPECT_EQ(endIn(archive + "more", piece), archive.size()) << piece;
   }
+}
+
+TEST(ArchiveEnd, ALargeArchiveMayHaveACommentOfTheGreatestLength) {
+  const QByteArray directory = "PK\x01\x02" + QByteArray(96, '\0');
+  const QByteArray archive =
+      QByteArray(104, 'x') + directory + largeEnd(104, 100, 204, QByteArray(65535, 'c'));
+  const TemporaryFolder folder;
+  const RandomAccessFile file(folder.writeFile(QStringLiteral("a.zip"), archive));
+  const std::optional<EndRecord> end = endRecordOf(file, archive.size());
+  ASSERT_TRUE(end);
+  EXPECT_EQ(end->place, 204);
+  EXPECT_EQ(end->entries, 1U);
 }
 
 TEST(ArchiveEnd, ALargeRecordThatPointsElsewhereIsNone) {

@@ -29,6 +29,8 @@ struct Told {
   std::uint32_t mode;
   bool isLarge;
   QByteArray unicodeExtra;
+  QByteArray directoryExtra;
+  QByteArray comment;
   std::uint64_t place = 0;
 };
 
@@ -57,7 +59,9 @@ Told toldOf(const MadeEntry& entry, const QByteArray& packed) {
           entry.toldSize.value_or(static_cast<std::uint64_t>(entry.content.size())),
           entry.mode,
           entry.isLarge,
-          unicodeExtraOf(entry)};
+          unicodeExtraOf(entry),
+          entry.directoryExtra,
+          entry.comment};
 }
 
 void putDescription(QByteArray& bytes, const Told& told) {
@@ -110,18 +114,18 @@ void putBeforeContent(QByteArray& bytes, const Told& told) {
 }
 
 void putInDirectory(QByteArray& bytes, const Told& told) {
-  const QByteArray extra = largeExtra(told, true) + told.unicodeExtra;
+  const QByteArray extra = largeExtra(told, true) + told.unicodeExtra + told.directoryExtra;
   bytes += "PK\x01\x02";
   put<std::uint16_t>(bytes, kMadeOnUnix);
   putDescription(bytes, told);
   put<std::uint16_t>(bytes, static_cast<std::uint16_t>(told.name.size()));
   put<std::uint16_t>(bytes, static_cast<std::uint16_t>(extra.size()));
-  put<std::uint16_t>(bytes, 0);
+  put<std::uint16_t>(bytes, static_cast<std::uint16_t>(told.comment.size()));
   put<std::uint16_t>(bytes, 0);
   put<std::uint16_t>(bytes, 0);
   put<std::uint32_t>(bytes, told.mode << 16U);
   put<std::uint32_t>(bytes, told.isLarge ? kSeeExtra : static_cast<std::uint32_t>(told.place));
-  bytes += told.name + extra;
+  bytes += told.name + extra + told.comment;
 }
 
 void putLargeEnd(QByteArray& bytes, std::uint64_t count, std::uint64_t place, std::uint64_t size) {

@@ -46,6 +46,9 @@ struct MadeEntry {
   std::optional<std::uint32_t> headerPackedSize;
   /// A further name in UTF-8, with the checksum of the plain one before it, as other programs write it.
   std::optional<QByteArray> unicodeName;
+  /// Further extra fields, and a comment; both are in the directory only.
+  QByteArray directoryExtra;
+  QByteArray comment;
   /// No bytes of its own: it shares those of the entry with this number.
   std::optional<std::size_t> sharesBytesOf;
 };

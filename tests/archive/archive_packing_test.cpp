@@ -102,6 +102,18 @@ TEST(ArchivePacking, OnlyItsOwnArchivesAndEmptyFilesMayBeReplaced) {
   EXPECT_FALSE(mayBeReplacedByPacking(folder.writeFile(QStringLiteral("other.zip"), unmarked)));
 }
 
+TEST(ArchivePacking, KnowsWhatItHasMade) {
+  const TemporaryFolder folder;
+  const QString archive = folder.pathOf(QStringLiteral("a.zip"));
+  EXPECT_FALSE(isMadeByPacking(archive));
+  packListing(folder.writeFile(QStringLiteral("a.txt"), "x"), archive, neverStop);
+  EXPECT_TRUE(isMadeByPacking(archive));
+  ASSERT_TRUE(QFile::link(archive, folder.pathOf(QStringLiteral("link.zip"))));
+  EXPECT_FALSE(isMadeByPacking(folder.pathOf(QStringLiteral("link.zip"))));
+  EXPECT_FALSE(isMadeByPacking(folder.writeFile(QStringLiteral("empty.zip"), "")));
+  EXPECT_FALSE(isMadeByPacking(folder.writeFile(QStringLiteral("text.zip"), "mine")));
+}
+
 TEST(ArchivePacking, ReportsHowMuchHasBeenPacked) {
   const TemporaryFolder folder;
   const QString listing = folder.writeFile(QStringLiteral("a.txt"), QByteArray(10000000, 'x'));

@@ -196,6 +196,19 @@ TEST_F(ArchiveRefused, WrongNumberOfEntriesIsRefused) {
   refusalOf(archiveOf({named("a.txt")}, form), ArchiveErrorCode::Contradictory);
 }
 
+TEST_F(ArchiveRefused, ADirectoryOf64MebibytesIsTakenAndALargerOneRefused) {
+  // 512 descriptions of 131,072 bytes: 46, a name of 3, and the rest.
+  MadeEntry entry;
+  entry.directoryExtra = QByteArray("\xFE\xCA\xFB\xFF", 4) + QByteArray(65531, 'x');
+  entry.comment = QByteArray(65488, 'c');
+  std::vector<MadeEntry> entries(512, entry);
+  for (int i = 0; i < 512; ++i) entries[static_cast<std::size_t>(i)].name = QByteArray::number(100 + i);
+  EXPECT_EQ(unpack(entries), UnpackingOutcome::Unpacked);
+  EXPECT_EQ(tree().size(), 512U);
+  entries.back().comment += 'c';
+  refusalOf(entries, ArchiveErrorCode::Contradictory);
+}
+
 TEST_F(ArchiveRefused, FlatBombIsRefused) {
   // A megabyte of packed zeros is a gigabyte.
   MadeEntry bomb = named("a.txt");
