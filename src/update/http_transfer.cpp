@@ -66,8 +66,8 @@ std::optional<std::int64_t> announcedLength(const QNetworkReply& reply) {
 
 }  // namespace
 
-HttpNetworkTransfer::HttpNetworkTransfer(HttpLimits limits, QObject* parent)
-    : QObject(parent), limits_(limits) {
+HttpNetworkTransfer::HttpNetworkTransfer(HttpLimits limits, std::unique_ptr<QNetworkAccessManager> network)
+    : limits_(limits), network_(std::move(network)) {
   headerDeadline_.setSingleShot(true);
   connect(&headerDeadline_, &QTimer::timeout, this,
           [this] { fail(FaultNumber::DeviceError, QStringLiteral("the server did not answer in time")); });
@@ -82,7 +82,7 @@ HttpNetworkTransfer::~HttpNetworkTransfer() {
 
 void HttpNetworkTransfer::execute(const QUrl& address) {
   cancel();
-  reply_ = network_.get(requestFor(address));
+  reply_ = network_->get(requestFor(address));
   reply_->setReadBufferSize(kHttpReadBuffer);
   connect(reply_, &QNetworkReply::metaDataChanged, this, &HttpNetworkTransfer::headersArrived);
   connect(reply_, &QNetworkReply::finished, this, &HttpNetworkTransfer::finished);

@@ -13,6 +13,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 namespace quorvin {
@@ -64,7 +65,9 @@ class HttpNetworkTransfer : public QObject, public HttpTransfer {
   Q_OBJECT
 
  public:
-  explicit HttpNetworkTransfer(HttpLimits limits = {}, QObject* parent = nullptr);
+  /// What `network` says of a document is not trusted either: Qt takes some broken answers for whole.
+  explicit HttpNetworkTransfer(HttpLimits limits = {}, std::unique_ptr<QNetworkAccessManager> network =
+                                                           std::make_unique<QNetworkAccessManager>());
   ~HttpNetworkTransfer() override;
 
   void execute(const QUrl& address) override;
@@ -83,7 +86,7 @@ class HttpNetworkTransfer : public QObject, public HttpTransfer {
   void throwIfFailed() const;
 
   HttpLimits limits_;
-  QNetworkAccessManager network_;
+  std::unique_ptr<QNetworkAccessManager> network_;
   QTimer headerDeadline_;
   QTimer silence_;
   /// The manager's; null while there is no transfer.

@@ -15,6 +15,47 @@ using testing::Not;
 
 class HttpNetworkTransferTest : public HttpTransferTest {};
 
+/// The answer of a server that has announced 5000 bytes, reported as whole after these.
+class ReplyTakenForWhole : public QNetworkReply {
+ public:
+  ReplyTakenForWhole(QByteArray bytes, QObject* parent) : QNetworkReply(parent), bytes_(std::move(bytes)) {
+    setAttribute(QNetworkRequest::HttpStatusCodeAttribute, 200);
+    setRawHeader("Content-Length", "5000");
+    open(QIODevice::ReadOnly);
+    QTimer::singleShot(0, this, [this] {
+      Q_EMIT metaDataChanged();
+      setFinished(true);
+      Q_EMIT finished();
+    });
+  }
+  void abort() override {}
+  qint64 bytesAvailable() const override { return bytes_.size() + QNetworkReply::bytesAvailable(); }
+
+ protected:
+  qint64 readData(char* data, qint64 most) override {
+    const QByteArray part = bytes_.first(std::min<qint64>(most, bytes_.size()));
+    bytes_.remove(0, part.size());
+    std::copy(part.begin(), part.end(), data);
+    return part.size();
+  }
+
+ private:
+  QByteArray bytes_;
+};
+
+class NetworkThatTakesAnyAnswerForWhole : public QNetworkAccessManager {
+ public:
+  explicit NetworkThatTakesAnyAnswerForWhole(qsizetype size) : size_(size) {}
+
+ protected:
+  QNetworkReply* createRequest(Operation, const QNetworkRequest&, QIODevice*) override {
+    return new ReplyTakenForWhole(QByteArray(size_, 'x'), this);
+  }
+
+ private:
+  qsizetype size_;
+};
+
 QByteArray bodyOf(qsizetype size) {
   QByteArray body;
   while (body.size() < size) body += QByteArray::number(body.size()) + ' ';
@@ -154,6 +195,16 @@ TEST_F(HttpNetworkTransferTest, TellsRefusalsByTheirNumber) {
   EXPECT_EQ(get({refusal(206)}).fault, 57);
 }
 
+TEST_F(HttpNetworkTransferTest, DoesNotWaitForTheRestOfAnAnswerThatIsNoDocument) {
+  for (const int status : {299, 400, 404, 500}) {
+    const QByteArray number = QByteArray::number(status);
+    const Outcome outcome =
+        get({sendsAndWaits("HTTP/1.1 " + number + " Other\r\nContent-Length: 1000\r\n\r\nthe first of it")});
+    EXPECT_TRUE(outcome.description.endsWith(u": the server answered %1"_qs.arg(status)))
+        << outcome.description.toStdString();
+  }
+}
+
 TEST_F(HttpNetworkTransferTest, FailsWithoutAServer) {
   QUrl address;
   {
@@ -166,6 +217,20 @@ TEST_F(HttpNetworkTransferTest, FailsWithoutAServer) {
 
 TEST_F(HttpNetworkTransferTest, FailsOnABodyThatEndsTooEarly) {
   EXPECT_EQ(get({sends(headersOf("Content-Length: 5000\r\n") + QByteArray(2000, 'x'))}).fault, 62);
+}
+
+TEST_F(HttpNetworkTransferTest, FailsOnABodyThatEndsTooEarlyThoughTheNetworkTakesItForWhole) {
+  const QUrl address(u"http://127.0.0.1/main.zip"_qs);
+  HttpNetworkTransfer cut({}, std::make_unique<NetworkThatTakesAnyAnswerForWhole>(4999));
+  EXPECT_EQ(HttpTransferTest::get(cut, address).fault, 62);
+  HttpNetworkTransfer whole({}, std::make_unique<NetworkThatTakesAnyAnswerForWhole>(5000));
+  EXPECT_EQ(HttpTransferTest::get(whole, address).body.size(), 5000);
+}
+
+TEST_F(HttpNetworkTransferTest, FailsOnALargeBodyThatEndsTooEarly) {
+  const Outcome outcome = get({sends(headersOf("Content-Length: 5000000\r\n") + bodyOf(3'000'000))});
+  EXPECT_EQ(outcome.fault, 62);
+  EXPECT_LE(outcome.body.size(), 3'000'000);
 }
 
 TEST_F(HttpNetworkTransferTest, FailsOnAnAnswerThatIsNone) {

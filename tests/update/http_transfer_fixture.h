@@ -20,6 +20,7 @@ class HttpTransferTest : public testing::Test {
     QByteArray body;
     /// The fault's number; 0 for none.
     int fault = 0;
+    QString description;
   };
 
   /// Executes and reads to the end.
@@ -36,6 +37,7 @@ class HttpTransferTest : public testing::Test {
       }
     } catch (const RuntimeFault& fault) {
       outcome.fault = fault.number();
+      outcome.description = fault.description();
     }
     return outcome;
   }
