@@ -77,6 +77,7 @@ TEST(PlacementText, ComesBackAsTheSameNumber) {
 TEST(PlacementValue, TakesTheNumberAtTheFront) {
   EXPECT_EQ(placementValue(QStringLiteral("  1500 twips")), 1500.0F);
   EXPECT_EQ(placementValue(QStringLiteral(" 300")), 300.0F);
+  EXPECT_EQ(placementValue(QStringLiteral("   5")), 5.0F);
   EXPECT_EQ(placementValue(QStringLiteral("-12.5")), -12.5F);
   EXPECT_EQ(placementValue(QStringLiteral("1.5E3")), 1500.0F);
 }

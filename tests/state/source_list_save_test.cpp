@@ -2,6 +2,7 @@
 #include "state/source_list_file.h"
 #include "support/fault_number.h"
 #include "support/qt_printing.h"
+#include "support/recording_message_boxes.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -103,6 +104,24 @@ TEST_F(SourceListSave, ComesBackAsItWas) {
     ASSERT_EQ(loaded.description(row), table_.description(row)) << row;
     ASSERT_EQ(loaded.path(row), table_.path(row)) << row;
   }
+}
+
+TEST_F(SourceListSave, NumbersTheListsThatItKeepsFrom2) {
+  ProgramState state;
+  state.LocalFolder = folder_.path();
+  state.LocFile = QStringLiteral("Locations.txt");
+  state.OnlineSourceCount = 1;
+  RecordingMessageBoxes messages;
+  for (const QString& name : {QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")}) {
+    state.OnlineSources.set(1, name, QStringLiteral("/music/"));
+    folder_.writeFile(QStringLiteral("Locations.txt"), name.toLatin1());
+    EXPECT_TRUE(saveOnlineSources(state, messages));
+  }
+  EXPECT_EQ(folder_.names(),
+            QStringList({QStringLiteral("Locations.txt"), QStringLiteral("Locations.txt.kept"),
+                         QStringLiteral("Locations.txt.kept2"), QStringLiteral("Locations.txt.kept3")}));
+  EXPECT_EQ(folder_.readFile(QStringLiteral("Locations.txt.kept")), "first");
+  EXPECT_EQ(folder_.readFile(QStringLiteral("Locations.txt.kept2")), "second");
 }
 
 TEST_F(SourceListSave, LeavesNothingElseInTheFolder) {
