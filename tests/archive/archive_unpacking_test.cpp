@@ -17,7 +17,7 @@ using testing::IsEmpty;
 
 class ArchiveUnpacking : public ArchiveTest {};
 
-MadeEntry named(const QByteArray& name) {
+MadeEntry newer(const QByteArray& name) {
   MadeEntry entry;
   entry.name = name;
   if (!name.endsWith('/')) entry.content = "newer";
@@ -226,7 +226,7 @@ TEST_F(ArchiveUnpacking, WritesNothingAsideThatStays) {
 TEST_F(ArchiveUnpacking, WhatIsProtectedIsLeftOutAndNamed) {
   outer_.writeFile(u"target/mine.txt"_qs, "earlier");
   archivePath_ = outer_.writeFile(
-      u"lists.zip"_qs, archiveOf({named("mine.txt"), named("sub/"), named("sub/a.txt"), named("b.txt")}));
+      u"lists.zip"_qs, archiveOf({newer("mine.txt"), newer("sub/"), newer("sub/a.txt"), newer("b.txt")}));
   const auto isProtected = [](const QStringList& path) {
     return path.join(u'/') == u"mine.txt" || path.first() == u"sub";
   };
@@ -239,10 +239,10 @@ TEST_F(ArchiveUnpacking, WhatIsProtectedIsLeftOutAndNamed) {
 }
 
 TEST_F(ArchiveUnpacking, WhatIsProtectedIsJudgedLikeTheRest) {
-  MadeEntry encrypted = named("mine.txt");
+  MadeEntry encrypted = newer("mine.txt");
   encrypted.flags = 1;
   encrypted.packed = QByteArray(12, 'k') + "newer";
-  archivePath_ = outer_.writeFile(u"lists.zip"_qs, archiveOf({named("a.txt"), encrypted}));
+  archivePath_ = outer_.writeFile(u"lists.zip"_qs, archiveOf({newer("a.txt"), encrypted}));
   const UnpackingResult result =
       unpackArchive(archivePath_, target_, record_.pause(),
                     {.isProtected = [](const QStringList& path) { return path.first() == u"mine.txt"; }});
