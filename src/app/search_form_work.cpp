@@ -5,6 +5,7 @@
 #include "app/version.h"
 #include "history/listing_history.h"
 #include "platform/ini_settings_store.h"
+#include "platform/machine_memory.h"
 #include "platform/one_window.h"
 #include "platform/standard_folders.h"
 #include "preview/res_win.h"
@@ -45,7 +46,12 @@ SearchFormWork::SearchFormWork(ProgramState& state, MessageBoxes& messages, QWid
 }
 
 bool SearchFormWork::startOrTell(JobKind kind, const std::function<void(Job&)>& action) {
-  if (work_.run(kind, action) != Answer::Refused) return true;
+  const auto runAndTidy = [action](Job& job) {
+    action(job);
+    // Listings and archives are worked on in large pieces, which nobody needs afterwards.
+    giveBackFreedMemory();
+  };
+  if (work_.run(kind, runAndTidy) != Answer::Refused) return true;
   const QString why = work_.refusalOf(kind);
   if (!why.isEmpty()) messages_.inform(why);
   return false;
@@ -153,8 +159,10 @@ void SearchFormWork::connectPeers() {
   QObject::connect(&peers_, &PeerExchange::gettingEnded, &peers_, [this] {
     if (peerProgress_) peerProgress_->hide();
   });
-  QObject::connect(&peers_, &PeerExchange::outcomeDealtWith, &peers_,
-                   [this] { menus_.GetLists->setEnabled(true); });
+  QObject::connect(&peers_, &PeerExchange::outcomeDealtWith, &peers_, [this] {
+    menus_.GetLists->setEnabled(true);
+    giveBackFreedMemory();
+  });
 }
 
 PeerProgress& SearchFormWork::peerProgress() {

@@ -1,5 +1,8 @@
 #include "platform/machine_memory.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <unistd.h>
 
 namespace quorvin {
@@ -9,6 +12,12 @@ std::int64_t machineMemory() {
   const long pageSize = ::sysconf(_SC_PAGE_SIZE);
   constexpr std::int64_t kUnknown = std::int64_t{1} << 30;
   return pages > 0 && pageSize > 0 ? std::int64_t{pages} * pageSize : kUnknown;
+}
+
+void giveBackFreedMemory() {
+#ifdef __GLIBC__
+  ::malloc_trim(0);
+#endif
 }
 
 }  // namespace quorvin
