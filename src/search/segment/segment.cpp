@@ -134,6 +134,8 @@ void GrowingSegment::publish() {
 void GrowingSegment::complete() {
   entries_.completeTrigrams();
   folders_.completeTrigrams();
+  entries_.giveBackRoom();
+  folders_.giveBackRoom();
   publish();
 }
 

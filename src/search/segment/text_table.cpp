@@ -168,6 +168,13 @@ void TextTableBuilder::makeRoom(std::size_t bytes) {
   if (folded_.size() < needed) folded_.resize(std::max(folded_.size() * 3 / 2, needed + kGrowth));
 }
 
+void TextTableBuilder::giveBackRoom() {
+  const std::size_t needed = foldedSize_ + kScanPadding;
+  if (folded_.size() < 2 * needed) return;
+  folded_.resize(needed);
+  folded_.shrink_to_fit();
+}
+
 void TextTableBuilder::addAscii(std::string_view listed) {
   makeRoom(listed.size() + kFoldWidth + 1);
   const std::size_t bits = upperBits_.size();

@@ -113,6 +113,10 @@ class TextTableBuilder {
   /// Makes the trigram sets of all pages. A table has none before; it is then searched without them.
   void completeTrigrams();
 
+  /// Gives back what was reserved for more texts where that is more than the texts take up: a small listing
+  /// is kept for long. table() is to be asked for again.
+  void giveBackRoom();
+
   /// Forgets all texts and keeps the memory.
   void clear();
 

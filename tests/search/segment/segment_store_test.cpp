@@ -236,6 +236,20 @@ TEST_F(SegmentStoreTest, ListingsThatNobodySearchesAnyMoreAreReleased) {
   expectRight(store);
 }
 
+TEST_F(SegmentStoreTest, ASmallListingTakesUpLittleMemory) {
+  const QString small = folder_.writeFile(
+      u"small.lst"_qs, blockHead("V", "\\Music\\") + entryLine("song 1") + entryLine("song 2"));
+  for (const QString& cache : {cache_, QString()}) {
+    SegmentStore store({cache, kPlenty});
+    TestScan scan(u"song"_qs);
+    scan.runFile(small, &store, limits_);
+    EXPECT_EQ(scan.result().hits.size(), 2U);
+    const SegmentStore::Segments segments = store.find(*segmentKeyOf(small, QLocale::c()));
+    ASSERT_EQ(segments.size(), 1U);
+    EXPECT_LT(segments.front()->memorySize(), 16'384U);
+  }
+}
+
 TEST_F(SegmentStoreTest, WhatIsFoundAgainStays) {
   SegmentStore store({QString(), kPlenty});
   scan(store, u"song"_qs);
