@@ -237,6 +237,7 @@ class Version : public ListingBytes {
   std::size_t read(std::span<char> buffer) override {
     if (position_ == filled_ && unpacked_ < head_.text.size) unpackNext();
     const std::size_t count = std::min(buffer.size(), filled_ - position_);
+    if (count == 0) return 0;
     std::memcpy(buffer.data(), stretch_.data() + position_, count);
     position_ += count;
     return count;
