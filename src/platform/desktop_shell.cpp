@@ -64,8 +64,10 @@ void DesktopShell::open(const QString& file, const QString& workingFolder) {
 }
 
 void DesktopShell::openFolder(const QString& folder, const QString& name) {
-  const QDBusPendingCall call =
-      QDBusConnection::sessionBus().asyncCall(showItemsCall(folder + name), kFileManagerMilliseconds);
+  const QDBusConnection bus = QDBusConnection::sessionBus();
+  // Without a bus a call has no answer, not even that it has failed.
+  if (!bus.isConnected()) return openPath(folder, folder);
+  const QDBusPendingCall call = bus.asyncCall(showItemsCall(folder + name), kFileManagerMilliseconds);
   auto* answer = new QDBusPendingCallWatcher(call, this);
   connect(answer, &QDBusPendingCallWatcher::finished, this, [folder](QDBusPendingCallWatcher* finished) {
     finished->deleteLater();
