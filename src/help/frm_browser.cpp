@@ -19,6 +19,13 @@ constexpr char16_t kSearchPage[] = u"index.htm";
 /// Loads that are done within one tick show no sign of being busy, so that help pages do not flicker.
 constexpr int kTimerMilliseconds = 100;
 
+/// What the menu calls the page.
+QString titleOf(const QString& address) {
+  if (address.endsWith(QStringLiteral("relinfo.htm"))) return QStringLiteral("Release Information");
+  if (address.endsWith(QString::fromUtf16(kHomePage))) return QStringLiteral("Program Usage");
+  return address;
+}
+
 QSize initialSize(const QWidget& window) {
   constexpr int kCharacters = 145;
   constexpr int kLines = 48;
@@ -69,8 +76,9 @@ void frmBrowser::connectControls() {
     updateButtons();
   });
   connect(controls_.brwWebBrowser, &QTextBrowser::highlighted, this, [this](const QUrl& link) {
-    if (!loader_.isBusy()) controls_.lblStatus->setText(link.toString());
+    if (!loader_.isBusy() && !isPageWaiting()) controls_.lblStatus->setText(link.toString());
   });
+  connect(controls_.OpenNow, &QPushButton::clicked, this, &frmBrowser::openWaitingPage);
   connect(controls_.cboAddress, &QComboBox::activated, this, &frmBrowser::cboAddress_Click);
   connect(&timTimer_, &QTimer::timeout, this, &frmBrowser::timTimer_Timer);
 }
@@ -93,10 +101,28 @@ void frmBrowser::addKeys() {
 
 void frmBrowser::showHelp(const QString& startingAddress) {
   StartingAddress = startingAddress;
+  if (loaded_) tellWaitingPage();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
+}
+
+void frmBrowser::tellWaitingPage() {
+  const bool waits = StartingAddress != controls_.cboAddress->currentText();
+  controls_.OpenNow->setVisible(waits);
+  if (!waits) return controls_.lblStatus->clear();
+  controls_.lblStatus->setText(titleOf(StartingAddress) +
+                               QStringLiteral(" opens after this window is closed."));
+}
+
+void frmBrowser::openWaitingPage() {
+  controls_.OpenNow->hide();
+  controls_.lblStatus->clear();
+  controls_.brwWebBrowser->setFocus();
+  timTimer_.start();
+  loader_.open(StartingAddress);
+  updateButtons();
 }
 
 void frmBrowser::Form_Load() {
@@ -212,6 +238,7 @@ void frmBrowser::showBusy() {
     controls_.brwWebBrowser->viewport()->setCursor(Qt::BusyCursor);
   } else if (shown) {
     controls_.lblStatus->clear();
+    if (isPageWaiting()) tellWaitingPage();
     controls_.brwWebBrowser->viewport()->unsetCursor();
   }
   controls_.loadBar->setVisible(busy);
@@ -236,6 +263,8 @@ void frmBrowser::showEvent(QShowEvent* event) {
 void frmBrowser::closeEvent(QCloseEvent* event) {
   event->accept();
   loaded_ = false;
+  controls_.OpenNow->hide();
+  controls_.lblStatus->clear();
   timTimer_.stop();
   loader_.reset();
   showBusy();

@@ -25,7 +25,8 @@ class frmBrowser : public QWidget {
   /// has no effect.
   QString StartingAddress;
 
-  /// Sets `StartingAddress` and shows the window; one that is open already only comes to the front.
+  /// Sets `StartingAddress` and shows the window; one that is open already only comes to the front, and its
+  /// status row says that the page opens after it has been closed, with a link that opens it at once.
   void showHelp(const QString& startingAddress);
 
   const BrowserControls& controls() const { return controls_; }
@@ -51,7 +52,10 @@ class frmBrowser : public QWidget {
   void stopLoading();
   void escape();
   void updateButtons();
+  bool isPageWaiting() const { return controls_.OpenNow->isVisibleTo(this); }
   void showBusy();
+  void tellWaitingPage();
+  void openWaitingPage();
   void refillAddresses(const QString& current);
 
   QTimer timTimer_;

@@ -128,6 +128,21 @@ void makeAddressRow(QWidget* window, BrowserControls& made) {
   made.lblAddress->setBuddy(made.cboAddress);
 }
 
+/// A button that looks like a link and is one for the keyboard, too.
+QPushButton* makeLink(QWidget* parent, const QString& name, const QString& caption) {
+  auto* link = new QPushButton(caption, parent);
+  link->setObjectName(name);
+  link->setFlat(true);
+  link->setCursor(Qt::PointingHandCursor);
+  QFont underlined = link->font();
+  underlined.setUnderline(true);
+  link->setFont(underlined);
+  QPalette palette = link->palette();
+  palette.setColor(QPalette::ButtonText, palette.color(QPalette::Link));
+  link->setPalette(palette);
+  return link;
+}
+
 void makeStatusRow(QWidget* window, BrowserControls& made) {
   made.statusRow = new QWidget(window);
   made.lblStatus = new QLabel(made.statusRow);
@@ -135,6 +150,9 @@ void makeStatusRow(QWidget* window, BrowserControls& made) {
   made.lblStatus->setTextFormat(Qt::PlainText);
   // A long address must not widen the window.
   made.lblStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  made.OpenNow = makeLink(made.statusRow, QStringLiteral("OpenNow"), QStringLiteral("&Open it now"));
+  made.OpenNow->setFixedHeight(window->fontMetrics().height() + 4);
+  made.OpenNow->hide();
   made.loadBar = new QProgressBar(made.statusRow);
   made.loadBar->setObjectName(QStringLiteral("loadBar"));
   made.loadBar->setAccessibleName(QStringLiteral("Loading"));
@@ -144,6 +162,7 @@ void makeStatusRow(QWidget* window, BrowserControls& made) {
   auto* row = new QHBoxLayout(made.statusRow);
   row->setContentsMargins(pixelsOfTwips(kAddressLeft), 2, pixelsOfTwips(kAddressLeft), 2);
   row->addWidget(made.lblStatus, 1);
+  row->addWidget(made.OpenNow);
   row->addWidget(made.loadBar);
   made.loadBar->hide();
   made.statusRow->setFixedHeight(made.loadBar->height() + 6);

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPalette>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSize>
 #include <QToolBar>
 #include <QWidget>
@@ -65,6 +66,8 @@ struct BrowserControls {
   FindBar* findBar;
   QWidget* statusRow;
   QLabel* lblStatus;
+  /// Opens the page that waits for the window to be closed; hidden while none waits.
+  QPushButton* OpenNow;
   QProgressBar* loadBar;
 
   QAction* button(BrowserButton which) const { return buttons[static_cast<std::size_t>(which)]; }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -48,6 +49,7 @@ frmSplash::frmSplash(const ProductFacts& facts, QWidget* parent) : QDialog(paren
   lblVersion_ = addLabel(QStringLiteral("lblVersion"));
   AppDesc_ = addLabel(QStringLiteral("AppDesc"));
   lblPlatform_ = withText(addLabel(QStringLiteral("lblPlatform")), QString::fromUtf16(kPlatforms));
+  lblSystem_ = addLabel(QStringLiteral("lblSystem"));
   lblLicence_ = withText(addLabel(QStringLiteral("lblLicence")), QString::fromUtf16(kLicence));
 
   imgLogo_ = new LogoPicture(this);
@@ -81,6 +83,7 @@ void frmSplash::layOut() {
   texts->addSpacing(line / 2);
   texts->addWidget(AppDesc_);
   texts->addWidget(lblPlatform_);
+  texts->addWidget(lblSystem_);
   texts->addWidget(lblLicence_);
   texts->addStretch();
 
@@ -99,6 +102,22 @@ void frmSplash::Form_Load(const ProductFacts& facts) {
       QStringLiteral("Version %1.%2.%3").arg(facts.majorVersion).arg(facts.minorVersion).arg(facts.revision));
   lblProductName_->setText(facts.productName);
   AppDesc_->setText(facts.description);
+  if (!facts.system.isEmpty()) lblSystem_->setText(QStringLiteral("Runs on ") + facts.system);
+  lblSystem_->setVisible(!facts.system.isEmpty());
+  wrapWideLabels();
+}
+
+/// With large letters a line may be wider than the screen.
+void frmSplash::wrapWideLabels() {
+  const int line = fontMetrics().height();
+  const int besideTexts = imgLogo_->sizeHint().width() + line * 9 / 2;
+  const int most = std::max(line * 8, screen()->availableGeometry().width() - besideTexts);
+  for (QLabel* label : {lblProductName_, lblVersion_, AppDesc_, lblPlatform_, lblSystem_, lblLicence_}) {
+    if (label->sizeHint().width() <= most) continue;
+    label->setWordWrap(true);
+    label->setFixedWidth(most);
+    label->setMinimumHeight(label->heightForWidth(most));
+  }
 }
 
 LogoPicture::LogoPicture(QWidget* parent)
@@ -107,7 +126,7 @@ LogoPicture::LogoPicture(QWidget* parent)
 }
 
 QSize LogoPicture::sizeHint() const {
-  const int side = fontMetrics().height() * kLogoLines;
+  const int side = std::min(fontMetrics().height() * kLogoLines, screen()->availableGeometry().width() / 4);
   return {side, side};
 }
 

@@ -34,6 +34,8 @@ struct ProductFacts {
   int minorVersion;
   int revision;
   QString description;
+  /// The system that the program runs on; may be empty.
+  QString system = {};
 };
 
 /// The about window `frmSplash`: modal, closed by its button, by Esc and by the window's own close box.
@@ -46,12 +48,14 @@ class frmSplash : public QDialog {
  private:
   void Form_Load(const ProductFacts& facts);
   void layOut();
+  void wrapWideLabels();
   QLabel* addLabel(const QString& name);
 
   QLabel* lblProductName_;
   QLabel* lblVersion_;
   QLabel* AppDesc_;
   QLabel* lblPlatform_;
+  QLabel* lblSystem_;
   QLabel* lblLicence_;
   QWidget* imgLogo_;
   QPushButton* Command1_;

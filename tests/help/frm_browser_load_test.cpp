@@ -35,6 +35,37 @@ TEST_F(FrmBrowserLoad, ASecondChoiceWhileOpenOnlyStoresTheAddress) {
   EXPECT_EQ(addresses(), shown({"genhelp.htm"}));
 }
 
+TEST_F(FrmBrowserLoad, ASecondChoiceSaysWhenItOpensAndOffersToOpenItNow) {
+  show("genhelp.htm");
+  EXPECT_FALSE(controls().OpenNow->isVisible());
+  window().showHelp(pathOf("relinfo.htm"));
+  EXPECT_EQ(controls().lblStatus->text(),
+            QStringLiteral("Release Information opens after this window is closed."));
+  ASSERT_TRUE(controls().OpenNow->isVisible());
+  controls().OpenNow->setFocus();
+  press(Qt::Key_Space);
+  EXPECT_EQ(text(), QStringLiteral("Releases"));
+  EXPECT_FALSE(controls().OpenNow->isVisible());
+  EXPECT_EQ(controls().lblStatus->text(), QString());
+  EXPECT_EQ(QApplication::focusWidget(), &view());
+}
+
+TEST_F(FrmBrowserLoad, AChoiceOfThePageThatIsShownSaysNothing) {
+  show("genhelp.htm");
+  window().showHelp(pathOf("genhelp.htm"));
+  EXPECT_FALSE(controls().OpenNow->isVisible());
+  EXPECT_EQ(controls().lblStatus->text(), QString());
+}
+
+TEST_F(FrmBrowserLoad, ClosingTakesTheOfferAway) {
+  show("genhelp.htm");
+  window().showHelp(pathOf("relinfo.htm"));
+  window().close();
+  show("genhelp.htm");
+  EXPECT_FALSE(controls().OpenNow->isVisible());
+  EXPECT_EQ(controls().lblStatus->text(), QString());
+}
+
 TEST_F(FrmBrowserLoad, ASecondChoiceBringsTheWindowForward) {
   show("genhelp.htm");
   QWidget other;

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -35,6 +36,30 @@ TEST_F(FrmSplash, TellsProductVersionDescriptionAndPlatforms) {
   EXPECT_EQ(text("lblVersion"), QStringLiteral("Version 2.5.64"));
   EXPECT_EQ(text("AppDesc"), QStringLiteral("Text file / folder list searching utility"));
   EXPECT_EQ(text("lblPlatform"), QStringLiteral("Windows 9x, NT, 2000, XP, Vista"));
+}
+
+TEST_F(FrmSplash, TellsTheSystemThatItRunsOn) {
+  const frmSplash other(
+      {QStringLiteral("x"), 1, 0, 0, QString(), QStringLiteral("Debian 12, with Qt 6.4.2")});
+  EXPECT_EQ(other.findChild<QLabel*>(QStringLiteral("lblSystem"))->text(),
+            QStringLiteral("Runs on Debian 12, with Qt 6.4.2"));
+  EXPECT_FALSE(window_.findChild<QLabel*>(QStringLiteral("lblSystem"))->isVisibleTo(&window_));
+}
+
+TEST_F(FrmSplash, IsNoWiderThanTheScreenWithVeryLargeLetters) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPointSizeF(before.pointSizeF() + 12);
+  QApplication::setFont(large);
+  frmSplash window({QStringLiteral("Quorvin Utility"), 2, 5, 64,
+                    QStringLiteral("Text file / folder list searching utility")});
+  window.show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+  EXPECT_LE(window.width(), window.screen()->availableGeometry().width());
+  for (const QLabel* label : window.findChildren<QLabel*>()) {
+    EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->objectName().toStdString();
+  }
+  QApplication::setFont(before);
 }
 
 TEST_F(FrmSplash, NumbersOfTheVersionAreNotPadded) {
