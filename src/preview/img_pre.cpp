@@ -124,6 +124,7 @@ ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
       PicBox_(new QWidget(this)),
       Pic_(new Picture(PicBox_)),
       Note_(new QLabel(this)),
+      PicName_(new QLabel(this)),
       animation_(pool) {
   setObjectName(QStringLiteral("ImgPre"));
   setWindowTitle(QStringLiteral("Image Preview"));
@@ -138,6 +139,10 @@ ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
   Note_->setMargin(kNoteMargin);
   Note_->setAutoFillBackground(true);
   Note_->hide();
+  PicName_->setObjectName(QStringLiteral("PicName"));
+  PicName_->setTextFormat(Qt::PlainText);
+  PicName_->setMargin(kNoteMargin);
+  PicName_->setAutoFillBackground(true);
   resize(kFirstSize);
   connect(&animation_, &PictureAnimation::frameReached, Pic_, &Picture::setImage);
   connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
@@ -148,6 +153,7 @@ void ImgPre::setPicture(const LoadedPicture& picture, const QString& path) {
   Pic_->setImage(picture.frame.image);
   Pic_->setAccessibleName(QStringLiteral("Picture ") + QFileInfo(path).fileName());
   Pic_->setToolTip(path.toHtmlEscaped());
+  fileName_ = QFileInfo(path).fileName();
   const QString without = picture.drawnWithout;
   Note_->setText(without.isEmpty() ? QString() : QStringLiteral("Drawn without: %1.").arg(without));
   Note_->setVisible(!without.isEmpty());
@@ -196,6 +202,17 @@ void ImgPre::Form_Resize() {
 void ImgPre::placeNote() {
   const int height = Note_->heightForWidth(width());
   Note_->setGeometry(0, this->height() - height, width(), height);
+  placeName(Note_->isHidden() ? this->height() : Note_->y());
+}
+
+/// Where a picture that is fitted into the upper left corner reaches last.
+void ImgPre::placeName(int bottom) {
+  const int most = width() - 2 * kNoteMargin;
+  PicName_->setAccessibleName(fileName_);
+  PicName_->setText(PicName_->fontMetrics().elidedText(fileName_, Qt::ElideMiddle, most));
+  PicName_->setVisible(!fileName_.isEmpty());
+  const QSize size = PicName_->sizeHint().boundedTo(QSize(width(), height()));
+  PicName_->setGeometry(QRect(QPoint(width() - size.width(), bottom - size.height()), size));
 }
 
 }  // namespace quorvin

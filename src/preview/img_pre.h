@@ -54,8 +54,9 @@ class PictureAnimation : public QObject {
 /// The preview window `ImgPre`. The frame `PicBox` fills it. In its upper left corner, `Pic` shows the
 /// picture in the size that fitPicture gives, which is applied again after each change of the window's size
 /// and each activation. What is missing from a drawing is said in `Note`, a line over the lower edge that is
-/// seen only then. Esc closes the window; a closed window is only hidden and keeps its
-/// picture, but no open file: a moving picture stands still from then on.
+/// seen only then; the name of the file is in the lower right corner, as `PicName`. Esc closes the window; a
+/// closed window is only hidden and keeps its picture, but no open file: a moving picture stands still from
+/// then on.
 class ImgPre : public QWidget {
   Q_OBJECT
 
@@ -79,10 +80,13 @@ class ImgPre : public QWidget {
   void Form_Activate();
   void Form_Resize();
   void placeNote();
+  void placeName(int bottom);
 
   QWidget* PicBox_;
   Picture* Pic_;
   QLabel* Note_;
+  QLabel* PicName_;
+  QString fileName_;
   QSizeF pictureSize_;
   PictureAnimation animation_;
 };

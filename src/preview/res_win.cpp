@@ -42,7 +42,8 @@ ResWin::ResWin(QWidget* parent) : QDialog(parent), text_(makeText()) {
   auto* rows = new QVBoxLayout(this);
   rows->addWidget(text_);
   rows->addWidget(buttons);
-  close->setFocus();
+  // The window comes up unasked, perhaps while somebody types: a blank must not close it.
+  text_->setFocus();
   resize(fontMetrics().averageCharWidth() * kWidthInCharacters, fontMetrics().lineSpacing() * kHeightInLines);
 }
 

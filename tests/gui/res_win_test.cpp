@@ -49,6 +49,15 @@ TEST_F(ResultWindow, EscapeHidesIt) {
   EXPECT_FALSE(window_.isVisible());
 }
 
+TEST_F(ResultWindow, WhatIsTypedOnWhenItComesUpDoesNotCloseIt) {
+  showAnd([&] {
+    ASSERT_NE(window_.focusWidget(), nullptr);
+    QTest::keyClicks(window_.focusWidget(), QStringLiteral("rock live "));
+    EXPECT_TRUE(window_.isVisible());
+    window_.hide();
+  });
+}
+
 TEST_F(ResultWindow, EnterHidesIt) {
   showAnd([&] { QTest::keyClick(&window_, Qt::Key_Return); });
   EXPECT_FALSE(window_.isVisible());

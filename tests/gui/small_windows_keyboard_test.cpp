@@ -83,7 +83,7 @@ TEST_F(SmallWindowKeys, ResultsAreReadCopiedAndClosed) {
     window.setText(QStringLiteral("/m/a File not found"));
     inDialog<ResWin>([&] { window.exec(); },
                      [key](ResWin&) {
-                       EXPECT_EQ(tabStops().toStdString(), "close ResultText");
+                       EXPECT_EQ(tabStops().toStdString(), "ResultText close");
                        tabTo("ResultText");
                        press(Qt::Key_A, Qt::ControlModifier);
                        press(Qt::Key_C, Qt::ControlModifier);

@@ -59,6 +59,25 @@ TEST_F(ImgPreWindow, ThePictureIsFittedInTwipsAndStaysInTheUpperLeftCorner) {
   EXPECT_EQ(Pic()->geometry(), QRect(0, 0, 396, 196));
 }
 
+TEST_F(ImgPreWindow, TheNameIsInTheLowerRightCorner) {
+  window_.setPicture(still(100, 100), QStringLiteral("/m/<b>cover.bmp"));
+  show(400, 300);
+  const auto* name = window_.findChild<QLabel*>(QStringLiteral("PicName"));
+  ASSERT_NE(name, nullptr);
+  EXPECT_TRUE(name->isVisible());
+  EXPECT_EQ(name->text(), QStringLiteral("<b>cover.bmp"));
+  EXPECT_EQ(name->geometry().bottomRight(), QPoint(399, 299));
+  EXPECT_FALSE(name->geometry().intersects(Pic()->geometry()));
+}
+
+TEST_F(ImgPreWindow, AVeryLongNameStaysInsideTheWindow) {
+  window_.setPicture(still(100, 100), QStringLiteral("/m/") + QString(500, u'n') + QStringLiteral(".bmp"));
+  show(400, 300);
+  const auto* name = window_.findChild<QLabel*>(QStringLiteral("PicName"));
+  EXPECT_GE(name->x(), 0);
+  EXPECT_EQ(name->accessibleName(), QString(500, u'n') + QStringLiteral(".bmp"));
+}
+
 TEST_F(ImgPreWindow, EveryResizeFitsAgain) {
   window_.setPicture(still(100, 100), QStringLiteral("/m/a.bmp"));
   show(400, 400);
