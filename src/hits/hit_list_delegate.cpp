@@ -19,6 +19,7 @@ namespace {
 
 /// Above the 4.5 to 1 that is usual for text: saturated blue and red tire the eye on dark backgrounds.
 constexpr double kReadableContrast = 6;
+constexpr double kUsualContrast = 4.5;
 
 double linearLight(double channel) {
   return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -53,6 +54,17 @@ TextRanges wordsIn(const QModelIndex& index) {
   return index.data(kWordPlacesRole).value<TextRanges>();
 }
 
+/// The same hue, darkened until it can be read on a background that is neither dark nor quite light; or
+/// black, where no shade can.
+QColor darkerOn(const QColor& colour, const QColor& background) {
+  QColor darker = colour;
+  for (float lightness = colour.lightnessF(); lightness > 0.0F; lightness -= 0.01F) {
+    darker = QColor::fromHslF(colour.hslHueF(), colour.hslSaturationF(), lightness);
+    if (contrast(darker, background) >= kUsualContrast) return darker;
+  }
+  return Qt::black;
+}
+
 /// Narrow enough to follow the column division in a small window, wide enough to be taken hold of.
 constexpr int kLeastColumnWidth = 4;
 
@@ -64,12 +76,11 @@ QColor readableOn(const QColor& colour, const QColor& background) {
   if (!isDark(background)) return colour;
   const float hue = colour.hslHueF();
   const float saturation = colour.hslSaturationF();
-  QColor lighter = colour;
   for (float lightness = colour.lightnessF(); lightness < 1.0F; lightness += 0.01F) {
-    lighter = QColor::fromHslF(hue, saturation, lightness);
-    if (contrast(lighter, background) >= kReadableContrast) break;
+    const QColor lighter = QColor::fromHslF(hue, saturation, lightness);
+    if (contrast(lighter, background) >= kReadableContrast) return lighter;
   }
-  return lighter;
+  return Qt::white;
 }
 
 QBrush HitListDelegate::selectionBrush(const QStyleOptionViewItem& option) {
@@ -141,7 +152,13 @@ QString HitListDelegate::tooltip(const QStyleOptionViewItem& option, const QMode
 void HitListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   const QColor text = option->palette.color(QPalette::Text);
-  option->palette.setColor(QPalette::Text, readableOn(text, option->palette.color(QPalette::Base)));
+  const QColor base = option->palette.color(QPalette::Base);
+  const bool isAlternate = option->features.testFlag(QStyleOptionViewItem::Alternate);
+  const QColor behind = isAlternate ? option->palette.color(QPalette::AlternateBase) : base;
+  QColor shown = readableOn(text, behind);
+  // Every second row of a dark palette may be light enough to count as light, and too dark for the colours.
+  if (isDark(base) && contrast(shown, behind) < kUsualContrast) shown = darkerOn(text, behind);
+  option->palette.setColor(QPalette::Text, shown);
 }
 
 HitListHeader::HitListHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {

@@ -8,6 +8,7 @@
 
 #include <QHeaderView>
 #include <QImage>
+#include <QStandardItemModel>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -41,6 +42,38 @@ TEST_P(RowColours, KeepTheirHueAndCanBeReadOnADarkBackground) {
   const QColor drawn = readableOn(ofKind(), kDark);
   EXPECT_LE(std::abs(drawn.hslHue() - ofKind().hslHue()), 1);
   EXPECT_GE((luminance(drawn) + 0.05) / (luminance(kDark) + 0.05), 4.5);
+}
+
+/// The colour in which the delegate draws a row of this kind.
+class DrawnColour : public HitListDelegate {
+ public:
+  QColor of(const QColor& kind, const QPalette& palette, bool isAlternate) const {
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), kind, Qt::ForegroundRole);
+    QStyleOptionViewItem option;
+    option.palette = palette;
+    option.features.setFlag(QStyleOptionViewItem::Alternate, isAlternate);
+    initStyleOption(&option, model.index(0, 0));
+    return option.palette.color(QPalette::Text);
+  }
+};
+
+TEST_P(RowColours, CanBeReadOnEverySecondRowOfADarkPaletteHoweverLightThatIs) {
+  for (int grey = 0; grey < 256; ++grey) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, kDark);
+    palette.setColor(QPalette::AlternateBase, QColor(grey, grey, grey));
+    const QColor drawn = DrawnColour().of(ofKind(), palette, true);
+    const auto [darker, lighter] = std::minmax(luminance(drawn), luminance(QColor(grey, grey, grey)));
+    EXPECT_GE((lighter + 0.05) / (darker + 0.05), 4.5) << grey;
+  }
+}
+
+TEST_P(RowColours, AreExactOnEverySecondRowOfALightPalette) {
+  QPalette palette;
+  palette.setColor(QPalette::Base, kLight);
+  palette.setColor(QPalette::AlternateBase, QColor(245, 245, 245));
+  EXPECT_EQ(DrawnColour().of(ofKind(), palette, true), ofKind());
 }
 
 /// Whether anything in the picture is drawn about in `colour`; text is smoothed against its background.
