@@ -12,7 +12,7 @@ class DroppedHits : public HitSink {
  public:
   std::int64_t count() const { return count_; }
 
-  void startListing(SourceKind) override {}
+  void startListing(SourceKind, const QString&) override {}
   bool addHits(const std::shared_ptr<const Segment>&, std::span<const FoundEntry> hits) override {
     count_ += static_cast<std::int64_t>(hits.size());
     return true;

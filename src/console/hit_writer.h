@@ -1,24 +1,16 @@
-// Hits as lines of text.
+// Hits as lines on a stream.
 #pragma once
 
+#include "hits/hit_lines.h"
 #include "search/hit_sink.h"
-#include "search/hit_table.h"
 
 #include <QLocale>
-#include <QString>
 
 #include <cstdint>
 #include <cstdio>
 #include <string>
 
 namespace quorvin {
-
-enum class HitFormat { Tsv, Csv, Json };
-
-/// One line for one hit, without the line end. Tsv: the six columns with tabs between, control characters in
-/// them turned into blanks. Csv: RFC 4180, fields quoted where needed. Json: one object with the keys match,
-/// volume, folder, name, size and date.
-QString hitLine(const HitRow& row, HitFormat format, const QLocale& locale);
 
 /// Writes each hit as soon as it comes and keeps none. Wants no more of them once a write has failed.
 class HitWriter : public HitSink {
@@ -31,7 +23,7 @@ class HitWriter : public HitSink {
   /// Hands what is still buffered to the output.
   void flush();
 
-  void startListing(SourceKind kind) override;
+  void startListing(SourceKind kind, const QString& path) override;
   bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
   void endSegment(const std::shared_ptr<const Segment>& segment,
                   const std::shared_ptr<const Segment>& kept) override;

@@ -50,6 +50,16 @@ QString fileThatBeginsWith(const QString& folder, const QString& text, const Fil
   return whole.isEmpty() ? lookUp(folder + text + u'*') : whole;
 }
 
+/// Its row in the table of online sources.
+std::optional<int> sourceOfHit(const ProgramState& state, const HitRow& hit) {
+  // A listing from elsewhere may carry the same volume; it must not lead to files of this machine.
+  if (hit.kind != SourceKind::Online) return std::nullopt;
+  for (int row = 1; row <= state.OnlineSourceCount; ++row) {
+    if (state.OnlineSources.description(row) == hit.volume) return row;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 QString fullFolderPath(const QString& sourceFolder, const QString& listedFolder, PathStyle style) {
@@ -59,14 +69,15 @@ QString fullFolderPath(const QString& sourceFolder, const QString& listedFolder,
   return sourceFolder + below.replace(kWindowsPaths.separator, style.separator);
 }
 
+QString sourceFolderOf(const ProgramState& state, const HitRow& hit) {
+  const std::optional<int> row = sourceOfHit(state, hit);
+  return row ? state.OnlineSources.path(*row) : QString();
+}
+
 std::optional<QString> folderOfHit(const ProgramState& state, const HitRow& hit, PathStyle style) {
-  // A listing from elsewhere may carry the same volume; it must not lead to files of this machine.
-  if (hit.kind != SourceKind::Online) return std::nullopt;
-  for (int row = 1; row <= state.OnlineSourceCount; ++row) {
-    if (state.OnlineSources.description(row) != hit.volume) continue;
-    return fullFolderPath(state.OnlineSources.path(row), hit.folder, style);
-  }
-  return std::nullopt;
+  const std::optional<int> row = sourceOfHit(state, hit);
+  if (!row) return std::nullopt;
+  return fullFolderPath(state.OnlineSources.path(*row), hit.folder, style);
 }
 
 QString fileOfEntry(const QString& folder, const QString& entryText, PathStyle style,

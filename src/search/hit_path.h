@@ -33,6 +33,10 @@ using FileLookUp = std::function<QString(const QString& pattern)>;
 /// shorter than a drive.
 QString fullFolderPath(const QString& sourceFolder, const QString& listedFolder, PathStyle style);
 
+/// The folder of the first online source whose description equals the volume of a hit exactly; empty for hits
+/// from other listings than those of online sources, and where there is no such source.
+QString sourceFolderOf(const ProgramState& state, const HitRow& hit);
+
 /// The full folder path of a hit, or nothing for one that cannot be resolved: only hits from listings of
 /// online sources can, and only while the first online source whose description equals the volume exactly
 /// tells where. Throws as fullFolderPath() does.

@@ -3,6 +3,8 @@
 
 #include "search/match/segment_search.h"
 
+#include <QString>
+
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -31,8 +33,9 @@ class HitSink {
  public:
   virtual ~HitSink() = default;
 
-  /// A new listing starts. Size and date, which are carried from hit to hit, start afresh.
-  virtual void startListing(SourceKind kind) = 0;
+  /// A new listing starts, the file at `path`. Size and date, which are carried from hit to hit, start
+  /// afresh.
+  virtual void startListing(SourceKind kind, const QString& path) = 0;
 
   /// Hits of `segment`, in entry order, at least one. `segment` may still be growing, but what it says about
   /// these entries is final. It is shared because a hit can be shown even after its listing has been replaced

@@ -91,7 +91,12 @@ SourceKind HitTable::kind(std::int64_t row) const {
   return segmentRows(row).kind;
 }
 
+QString HitTable::listing(std::int64_t row) const {
+  return segmentRows(row).listing;
+}
+
 void HitTable::clear() {
+  ++timesCleared_;
   pages_.resize(std::min(pages_.size(), kPagesKept));
   segments_.clear();
   carried_.clear();
@@ -100,8 +105,9 @@ void HitTable::clear() {
   valuesSeen_ = false;
 }
 
-void HitTable::startListing(SourceKind kind) {
+void HitTable::startListing(SourceKind kind, const QString& path) {
   kind_ = kind;
+  listing_ = path;
   listingBegins_ = true;
   valuesSeen_ = false;
 }
@@ -110,7 +116,8 @@ bool HitTable::addHits(const std::shared_ptr<const Segment>& segment, std::span<
   if (hits.empty()) return true;
   // First what may throw: then none of these hits has been taken.
   const bool allOwn = findOwnValues(*segment, hits);
-  if (listingBegins_ || segments_.back().segment != segment) segments_.push_back({rowCount_, segment, kind_});
+  if (listingBegins_ || segments_.back().segment != segment)
+    segments_.push_back({rowCount_, segment, kind_, listing_});
   listingBegins_ = false;
   if (allOwn) valuesSeen_ = true;
   for (std::size_t i = 0; !allOwn && i < hits.size(); ++i) {

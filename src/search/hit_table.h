@@ -48,11 +48,15 @@ class HitTable : public HitSink {
   SourceKind kind(std::int64_t row) const;
   /// HitRow::size of that row, without making its texts; 0 for a damaged one.
   std::int64_t size(std::int64_t row) const;
+  /// The path of the listing that `row` was found in.
+  QString listing(std::int64_t row) const;
 
   /// Removes all rows and releases the segments.
   void clear();
+  /// How often clear() has been called: while it stays the same, so do the rows that there are.
+  std::int64_t timesCleared() const { return timesCleared_; }
 
-  void startListing(SourceKind kind) override;
+  void startListing(SourceKind kind, const QString& path) override;
   bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
   void endSegment(const std::shared_ptr<const Segment>& segment,
                   const std::shared_ptr<const Segment>& kept) override;
@@ -63,6 +67,7 @@ class HitTable : public HitSink {
     std::int64_t firstRow;
     std::shared_ptr<const Segment> segment;
     SourceKind kind;
+    QString listing;
   };
   /// Rows one after another whose own entries have no values. They show those of the row before the first of
   /// them, or none where the listing starts with them.
@@ -92,6 +97,8 @@ class HitTable : public HitSink {
   /// Of the hits that are being added: the entry has values of its own.
   std::vector<std::uint8_t> ownValues_;
   SourceKind kind_ = SourceKind::Online;
+  QString listing_;
+  std::int64_t timesCleared_ = 0;
   /// No hit of the listing has come yet. The same listing may come again as another kind of source, with the
   /// same segments.
   bool listingBegins_ = true;

@@ -168,7 +168,7 @@ void SearchRun::reportMissing(const QString& path) {
 
 void SearchRun::scan(const QString& path, SourceKind kind) {
   ScanOutcome outcome;
-  if (parts_.hits != nullptr) parts_.hits->startListing(kind);
+  if (parts_.hits != nullptr) parts_.hits->startListing(kind, path);
   try {
     const ScanRequest request{query_, parts_.locale, parts_.hits, [this](std::int64_t) { return yield(); }};
     scanListingFile(path, parts_.segments, request, counts_, outcome);

@@ -11,7 +11,7 @@ inline void scanInto(HitTable& table, SourceKind kind, const QByteArray& listing
   const SearchQuery query(lowerSearchText, 50);
   RunCounts counts;
   ScanOutcome outcome;
-  table.startListing(kind);
+  table.startListing(kind, {});
   scanListing([&] { return MemoryListing(listing); }, {query, QLocale::c(), &table, YieldLog()}, counts,
               outcome);
 }

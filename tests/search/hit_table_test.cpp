@@ -29,6 +29,25 @@ TEST(HitTable, RowShowsSixColumns) {
   EXPECT_EQ(hitText(row, HitColumn::Date, locale), u"Jan, 15 04"_qs);
 }
 
+TEST(HitTable, RowsKnowTheListingThatTheyWereFoundIn) {
+  const QByteArray listing = test::blockHead("CD", "\\") + test::entryLine("song");
+  test::TestScan scan(u"song"_qs);
+  for (const char16_t* path : {u"/lists/a.txt", u"/lists/b.txt"}) {
+    scan.table.startListing(SourceKind::Offline, QString::fromUtf16(path));
+    scanListing([&] { return test::MemoryListing(listing); }, scan.request(), scan.counts, scan.outcome);
+  }
+  ASSERT_EQ(scan.table.rowCount(), 2);
+  EXPECT_EQ(scan.table.listing(0), u"/lists/a.txt"_qs);
+  EXPECT_EQ(scan.table.listing(1), u"/lists/b.txt"_qs);
+}
+
+TEST(HitTable, TellsWhetherItHasBeenClearedSince) {
+  HitTable table = scanned("song", SourceKind::Offline);
+  const std::int64_t before = table.timesCleared();
+  table.clear();
+  EXPECT_EQ(table.timesCleared(), before + 1);
+}
+
 TEST(HitTable, KindsHaveTheirColours) {
   EXPECT_EQ(rowColour(SourceKind::Online), 0x0000FFU);
   EXPECT_EQ(rowColour(SourceKind::MainDataFile), 0xFF0000U);

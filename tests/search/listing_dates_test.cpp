@@ -86,7 +86,7 @@ class CountedListing {
       ++opened;
       return test::MemoryListing(bytes_);
     };
-    scan.table.startListing(scan.kind);
+    scan.table.startListing(scan.kind, {});
     scanListing(open, scan.request(), scan.counts, scan.outcome, limits);
     return datesOf(scan.result());
   }
@@ -134,7 +134,7 @@ TEST(OrderOfAListing, AListingThatCanBeReadOnlyOnceIsReadOn) {
   limits.chunkSize = 1000;
   int opened = 0;
   const ListingOpener open = [&] { return test::MemoryListing(opened++ == 0 ? bytes : QByteArray()); };
-  scan.table.startListing(scan.kind);
+  scan.table.startListing(scan.kind, {});
   scanListing(open, scan.request(), scan.counts, scan.outcome, limits);
   // Nothing in the first chunk decides.
   EXPECT_EQ(datesOf(scan.result()), QStringList(50, u"2026-04-03"_qs));

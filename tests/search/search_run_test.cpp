@@ -145,7 +145,7 @@ TEST_F(SearchRunTest, PressWhileRunningOnlyAsksToStop) {
 /// Takes hits up to a number.
 class LimitedSink : public HitSink {
  public:
-  void startListing(SourceKind) override { ++listings; }
+  void startListing(SourceKind, const QString&) override { ++listings; }
   bool addHits(const std::shared_ptr<const Segment>&, std::span<const FoundEntry> hits) override {
     taken += hits.size();
     return taken < 3000;

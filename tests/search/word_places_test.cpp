@@ -82,7 +82,7 @@ TEST(WordPlaces, FindExactlyTheWordsThatTheSearchFinds) {
   const WordPlaces places(query);
   RunCounts counts;
   ScanOutcome outcome;
-  table.startListing(SourceKind::Online);
+  table.startListing(SourceKind::Online, {});
   scanListing([&] { return MemoryListing(listing); }, {query, QLocale::c(), &table, YieldLog()}, counts,
               outcome);
   ASSERT_GT(table.rowCount(), 10);

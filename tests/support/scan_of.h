@@ -54,12 +54,12 @@ struct TestScan {
   ScanRequest request() { return {query, locale, &table, std::ref(yields)}; }
 
   void run(ListingReader read, const ScanLimits& limits = {}) {
-    table.startListing(kind);
+    table.startListing(kind, {});
     scanListing([&read] { return read; }, request(), counts, outcome, limits);
   }
 
   void runFile(const QString& path, SegmentStore* store, const ScanLimits& limits = {}) {
-    table.startListing(kind);
+    table.startListing(kind, path);
     scanListingFile(path, store, request(), counts, outcome, limits);
   }
 
