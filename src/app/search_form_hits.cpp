@@ -2,12 +2,18 @@
 
 #include "app/fault_report.h"
 #include "hits/hit_list_model.h"
+#include "hits/hit_properties.h"
 
+#include <QApplication>
 #include <QClipboard>
+#include <QDrag>
 #include <QGuiApplication>
 #include <QKeySequence>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
+
+#include <numeric>
 
 namespace quorvin {
 
@@ -28,6 +34,9 @@ QAction* addItem(QMenu* menu, const QString& name, const QString& caption, const
 
 /// Some 10 MB of text; more is rather a mistake than a wish, and would hold the window up.
 constexpr std::int64_t kMostRowsToCopy = 100'000;
+/// Each is a program that starts, or at least a window that opens.
+constexpr std::int64_t kMostHitsToOpen = 1'000;
+constexpr std::int64_t kHitsOpenedUnasked = 10;
 
 void copyLines(const QStringList& lines) {
   if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join(u'\n'));
@@ -50,33 +59,81 @@ ItemMenu makeItemMenu(QWidget* parent) {
   made.menu->addSeparator();
   made.CopyRows = addItem(made.menu, QStringLiteral("CopyRows"), QStringLiteral("&Copy"),
                           QKeySequence(Qt::CTRL | Qt::Key_C));
+  made.CopyNames = addItem(made.menu, QStringLiteral("CopyNames"), QStringLiteral("Copy &Names"),
+                           QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_C));
   made.CopyPaths = addItem(made.menu, QStringLiteral("CopyPaths"), QStringLiteral("Copy Full P&ath"),
                            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+  made.ExportSelected =
+      addItem(made.menu, QStringLiteral("ExportSelected"), QStringLiteral("&Export Selected..."));
+  made.menu->addSeparator();
+  made.WhichDisk = addItem(made.menu, QStringLiteral("WhichDisk"), QStringLiteral("&Which Disk?"));
+  made.HitProperties = addItem(made.menu, QStringLiteral("HitProperties"), QStringLiteral("P&roperties"),
+                               QKeySequence(Qt::ALT | Qt::Key_Return));
   return made;
 }
 
-SearchFormHits::SearchFormHits(HitListView& list, const HitTable& table, const ProgramState& state,
-                               Shell& shell, MessageBoxes& messages, const QLocale& locale)
+SearchFormHits::SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitTable& table,
+                               const ProgramState& state, Shell& shell, MessageBoxes& messages,
+                               const QLocale& locale)
     : list_(list),
       table_(table),
+      state_(state),
       messages_(messages),
       locale_(locale),
       actions_(state, shell, messages),
-      menu_(makeItemMenu(&list)) {
+      menu_(makeItemMenu(&list)),
+      startDrag_([this](std::unique_ptr<QMimeData> data) {
+        // The drag belongs to the list, and the data to the drag.
+        auto* drag = new QDrag(&list_);
+        drag->setMimeData(data.release());
+        drag->exec(Qt::CopyAction | Qt::LinkAction, Qt::CopyAction);
+      }) {
+  fillHitsMenu(hitsMenu);
+  connectItems();
   connect(&list_, &HitListView::openRequested, this, &SearchFormHits::HitList_DblClick);
   connect(&list_, &HitListView::menuRequested, this, &SearchFormHits::HitList_MouseDown);
-  connect(menu_.CtLaunch, &QAction::triggered, this, &SearchFormHits::CtLaunch_Click);
-  connect(menu_.CTOpFolder, &QAction::triggered, this, &SearchFormHits::CTOpFolder_Click);
-  connect(menu_.ShowPreview, &QAction::triggered, this, &SearchFormHits::ShowPreview_Click);
-  connect(menu_.CTQueue, &QAction::triggered, this, &SearchFormHits::CTQueue_Click);
-  connect(menu_.CopyRows, &QAction::triggered, this, &SearchFormHits::CopyRows_Click);
-  connect(menu_.CopyPaths, &QAction::triggered, this, &SearchFormHits::CopyPaths_Click);
-  // On the list they work without the menu, too.
-  list_.addActions({menu_.CopyRows, menu_.CopyPaths});
+  list_.viewport()->installEventFilter(this);
+  // On the list they work without the menus, too.
+  list_.addActions({menu_.CopyRows, menu_.CopyNames, menu_.CopyPaths, menu_.HitProperties});
+}
+
+void SearchFormHits::fillHitsMenu(QMenu& menu) {
+  QAction* open = addItem(&menu, QStringLiteral("OpenHits"), QStringLiteral("&Open"));
+  QAction* showInFolder = addItem(&menu, QStringLiteral("ShowInFolder"), QStringLiteral("Show in &Folder"));
+  connect(open, &QAction::triggered, this, &SearchFormHits::OpenHits_Click);
+  connect(showInFolder, &QAction::triggered, this, &SearchFormHits::ShowInFolder_Click);
+  menu.addAction(menu_.WhichDisk);
+  menu.addSeparator();
+  menu.addActions({menu_.CopyRows, menu_.CopyNames, menu_.CopyPaths, menu_.ExportSelected});
+  menu.addSeparator();
+  menu.addAction(menu_.HitProperties);
+
+  const auto enableAll = [&menu](bool enabled) {
+    for (QAction* item : menu.actions()) item->setEnabled(enabled);
+  };
+  connect(&menu, &QMenu::aboutToShow, this,
+          [this, enableAll] { enableAll(list_.selectionModel()->hasSelection()); });
+  // The keys of the items do not wait for the menu.
+  connect(&menu, &QMenu::aboutToHide, this, [enableAll] { enableAll(true); });
+}
+
+void SearchFormHits::connectItems() {
+  const auto handle = [this](const QAction* item, void (SearchFormHits::*handler)()) {
+    connect(item, &QAction::triggered, this, handler);
+  };
+  handle(menu_.CtLaunch, &SearchFormHits::CtLaunch_Click);
+  handle(menu_.CTOpFolder, &SearchFormHits::CTOpFolder_Click);
+  handle(menu_.ShowPreview, &SearchFormHits::ShowPreview_Click);
+  handle(menu_.CTQueue, &SearchFormHits::CTQueue_Click);
+  handle(menu_.CopyRows, &SearchFormHits::CopyRows_Click);
+  handle(menu_.CopyNames, &SearchFormHits::CopyNames_Click);
+  handle(menu_.CopyPaths, &SearchFormHits::CopyPaths_Click);
+  handle(menu_.WhichDisk, &SearchFormHits::WhichDisk_Click);
+  handle(menu_.HitProperties, &SearchFormHits::HitProperties_Click);
 }
 
 void SearchFormHits::HitList_DblClick() {
-  if (const auto hit = currentHit()) actions_.launch(*hit);
+  openSelected();
 }
 
 void SearchFormHits::HitList_MouseDown(const QPoint& place) {
@@ -88,6 +145,35 @@ void SearchFormHits::HitList_MouseDown(const QPoint& place) {
   menu_.ShowPreview->setVisible(content.showPreview);
   menu_.CTQueue->setVisible(content.queue);
   menu_.menu->popup(place);
+}
+
+bool SearchFormHits::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress) noteDragStart(*static_cast<QMouseEvent*>(event));
+  if (event->type() == QEvent::MouseMove && isDragged(*static_cast<QMouseEvent*>(event))) return true;
+  return QObject::eventFilter(watched, event);
+}
+
+/// Elsewhere than on a selected row the same movement selects rows.
+void SearchFormHits::noteDragStart(const QMouseEvent& press) {
+  const QModelIndex index = list_.indexAt(press.pos());
+  const bool isOnSelected = index.isValid() && list_.selectionModel()->isSelected(index);
+  const bool mayDrag =
+      isOnSelected && press.button() == Qt::LeftButton && press.modifiers() == Qt::NoModifier;
+  dragStart_ = mayDrag ? std::optional(press.pos()) : std::nullopt;
+}
+
+/// Whether the list has nothing to do with this movement.
+bool SearchFormHits::isDragged(const QMouseEvent& move) {
+  if (!dragStart_ || !move.buttons().testFlag(Qt::LeftButton)) return false;
+  if ((move.pos() - *dragStart_).manhattanLength() < QApplication::startDragDistance()) return true;
+  dragStart_.reset();
+  HitList_Drag();
+  return true;
+}
+
+void SearchFormHits::HitList_Drag() {
+  if (selectedRowCount(*list_.selectionModel()) > kMostRowsToCopy) return;
+  if (auto data = dragData(); data->hasText()) startDrag_(std::move(data));
 }
 
 void SearchFormHits::CtLaunch_Click() {
@@ -112,40 +198,141 @@ void SearchFormHits::CTQueue_Click() {
   if (const auto hit = currentHit()) actions_.enqueue(*hit);
 }
 
+void SearchFormHits::OpenHits_Click() {
+  const std::int64_t missing = openSelected();
+  if (missing > 0) tellMissing(missing, selectedRowCount(*list_.selectionModel()), {});
+}
+
+void SearchFormHits::ShowInFolder_Click() {
+  const auto hit = currentHit();
+  if (hit && actions_.openFolder(*hit) == LaunchOutcome::NotFound) tellMissing(1, 1, {});
+}
+
+bool SearchFormHits::mayOpen(std::int64_t count) const {
+  if (count <= kHitsOpenedUnasked) return true;
+  const QString selected = QStringLiteral("%1 hits are selected. ").arg(locale_.toString(count));
+  if (count <= kMostHitsToOpen) return messages_.askYesNo(selected + QStringLiteral("Open all of them?"));
+  messages_.inform(
+      selected + QStringLiteral("At most %1 can be opened at once.").arg(locale_.toString(kMostHitsToOpen)));
+  return false;
+}
+
+/// How many of the selected hits have no file on a connected drive. A fault ends it.
+std::int64_t SearchFormHits::openSelected() const {
+  if (!mayOpen(selectedRowCount(*list_.selectionModel()))) return 0;
+  std::int64_t missing = 0;
+  for (const int row : selectedTableRows()) {
+    const LaunchOutcome outcome = actions_.launch(table_.row(row));
+    if (outcome == LaunchOutcome::Failed) return 0;
+    if (outcome == LaunchOutcome::NotFound) ++missing;
+  }
+  return missing;
+}
+
+void SearchFormHits::tellMissing(std::int64_t missing, std::int64_t all, const QString& instead) const {
+  messages_.inform(QStringLiteral("%1 of %2 could not be found on a connected drive.")
+                       .arg(locale_.toString(missing), locale_.toString(all)) +
+                   instead);
+}
+
 void SearchFormHits::CopyRows_Click() {
   QStringList lines;
   for (const int row : rowsToCopy()) lines.append(rowText(row));
   copyLines(lines);
 }
 
-void SearchFormHits::CopyPaths_Click() {
-  FoldersReadOnce folders;
-  const FileLookUp lookUp = [&folders](const QString& pattern) { return folders.find(pattern); };
+void SearchFormHits::CopyNames_Click() {
   QStringList lines;
-  for (const int row : rowsToCopy()) {
-    const HitPath path = actions_.resolveQuietly(table_.row(row), lookUp);
-    if (!path.isEmpty()) lines.append(path.fullPath());
-  }
+  for (const int row : rowsToCopy()) lines.append(table_.row(row).name);
   copyLines(lines);
 }
 
-std::optional<HitRow> SearchFormHits::currentHit() const {
+void SearchFormHits::CopyPaths_Click() {
+  const Paths paths = pathsOf(rowsToCopy());
+  copyLines(paths.lines);
+  if (paths.missing == 0) return;
+  tellMissing(paths.missing, paths.lines.size(),
+              QStringLiteral(" For these, the path in the catalogue was copied."));
+}
+
+std::unique_ptr<QMimeData> SearchFormHits::dragData() const {
+  auto data = std::make_unique<QMimeData>();
+  const Paths paths = pathsOf(selectedTableRows());
+  if (!paths.files.isEmpty()) data->setUrls(paths.files);
+  if (!paths.lines.isEmpty()) data->setText(paths.lines.join(u'\n'));
+  return data;
+}
+
+void SearchFormHits::WhichDisk_Click() {
+  if (const auto row = currentTableRow()) messages_.inform(whichDiskText(known(*row)));
+}
+
+void SearchFormHits::HitProperties_Click() {
+  const auto row = currentTableRow();
+  if (!row) return;
+  HitProperties window(known(*row), locale_, list_.window());
+  window.exec();
+}
+
+std::vector<int> SearchFormHits::selectedTableRows() const {
+  return selectedRows(*list_.selectionModel());
+}
+
+std::vector<int> SearchFormHits::shownTableRows() const {
+  std::vector<int> rows(static_cast<std::size_t>(list_.model()->rowCount()));
+  std::iota(rows.begin(), rows.end(), 0);
+  return rows;
+}
+
+std::optional<int> SearchFormHits::currentTableRow() const {
   const int row = list_.currentSelectedRow();
-  if (row < 0) return std::nullopt;
-  return table_.row(row);
+  return row < 0 ? std::nullopt : std::optional(row);
+}
+
+std::optional<HitRow> SearchFormHits::currentHit() const {
+  const auto row = currentTableRow();
+  return row ? std::optional(table_.row(*row)) : std::nullopt;
+}
+
+KnownHit SearchFormHits::known(int tableRow) const {
+  KnownHit hit;
+  hit.row = table_.row(tableRow);
+  hit.listing = table_.listing(tableRow);
+  hit.words = explain_(hit.row);
+  hit.file = actions_.resolveQuietly(hit.row, findOrdinaryFile);
+  hit.expectedPath = actions_.expectedPath(hit.row);
+  hit.sourceFolder = sourceFolderOf(state_, hit.row);
+  return hit;
 }
 
 std::vector<int> SearchFormHits::rowsToCopy() const {
-  const QItemSelectionModel& selection = *list_.selectionModel();
-  const std::int64_t count = selectedRowCount(selection);
-  if (count <= kMostRowsToCopy) return selectedRows(selection);
+  const std::int64_t count = selectedRowCount(*list_.selectionModel());
+  if (count <= kMostRowsToCopy) return selectedTableRows();
   messages_.inform(QStringLiteral("%1 hits are selected. At most %2 can be copied at once.")
                        .arg(locale_.toString(count), locale_.toString(kMostRowsToCopy)));
   return {};
 }
 
-QString SearchFormHits::rowText(int row) const {
-  const HitRow hit = table_.row(row);
+SearchFormHits::Paths SearchFormHits::pathsOf(const std::vector<int>& tableRows) const {
+  FoldersReadOnce folders;
+  const FileLookUp lookUp = [&folders](const QString& pattern) { return folders.find(pattern); };
+  Paths paths;
+  for (const int row : tableRows) {
+    const HitRow hit = table_.row(row);
+    const HitPath path = actions_.resolveQuietly(hit, lookUp);
+    if (path.isEmpty()) {
+      paths.lines.append(cataloguePath(hit));
+      ++paths.missing;
+    } else {
+      paths.lines.append(path.fullPath());
+      paths.files.append(QUrl::fromLocalFile(path.fullPath()));
+    }
+  }
+  return paths;
+}
+
+QString SearchFormHits::rowText(int tableRow) const {
+  const HitRow hit = table_.row(tableRow);
   QStringList columns;
   for (int column = 0; column < kHitColumnCount; ++column) {
     columns.append(hitText(hit, static_cast<HitColumn>(column), locale_));

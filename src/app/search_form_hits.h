@@ -1,32 +1,41 @@
-// The hit list's mouse, keys and pop-up menu: what the main window does with single hits.
+// The hit list's mouse, keys and menus: what the main window does with hits.
 #pragma once
 
 #include "hits/hit_actions.h"
+#include "hits/hit_facts.h"
 #include "hits/hit_list.h"
 #include "search/hit_table.h"
 
 #include <QAction>
 #include <QLocale>
 #include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QObject>
 #include <QPoint>
+#include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace quorvin {
 
-/// The menu and its items.
+/// The pop-up menu and its items. Those from CopyRows on are in the menu bar's menu, too.
 struct ItemMenu {
   QMenu* menu;
   QAction* CtLaunch;
   QAction* CTOpFolder;
   QAction* ShowPreview;
   QAction* CTQueue;
-  /// The selected rows as text, and the full paths of their files.
+  /// The selected hits as text: whole rows, names, and the paths of their files.
   QAction* CopyRows;
+  QAction* CopyNames;
   QAction* CopyPaths;
+  QAction* ExportSelected;
+  QAction* WhichDisk;
+  QAction* HitProperties;
 };
 
 /// Makes the menu as a child of `parent`; nothing is connected. Its shortcuts work only where the actions are
@@ -36,41 +45,87 @@ ItemMenu makeItemMenu(QWidget* parent);
 /// Shows the picture `name` of `folder` in the preview window. It may throw RuntimeFault.
 using PreviewOpener = std::function<void(const QString& folder, const QString& name)>;
 
-/// Connects the hit list with the hit actions. The menu is a child of the list.
+/// Offers what was dragged out of the list to the window system; returns when it has been dropped.
+using DragStarter = std::function<void(std::unique_ptr<QMimeData>)>;
+
+/// Connects the hit list with the hit actions. The pop-up menu, which comes up only for hits whose file is
+/// there, is a child of the list; the menu of the menu bar serves all hits.
 class SearchFormHits : public QObject {
   Q_OBJECT
 
  public:
-  /// Everything must outlive the object; `locale` is the one in which rows are copied as text.
-  SearchFormHits(HitListView& list, const HitTable& table, const ProgramState& state, Shell& shell,
-                 MessageBoxes& messages, const QLocale& locale);
+  /// Everything must outlive the object; `hitsMenu`, the menu bar's, is filled. `locale` is the one in which
+  /// rows are copied as text.
+  SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitTable& table, const ProgramState& state,
+                 Shell& shell, MessageBoxes& messages, const QLocale& locale);
 
   void setPreviewOpener(PreviewOpener opener) { openPreview_ = std::move(opener); }
+  void setDragStarter(DragStarter starter) { startDrag_ = std::move(starter); }
+  /// What says which words of the search a hit holds; see KnownHit.
+  void setExplanation(std::function<QString(const HitRow&)> explain) { explain_ = std::move(explain); }
 
   const ItemMenu& itemMenu() const { return menu_; }
 
+  /// The rows of the table that the selected rows of the list show, in the order of the list.
+  std::vector<int> selectedTableRows() const;
+  /// The rows of the table that all rows of the list show, in the order of the list.
+  std::vector<int> shownTableRows() const;
+  /// The files and texts of the selected hits, as they are dragged out of the list: the URLs of those files
+  /// that are there, and one line for each hit, its path or where it is in the catalogue.
+  std::unique_ptr<QMimeData> dragData() const;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  void fillHitsMenu(QMenu& menu);
+  void connectItems();
+
   void HitList_DblClick();
   void HitList_MouseDown(const QPoint& place);
+  void noteDragStart(const QMouseEvent& press);
+  bool isDragged(const QMouseEvent& move);
+  void HitList_Drag();
   void CtLaunch_Click();
   void CTOpFolder_Click();
   void ShowPreview_Click();
   void CTQueue_Click();
+  void OpenHits_Click();
+  void ShowInFolder_Click();
   void CopyRows_Click();
+  void CopyNames_Click();
   void CopyPaths_Click();
+  void WhichDisk_Click();
+  void HitProperties_Click();
 
+  struct Paths {
+    QStringList lines;
+    QList<QUrl> files;
+    std::int64_t missing = 0;
+  };
+
+  std::optional<int> currentTableRow() const;
   std::optional<HitRow> currentHit() const;
+  KnownHit known(int tableRow) const;
+  bool mayOpen(std::int64_t count) const;
+  std::int64_t openSelected() const;
+  void tellMissing(std::int64_t missing, std::int64_t all, const QString& instead) const;
   /// The rows to copy; empty, with a message, where they are too many.
   std::vector<int> rowsToCopy() const;
-  QString rowText(int row) const;
+  Paths pathsOf(const std::vector<int>& tableRows) const;
+  QString rowText(int tableRow) const;
 
   HitListView& list_;
   const HitTable& table_;
+  const ProgramState& state_;
   MessageBoxes& messages_;
   QLocale locale_;
   HitActions actions_;
   ItemMenu menu_;
+  std::function<QString(const HitRow&)> explain_ = [](const HitRow&) { return QString(); };
   PreviewOpener openPreview_;
+  DragStarter startDrag_;
+  /// Where the mouse was pressed on a selected row, as long as it has not been moved far enough for a drag.
+  std::optional<QPoint> dragStart_;
 };
 
 }  // namespace quorvin

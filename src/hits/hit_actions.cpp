@@ -46,6 +46,11 @@ ItemMenuContent itemMenuContent(QStringView fileName) {
   return {isOneOf(kPictureExtensions), isOneOf(kAudioExtensions)};
 }
 
+QString cataloguePath(const HitRow& hit) {
+  const QString volume = hit.volume.isEmpty() ? QString() : hit.volume + u':';
+  return volume + hit.folder + hit.name;
+}
+
 HitActions::HitActions(const ProgramState& state, Shell& shell, MessageBoxes& messages, PathStyle style,
                        FileLookUp lookUp)
     : state_(state), shell_(shell), messages_(messages), style_(style), lookUp_(std::move(lookUp)) {}
@@ -79,23 +84,36 @@ HitPath HitActions::resolveQuietly(const HitRow& hit, const FileLookUp& lookUp) 
   }
 }
 
-template <typename Action>
-void HitActions::act(const HitRow& hit, Action&& action) const {
-  const HitPath path = resolve(hit);
-  if (path.isEmpty()) return;
+QString HitActions::expectedPath(const HitRow& hit) const {
   try {
-    action(path);
-  } catch (const RuntimeFault& fault) {
-    tellFault(fault, path);
+    const std::optional<QString> folder = folderOfHit(state_, hit, style_);
+    return folder ? *folder + hit.name : QString();
+  } catch (const RuntimeFault&) {
+    return {};
   }
 }
 
-void HitActions::launch(const HitRow& hit) const {
-  act(hit, [this](const HitPath& path) { shell_.open(path.fullPath(), path.folder); });
+template <typename Action>
+LaunchOutcome HitActions::act(const HitRow& hit, Action&& action) const {
+  HitPath known;
+  try {
+    const HitPath path = find(hit, lookUp_, known);
+    if (path.isEmpty()) return LaunchOutcome::NotFound;
+    known = path;
+    action(path);
+  } catch (const RuntimeFault& fault) {
+    tellFault(fault, known);
+    return LaunchOutcome::Failed;
+  }
+  return LaunchOutcome::Opened;
 }
 
-void HitActions::openFolder(const HitRow& hit) const {
-  act(hit, [this](const HitPath& path) { shell_.openFolder(path.folder, path.name); });
+LaunchOutcome HitActions::launch(const HitRow& hit) const {
+  return act(hit, [this](const HitPath& path) { shell_.open(path.fullPath(), path.folder); });
+}
+
+LaunchOutcome HitActions::openFolder(const HitRow& hit) const {
+  return act(hit, [this](const HitPath& path) { shell_.openFolder(path.folder, path.name); });
 }
 
 void HitActions::enqueue(const HitRow& hit) const {

@@ -14,6 +14,7 @@
 #include <QStringList>
 #include <QStringView>
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <vector>
@@ -31,6 +32,19 @@ struct ItemMenuContent {
 /// What the menu shows for a file of this name: the last four characters decide, whatever their case.
 ItemMenuContent itemMenuContent(QStringView fileName);
 
+/// Where a hit is in the catalogue, for one whose file cannot be reached: the volume, ":", the folder and the
+/// entry text, as listed ("CD_12:\Music\Rock\song.mp3"). Without a volume the folder comes first.
+QString cataloguePath(const HitRow& hit);
+
+/// What became of a wish to open a hit.
+enum class LaunchOutcome : std::uint8_t {
+  Opened,
+  /// There is no such file on a connected drive; nothing has been said.
+  NotFound,
+  /// A fault, which the user has been told of.
+  Failed,
+};
+
 /// Acts on hits through the shell. A hit that cannot be resolved is no error: nothing happens. A fault on the
 /// way is reported in one message and ends the action.
 class HitActions {
@@ -44,16 +58,20 @@ class HitActions {
   /// The same without a message, by a look-up of the caller's: a fault is one more way of not being resolved.
   HitPath resolveQuietly(const HitRow& hit, const FileLookUp& lookUp) const;
 
+  /// Where the file of a hit should be, whether it is there or not; empty for hits that no own folder is
+  /// known for.
+  QString expectedPath(const HitRow& hit) const;
+
   /// Opens the file.
-  void launch(const HitRow& hit) const;
+  LaunchOutcome launch(const HitRow& hit) const;
   /// Shows the folder of the file.
-  void openFolder(const HitRow& hit) const;
+  LaunchOutcome openFolder(const HitRow& hit) const;
   /// Appends the file to the queue of an audio player.
   void enqueue(const HitRow& hit) const;
 
  private:
   template <typename Action>
-  void act(const HitRow& hit, Action&& action) const;
+  LaunchOutcome act(const HitRow& hit, Action&& action) const;
   HitPath find(const HitRow& hit, const FileLookUp& lookUp, HitPath& asFarAsKnown) const;
   void tellFault(const RuntimeFault& fault, const HitPath& path) const;
   void enqueueFile(const HitPath& path) const;

@@ -35,6 +35,8 @@ class HitListModel : public QAbstractTableModel {
   /// Empties the table and the model; what comes now was found by `query`.
   void clear(const SearchQuery& query = {});
 
+  /// The words that the rows were found by.
+  const WordPlaces& words() const { return words_; }
   /// The size of the file in `row`, in bytes, as its row shows it.
   std::int64_t size(int row) const { return table_.size(row); }
 

@@ -1,73 +1,12 @@
 // Acting on hits with the mouse and the keys of the real window.
-#include "gui/search_form_fixture.h"
+#include "gui/window_hits_fixture.h"
 #include "support/eventually.h"
 
 #include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QWindow>
 
 namespace quorvin::test {
 
 namespace {
-
-class WindowHits : public SearchFormTest {
- protected:
-  /// Makes these files, lists them as an online source and finds them all.
-  void showFiles(const QStringList& names) {
-    QByteArray listing = blockHead("Music", listed(files_.path()));
-    for (const QString& name : names) {
-      files_.writeFile(name, "x");
-      listing += entryLine(name.toUtf8());
-    }
-    addOnlineSource(QStringLiteral("Music"), listing);
-    state_.OnlineSources.set(1, QStringLiteral("Music"), files_.path());
-    find(QStringLiteral("\\"));
-    ASSERT_EQ(rows(), names.size());
-  }
-  static QByteArray listed(const QString& folder) { return listedFolder(folder, nativePathStyle()).toUtf8(); }
-
-  HitListView* list() { return controls().HitList; }
-  QPoint middleOf(int row) { return list()->visualRect(list()->model()->index(row, 1)).center(); }
-  void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, middleOf(row));
-  }
-  void doubleClick(int row) {
-    click(row);
-    QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, middleOf(row));
-  }
-  /// Through the window system's own way of events, which makes a request for a menu of it.
-  void rightClick(int row) {
-    const QPoint place = list()->viewport()->mapTo(&form(), middleOf(row));
-    QTest::mouseClick(form().windowHandle(), Qt::RightButton, {}, place);
-    QCoreApplication::processEvents();
-  }
-  void pressMenuKey() {
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-    QCoreApplication::sendEvent(list(), &event);
-  }
-  QMenu* menu() { return form().itemMenu().menu; }
-  QStringList visibleItems() {
-    QStringList captions;
-    for (const QAction* item : menu()->actions()) {
-      if (item->isVisible() && !item->isSeparator()) captions.append(item->text());
-    }
-    return captions;
-  }
-  QStringList menuFor(const QString& name) {
-    showFiles({name});
-    rightClick(0);
-    EXPECT_TRUE(menu()->isVisible());
-    return visibleItems();
-  }
-  QString clipboard() { return QGuiApplication::clipboard()->text(); }
-  QString openCall(const QString& name) {
-    return QStringLiteral("open %1 in %2").arg(files_.pathOf(name), files_.path());
-  }
-
-  TemporaryFolder files_;
-};
 
 TEST_F(WindowHits, TheMenuHoldsItsItemsInOrderWithNamesAndCaptions) {
   QStringList items;
@@ -255,23 +194,31 @@ TEST_F(WindowHits, ControlCCopiesTheSelectedRowsAsText) {
   EXPECT_TRUE(clipboard().startsWith(QStringLiteral("100%\tMusic\t\\")));
 }
 
-TEST_F(WindowHits, ControlShiftCCopiesTheFullPathsThatCanBeResolved) {
+TEST_F(WindowHits, ControlShiftCCopiesFullPathsAndForMissingFilesWhereTheyAreInTheCatalogue) {
   showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
   QFile::remove(files_.pathOf(QStringLiteral("b.txt")));
   click(0);
   click(2, Qt::ShiftModifier);
   QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(clipboard(),
-            files_.pathOf(QStringLiteral("a.txt")) + u'\n' + files_.pathOf(QStringLiteral("c.txt")));
+  EXPECT_EQ(clipboard(), files_.pathOf(QStringLiteral("a.txt")) + QStringLiteral("\nMusic:") +
+                             QString::fromUtf8(listed(files_.path())) + QStringLiteral("b.txt\n") +
+                             files_.pathOf(QStringLiteral("c.txt")));
+  EXPECT_EQ(messages_.informed,
+            std::vector{QStringLiteral("1 of 3 could not be found on a connected drive. For these, the path "
+                                       "in the catalogue was copied.")});
 }
 
-TEST_F(WindowHits, CopyingWhatCannotBeResolvedLeavesTheClipboard) {
-  showFiles({QStringLiteral("a.txt")});
-  QFile::remove(files_.pathOf(QStringLiteral("a.txt")));
-  QGuiApplication::clipboard()->setText(QStringLiteral("before"));
-  click(0);
+TEST_F(WindowHits, OfHitsFromOtherListingsThePathInTheCatalogueIsCopied) {
+  setMainDataFile(listingOf("DISK_7", 1, "tune"));
+  addOfflineSource(QStringLiteral("cd.lst"), listingOf("CD 12", 1, "tune"));
+  find(QStringLiteral("tune"));
+  list()->setFocus();
+  QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(clipboard(), QStringLiteral("before"));
+  EXPECT_EQ(clipboard(), QStringLiteral("DISK_7:\\Music\\tune 1.mp3\nCD 12:\\Music\\tune 1.mp3"));
+  EXPECT_EQ(messages_.informed,
+            std::vector{QStringLiteral("2 of 2 could not be found on a connected drive. For these, the path "
+                                       "in the catalogue was copied.")});
 }
 
 TEST_F(WindowHits, ControlCInTheSearchTextCopiesTheSearchText) {

@@ -1,0 +1,104 @@
+#include "hits/hit_properties.h"
+
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QStringList>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quorvin {
+
+namespace {
+
+constexpr int kValueCharacters = 64;
+/// As long as events may be held up.
+constexpr qint64 kMillisecondsOfReading = 8;
+
+}  // namespace
+
+HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget* parent)
+    : QDialog(parent), locale_(locale), finder_(hit.listing, hit.row) {
+  setObjectName(QStringLiteral("HitProperties"));
+  setWindowTitle(QStringLiteral("Properties of ") + hit.row.name);
+
+  auto* rows = new QFormLayout;
+  rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  for (const HitFact& fact : factsOf(hit, locale)) {
+    addRow(rows, fact);
+    if (fact.name != u"Listing") continue;
+    line_ = addRow(rows, {QStringLiteral("Line"), QStringLiteral("Line in the listing"),
+                          QStringLiteral("Being looked for...")});
+  }
+
+  auto* copy = new QPushButton(QStringLiteral("C&opy All"), this);
+  copy->setObjectName(QStringLiteral("CopyAll"));
+  copy->setAutoDefault(false);
+  auto* close = new QPushButton(QStringLiteral("&Close"), this);
+  close->setObjectName(QStringLiteral("CloseButton"));
+  close->setDefault(true);
+  connect(copy, &QPushButton::clicked, this, &HitProperties::Copy_Click);
+  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(copy);
+  buttons->addStretch();
+  buttons->addWidget(close);
+  auto* whole = new QVBoxLayout(this);
+  whole->addLayout(rows);
+  whole->addSpacing(fontMetrics().height() / 2);
+  whole->addLayout(buttons);
+  close->setFocus();
+
+  connect(&reading_, &QTimer::timeout, this, &HitProperties::readOn);
+  reading_.start(0);
+}
+
+QLineEdit* HitProperties::addRow(QFormLayout* rows, const HitFact& fact) {
+  auto* value = new QLineEdit(fact.value, this);
+  value->setObjectName(fact.name);
+  value->setAccessibleName(fact.label);
+  value->setReadOnly(true);
+  value->setFrame(false);
+  value->setToolTip(fact.value.toHtmlEscaped());
+  // A value, not a box to fill in.
+  QPalette palette = value->palette();
+  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+  value->setPalette(palette);
+  value->setMinimumWidth(fontMetrics().averageCharWidth() * kValueCharacters);
+  value->setCursorPosition(0);
+  auto* label = new QLabel(fact.label + u':', this);
+  label->setBuddy(value);
+  rows->addRow(label, value);
+  values_.push_back(value);
+  return value;
+}
+
+void HitProperties::readOn() {
+  QElapsedTimer sinceStart;
+  sinceStart.start();
+  while (!sinceStart.hasExpired(kMillisecondsOfReading)) {
+    if (finder_.step()) continue;
+    reading_.stop();
+    showLine();
+    return;
+  }
+}
+
+void HitProperties::showLine() {
+  const std::optional<std::int64_t> line = finder_.line();
+  line_->setText(line ? locale_.toString(*line) : QStringLiteral("Not in the listing any more"));
+  line_->setToolTip(line_->text());
+}
+
+void HitProperties::Copy_Click() {
+  QStringList lines;
+  for (const QLineEdit* value : values_)
+    lines.append(value->accessibleName() + QStringLiteral(": ") + value->text());
+  QGuiApplication::clipboard()->setText(lines.join(u'\n'));
+}
+
+}  // namespace quorvin
