@@ -10,6 +10,8 @@ WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14
   at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold)
 TIDY_PACKAGES=(clang-tidy-14)
+# To use the exported page as people do:
+BROWSER_PACKAGES=(chromium)
 # What the clang preset needs on top:
 CLANG_PACKAGES=(clang-14 libclang-rt-14-dev llvm-14)
 

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <exception>
+#include <type_traits>
 
 namespace quorvin {
 
@@ -17,7 +18,7 @@ QString lastComponent(const QString& path, PathStyle style) {
 
 /// Browsing is a convenience: whatever goes wrong in it, the user can still type the path.
 template <typename Ask>
-std::optional<QString> askQuietly(Ask&& ask) {
+std::invoke_result_t<Ask> askQuietly(Ask&& ask) {
   try {
     return ask();
   } catch (const std::exception&) {
@@ -31,6 +32,12 @@ QString existingFolder(const QString& path) {
   const QFileInfo info(QDir::fromNativeSeparators(path));
   if (info.isDir()) return info.absoluteFilePath();
   return QFileInfo(info.absolutePath()).isDir() ? info.absolutePath() : QDir::currentPath();
+}
+
+/// "csv" of "Table (*.csv)".
+QString endingOf(const QString& form) {
+  const qsizetype start = form.lastIndexOf(QStringLiteral("(*.")) + 3;
+  return form.mid(start).section(u')', 0, 0).section(u' ', 0, 0);
 }
 
 std::optional<QString> picked(QFileDialog& dialog) {
@@ -53,11 +60,35 @@ std::optional<QString> DialogFilePicker::openFile(const FileQuestion& question) 
   return withDefaultExtension(*path, question.defaultExtension, nativePathStyle());
 }
 
+QStringList DialogFilePicker::openFiles(const FileQuestion& question) {
+  QFileDialog dialog(QApplication::activeWindow());
+  dialog.setFileMode(QFileDialog::ExistingFiles);
+  dialog.setDirectory(existingFolder(question.initialFolder));
+  if (!question.fileName.isEmpty()) dialog.selectFile(question.fileName);
+  QStringList paths;
+  if (dialog.exec() != QDialog::Accepted) return paths;
+  for (const QString& file : dialog.selectedFiles()) paths.append(QDir::toNativeSeparators(file));
+  return paths;
+}
+
 std::optional<QString> DialogFilePicker::pickFolder(const FileQuestion& question) {
   QFileDialog dialog(QApplication::activeWindow());
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
   dialog.setDirectory(existingFolder(question.initialFolder));
+  return picked(dialog);
+}
+
+std::optional<QString> DialogFilePicker::saveFile(const SaveQuestion& question) {
+  QFileDialog dialog(QApplication::activeWindow(), question.title);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setNameFilters(question.forms);
+  dialog.setDirectory(existingFolder(question.initialFolder));
+  const auto takeEnding = [&dialog](const QString& form) { dialog.setDefaultSuffix(endingOf(form)); };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, takeEnding);
+  takeEnding(question.forms.value(0));
+  dialog.selectFile(question.fileName + u'.' + endingOf(question.forms.value(0)));
   return picked(dialog);
 }
 
@@ -67,6 +98,10 @@ std::optional<PickedFile> askForFile(FilePicker& picker, const FileQuestion& que
   const QString title = lastComponent(*path, style);
   if (title.isEmpty()) return std::nullopt;
   return PickedFile{*path, title};
+}
+
+QStringList askForFiles(FilePicker& picker, const FileQuestion& question) {
+  return askQuietly([&] { return std::optional(picker.openFiles(question)); }).value_or(QStringList());
 }
 
 std::optional<PickedFile> askForFolder(FilePicker& picker, const FileQuestion& question, PathStyle style) {

@@ -4,6 +4,7 @@
 #include "files/path_style.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -19,6 +20,17 @@ struct FileQuestion {
   QString defaultExtension;
 };
 
+/// What something is to be saved as.
+struct SaveQuestion {
+  QString title;
+  /// Without an ending.
+  QString fileName;
+  /// Where to start; may be any text.
+  QString initialFolder;
+  /// The forms that there are, for example "Table (*.csv)"; the first is chosen at first.
+  QStringList forms;
+};
+
 /// The system's dialogs to pick a file or a folder.
 class FilePicker {
  public:
@@ -28,16 +40,29 @@ class FilePicker {
   /// cancels.
   virtual std::optional<QString> openFile(const FileQuestion& question) = 0;
 
+  /// The same for any number of files, which exist; none when the user cancels. A picker that knows only
+  /// single files gives one.
+  virtual QStringList openFiles(const FileQuestion& question) {
+    const std::optional<QString> file = openFile(question);
+    return file ? QStringList(*file) : QStringList();
+  }
+
   /// The native path of the folder that the user picks; nothing when the user cancels. Only the question's
   /// initial folder is used.
   virtual std::optional<QString> pickFolder(const FileQuestion& question) = 0;
+
+  /// The whole native path under which the user wants to save, with the ending of the chosen form where none
+  /// was typed; nothing when the user cancels. A file that is there is to be replaced.
+  virtual std::optional<QString> saveFile(const SaveQuestion& question) = 0;
 };
 
 /// Shows the native dialogs where the system has them, above the window in use.
 class DialogFilePicker : public FilePicker {
  public:
   std::optional<QString> openFile(const FileQuestion& question) override;
+  QStringList openFiles(const FileQuestion& question) override;
   std::optional<QString> pickFolder(const FileQuestion& question) override;
+  std::optional<QString> saveFile(const SaveQuestion& question) override;
 };
 
 /// A picked file. `FileTitle` is the last component of the whole path `FileName`; it is never empty.
@@ -48,6 +73,9 @@ struct PickedFile {
 
 /// Lets the user pick a file. A picker that fails counts as cancelled.
 std::optional<PickedFile> askForFile(FilePicker& picker, const FileQuestion& question, PathStyle style);
+
+/// Lets the user pick any number of files, as whole paths. A picker that fails counts as cancelled.
+QStringList askForFiles(FilePicker& picker, const FileQuestion& question);
 
 /// Lets the user pick a folder; the answer is as if the user had confirmed the prefilled file name in it. A
 /// picker that fails counts as cancelled.

@@ -18,18 +18,20 @@ constexpr Answer kRefuse = Answer::Refused;
 // listings are searched, made or packed follow: the folders have changed, and nobody wants to ask twice. What
 // shows `Progress` excludes the others that do, since there is one window and one stop request for it.
 // Received lists and packing have nobody waiting in front of the screen, so they wait. Lists are being got
-// until what came has been unpacked.
+// until what came has been unpacked. An export needs the hits as they are: none starts during a search, and
+// it gives up by itself when a search takes the hits away.
 //
-// Wanted:         Search  Refresh  Update   Extract. Packing Getting  Unpack.  Closing
+// Wanted:         Search  Refresh  Update   Extract. Packing Getting  Unpack.  Export   Closing
 constexpr std::array<Row, kJobKinds> kTable = {{
-    /* Search */ {kStop, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
-    /* Refresh */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
-    /* Update */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
-    /* Extraction */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
-    /* Packing */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kStop},
-    /* Getting */ {kStart, kStart, kStart, kStart, kStart, kRefuse, kStart, kStop},
-    /* Unpacking */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kRefuse, kWait, kStop},
-    /* Closing */ {kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse},
+    /* Search */ {kStop, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kRefuse, kStop},
+    /* Refresh */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kRefuse, kStop},
+    /* Update */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kRefuse, kStop},
+    /* Extraction */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kStart, kWait, kRefuse, kStop},
+    /* Packing */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kRefuse, kStop},
+    /* Getting */ {kStart, kStart, kStart, kStart, kStart, kRefuse, kStart, kStart, kStop},
+    /* Unpacking */ {kStart, kRefuse, kRefuse, kRefuse, kWait, kRefuse, kWait, kRefuse, kStop},
+    /* Export */ {kStart, kWait, kRefuse, kRefuse, kWait, kStart, kWait, kRefuse, kStop},
+    /* Closing */ {kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse, kRefuse},
 }};
 
 QString sentenceOf(JobKind running) {
@@ -48,6 +50,8 @@ QString sentenceOf(JobKind running) {
       return QStringLiteral("Lists are being received from a peer.");
     case JobKind::Unpacking:
       return QStringLiteral("Lists that came from a peer are being unpacked.");
+    case JobKind::Export:
+      return QStringLiteral("Hits are being exported.");
     case JobKind::Closing:
       break;
   }
@@ -70,6 +74,8 @@ QString subjectOf(JobKind wanted) {
       return QStringLiteral("Getting lists");
     case JobKind::Unpacking:
       return QStringLiteral("Unpacking received lists");
+    case JobKind::Export:
+      return QStringLiteral("The export");
     case JobKind::Closing:
       break;
   }

@@ -22,10 +22,12 @@ enum class JobKind : std::uint8_t {
   Getting,
   /// Unpacking lists that came from a peer.
   Unpacking,
+  /// Writing hits to a file.
+  Export,
   Closing,
 };
 
-inline constexpr int kJobKinds = 8;
+inline constexpr int kJobKinds = 9;
 
 /// What becomes of a job that is asked for while another one runs, from the mildest to the strictest.
 enum class Answer : std::uint8_t {

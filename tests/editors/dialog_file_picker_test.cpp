@@ -79,6 +79,33 @@ TEST_F(FileDialogs, AFolderIsPicked) {
             folder_.pathOf(QStringLiteral("inner")));
 }
 
+TEST_F(FileDialogs, WhatIsSavedGetsTheEndingOfItsForm) {
+  const SaveQuestion question{QStringLiteral("Export Hits"),
+                              QStringLiteral("hits"),
+                              folder_.path(),
+                              {QStringLiteral("Table (*.csv)"), QStringLiteral("Page (*.html)")}};
+  const auto save = [&](const std::function<void(QFileDialog&)>& answer) {
+    std::optional<QString> path;
+    EXPECT_TRUE(duringModal<QFileDialog>([&] { path = DialogFilePicker().saveFile(question); }, answer));
+    return path;
+  };
+  EXPECT_EQ(save([](QFileDialog& dialog) {
+              EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Export Hits"));
+              EXPECT_EQ(nameBox(dialog)->text(), QStringLiteral("hits.csv"));
+              confirm(dialog, QStringLiteral("found"));
+            }),
+            folder_.pathOf(QStringLiteral("found.csv")));
+  EXPECT_EQ(save([](QFileDialog& dialog) {
+              dialog.selectNameFilter(QStringLiteral("Page (*.html)"));
+              Q_EMIT dialog.filterSelected(QStringLiteral("Page (*.html)"));
+              confirm(dialog, QStringLiteral("found"));
+            }),
+            folder_.pathOf(QStringLiteral("found.html")));
+  EXPECT_EQ(save([](QFileDialog& dialog) { confirm(dialog, QStringLiteral("found.txt")); }),
+            folder_.pathOf(QStringLiteral("found.txt")));
+  EXPECT_EQ(save([](QFileDialog& dialog) { dialog.reject(); }), std::nullopt);
+}
+
 TEST_F(FileDialogs, ThePathOfAFileStartsInItsFolder) {
   FileQuestion inFile = question();
   inFile.initialFolder = folder_.pathOf(QStringLiteral("cds.txt"));

@@ -4,6 +4,7 @@
 #include "editors/file_picker.h"
 #include "faults/runtime_fault.h"
 
+#include <functional>
 #include <vector>
 
 namespace quorvin::test {
@@ -14,15 +15,31 @@ class RecordingFilePicker : public FilePicker {
     askedForFile.push_back(question);
     return answer();
   }
+  QStringList openFiles(const FileQuestion& question) override {
+    if (picks.isEmpty()) return FilePicker::openFiles(question);
+    askedForFile.push_back(question);
+    return picks;
+  }
   std::optional<QString> pickFolder(const FileQuestion& question) override {
     askedForFolder.push_back(question);
     return answer();
   }
 
+  std::optional<QString> saveFile(const SaveQuestion& question) override {
+    askedToSave.push_back(question);
+    if (duringSave) duringSave();
+    return answer();
+  }
+
   std::vector<FileQuestion> askedForFile;
   std::vector<FileQuestion> askedForFolder;
+  std::vector<SaveQuestion> askedToSave;
+  /// What happens while the user chooses what to save as.
+  std::function<void()> duringSave;
   /// What is picked next; nothing is a cancel.
   std::optional<QString> pick;
+  /// Where several files can be picked: these, unless there are none.
+  QStringList picks;
   bool fails = false;
 
  private:

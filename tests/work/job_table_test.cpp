@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::array kEveryKind = {JobKind::Search,     JobKind::Refresh, JobKind::Update,
                                    JobKind::Extraction, JobKind::Packing, JobKind::Getting,
-                                   JobKind::Unpacking,  JobKind::Closing};
+                                   JobKind::Unpacking,  JobKind::Export,  JobKind::Closing};
 
 struct Pair {
   JobKind running;
@@ -28,6 +28,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Search, JobKind::Packing, Answer::Waits},
     Pair{JobKind::Search, JobKind::Getting, Answer::Starts},
     Pair{JobKind::Search, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Search, JobKind::Export, Answer::Refused},
     Pair{JobKind::Search, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Refresh, JobKind::Search, Answer::Starts},
@@ -37,6 +38,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Refresh, JobKind::Packing, Answer::Waits},
     Pair{JobKind::Refresh, JobKind::Getting, Answer::Starts},
     Pair{JobKind::Refresh, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Refresh, JobKind::Export, Answer::Refused},
     Pair{JobKind::Refresh, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Update, JobKind::Search, Answer::Starts},
@@ -46,6 +48,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Update, JobKind::Packing, Answer::Waits},
     Pair{JobKind::Update, JobKind::Getting, Answer::Starts},
     Pair{JobKind::Update, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Update, JobKind::Export, Answer::Refused},
     Pair{JobKind::Update, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Extraction, JobKind::Search, Answer::Starts},
@@ -55,6 +58,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Extraction, JobKind::Packing, Answer::Waits},
     Pair{JobKind::Extraction, JobKind::Getting, Answer::Starts},
     Pair{JobKind::Extraction, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Extraction, JobKind::Export, Answer::Refused},
     Pair{JobKind::Extraction, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Packing, JobKind::Search, Answer::Starts},
@@ -64,6 +68,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Packing, JobKind::Packing, Answer::Waits},
     Pair{JobKind::Packing, JobKind::Getting, Answer::Starts},
     Pair{JobKind::Packing, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Packing, JobKind::Export, Answer::Refused},
     Pair{JobKind::Packing, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Getting, JobKind::Search, Answer::Starts},
@@ -73,6 +78,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Getting, JobKind::Packing, Answer::Starts},
     Pair{JobKind::Getting, JobKind::Getting, Answer::Refused},
     Pair{JobKind::Getting, JobKind::Unpacking, Answer::Starts},
+    Pair{JobKind::Getting, JobKind::Export, Answer::Starts},
     Pair{JobKind::Getting, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Unpacking, JobKind::Search, Answer::Starts},
@@ -82,7 +88,18 @@ constexpr std::array kPairs = {
     Pair{JobKind::Unpacking, JobKind::Packing, Answer::Waits},
     Pair{JobKind::Unpacking, JobKind::Getting, Answer::Refused},
     Pair{JobKind::Unpacking, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Unpacking, JobKind::Export, Answer::Refused},
     Pair{JobKind::Unpacking, JobKind::Closing, Answer::Stops},
+
+    Pair{JobKind::Export, JobKind::Search, Answer::Starts},
+    Pair{JobKind::Export, JobKind::Refresh, Answer::Waits},
+    Pair{JobKind::Export, JobKind::Update, Answer::Refused},
+    Pair{JobKind::Export, JobKind::Extraction, Answer::Refused},
+    Pair{JobKind::Export, JobKind::Packing, Answer::Waits},
+    Pair{JobKind::Export, JobKind::Getting, Answer::Starts},
+    Pair{JobKind::Export, JobKind::Unpacking, Answer::Waits},
+    Pair{JobKind::Export, JobKind::Export, Answer::Refused},
+    Pair{JobKind::Export, JobKind::Closing, Answer::Stops},
 
     Pair{JobKind::Closing, JobKind::Search, Answer::Refused},
     Pair{JobKind::Closing, JobKind::Refresh, Answer::Refused},
@@ -91,6 +108,7 @@ constexpr std::array kPairs = {
     Pair{JobKind::Closing, JobKind::Packing, Answer::Refused},
     Pair{JobKind::Closing, JobKind::Getting, Answer::Refused},
     Pair{JobKind::Closing, JobKind::Unpacking, Answer::Refused},
+    Pair{JobKind::Closing, JobKind::Export, Answer::Refused},
     Pair{JobKind::Closing, JobKind::Closing, Answer::Refused},
 };
 

@@ -1,0 +1,114 @@
+#include "app/search_form_export.h"
+
+#include "app/fault_report.h"
+
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QStandardPaths>
+
+namespace quorvin {
+
+namespace {
+
+/// What is over sooner needs no window of its own.
+constexpr qint64 kMillisecondsUnseen = 250;
+
+QStringList forms() {
+  return {QStringLiteral("Table (*.csv)"), QStringLiteral("Page with its own search box (*.html)"),
+          QStringLiteral("Listing that can be searched (*.txt)")};
+}
+
+}  // namespace
+
+SearchFormExport::SearchFormExport(const SearchFormExportParts& parts)
+    : parts_(parts), folder_(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {}
+
+void SearchFormExport::ExportHits_Click() {
+  exportRows(parts_.hits.shownTableRows());
+}
+
+void SearchFormExport::ExportSelected_Click() {
+  exportRows(parts_.hits.selectedTableRows());
+}
+
+void SearchFormExport::exportRows(const std::vector<int>& tableRows) {
+  if (tableRows.empty()) return parts_.messages.inform(QStringLiteral("There are no hits to export."));
+  timesCleared_ = parts_.table.timesCleared();
+  const QString refusal = parts_.work.refusalOf(JobKind::Export);
+  if (!refusal.isEmpty()) return parts_.messages.inform(refusal);
+  const std::optional<QString> path =
+      parts_.picker.saveFile({QStringLiteral("Export Hits"), QStringLiteral("hits"), folder_, forms()});
+  if (!path || !mayWriteTo(*path)) return;
+  folder_ = QFileInfo(*path).path();
+  const std::optional<ExportFormat> format = exportFormatOf(*path);
+  const auto action = [&](Job& job) { write(job, *path, *format, tableRows); };
+  if (parts_.work.run(JobKind::Export, action) != Answer::Refused) return;
+  // Something else has started while the user was choosing.
+  const QString why = parts_.work.refusalOf(JobKind::Export);
+  if (!why.isEmpty()) parts_.messages.inform(why);
+}
+
+bool SearchFormExport::mayWriteTo(const QString& path) const {
+  if (!exportFormatOf(path)) {
+    parts_.messages.inform(
+        QStringLiteral("The ending of the name says what is written: .csv, .html or .txt. %1 has none of "
+                       "these.")
+            .arg(path));
+    return false;
+  }
+  if (!parts_.state.isOwnFile(path) && !parts_.state.isListing(path)) return true;
+  parts_.messages.inform(
+      QStringLiteral("%1 belongs to what is searched. Please choose another name.").arg(path));
+  return false;
+}
+
+void SearchFormExport::write(Job& job, const QString& path, ExportFormat format,
+                             const std::vector<int>& tableRows) {
+  const auto all = static_cast<std::int64_t>(tableRows.size());
+  isShown_ = false;
+  sinceStart_.start();
+  bool isWhole = false;
+  const std::unique_ptr<ExportText> text =
+      makeExportText(format, parts_.locale, QGuiApplication::layoutDirection());
+  const QString title = job.display().title();
+  reportFaults(parts_.messages, QStringLiteral("exporting hits to %1").arg(path), [&] {
+    job.display().setTitle(QStringLiteral("Export Hits"));
+    job.display().setStatus(path);
+    // While a file was chosen, a search may have come.
+    const bool areThere = parts_.table.timesCleared() == timesCleared_;
+    isWhole = areThere && exportHits(path, *text, parts_.table, tableRows,
+                                     [&](std::int64_t written) { return goOn(job, written, all); });
+    if (!isWhole) tellUnfinished(job, isShown_ && job.display().isCancelled());
+  });
+  // The request was this job's; a later search or rescan must not end by it.
+  if (isShown_ && job.display().isCancelled()) job.dropStopRequest();
+  job.display().setTitle(title);
+  job.end();
+  if (!isWhole || parts_.work.isClosing()) return;
+  parts_.status.setNote(QStringLiteral("%1 hits were written to %2.").arg(parts_.locale.toString(all), path));
+}
+
+bool SearchFormExport::goOn(Job& job, std::int64_t written, std::int64_t all) {
+  if (!isShown_ && written < all && sinceStart_.hasExpired(kMillisecondsUnseen)) {
+    isShown_ = true;
+    job.show();
+  }
+  if (isShown_ && job.display().isDue()) {
+    job.display().setBar(static_cast<std::int32_t>(written * kFullBar / all));
+    job.display().setDetail(
+        QStringLiteral("%1 of %2 hits").arg(parts_.locale.toString(written), parts_.locale.toString(all)));
+  }
+  job.letEventsRun();
+  const bool isCancelled = isShown_ && job.display().isCancelled();
+  return !isCancelled && !job.isClosing() && parts_.table.timesCleared() == timesCleared_;
+}
+
+/// Who has cancelled knows; whoever has started a search may not.
+void SearchFormExport::tellUnfinished(const Job& job, bool isCancelled) const {
+  if (isCancelled || job.isClosing()) return;
+  parts_.messages.inform(
+      QStringLiteral("The export was given up, since a new search has replaced the hits. Nothing was "
+                     "written."));
+}
+
+}  // namespace quorvin
