@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kBoxCharacters = 56;
 
+/// Also after a pick: the next Enter is not to pick again.
 void goTo(QLineEdit* edit) {
   edit->setFocus();
   edit->selectAll();
@@ -145,6 +146,7 @@ void ListOptions::GetListName_Click() {
   if (!picked) return;
   controls_.LocalFile->setText(picked->FileTitle);
   controls_.LocalDataFolder->setText(folderOf(*picked));
+  goTo(controls_.LocalFile);
 }
 
 void ListOptions::GetLocalFolder_Click() {
@@ -152,7 +154,9 @@ void ListOptions::GetLocalFolder_Click() {
                               QStringLiteral(".txt")};
   const std::optional<PickedFile> picked =
       askForFolder(editing_.picker, question, editing_.conditions.pathStyle);
-  if (picked) controls_.LocalDataFolder->setText(folderOf(*picked));
+  if (!picked) return;
+  controls_.LocalDataFolder->setText(folderOf(*picked));
+  goTo(controls_.LocalDataFolder);
 }
 
 }  // namespace quorvin

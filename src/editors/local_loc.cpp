@@ -69,11 +69,30 @@ void LocalLoc::connectControls() {
   connect(&entries_, &SourceListModel::rowsRemoved, this, &LocalLoc::showNotice);
   connect(&entries_, &SourceListModel::modelReset, this, &LocalLoc::showNotice);
 
+  auto* drops = new SourceDrops(*this, [this](const DroppedSources& dropped) { takeDropped(dropped); });
+  drops->watch(*controls_.Desc);
+  drops->watch(*controls_.LocalDataFolder);
+
+  connect(controls_.Online->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &LocalLoc::enableButtons);
+  connect(&entries_, &SourceListModel::modelReset, this, &LocalLoc::enableButtons);
+  enableButtons();
+
   connect(controls_.Online, &SourceListView::deletePressed, this, &LocalLoc::LocDel_Click);
   auto* up = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this);
   connect(up, &QShortcut::activated, this, &LocalLoc::MvUp_Click);
   auto* down = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Down), this);
   connect(down, &QShortcut::activated, this, &LocalLoc::MvDn_Click);
+}
+
+/// What acts on selected entries has nothing to do without one.
+void LocalLoc::enableButtons() {
+  const bool hasSelection = controls_.Online->selectionModel()->hasSelection();
+  for (QPushButton* button : {controls_.MvUp, controls_.MvDn, controls_.LocDel}) {
+    // The keyboard would be nowhere.
+    if (!hasSelection && button->hasFocus()) controls_.Online->setFocus();
+    button->setEnabled(hasSelection);
+  }
 }
 
 void LocalLoc::LocAdd_Click() {
@@ -127,8 +146,11 @@ void LocalLoc::GetListName_Click() {
                               QStringLiteral(".txt")};
   const std::optional<QString> path = pickedPath(question);
   if (!path) return;
+  if (path->isEmpty()) return controls_.Online->setFocus();
   controls_.LocalDataFolder->setText(*path);
   if (LocMode_ != kOfflineMode) proposeDescription(*path);
+  // The next Enter is to add what was picked, not to pick again.
+  controls_.LocAdd->setFocus();
 }
 
 /// A folder's name says more than the description that is given, and each folder needs one of its own.
@@ -144,10 +166,15 @@ void LocalLoc::showNotice() {
   setNotice(controls_, isOffline ? QString() : descriptionNotice(entries_.entries(), editing_.state));
 }
 
+/// Nothing when the user has cancelled; an empty path when several listings were picked, which are in the
+/// list by then.
 std::optional<QString> LocalLoc::pickedPath(const FileQuestion& question) {
   if (LocMode_ == kOfflineMode) {
-    const std::optional<PickedFile> file = askForFile(editing_.picker, question, editing_.pathStyle);
-    return file ? std::optional(file->FileName) : std::nullopt;
+    const QStringList files = askForFiles(editing_.picker, question);
+    if (files.isEmpty()) return std::nullopt;
+    if (files.size() == 1) return files.first();
+    appendAll(files);
+    return QString();
   }
   const std::optional<PickedFile> folder = askForFolder(editing_.picker, question, editing_.pathStyle);
   return folder ? std::optional(folderOf(*folder)) : std::nullopt;
@@ -165,6 +192,25 @@ void LocalLoc::OK_Click() {
 
 void LocalLoc::SaveOffLine_Click() {
   if (store(editing_.state.OfflineSources, editing_.state.OfflineSourceCount)) accept();
+}
+
+void LocalLoc::appendAll(const QStringList& sources) {
+  std::vector<SourceEntry> entries = entries_.entries();
+  const std::size_t before = entries.size();
+  const QString told = LocMode_ == kOfflineMode ? addListings(sources, entries)
+                                                : addFolders(sources, entries, editing_.pathStyle);
+  for (std::size_t row = before; row < entries.size(); ++row) entries_.append(entries[row]);
+  controls_.Online->scrollToBottom();
+  if (!told.isEmpty()) editing_.messages.inform(told);
+}
+
+void LocalLoc::takeDropped(const DroppedSources& dropped) {
+  const bool isOffline = LocMode_ == kOfflineMode;
+  const QStringList& wanted = isOffline ? dropped.files : dropped.folders;
+  if (!wanted.isEmpty()) return appendAll(wanted);
+  editing_.messages.inform(
+      isOffline ? QStringLiteral("Folders are added in File, Add/Edit Local Folder To Search List.")
+                : QStringLiteral("Listing files are added in File, Add/Edit Offline List files."));
 }
 
 bool LocalLoc::store(SourceTable& table, int& count) {

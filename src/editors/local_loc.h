@@ -3,6 +3,7 @@
 
 #include "editors/file_picker.h"
 #include "editors/local_loc_controls.h"
+#include "editors/source_drops.h"
 #include "editors/source_list_model.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
@@ -61,9 +62,12 @@ class LocalLoc : public QDialog {
   void SaveOffLine_Click();
 
   void connectControls();
+  void enableButtons();
   void takeInitialSize();
   void proposeDescription(const QString& folder);
   void showNotice();
+  void appendAll(const QStringList& sources);
+  void takeDropped(const DroppedSources& dropped);
   std::optional<QString> pickedPath(const FileQuestion& question);
   /// Whether the list could be stored; if not, a message has said why.
   bool store(SourceTable& table, int& count);

@@ -144,6 +144,15 @@ void SourceListView::keyPressEvent(QKeyEvent* event) {
     default:
       QTreeView::keyPressEvent(event);
   }
+  selectCurrentOf(event->key());
+}
+
+/// A row that is the current one already, such as the only one, is not selected by a key that leads to it.
+void SourceListView::selectCurrentOf(int key) {
+  const bool leadsToRow =
+      key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End;
+  if (!leadsToRow || !currentIndex().isValid() || selectionModel()->hasSelection()) return;
+  selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 LocalLocControls makeLocalLocControls(QWidget* parent) {

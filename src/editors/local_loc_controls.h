@@ -29,6 +29,9 @@ class SourceListView : public QTreeView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void selectCurrentOf(int key);
 };
 
 /// The controls of `LocalLoc`; the window owns them.

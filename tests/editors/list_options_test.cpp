@@ -52,6 +52,20 @@ TEST_F(OptionsDialog, ShowsTheSettings) {
   EXPECT_EQ(controls().Nic->text(), QStringLiteral("ann"));
 }
 
+TEST_F(OptionsDialog, EnterAfterAPickDoesNotPickAgain) {
+  for (QPushButton* browse : {controls().GetLocalFolder, controls().GetListName}) {
+    showAndActivate(dialog());
+    picker_.askedForFile.clear();
+    picker_.askedForFolder.clear();
+    picker_.pick =
+        browse == controls().GetLocalFolder ? folder_.path() : folder_.pathOf(QStringLiteral("cds.txt"));
+    browse->setFocus();
+    QTest::keyClick(browse, Qt::Key_Space);
+    QTest::keyClick(dialog().focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(picker_.askedForFile.size() + picker_.askedForFolder.size(), 1U);
+  }
+}
+
 TEST_F(OptionsDialog, ShowsTheDateInTheGivenLocale) {
   conditions_.locale = QLocale(QLocale::German, QLocale::Germany);
   EXPECT_EQ(controls().JoinD->text(), QStringLiteral("15.01.2004 18:30:00"));

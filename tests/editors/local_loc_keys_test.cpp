@@ -22,6 +22,7 @@ TEST_F(EditorKeys, TheDescriptionIsTypedFirst) {
 
 TEST_F(EditorKeys, TabLeadsThroughTheControlsInReadingOrder) {
   std::vector<QString> names;
+  select(1);
   controls().Online->setFocus();
   for (int tab = 0; tab < 10; ++tab) {
     names.push_back(dialog().focusWidget()->objectName());
@@ -57,6 +58,42 @@ TEST_F(EditorKeys, EnterOnAButtonPressesThatButton) {
   controls().Cancel->setFocus();
   press(Qt::Key_Return);
   EXPECT_FALSE(dialog().isVisible());
+}
+
+TEST_F(EditorKeys, TheOnlyEntryIsSelectedByTheKeysThatLeadToIt) {
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End}) {
+    haveOnline({threeFolders()[0]});
+    LocalLoc other(editing(), LocMode_, nullptr);
+    showAndActivate(other);
+    other.controls().Online->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(other.controls().Online, key);
+    EXPECT_EQ(other.controls().Online->selectedRows(), std::vector{0}) << key;
+  }
+}
+
+TEST_F(EditorKeys, EnterAfterAPickAddsWhatWasPicked) {
+  picker_.pick = QStringLiteral("D:\\Films");
+  controls().GetListName->setFocus();
+  press(Qt::Key_Space);
+  press(Qt::Key_Return);
+  EXPECT_EQ(picker_.askedForFolder.size(), 1U);
+  ASSERT_EQ(edited().size(), 4U);
+  EXPECT_EQ(edited()[3], (SourceEntry{QStringLiteral("Films"), QStringLiteral("D:\\Films\\")}));
+}
+
+TEST_F(EditorKeys, MoveAndDeleteCanBePressedOnlyWhileAnEntryIsSelected) {
+  const auto enabled = [this] {
+    const LocalLocControls& all = controls();
+    return std::vector{all.MvUp->isEnabled(), all.MvDn->isEnabled(), all.LocDel->isEnabled()};
+  };
+  EXPECT_EQ(enabled(), (std::vector{false, false, false}));
+  select(1);
+  EXPECT_EQ(enabled(), (std::vector{true, true, true}));
+  controls().LocDel->setFocus();
+  press(Qt::Key_Space);
+  controls().Online->clearSelection();
+  EXPECT_EQ(enabled(), (std::vector{false, false, false}));
+  EXPECT_EQ(dialog().focusWidget(), controls().Online) << "the keyboard is somewhere";
 }
 
 TEST_F(EditorKeys, DeleteInTheListDeletesTheSelectedEntry) {

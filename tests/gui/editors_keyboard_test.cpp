@@ -31,7 +31,7 @@ class EditorsByKeys : public SearchFormTest {
     inDialog<LocalLoc>([] { choose(1); }, action);
   }
   static void inOptions(const std::function<void(ListOptions&)>& action) {
-    inDialog<ListOptions>([] { choose(4); }, action);
+    inDialog<ListOptions>([] { choose(5); }, action);
   }
   QString online() const { return textOf(state_.OnlineSources, state_.OnlineSourceCount); }
   QString offline() const { return textOf(state_.OfflineSources, state_.OfflineSourceCount); }
@@ -46,8 +46,10 @@ class EditorsByKeys : public SearchFormTest {
 
 TEST_F(EditorsByKeys, TabReachesEveryControlOfTheFolders) {
   inFolders([](LocalLoc&) {
+    tabTo("Online");
+    press(Qt::Key_Home);
     EXPECT_EQ(tabStops().toStdString(),
-              "Desc LocalDataFolder GetListName LocAdd OK Cancel Online MvUp MvDn LocDel");
+              "Online MvUp MvDn LocDel Desc LocalDataFolder GetListName LocAdd OK Cancel");
     press(Qt::Key_Escape);
   });
 }
@@ -78,6 +80,17 @@ TEST_F(EditorsByKeys, FoldersAreAddedMovedDeletedAndSaved) {
   EXPECT_EQ(messages_.asked[0], QStringLiteral("Rescan Local Search Locations?"));
 }
 
+TEST_F(EditorsByKeys, TheMainWindowHasTheKeyboardAfterSaving) {
+  messages_.answers = {false};
+  QTimer::singleShot(0, [] {
+    auto* dialog = qobject_cast<LocalLoc*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    QTest::mouseClick(dialog->controls().OK, Qt::LeftButton);
+  });
+  form().menus().AddLocal->trigger();
+  EXPECT_TRUE(eventually([this] { return QApplication::activeWindow() == &form(); }));
+}
+
 TEST_F(EditorsByKeys, AFolderIsLookedForByTheBrowseButton) {
   RecordingFilePicker picker;
   picker.pick = QStringLiteral("/photos");
@@ -105,9 +118,12 @@ TEST_F(EditorsByKeys, EscLeavesTheFoldersAsTheyWere) {
 }
 
 TEST_F(EditorsByKeys, TabReachesEveryControlOfTheOfflineLists) {
+  addOfflineSource(QStringLiteral("cd.lst"), "");
   inOfflineLists([](LocalLoc&) {
+    tabTo("Online");
+    press(Qt::Key_Home);
     EXPECT_EQ(tabStops().toStdString(),
-              "LocalDataFolder GetListName LocAdd SaveOffLine Cancel Online MvUp MvDn LocDel");
+              "Online MvUp MvDn LocDel LocalDataFolder GetListName LocAdd SaveOffLine Cancel");
     press(Qt::Key_Escape);
   });
 }

@@ -1,0 +1,132 @@
+#include "app/search_form_sources.h"
+
+#include "app/fault_report.h"
+
+#include <QAbstractItemModel>
+#include <QEvent>
+#include <QLocale>
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+QString counted(qsizetype count, const char* one, const char* many) {
+  return QLocale().toString(count) + u' ' + QString::fromLatin1(count == 1 ? one : many);
+}
+
+void join(QString& text, const QString& more) {
+  if (more.isEmpty()) return;
+  if (!text.isEmpty()) text += QStringLiteral("\r\n");
+  text += more;
+}
+
+}  // namespace
+
+SearchFormSources::SearchFormSources(ProgramState& state, MessageBoxes& messages, QWidget& window,
+                                     const SearchFormControls& controls, const SearchFormMenus& menus,
+                                     std::function<void()> rescan, std::function<void()> changed)
+    : state_(state),
+      messages_(messages),
+      list_(*controls.HitList),
+      rescan_(std::move(rescan)),
+      changed_(std::move(changed)),
+      folders_(makeOffer(QStringLiteral("OfferFolders"), QStringLiteral("&Catalogue folders of your own"),
+                         *menus.AddLocal)),
+      listings_(makeOffer(QStringLiteral("OfferListings"), QStringLiteral("Search &listings that you have"),
+                          *menus.EditOffline)) {
+  list_.viewport()->installEventFilter(this);
+  connect(list_.model(), &QAbstractItemModel::rowsInserted, this, &SearchFormSources::showOffers);
+  connect(list_.model(), &QAbstractItemModel::modelReset, this, &SearchFormSources::showOffers);
+  auto* drops = new SourceDrops(window, [this](const DroppedSources& dropped) {
+    reportFaults(messages_, QStringLiteral("adding what was dropped"), [&] { take(dropped); });
+  });
+  drops->watch(*controls.SearchStr);
+  drops->watch(*controls.DesMatch);
+}
+
+QCommandLinkButton* SearchFormSources::makeOffer(const QString& name, const QString& caption, QAction& item) {
+  const QString menuItem = QStringLiteral("File, ") + QString(item.text()).remove(u'&');
+  auto* offer = new QCommandLinkButton(caption, menuItem, list_.viewport());
+  offer->setObjectName(name);
+  offer->setAccessibleName(QString(caption).remove(u'&'));
+  offer->setAccessibleDescription(menuItem);
+  // Enter, too.
+  offer->setAutoDefault(true);
+  offer->hide();
+  connect(offer, &QPushButton::clicked, &item, &QAction::trigger);
+  return offer;
+}
+
+void SearchFormSources::showOffers() {
+  const bool isEmpty = !state_.hasSources() && list_.model()->rowCount() == 0;
+  for (QCommandLinkButton* offer : {folders_, listings_}) {
+    // The keyboard would be nowhere.
+    if (!isEmpty && offer->hasFocus()) list_.setFocus();
+    offer->setVisible(isEmpty);
+  }
+  if (isEmpty) placeOffers();
+}
+
+bool SearchFormSources::eventFilter(QObject* watched, QEvent* event) {
+  const bool isResized = event->type() == QEvent::Resize || event->type() == QEvent::FontChange;
+  if (isResized && folders_->isVisibleTo(&list_)) placeOffers();
+  return QObject::eventFilter(watched, event);
+}
+
+/// Below the list's own text, which is in the middle.
+void SearchFormSources::placeOffers() {
+  const QWidget& area = *list_.viewport();
+  // So wide that no line wraps.
+  const int besideText = area.fontMetrics().height() * 4;
+  int width = 0;
+  for (const QCommandLinkButton* offer : {folders_, listings_}) {
+    const int text = area.fontMetrics().horizontalAdvance(offer->description());
+    width = std::max({width, offer->sizeHint().width(), text + besideText});
+  }
+  const int left = std::max(0, (area.width() - width) / 2);
+  int top = area.height() / 2 + area.fontMetrics().height();
+  for (QCommandLinkButton* offer : {folders_, listings_}) {
+    offer->setGeometry(left, top, width, offer->sizeHint().height());
+    top += offer->height();
+  }
+}
+
+void SearchFormSources::take(const DroppedSources& dropped) {
+  QString told;
+  const int folders = takeFolders(dropped.folders, told);
+  const int listings = takeListings(dropped.files, told);
+  if (folders + listings > 0) changed_();
+  QString added;
+  if (folders > 0) join(added, counted(folders, "folder was added.", "folders were added."));
+  if (listings > 0) join(added, counted(listings, "listing was added.", "listings were added."));
+  join(added, told);
+  if (folders == 0) return messages_.inform(added);
+  const QString question = added + QStringLiteral("\r\n\r\nRescan Local Search Locations?");
+  if (messages_.askYesNo(question)) rescan_();
+}
+
+/// How many were added.
+int SearchFormSources::takeFolders(const QStringList& folders, QString& told) {
+  std::vector<SourceEntry> entries = entriesOf(state_.OnlineSources, state_.OnlineSourceCount);
+  const int before = state_.OnlineSourceCount;
+  join(told, addFolders(folders, entries, nativePathStyle()));
+  if (const auto refusal = storeEntries(entries, state_.OnlineSources, state_.OnlineSourceCount)) {
+    join(told, *refusal);
+  }
+  return state_.OnlineSourceCount - before;
+}
+
+int SearchFormSources::takeListings(const QStringList& files, QString& told) {
+  std::vector<SourceEntry> entries = entriesOf(state_.OfflineSources, state_.OfflineSourceCount);
+  const int before = state_.OfflineSourceCount;
+  join(told, addListings(files, entries));
+  if (const auto refusal = storeEntries(entries, state_.OfflineSources, state_.OfflineSourceCount)) {
+    join(told, *refusal);
+  }
+  return state_.OfflineSourceCount - before;
+}
+
+}  // namespace quorvin

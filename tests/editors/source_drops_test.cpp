@@ -1,0 +1,145 @@
+// What is dropped, and what becomes a source of it.
+#include "editors/source_drops.h"
+
+#include "editors/local_loc_fixture.h"
+#include "support/eventually.h"
+#include "support/temporary_folder.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+namespace quorvin::test {
+
+namespace {
+
+class Dropped : public testing::Test {
+ protected:
+  DroppedSources of(const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    return droppedSources(data);
+  }
+  TemporaryFolder folder_;
+};
+
+TEST_F(Dropped, AreFoldersWithASeparatorAndFiles) {
+  const QString listing = folder_.writeFile(QStringLiteral("a #1.txt"), "x");
+  folder_.makeFolder(QStringLiteral("inner"));
+  const DroppedSources dropped = of({QUrl::fromLocalFile(listing), QUrl::fromLocalFile(folder_.path()),
+                                     QUrl::fromLocalFile(folder_.pathOf(QStringLiteral("inner")))});
+  EXPECT_EQ(dropped.files, QStringList(listing));
+  EXPECT_EQ(dropped.folders, (QStringList{folder_.path(), folder_.pathOf(QStringLiteral("inner/"))}));
+}
+
+TEST_F(Dropped, WhatIsNotThereOrElsewhereIsLeftOut) {
+  EXPECT_TRUE(of({QUrl(QStringLiteral("http://host/a.txt")), QUrl::fromLocalFile(QStringLiteral("/no/such")),
+                  QUrl::fromLocalFile(QStringLiteral("/dev/null"))})
+                  .isEmpty());
+}
+
+TEST(AddedFolders, AreDescribedByTheirNamesAndTakenOnce) {
+  Entries entries{{QStringLiteral("Music"), QStringLiteral("/mnt/a/Music/")}};
+  const QString told = addFolders({QStringLiteral("/mnt/b/Music/"), QStringLiteral("/mnt/a/Music"),
+                                   QStringLiteral("/mnt/c/a:b/"), QStringLiteral("/")},
+                                  entries, kUnixPaths);
+  EXPECT_EQ(entries, (Entries{{QStringLiteral("Music"), QStringLiteral("/mnt/a/Music/")},
+                              {QStringLiteral("Music 2"), QStringLiteral("/mnt/b/Music/")},
+                              {QStringLiteral("a_b"), QStringLiteral("/mnt/c/a:b/")}}));
+  EXPECT_EQ(told, QStringLiteral("/mnt/a/Music is in the list already.\r\n/: The Path must be at lease 3 "
+                                 "characters long. (ex: C:\\)"));
+}
+
+TEST(AddedListings, AreDescribedAsOfflineAndTakenOnce) {
+  Entries entries;
+  const QString told = addListings({QStringLiteral("/l/a.txt"), QStringLiteral("/l/a.txt"),
+                                    QStringLiteral("/l/\"b\".txt"), QStringLiteral("/l/c.txt")},
+                                   entries);
+  EXPECT_EQ(entries, (Entries{{QStringLiteral("Offline"), QStringLiteral("/l/a.txt")},
+                              {QStringLiteral("Offline"), QStringLiteral("/l/c.txt")}}));
+  EXPECT_EQ(told, QStringLiteral(
+                      "/l/a.txt is in the list already.\r\n/l/\"b\".txt: The Path must not contain a double "
+                      "quote, since a list of sources cannot keep one. Please give the folder another "
+                      "name, or use a link to it."));
+}
+
+/// Drops onto the real editors.
+class EditorDrops : public LocalLocTest {
+ protected:
+  EditorDrops() { pathStyle_ = kUnixPaths; }
+  static bool drop(QWidget& target, const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent event(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &event);
+    QCoreApplication::processEvents();
+    return event.isAccepted();
+  }
+  QUrl url(const QString& name) const { return QUrl::fromLocalFile(files_.pathOf(name)); }
+
+  TemporaryFolder files_;
+};
+
+TEST_F(EditorDrops, FoldersAreAppendedAndDuplicatesTold) {
+  files_.makeFolder(QStringLiteral("Music"));
+  EXPECT_TRUE(drop(dialog(), {url(QStringLiteral("Music")), url(QStringLiteral("Music"))}));
+  EXPECT_EQ(edited(), (Entries{{QStringLiteral("Music"), files_.pathOf(QStringLiteral("Music/"))}}));
+  EXPECT_EQ(messages_.informed, std::vector{files_.pathOf(QStringLiteral("Music/")) +
+                                            QStringLiteral(" is in the list already.")});
+}
+
+TEST_F(EditorDrops, APathBoxTakesThemToo) {
+  files_.makeFolder(QStringLiteral("Music"));
+  EXPECT_TRUE(drop(*controls().LocalDataFolder, {url(QStringLiteral("Music"))}));
+  EXPECT_EQ(edited().size(), 1U);
+  EXPECT_EQ(controls().LocalDataFolder->text(), QString());
+}
+
+TEST_F(EditorDrops, FilesAmongFoldersAreSentToTheOtherEditor) {
+  files_.writeFile(QStringLiteral("cd.txt"), "x");
+  EXPECT_TRUE(drop(dialog(), {url(QStringLiteral("cd.txt"))}));
+  EXPECT_EQ(edited(), Entries());
+  EXPECT_EQ(messages_.informed,
+            std::vector{QStringLiteral("Listing files are added in File, Add/Edit Offline List files.")});
+}
+
+TEST_F(EditorDrops, TextIsLeftToTheBoxes) {
+  QMimeData data;
+  data.setText(QStringLiteral("abc"));
+  QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(controls().Desc, &enter);
+  QDropEvent event(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(controls().Desc, &event);
+  EXPECT_TRUE(controls().Desc->text().contains(QStringLiteral("abc")));
+}
+
+TEST_F(EditorDrops, ListingsAreAppendedInTheOfflineEditor) {
+  files_.writeFile(QStringLiteral("a.txt"), "x");
+  files_.writeFile(QStringLiteral("b.txt"), "x");
+  inOfflineEditor([this](LocalLoc& editor) {
+    EXPECT_TRUE(drop(editor, {url(QStringLiteral("a.txt")), url(QStringLiteral("b.txt"))}));
+    EXPECT_EQ(editor.entries().entries(),
+              (Entries{{QStringLiteral("Offline"), files_.pathOf(QStringLiteral("a.txt"))},
+                       {QStringLiteral("Offline"), files_.pathOf(QStringLiteral("b.txt"))}}));
+  });
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
+TEST_F(EditorDrops, SeveralListingsOfOnePickAreAppended) {
+  picker_.picks = {QStringLiteral("/l/a.txt"), QStringLiteral("/l/b.txt")};
+  inOfflineEditor([](LocalLoc& editor) {
+    click(editor.controls().GetListName);
+    EXPECT_EQ(editor.entries().entries(), (Entries{{QStringLiteral("Offline"), QStringLiteral("/l/a.txt")},
+                                                   {QStringLiteral("Offline"), QStringLiteral("/l/b.txt")}}));
+    EXPECT_EQ(editor.controls().LocalDataFolder->text(), QString());
+  });
+}
+
+}  // namespace
+
+}  // namespace quorvin::test
