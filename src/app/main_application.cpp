@@ -7,9 +7,13 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
 #include <QWidget>
 
 #include <cstdio>
@@ -75,11 +79,30 @@ QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
   return static_cast<QMessageBox::StandardButton>(Box(icon, text, buttons).exec());
 }
 
+/// In every size that desktops ask for, each drawn for itself, so that none is blurred.
+QIcon applicationIcon() {
+  QSvgRenderer drawing(QStringLiteral(":/quorvin/help/quorvin.svg"));
+  QIcon icon;
+  for (const int side : {16, 22, 24, 32, 48, 64, 96, 128, 256}) {
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawing.render(&painter);
+    painter.end();
+    icon.addPixmap(picture);
+  }
+  return icon;
+}
+
 }  // namespace
 
 Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
+  setWindowIcon(applicationIcon());
+  // Wayland's desktops take the icon from there.
+  setDesktopFileName(QStringLiteral("quorvin"));
   // The session goes on only when everybody has answered, so the handler has to be through by then.
   connect(
       this, &QGuiApplication::commitDataRequest, this,

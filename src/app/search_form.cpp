@@ -63,9 +63,9 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       controls_(makeControls(new QWidget(this))),
       menus_(makeMenus(menuBar())),
       status_(*this, locale),
-      display_(controls_, rows_, status_),
+      display_(controls_, rows_, status_, locale),
       runMessages_(messages, display_, [this] { return jobs_.work().isClosing(); }),
-      hitActions_(*controls_.HitList, hits_, state, shell, messages, locale),
+      hitActions_(*controls_.HitList, *menus_.HitsMenu, hits_, state, shell, messages, locale),
       view_(controls_, menus_, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale, status_),
       search_(
@@ -73,6 +73,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       windows_(state, messages, menus_,
                {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_)}, *this,
                locale, picker),
+      export_({state, runMessages_, jobs_.work(), windows_.picker(), hits_, hitActions_, status_, locale}),
       frame_(*this, controls_, display_, jobs_, windows_) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
@@ -88,6 +89,10 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   connectMenus();
   setPreviewOpener(
       [this](const QString& folder, const QString& name) { windows_.PreviewImage(folder + name); });
+  hitActions_.setExplanation(
+      [this](const HitRow& hit) { return rows_.words().explanation(hit.folder, hit.name); });
+  sources_.emplace(
+      state_, messages_, *this, controls_, menus_, [this] { rescan(); }, [this] { sourcesChanged(); });
   jobs_.peers().SndQTime().setQuit([this] { leave(); });
   controls_.SearchStr->setFocus();
   sourcesChanged();
@@ -130,6 +135,9 @@ void SearchForm::connectMenus() {
   handle(menus_.ReScan, QStringLiteral("refreshing the local lists"), [this] { jobs_.startRefresh(); });
   handle(menus_.ListingHistory, QStringLiteral("showing the listing history"),
          [this] { windows_.ListingHistory_Click(); });
+  handle(menus_.ExportHits, QStringLiteral("exporting hits"), [this] { export_.ExportHits_Click(); });
+  handle(hitActions_.itemMenu().ExportSelected, QStringLiteral("exporting hits"),
+         [this] { export_.ExportSelected_Click(); });
   handle(menus_.OptionsMenu, QStringLiteral("editing the options"), [this] { windows_.OptionsMenu_Click(); });
   handle(menus_.ShareLists, QStringLiteral("sharing lists"),
          [this] { jobs_.ShareLists_Click(menus_.ShareLists->isChecked()); });
@@ -144,6 +152,7 @@ void SearchForm::connectMenus() {
 
 void SearchForm::sourcesChanged() {
   if (sourcesHandler_) sourcesHandler_();
+  sources_->showOffers();
   showEmptyText();
 }
 
@@ -152,10 +161,7 @@ void SearchForm::showEmptyText() {
     controls_.HitList->setEmptyText(search_.emptyText());
     return;
   }
-  controls_.HitList->setEmptyText(
-      QStringLiteral("There is nothing to search yet.\n\n"
-                     "File, Add/Edit Local Folder To Search List: catalogue folders of your own.\n"
-                     "File, Add/Edit Offline List files: search listings that you have."));
+  controls_.HitList->setEmptyText(QStringLiteral("There is nothing to search yet."));
 }
 
 bool SearchForm::eventFilter(QObject* watched, QEvent* event) {

@@ -2,14 +2,17 @@
 #pragma once
 
 #include "app/search_form_controls.h"
+#include "app/search_form_export.h"
 #include "app/search_form_hits.h"
 #include "app/search_form_run.h"
+#include "app/search_form_sources.h"
 #include "app/search_form_status.h"
 #include "app/search_form_view.h"
 #include "app/search_form_windows.h"
 #include "app/search_form_work.h"
 #include "app/shutdown.h"
 #include "app/start_up.h"
+#include "app/version.h"
 #include "hits/hit_list_model.h"
 #include "hits/selection_size.h"
 #include "search/hit_table.h"
@@ -54,6 +57,7 @@ class SearchFormFrame : public StartUpView, public ShutdownView {
   // For start-up.
   void processEvents() override { display_.processEvents(); }
   void setVersionCaption(const QString& caption) override { controls_.lblVer->setText(caption); }
+  void showListingName(const QString& path) override { window_.setWindowTitle(windowTitle(path)); }
   void setWebUpdateEnabled(bool enabled) override { jobs_.setWebUpdateEnabled(enabled); }
   float placement(PlacementKey key) const override;
   void setPlacement(PlacementKey key, float twips) override;
@@ -118,6 +122,8 @@ class SearchForm : public QMainWindow {
   /// Whether the window was closed and the program has come to its end.
   bool hasLeft() const { return hasLeft_; }
 
+  /// What is done with hits that are dragged out of the list.
+  void setDragStarter(DragStarter starter) { hitActions_.setDragStarter(std::move(starter)); }
   /// What shows the picture of a hit; without one a message says that there is none.
   void setPreviewOpener(PreviewOpener opener) { hitActions_.setPreviewOpener(std::move(opener)); }
 
@@ -166,6 +172,9 @@ class SearchForm : public QMainWindow {
   /// Made when the list has its model.
   std::optional<SelectionSize> selectionSize_;
   SearchFormWindows windows_;
+  SearchFormExport export_;
+  /// Made when the list has its model.
+  std::optional<SearchFormSources> sources_;
   SearchFormFrame frame_;
   std::function<void()> unloadHandler_;
   std::function<void()> sourcesHandler_;

@@ -166,13 +166,15 @@ int sectionOf(HitColumn column) {
   return static_cast<int>(column);
 }
 
-int widestDate(const QFontMetrics& metrics, const QLocale& locale) {
-  int width = 0;
-  for (int month = 1; month <= 12; ++month) {
-    const DateValue value = dateValueOf(QDate(2020, month, 28).startOfDay());
-    width = std::max(width, metrics.horizontalAdvance(shortMonthDateText(value, locale)));
+/// Rounded up: a cell that is too narrow by a part of a pixel cuts its text.
+int widestDate(const QFont& font, const QLocale& locale) {
+  const QFontMetricsF metrics(font);
+  qreal width = 0;
+  for (QDate day(2020, 1, 1); day.year() == 2020; day = day.addDays(1)) {
+    const QString text = shortMonthDateText(dateValueOf(day.startOfDay()), locale);
+    width = std::max({width, metrics.horizontalAdvance(text), metrics.boundingRect(text).width()});
   }
-  return width;
+  return static_cast<int>(std::ceil(width)) + 1;
 }
 
 }  // namespace
@@ -222,6 +224,7 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
       addItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
   made.ListingHistory =
       addItem(made.FileMenu, QStringLiteral("ListingHistory"), QStringLiteral("Listing &History..."));
+  made.ExportHits = addItem(made.FileMenu, QStringLiteral("ExportHits"), QStringLiteral("&Export Hits..."));
   made.OptionsMenu = addItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
   made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.
@@ -230,6 +233,7 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   made.ViewMenu = addMenu(bar, QStringLiteral("ViewMenu"), QStringLiteral("&View"));
   made.ResetColumns =
       addItem(made.ViewMenu, QStringLiteral("ResetColumns"), QStringLiteral("&Reset Columns"));
+  made.HitsMenu = addMenu(bar, QStringLiteral("HitsMenu"), QStringLiteral("H&its"));
 
   addSearchItems(made);
 
@@ -258,7 +262,7 @@ void placeControls(const SearchFormControls& controls) {
   const int rowHeight = std::max({controls.SearchStr->sizeHint().height(), controls.Find->sizeHint().height(),
                                   controls.WebUpdate->sizeHint().height()});
   const int captionWidth = std::max(widthOf(controls.searchLabel), widthOf(controls.matchLabel));
-  const int countWidth = widthFor(controls.lblFound, {QStringLiteral("0000000000")});
+  const int countWidth = widthFor(controls.lblFound, {QStringLiteral("0,000,000,000")});
 
   controls.MenuLine->setGeometry(0, 0, 0, controls.MenuLine->sizeHint().height());
   const int firstTop = controls.MenuLine->height() + distances.margin;
@@ -303,7 +307,7 @@ void setInitialColumnWidths(const SearchFormControls& controls, const QLocale& l
   };
   makeAtLeast(HitColumn::Match, metrics.horizontalAdvance(QStringLiteral("100%")));
   makeAtLeast(HitColumn::Size, metrics.horizontalAdvance(QStringLiteral("00000.00mb")));
-  makeAtLeast(HitColumn::Date, widestDate(metrics, locale));
+  makeAtLeast(HitColumn::Date, widestDate(controls.HitList->font(), locale));
 }
 
 QSize initialInnerSize(const SearchFormControls& controls) {

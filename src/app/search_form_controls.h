@@ -45,6 +45,7 @@ struct SearchFormMenus {
   QAction* EditOffline;
   QAction* ReScan;
   QAction* ListingHistory;
+  QAction* ExportHits;
   QAction* OptionsMenu;
   QAction* MenuQuit;
   QMenu* ViewMenu;
@@ -53,6 +54,8 @@ struct SearchFormMenus {
   QAction* SearchWhileTyping;
   QAction* KeepSearchHistory;
   QAction* ClearSearchHistory;
+  /// What can be done with the selected hits; it is filled by those who do it.
+  QMenu* HitsMenu;
   QMenu* PeersMenu;
   /// Can be checked; is checked while lists are shared.
   QAction* ShareLists;

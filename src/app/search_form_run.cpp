@@ -16,17 +16,17 @@ namespace {
 
 constexpr std::int64_t kMillisecondsBetweenShowings = 16;
 
-void showCount(QLabel& label, std::optional<std::int64_t>& count) {
+void showCount(QLabel& label, std::optional<std::int64_t>& count, const QLocale& locale) {
   if (!count) return;
-  label.setText(QString::number(*count));
+  label.setText(locale.toString(*count));
   count.reset();
 }
 
 }  // namespace
 
 SearchFormDisplay::SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows,
-                                     SearchFormStatus& status)
-    : controls_(controls), rows_(rows), status_(status) {}
+                                     SearchFormStatus& status, const QLocale& locale)
+    : controls_(controls), rows_(rows), status_(status), locale_(locale) {}
 
 void SearchFormDisplay::setDesMatch(const QString& text) {
   controls_.DesMatch->setText(text);
@@ -64,8 +64,8 @@ void SearchFormDisplay::processEvents() {
 void SearchFormDisplay::show() {
   sinceShown_.start();
   if (found_) status_.setHits(*found_);
-  showCount(*controls_.lblFound, found_);
-  showCount(*controls_.lblSearched, searched_);
+  showCount(*controls_.lblFound, found_, locale_);
+  showCount(*controls_.lblSearched, searched_, locale_);
   if (!hasNewRows_) return;
   hasNewRows_ = false;
   hasShownRows_ = true;

@@ -27,8 +27,9 @@ namespace quorvin {
 /// and writing a label each time would cost more than the search itself. The first rows are shown at once.
 class SearchFormDisplay : public RunDisplay {
  public:
-  /// All must outlive the display.
-  SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows, SearchFormStatus& status);
+  /// All must outlive the display; counts are grouped as in `locale`.
+  SearchFormDisplay(const SearchFormControls& controls, HitListModel& rows, SearchFormStatus& status,
+                    const QLocale& locale);
 
   void setDesMatch(const QString& text) override;
   void runStarted(const SearchQuery& query) override;
@@ -49,6 +50,7 @@ class SearchFormDisplay : public RunDisplay {
   HitListModel& rows_;
   SearchFormStatus& status_;
   const SearchQuery* query_ = nullptr;
+  QLocale locale_;
   std::optional<std::int64_t> found_;
   std::optional<std::int64_t> searched_;
   bool hasNewRows_ = false;

@@ -6,6 +6,7 @@
 #include "platform/standard_folders.h"
 
 #include <QScopeGuard>
+#include <QSysInfo>
 
 #include <utility>
 
@@ -22,8 +23,12 @@ OptionsConditions optionsConditions(const QLocale& locale) {
 
 ProductFacts productFacts() {
   const ProgramVersion version = programVersion();
-  return {applicationTitle(), version.majorNumber, version.minorNumber, version.revision,
-          applicationDescription()};
+  return {applicationTitle(),
+          version.majorNumber,
+          version.minorNumber,
+          version.revision,
+          applicationDescription(),
+          QSysInfo::prettyProductName() + QStringLiteral(", with Qt ") + QString::fromLatin1(qVersion())};
 }
 
 PreviewFaultReport previewReport(MessageBoxes& messages) {
@@ -70,6 +75,8 @@ void SearchFormWindows::EditOffline_Click() {
 void SearchFormWindows::showSources(LocalLoc& dialog) {
   sources_ = &dialog;
   dialog.exec();
+  // A dialog that closes right after a message above it may leave the desktop without an active window.
+  if (owner_.isVisible()) owner_.activateWindow();
 }
 
 void SearchFormWindows::OptionsMenu_Click() {

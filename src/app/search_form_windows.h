@@ -53,6 +53,9 @@ class SearchFormWindows {
   void HlpGen_Click();
   void RelInfo_Click();
 
+  /// What asks for files.
+  FilePicker& picker() { return sourceEditing_.picker; }
+
   /// Loads a picture and shows it; returns at once.
   void PreviewImage(const QString& path) { preview_.PreviewImage(path); }
 

@@ -69,6 +69,7 @@ void StartUp::takeCommandLine(const QString& commandLine, PathStyle style) {
     boxes_.inform(QString::fromUtf16(kListingNotFound));
     return;
   }
+  view_.showListingName(commandLine);
   // A settings set and a list of online sources of the file's own.
   state_.RegKey = commandLine;
   state_.LocFile += u'_' + BaseNameOf(commandLine, style);

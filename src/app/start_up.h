@@ -24,6 +24,8 @@ class StartUpView : public WindowPlacement {
  public:
   /// Sets the caption of `lblVer`.
   virtual void setVersionCaption(const QString& caption) = 0;
+  /// The window is that of the listing at `path`, which the command line names: its title says so.
+  virtual void showListingName(const QString& path) = 0;
   /// Enables or disables the `WebUpdate` button.
   virtual void setWebUpdateEnabled(bool enabled) = 0;
   /// Lets the pending window events run once.

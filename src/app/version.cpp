@@ -1,5 +1,7 @@
 #include "app/version.h"
 
+#include <QFileInfo>
+
 namespace quorvin {
 
 ProgramVersion programVersion() {
@@ -24,6 +26,10 @@ QString versionText() {
 
 QString applicationTitle() {
   return QStringLiteral("Quorvin Utility");
+}
+
+QString windowTitle(const QString& path) {
+  return QFileInfo(path).fileName() + QStringLiteral(" - ") + applicationTitle();
 }
 
 QString applicationDescription() {

@@ -23,6 +23,10 @@ QString versionText();
 /// The title of the windows and of all message boxes: "Quorvin Utility".
 QString applicationTitle();
 
+/// The title of the main window that shows the listing at `path`, which the command line has named: its file
+/// name comes first ("cds.txt - Quorvin Utility").
+QString windowTitle(const QString& path);
+
 /// One line that says what the program is: "Text file / folder list searching utility".
 QString applicationDescription();
 

@@ -70,26 +70,29 @@ TEST_F(AccessibleWindows, SearchForm) {
                      "StaticText : Searched:\n"
                      "StaticText lblVer: Ver:2.5(64)\n"
                      "MenuBar : Main menu\n"
-                     "MenuItem : File\n"
-                     "PopupMenu FileMenu: File (hidden)\n"
+                     "MenuItem : File\nPopupMenu FileMenu: File (hidden)\n"
                      "MenuItem AddLocal: Add/Edit Local Folder To Search List (hidden)\n"
                      "MenuItem EditOffline: Add/Edit Offline List files (hidden)\n"
                      "MenuItem ReScan: Rescan Local Search Folders (hidden)\n"
                      "MenuItem ListingHistory: Listing History... (hidden)\n"
+                     "MenuItem ExportHits: Export Hits... (hidden)\n"
                      "MenuItem OptionsMenu: Options (hidden)\n"
                      "MenuItem MenuQuit: Quit (hidden)\n"
-                     "MenuItem : View\n"
-                     "PopupMenu ViewMenu: View (hidden)\n"
+                     "MenuItem : View\nPopupMenu ViewMenu: View (hidden)\n"
                      "MenuItem ResetColumns: Reset Columns (hidden)\n"
                      "MenuItem SearchWhileTyping: Search While Typing (hidden)\n"
                      "MenuItem KeepSearchHistory: Keep Search History (hidden)\n"
                      "MenuItem ClearSearchHistory: Clear Search History (hidden)\n"
-                     "MenuItem : Peers\n"
-                     "PopupMenu PeersMenu: Peers (hidden)\n"
+                     "MenuItem : Hits\nPopupMenu HitsMenu: Hits (hidden)\n"
+                     "MenuItem OpenHits: Open (hidden)\nMenuItem ShowInFolder: Show in Folder (hidden)\n"
+                     "MenuItem WhichDisk: Which Disk? (hidden)\nMenuItem CopyRows: Copy (hidden)\n"
+                     "MenuItem CopyNames: Copy Names (hidden)\nMenuItem CopyPaths: Copy Full Path (hidden)\n"
+                     "MenuItem ExportSelected: Export Selected... (hidden)\n"
+                     "MenuItem HitProperties: Properties (hidden)\n"
+                     "MenuItem : Peers\nPopupMenu PeersMenu: Peers (hidden)\n"
                      "MenuItem ShareLists: Share My Lists (hidden)\n"
                      "MenuItem GetLists: Get Lists From Peer... (hidden)\n"
-                     "MenuItem : Help\n"
-                     "PopupMenu HlpMnu: Help (hidden)\n"
+                     "MenuItem : Help\nPopupMenu HlpMnu: Help (hidden)\n"
                      "MenuItem HlpGen: Program Usage (hidden)\n"
                      "MenuItem RelInfo: Release Information (hidden)\n"
                      "MenuItem AboutMenu: About (hidden)\n"
@@ -124,7 +127,10 @@ TEST_F(AccessibleWindows, ItemMenu) {
                                       "MenuItem ShowPreview: Preview Image\n"
                                       "MenuItem CTQueue: Enqueue (Winamp)\n"
                                       "MenuItem CopyRows: Copy\n"
-                                      "MenuItem CopyPaths: Copy Full Path"));
+                                      "MenuItem CopyNames: Copy Names\n"
+                                      "MenuItem CopyPaths: Copy Full Path\n"
+                                      "MenuItem ExportSelected: Export Selected...\n"
+                                      "MenuItem WhichDisk: Which Disk?\nMenuItem HitProperties: Properties"));
   menu.hide();
 }
 
@@ -234,10 +240,11 @@ TEST_F(AccessibleWindows, FrmSplash) {
                      "StaticText lblVersion: Version 2.5.64\n"
                      "StaticText AppDesc: Text file / folder list searching utility\n"
                      "StaticText lblPlatform: Windows 9x, NT, 2000, XP, Vista\n"
+                     "StaticText lblSystem: Runs on %1, with Qt %2\n"
                      "StaticText lblLicence: Free software under the GNU General Public License, version 2 "
                      "or later\n"
-                     "Client imgLogo: Logo: a lens over a list\n"
-                     "Button Command1: Close"));
+                     "Client imgLogo: Logo: a lens over a list\nButton Command1: Close")
+          .arg(QSysInfo::prettyProductName(), QString::fromLatin1(qVersion())));
 }
 
 TEST_F(AccessibleWindows, FrmBrowser) {
@@ -253,8 +260,7 @@ TEST_F(AccessibleWindows, FrmBrowser) {
   EXPECT_EQ(browser->timTimer().objectName(), QStringLiteral("timTimer"));
   expectReadings(*browser, QStringLiteral("ToolBar tbToolBar: Help toolbar\n"
                                           "ButtonMenu qt_toolbar_ext_button: More buttons (hidden)\n"
-                                          "Button Back: Back\n"
-                                          "Button Forward: Forward\n"
+                                          "Button Back: Back\nButton Forward: Forward\n"
                                           "Button Refresh: Refresh\n"
                                           "Button Home: Home\n"
                                           "Button Search: Search\n"
@@ -276,7 +282,7 @@ TEST_F(AccessibleWindows, FrmBrowser) {
                                           "Button : Previous\n"
                                           "Button : Next\n"
                                           "Button : Close\n"
-                                          "StaticText lblStatus: \n"
+                                          "StaticText lblStatus: \nButton OpenNow: Open it now (hidden)\n"
                                           "ProgressBar loadBar: Loading (hidden)")
                                .arg(page));
   browser->close();
@@ -335,7 +341,7 @@ TEST_F(AccessibleWindows, ImgPre) {
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Image Preview"));
   expectReadings(window, QStringLiteral("Client PicBox: Picture frame\n"
                                         "Client Pic: Picture\n"
-                                        "StaticText Note:  (hidden)"));
+                                        "StaticText Note:  (hidden)\nStaticText PicName:  (hidden)"));
 }
 
 TEST_F(AccessibleWindows, TheBoxOfAPictureThatLoads) {

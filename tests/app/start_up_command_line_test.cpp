@@ -36,6 +36,12 @@ TEST_F(StartUpTest, AnExistingFileGetsASettingsSetAndAnOnlineListOfItsOwnOnUnix)
   for (const auto& access : store_.reads) EXPECT_EQ(access.application, listing);
 }
 
+TEST_F(StartUpTest, TheWindowNamesAListingThatIsThere) {
+  const QString listing = data_.writeFile(QStringLiteral("music.txt"), "");
+  startWithCommandLine(listing, kUnixPaths);
+  EXPECT_EQ(view_.listingShown, listing);
+}
+
 TEST_F(StartUpTest, AFileWithoutADotInItsNameGivesTheWholePathToTheOnlineList) {
   writeInCurrentFolder(QStringLiteral("D:\\lists\\music"), "");
   startWithCommandLine(QStringLiteral("D:\\lists\\music"), kWindowsPaths);
@@ -67,6 +73,7 @@ TEST_F(StartUpTest, AMissingFileIsToldAndOnlyBecomesTheDefaultDataFile) {
   EXPECT_EQ(state_.RegKey, QStringLiteral("Ketta Quorvin"));
   EXPECT_EQ(state_.LocFile, QStringLiteral("Locations.txt"));
   EXPECT_EQ(state_.TextFile, QStringLiteral("D:\\lists\\none.txt"));
+  EXPECT_EQ(view_.listingShown, QString());
   EXPECT_EQ(log_.last(), QStringLiteral("events"));
 }
 

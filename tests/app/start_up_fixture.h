@@ -36,6 +36,7 @@ class LoggingView : public StartUpView {
     log_ += QStringLiteral("set ") + nameOf(key) + u' ' + placementText(value);
   }
   void setVersionCaption(const QString& caption) override { log_ += QStringLiteral("lblVer ") + caption; }
+  void showListingName(const QString& path) override { listingShown = path; }
   void setWebUpdateEnabled(bool enabled) override {
     webUpdateEnabled = enabled;
     log_ += enabled ? QStringLiteral("WebUpdate on") : QStringLiteral("WebUpdate off");
@@ -48,6 +49,7 @@ class LoggingView : public StartUpView {
                                          {PlacementKey::Width, 9000},
                                          {PlacementKey::Height, 6000}};
   bool webUpdateEnabled = true;
+  QString listingShown;
 
  private:
   StartUpLog& log_;

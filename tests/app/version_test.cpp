@@ -7,6 +7,10 @@
 namespace quorvin {
 namespace {
 
+TEST(Version, TheTitleOfAListingsWindowNamesTheListing) {
+  EXPECT_EQ(windowTitle(QStringLiteral("/lists/cds.txt")), QStringLiteral("cds.txt - Quorvin Utility"));
+}
+
 TEST(Version, Is2Point5Revision64) {
   const ProgramVersion version = programVersion();
   EXPECT_EQ(version.majorNumber, 2);

@@ -21,6 +21,7 @@ class PlacedWindow : public StartUpView, public ShutdownView {
   float placement(PlacementKey key) const override { return twips.at(key); }
   void setPlacement(PlacementKey key, float value) override { twips[key] = value; }
   void setVersionCaption(const QString&) override {}
+  void showListingName(const QString&) override {}
   void setWebUpdateEnabled(bool) override {}
   void processEvents() override {}
   bool isMinimized() const override { return false; }

@@ -7,6 +7,9 @@
 #include "support/qt_printing.h"
 
 #include <QEvent>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QImage>
 #include <QMetaMethod>
 #include <gtest/gtest.h>
 
@@ -43,6 +46,19 @@ void endTheSession() {
   const QMetaMethod ending = QMetaMethod::fromSignal(&QGuiApplication::commitDataRequest);
   ASSERT_TRUE(
       ending.invoke(qApp, Qt::DirectConnection, QGenericArgument("QSessionManager&", manager.data())));
+}
+
+TEST(MainApplication, ItsWindowsHaveAnIconInEverySize) {
+  const QIcon icon = QGuiApplication::windowIcon();
+  for (const int side : {16, 24, 32, 48, 128, 256}) {
+    const QImage picture = icon.pixmap(QSize(side, side), 1.0).toImage();
+    ASSERT_EQ(picture.size(), QSize(side, side));
+    int golden = 0;
+    for (int y = 0; y < side; ++y) {
+      for (int x = 0; x < side; ++x) golden += picture.pixelColor(x, y) == QColor(0xF6, 0xB7, 0x3C) ? 1 : 0;
+    }
+    EXPECT_GT(golden, side / 16) << side << ": the lens is missing";
+  }
 }
 
 TEST(MainApplication, LeavesAtASignalAndAtTheEndOfTheSession) {

@@ -56,8 +56,8 @@ TEST_F(MenuKeys, ArrowsReachEveryItemOfTheFileMenu) {
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 0); }), QStringLiteral("Local File Search Locations"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 1); }), QStringLiteral("Offline Search List files"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 3); }), QStringLiteral("Listing History"));
-  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 4); }), QStringLiteral("Options"));
-  choose(Qt::Key_F, 5);
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 5); }), QStringLiteral("Options"));
+  choose(Qt::Key_F, 6);
   EXPECT_FALSE(form().isVisible());
 }
 
@@ -120,6 +120,8 @@ TEST_F(MenuKeys, SidewaysLeadsFromMenuToMenuAndEscLeaves) {
   EXPECT_TRUE(form().menus().FileMenu->isVisible());
   press(Qt::Key_Right);
   EXPECT_TRUE(form().menus().ViewMenu->isVisible());
+  press(Qt::Key_Right);
+  EXPECT_TRUE(form().menus().HitsMenu->isVisible());
   press(Qt::Key_Right);
   EXPECT_TRUE(form().menus().PeersMenu->isVisible());
   press(Qt::Key_Right);

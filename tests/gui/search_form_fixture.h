@@ -30,7 +30,7 @@ class SearchFormTest : public testing::Test {
   SearchForm& form() {
     if (form_) return *form_;
     form_ = std::make_unique<SearchForm>(state_, messages_, shell_,
-                                         QLocale(QLocale::English, QLocale::UnitedStates), images_);
+                                         QLocale(QLocale::English, QLocale::UnitedStates), images_, picker_);
     shutdown_ = std::make_unique<Shutdown>(state_, settings_, messages_, form_->frame(),
                                            QLocale(QLocale::English, QLocale::UnitedStates));
     form_->setUnloadHandler([this] { shutdown_->Form_Unload(); });
@@ -115,6 +115,8 @@ class SearchFormTest : public testing::Test {
   MemorySettingsStore settings_;
   /// What keeps listings that were read; may be set before the window is made.
   SegmentStore* images_ = nullptr;
+  /// What files are picked with; may be set before the window is made.
+  FilePicker* picker_ = nullptr;
 
  private:
   std::unique_ptr<SearchForm> form_;

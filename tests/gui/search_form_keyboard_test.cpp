@@ -38,6 +38,7 @@ class MainWindowKeys : public SearchFormTest {
 };
 
 TEST_F(MainWindowKeys, TabReachesEveryControlAndComesBack) {
+  haveFiles({QStringLiteral("a.txt")});
   form().frame().setWebUpdateEnabled(true);
   EXPECT_EQ(tabStops().toStdString(), "SearchStr DesMatch Find WebUpdate HitList");
 }

@@ -97,6 +97,23 @@ TEST_F(WindowLayout, AWidenedFixedColumnIsKeptAndTheNextResizeShrinksTheOthers) 
   }
 }
 
+TEST_F(WindowLayout, TheDateColumnShowsEveryDateOfEveryLanguageWhole) {
+  for (const QLocale::Language language : {QLocale::German, QLocale::English, QLocale::Finnish,
+                                           QLocale::Japanese, QLocale::Portuguese, QLocale::Greek}) {
+    const QLocale locale(language);
+    const SearchForm other(state_, messages_, shell_, locale);
+    const HitListView& list = *other.controls().HitList;
+    const int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    const int blank = list.fontMetrics().horizontalAdvance(u' ');
+    const int room = list.header()->sectionSize(static_cast<int>(HitColumn::Date)) - 2 * (margin + blank);
+    const QFontMetricsF metrics(list.font());
+    for (QDate day(2020, 1, 1); day.year() == 2020; day = day.addDays(1)) {
+      const QString text = shortMonthDateText(dateValueOf(day.startOfDay()), locale);
+      EXPECT_EQ(metrics.elidedText(text, Qt::ElideRight, room - 1), text);
+    }
+  }
+}
+
 TEST_F(WindowLayout, IsNeverSmallerThanTheLeastSize) {
   form().resize(50, 40);
   QTest::qWait(0);
@@ -299,7 +316,7 @@ TEST_P(InitialLayout, CoversNoControlWithAnother) {
 }
 
 TEST_P(InitialLayout, HasRoomForTheLargestCount) {
-  controls().lblFound->setText(QStringLiteral("2147483647"));
+  controls().lblFound->setText(QStringLiteral("2,147,483,647"));
   EXPECT_GE(controls().lblFound->width(), controls().lblFound->sizeHint().width());
 }
 

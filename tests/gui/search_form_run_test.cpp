@@ -118,7 +118,7 @@ TEST_F(WindowRun, StopDuringTheFirstListingStillSearchesTheOthers) {
   });
   find(QStringLiteral("tune"));
   EXPECT_EQ(captionAtStop, QStringLiteral("Stop"));
-  EXPECT_EQ(searched(), QStringLiteral("2009"));
+  EXPECT_EQ(searched(), QStringLiteral("2,009"));
   EXPECT_EQ(volumes().count(QStringLiteral("FIRST")), 2000);
   EXPECT_EQ(volumes().count(QStringLiteral("SECOND")), 2);
   EXPECT_EQ(volumes().count(QStringLiteral("MAIN")), 3);
@@ -132,7 +132,7 @@ TEST_F(WindowRun, EscapeStopsARun) {
   form();
   duringTheRun([&] { QTest::keyClick(&form(), Qt::Key_Escape); });
   find(QStringLiteral("tune"));
-  EXPECT_EQ(searched(), QStringLiteral("2000"));
+  EXPECT_EQ(searched(), QStringLiteral("2,000"));
 }
 
 TEST_F(WindowRun, EscapeWhileIdleAsksForNothing) {
@@ -151,9 +151,9 @@ TEST_F(WindowRun, CountsAndRowsMoveDuringTheRun) {
     duringTheRun([&] { seen = found() + u'/' + searched() + u'/' + QString::number(rows()); });
   });
   find(QStringLiteral("tune"));
-  EXPECT_EQ(seen, QStringLiteral("4000/4000/4000"));
-  EXPECT_EQ(found(), QStringLiteral("4500"));
-  EXPECT_EQ(searched(), QStringLiteral("4500"));
+  EXPECT_EQ(seen, QStringLiteral("4,000/4,000/4000"));
+  EXPECT_EQ(found(), QStringLiteral("4,500"));
+  EXPECT_EQ(searched(), QStringLiteral("4,500"));
   EXPECT_EQ(rows(), 4500);
 }
 

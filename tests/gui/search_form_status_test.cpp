@@ -30,7 +30,7 @@ TEST_F(WindowStatus, CountsHitsAsTheLocaleWritesThem) {
   addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 4321, "tune"));
   find(QStringLiteral("tune"));
   EXPECT_EQ(status(), QStringLiteral("4,321 hits"));
-  EXPECT_EQ(found(), QStringLiteral("4321"));
+  EXPECT_EQ(found(), QStringLiteral("4,321"));
   find(QStringLiteral("zebra"));
   EXPECT_EQ(status(), QStringLiteral("0 hits"));
 }
@@ -75,7 +75,7 @@ TEST_F(WindowStatus, EnterWithANewTextDuringARunSearchesForThat) {
   find(QStringLiteral("tune"));
   EXPECT_EQ(controls().Find->text(), QStringLiteral("Find"));
   EXPECT_EQ(volumes().join(u','), QStringLiteral("SECOND,SECOND,SECOND"));
-  EXPECT_EQ(searched(), QStringLiteral("6003"));
+  EXPECT_EQ(searched(), QStringLiteral("6,003"));
   EXPECT_EQ(status(), QStringLiteral("3 hits"));
   EXPECT_FALSE(state_.AbortRequested);
 }

@@ -85,7 +85,7 @@ TEST_F(Typing, AKeyDuringARunEndsItAndAnotherFollows) {
   typeText(QStringLiteral("tune"));
   duringTheRun([] { typeText(QStringLiteral(" 5999")); });
   waitForIt();
-  EXPECT_EQ(searched(), QStringLiteral("2000"));
+  EXPECT_EQ(searched(), QStringLiteral("2,000"));
   EXPECT_EQ(status(), QStringLiteral("2,000 hits")) << "nobody has stopped it";
   EXPECT_FALSE(state_.AbortRequested);
   ASSERT_TRUE(pause().isActive());
@@ -99,7 +99,7 @@ TEST_F(Typing, AKeyEndsARunThatWasAskedForToo) {
   typeText(QStringLiteral("tune"));
   duringTheRun([] { typeText(QStringLiteral(" 5999")); });
   press(Qt::Key_Return);
-  EXPECT_EQ(searched(), QStringLiteral("2000"));
+  EXPECT_EQ(searched(), QStringLiteral("2,000"));
   waitForIt();
   EXPECT_EQ(rows(), 1);
 }
