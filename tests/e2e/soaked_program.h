@@ -47,8 +47,8 @@ class SoakedProgram {
   void preview(Dice& dice);
   /// Brings an earlier version of a listing back, or only looks at the history.
   void restoreListing(Dice& dice);
-  /// A refresh that is cancelled, whose listings are short then, and another one. False when the first one has
-  /// ended before it could be cancelled.
+  /// A refresh that is cancelled, whose listings are short then, and another one. False when the first one
+  /// has ended before it could be cancelled.
   bool cancelRefresh();
   void lookAtHelp(Dice& dice);
   void wander(Dice& dice);
@@ -109,9 +109,9 @@ class SoakedProgram {
   bool pressCancel(const Identities& before) const;
   void refreshAgain();
 
-  void selectRow(int row) const;
-  QString editOnce(SourceRecords& records, const SourceRecords& unlisted, const AddEntry& add,
-                   Dice& dice) const;
+  void selectRow(int row, bool hasSelection) const;
+  QString editOnce(SourceRecords& records, const SourceRecords& unlisted, const AddEntry& add, Dice& dice,
+                   bool& hasSelection) const;
   void getListsOf(const SoakedProgram& sharer, bool isAdded);
   void addReceived(const SoakedProgram& sharer, const QStringList& foldersBefore);
 

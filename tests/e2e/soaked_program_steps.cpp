@@ -33,16 +33,16 @@ QStringList foldersIn(const QString& path) {
 }  // namespace
 
 /// There are two rows or more: going from the last to the first one selects that one alone, whatever was
-/// selected before.
-void SoakedProgram::selectRow(int row) const {
-  press(times(kTabsToList, QStringLiteral("shift+Tab")) +
+/// selected before. Without a selection the buttons between the boxes and the list are passed over.
+void SoakedProgram::selectRow(int row, bool hasSelection) const {
+  press(times(hasSelection ? kTabsToList : 1, QStringLiteral("shift+Tab")) +
         QStringList{QStringLiteral("End"), QStringLiteral("Home")} + times(row, QStringLiteral("Down")));
 }
 
 /// Moves, deletes or adds an entry, in the editor that is open and in `records`; `unlisted` are the ones that
 /// can be added. Says what it did.
 QString SoakedProgram::editOnce(SourceRecords& records, const SourceRecords& unlisted, const AddEntry& add,
-                                Dice& dice) const {
+                                Dice& dice, bool& hasSelection) const {
   const int kind = dice.below(3);
   if (kind == 0 && !unlisted.empty()) {
     const SourceRecord& added = dice.pick(unlisted);
@@ -52,10 +52,12 @@ QString SoakedProgram::editOnce(SourceRecords& records, const SourceRecords& unl
   }
   if (records.size() < 2) return QStringLiteral("nothing");
   const int row = dice.below(static_cast<int>(records.size()));
-  selectRow(row);
+  selectRow(row, hasSelection);
+  hasSelection = true;
   QString done;
   if (kind == 1) {
-    press({QStringLiteral("Delete")});
+    // Where the first one was deleted, nothing is selected, until a key leads to a row.
+    press({QStringLiteral("Delete"), QStringLiteral("Up")});
     done = QStringLiteral("delete ") + records[static_cast<std::size_t>(row)].first;
     records.erase(records.begin() + row);
   } else {
@@ -76,6 +78,7 @@ void SoakedProgram::editFolders(Dice& dice) {
   SourceRecords edited = lists_.online;
   const SourceRecords before = edited;
   program_->openFromFileMenu({QStringLiteral("a")}, QStringLiteral("Local File Search Locations"));
+  bool hasSelection = false;
   for (int left = 1 + dice.below(3); left > 0; --left) {
     SourceRecords unlisted;
     for (const SourceFolder& folder : folders_) {
@@ -83,7 +86,7 @@ void SoakedProgram::editFolders(Dice& dice) {
       if (std::ranges::find(edited, record) == edited.end()) unlisted.push_back(record);
     }
     const auto add = [this](const SourceRecord& record) { program_->addFolder(record.first, record.second); };
-    note(QStringLiteral("folders: ") + editOnce(edited, unlisted, add, dice));
+    note(QStringLiteral("folders: ") + editOnce(edited, unlisted, add, dice, hasSelection));
   }
   if (dice.oneIn(5)) {
     note(QStringLiteral("folders: cancel"));
@@ -106,6 +109,7 @@ void SoakedProgram::editOfflineLists(Dice& dice) {
   SourceRecords edited = lists_.offline;
   program_->openFromFileMenu({QStringLiteral("Down"), QStringLiteral("Return")},
                              QStringLiteral("Offline Search List files"));
+  bool hasSelection = false;
   for (int left = 1 + dice.below(3); left > 0; --left) {
     SourceRecords unlisted;
     for (const QString& path : offlineOnDisk_) {
@@ -113,7 +117,7 @@ void SoakedProgram::editOfflineLists(Dice& dice) {
       if (std::ranges::find(edited, record) == edited.end()) unlisted.push_back(record);
     }
     const auto add = [this](const SourceRecord& record) { program_->addOfflineList(record.second); };
-    note(QStringLiteral("offline lists: ") + editOnce(edited, unlisted, add, dice));
+    note(QStringLiteral("offline lists: ") + editOnce(edited, unlisted, add, dice, hasSelection));
   }
   if (dice.oneIn(5)) {
     note(QStringLiteral("offline lists: cancel"));
