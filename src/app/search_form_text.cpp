@@ -112,7 +112,7 @@ void SearchTextEdit::paintEvent(QPaintEvent* event) {
   const QRect place(start, cursor.y(), std::max(0, end - start), cursor.height());
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::PlaceholderText));
-  painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
                    fontMetrics().elidedText(rest, Qt::ElideRight, place.width()));
 }
 

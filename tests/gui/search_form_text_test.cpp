@@ -127,6 +127,26 @@ TEST_F(SearchText, TheRestIsPainted) {
   EXPECT_NE(box().grab().toImage(), with);
 }
 
+TEST_F(SearchText, TheRestStandsOnTheLineOfTheText) {
+  // The rows of the picture in which there is text; nothing in it reaches as high or low as the cursor.
+  const auto rowsOfText = [this](int left) {
+    const QImage picture = box().grab().toImage();
+    const QColor background = picture.pixelColor(box().width() / 2, box().height() / 2);
+    std::pair<int, int> rows{picture.height(), -1};
+    for (int y = 4; y < picture.height() - 4; ++y) {
+      for (int x = left; x < left + 40; ++x) {
+        if (picture.pixelColor(x, y) != background) rows = {std::min(rows.first, y), y};
+      }
+    }
+    return rows;
+  };
+  search({QStringLiteral("xxxxxxxxxxxxxxxxxxxxxxxx")});
+  typeText(QStringLiteral("xx"));
+  const auto ofRest = rowsOfText(40);
+  press(Qt::Key_Right);
+  EXPECT_EQ(ofRest, rowsOfText(40));
+}
+
 TEST_F(SearchText, TextsAreKeptOnceTheNewestFirst) {
   search({QStringLiteral("rock"), QStringLiteral("live"), QStringLiteral("ROCK"), QStringLiteral(" ")});
   EXPECT_EQ(kept().join(u'|'), QStringLiteral("ROCK|live"));
