@@ -70,11 +70,24 @@ void HitTable::readRow(std::int64_t row, HitRow& result) const {
   result.volume = segment.volume(entry);
   result.folder = segment.folder(entry);
   result.name = segment.name(entry);
+  const EntryValues shown = values(row);
+  result.size = shown.size;
+  result.date = shown.date;
+}
+
+EntryValues HitTable::values(std::int64_t row) const {
   const std::int64_t valueRow = valueRowOf(row);
-  if (valueRow == kNoRow) return;
-  const EntryValues values = segmentRows(valueRow).segment->values(hit(valueRow).entry);
-  result.size = values.size;
-  result.date = values.date;
+  if (valueRow == kNoRow) return {};
+  return segmentRows(valueRow).segment->values(hit(valueRow).entry);
+}
+
+HitStretch HitTable::stretchAt(std::int64_t row) const {
+  const SegmentRows& rows = segmentRows(row);
+  const bool isLast = &rows == &segments_.back();
+  const std::int64_t segmentEnd = isLast ? rowCount_ : (&rows + 1)->firstRow;
+  const std::int64_t pageEnd = (row / kPageSize + 1) * kPageSize;
+  const auto count = static_cast<std::size_t>(std::min(segmentEnd, pageEnd) - row);
+  return {row, rows.segment, {&hit(row), count}};
 }
 
 std::int64_t HitTable::size(std::int64_t row) const {

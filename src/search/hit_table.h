@@ -35,6 +35,13 @@ struct HitRow {
 /// The text of one column of `row`, as the hit list and the console show it.
 QString hitText(const HitRow& row, HitColumn column, const QLocale& locale);
 
+/// Rows one after another whose hits are in one segment, in entry order.
+struct HitStretch {
+  std::int64_t firstRow;
+  const std::shared_ptr<const Segment>& segment;
+  std::span<const FoundEntry> hits;
+};
+
 /// Keeps hits as references into segments, 8 bytes each, and 16 for each stretch of hits without values of
 /// their own.
 class HitTable : public HitSink {
@@ -50,6 +57,11 @@ class HitTable : public HitSink {
   std::int64_t size(std::int64_t row) const;
   /// The path of the listing that `row` was found in.
   QString listing(std::int64_t row) const;
+
+  /// As many rows from `row` on, 0 <= row < rowCount(), as lie together; valid until the table changes.
+  HitStretch stretchAt(std::int64_t row) const;
+  /// Size and date of `row`. Throws DamagedSegment.
+  EntryValues values(std::int64_t row) const;
 
   /// Removes all rows and releases the segments.
   void clear();

@@ -78,6 +78,20 @@ std::int64_t SegmentSearch::count(const Segment& segment, std::uint32_t first, s
   return static_cast<std::int64_t>(counted_.size());
 }
 
+std::span<const std::uint64_t> SegmentSearch::mark(const Segment& segment, std::uint32_t first,
+                                                   std::uint32_t last) {
+  if (!findCandidates(segment, first, last)) return {};
+  if (wordDecides_) return candidates_;
+  counted_.clear();
+  score(first, counted_);
+  std::ranges::fill(candidates_, 0);
+  for (const FoundEntry& hit : counted_) {
+    const std::uint32_t i = hit.entry - first;
+    candidates_[i / 64] |= std::uint64_t{1} << (i % 64);
+  }
+  return candidates_;
+}
+
 /// False where nothing can be a hit.
 bool SegmentSearch::findCandidates(const Segment& segment, std::uint32_t first, std::uint32_t last) {
   if (first == last || query_.fewestForHit() > query_.wordCount()) return false;

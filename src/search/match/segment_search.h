@@ -33,6 +33,10 @@ class SegmentSearch {
   /// How many hits search() would append.
   std::int64_t count(const Segment& segment, std::uint32_t first, std::uint32_t last);
 
+  /// The same hits as a bit for each entry, that of `first` lowest in the first element; none at all where
+  /// nothing is a hit. Valid until the next call.
+  std::span<const std::uint64_t> mark(const Segment& segment, std::uint32_t first, std::uint32_t last);
+
  private:
   bool findCandidates(const Segment& segment, std::uint32_t first, std::uint32_t last);
   void searchFolders(const Segment& segment, std::uint32_t first, std::uint32_t last);

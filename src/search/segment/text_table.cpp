@@ -97,6 +97,23 @@ std::string TextTable::listedText(std::uint32_t text) const {
   return listed;
 }
 
+std::uint32_t TextWalk::placeOf(std::uint32_t text) {
+  const bool isAhead = current_ <= text && current_ / kTextsPerMark == text / kTextsPerMark;
+  if (!isAhead) {
+    group_ = table_.between(text / kTextsPerMark, text / kTextsPerMark + 1);
+    groupBegin_ = table_.folded.part(group_.begin, group_.size).data();
+    at_ = groupBegin_;
+    current_ = text - text % kTextsPerMark;
+  }
+  for (; current_ < text; ++current_) at_ = endOfText(at_) + 1;
+  return static_cast<std::uint32_t>(group_.begin + static_cast<std::size_t>(at_ - groupBegin_));
+}
+
+std::string_view TextWalk::text(std::uint32_t text) {
+  placeOf(text);
+  return {at_, static_cast<std::size_t>(endOfText(at_) - at_)};
+}
+
 void TextTableBuilder::add(std::string_view listed, bool ascii) {
   beginText();
   if (ascii) {

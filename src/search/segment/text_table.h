@@ -100,6 +100,28 @@ struct TextTable {
   std::string listedText(std::uint32_t text) const;
 };
 
+/// Finds folded texts one after another.
+class TextWalk {
+ public:
+  /// `table` must outlive the walk and not change meanwhile.
+  explicit TextWalk(const TextTable& table) : table_(table) {}
+
+  /// Where `text` starts in `folded`. The cost is the texts that lie between it and the text that was asked
+  /// for before, 31 at most; that of the first call, and of a call that goes back, is up to 31 texts too.
+  std::uint32_t placeOf(std::uint32_t text);
+
+  /// The folded text, without its end.
+  std::string_view text(std::uint32_t text);
+
+ private:
+  const TextTable& table_;
+  TextTable::Stretch group_{0, 0};
+  const char* groupBegin_ = nullptr;
+  /// The text that starts at `at_`.
+  std::uint32_t current_ = UINT32_MAX;
+  const char* at_ = nullptr;
+};
+
 /// Grows a TextTable.
 class TextTableBuilder {
  public:

@@ -52,10 +52,26 @@ class SegmentOfBlocks {
     Hits hits;
     SegmentSearch(query).search(segment_, first, last, hits);
     EXPECT_EQ(SegmentSearch(query).count(segment_, first, last), static_cast<std::int64_t>(hits.size()));
+    EXPECT_EQ(marked(query, first, last), entriesOf(hits));
     return hits;
   }
 
  private:
+  std::vector<std::uint32_t> marked(const SearchQuery& query, std::uint32_t first, std::uint32_t last) const {
+    SegmentSearch search(query);
+    const std::span<const std::uint64_t> bits = search.mark(segment_, first, last);
+    std::vector<std::uint32_t> entries;
+    for (std::size_t i = 0; i < bits.size() * 64; ++i) {
+      if ((bits[i / 64] >> (i % 64) & 1U) != 0) entries.push_back(first + static_cast<std::uint32_t>(i));
+    }
+    return entries;
+  }
+  static std::vector<std::uint32_t> entriesOf(const Hits& hits) {
+    std::vector<std::uint32_t> entries;
+    for (const FoundEntry& hit : hits) entries.push_back(hit.entry);
+    return entries;
+  }
+
   GrowingSegment segment_;
 };
 

@@ -16,7 +16,7 @@ namespace {
 
 using Bits = std::vector<std::uint64_t>;
 
-constexpr std::uint64_t kOld = 0xDEADBEEFDEADBEEF;
+constexpr std::uint64_t kOldBits = 0xDEADBEEFDEADBEEF;
 constexpr char kEnd = '|';
 
 /// `size` bytes out of two letters and ends, and behind them as many readable bytes as the scans ask for.
@@ -95,9 +95,9 @@ TEST_P(WordScan, TextsAreThoseThatHoldAPlace) {
     const std::string_view text(all.data(), size);
     const Bits places = bitsWhere(size, [&](std::size_t i) { return text[i] == 'b'; });
     const Bits expected = plainTextsWithPlaces(places, endsOf(text));
-    Bits texts(expected.size() + 2, kOld);
+    Bits texts(expected.size() + 2, kOldBits);
     textsWithPlaces(places, endsOf(text).data(), texts.data());
-    ASSERT_EQ(texts.back(), kOld) << "written too far, seed " << seed;
+    ASSERT_EQ(texts.back(), kOldBits) << "written too far, seed " << seed;
     texts.resize(expected.size());
     ASSERT_EQ(texts, expected) << "seed " << seed;
   }
@@ -112,9 +112,9 @@ TEST_P(WordScan, EverySizeAndLengthAgreesWithAPlainLoop) {
       const std::string word = std::string("aaaaabab").substr(kLongestScannedWord - length);
       const Bits places = bitsWhere(size, [&](std::size_t i) { return text.substr(i, length) == word; });
       const Bits expected = plainTextsWithPlaces(places, endsOf(text));
-      Bits texts(expected.size() + 2, kOld);
+      Bits texts(expected.size() + 2, kOldBits);
       ASSERT_EQ(scanTexts(text, word, kEnd, texts.data()), anySet(expected)) << word << ", size " << size;
-      ASSERT_EQ(texts.back(), kOld) << "written too far, size " << size;
+      ASSERT_EQ(texts.back(), kOldBits) << "written too far, size " << size;
       texts.resize(expected.size());
       ASSERT_EQ(texts, expected) << word << ", size " << size;
     }
@@ -125,7 +125,7 @@ TEST_P(WordScan, ATextOverManyBlocksIsOneText) {
   // Two texts: one over five blocks with places in its second and fourth, and one without.
   const Bits ends = {0, 0, 0, 0, 1, std::uint64_t{1} << 63};
   const Bits places = {0, 2, 0, 1, 0, 0};
-  Bits texts(2, kOld);
+  Bits texts(2, kOldBits);
   textsWithPlaces(places, ends.data(), texts.data());
   EXPECT_EQ(texts[0], 1U);
 }
