@@ -60,13 +60,13 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       messages_(messages),
       locale_(locale),
       rows_(hits_, locale),
-      controls_(makeControls(new QWidget(this))),
+      controls_(makeControls(new QWidget(this), rows_)),
       menus_(makeMenus(menuBar())),
       status_(*this, locale),
       display_(controls_, rows_, status_, locale),
       runMessages_(messages, display_, [this] { return jobs_.work().isClosing(); }),
       hitActions_(*controls_.HitList, *menus_.HitsMenu, hits_, state, shell, messages, locale),
-      view_(controls_, menus_, locale),
+      view_(controls_, menus_, rows_, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale, status_),
       search_(
           {state, runMessages_, hits_, segments, display_, status_, controls_, menus_, jobs_.work(), locale}),
@@ -79,7 +79,6 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   setWindowTitle(applicationTitle());
   setCentralWidget(controls_.HitList->parentWidget());
   centralWidget()->installEventFilter(this);
-  controls_.HitList->setModel(&rows_);
   selectionSize_.emplace(*controls_.HitList->selectionModel(), [this](int row) { return rows_.size(row); });
   controls_.lblVer->setText(versionCaption());
   placeControls(controls_);
@@ -110,11 +109,15 @@ void SearchForm::connectControls() {
   connect(&search_, &SearchFormRun::ended, this, &SearchForm::showEmptyText);
   connect(controls_.WebUpdate, &QPushButton::clicked, this, [this] { jobs_.WebUpdate_Click(); });
 
+  connect(&rows_.order(), &RowOrder::countChanged, this, &SearchForm::showEmptyText);
+  connect(&rows_.order(), &RowOrder::orderChanged, this, [this] { status_.setOrder(rows_.order().note()); });
   connect(&*selectionSize_, &SelectionSize::changed, this,
           [this] { status_.setSelected(selectionSize_->rows(), selectionSize_->bytes()); });
 
   auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-  connect(stop, &QShortcut::activated, &search_, &SearchFormRun::stop);
+  connect(stop, &QShortcut::activated, this, [this] {
+    if (!view_.stop(search_.isRunning())) search_.stop();
+  });
   auto* goToSearch = new QShortcut(QKeySequence(QKeySequence::Find), this);
   connect(goToSearch, &QShortcut::activated, this, [this] {
     controls_.SearchStr->setFocus(Qt::ShortcutFocusReason);
@@ -157,6 +160,11 @@ void SearchForm::sourcesChanged() {
 }
 
 void SearchForm::showEmptyText() {
+  if (rows_.order().isFiltered() && rows_.order().knownRows() > 0) {
+    controls_.HitList->setEmptyText(
+        QStringLiteral("No hit has these words.\n\nEsc closes the filter and shows all hits."));
+    return;
+  }
   if (state_.hasSources()) {
     controls_.HitList->setEmptyText(search_.emptyText());
     return;

@@ -1,6 +1,6 @@
 #include "app/search_form_controls.h"
 
-#include "search/hit_table.h"
+#include "app/search_form_view.h"
 
 #include <QDate>
 #include <QFontMetrics>
@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <utility>
 
 namespace quorvin {
 
@@ -162,10 +163,6 @@ QHeaderView* columnsOf(const SearchFormControls& controls) {
   return controls.HitList->header();
 }
 
-int sectionOf(HitColumn column) {
-  return static_cast<int>(column);
-}
-
 /// Rounded up: a cell that is too narrow by a part of a pixel cuts its text.
 int widestDate(const QFont& font, const QLocale& locale) {
   const QFontMetricsF metrics(font);
@@ -177,9 +174,32 @@ int widestDate(const QFont& font, const QLocale& locale) {
   return static_cast<int>(std::ceil(width)) + 1;
 }
 
+/// The columns "Volume", "Folder" and "Name" share what the others leave, as far as the user sees them and
+/// has not set their widths.
+void stretchColumns(HitListColumns& columns, int width) {
+  const auto twipsOf = [&](HitColumn column) { return toTwips(columns.width(column)); };
+  const ColumnDivision division = divideColumns(toTwips(width), twipsOf(HitColumn::Match),
+                                                twipsOf(HitColumn::Size), twipsOf(HitColumn::Date));
+  const std::pair<HitColumn, double> shares[] = {{HitColumn::Volume, division.volume},
+                                                 {HitColumn::Folder, division.folder},
+                                                 {HitColumn::Name, division.name}};
+  double whole = 0;
+  double divided = 0;
+  double taken = 0;
+  for (const auto& [column, share] : shares) {
+    const bool isDivided = columns.isVisible(column) && columns.hasUsualWidth(column);
+    whole += share;
+    (isDivided ? divided : taken) += isDivided ? share : twipsOf(column);
+  }
+  const double factor = divided > 0 ? (whole - taken) / divided : 0;
+  for (const auto& [column, share] : shares) {
+    columns.setUsualWidth(column, std::max(0, toPixels(share * factor)));
+  }
+}
+
 }  // namespace
 
-SearchFormControls makeControls(QWidget* parent) {
+SearchFormControls makeControls(QWidget* parent, QAbstractItemModel& rows) {
   SearchFormControls made{};
   made.MenuLine = new QFrame(parent);
   made.MenuLine->setObjectName(QStringLiteral("MenuLine"));
@@ -194,8 +214,15 @@ SearchFormControls makeControls(QWidget* parent) {
   made.WebUpdate = makeButton(parent, QStringLiteral("WebUpdate"), QStringLiteral("Web Update?"));
   made.WebUpdate->setEnabled(false);
   made.HitList = new HitListView(parent);
+  made.HitList->setModel(&rows);
   made.HitList->setObjectName(QStringLiteral("HitList"));
   made.HitList->setAccessibleName(QStringLiteral("Hits"));
+  made.FilterStr = new QLineEdit(parent);
+  made.FilterStr->setObjectName(QStringLiteral("FilterStr"));
+  made.FilterStr->setAccessibleName(QStringLiteral("Filter"));
+  made.FilterStr->setAccessibleDescription(
+      QStringLiteral("Only hits with all of these words in the name or folder are shown"));
+  made.FilterStr->setPlaceholderText(QStringLiteral("Words that the name or folder must have"));
 
   made.searchLabel = makeCaption(parent, QStringLiteral("&Search for:"), made.SearchStr);
   made.matchLabel = makeCaption(parent, QStringLiteral("&Match %:"), made.DesMatch);
@@ -209,6 +236,13 @@ SearchFormControls makeControls(QWidget* parent) {
   made.lblVer = makeValue(parent, QStringLiteral("lblVer"), QString(), QStringLiteral("Program version"));
   made.lblVer->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   made.lblVer->setForegroundRole(QPalette::PlaceholderText);
+  made.filterLabel = makeCaption(parent, QStringLiteral("Fi&lter:"), made.FilterStr);
+  made.lblShown =
+      makeValue(parent, QStringLiteral("lblShown"), QString(), QStringLiteral("Number of hits shown"));
+  for (QWidget* widget : {static_cast<QWidget*>(made.filterLabel), static_cast<QWidget*>(made.FilterStr),
+                          static_cast<QWidget*>(made.lblShown)}) {
+    widget->hide();
+  }
   return made;
 }
 
@@ -231,10 +265,8 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   made.MenuQuit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 
   made.ViewMenu = addMenu(bar, QStringLiteral("ViewMenu"), QStringLiteral("&View"));
-  made.ResetColumns =
-      addItem(made.ViewMenu, QStringLiteral("ResetColumns"), QStringLiteral("&Reset Columns"));
+  addViewItems(made);
   made.HitsMenu = addMenu(bar, QStringLiteral("HitsMenu"), QStringLiteral("H&its"));
-
   addSearchItems(made);
 
   made.PeersMenu = addMenu(bar, QStringLiteral("PeersMenu"), QStringLiteral("&Peers"));
@@ -302,8 +334,8 @@ void setInitialColumnWidths(const SearchFormControls& controls, const QLocale& l
   const int around = 2 * (controls.HitList->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) +
                      metrics.horizontalAdvance(u' ') * 2;
   const auto makeAtLeast = [&](HitColumn column, int textWidth) {
-    const int section = sectionOf(column);
-    columns->resizeSection(section, std::max(columns->sectionSizeHint(section), textWidth + around));
+    const int title = columns->sectionSizeHint(static_cast<int>(column));
+    controls.HitList->columns().setUsualWidth(column, std::max(title, textWidth + around));
   };
   makeAtLeast(HitColumn::Match, metrics.horizontalAdvance(QStringLiteral("100%")));
   makeAtLeast(HitColumn::Size, metrics.horizontalAdvance(QStringLiteral("00000.00mb")));
@@ -319,6 +351,22 @@ QSize initialInnerSize(const SearchFormControls& controls) {
   return {std::max(forControls, forList), height};
 }
 
+int placeFilter(const SearchFormControls& controls, QSize inner) {
+  if (!controls.FilterStr->isVisibleTo(controls.HitList->parentWidget())) return 0;
+  const Distances distances(controls.HitList->fontMetrics());
+  const int height = controls.FilterStr->sizeHint().height();
+  const int captionWidth = widthOf(controls.filterLabel);
+  const int countWidth = std::min(widthOf(controls.lblShown), inner.width() / 2);
+  Row row(distances.margin, inner.height() - height - distances.besideCaption, height);
+  row.put(controls.filterLabel, captionWidth);
+  row.skip(distances.besideCaption);
+  const int around = distances.besideCaption + distances.margin;
+  row.put(controls.FilterStr, std::max(0, inner.width() - row.next() - countWidth - around));
+  row.skip(distances.besideCaption);
+  row.put(controls.lblShown, countWidth);
+  return height + 2 * distances.besideCaption;
+}
+
 void stretchControls(const SearchFormControls& controls, QSize inner) {
   const auto stretch = [&](QWidget* widget) {
     widget->resize(std::max(0, inner.width() - widget->x()), widget->height());
@@ -326,16 +374,10 @@ void stretchControls(const SearchFormControls& controls, QSize inner) {
   stretch(controls.SearchStr);
   stretch(controls.lblVer);
   controls.MenuLine->setGeometry(0, controls.MenuLine->y(), inner.width(), controls.MenuLine->height());
+  const int filterHeight = placeFilter(controls, inner);
   controls.HitList->resize(std::max(0, inner.width() - controls.HitList->x()),
-                           std::max(0, inner.height() - controls.HitList->y()));
-
-  QHeaderView* columns = columnsOf(controls);
-  const auto twipsOf = [&](HitColumn column) { return toTwips(columns->sectionSize(sectionOf(column))); };
-  const ColumnDivision division = divideColumns(toTwips(inner.width()), twipsOf(HitColumn::Match),
-                                                twipsOf(HitColumn::Size), twipsOf(HitColumn::Date));
-  columns->resizeSection(sectionOf(HitColumn::Volume), std::max(0, toPixels(division.volume)));
-  columns->resizeSection(sectionOf(HitColumn::Folder), std::max(0, toPixels(division.folder)));
-  columns->resizeSection(sectionOf(HitColumn::Name), std::max(0, toPixels(division.name)));
+                           std::max(0, inner.height() - filterHeight - controls.HitList->y()));
+  stretchColumns(controls.HitList->columns(), inner.width());
 }
 
 }  // namespace quorvin

@@ -3,7 +3,9 @@
 
 #include "app/search_form_text.h"
 #include "hits/hit_list.h"
+#include "search/hit_table.h"
 
+#include <QAbstractItemModel>
 #include <QAction>
 #include <QFrame>
 #include <QLabel>
@@ -13,6 +15,8 @@
 #include <QPushButton>
 #include <QSize>
 #include <QWidget>
+
+#include <array>
 
 namespace quorvin {
 
@@ -32,11 +36,15 @@ struct SearchFormControls {
   QPushButton* WebUpdate;
   QLabel* lblVer;
   HitListView* HitList;
+  /// Below the list, hidden until the filter is opened.
+  QLabel* filterLabel;
+  QLineEdit* FilterStr;
+  QLabel* lblShown;
 };
 
 /// Makes the controls as children of `parent`, with their names, captions and tab order; they have no places
-/// yet.
-SearchFormControls makeControls(QWidget* parent);
+/// yet. The hit list shows `rows`.
+SearchFormControls makeControls(QWidget* parent, QAbstractItemModel& rows);
 
 /// The menus and their items; the menu bar owns them.
 struct SearchFormMenus {
@@ -49,6 +57,14 @@ struct SearchFormMenus {
   QAction* OptionsMenu;
   QAction* MenuQuit;
   QMenu* ViewMenu;
+  /// Is checked while the filter is open.
+  QAction* FilterHits;
+  /// Can be checked; the one of the present order is.
+  QAction* FoundOrder;
+  std::array<QAction*, kHitColumnCount> SortBy;
+  QMenu* ColumnsMenu;
+  /// Are checked while their columns are visible.
+  std::array<QAction*, kHitColumnCount> ShowColumn;
   QAction* ResetColumns;
   /// Can be checked.
   QAction* SearchWhileTyping;
@@ -96,8 +112,13 @@ void setInitialColumnWidths(const SearchFormControls& controls, const QLocale& l
 /// The inner size of the window when it is opened for the first time.
 QSize initialInnerSize(const SearchFormControls& controls);
 
+/// Puts the controls of the filter into the last line of a window of this inner size, and says how high that
+/// line is: 0 while the filter is closed.
+int placeFilter(const SearchFormControls& controls, QSize inner);
+
 /// The layout of a window whose inner size is `inner`: what reaches to the edges is stretched to them, and
-/// the columns of the hit list are divided again. No control is moved.
+/// the columns of the hit list whose width the user has not set are divided again. No control is moved, but
+/// for those of the filter: where these are open, they take the last line, and the list ends above.
 void stretchControls(const SearchFormControls& controls, QSize inner);
 
 }  // namespace quorvin

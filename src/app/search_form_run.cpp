@@ -38,11 +38,13 @@ void SearchFormDisplay::runStarted(const SearchQuery& query) {
   controls_.HitList->setEmptyText({});
   status_.runStarted();
   show();
+  rows_.setGrowing(true);
 }
 
 void SearchFormDisplay::runEnded() {
   controls_.Find->setText(QStringLiteral("Find"));
   show();
+  rows_.setGrowing(false);
 }
 
 void SearchFormDisplay::clearHits() {

@@ -106,6 +106,7 @@ class SearchFormRun : public QObject {
   /// Enter in one of the search fields: presses `Find`, unless a search for something else is running, or one
   /// that nobody has asked for yet. That one ends then, and the new one follows.
   void enter();
+  bool isRunning() const { return run_.isRunning(); }
   /// The user has typed in one of the search fields. With `SearchWhileTyping` checked, a running search ends,
   /// and a quiet one starts when nothing was typed for a moment.
   void fieldEdited();

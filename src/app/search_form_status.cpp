@@ -35,6 +35,11 @@ void SearchFormStatus::setSelected(std::int64_t count, std::optional<std::int64_
   show();
 }
 
+void SearchFormStatus::setOrder(const QString& note) {
+  order_ = note;
+  show();
+}
+
 void SearchFormStatus::setRun(const QStringList& texts) {
   run_ = texts;
   show();
@@ -49,6 +54,7 @@ void SearchFormStatus::show() {
   QStringList parts;
   if (hits_) parts += hitCountText(*hits_, locale_);
   parts += selection_;
+  parts += order_;
   parts += run_;
   parts += note_;
   parts.removeAll(QString());

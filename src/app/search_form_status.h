@@ -25,6 +25,8 @@ class SearchFormStatus {
   void setHits(std::int64_t count);
   /// `bytes` is nothing while it is not known yet.
   void setSelected(std::int64_t count, std::optional<std::int64_t> bytes);
+  /// What is unusual about the order of the hits; empty for nothing.
+  void setOrder(const QString& note);
   /// What is unusual about the search.
   void setRun(const QStringList& texts);
   /// Anything that the user should know and need not answer; empty for nothing. It stays until the next note
@@ -40,6 +42,7 @@ class SearchFormStatus {
   MiddleElidedLabel* label_;
   std::optional<std::int64_t> hits_;
   QString selection_;
+  QString order_;
   QStringList run_;
   QString note_;
 };

@@ -2,14 +2,112 @@
 
 #include "state/search_history.h"
 
+#include <QActionGroup>
+#include <QKeySequence>
+#include <QString>
+
 namespace quorvin {
 
+namespace {
+
+QAction* addCheckItem(QMenu* menu, const QString& name, const QString& caption,
+                      const QKeySequence& keys = {}) {
+  QAction* item = menu->addAction(caption);
+  item->setObjectName(name);
+  item->setCheckable(true);
+  item->setShortcut(keys);
+  return item;
+}
+
+/// Captions of the columns, each with a letter of its own in the View menu.
+constexpr std::array<const char16_t*, kHitColumnCount> kColumnCaptions = {u"&Match", u"&Volume", u"Fol&der",
+                                                                          u"&Name",  u"&Size",   u"D&ate"};
+
+QString sortCaption(const QString& column) {
+  return QStringLiteral("Sort by ") + column;
+}
+
+}  // namespace
+
+void addViewItems(SearchFormMenus& made) {
+  made.FilterHits = addCheckItem(made.ViewMenu, QStringLiteral("FilterHits"), QStringLiteral("&Filter Hits"),
+                                 QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
+  made.ViewMenu->addSeparator();
+  made.FoundOrder = addCheckItem(made.ViewMenu, QStringLiteral("FoundOrder"), QStringLiteral("F&ound Order"),
+                                 QKeySequence(Qt::CTRL | Qt::Key_0));
+  auto* orders = new QActionGroup(made.ViewMenu);
+  orders->addAction(made.FoundOrder);
+  made.ColumnsMenu = new QMenu(QStringLiteral("&Columns"), made.ViewMenu);
+  for (std::size_t column = 0; column < kColumnCaptions.size(); ++column) {
+    const QString caption = QString::fromUtf16(kColumnCaptions[column]);
+    const QString name = QString(caption).remove(u'&');
+    made.SortBy[column] = addCheckItem(made.ViewMenu, QStringLiteral("SortBy") + name, sortCaption(caption),
+                                       QKeySequence(Qt::CTRL | (Qt::Key_1 + static_cast<int>(column))));
+    orders->addAction(made.SortBy[column]);
+    made.ShowColumn[column] = addCheckItem(made.ColumnsMenu, QStringLiteral("Show") + name, caption);
+  }
+  made.ViewMenu->addSeparator();
+  made.ViewMenu->addMenu(made.ColumnsMenu);
+  made.ColumnsMenu->setObjectName(QStringLiteral("ColumnsMenu"));
+  made.ColumnsMenu->setAccessibleName(QStringLiteral("Columns"));
+  made.ColumnsMenu->menuAction()->setObjectName(QStringLiteral("ColumnsMenu"));
+  made.ColumnsMenu->addSeparator();
+  made.ResetColumns = made.ColumnsMenu->addAction(QStringLiteral("&Reset Columns"));
+  made.ResetColumns->setObjectName(QStringLiteral("ResetColumns"));
+}
+
 SearchFormView::SearchFormView(const SearchFormControls& controls, const SearchFormMenus& menus,
-                               const QLocale& locale)
-    : controls_(controls), menus_(menus), locale_(locale) {
-  connect(menus.ResetColumns, &QAction::triggered, this, &SearchFormView::ResetColumns_Click);
+                               HitListModel& rows, const QLocale& locale)
+    : controls_(controls), menus_(menus), rows_(rows), order_(*controls.HitList, rows), locale_(locale) {
+  connectOrder();
+  connectColumns();
+  connectFilter();
   connectSearches();
+  showOrder();
+  showColumns();
   showSearches();
+}
+
+void SearchFormView::connectOrder() {
+  connect(menus_.FoundOrder, &QAction::triggered, this, [this] {
+    rows_.order().sortBy({});
+    showOrder();
+  });
+  for (int column = 0; column < kHitColumnCount; ++column) {
+    connect(menus_.SortBy[static_cast<std::size_t>(column)], &QAction::triggered, this, [this, column] {
+      rows_.order().sortBy(orderAfterClick(rows_.order().order(), static_cast<HitColumn>(column)));
+      showOrder();
+    });
+  }
+  connect(&rows_.order(), &RowOrder::orderChanged, this, &SearchFormView::showOrder);
+}
+
+void SearchFormView::connectColumns() {
+  HitListColumns& columns = controls_.HitList->columns();
+  for (int number = 0; number < kHitColumnCount; ++number) {
+    const auto column = static_cast<HitColumn>(number);
+    QAction* item = menus_.ShowColumn[static_cast<std::size_t>(number)];
+    connect(item, &QAction::triggered, this,
+            [&columns, column](bool isChecked) { columns.setVisible(column, isChecked); });
+  }
+  connect(menus_.ResetColumns, &QAction::triggered, this, &SearchFormView::ResetColumns_Click);
+  connect(controls_.HitList, &HitListView::columnMenuRequested, menus_.ColumnsMenu,
+          [this](const QPoint& place) { menus_.ColumnsMenu->popup(place); });
+  connect(&columns, &HitListColumns::divisionNeeded, this, [this] {
+    showColumns();
+    layOut();
+  });
+  connect(&columns, &HitListColumns::changed, this, [this, &columns] {
+    change([&columns](ViewSettings& settings) { settings.columns = columns.text(); });
+  });
+}
+
+void SearchFormView::connectFilter() {
+  connect(menus_.FilterHits, &QAction::triggered, this, [this](bool isChecked) {
+    isChecked || !controls_.FilterStr->hasFocus() ? openFilter() : closeFilter();
+  });
+  connect(controls_.FilterStr, &QLineEdit::textChanged, &rows_.order(), &RowOrder::setFilter);
+  connect(&rows_.order(), &RowOrder::countChanged, this, &SearchFormView::showCount);
 }
 
 void SearchFormView::connectSearches() {
@@ -28,6 +126,7 @@ void SearchFormView::connectSearches() {
 
 void SearchFormView::take(const ViewSettings& settings) {
   settings_ = settings;
+  controls_.HitList->columns().take(settings_.columns);
   showSearches();
 }
 
@@ -50,8 +149,78 @@ void SearchFormView::change(const std::function<void(ViewSettings&)>& change) {
   if (settings_ != before && changeHandler_) changeHandler_();
 }
 
+bool SearchFormView::stop(bool isRunning) {
+  if (isRunning && !controls_.FilterStr->hasFocus()) return false;
+  if (rows_.order().isSorting() && !controls_.FilterStr->hasFocus()) {
+    rows_.order().stopSorting();
+  } else if (menus_.FilterHits->isChecked()) {
+    closeFilter();
+  }
+  return true;
+}
+
+/// The present order's item is the checked one, and says the direction.
+void SearchFormView::showOrder() {
+  const HitOrder& order = rows_.order().order();
+  menus_.FoundOrder->setChecked(!order.column);
+  for (std::size_t column = 0; column < menus_.SortBy.size(); ++column) {
+    const bool isPresent = order.column == static_cast<HitColumn>(column);
+    const QString direction =
+        order.isDescending ? QStringLiteral("%1 (descending)") : QStringLiteral("%1 (ascending)");
+    const QString caption = sortCaption(QString::fromUtf16(kColumnCaptions[column]));
+    menus_.SortBy[column]->setChecked(isPresent);
+    menus_.SortBy[column]->setText(isPresent ? direction.arg(caption) : caption);
+  }
+}
+
+void SearchFormView::showColumns() {
+  const HitListColumns& columns = controls_.HitList->columns();
+  for (std::size_t number = 0; number < menus_.ShowColumn.size(); ++number) {
+    const bool isVisible = columns.isVisible(static_cast<HitColumn>(number));
+    menus_.ShowColumn[number]->setChecked(isVisible);
+    menus_.ShowColumn[number]->setEnabled(!isVisible || columns.visibleCount() > 1);
+  }
+}
+
 void SearchFormView::ResetColumns_Click() {
+  controls_.HitList->columns().reset();
   setInitialColumnWidths(controls_, locale_);
+  layOut();
+  change([](ViewSettings& settings) { settings.columns.clear(); });
+}
+
+void SearchFormView::openFilter() {
+  showFilter(true);
+  controls_.FilterStr->setFocus(Qt::ShortcutFocusReason);
+  controls_.FilterStr->selectAll();
+}
+
+void SearchFormView::closeFilter() {
+  const bool hadFocus = controls_.FilterStr->hasFocus();
+  controls_.FilterStr->clear();
+  if (hadFocus) controls_.HitList->setFocus(Qt::OtherFocusReason);
+  showFilter(false);
+}
+
+void SearchFormView::showFilter(bool isShown) {
+  menus_.FilterHits->setChecked(isShown);
+  for (QWidget* widget :
+       {static_cast<QWidget*>(controls_.filterLabel), static_cast<QWidget*>(controls_.FilterStr),
+        static_cast<QWidget*>(controls_.lblShown)}) {
+    widget->setVisible(isShown);
+  }
+  showCount();
+  layOut();
+}
+
+void SearchFormView::showCount() {
+  const RowOrder& order = rows_.order();
+  controls_.lblShown->setText(QStringLiteral("%1 of %2 shown")
+                                  .arg(locale_.toString(order.count()), locale_.toString(order.knownRows())));
+  placeFilter(controls_, controls_.HitList->parentWidget()->size());
+}
+
+void SearchFormView::layOut() {
   stretchControls(controls_, controls_.HitList->parentWidget()->size());
 }
 

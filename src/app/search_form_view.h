@@ -1,23 +1,31 @@
-// How the hits are seen: the View menu of the main window.
+// How the hits are seen: the View menu of the main window, the order, the columns and the filter.
 #pragma once
 
 #include "app/search_form_controls.h"
+#include "hits/hit_list_model.h"
+#include "hits/hit_list_order.h"
 #include "state/view_settings.h"
 
 #include <QLocale>
 #include <QObject>
 
 #include <functional>
+#include <utility>
 
 namespace quorvin {
+
+/// Makes the items of `menus.ViewMenu`.
+void addViewItems(SearchFormMenus& menus);
 
 /// Does what the items of the View menu say, and knows the view settings.
 class SearchFormView : public QObject {
   Q_OBJECT
 
  public:
-  /// The controls and menus that these name must outlive the object.
-  SearchFormView(const SearchFormControls& controls, const SearchFormMenus& menus, const QLocale& locale);
+  /// The controls and menus that these name must outlive the object; so must `rows`, the model of the hit
+  /// list.
+  SearchFormView(const SearchFormControls& controls, const SearchFormMenus& menus, HitListModel& rows,
+                 const QLocale& locale);
 
   const ViewSettings& settings() const { return settings_; }
   /// What the last run kept; shows it.
@@ -29,13 +37,29 @@ class SearchFormView : public QObject {
   /// What is to happen whenever the user has changed a setting.
   void setChangeHandler(std::function<void()> handler) { changeHandler_ = std::move(handler); }
 
+  /// What Esc does: it closes the filter, at first where the focus is in it, or gives up a sort. False where
+  /// it is for the run instead.
+  bool stop(bool isRunning);
+
  private:
   void connectSearches();
+  void connectOrder();
+  void connectColumns();
+  void connectFilter();
   void ResetColumns_Click();
   void showSearches();
+  void openFilter();
+  void closeFilter();
+  void showFilter(bool isShown);
+  void showOrder();
+  void showColumns();
+  void showCount();
+  void layOut();
 
   SearchFormControls controls_;
   SearchFormMenus menus_;
+  HitListModel& rows_;
+  HitListOrder order_;
   QLocale locale_;
   ViewSettings settings_;
   std::function<void()> changeHandler_;

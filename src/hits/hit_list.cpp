@@ -1,6 +1,7 @@
 #include "hits/hit_list.h"
 
 #include "hits/hit_list_delegate.h"
+#include "hits/hit_list_model.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
@@ -26,7 +27,8 @@ int pixelsPerColumnStep(const QFontMetrics& metrics) {
 
 }  // namespace
 
-HitListView::HitListView(QWidget* parent) : QAbstractItemView(parent), header_(new HitListHeader(this)) {
+HitListView::HitListView(QWidget* parent)
+    : QAbstractItemView(parent), header_(new HitListHeader(this)), columns_(new HitListColumns(header_)) {
   installHitListAccessible();
   setItemDelegate(new HitListDelegate(this));
   setSelectionBehavior(SelectRows);
@@ -37,12 +39,15 @@ HitListView::HitListView(QWidget* parent) : QAbstractItemView(parent), header_(n
   setHorizontalScrollMode(ScrollPerPixel);
   setVerticalScrollMode(ScrollPerItem);
   // The menu of the rows is not one of the titles.
-  header_->setContextMenuPolicy(Qt::PreventContextMenu);
+  header_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(header_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& place) { Q_EMIT columnMenuRequested(header_->mapToGlobal(place)); });
 
   connect(header_, &QHeaderView::sectionResized, this, [this] {
     updateScrollBars();
     viewport()->update();
   });
+  connect(header_, &QHeaderView::sectionMoved, viewport(), qOverload<>(&QWidget::update));
   connect(header_, &QHeaderView::sectionHandleDoubleClicked, this, &HitListView::fitColumn);
   connect(header_, &QHeaderView::geometriesChanged, this, &HitListView::updateGeometries);
   updateRowHeight();
@@ -368,7 +373,7 @@ int HitListView::rowNear(int y) const {
 
 int HitListView::currentSelectedRow() const {
   const QModelIndex current = currentIndex();
-  return current.isValid() && selectionModel()->isSelected(current) ? current.row() : -1;
+  return current.isValid() && selectionModel()->isSelected(current) ? hitAt(current) : -1;
 }
 
 /// A page leaves one row of the page before on the screen.

@@ -1,6 +1,8 @@
 // The view of the hit list.
 #pragma once
 
+#include "hits/hit_list_columns.h"
+
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QString>
@@ -21,6 +23,7 @@ class HitListView : public QAbstractItemView {
   HitListView& operator=(const HitListView&) = delete;
 
   QHeaderView* header() const { return header_; }
+  HitListColumns& columns() { return *columns_; }
   int rowHeight() const { return rowHeight_; }
   /// The first row on the screen.
   int firstVisibleRow() const;
@@ -33,7 +36,7 @@ class HitListView : public QAbstractItemView {
   void setEmptyText(const QString& text);
   const QString& emptyText() const { return emptyText_; }
 
-  /// The current row when it is selected, else -1.
+  /// The hit of the current row (see hitAt()) when that is selected, else -1.
   int currentSelectedRow() const;
 
   void setModel(QAbstractItemModel* model) override;
@@ -50,6 +53,8 @@ class HitListView : public QAbstractItemView {
   /// The user wants the pop-up menu at this place of the screen: by the right button, the Menu key or
   /// Shift+F10. The keys ask for it below the current row, which is on the screen then.
   void menuRequested(const QPoint& place);
+  /// The user wants the menu of the columns at this place of the screen: by the right button on a title.
+  void columnMenuRequested(const QPoint& place);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -87,6 +92,7 @@ class HitListView : public QAbstractItemView {
   void tellCurrentRow(int row);
 
   QHeaderView* header_;
+  HitListColumns* columns_;
   int rowHeight_ = 1;
   QString emptyText_;
   /// Where a selection of several rows began.
@@ -96,8 +102,8 @@ class HitListView : public QAbstractItemView {
 };
 
 /// Makes every HitListView from now on known to assistive technology as a list whose items are the rows: an
-/// item's name is the row's columns with their titles, its description the kind of source. May be called any
-/// number of times.
+/// item's name is the row's visible columns with their titles, in their order on the screen, its description
+/// the kind of source. May be called any number of times.
 void installHitListAccessible();
 
 }  // namespace quorvin

@@ -64,8 +64,11 @@ class RowAccessible : public QAccessibleInterface {
 
   QString nameOfRow() const {
     const QAbstractItemModel* model = view_->model();
+    const QHeaderView* header = view_->header();
     QStringList parts;
-    for (int column = 0; column < model->columnCount(); ++column) {
+    for (int place = 0; place < header->count(); ++place) {
+      const int column = header->logicalIndex(place);
+      if (header->isSectionHidden(column)) continue;
       const QString title = model->headerData(column, Qt::Horizontal).toString();
       parts.append(title + QStringLiteral(" ") + cell(column).data().toString());
     }

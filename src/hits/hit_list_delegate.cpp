@@ -164,7 +164,11 @@ void HitListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
 HitListHeader::HitListHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
   setMinimumSectionSize(kLeastColumnWidth);
   setHighlightSections(false);
-  setSectionsClickable(false);
+  setSectionsClickable(true);
+  setSectionsMovable(true);
+  // The room for the arrow is always there, so that titles keep their places.
+  setSortIndicatorShown(true);
+  setSortIndicator(-1, Qt::AscendingOrder);
   setStretchLastSection(false);
   setFocusPolicy(Qt::NoFocus);
 }

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <limits>
 
 namespace quorvin {
 
@@ -36,28 +35,29 @@ QString sourceKindText(SourceKind kind) {
 }
 
 HitListModel::HitListModel(HitTable& table, const QLocale& locale, QObject* parent)
-    : QAbstractTableModel(parent), table_(table), locale_(locale) {}
+    : QAbstractTableModel(parent), table_(table), locale_(locale), order_(table, locale) {
+  connect(&order_, &RowOrder::aboutToInsert, this,
+          [this](int first, int last) { beginInsertRows({}, first, last); });
+  connect(&order_, &RowOrder::inserted, this, [this] { endInsertRows(); });
+  connect(&order_, &RowOrder::aboutToChange, this, [this] { beginResetModel(); });
+  connect(&order_, &RowOrder::changed, this, [this] { endResetModel(); });
+}
 
 void HitListModel::hitsArrived() {
-  constexpr std::int64_t kMostRows = std::numeric_limits<int>::max();
-  const int rows = static_cast<int>(std::min(table_.rowCount(), kMostRows));
-  if (rows <= announcedRows_) return;
-  beginInsertRows({}, announcedRows_, rows - 1);
-  announcedRows_ = rows;
-  endInsertRows();
+  order_.rowsArrived(table_.rowCount());
 }
 
 void HitListModel::clear(const SearchQuery& query) {
   beginResetModel();
   table_.clear();
   words_ = WordPlaces(query);
-  announcedRows_ = 0;
+  order_.clear();
   readRowNumber_ = -1;
   endResetModel();
 }
 
 int HitListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : announcedRows_;
+  return parent.isValid() ? 0 : order_.count();
 }
 
 int HitListModel::columnCount(const QModelIndex& parent) const {
@@ -70,7 +70,7 @@ QVariant HitListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return hitText(hitRow(index.row()), static_cast<HitColumn>(index.column()), locale_);
     case Qt::ForegroundRole:
-      return QColor(QRgb{rowColour(table_.kind(index.row()))});
+      return QColor(QRgb{rowColour(table_.kind(order_.tableRow(index.row())))});
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(columnAlignment(index.column()));
     case kWordPlacesRole:
@@ -114,7 +114,8 @@ QVariant HitListModel::headerData(int section, Qt::Orientation orientation, int 
   }
 }
 
-const HitRow& HitListModel::hitRow(int row) const {
+const HitRow& HitListModel::hitRow(int shown) const {
+  const std::int64_t row = order_.tableRow(shown);
   if (row != readRowNumber_) {
     readRow_ = table_.row(row);
     readRowNumber_ = row;
@@ -128,12 +129,19 @@ std::int64_t selectedRowCount(const QItemSelectionModel& selection) {
   return count;
 }
 
+int hitAt(const QModelIndex& index) {
+  const auto* hits = qobject_cast<const HitListModel*>(index.model());
+  return hits ? static_cast<int>(hits->order().tableRow(index.row())) : index.row();
+}
+
 std::vector<int> selectedRows(const QItemSelectionModel& selection) {
   std::vector<int> rows;
   for (const QItemSelectionRange& range : selection.selection()) {
     for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
   }
   std::ranges::sort(rows);
+  if (!qobject_cast<const HitListModel*>(selection.model())) return rows;
+  for (int& row : rows) row = hitAt(selection.model()->index(row, 0));
   return rows;
 }
 

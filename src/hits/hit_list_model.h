@@ -1,6 +1,7 @@
 // The hit table as the hit list's model, and which of its rows are selected.
 #pragma once
 
+#include "hits/row_order.h"
 #include "search/hit_table.h"
 #include "search/word_places.h"
 
@@ -22,7 +23,8 @@ QString sourceKindText(SourceKind kind);
 
 /// Shows the rows of a HitTable under the columns "Match", "Volume", "Folder", "Name", "Size" and "Date".
 /// Rows become visible only when they are announced, however many at a time, and nothing is kept for them: a
-/// row is made into text when somebody asks for it. At most 2^31 - 1 rows are shown.
+/// row is made into text when somebody asks for it. At most 2^31 - 1 rows are shown. Which rows these are,
+/// and in what order, says its RowOrder.
 class HitListModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -34,11 +36,17 @@ class HitListModel : public QAbstractTableModel {
   void hitsArrived();
   /// Empties the table and the model; what comes now was found by `query`.
   void clear(const SearchQuery& query = {});
+  /// While a run goes on, rows are still to come.
+  void setGrowing(bool isGrowing) { order_.setGrowing(isGrowing); }
+
+  const HitTable& table() const { return table_; }
+  RowOrder& order() { return order_; }
+  const RowOrder& order() const { return order_; }
 
   /// The words that the rows were found by.
   const WordPlaces& words() const { return words_; }
   /// The size of the file in `row`, in bytes, as its row shows it.
-  std::int64_t size(int row) const { return table_.size(row); }
+  std::int64_t size(int row) const { return table_.size(order_.tableRow(row)); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -49,23 +57,27 @@ class HitListModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
  private:
-  const HitRow& hitRow(int row) const;
+  const HitRow& hitRow(int shown) const;
   QVariant wordPlaces(const QModelIndex& index) const;
   QString explanation(int row, const QString& separator) const;
 
   HitTable& table_;
   QLocale locale_;
   WordPlaces words_;
-  int announcedRows_ = 0;
-  /// The row read last: the six columns of a row are asked for one after another.
+  RowOrder order_;
+  /// The row of the table that was read last: the six columns of a row are asked for one after another.
   mutable HitRow readRow_;
-  mutable int readRowNumber_ = -1;
+  mutable std::int64_t readRowNumber_ = -1;
 };
 
 /// How many rows are selected. Costs nothing for rows that were selected together.
 std::int64_t selectedRowCount(const QItemSelectionModel& selection);
 
-/// The numbers of the selected rows, in the order of the list.
+/// The row of the hit table that is shown at `index`; -1 for none. Of another model than HitListModel, the
+/// row of the index.
+int hitAt(const QModelIndex& index);
+
+/// The rows of the hit table that are selected (see hitAt()), in the order of the list.
 std::vector<int> selectedRows(const QItemSelectionModel& selection);
 
 }  // namespace quorvin

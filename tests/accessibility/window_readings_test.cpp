@@ -1,5 +1,5 @@
-// Every window as a screen reader finds it: which controls there are, by which names the program knows them
-// and by which names they are read.
+// Every window but the main one as a screen reader finds it: which controls there are, by which names the
+// program knows them and by which names they are read.
 #include "accessibility/readings.h"
 #include "app/main_application.h"
 #include "editors/dialog_driving.h"
@@ -44,95 +44,6 @@ class AccessibleWindows : public SearchFormTest {
     return nullptr;
   }
 };
-
-TEST_F(AccessibleWindows, SearchForm) {
-  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 2, "tune"));
-  find(QStringLiteral("tune"));
-  EXPECT_EQ(form().objectName(), QStringLiteral("SearchForm"));
-  expectReadings(
-      form(),
-      QStringLiteral("Border MenuLine: Line below the menu\n"
-                     "EditableText SearchStr: Search text\n"
-                     "Button SearchHistoryButton: Earlier searches\n"
-                     "EditableText DesMatch: Desired match in percent\n"
-                     "Button Find: Find\n"
-                     "Button WebUpdate: Web Update?\n"
-                     "List HitList: Hits\n"
-                     "ListItem : Match 100%, Volume DISK, Folder \\Music\\, Name tune 1.mp3, Size 0.00mb, "
-                     "Date Jan, 15 04\n"
-                     "ListItem : Match 100%, Volume DISK, Folder \\Music\\, Name tune 2.mp3, Size 0.00mb, "
-                     "Date Jan, 15 04\n"
-                     "StaticText : Search for:\n"
-                     "StaticText : Match %:\n"
-                     "StaticText lblFound: 2\n"
-                     "StaticText lblSearched: 2\n"
-                     "StaticText : Found:\n"
-                     "StaticText : Searched:\n"
-                     "StaticText lblVer: Ver:2.5(64)\n"
-                     "MenuBar : Main menu\n"
-                     "MenuItem : File\nPopupMenu FileMenu: File (hidden)\n"
-                     "MenuItem AddLocal: Add/Edit Local Folder To Search List (hidden)\n"
-                     "MenuItem EditOffline: Add/Edit Offline List files (hidden)\n"
-                     "MenuItem ReScan: Rescan Local Search Folders (hidden)\n"
-                     "MenuItem ListingHistory: Listing History... (hidden)\n"
-                     "MenuItem ExportHits: Export Hits... (hidden)\n"
-                     "MenuItem OptionsMenu: Options (hidden)\n"
-                     "MenuItem MenuQuit: Quit (hidden)\n"
-                     "MenuItem : View\nPopupMenu ViewMenu: View (hidden)\n"
-                     "MenuItem ResetColumns: Reset Columns (hidden)\n"
-                     "MenuItem SearchWhileTyping: Search While Typing (hidden)\n"
-                     "MenuItem KeepSearchHistory: Keep Search History (hidden)\n"
-                     "MenuItem ClearSearchHistory: Clear Search History (hidden)\n"
-                     "MenuItem : Hits\nPopupMenu HitsMenu: Hits (hidden)\n"
-                     "MenuItem OpenHits: Open (hidden)\nMenuItem ShowInFolder: Show in Folder (hidden)\n"
-                     "MenuItem WhichDisk: Which Disk? (hidden)\nMenuItem CopyRows: Copy (hidden)\n"
-                     "MenuItem CopyNames: Copy Names (hidden)\nMenuItem CopyPaths: Copy Full Path (hidden)\n"
-                     "MenuItem ExportSelected: Export Selected... (hidden)\n"
-                     "MenuItem HitProperties: Properties (hidden)\n"
-                     "MenuItem : Peers\nPopupMenu PeersMenu: Peers (hidden)\n"
-                     "MenuItem ShareLists: Share My Lists (hidden)\n"
-                     "MenuItem GetLists: Get Lists From Peer... (hidden)\n"
-                     "MenuItem : Help\nPopupMenu HlpMnu: Help (hidden)\n"
-                     "MenuItem HlpGen: Program Usage (hidden)\n"
-                     "MenuItem RelInfo: Release Information (hidden)\n"
-                     "MenuItem AboutMenu: About (hidden)\n"
-                     "StatusBar StatusLine: Status\n"
-                     "StaticText StatusText: 2 hits"));
-}
-
-TEST_F(AccessibleWindows, TheCountsAreReadAfterTheirCaptions) {
-  QStringList captions;
-  for (const Reading& reading : readingsOf(form())) {
-    const bool isCount = reading.objectName == u"lblFound" || reading.objectName == u"lblSearched";
-    if (isCount) captions.append(reading.label);
-  }
-  EXPECT_EQ(captions, QStringList({QStringLiteral("Found:"), QStringLiteral("Searched:")}));
-}
-
-TEST_F(AccessibleWindows, AnEmptyHitListReadsWhatToDoFirst) {
-  EXPECT_TRUE(controls().HitList->accessibleDescription().startsWith(
-      QStringLiteral("There is nothing to search yet.")));
-  addMissingOnlineSource(QStringLiteral("Music"));
-  form().sourcesChanged();
-  EXPECT_EQ(controls().HitList->accessibleDescription(), QString());
-}
-
-TEST_F(AccessibleWindows, ItemMenu) {
-  QMenu& menu = *form().itemMenu().menu;
-  EXPECT_EQ(menu.objectName(), QStringLiteral("ItemMenu"));
-  EXPECT_EQ(menu.accessibleName(), QStringLiteral("Hit"));
-  menu.popup({});
-  expectReadings(menu, QStringLiteral("MenuItem CtLaunch: Open\n"
-                                      "MenuItem CTOpFolder: Open Containing Folder\n"
-                                      "MenuItem ShowPreview: Preview Image\n"
-                                      "MenuItem CTQueue: Enqueue (Winamp)\n"
-                                      "MenuItem CopyRows: Copy\n"
-                                      "MenuItem CopyNames: Copy Names\n"
-                                      "MenuItem CopyPaths: Copy Full Path\n"
-                                      "MenuItem ExportSelected: Export Selected...\n"
-                                      "MenuItem WhichDisk: Which Disk?\nMenuItem HitProperties: Properties"));
-  menu.hide();
-}
 
 TEST_F(AccessibleWindows, LocalLocForFolders) {
   addMissingOnlineSource(QStringLiteral("disk"));

@@ -30,6 +30,14 @@ TEST_F(AccessibleWindow, RowsAreItemsNamedByTheirColumnsAndDescribedByTheirKind)
   EXPECT_EQ(list->child(0), row);
 }
 
+TEST_F(AccessibleWindow, ARowReadsTheColumnsThatAreSeenInTheirOrder) {
+  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 1, "tune"));
+  find(QStringLiteral("tune"));
+  controls().HitList->columns().take(QStringLiteral("Name,-Match,Folder,-Volume,-Size,-Date"));
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(controls().HitList)->child(0)->text(QAccessible::Name),
+            QStringLiteral("Name tune 1.mp3, Folder \\Music\\"));
+}
+
 TEST_F(AccessibleWindow, TheSelectedRowSaysSo) {
   addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 3, "tune"));
   find(QStringLiteral("tune"));
