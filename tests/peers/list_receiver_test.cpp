@@ -35,6 +35,13 @@ TEST_F(ListReceiverTest, AWholeArchiveIsKeptUnderItsName) {
   EXPECT_TRUE(receiver_.received() == expected);
 }
 
+TEST_F(ListReceiverTest, HalfAnArchiveOfAKilledProgramIsRemovedByTheNextConversation) {
+  // No process has so large a number.
+  const QString left = folder_.writeFile(u".quorvin-999999999-0123456789abcdef.part"_qs, "half of one");
+  const ListReceiver next(queue_, folder_.path(), 10);
+  EXPECT_EQ(files(), QStringList());
+}
+
 TEST_F(ListReceiverTest, NoFileIsReplaced) {
   folder_.writeFile(u"cd.zip"_qs, "old");
   receive("new");

@@ -70,6 +70,11 @@ TEST_F(PeerSharingTest, MakesAnArchiveOfEachListingAndTellsTheAddress) {
   EXPECT_THAT(told(0), Not(HasSubstr("Not all could be packed")));
 }
 
+TEST_F(PeerSharingTest, TheAddressesAreThoseThatOthersCanReach) {
+  EXPECT_TRUE(start());
+  EXPECT_THAT(told(0), Not(HasSubstr("127.0.0.1")));
+}
+
 TEST_F(PeerSharingTest, CallersGetTheArchives) {
   program_.addListedSource(QStringLiteral("Music"), "music listing");
   ASSERT_TRUE(start());

@@ -155,6 +155,41 @@ TEST_F(PeerClientHostileTest, ALongBrokenArchiveIsReadAgainFromWhereItBroke) {
   EXPECT_EQ(receivedFiles(server), QStringList{QStringLiteral("B.zip")});
 }
 
+TEST_F(PeerClientHostileTest, MoreMayComeAfterWhatFollowedABrokenArchive) {
+  const QByteArray firstHalf = "List: B.zip" + second_.left(50);
+  ScriptedServer server([&](const QByteArray& asked) -> Pieces {
+    if (asked == "GetList: A") return {"List: A.zip" + first_.left(80)};
+    return {asked == "GetList: B" ? firstHalf : answers_.to(asked)};
+  });
+  program_.start(server.port());
+  ASSERT_EVENTUALLY(program_.client.figures().listNumber == 2);
+  // The rest has been read to its end a few turns later, and is not read again.
+  for (int turn = 0; turn < 20; ++turn) QCoreApplication::processEvents();
+  ASSERT_FALSE(timerOf(program_.client, QStringLiteral("restPiece")).isActive());
+  server.connection->write(second_.mid(50));
+  ASSERT_TRUE(program_.waitForEnd());
+  EXPECT_EQ(program_.outcome->received.size(), 1U);
+  EXPECT_EQ(program_.folder.readFile(program_.receivedName(QStringLiteral("B.zip"), server.port())), second_);
+}
+
+TEST_F(PeerClientHostileTest, NothingIsReadAgainAfterACancel) {
+  const QByteArray longAnswer = "List: B.zip" + first_.left(40) + QByteArray(500000, 'x');
+  ScriptedServer server([&](const QByteArray& asked) -> Pieces {
+    if (asked == "GetList: A") return {"List: A.zip" + first_.left(80)};
+    return {asked == "GetList: B" ? longAnswer : answers_.to(asked)};
+  });
+  program_.start(server.port());
+  const QTimer& restPiece = timerOf(program_.client, QStringLiteral("restPiece"));
+  ASSERT_EVENTUALLY(restPiece.isActive());
+  program_.client.cancel();
+  ASSERT_FALSE(restPiece.isActive());
+  program_.outcome.reset();
+  ScriptedServer next(answers_);
+  const PeerOutcome& outcome = outcomeWith(next);
+  EXPECT_EQ(outcome.received.size(), 2U);
+  EXPECT_EQ(outcome.problems, QStringList());
+}
+
 TEST_F(PeerClientHostileTest, AnArchiveThatIsNotThereIsToldAndTheNextComes) {
   ScriptedServer server(answering("GetList: A", {"List: A.zip"}));
   const PeerOutcome& outcome = outcomeWith(server);

@@ -63,6 +63,29 @@ TEST_F(PeerClientTest, QueuesExactlyThreeMessagesOnConnecting) {
   EXPECT_EQ(program.queue.entry(3).Payload, QByteArray("Req List Info:"));
 }
 
+TEST_F(PeerClientTest, GoesStraightToThePeerWhateverProxyIsSet) {
+  ScriptedServer server(answers_);
+  const OnlyThroughAProxy proxy;
+  GettingProgram program;
+  program.start(server.port());
+  ASSERT_TRUE(program.waitForEnd());
+  expectBoth(program, server.port(), first_, second_);
+}
+
+TEST_F(PeerClientTest, AClientThatGoesAwayReportsNothingAnyMore) {
+  ScriptedServer server([](const QByteArray&) { return std::vector<QByteArray>{}; });
+  GettingProgram program;
+  SendTimer timer(program.work, program.queue, std::chrono::milliseconds(1));
+  int ended = 0;
+  {
+    PeerClient client(program.state, program.queue, timer, QLocale::c());
+    QObject::connect(&client, &PeerClient::ended, [&ended] { ++ended; });
+    client.start({QStringLiteral("127.0.0.1"), server.port()});
+    ASSERT_EVENTUALLY(!server.messages.empty());
+  }
+  EXPECT_EQ(ended, 0);
+}
+
 TEST_F(PeerClientTest, WithoutAReplyNothingMoreIsSent) {
   ScriptedServer server([](const QByteArray&) { return std::vector<QByteArray>{}; });
   GettingProgram program;

@@ -13,6 +13,7 @@
 #include "work/work.h"
 
 #include <QCoreApplication>
+#include <QNetworkProxy>
 #include <QTimer>
 
 #include <functional>
@@ -57,6 +58,17 @@ struct PeerProgram {
   LiveWorkDisplay display;
   Work work{state, display};
   RecordingMessageBoxes messages;
+};
+
+/// As long as it lives, sockets go through a proxy that is not there, unless they know better.
+class OnlyThroughAProxy {
+ public:
+  OnlyThroughAProxy() {
+    QNetworkProxy::setApplicationProxy({QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), 1});
+  }
+  ~OnlyThroughAProxy() { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); }
+  OnlyThroughAProxy(const OnlyThroughAProxy&) = delete;
+  OnlyThroughAProxy& operator=(const OnlyThroughAProxy&) = delete;
 };
 
 /// A real, small archive of a listing with this text in it.

@@ -179,6 +179,20 @@ TEST_F(PeerServerLimitsTest, ASlowReaderGetsEverything) {
   EXPECT_EQ(count, 20000011);
 }
 
+TEST_F(PeerServerLimitsTest, AsManyMessagesMayWaitAsTheLimitSaysAndOneMoreEndsTheConnection) {
+  addLargeSource();
+  PeerServerLimits limits;
+  limits.waitingMessages = 5;
+  PeerServer& server = start(limits);
+  PeerCaller caller(server.port());
+  caller.socket().setReadBufferSize(1);
+  caller.sendAlone("GetList: A");
+  for (int i = 0; i < 5; ++i) caller.sendAlone("Connecting from: x");
+  EXPECT_EQ(server.connectionCount(), 1);
+  caller.sendAlone("Connecting from: x");
+  EXPECT_EQ(server.connectionCount(), 0);
+}
+
 TEST_F(PeerServerLimitsTest, TooManyMessagesThatWaitEndTheConnection) {
   addLargeSource();
   PeerServerLimits limits;

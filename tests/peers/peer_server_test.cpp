@@ -200,14 +200,25 @@ TEST_F(PeerServerTest, AQuestionIsAnsweredThoughTheCallerHasSaidAll) {
 }
 
 TEST_F(PeerServerTest, StoppingEndsListenerAndConnections) {
-  PeerCaller caller(server_.port());
-  EXPECT_EQ(caller.ask("Connecting from: x", 3), QByteArray("OK:"));
+  PeerCaller first(server_.port());
+  PeerCaller second(server_.port());
+  PeerCaller third(server_.port());
+  for (PeerCaller* caller : {&first, &second, &third}) {
+    EXPECT_EQ(caller->ask("Connecting from: x", 3), QByteArray("OK:"));
+  }
   const quint16 port = server_.port();
   server_.stop();
-  EXPECT_TRUE(caller.waitForClose());
+  EXPECT_EQ(server_.connectionCount(), 0);
+  for (PeerCaller* caller : {&first, &second, &third}) EXPECT_TRUE(caller->waitForClose());
   EXPECT_FALSE(server_.isListening());
   QTcpServer other;
   EXPECT_TRUE(other.listen(QHostAddress::Any, port));
+}
+
+TEST_F(PeerServerTest, ListensOnThisMachineWhateverProxyIsSet) {
+  const OnlyThroughAProxy proxy;
+  PeerServer server(program_.state, QLocale::c());
+  EXPECT_TRUE(server.start(0)) << server.errorText().toStdString();
 }
 
 TEST_F(PeerServerTest, APortThatIsTakenIsToldWithTheReason) {

@@ -206,7 +206,6 @@ UnpackArchive unpackingIn(Job& job) {
     WorkDisplay& display = job.display();
     display.setStatus(QStringLiteral("Unpacking ") + QFileInfo(archivePath).fileName());
     display.setBarMaximum(kFullBar);
-    display.setBar(0);
     const UnpackingResult result = unpackArchive(job, archivePath, targetFolder);
     if (result.outcome == UnpackingOutcome::Failed) {
       throw RuntimeFault(FaultNumber::PathFileAccess, result.error);

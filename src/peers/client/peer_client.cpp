@@ -44,6 +44,7 @@ PeerClient::PeerClient(ProgramState& state, SendQueue& queue, SendTimer& timer, 
   connect(&progressPace_, &QTimer::timeout, this, &PeerClient::progressed);
   settle_.setObjectName(QStringLiteral("settle"));
   silence_.setObjectName(QStringLiteral("silence"));
+  restPiece_.setObjectName(QStringLiteral("restPiece"));
   for (QTimer* once : {&settle_, &stall_, &silence_, &progressPace_}) once->setSingleShot(true);
 }
 

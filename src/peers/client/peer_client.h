@@ -107,7 +107,7 @@ class PeerClient : public QObject {
   QTimer settle_{this};
   QTimer stall_;
   QTimer silence_{this};
-  QTimer restPiece_;
+  QTimer restPiece_{this};
   QTimer progressPace_;
   HostAndPort peer_;
   /// Only during a conversation.

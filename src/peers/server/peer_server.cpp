@@ -216,12 +216,8 @@ bool PeerServer::start(std::uint16_t port, const QHostAddress& address) {
 void PeerServer::stop() {
   listener_.close();
   acceptPause_.stop();
-  for (PeerConnection* connection : connections_) {
-    connection->disconnect(this);
-    connection->end();
-    connection->deleteLater();
-  }
-  connections_.clear();
+  // Each that ends is removed.
+  while (!connections_.empty()) connections_.back()->end();
 }
 
 void PeerServer::IPServ_ConnectionRequest(qintptr descriptor) {
