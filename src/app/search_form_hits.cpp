@@ -111,8 +111,10 @@ void SearchFormHits::fillHitsMenu(QMenu& menu) {
   const auto enableAll = [&menu](bool enabled) {
     for (QAction* item : menu.actions()) item->setEnabled(enabled);
   };
-  connect(&menu, &QMenu::aboutToShow, this,
-          [this, enableAll] { enableAll(list_.selectionModel()->hasSelection()); });
+  connect(&menu, &QMenu::aboutToShow, this, [this, enableAll] {
+    if (list_.hasFocus()) selectCurrentIfNone();
+    enableAll(list_.selectionModel()->hasSelection());
+  });
   // The keys of the items do not wait for the menu.
   connect(&menu, &QMenu::aboutToHide, this, [enableAll] { enableAll(true); });
 }
@@ -267,7 +269,15 @@ void SearchFormHits::WhichDisk_Click() {
   if (const auto row = currentTableRow()) messages_.inform(whichDiskText(known(*row)));
 }
 
+/// A list that has just got the focus has a current row that is not selected; keys mean that row.
+void SearchFormHits::selectCurrentIfNone() const {
+  QItemSelectionModel& selection = *list_.selectionModel();
+  if (!selection.currentIndex().isValid() || selection.hasSelection()) return;
+  selection.select(selection.currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
 void SearchFormHits::HitProperties_Click() {
+  selectCurrentIfNone();
   const auto row = currentTableRow();
   if (!row) return;
   HitProperties window(known(*row), locale_, list_.window());

@@ -106,6 +106,7 @@ class SearchFormHits : public QObject {
   std::optional<int> currentTableRow() const;
   std::optional<HitRow> currentHit() const;
   KnownHit known(int tableRow) const;
+  void selectCurrentIfNone() const;
   bool mayOpen(std::int64_t count) const;
   std::int64_t openSelected() const;
   void tellMissing(std::int64_t missing, std::int64_t all, const QString& instead) const;

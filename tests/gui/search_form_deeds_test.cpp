@@ -63,6 +63,15 @@ TEST_F(SelectedHits, ItsItemsCanBeChosenOnlyWhileSomethingIsSelected) {
   bar.hide();
 }
 
+TEST_F(SelectedHits, TheCurrentRowIsMeantWhereNoneIsSelectedAndTheListHasTheKeyboard) {
+  showFiles(numbered(2));
+  tabTo("HitList");
+  list()->selectionModel()->setCurrentIndex(list()->model()->index(1, 0), QItemSelectionModel::NoUpdate);
+  ASSERT_FALSE(list()->selectionModel()->hasSelection());
+  choose(Qt::Key_O);
+  EXPECT_EQ(shell_.calls, std::vector{openCall(QStringLiteral("song 2.txt"))});
+}
+
 TEST_F(SelectedHits, TenAreOpenedUnasked) {
   showFiles(numbered(10));
   selectAll();
