@@ -43,8 +43,10 @@ std::array<int, 2> makePipe() {
 class Browser {
  public:
   explicit Browser(const QString& profile) : Browser(profile, makePipe(), makePipe()) {}
+  /// Lets it end by itself, so that it removes what it has made.
   ~Browser() {
-    process_.kill();
+    session_.clear();
+    send(QStringLiteral("Browser.close"), {});
     process_.waitForFinished(-1);
   }
   Browser(const Browser&) = delete;
@@ -98,17 +100,17 @@ class Browser {
                            {QStringLiteral("value"), QStringLiteral("dark")}};
     call(QStringLiteral("Emulation.setEmulatedMedia"), {{QStringLiteral("features"), QJsonArray{dark}}});
   }
-  QByteArray picture() {
-    const QJsonObject answer = call(QStringLiteral("Page.captureScreenshot"), {});
-    return QByteArray::fromBase64(answer[QStringLiteral("data")].toString().toLatin1());
-  }
 
  private:
   Browser(const QString& profile, std::array<int, 2> commands, std::array<int, 2> answers)
       : commands_(commands[1]), answers_(answers[0]) {
     const PipeEnd itsCommands(commands[0]);
     const PipeEnd itsAnswers(answers[1]);
-    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+      environment.insert(QString::fromLatin1(name), profile);
+    }
+    process_.setProcessEnvironment(environment);
     process_.setStandardErrorFile(QProcess::nullDevice());
     process_.setChildProcessModifier([&] {
       // Neither may be in the place of the other.
@@ -126,7 +128,7 @@ class Browser {
     if (!process_.waitForStarted(-1)) throw std::runtime_error("no browser");
   }
 
-  QJsonObject call(const QString& method, const QJsonObject& parameters) {
+  void send(const QString& method, const QJsonObject& parameters) {
     QJsonObject command{{QStringLiteral("id"), ++lastId_},
                         {QStringLiteral("method"), method},
                         {QStringLiteral("params"), parameters}};
@@ -134,8 +136,12 @@ class Browser {
     QByteArray bytes = QJsonDocument(command).toJson(QJsonDocument::Compact);
     bytes.append('\0');
     if (::write(commands_.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size()) {
-      throw std::runtime_error("the browser reads nothing any more");
+      ADD_FAILURE() << "the browser reads nothing any more";
     }
+  }
+
+  QJsonObject call(const QString& method, const QJsonObject& parameters) {
+    send(method, parameters);
     for (;;) {
       const QJsonObject answer = readAnswer();
       if (answer[QStringLiteral("id")].toInt() != lastId_) continue;
