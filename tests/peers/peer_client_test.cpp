@@ -63,15 +63,6 @@ TEST_F(PeerClientTest, QueuesExactlyThreeMessagesOnConnecting) {
   EXPECT_EQ(program.queue.entry(3).Payload, QByteArray("Req List Info:"));
 }
 
-TEST_F(PeerClientTest, GoesStraightToThePeerWhateverProxyIsSet) {
-  ScriptedServer server(answers_);
-  const OnlyThroughAProxy proxy;
-  GettingProgram program;
-  program.start(server.port());
-  ASSERT_TRUE(program.waitForEnd());
-  expectBoth(program, server.port(), first_, second_);
-}
-
 TEST_F(PeerClientTest, AClientThatGoesAwayReportsNothingAnyMore) {
   ScriptedServer server([](const QByteArray&) { return std::vector<QByteArray>{}; });
   GettingProgram program;
