@@ -4,6 +4,7 @@
 #include "app/version.h"
 #include "help/help_files.h"
 #include "platform/standard_folders.h"
+#include "search/entry_count.h"
 
 #include <QScopeGuard>
 #include <QSysInfo>
@@ -31,6 +32,9 @@ ProductFacts productFacts() {
           QSysInfo::prettyProductName() + QStringLiteral(", with Qt ") + QString::fromLatin1(qVersion())};
 }
 
+/// So many that drives which do not answer leave some for the others.
+constexpr int kLookers = 8;
+
 PreviewFaultReport previewReport(MessageBoxes& messages) {
   return [&messages](const QString& path, const RuntimeFault& fault) {
     messages.inform(faultReport(fault, QStringLiteral("loading the picture %1").arg(path)));
@@ -49,7 +53,14 @@ SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages
       optionsEditing_{state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)},
       restoreListing_(std::move(requests.restoreListing)),
       locale_(locale),
-      preview_(&owner, usualMetafileChild(), previewReport(messages)) {}
+      preview_(&owner, usualMetafileChild(), previewReport(messages)) {
+  lookers_.setMaxThreadCount(kLookers);
+  sourceEditing_.lookers = &lookers_;
+  sourceEditing_.locale = locale;
+  sourceEditing_.countEntries = [cache = userCacheFolder(), locale](const QString& listing) {
+    return quickEntryCount(listing, cache, locale);
+  };
+}
 
 SearchFormWindows::~SearchFormWindows() = default;
 

@@ -15,6 +15,7 @@
 #include <QLocale>
 #include <QPointer>
 #include <QString>
+#include <QThreadPool>
 #include <QWidget>
 
 #include <functional>
@@ -78,6 +79,7 @@ class SearchFormWindows {
   const SearchFormMenus& menus_;
   QWidget& owner_;
   DialogFilePicker systemPicker_;
+  QThreadPool lookers_;
   SourceEditing sourceEditing_;
   OptionsEditing optionsEditing_;
   HistoryWindow::Restore restoreListing_;

@@ -5,6 +5,8 @@
 #include <QShortcut>
 #include <QToolTip>
 
+#include <utility>
+
 namespace quorvin {
 
 namespace {
@@ -16,7 +18,14 @@ QString quoteReplaced() {
 }  // namespace
 
 LocalLoc::LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget* owner)
-    : QDialog(owner), editing_(editing), LocMode_(LocMode), controls_(makeLocalLocControls(this)) {
+    : QDialog(owner),
+      editing_(editing),
+      LocMode_(LocMode),
+      controls_(makeLocalLocControls(this)),
+      looks_(
+          editing.lookers ? *editing.lookers : *QThreadPool::globalInstance(),
+          [count = editing.countEntries](const SourcePlaces& places) { return lookAtSource(places, count); },
+          nullptr) {
   setObjectName(QStringLiteral("LocalLoc"));
   setWindowTitle(QStringLiteral("Local File Search Locations"));
   controls_.Online->setModel(&entries_);
@@ -78,6 +87,17 @@ void LocalLoc::connectControls() {
   connect(&entries_, &SourceListModel::modelReset, this, &LocalLoc::enableButtons);
   enableButtons();
 
+  connect(controls_.Undo, &QAction::triggered, this, [this] { restore(history_.undo(editedList())); });
+  connect(controls_.Redo, &QAction::triggered, this, [this] { restore(history_.redo(editedList())); });
+
+  // The window is shown first; sources may be on drives that are slow to answer.
+  lookSoon_.setSingleShot(true);
+  connect(&lookSoon_, &QTimer::timeout, this, &LocalLoc::lookAtSources);
+  connect(&entries_, &SourceListModel::rowsInserted, &lookSoon_, qOverload<>(&QTimer::start));
+  connect(&entries_, &SourceListModel::modelReset, &lookSoon_, qOverload<>(&QTimer::start));
+  entries_.setStatuses([this](const SourceEntry& entry) { return statusOf(entry); });
+  connect(&looks_, &SourceLooks::found, &entries_, &SourceListModel::statusesChanged);
+
   connect(controls_.Online, &SourceListView::deletePressed, this, &LocalLoc::LocDel_Click);
   auto* up = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this);
   connect(up, &QShortcut::activated, this, &LocalLoc::MvUp_Click);
@@ -101,8 +121,54 @@ void LocalLoc::LocAdd_Click() {
     editing_.messages.inform(*refusal);
     return;
   }
-  entries_.append(entry);
+  edit([&] { entries_.append(entry); });
   controls_.Online->scrollToBottom();
+}
+
+/// Makes an edit of the list that can be taken back.
+template <typename Edit>
+void LocalLoc::edit(Edit&& edit) {
+  EditedList before = editedList();
+  edit();
+  if (before.entries == entries_.entries()) return;
+  history_.record(std::move(before));
+  enableUndo();
+}
+
+EditedList LocalLoc::editedList() const {
+  return {entries_.entries(), controls_.Online->selectedRows()};
+}
+
+void LocalLoc::restore(const std::optional<EditedList>& list) {
+  if (!list) return;
+  entries_.fill(list->entries);
+  controls_.Online->selectRows(list->selected);
+  enableUndo();
+}
+
+void LocalLoc::enableUndo() {
+  controls_.Undo->setEnabled(history_.canUndo());
+  controls_.Redo->setEnabled(history_.canRedo());
+}
+
+void LocalLoc::lookAtSources() {
+  std::vector<SourcePlaces> places;
+  places.reserve(entries_.entries().size());
+  for (const SourceEntry& entry : entries_.entries()) places.push_back(placesOf(entry));
+  looks_.lookAt(places);
+}
+
+SourcePlaces LocalLoc::placesOf(const SourceEntry& entry) const {
+  if (LocMode_ == kOfflineMode) return {entry.path, {}};
+  return {entry.path, editing_.state.onlineListingPath(entry.description)};
+}
+
+SourceStatus LocalLoc::statusOf(const SourceEntry& entry) const {
+  const SourcePlaces places = placesOf(entry);
+  const SourceFacts* facts = looks_.facts(places);
+  if (!facts) return {};
+  return {factsInBrief(*facts, places, editing_.locale, QDate::currentDate()),
+          factsInFull(*facts, places, editing_.locale)};
 }
 
 /// The list file could not keep a double quote, and the sources after it would be read wrongly.
@@ -116,29 +182,35 @@ void LocalLoc::Desc_Edited() {
 }
 
 void LocalLoc::LocDel_Click() {
-  const std::optional<int> above = entries_.deleteEntries(controls_.Online->selectedRows());
-  if (above) controls_.Online->selectRows({*above});
+  edit([this] {
+    const std::optional<int> above = entries_.deleteEntries(controls_.Online->selectedRows());
+    if (above) controls_.Online->selectRows({*above});
+  });
 }
 
 void LocalLoc::MvUp_Click() {
-  std::vector<int> rows = controls_.Online->selectedRows();
-  // The first entry goes first: when it cannot move, none does.
-  for (int& row : rows) {
-    const std::optional<int> above = entries_.moveUp(row);
-    if (!above) return;
-    row = *above;
-  }
-  controls_.Online->selectRows(rows);
+  edit([this] {
+    std::vector<int> rows = controls_.Online->selectedRows();
+    // The first entry goes first: when it cannot move, none does.
+    for (int& row : rows) {
+      const std::optional<int> above = entries_.moveUp(row);
+      if (!above) return;
+      row = *above;
+    }
+    controls_.Online->selectRows(rows);
+  });
 }
 
 void LocalLoc::MvDn_Click() {
-  std::vector<int> rows = controls_.Online->selectedRows();
-  for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-    const std::optional<int> below = entries_.moveDown(*row);
-    if (!below) return;
-    *row = *below;
-  }
-  controls_.Online->selectRows(rows);
+  edit([this] {
+    std::vector<int> rows = controls_.Online->selectedRows();
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+      const std::optional<int> below = entries_.moveDown(*row);
+      if (!below) return;
+      *row = *below;
+    }
+    controls_.Online->selectRows(rows);
+  });
 }
 
 void LocalLoc::GetListName_Click() {
@@ -199,7 +271,9 @@ void LocalLoc::appendAll(const QStringList& sources) {
   const std::size_t before = entries.size();
   const QString told = LocMode_ == kOfflineMode ? addListings(sources, entries)
                                                 : addFolders(sources, entries, editing_.pathStyle);
-  for (std::size_t row = before; row < entries.size(); ++row) entries_.append(entries[row]);
+  edit([&] {
+    for (std::size_t row = before; row < entries.size(); ++row) entries_.append(entries[row]);
+  });
   controls_.Online->scrollToBottom();
   if (!told.isEmpty()) editing_.messages.inform(told);
 }

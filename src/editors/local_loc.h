@@ -1,14 +1,17 @@
 // The source editor: the dialog for the folders to search, and for the offline list files.
 #pragma once
 
+#include "editors/edit_history.h"
 #include "editors/file_picker.h"
 #include "editors/local_loc_controls.h"
 #include "editors/source_drops.h"
 #include "editors/source_list_model.h"
+#include "editors/source_looks.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 
 #include <QDialog>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -24,6 +27,11 @@ struct SourceEditing {
   /// another follows it, and the call returns at once.
   std::function<void()> refreshLocalLists;
   PathStyle pathStyle = nativePathStyle();
+  /// Counts the entries of listings; none are counted without it.
+  CountEntries countEntries = {};
+  /// Where sources are looked at; null for the application's own threads.
+  QThreadPool* lookers = nullptr;
+  QLocale locale = {};
 };
 
 /// The modes of the dialog, as texts; any other text counts as the mode for folders.
@@ -65,6 +73,14 @@ class LocalLoc : public QDialog {
   void enableButtons();
   void takeInitialSize();
   void proposeDescription(const QString& folder);
+  EditedList editedList() const;
+  template <typename Edit>
+  void edit(Edit&& edit);
+  void restore(const std::optional<EditedList>& list);
+  void enableUndo();
+  void lookAtSources();
+  SourcePlaces placesOf(const SourceEntry& entry) const;
+  SourceStatus statusOf(const SourceEntry& entry) const;
   void showNotice();
   void appendAll(const QStringList& sources);
   void takeDropped(const DroppedSources& dropped);
@@ -76,6 +92,9 @@ class LocalLoc : public QDialog {
   QString LocMode_;
   SourceListModel entries_;
   LocalLocControls controls_;
+  EditHistory history_;
+  SourceLooks looks_;
+  QTimer lookSoon_;
   /// What stands in `Desc` unless the user has typed there.
   QString proposedDescription_;
   /// The inner size that the controls are placed for.

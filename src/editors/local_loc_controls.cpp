@@ -1,9 +1,13 @@
 #include "editors/local_loc_controls.h"
 
+#include "editors/source_list_model.h"
+
 #include <QAccessible>
+#include <QApplication>
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -55,14 +59,91 @@ void growBy(QWidget* widget, int wider, int taller) {
   widget->resize(widget->width() + wider, widget->height() + taller);
 }
 
-/// Rows with a little air between them.
-class RoomyRows : public QStyledItemDelegate {
+/// Between the colours of text and background, for what is of less weight; still far above the contrast that
+/// text needs.
+QColor quietColour(const QColor& text, const QColor& background) {
+  const auto between = [](int one, int other) { return (7 * one + 3 * other) / 10; };
+  return QColor(between(text.red(), background.red()), between(text.green(), background.green()),
+                between(text.blue(), background.blue()));
+}
+
+/// Rows with a little air between them, and what is known of a source behind its path.
+class SourceRows : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QString status = index.data(kSourceStatusRole).toString();
+    if (status.isEmpty()) return QStyledItemDelegate::paint(painter, option, index);
+    const int gap = option.fontMetrics.height() / 2;
+    const int wanted = option.fontMetrics.horizontalAdvance(status) + 2 * gap;
+    const int width = std::min(wanted, option.rect.width() * 3 / 5);
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    paintBackground(*painter, cell);
+    QStyleOptionViewItem path = option;
+    path.rect.setWidth(option.rect.width() - width);
+    if (option.direction == Qt::RightToLeft) path.rect.moveRight(option.rect.right());
+    QStyledItemDelegate::paint(painter, path, index);
+    paintStatus(*painter, cell, status, width, gap);
+  }
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QSize usual = QStyledItemDelegate::sizeHint(option, index);
     return {usual.width(), std::max(usual.height(), option.fontMetrics.height() * 5 / 4)};
+  }
+
+ private:
+  /// Under both texts alike.
+  static void paintBackground(QPainter& painter, const QStyleOptionViewItem& cell) {
+    const QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, cell.widget);
+  }
+
+  static void paintStatus(QPainter& painter, const QStyleOptionViewItem& cell, const QString& status,
+                          int width, int gap) {
+    QRect place = cell.rect.adjusted(cell.rect.width() - width + gap, 0, -gap, 0);
+    place = QStyle::visualRect(cell.direction, cell.rect, place);
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    const bool isActive = cell.state.testFlag(QStyle::State_Active);
+    const auto group = isActive ? QPalette::Active : QPalette::Inactive;
+    const QColor text = cell.palette.color(group, QPalette::Text);
+    painter.save();
+    painter.setFont(cell.font);
+    painter.setPen(isSelected ? cell.palette.color(group, QPalette::HighlightedText)
+                              : quietColour(text, cell.palette.color(group, QPalette::Base)));
+    painter.drawText(place,
+                     static_cast<int>(QStyle::visualAlignment(cell.direction, Qt::AlignRight) |
+                                      Qt::AlignVCenter | Qt::TextSingleLine),
+                     cell.fontMetrics.elidedText(status, Qt::ElideRight, place.width()));
+    painter.restore();
+  }
+};
+
+QAction* makeAction(QWidget* parent, const QString& name, const QString& caption,
+                    const QList<QKeySequence>& keys) {
+  auto* action = new QAction(caption, parent);
+  action->setObjectName(name);
+  action->setShortcuts(keys);
+  action->setShortcutVisibleInContextMenu(true);
+  action->setEnabled(false);
+  parent->addAction(action);
+  return action;
+}
+
+/// In a box the keys take back what was typed there, as long as there is anything of it.
+class LeavesUndo : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::ShortcutOverride) return false;
+    const auto* edit = static_cast<const QLineEdit*>(watched);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool leaves = (key->matches(QKeySequence::Undo) && !edit->isUndoAvailable()) ||
+                        (key->matches(QKeySequence::Redo) && !edit->isRedoAvailable());
+    if (leaves) event->ignore();
+    return leaves;
   }
 };
 
@@ -101,7 +182,7 @@ SourceListView::SourceListView(QWidget* parent) : QTreeView(parent) {
   setAccessibleName(QStringLiteral("Search locations"));
   setRootIsDecorated(false);
   setUniformRowHeights(true);
-  setItemDelegate(new RoomyRows(this));
+  setItemDelegate(new SourceRows(this));
   setAllColumnsShowFocus(true);
   // Of a path both ends matter.
   setTextElideMode(Qt::ElideMiddle);
@@ -179,6 +260,15 @@ LocalLocControls makeLocalLocControls(QWidget* parent) {
   made.Desc->setAccessibleName(QStringLiteral("Description"));
   made.Label2 = makeLabel(parent, QStringLiteral("Label2"), made.LocalDataFolder);
   setPathCaption(made, QStringLiteral("Path"));
+
+  made.Undo = makeAction(parent, QStringLiteral("Undo"), QStringLiteral("&Undo"), {Qt::CTRL | Qt::Key_Z});
+  made.Redo = makeAction(parent, QStringLiteral("Redo"), QStringLiteral("&Redo"),
+                         {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+  made.Online->addActions({made.Undo, made.Redo});
+  made.Online->setContextMenuPolicy(Qt::ActionsContextMenu);
+  auto* leavesUndo = new LeavesUndo(parent);
+  made.Desc->installEventFilter(leavesUndo);
+  made.LocalDataFolder->installEventFilter(leavesUndo);
   return made;
 }
 

@@ -1,6 +1,7 @@
 // The controls of the source editor, and their places.
 #pragma once
 
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -50,6 +51,9 @@ struct LocalLocControls {
   QPushButton* OK;
   QPushButton* SaveOffLine;
   QPushButton* Cancel;
+  /// In the context menu of the list; their keys work in the whole dialog.
+  QAction* Undo;
+  QAction* Redo;
 };
 
 /// Makes the controls as children of `parent`, with their names, texts and tab order; they are not placed

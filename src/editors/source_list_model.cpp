@@ -22,8 +22,9 @@ constexpr int kDescriptionColumn = 0;
 
 /// A text may be longer than its column is wide. It is shown as it is, though a path may look like
 /// markup.
-QString toolTipOf(const QString& text) {
-  return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
+QString toolTipOf(const QString& text, const QString& status) {
+  const QString whole = status.isEmpty() ? text : text + u'\n' + status;
+  return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(whole.toHtmlEscaped());
 }
 
 }  // namespace
@@ -99,6 +100,17 @@ void SourceListModel::fill(std::vector<SourceEntry> entries) {
   endResetModel();
 }
 
+void SourceListModel::setStatuses(std::function<SourceStatus(const SourceEntry&)> statusOf) {
+  statusOf_ = std::move(statusOf);
+  statusesChanged();
+}
+
+void SourceListModel::statusesChanged() {
+  if (entries_.empty()) return;
+  Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kColumnCount - 1),
+                     {kSourceStatusRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
+}
+
 void SourceListModel::append(const SourceEntry& entry) {
   const int row = rowCount();
   beginInsertRows({}, row, row);
@@ -154,10 +166,21 @@ int SourceListModel::columnCount(const QModelIndex& parent) const {
 
 QVariant SourceListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   const SourceEntry& entry = entries_[static_cast<std::size_t>(index.row())];
   const QString& text = index.column() == kDescriptionColumn ? entry.description : entry.path;
-  return role == Qt::ToolTipRole ? toolTipOf(text) : text;
+  const auto status = [&] { return statusOf_ ? statusOf_(entry) : SourceStatus(); };
+  switch (role) {
+    case Qt::DisplayRole:
+      return text;
+    case Qt::ToolTipRole:
+      return toolTipOf(text, status().full);
+    case Qt::AccessibleDescriptionRole:
+      return QString(status().full).replace(u'\n', u' ');
+    case kSourceStatusRole:
+      return index.column() == kDescriptionColumn ? QString() : status().brief;
+    default:
+      return {};
+  }
 }
 
 QVariant SourceListModel::headerData(int section, Qt::Orientation orientation, int role) const {

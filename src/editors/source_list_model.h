@@ -8,6 +8,7 @@
 #include <QAbstractTableModel>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -20,6 +21,15 @@ struct SourceEntry {
 
   bool operator==(const SourceEntry&) const = default;
 };
+
+/// What is known of a source: a few words for its row, and sentences; both empty while nothing is.
+struct SourceStatus {
+  QString brief;
+  QString full;
+};
+
+/// The role of SourceStatus::brief.
+inline constexpr int kSourceStatusRole = Qt::UserRole;
 
 /// Why `entry` cannot be added, as a message to the user: a path of fewer than 3 characters, or a description
 /// that is empty or holds one of :|*?\/ (an online source's description is part of a file name). The path is
@@ -55,6 +65,10 @@ class SourceListModel : public QAbstractTableModel {
   const std::vector<SourceEntry>& entries() const { return entries_; }
 
   void fill(std::vector<SourceEntry> entries);
+  /// From now on rows have what `statusOf` says of their entries.
+  void setStatuses(std::function<SourceStatus(const SourceEntry&)> statusOf);
+  /// What is said of some entries has changed.
+  void statusesChanged();
   void append(const SourceEntry& entry);
 
   // The commands on selected rows. Each returns the row to select afterwards; nothing when the selection is
@@ -77,6 +91,7 @@ class SourceListModel : public QAbstractTableModel {
   void exchangeWithNext(int row);
 
   std::vector<SourceEntry> entries_;
+  std::function<SourceStatus(const SourceEntry&)> statusOf_;
 };
 
 }  // namespace quorvin

@@ -248,6 +248,20 @@ std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path,
   }
 }
 
+std::optional<std::int64_t> entriesInSegmentFile(const QString& path, const SegmentKey& key) {
+  try {
+    const std::optional<Directory> directory = directoryOf(RandomAccessFile(path));
+    if (!directory || directory->key != key) return std::nullopt;
+    std::uint64_t entries = 0;
+    for (const SegmentRecord& segment : directory->segments) entries += segment.entryCount;
+    return static_cast<std::int64_t>(entries);
+  } catch (const RuntimeFault&) {
+    return std::nullopt;
+  } catch (const std::bad_alloc&) {
+    return std::nullopt;
+  }
+}
+
 QString listingOfSegmentFile(const QString& path) {
   try {
     const std::optional<Directory> directory = directoryOf(RandomAccessFile(path));

@@ -8,7 +8,9 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quorvin {
@@ -63,6 +65,10 @@ class SegmentFileWriter {
 /// to, blocks that have not been read yet are damaged, for SegmentUse::Repeated. Never throws.
 std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,
                                                             SegmentUse use);
+
+/// How many entries the segments of the file at `path` have, if it is whole and belongs to `key`. Reads its
+/// directory alone. Never throws.
+std::optional<std::int64_t> entriesInSegmentFile(const QString& path, const SegmentKey& key);
 
 /// The listing that the segment file at `path` belongs to; empty text if it is none.
 QString listingOfSegmentFile(const QString& path);

@@ -68,6 +68,16 @@ class SegmentFileTest : public testing::TestWithParam<SegmentUse> {
   }
 };
 
+TEST_P(SegmentFileTest, TellsItsEntriesToWhoHasItsKey) {
+  EXPECT_EQ(entriesInSegmentFile(path_, key_), 3);
+  SegmentKey changed = key_;
+  ++changed.identity.modified;
+  EXPECT_EQ(entriesInSegmentFile(path_, changed), std::nullopt);
+  replaceWith(whole_.chopped(1));
+  EXPECT_EQ(entriesInSegmentFile(path_, key_), std::nullopt);
+  EXPECT_EQ(entriesInSegmentFile(folder_.pathOf(u"none"_qs), key_), std::nullopt);
+}
+
 TEST_P(SegmentFileTest, SegmentsComeBackAsTheyWere) {
   const auto segments = open();
   ASSERT_EQ(segments.size(), 2U);
