@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -54,7 +55,8 @@ void ListOptions::layOut() {
   controls_.JoinD = addRow(rows, QStringLiteral("JoinD"), QStringLiteral("First Run Date:"));
   controls_.Nic = addRow(rows, QStringLiteral("Nic"), QStringLiteral("Nickname:"));
   rows->setColumnStretch(1, 1);
-  controls_.LocalDataFolder->setMinimumWidth(fontMetrics().averageCharWidth() * kBoxCharacters);
+  controls_.LocalDataFolder->setMinimumWidth(std::min(fontMetrics().averageCharWidth() * kBoxCharacters,
+                                                      screen()->availableGeometry().width() * 2 / 5));
 
   controls_.OKButton = makeButton(QStringLiteral("OKButton"), QStringLiteral("OK"));
   controls_.OKButton->setDefault(true);

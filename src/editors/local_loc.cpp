@@ -30,6 +30,7 @@ LocalLoc::LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget
   setWindowTitle(QStringLiteral("Local File Search Locations"));
   controls_.Online->setModel(&entries_);
   laidOutFor_ = placeLocalLocControls(controls_);
+  mirrorLocalLocControls(controls_, laidOutFor_.width());
   takeInitialSize();
   connectControls();
   Form_Load();
@@ -48,8 +49,10 @@ void LocalLoc::arrangeForOffline() {
   controls_.OK->setEnabled(false);
   controls_.SaveOffLine->show();
   controls_.Desc->setText(QStringLiteral("Offline"));
+  mirrorLocalLocControls(controls_, laidOutFor_.width());
   setPathCaption(controls_, QStringLiteral("Path to List file"));
   widenPathOverDescription(controls_);
+  mirrorLocalLocControls(controls_, laidOutFor_.width());
   LocMode_ = QString::fromUtf16(kOfflineMode);
   controls_.Label1->hide();
   controls_.Desc->hide();
@@ -295,8 +298,10 @@ bool LocalLoc::store(SourceTable& table, int& count) {
 
 void LocalLoc::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
+  mirrorLocalLocControls(controls_, laidOutFor_.width());
   stretchLocalLocControls(controls_, size() - laidOutFor_);
   laidOutFor_ = size();
+  mirrorLocalLocControls(controls_, laidOutFor_.width());
   setNotice(controls_, controls_.Notice->toolTip());
 }
 

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -76,7 +77,8 @@ class SourceRows : public QStyledItemDelegate {
     const QString status = index.data(kSourceStatusRole).toString();
     if (status.isEmpty()) return QStyledItemDelegate::paint(painter, option, index);
     const int gap = option.fontMetrics.height() / 2;
-    const int wanted = option.fontMetrics.horizontalAdvance(status) + 2 * gap;
+    // One more, since the text may be wider than the whole number of pixels.
+    const int wanted = option.fontMetrics.horizontalAdvance(status) + 2 * gap + 1;
     const int width = std::min(wanted, option.rect.width() * 3 / 5);
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
@@ -297,12 +299,15 @@ QSize placeLocalLocControls(const LocalLocControls& controls) {
   const int labelHeight = controls.Label1->sizeHint().height();
   const int left = distances.margin;
 
-  // The list with the buttons for it in a column at its right.
-  const int listWidth = characters(controls.Online, kLeastListCharacters);
-  const int listRight = left + listWidth;
-  const int sideLeft = listRight + distances.between;
+  // The list with the buttons for it in a column at its right. With large letters it leaves them room on the
+  // screen.
   const int sideWidth =
       widestOf({controls.MvUp, controls.MvDn, controls.LocDel, controls.LocAdd}) + distances.between;
+  const int screenWidth = controls.Online->screen()->availableGeometry().width();
+  const int listWidth = std::min(characters(controls.Online, kLeastListCharacters),
+                                 screenWidth - sideWidth - distances.between - 2 * distances.margin);
+  const int listRight = left + listWidth;
+  const int sideLeft = listRight + distances.between;
   const int listTop = distances.margin;
   int y = listTop;
   for (QPushButton* button : {controls.MvUp, controls.MvDn, controls.LocDel}) {
@@ -310,11 +315,13 @@ QSize placeLocalLocControls(const LocalLocControls& controls) {
     y += buttonHeight + distances.between;
   }
   controls.Online->setGeometry(left, listTop, listWidth, y - distances.between - listTop);
-  controls.Online->header()->resizeSection(0, characters(controls.Online, kDescriptionCharacters));
+  const int descriptionWidth =
+      std::max(controls.Label1->sizeHint().width(),
+               std::min(characters(controls.Desc, kDescriptionCharacters), listWidth * 2 / 5));
+  controls.Online->header()->resizeSection(0, descriptionWidth);
 
   // The boxes for a new entry, under their labels; the browse button ends where the list ends.
   y = controls.Online->geometry().bottom() + 1 + distances.betweenGroups;
-  const int descriptionWidth = characters(controls.Desc, kDescriptionCharacters);
   const int pathLeft = left + descriptionWidth + distances.between;
   controls.Label1->setGeometry(left, y, descriptionWidth, labelHeight);
   controls.Label2->setGeometry(pathLeft, y, controls.Label2->sizeHint().width(), labelHeight);
@@ -361,6 +368,20 @@ void stretchLocalLocControls(const LocalLocControls& controls, QSize growth) {
   growBy(controls.Notice, wider, 0);
   moveBy({controls.GetListName, controls.LocAdd, controls.OK, controls.SaveOffLine, controls.Cancel}, wider,
          taller);
+}
+
+void mirrorLocalLocControls(const LocalLocControls& controls, int width) {
+  for (QWidget* widget :
+       {static_cast<QWidget*>(controls.Online), static_cast<QWidget*>(controls.MvUp),
+        static_cast<QWidget*>(controls.MvDn), static_cast<QWidget*>(controls.LocDel),
+        static_cast<QWidget*>(controls.Label1), static_cast<QWidget*>(controls.Desc),
+        static_cast<QWidget*>(controls.Label2), static_cast<QWidget*>(controls.LocalDataFolder),
+        static_cast<QWidget*>(controls.GetListName), static_cast<QWidget*>(controls.LocAdd),
+        static_cast<QWidget*>(controls.Notice), static_cast<QWidget*>(controls.OK),
+        static_cast<QWidget*>(controls.SaveOffLine), static_cast<QWidget*>(controls.Cancel)}) {
+    widget->setGeometry(
+        QStyle::visualRect(widget->layoutDirection(), QRect(0, 0, width, 1), widget->geometry()));
+  }
 }
 
 void widenPathOverDescription(const LocalLocControls& controls) {

@@ -78,6 +78,10 @@ QSize initialLocalLocSize(const LocalLocControls& controls, QSize least);
 /// is, the rest keeps its distance from the edges.
 void stretchLocalLocControls(const LocalLocControls& controls, QSize growth);
 
+/// Where the desktop is written from right to left, exchanges left and right in a dialog of that inner width:
+/// what was placed as the other functions do is then as it is shown, and the other way round.
+void mirrorLocalLocControls(const LocalLocControls& controls, int width);
+
 /// Gives the room of the description box and its label to the path box, whose right edge stays where it is.
 void widenPathOverDescription(const LocalLocControls& controls);
 

@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QPointer>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -84,7 +85,9 @@ HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& local
   rows->addWidget(present_);
   rows->addWidget(versions_, 1);
   rows->addWidget(buttons);
-  resize(fontMetrics().averageCharWidth() * kWidthInCharacters, fontMetrics().lineSpacing() * kHeightInLines);
+  const QSize wanted(fontMetrics().averageCharWidth() * kWidthInCharacters,
+                     fontMetrics().lineSpacing() * kHeightInLines);
+  resize(wanted.boundedTo(screen()->availableGeometry().size()));
 
   connect(listing_, &QComboBox::currentIndexChanged, this, &HistoryWindow::showVersions);
   connect(versions_, &QTreeWidget::itemSelectionChanged, this,

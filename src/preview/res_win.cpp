@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -44,7 +45,9 @@ ResWin::ResWin(QWidget* parent) : QDialog(parent), text_(makeText()) {
   rows->addWidget(buttons);
   // The window comes up unasked, perhaps while somebody types: a blank must not close it.
   text_->setFocus();
-  resize(fontMetrics().averageCharWidth() * kWidthInCharacters, fontMetrics().lineSpacing() * kHeightInLines);
+  const QSize wanted(fontMetrics().averageCharWidth() * kWidthInCharacters,
+                     fontMetrics().lineSpacing() * kHeightInLines);
+  resize(wanted.boundedTo(screen()->availableGeometry().size()));
 }
 
 void ResWin::setText(const QString& text) {

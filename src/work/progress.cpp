@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -60,7 +61,9 @@ void layOutProgress(QDialog& dialog, const QList<QWidget*>& rows, QLabel& detail
   layout->addLayout(lastRow);
   // The texts change all the time; the window must not change with them.
   layout->setSizeConstraint(QLayout::SetNoConstraint);
-  dialog.setFixedSize(dialog.fontMetrics().averageCharWidth() * characters, layout->sizeHint().height());
+  const int width = std::min(dialog.fontMetrics().averageCharWidth() * characters,
+                             dialog.screen()->availableGeometry().width());
+  dialog.setFixedSize(width, layout->sizeHint().height());
 }
 
 Progress::Progress(ProgramState& state, QWidget* parent)
