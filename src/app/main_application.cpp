@@ -97,9 +97,22 @@ QIcon applicationIcon() {
 
 }  // namespace
 
+QPalette withReadableQuietText(QPalette palette) {
+  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+    const QColor text = palette.color(group, QPalette::Text);
+    const QColor base = palette.color(group, QPalette::Base);
+    const auto between = [](int one, int other) { return (7 * one + 3 * other) / 10; };
+    palette.setColor(group, QPalette::PlaceholderText,
+                     QColor(between(text.red(), base.red()), between(text.green(), base.green()),
+                            between(text.blue(), base.blue())));
+  }
+  return palette;
+}
+
 Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
+  setPalette(withReadableQuietText(palette()));
   setWindowIcon(applicationIcon());
   // Wayland's desktops take the icon from there.
   setDesktopFileName(QStringLiteral("quorvin"));

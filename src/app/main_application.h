@@ -5,11 +5,16 @@
 #include "platform/message_box.h"
 
 #include <QApplication>
+#include <QPalette>
 
 #include <functional>
 #include <optional>
 
 namespace quorvin {
+
+/// `palette` with a colour for quiet texts (PlaceholderText) that lies between text and background and can be
+/// read on Base and on Window. Desktops give one of too little contrast, or, with dark palettes, none.
+QPalette withReadableQuietText(QPalette palette);
 
 /// The last place where a fault can be reported: one that no handler has dealt with is shown in a message
 /// box, and the program stays open with everything it had.

@@ -13,7 +13,9 @@
 #include <QMetaMethod>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <csignal>
 #include <cstddef>
 
@@ -27,6 +29,49 @@ class FailingReceiver : public QObject {
     throw RuntimeFault(FaultNumber::DiskFull, QStringLiteral("Disk full: /data"));
   }
 };
+
+double luminanceOf(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double contrastOf(const QColor& one, const QColor& other) {
+  const auto [darker, lighter] = std::minmax(luminanceOf(one), luminanceOf(other));
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// Text, Base and Window of palettes of common desktops.
+struct DesktopColours {
+  QColor text;
+  QColor base;
+  QColor window;
+};
+
+TEST(MainApplication, QuietTextsCanBeReadOnLightDarkAndHighContrastDesktops) {
+  for (const DesktopColours& colours :
+       {DesktopColours{QColor(0, 0, 0), QColor(255, 255, 255), QColor(239, 239, 239)},
+        DesktopColours{QColor(35, 38, 41), QColor(252, 252, 252), QColor(239, 240, 241)},
+        DesktopColours{QColor(252, 252, 252), QColor(27, 30, 32), QColor(42, 46, 50)},
+        DesktopColours{QColor(255, 255, 255), QColor(45, 45, 45), QColor(53, 53, 53)},
+        DesktopColours{QColor(255, 255, 255), QColor(0, 0, 0), QColor(0, 0, 0)}}) {
+    QPalette palette;
+    palette.setColor(QPalette::Text, colours.text);
+    palette.setColor(QPalette::Base, colours.base);
+    palette.setColor(QPalette::Window, colours.window);
+    const QColor quiet = withReadableQuietText(palette).color(QPalette::PlaceholderText);
+    EXPECT_GE(contrastOf(quiet, colours.base), 4.5) << colours.base.name().toStdString();
+    EXPECT_GE(contrastOf(quiet, colours.window), 4.5) << colours.window.name().toStdString();
+    EXPECT_NE(quiet, colours.text);
+  }
+}
+
+TEST(MainApplication, ItsWindowsHaveReadableQuietTexts) {
+  EXPECT_GE(contrastOf(QApplication::palette().color(QPalette::PlaceholderText),
+                       QApplication::palette().color(QPalette::Base)),
+            4.5);
+}
 
 TEST(MainApplication, TellsAFaultThatNoHandlerDealtWithAndGoesOn) {
   lastResortMessages().informed.clear();
