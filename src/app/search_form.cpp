@@ -92,6 +92,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       [this](const HitRow& hit) { return rows_.words().explanation(hit.folder, hit.name); });
   sources_.emplace(
       state_, messages_, *this, controls_, menus_, [this] { rescan(); }, [this] { sourcesChanged(); });
+  jobs_.setNotify(
+      [&shell](const QString& text) { shell.notify(QStringLiteral("The rescan has ended"), text); });
   jobs_.peers().SndQTime().setQuit([this] { leave(); });
   controls_.SearchStr->setFocus();
   sourcesChanged();

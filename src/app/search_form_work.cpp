@@ -15,6 +15,8 @@
 #include <QInputDialog>
 #include <QScopeGuard>
 
+#include <utility>
+
 namespace quorvin {
 
 namespace {
@@ -42,6 +44,7 @@ SearchFormWork::SearchFormWork(ProgramState& state, MessageBoxes& messages, QWid
       progress_(new Progress(state, &owner)),
       work_(state, *progress_),
       peers_(state, work_, messages, locale, noDialogIsOpen) {
+  isInFront_ = [] { return QApplication::activeWindow() != nullptr; };
   connectPeers();
 }
 
@@ -79,11 +82,14 @@ void SearchFormWork::refresh(Job& job) {
   RefreshOutcome outcome;
   menus_.ReScan->setEnabled(false);
   progress_->setBusyPointer(true);
+  const auto start = std::chrono::steady_clock::now();
   reportFaults(messages_, QStringLiteral("refreshing the local lists"),
                [&] { outcome = refreshLocalLists(state_, job, messages_, locale_, versionCaption()); });
   job.end();
   progress_->setBusyPointer(false);
   menus_.ReScan->setEnabled(true);
+  notifyOf(outcome,
+           std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start));
   showOutcome(outcome);
   peers_.sharing().sourcesRefreshed();
 }
@@ -108,6 +114,16 @@ void SearchFormWork::restore(Job& job, const QString& listing, int number) {
   static_cast<void>(job.takeRescanAbort());
   job.end();
   peers_.sharing().sourcesRefreshed();
+}
+
+void SearchFormWork::setNotify(Notify notify, std::chrono::milliseconds least) {
+  notify_ = std::move(notify);
+  leastNotified_ = least;
+}
+
+void SearchFormWork::notifyOf(const RefreshOutcome& outcome, std::chrono::milliseconds duration) {
+  if (!notify_ || isInFront_() || work_.isClosing() || duration < leastNotified_) return;
+  notify_(outcome.fault.isEmpty() ? refreshText(outcome, locale_) : outcome.fault);
 }
 
 void SearchFormWork::showOutcome(const RefreshOutcome& outcome) {

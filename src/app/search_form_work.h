@@ -18,8 +18,10 @@
 #include <QString>
 #include <QWidget>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
+#include <utility>
 
 namespace quorvin {
 
@@ -43,6 +45,12 @@ class SearchFormWork {
   /// events run meanwhile. What could not be indexed is shown in `ResWin` afterwards, and shared lists are
   /// packed anew. Where the refresh has to wait, the call returns at once.
   void startRefresh();
+  /// Tells the user of a rescan that took at least `least` and ended while another program was in front.
+  using Notify = std::function<void(const QString& text)>;
+  static constexpr std::chrono::milliseconds kLongRescan = std::chrono::seconds(20);
+  void setNotify(Notify notify, std::chrono::milliseconds least = kLongRescan);
+  /// Whether a window of the program is in front; the tests have an answer of their own.
+  void setIsInFront(std::function<bool()> isInFront) { isInFront_ = std::move(isInFront); }
   /// Puts an earlier version in the place of a listing, as a job of the kind Refresh, and packs shared lists
   /// anew. `ended` is called when that is done, has failed, or was refused, which the user has been told.
   void restoreListing(const QString& listing, int number, std::function<void()> ended);
@@ -71,6 +79,7 @@ class SearchFormWork {
   void refresh(Job& job);
   void restore(Job& job, const QString& listing, int number);
   void showOutcome(const RefreshOutcome& outcome);
+  void notifyOf(const RefreshOutcome& outcome, std::chrono::milliseconds duration);
   void connectPeers();
   PeerProgress& peerProgress();
 
@@ -87,6 +96,9 @@ class SearchFormWork {
   HttpNetworkTransfer web_;
   PeerExchange peers_;
   QPointer<PeerProgress> peerProgress_;
+  Notify notify_;
+  std::function<bool()> isInFront_;
+  std::chrono::milliseconds leastNotified_ = kLongRescan;
   QHostAddress listenerAddress_ = QHostAddress::Any;
   std::uint16_t listenerPort_ = kPeerPort;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/shell.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -54,6 +55,18 @@ QDBusMessage showItemsCall(const QString& file) {
   return call;
 }
 
+QDBusMessage notifyCall(const QString& title, const QString& text) {
+  const QString service = QStringLiteral("org.freedesktop.Notifications");
+  QDBusMessage call = QDBusMessage::createMethodCall(
+      service, QStringLiteral("/org/freedesktop/Notifications"), service, QStringLiteral("Notify"));
+  constexpr uint kReplacesNone = 0;
+  constexpr int kUsualTime = -1;
+  // Some desktops read the text as markup.
+  call << QCoreApplication::applicationName() << kReplacesNone << QStringLiteral("quorvin") << title
+       << text.toHtmlEscaped() << QStringList() << QVariantMap() << kUsualTime;
+  return call;
+}
+
 }  // namespace
 
 DesktopShell::DesktopShell(std::function<QString()> enqueueCommand, QObject* parent)
@@ -85,6 +98,10 @@ EnqueueOutcome DesktopShell::enqueue(const QString& file, const QString& working
   if (command.isEmpty()) return EnqueueOutcome::NoPlayer;
   const bool started = QProcess::startDetached(command.program, command.arguments, workingFolder);
   return started ? EnqueueOutcome::HandedOver : EnqueueOutcome::NotStarted;
+}
+
+void DesktopShell::notify(const QString& title, const QString& text) {
+  QDBusConnection::sessionBus().asyncCall(notifyCall(title, text));
 }
 
 }  // namespace quorvin

@@ -22,6 +22,7 @@ class DesktopShell : public QObject, public Shell {
   /// Where no file manager answers on the session bus, the folder itself is opened.
   void openFolder(const QString& folder, const QString& name) override;
   EnqueueOutcome enqueue(const QString& file, const QString& workingFolder) override;
+  void notify(const QString& title, const QString& text) override;
 
  private:
   std::function<QString()> enqueueCommand_;

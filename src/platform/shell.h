@@ -34,6 +34,9 @@ class Shell {
 
   /// Appends a file to the queue of an audio player, which starts in `workingFolder` unless it runs already.
   virtual EnqueueOutcome enqueue(const QString& file, const QString& workingFolder) = 0;
+
+  /// Shows a notification of the desktop, plain texts both. Nothing happens where the desktop has none.
+  virtual void notify(const QString& title, const QString& text) = 0;
 };
 
 /// A program and its arguments, started without any command interpreter.

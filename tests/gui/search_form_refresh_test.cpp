@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QPlainTextEdit>
 
+#include <chrono>
+
 namespace quorvin::test {
 
 namespace {
@@ -296,6 +298,33 @@ TEST_F(WindowRefresh, AFolderThatIsGoneIsToldInTheResultWindow) {
   EXPECT_EQ(resultsOfRescan(), QStringLiteral("%1 not found; the listing of Stick was kept\n")
                                    .arg(files_.pathOf(QStringLiteral("stick/"))));
   EXPECT_EQ(listing(QStringLiteral("Stick")), QStringLiteral("old"));
+}
+
+/// A rescan of one file that counts as long from this duration on.
+class NotifiedRescan : public WindowRefresh {
+ protected:
+  std::vector<QString> notifications(std::chrono::milliseconds least, bool isInFront) {
+    addFolder(QStringLiteral("Music"), {QStringLiteral("a.mp3")});
+    std::vector<QString> texts;
+    form().jobs().setNotify([&texts](const QString& text) { texts.push_back(text); }, least);
+    form().jobs().setIsInFront([isInFront] { return isInFront; });
+    rescan();
+    form().jobs().setNotify({});
+    return texts;
+  }
+};
+
+TEST_F(NotifiedRescan, IsOneThatWasLongAndEndedInTheBackground) {
+  EXPECT_EQ(notifications(std::chrono::milliseconds(0), false),
+            std::vector{QStringLiteral("1 listing, 1 entry, 1 new, 0 gone")});
+}
+
+TEST_F(NotifiedRescan, IsNotOneThatWasWatched) {
+  EXPECT_EQ(notifications(std::chrono::milliseconds(0), true), std::vector<QString>());
+}
+
+TEST_F(NotifiedRescan, IsNotAShortOne) {
+  EXPECT_EQ(notifications(std::chrono::hours(24), false), std::vector<QString>());
 }
 
 }  // namespace

@@ -66,6 +66,37 @@ class FileManager : public QObject {
   QDBusConnection bus_;
 };
 
+/// What shows notifications, on the bus.
+class Notifications : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+ public:
+  Notifications()
+      : bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("notifications"))) {
+    EXPECT_TRUE(bus_.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
+                                    QDBusConnection::ExportAllSlots));
+    EXPECT_TRUE(bus_.registerService(QStringLiteral("org.freedesktop.Notifications")));
+  }
+  ~Notifications() override { QDBusConnection::disconnectFromBus(QStringLiteral("notifications")); }
+  Notifications(const Notifications&) = delete;
+  Notifications& operator=(const Notifications&) = delete;
+
+  QStringList shown;
+
+ public Q_SLOTS:
+  uint Notify(const QString&, uint replaces, const QString&, const QString& title, const QString& text,
+              const QStringList& actions, const QVariantMap&, int) {
+    EXPECT_EQ(replaces, 0U);
+    EXPECT_EQ(actions, QStringList());
+    shown.append(title + u'|' + text);
+    return 1;
+  }
+
+ private:
+  QDBusConnection bus_;
+};
+
 QString withoutLastSeparator(const QString& folder) {
   return folder.left(folder.size() - 1);
 }
@@ -119,6 +150,13 @@ TEST_F(DesktopShellTest, WithoutAFileManagerOnTheBusTheFolderItselfIsOpened) {
   ASSERT_TRUE(eventually([&] { return !desktop_.opened.isEmpty(); }));
   EXPECT_EQ(desktop_.opened, QStringList(withoutLastSeparator(folder_.path())));
   EXPECT_EQ(desktop_.workingFolders, QStringList(withoutLastSeparator(folder_.path())));
+}
+
+TEST_F(DesktopShellTest, ShowsANotificationWhoseTextIsNoMarkup) {
+  Notifications notifications;
+  shell_.notify(QStringLiteral("Done"), QStringLiteral("3 listings <b>"));
+  EXPECT_EVENTUALLY(!notifications.shown.isEmpty());
+  EXPECT_EQ(notifications.shown, QStringList(QStringLiteral("Done|3 listings &lt;b&gt;")));
 }
 
 TEST_F(DesktopShellTest, EnqueuesByTheCommandOfTheUser) {

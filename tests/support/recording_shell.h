@@ -24,6 +24,10 @@ class RecordingShell : public Shell {
     return outcome;
   }
 
+  void notify(const QString& title, const QString& text) override {
+    record(QStringLiteral("notify %1: %2").arg(title, text));
+  }
+
   /// One line for each call.
   std::vector<QString> calls;
   /// What enqueue() tells.
