@@ -140,6 +140,7 @@ void SearchFormWindows::unloadHistory() {
 
 void SearchFormWindows::unloadBrowser() {
   if (browser_) browser_->close();
+  help_.unload();
 }
 
 }  // namespace quorvin

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/search_form_controls.h"
+#include "app/search_form_help.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
 #include "help/frm_browser.h"
@@ -93,6 +94,7 @@ class SearchFormWindows {
   NetworkPageTransfer transfer_;
   /// A separate window beside the main one, so it is not the main window's child.
   std::unique_ptr<frmBrowser> browser_;
+  SearchFormHelp help_;
 };
 
 }  // namespace quorvin
