@@ -34,6 +34,7 @@ TEST_F(RunningProgram, TheMainWindowIsReadAndSearchedOverTheBus) {
             "menu bar: Main menu\n"
             "menu item: File\n"
             "menu item: View\n"
+            "menu item: Hits\n"
             "menu item: Peers\n"
             "menu item: Help\n"
             "status bar: Status\n"

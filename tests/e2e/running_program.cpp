@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 
 #include <csignal>
 #include <stdexcept>
@@ -14,6 +15,13 @@ namespace {
 
 constexpr int kLongestEndMilliseconds = 180'000;
 const QString kOfflineTitle = QStringLiteral("Offline Search List files");
+
+/// The title of the main window of a program that is started with `arguments`, the last of which may be a
+/// listing.
+QString titleWith(const QStringList& arguments) {
+  if (arguments.isEmpty()) return kTitle;
+  return QFileInfo(arguments.last()).fileName() + QStringLiteral(" - ") + kTitle;
+}
 
 }  // namespace
 
@@ -54,7 +62,7 @@ RunningProgram::RunningProgram(const Desktop& desktop, const ProgramHome& home, 
   process_.setProcessEnvironment(environment);
   process_.setWorkingDirectory(home.folder.path());
   process_.start(home.program(), arguments);
-  waitForWindow(kTitle);
+  waitForWindow(titleWith(arguments));
   mainWindow_ = desktop_.activeWindow();
 }
 
