@@ -116,7 +116,8 @@ void HitListDelegate::paintMarked(QPainter& painter, const QStyleOptionViewItem&
   painter.setClipRect(option.rect, Qt::IntersectClip);
   painter.setPen(
       cell.palette.color(colourGroup(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
-  drawLine(painter, cutToWidth(whole, cell.font, place.width()), cell.font, place, lines);
+  const Cut cut = cell.textElideMode == Qt::ElideMiddle ? Cut::Middle : Cut::End;
+  drawLine(painter, cutToWidth(whole, cell.font, place.width(), cut), cell.font, place, lines);
   painter.restore();
 }
 
@@ -159,6 +160,9 @@ void HitListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
   // Every second row of a dark palette may be light enough to count as light, and too dark for the colours.
   if (isDark(base) && contrast(shown, behind) < kUsualContrast) shown = darkerOn(text, behind);
   option->palette.setColor(QPalette::Text, shown);
+  // What tells folders apart is mostly at their ends.
+  const bool isFolder = index.column() == static_cast<int>(HitColumn::Folder);
+  option->textElideMode = isFolder ? Qt::ElideMiddle : Qt::ElideRight;
 }
 
 HitListHeader::HitListHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {

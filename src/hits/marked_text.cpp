@@ -31,24 +31,46 @@ void layOut(QTextLayout& layout, const MarkedText& line, QTextOption option, qre
 
 constexpr qreal kWithoutLimit = 1e6;
 
-/// The first `length` characters of the line, and the ellipsis.
-MarkedText headOf(const MarkedText& line, qsizetype length) {
-  MarkedText head{line.text.left(length) + kEllipsis, {}};
-  for (const TextRange& range : line.bold) {
-    const qsizetype inside = std::min(range.length, length - range.start);
-    if (inside > 0) head.bold.push_back({range.start, inside});
-  }
-  return head;
+/// How many characters stay in front of the ellipsis, and how many behind it.
+struct Kept {
+  qsizetype head;
+  qsizetype tail;
+};
+
+Kept keptOf(qsizetype length, Cut cut) {
+  const qsizetype tail = cut == Cut::Middle ? length / 2 : 0;
+  return {length - tail, tail};
 }
 
-/// Whether each character stands to the right of the one before, so that a head is as wide as the place
-/// where it ends.
+/// Half of a pair is no character.
+Kept withoutHalves(Kept kept, const QString& text) {
+  if (kept.head > 0 && text[kept.head - 1].isHighSurrogate()) --kept.head;
+  if (kept.tail > 0 && text[text.size() - kept.tail].isLowSurrogate()) --kept.tail;
+  return kept;
+}
+
+/// What is kept of the line, with the ellipsis.
+MarkedText partsOf(const MarkedText& line, const Kept& kept) {
+  MarkedText parts{line.text.first(kept.head) + kEllipsis + line.text.last(kept.tail), {}};
+  const qsizetype tailStart = line.text.size() - kept.tail;
+  for (const TextRange& range : line.bold) {
+    const qsizetype end = range.start + range.length;
+    const qsizetype inHead = std::min(end, kept.head) - range.start;
+    if (inHead > 0) parts.bold.push_back({range.start, inHead});
+    const qsizetype start = std::max(range.start, tailStart);
+    if (start < end) parts.bold.push_back({start - tailStart + kept.head + 1, end - start});
+  }
+  return parts;
+}
+
+/// Whether each character stands to the right of the one before, so that a part is as wide as the
+/// places where it starts and ends are apart.
 bool runsToTheRight(const QString& text) {
   constexpr char16_t kFirstOfOtherDirections = 0x0590;
   return std::ranges::all_of(text, [](QChar sign) { return sign.unicode() < kFirstOfOtherDirections; });
 }
 
-/// The largest length whose head fits; those before it fit too.
+/// The largest length that fits; those before it fit too.
 qsizetype longestThat(qsizetype most, const std::function<bool(qsizetype)>& fits) {
   qsizetype fitting = 0;
   while (fitting < most) {
@@ -70,23 +92,23 @@ qreal widthOf(const MarkedText& line, const QFont& font) {
   return layout.lineCount() == 0 ? 0 : layout.lineAt(0).naturalTextWidth();
 }
 
-MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width) {
+MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width, Cut cut) {
   QTextLayout layout(line.text, font);
   layOut(layout, line, {}, kWithoutLimit);
   if (layout.lineCount() == 0 || layout.lineAt(0).naturalTextWidth() <= width) return line;
   const QTextLine whole = layout.lineAt(0);
-  qsizetype length = 0;
-  if (runsToTheRight(line.text)) {
-    const qreal forHead = width - QFontMetricsF(font).horizontalAdvance(kEllipsis);
-    length = longestThat(line.text.size(),
-                         [&](qsizetype end) { return whole.cursorToX(static_cast<int>(end)) <= forHead; });
-  } else {
-    length = longestThat(line.text.size(),
-                         [&](qsizetype end) { return widthOf(headOf(line, end), font) <= width; });
-  }
-  // Half of a pair is no character.
-  if (length > 0 && line.text[length - 1].isHighSurrogate()) --length;
-  return headOf(line, length);
+  const qreal forText = width - QFontMetricsF(font).horizontalAdvance(kEllipsis);
+  const auto placeOf = [&whole](qsizetype character) { return whole.cursorToX(static_cast<int>(character)); };
+  const auto fitsByPlace = [&](qsizetype length) {
+    const auto [head, tail] = keptOf(length, cut);
+    return placeOf(head) + whole.naturalTextWidth() - placeOf(line.text.size() - tail) <= forText;
+  };
+  const auto fits = [&](qsizetype length) {
+    return widthOf(partsOf(line, keptOf(length, cut)), font) <= width;
+  };
+  const qsizetype length = runsToTheRight(line.text) ? longestThat(line.text.size(), fitsByPlace)
+                                                     : longestThat(line.text.size(), fits);
+  return partsOf(line, withoutHalves(keptOf(length, cut), line.text));
 }
 
 void drawLine(QPainter& painter, const MarkedText& line, const QFont& font, const QRect& place,

@@ -22,9 +22,12 @@ struct MarkedText {
 /// The width of `line` in pixels.
 qreal widthOf(const MarkedText& line, const QFont& font);
 
-/// The line as it is where it fits into `width` pixels, otherwise as many of its first characters as fit
-/// with an ellipsis behind them.
-MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width);
+/// Where a line that is too long is cut.
+enum class Cut { End, Middle };
+
+/// The line as it is where it fits into `width` pixels, otherwise as many of its first characters as fit with
+/// an ellipsis behind them; or, cut in the middle, of its first and last ones with the ellipsis between.
+MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width, Cut cut = Cut::End);
 
 /// Draws the line in the painter's pen, in the middle of the height of `place`; direction and alignment are
 /// those of `option`.

@@ -216,6 +216,46 @@ TEST_F(FoundWords, AreCountedInTheTooltip) {
 }
 
 const auto kKinds = testing::Values(SourceKind::Online, SourceKind::MainDataFile, SourceKind::Offline);
+/// Whether the two rows look the same in a column.
+bool looksSame(HitListView& view, HitColumn column) {
+  const int section = static_cast<int>(column);
+  const auto cell = [&](int row) {
+    QRect place = view.rowRect(row);
+    place.setLeft(view.header()->sectionViewportPosition(section));
+    place.setWidth(view.header()->sectionSize(section));
+    return view.viewport()->grab(place).toImage();
+  };
+  return cell(0) == cell(1);
+}
+
+TEST(CutFolders, AreToldApartByTheirEnds) {
+  const QString words = QStringLiteral("shelf song");
+  const QByteArray folder = "\\Box 7\\A shelf with a name that is longer than its column\\";
+  HitTable table;
+  HitListModel model(table, QLocale::c());
+  HitListView view;
+  for (const bool knowsWords : {false, true}) {
+    model.clear(knowsWords ? SearchQuery(words, 40) : SearchQuery());
+    scanInto(table, SourceKind::Online,
+             blockHead("D", folder + "North\\") + "song.mp3\r\n" + blockHead("D", folder + "South\\") +
+                 "song.mp3\r\n",
+             words);
+    model.hitsArrived();
+    view.setAlternatingRowColors(false);
+    view.setModel(&model);
+    view.header()->resizeSection(static_cast<int>(HitColumn::Folder), 150);
+    view.resize(700, 100);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    ASSERT_EQ(model.rowCount(), 2);
+    view.clearSelection();
+    view.setCurrentIndex({});
+    view.clearSelection();
+    EXPECT_TRUE(looksSame(view, HitColumn::Name)) << knowsWords;
+    EXPECT_FALSE(looksSame(view, HitColumn::Folder)) << knowsWords;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(OfEachKind, RowColours, kKinds);
 INSTANTIATE_TEST_SUITE_P(OfEachKind, PaintedRow, kKinds);
 

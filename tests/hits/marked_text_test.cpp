@@ -62,6 +62,32 @@ TEST_F(MarkedTexts, KeepTheirBoldPartsInFrontOfTheCut) {
   EXPECT_LE(widthOf(cut, font_), widthOf({u"iiiiiiiiiiiiiiii"_qs, {}}, font_));
 }
 
+TEST_F(MarkedTexts, ThatAreCutInTheMiddleKeepTheirEnds) {
+  const MarkedText line{u"iiiiiiiiiiiiiiiiiiiiiiiiiiiiii"_qs, {{0, 2}, {14, 2}, {28, 2}}};
+  const qreal width = widthOf({u"iiiiiiiiiiiiiiii"_qs, {}}, font_);
+  const MarkedText cut = cutToWidth(line, font_, width, Cut::Middle);
+  const qsizetype head = cut.text.indexOf(u'\u2026');
+  const qsizetype tail = cut.text.size() - head - 1;
+  ASSERT_GT(head, 2);
+  EXPECT_TRUE(head == tail || head == tail + 1) << head << ' ' << tail;
+  EXPECT_EQ(cut.bold, (TextRanges{{0, 2}, {cut.text.size() - 2, 2}}));
+  EXPECT_LE(widthOf(cut, font_), width);
+  EXPECT_GT(widthOf(cut, font_) + widthOf({u"i"_qs, {{0, 1}}}, font_), width);
+}
+
+TEST_F(MarkedTexts, OfEveryScriptFitWhenTheyAreCutInTheMiddle) {
+  for (const QString& text : {u"\\Music\\Northern Harbour\\Live at Wembley\\"_qs,
+                              u"song \u05D9\u05E8\u05D5\u05E9\u05DC\u05D9\u05DD song song song"_qs,
+                              u"\U0001F3B5\U0001F3B5\U0001F3B5\U0001F3B5\U0001F3B5\U0001F3B5"_qs}) {
+    const MarkedText line{text, {{0, text.size()}}};
+    for (qreal width = 20; width < widthOf(line, font_); width += 5) {
+      const MarkedText cut = cutToWidth(line, font_, width, Cut::Middle);
+      EXPECT_LE(widthOf(cut, font_), width) << text.toStdString();
+      EXPECT_TRUE(cut.text.isValidUtf16()) << cut.text.toStdString();
+    }
+  }
+}
+
 TEST_F(MarkedTexts, OfEveryScriptFitWhenTheyAreCut) {
   for (const QString& text :
        {u"\u05D9\u05E8\u05D5\u05E9\u05DC\u05D9\u05DD \u05E9\u05DC \u05D6\u05D4\u05D1"_qs,
