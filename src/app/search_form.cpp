@@ -34,10 +34,6 @@ int toPixels(float twips) {
   return static_cast<int>(std::lround(std::clamp(pixels, -kFarthestPixel, kFarthestPixel)));
 }
 
-float toTwips(int pixels) {
-  return static_cast<float>(pixels * kTwipsPerPixel);
-}
-
 /// The usable areas of the screens, that of the primary one first.
 QList<QRect> usableScreens() {
   QList<QRect> areas;
@@ -313,13 +309,13 @@ float SearchFormFrame::placement(PlacementKey key) const {
   const QRect outer = window_.frameGeometry();
   switch (key) {
     case PlacementKey::Top:
-      return toTwips(outer.top());
+      return static_cast<float>(toTwips(outer.top()));
     case PlacementKey::Left:
-      return toTwips(outer.left());
+      return static_cast<float>(toTwips(outer.left()));
     case PlacementKey::Width:
-      return toTwips(outer.width());
+      return static_cast<float>(toTwips(outer.width()));
     case PlacementKey::Height:
-      return toTwips(outer.height());
+      return static_cast<float>(toTwips(outer.height()));
   }
   return 0;
 }

@@ -62,12 +62,6 @@ QMenu* addMenu(QMenuBar* bar, const QString& name, const QString& caption) {
   return menu;
 }
 
-QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
-  QAction* item = menu->addAction(caption);
-  item->setObjectName(name);
-  return item;
-}
-
 /// Those of the View menu that concern the search text.
 void addSearchItems(SearchFormMenus& menus) {
   menus.ViewMenu->addSeparator();
@@ -128,6 +122,12 @@ SearchFormControls makeControls(QWidget* parent, QAbstractItemModel& rows) {
     widget->hide();
   }
   return made;
+}
+
+QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
+  QAction* item = menu->addAction(caption);
+  item->setObjectName(name);
+  return item;
 }
 
 SearchFormMenus makeMenus(QMenuBar* bar) {

@@ -82,11 +82,17 @@ struct SearchFormMenus {
   QAction* AboutMenu;
 };
 
+/// A new item at the end of `menu`, which owns it, with its object name. Nothing is connected.
+QAction* addItem(QMenu* menu, const QString& name, const QString& caption);
+
 /// Fills `bar`. Nothing is connected.
 SearchFormMenus makeMenus(QMenuBar* bar);
 
 /// The measures of windows are twips in the settings and in the rules of the layout.
 inline constexpr int kTwipsPerPixel = 15;
+constexpr double toTwips(int pixels) {
+  return static_cast<double>(pixels) * kTwipsPerPixel;
+}
 /// The window is never smaller than this, in twips, measured over its frame.
 inline constexpr int kLeastOuterWidth = 3000;
 inline constexpr int kLeastOuterHeight = 1500;

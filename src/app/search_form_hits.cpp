@@ -1,6 +1,7 @@
 #include "app/search_form_hits.h"
 
 #include "app/fault_report.h"
+#include "app/search_form_controls.h"
 #include "hits/hit_list_model.h"
 #include "hits/hit_properties.h"
 
@@ -19,13 +20,7 @@ namespace quorvin {
 
 namespace {
 
-QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
-  QAction* item = menu->addAction(caption);
-  item->setObjectName(name);
-  return item;
-}
-
-QAction* addItem(QMenu* menu, const QString& name, const QString& caption, const QKeySequence& keys) {
+QAction* addItemWithKeys(QMenu* menu, const QString& name, const QString& caption, const QKeySequence& keys) {
   QAction* item = addItem(menu, name, caption);
   item->setShortcut(keys);
   item->setShortcutContext(Qt::WidgetShortcut);
@@ -57,18 +52,18 @@ ItemMenu makeItemMenu(QWidget* parent) {
   made.menu->setDefaultAction(made.CtLaunch);
 
   made.menu->addSeparator();
-  made.CopyRows = addItem(made.menu, QStringLiteral("CopyRows"), QStringLiteral("&Copy"),
-                          QKeySequence(Qt::CTRL | Qt::Key_C));
-  made.CopyNames = addItem(made.menu, QStringLiteral("CopyNames"), QStringLiteral("Copy &Names"),
-                           QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_C));
-  made.CopyPaths = addItem(made.menu, QStringLiteral("CopyPaths"), QStringLiteral("Copy Full P&ath"),
-                           QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+  made.CopyRows = addItemWithKeys(made.menu, QStringLiteral("CopyRows"), QStringLiteral("&Copy"),
+                                  QKeySequence(Qt::CTRL | Qt::Key_C));
+  made.CopyNames = addItemWithKeys(made.menu, QStringLiteral("CopyNames"), QStringLiteral("Copy &Names"),
+                                   QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_C));
+  made.CopyPaths = addItemWithKeys(made.menu, QStringLiteral("CopyPaths"), QStringLiteral("Copy Full P&ath"),
+                                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
   made.ExportSelected =
       addItem(made.menu, QStringLiteral("ExportSelected"), QStringLiteral("&Export Selected..."));
   made.menu->addSeparator();
   made.WhichDisk = addItem(made.menu, QStringLiteral("WhichDisk"), QStringLiteral("&Which Disk?"));
-  made.HitProperties = addItem(made.menu, QStringLiteral("HitProperties"), QStringLiteral("P&roperties"),
-                               QKeySequence(Qt::ALT | Qt::Key_Return));
+  made.HitProperties = addItemWithKeys(made.menu, QStringLiteral("HitProperties"),
+                                       QStringLiteral("P&roperties"), QKeySequence(Qt::ALT | Qt::Key_Return));
   return made;
 }
 

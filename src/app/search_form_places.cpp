@@ -90,10 +90,6 @@ int toPixels(double twips) {
   return static_cast<int>(std::lround(twips / kTwipsPerPixel));
 }
 
-double toTwips(int pixels) {
-  return static_cast<double>(pixels) * kTwipsPerPixel;
-}
-
 QHeaderView* columnsOf(const SearchFormControls& controls) {
   return controls.HitList->header();
 }
