@@ -89,20 +89,28 @@ bool holds(const QImage& picture, const QColor& colour) {
   return false;
 }
 
+void show(HitListView& view, HitListModel& model) {
+  view.setModel(&model);
+  view.resize(700, 100);
+  view.show();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+}
+
+QImage pictureOfFirstRow(HitListView& view, HitListModel& model, bool isSelected) {
+  show(view, model);
+  if (isSelected) {
+    view.selectionModel()->select(model.index(0, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  }
+  return view.viewport()->grab(view.rowRect(0)).toImage();
+}
+
 class PaintedRow : public RowColours {
  protected:
   QImage paint(const QPalette& palette, bool isSelected) {
     scanInto(table_, GetParam(), blockHead("IIIIII", "\\IIIIII\\") + "IIIIIIIII\r\n", QStringLiteral("iii"));
     model_.hitsArrived();
     view_.setPalette(palette);
-    view_.setModel(&model_);
-    view_.resize(700, 100);
-    view_.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&view_));
-    if (isSelected)
-      view_.selectionModel()->select(model_.index(0, 0),
-                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    return view_.viewport()->grab(view_.rowRect(0)).toImage();
+    return pictureOfFirstRow(view_, model_, isSelected);
   }
   static QPalette paletteOn(const QColor& base) {
     QPalette palette;
@@ -147,14 +155,7 @@ class FoundWords : public testing::Test {
     palette.setColor(QPalette::Highlight, QColor(0, 90, 160));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     view_.setPalette(palette);
-    view_.setModel(&model_);
-    view_.resize(700, 100);
-    view_.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&view_));
-    if (isSelected)
-      view_.selectionModel()->select(model_.index(0, 0),
-                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    return view_.viewport()->grab(view_.rowRect(0)).toImage();
+    return pictureOfFirstRow(view_, model_, isSelected);
   }
   /// How far the pixels of a column of the list are from its background, together.
   qint64 ink(const QImage& picture, HitColumn column) {
@@ -242,13 +243,9 @@ TEST(CutFolders, AreToldApartByTheirEnds) {
              words);
     model.hitsArrived();
     view.setAlternatingRowColors(false);
-    view.setModel(&model);
+    show(view, model);
     view.header()->resizeSection(static_cast<int>(HitColumn::Folder), 150);
-    view.resize(700, 100);
-    view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     ASSERT_EQ(model.rowCount(), 2);
-    view.clearSelection();
     view.setCurrentIndex({});
     view.clearSelection();
     EXPECT_TRUE(looksSame(view, HitColumn::Name)) << knowsWords;
