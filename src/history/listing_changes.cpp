@@ -1,7 +1,6 @@
 #include "history/listing_changes.h"
 
 #include "history/version_file.h"
-#include "search/format/listing_columns.h"
 #include "search/format/listing_line.h"
 
 #include <algorithm>

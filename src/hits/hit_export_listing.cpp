@@ -1,7 +1,7 @@
 #include "dates/general_date.h"
 #include "hits/hit_export.h"
 #include "platform/text_encoding.h"
-#include "search/format/listing_columns.h"
+#include "search/format/listing_line.h"
 
 #include <algorithm>
 

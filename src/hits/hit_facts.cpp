@@ -6,7 +6,6 @@
 #include "files/file_reader.h"
 #include "hits/hit_actions.h"
 #include "platform/text_encoding.h"
-#include "search/format/listing_columns.h"
 #include "search/format/listing_line.h"
 #include "search/format/listing_text.h"
 

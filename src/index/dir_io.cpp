@@ -2,7 +2,7 @@
 
 #include "files/file_lookup.h"
 #include "platform/text_encoding.h"
-#include "search/format/listing_columns.h"
+#include "search/format/listing_line.h"
 
 #include <QScopeGuard>
 

@@ -3,7 +3,7 @@
 #include "dates/general_number.h"
 #include "index/listed_name.h"
 #include "platform/text_encoding.h"
-#include "search/format/listing_columns.h"
+#include "search/format/listing_line.h"
 
 #include <QDateTime>
 

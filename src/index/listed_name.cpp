@@ -1,7 +1,7 @@
 #include "index/listed_name.h"
 
 #include "platform/text_encoding.h"
-#include "search/format/listing_columns.h"
+#include "search/format/listing_line.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "search/hit_path.h"
 
 #include "faults/runtime_fault.h"
-#include "search/format/listing_columns.h"
+#include "search/format/listing_line.h"
 
 #include <algorithm>
 

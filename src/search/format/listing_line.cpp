@@ -1,7 +1,5 @@
 #include "search/format/listing_line.h"
 
-#include "search/format/listing_columns.h"
-
 #include <algorithm>
 #include <bit>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "search/format/listing_text.h"
 
 #include "platform/text_encoding.h"
-#include "search/format/line_marks.h"
+#include "search/format/line_scan.h"
 
 #include <QByteArray>
 

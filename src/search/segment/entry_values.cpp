@@ -3,7 +3,6 @@
 #include "dates/general_date.h"
 #include "dates/general_number.h"
 #include "platform/text_encoding.h"
-#include "search/format/listing_columns.h"
 #include "search/format/listing_line.h"
 
 #include <QString>

@@ -1,8 +1,7 @@
 #include "search/segment/segment_builder.h"
 
 #include "platform/text_encoding.h"
-#include "search/format/entry_columns.h"
-#include "search/format/listing_columns.h"
+#include "search/format/line_scan.h"
 #include "search/format/listing_line.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Turning the text of a listing into segments.
 #pragma once
 
-#include "search/format/line_marks.h"
+#include "search/format/line_scan.h"
 #include "search/segment/segment.h"
 
 #include <QLocale>

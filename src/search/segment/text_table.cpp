@@ -2,7 +2,7 @@
 
 #include "platform/instruction_set.h"
 #include "platform/text_encoding.h"
-#include "search/format/entry_columns.h"
+#include "search/format/line_scan.h"
 
 #include <algorithm>
 #include <bit>

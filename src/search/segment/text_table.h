@@ -1,7 +1,7 @@
 // Texts in lower case, one after another in one array, and beside them what is needed to show them as listed.
 #pragma once
 
-#include "search/format/entry_columns.h"
+#include "search/format/line_scan.h"
 #include "search/segment/byte_pair_scan.h"
 #include "search/segment/checked_span.h"
 #include "search/segment/passing_bytes.h"

@@ -1,7 +1,7 @@
 #include "search/format/listing_text.h"
 
 #include "faults/runtime_fault.h"
-#include "search/format/line_marks.h"
+#include "search/format/line_scan.h"
 #include "support/fault_number.h"
 #include "support/scan_of.h"
 

@@ -1,6 +1,6 @@
 #include "search/segment/text_table.h"
 
-#include "search/format/entry_columns.h"
+#include "search/format/line_scan.h"
 #include "search/segment/folded_text.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
-#include "search/format/line_marks.h"
+#include "search/format/line_scan.h"
 
 #include "platform/instruction_set.h"
 
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "search/format/line_marks.cpp"
+#define HWY_TARGET_INCLUDE "search/format/line_scan.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -50,6 +50,27 @@ void markLines(const char* text, std::size_t size, std::uint64_t* lineEnds, std:
   }
 }
 
+FoldedColumns foldColumns(const char* in, char* out) {
+  // Sixteen at most: the width is a multiple of it, and lines are short.
+  const hn::CappedTag<std::int8_t, 16> d;
+  const std::size_t lanes = hn::Lanes(d);
+  const auto blank = hn::Set(d, std::int8_t{' '});
+  const auto small = hn::Set(d, std::int8_t{0x20});
+  const auto beforeA = hn::Set(d, std::int8_t{'A' - 1});
+  const auto behindZ = hn::Set(d, std::int8_t{'Z' + 1});
+  std::uint64_t text[2] = {0, 0};
+  std::uint64_t upper[2] = {0, 0};
+  for (std::size_t i = 0; i < kFoldWidth; i += lanes) {
+    const auto bytes = hn::LoadU(d, reinterpret_cast<const std::int8_t*>(in) + i);
+    const auto capital = hn::And(hn::Gt(bytes, beforeA), hn::Lt(bytes, behindZ));
+    const auto folded = hn::Or(bytes, hn::IfThenElseZero(capital, small));
+    hn::StoreU(folded, d, reinterpret_cast<std::int8_t*>(out) + i);
+    text[i / 64] |= maskBits(d, hn::Ne(bytes, blank)) << (i % 64);
+    upper[i / 64] |= maskBits(d, capital) << (i % 64);
+  }
+  return {text[0], text[1], upper[0], upper[1]};
+}
+
 }  // namespace quorvin::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
@@ -60,6 +81,11 @@ namespace quorvin {
 void markLines(const char* text, std::size_t size, std::uint64_t* lineEnds, std::uint64_t* care) {
   static constexpr FunctionVersions<decltype(&markLines)> kVersions = QUORVIN_VERSIONS_OF(markLines);
   kVersions.chosen()(text, size, lineEnds, care);
+}
+
+FoldedColumns foldColumns(const char* in, char* out) {
+  static constexpr FunctionVersions<decltype(&foldColumns)> kVersions = QUORVIN_VERSIONS_OF(foldColumns);
+  return kVersions.chosen()(in, out);
 }
 
 }  // namespace quorvin
