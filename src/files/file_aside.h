@@ -100,6 +100,7 @@ class FileAside {
   FileAside(Place place, const AsideOptions& options);
   static Place placeOf(const QString& path, const AsideOptions& options);
 
+  void start();
   void make();
   bool tryToMake(const QByteArray& name);
   void lookAtPlace();

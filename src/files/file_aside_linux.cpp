@@ -117,13 +117,22 @@ int renameUnlessTaken(int folder, const char* from, const char* to) {
 }  // namespace
 
 FileAside::FileAside(const QString& path, const AsideOptions& options)
-    : FileAside(placeOf(path, options), options) {}
+    : FileAside(placeOf(path, options), options) {
+  start();
+}
 
 FileAside::FileAside(Descriptor folder, const QString& folderPath, const QString& name,
                      const AsideOptions& options)
-    : FileAside(Place{std::move(folder), folderPath, encodedPath(name), folderPath + name}, options) {}
+    : FileAside(Place{std::move(folder), folderPath, encodedPath(name), folderPath + name}, options) {
+  start();
+}
 
-FileAside::FileAside(Place place, const AsideOptions& options) : place_(std::move(place)), options_(options) {
+// Nothing that can fail: once this is through, a constructor that fails has the destructor run, which removes
+// the file.
+FileAside::FileAside(Place place, const AsideOptions& options)
+    : place_(std::move(place)), options_(options) {}
+
+void FileAside::start() {
   if (!isFileName(place_.name)) fail(EISDIR);
   lookAtPlace();
   make();
