@@ -243,6 +243,9 @@ void SearchForm::leave() {
   hasLeft_ = true;
   frame_.unloadOtherWindows();
   close();
+  // The toolkit asks every window that can be seen before it quits, and one that refuses would keep the
+  // program running for good, without its main window and without the timer.
+  for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
   QCoreApplication::quit();
 }
 

@@ -147,6 +147,8 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.
   made.MenuQuit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+  // From every window: while the program works, Progress may be the one that has the keys.
+  made.MenuQuit->setShortcutContext(Qt::ApplicationShortcut);
 
   made.ViewMenu = addMenu(bar, QStringLiteral("ViewMenu"), QStringLiteral("&View"));
   addViewItems(made);

@@ -4,6 +4,8 @@
 #include "support/eventually.h"
 
 #include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QImage>
 #include <QLabel>
@@ -64,6 +66,38 @@ TEST_F(WindowClose, TheTimerWaitsForARunningRefresh) {
   EXPECT_TRUE(SndQTimeIsEnabled());
   state_.RescanRunning = false;
   EXPECT_EVENTUALLY(!SndQTimeIsEnabled());
+}
+
+/// A window of its own that no user can close.
+class StubbornWindow : public QWidget {
+ protected:
+  void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
+
+TEST_F(WindowClose, NoWindowThatRefusesToCloseKeepsTheProgram) {
+  StubbornWindow stubborn;
+  stubborn.show();
+  form();
+  QTimer::singleShot(0, &form(), [this] { form().close(); });
+  // Some ticks later only where the event loop goes on.
+  QTimer stillRunning;
+  int ticks = 0;
+  QObject::connect(&stillRunning, &QTimer::timeout, [this, &ticks] {
+    if (form().hasLeft() && ++ticks > 3) QCoreApplication::exit(1);
+  });
+  stillRunning.start(1);
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+  EXPECT_TRUE(form().hasLeft());
+}
+
+TEST_F(WindowClose, TheKeysForQuittingWorkWhileProgressHasTheKeyboard) {
+  form();
+  form().progress().show();
+  form().progress().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form().progress()));
+  QTest::keyClick(&form().progress(), Qt::Key_Q, Qt::ControlModifier);
+  expectSavedAndLeaving();
+  EXPECT_FALSE(form().progress().isVisible());
 }
 
 TEST_F(WindowClose, WhatCannotBeSavedIsToldAndTheWindowStays) {

@@ -3,6 +3,7 @@
 #include "gui/search_form_fixture.h"
 #include "preview/res_win.h"
 #include "search/segment/segment_store.h"
+#include "support/eventually.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>
@@ -278,6 +279,27 @@ TEST_F(WindowRefresh, ClosingDuringTheSecondOfFiveSourcesKeepsTheOthers) {
     EXPECT_EQ(listing(QString::fromUtf16(name)), QStringLiteral("old"));
     EXPECT_FALSE(folder_.has(QString::fromUtf16(name) + QStringLiteral(".tmp")));
   }
+}
+
+// Nothing of the first rescan may stand in the way of leaving during the second.
+TEST_F(WindowRefresh, ClosingDuringTheRescanAfterACancelledOneEndsTheProgram) {
+  addFolder(QStringLiteral("Music"), {QStringLiteral("a/1.mp3"), QStringLiteral("b/2.mp3")});
+  addFolder(QStringLiteral("Films"), {QStringLiteral("a/1.mkv"), QStringLiteral("b/2.mkv")});
+  auto* cancel = form().progress().findChild<QPushButton*>(QStringLiteral("CancelButton"));
+  whileInSource(1, [&] { QTest::mouseClick(cancel, Qt::LeftButton); });
+  EXPECT_NE(resultsOfRescan(), QString());
+  messages_.answers = {true};
+  whileInSource(1, [&] {
+    // Cancelling had given it the keyboard.
+    form().progress().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form().progress()));
+    QTest::keyClick(&form().progress(), Qt::Key_Q, Qt::ControlModifier);
+  });
+  rescan();
+  EXPECT_EQ(messages_.asked.size(), 1U);
+  EXPECT_FALSE(state_.RescanRunning);
+  EXPECT_EVENTUALLY(form().hasLeft());
+  EXPECT_TRUE(messages_.informed.empty());
 }
 
 TEST_F(WindowRefresh, AFaultIsToldAndTheWindowIsUsableAgain) {
