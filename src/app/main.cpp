@@ -217,6 +217,7 @@ class Run {
 }  // namespace
 
 int main(int argc, char** argv) {
+  endWithSentence();
   if (const std::optional<int> status = answerWithoutScreen(argc, argv)) return *status;
   const QString token = activationToken();
   WidgetMessageBoxes messages;

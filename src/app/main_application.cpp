@@ -17,6 +17,9 @@
 #include <QWidget>
 
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <new>
 #include <utility>
 
 namespace quorvin {
@@ -79,6 +82,23 @@ QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
   return static_cast<QMessageBox::StandardButton>(Box(icon, text, buttons).exec());
 }
 
+/// Nothing in it may need memory.
+[[noreturn]] void endNow() {
+  try {
+    if (const std::exception_ptr fault = std::current_exception()) std::rethrow_exception(fault);
+  } catch (const std::bad_alloc&) {
+    std::fputs(
+        "quorvin: There is not enough memory to go on. What was not saved is offered at the next start.\n",
+        stderr);
+    std::_Exit(2);
+  } catch (const std::exception& fault) {
+    std::fprintf(stderr, "quorvin: The program cannot go on: %s\n", fault.what());
+  } catch (...) {
+    std::fputs("quorvin: The program cannot go on.\n", stderr);
+  }
+  std::abort();
+}
+
 /// In every size that desktops ask for, each drawn for itself, so that none is blurred.
 QIcon applicationIcon() {
   QSvgRenderer drawing(QStringLiteral(":/quorvin/help/quorvin.svg"));
@@ -107,6 +127,10 @@ QPalette withReadableQuietText(QPalette palette) {
                             between(text.blue(), base.blue())));
   }
   return palette;
+}
+
+void endWithSentence() {
+  std::set_terminate(&endNow);
 }
 
 Application::Application(int& argc, char** argv, MessageBoxes& messages)

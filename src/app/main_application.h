@@ -16,6 +16,11 @@ namespace quorvin {
 /// read on Base and on Window. Desktops give one of too little contrast, or, with dark palettes, none.
 QPalette withReadableQuietText(QPalette palette);
 
+/// For main(), first of all: a fault that nobody can catch or show, most of all where there is no memory for
+/// that, ends the program with a sentence on standard error; without memory with the exit status 2, else as
+/// abort() does. What was not saved is in the recovery copy.
+void endWithSentence();
+
 /// The last place where a fault can be reported: one that no handler has dealt with is shown in a message
 /// box, and the program stays open with everything it had.
 class Application : public QApplication {

@@ -18,6 +18,7 @@
 #include <cmath>
 #include <csignal>
 #include <cstddef>
+#include <new>
 
 namespace quorvin::test {
 
@@ -71,6 +72,26 @@ TEST(MainApplication, ItsWindowsHaveReadableQuietTexts) {
   EXPECT_GE(contrastOf(QApplication::palette().color(QPalette::PlaceholderText),
                        QApplication::palette().color(QPalette::Base)),
             4.5);
+}
+
+void* allocateWithoutMemory() {
+  throw std::bad_alloc();
+}
+
+/// As one of the toolkit's functions that promise to throw nothing.
+void workWithoutMemory() noexcept {
+  allocateWithoutMemory();
+}
+
+TEST(MainApplicationDeathTest, WithoutMemoryItEndsWithASentence) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(
+      {
+        endWithSentence();
+        workWithoutMemory();
+      },
+      testing::ExitedWithCode(2),
+      "quorvin: There is not enough memory to go on. What was not saved is offered at the next start.");
 }
 
 TEST(MainApplication, TellsAFaultThatNoHandlerDealtWithAndGoesOn) {
