@@ -4,3 +4,10 @@ if(QUORVIN_SANITIZE)
   add_compile_options(-Wno-array-bounds -Wno-maybe-uninitialized -Wno-stringop-overflow)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+if(QUORVIN_SANITIZE_THREADS)
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  # It knows no fences, which the standard library uses in a place or two, and sees ways that are not there.
+  add_compile_options(-Wno-tsan -Wno-array-bounds -Wno-maybe-uninitialized -Wno-stringop-overflow)
+  add_link_options(-fsanitize=thread)
+endif()

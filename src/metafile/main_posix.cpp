@@ -31,8 +31,8 @@ bool limit(decltype(RLIMIT_AS) resource, rlim_t most) {
 }
 
 bool limitMemory() {
-#if defined(__SANITIZE_ADDRESS__)
-  // The address sanitizer reserves terabytes that it never uses.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+  // The sanitizers reserve terabytes that they never use.
   return true;
 #else
   return limit(RLIMIT_AS, kMemory);

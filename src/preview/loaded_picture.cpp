@@ -128,6 +128,15 @@ bool lacksPixels(QByteArrayView start, const QSize& size, qint64 fileSize) {
                      QStringLiteral("%1 cannot be shown: %2.").arg(name, why));
 }
 
+/// The limit that counts is ours, which gives a reason. Theirs is one for all threads, each of which may be
+/// the first to read a picture.
+void liftLimitOfReaders() {
+  [[maybe_unused]] static const bool isLifted = [] {
+    QImageReader::setAllocationLimit(kAllocationLimit);
+    return true;
+  }();
+}
+
 int shownFor(int milliseconds) {
   return milliseconds <= 0 ? kUsualMilliseconds : std::max(milliseconds, kLeastMilliseconds);
 }
@@ -136,8 +145,7 @@ int shownFor(int milliseconds) {
 
 PictureDecoder::PictureDecoder(std::unique_ptr<PictureFile> file, PictureFormat format, const QString& name)
     : file_(std::move(file)), format_(format), name_(name) {
-  // The limit that counts is ours, which gives a reason.
-  QImageReader::setAllocationLimit(kAllocationLimit);
+  liftLimitOfReaders();
   if (format == PictureFormat::Icon) chooseIcon();
   if (format == PictureFormat::Jpeg) file_->limitSteps(kJpegStep);
   if (format == PictureFormat::Gif) leaveBackgroundEmpty(*file_);

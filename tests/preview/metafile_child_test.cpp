@@ -147,7 +147,7 @@ TEST_F(MetafileChildTest, TheLimitsHoldBeforeAnythingIsRead) {
   EXPECT_THAT(text, testing::ContainsRegex("Max open files +64 +64 +files"));
   EXPECT_THAT(text, testing::ContainsRegex("Max file size +0 +0 +bytes"));
   EXPECT_THAT(text, testing::ContainsRegex("Max core file size +0 +0 +bytes"));
-#ifndef __SANITIZE_ADDRESS__
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
   EXPECT_THAT(text, testing::ContainsRegex("Max address space +536870912 +536870912 +bytes"));
 #endif
   process.kill();
