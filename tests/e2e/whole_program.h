@@ -19,10 +19,12 @@ namespace quorvin::test {
 /// are the test's: nobody would answer them.
 class WholeProgram {
  public:
-  WholeProgram(const QString& settingsPath, const QString& programFolder)
+  /// `segments` and `picker`, which may be null, must outlive the object.
+  WholeProgram(const QString& settingsPath, const QString& programFolder, SegmentStore* segments = nullptr,
+               FilePicker* picker = nullptr)
       : locale_(QLocale::English, QLocale::UnitedStates),
         settings_(settingsPath),
-        form(state, messages, shell_, locale_),
+        form(state, messages, shell_, locale_, segments, picker),
         shutdown_(state, settings_, messages, form.frame(), locale_) {
     StartUpConditions conditions;
     conditions.programFolder = [programFolder] { return programFolder; };

@@ -1,14 +1,16 @@
 // A library that is loaded before all others (LD_PRELOAD) and makes one chosen system call of a program fail.
 //
 //   QUORVIN_FAIL_CALL    which kind of call: open, read, write, fsync, rename, mkdir, stat, list, socket,
-//   allocate QUORVIN_FAIL_AT      which one of them, counted from 1; 0 only counts QUORVIN_FAIL_BELOW   only
-//   calls on files below this folder count, which keeps out those of the system's libraries
-//                        (sockets count wherever they lead). Allocations count from the first such call on.
+//                        allocate
+//   QUORVIN_FAIL_AT      which one of them, counted from 1; 0 only counts
+//   QUORVIN_FAIL_BELOW   only calls on files below this folder count, which keeps out those of the system's
+//                        libraries (sockets count wherever they lead). Allocations count from the first such
+//                        call on.
+//   QUORVIN_FAIL_ABOVE   only allocations of at least so many bytes count
 //   QUORVIN_FAIL_HOW     the number of the error (errno); "short" writes half of what was asked for, and the
-//   next
-//                        write of that file fails for want of room; "kill" ends the process at once
+//                        next write of that file fails for want of room; "kill" ends the process at once
 //   QUORVIN_FAIL_REPORT  a file that is made when the call fails, so that whoever counts up knows when to
-//   stop
+//                        stop
 //
 // It must not allocate: it stands in for the allocator itself.
 #include <array>
@@ -44,6 +46,7 @@ struct Plan {
   std::string_view how;
   const char* report = nullptr;
   long at = 0;
+  std::size_t above = 0;
 };
 
 std::string_view environmentText(const char* name) {
@@ -60,6 +63,8 @@ const Plan& plan() {
     read.report = getenv("QUORVIN_FAIL_REPORT");
     const char* at = getenv("QUORVIN_FAIL_AT");
     read.at = at ? strtol(at, nullptr, 10) : 0;
+    const char* above = getenv("QUORVIN_FAIL_ABOVE");
+    read.above = above ? strtoul(above, nullptr, 10) : 0;
     return read;
   }();
   return plan;
@@ -88,6 +93,10 @@ bool fails(std::string_view call) {
   }
   errno = plan().how == "short" ? ENOSPC : atoi(plan().how.data());
   return true;
+}
+
+[[maybe_unused]] bool failsToAllocate(std::size_t size) {
+  return armed && size >= plan().above && fails("allocate");
 }
 
 bool isBelow(const char* path) {
@@ -362,17 +371,19 @@ ssize_t recvmsg(int descriptor, struct msghdr* message, int flags) {
   return syscall(SYS_recvmsg, descriptor, message, flags);
 }
 
+#ifndef QUORVIN_ALLOCATIONS_DO_NOT_FAIL
 void* malloc(size_t size) {
-  if (armed && fails("allocate")) return nullptr;
+  if (failsToAllocate(size)) return nullptr;
   return __libc_malloc(size);
 }
 void* calloc(size_t count, size_t size) {
-  if (armed && fails("allocate")) return nullptr;
+  if (failsToAllocate(count * size)) return nullptr;
   return __libc_calloc(count, size);
 }
 void* realloc(void* block, size_t size) {
-  if (armed && fails("allocate")) return nullptr;
+  if (failsToAllocate(size)) return nullptr;
   return __libc_realloc(block, size);
 }
+#endif
 
 }  // extern "C"

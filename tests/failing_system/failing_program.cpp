@@ -46,10 +46,13 @@ FailedRun runFailing(const QString& folder, const QStringList& command, const Sy
   const TemporaryFolder aside;
   QProcessEnvironment environment = environmentIn(folder);
   environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(QUORVIN_FAILING_CALLS));
+  // In a build with sanitizers: this library may come before theirs.
+  environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
   environment.insert(QStringLiteral("QUORVIN_FAIL_CALL"), QString::fromLatin1(failure.call));
   environment.insert(QStringLiteral("QUORVIN_FAIL_AT"), QString::number(number));
   environment.insert(QStringLiteral("QUORVIN_FAIL_BELOW"), folder);
   environment.insert(QStringLiteral("QUORVIN_FAIL_HOW"), failure.how);
+  environment.insert(QStringLiteral("QUORVIN_FAIL_ABOVE"), QString::number(failure.above));
   environment.insert(QStringLiteral("QUORVIN_FAIL_REPORT"), aside.pathOf(QStringLiteral("failed")));
 
   QProcess process;

@@ -17,6 +17,8 @@ struct SystemFailure {
   const char* call;
   /// The number of the error as text, "short" or "kill".
   QString how;
+  /// Of allocations only those of at least so many bytes.
+  int above = 0;
 };
 
 /// How such a run ended.
@@ -28,6 +30,10 @@ struct FailedRun {
   int status = 0;
   QByteArray output;
   QString errors;
+
+  /// Whether it had no memory for the pixels of its window: the toolkit breaks down by itself then. A real
+  /// screen lends them.
+  bool lacksPixels() const { return errors.contains(u"Paint device returned engine == 0"); }
 };
 
 /// Runs the console program in `folder`, which has a trailing separator and holds all that it reads and
