@@ -23,7 +23,8 @@ namespace {
 
 constexpr int kStepsKept = 20;
 constexpr int kStepsBetweenFigures = 5;
-constexpr int kWarmUpRounds = 2;
+constexpr int kStepsBetweenSettled = 40;
+constexpr int kWarmUpRounds = 3;
 constexpr int kWarmUpSteps = 150;
 constexpr double kMostDriftInPercent = 5;
 constexpr double kMillisecondsInMinute = 60'000;
@@ -37,6 +38,8 @@ struct Wishes {
   /// Instead of the minutes, where it is not 0.
   int steps = 0;
   std::uint64_t seed = 1;
+  /// The one step that is taken again and again after the warm-up; empty for all of them.
+  QString only;
   QString report;
   QString heading;
   bool keepsFiles = false;
@@ -80,7 +83,7 @@ class Soak {
   /// Throws std::runtime_error at the first thing that is not as it should be.
   void run();
   /// Once measuring has started.
-  bool canReport() const { return figures_.areCounted() && figures_.count() > 0; }
+  bool canReport() const { return figures_.settledCount() > 0; }
   QString report() const;
   void tellWhatIsKnown() const;
 
@@ -100,10 +103,16 @@ class Soak {
   void cancelRefresh();
   void doStep(const Step& step);
   void doOneStep();
+  void warmUp();
   void takeFigures();
-  void checkFigures() const;
+  void takeSettledFigures();
+  void checkDescriptors() const;
+  void checkMemory() const;
   void leaveAndReturn(SoakedProgram::WayOut way);
-  SoakedProgram& anyProgram() { return dice_.oneIn(2) ? steady_ : restless_; }
+  SoakedProgram& anyProgram() {
+    const bool isSteady = dice_.oneIn(2);
+    return onlySteady_ || isSteady ? steady_ : restless_;
+  }
   bool isOver() const;
   double minutesGone() const { return static_cast<double>(clock_.elapsed()) / kMillisecondsInMinute; }
 
@@ -119,6 +128,8 @@ class Soak {
   std::vector<Step> steps_;
   std::map<QString, int> counts_;
   FiguresOverTime figures_;
+  /// While it warms up, and where one step is all that is done.
+  bool onlySteady_ = false;
   int listingsCompared_ = 0;
   QElapsedTimer clock_;
 };
@@ -177,6 +188,7 @@ void Soak::doStep(const Step& step) {
 }
 
 void Soak::doOneStep() {
+  if (!wishes_.only.isEmpty()) return doStep(*std::ranges::find(steps_, wishes_.only, &Step::name));
   int weights = 0;
   for (const Step& step : steps_) weights += step.weight;
   int left = dice_.below(weights);
@@ -191,39 +203,63 @@ bool Soak::isOver() const {
 }
 
 void Soak::run() {
+  const auto isKnown = [this](const QString& name) {
+    return std::ranges::find(steps_, name, &Step::name) != steps_.end();
+  };
+  if (!wishes_.only.isEmpty() && !isKnown(wishes_.only))
+    fail(QStringLiteral("no step is called ") + wishes_.only);
   clock_.start();
-  steady_.start(dice_);
-  restless_.start(dice_);
-  steady_.refresh();
-  restless_.refresh();
-  // Everything is done a few times before anything is measured.
-  for (int round = 0; round < kWarmUpRounds; ++round) {
-    for (const Step& step : steps_) doStep(step);
-  }
-  while (journal_.step() < kWarmUpSteps) doOneStep();
-  figures_.warmUpEnds();
-  takeFigures();
+  warmUp();
+  takeSettledFigures();
   while (!isOver()) {
     doOneStep();
-    if (journal_.step() % kStepsBetweenFigures == 0) takeFigures();
+    if (journal_.step() % kStepsBetweenSettled == 0) {
+      takeSettledFigures();
+    } else if (journal_.step() % kStepsBetweenFigures == 0) {
+      takeFigures();
+    }
   }
   steady_.waitForThreads(figures_.fewestThreads());
-  takeFigures();
-  checkFigures();
+  takeSettledFigures();
+  checkMemory();
   listingsCompared_ = steady_.closeAndCompare(dice_) + restless_.closeAndCompare(dice_);
   const QStringList left = temporaryFiles_.names();
   if (!left.isEmpty()) fail(QStringLiteral("left in the folder for temporary files: ") + left.join(u' '));
 }
 
+/// Everything is done a few times by the program that is measured, and has been at its largest, before
+/// anything counts.
+void Soak::warmUp() {
+  steady_.start(dice_);
+  restless_.start(dice_);
+  steady_.refresh();
+  restless_.refresh();
+  onlySteady_ = true;
+  for (int round = 0; round < kWarmUpRounds; ++round) {
+    for (const Step& step : steps_) doStep(step);
+    steady_.settledFigures();
+  }
+  onlySteady_ = !wishes_.only.isEmpty();
+  while (journal_.step() < kWarmUpSteps) doOneStep();
+}
+
 void Soak::takeFigures() {
   figures_.add(steady_.figures());
-  if (!figures_.areCounted()) return;
+  checkDescriptors();
+}
+
+void Soak::takeSettledFigures() {
+  figures_.addSettled(steady_.settledFigures(), journal_.step());
+  checkDescriptors();
+}
+
+void Soak::checkDescriptors() const {
   const QString difference = figures_.descriptorsThatDiffer();
   if (!difference.isEmpty()) fail(QStringLiteral("other descriptors are open than at first; ") + difference);
 }
 
-void Soak::checkFigures() const {
-  if (figures_.driftInPercent() < kMostDriftInPercent) return;
+void Soak::checkMemory() const {
+  if (!figures_.isMemoryKnown() || figures_.driftInPercent() < kMostDriftInPercent) return;
   fail(QStringLiteral("the resident memory grew by %1%").arg(figures_.driftInPercent()));
 }
 
@@ -239,13 +275,21 @@ QString Soak::report() const {
   row(QStringLiteral("seed"), QString::number(wishes_.seed));
   row(QStringLiteral("steps"), QString::number(journal_.step()));
   for (const auto& [name, count] : counts_) row(QStringLiteral("of them: ") + name, QString::number(count));
-  row(QStringLiteral("moments measured"), QString::number(figures_.count()));
-  row(QStringLiteral("resident memory after the warm-up"), megabytes(figures_.residentAtFirst()));
-  row(QStringLiteral("resident memory at the end"), megabytes(figures_.residentAtLast()));
+  row(QStringLiteral("moments at which descriptors were compared"), QString::number(figures_.count()));
+  row(QStringLiteral("settled moments, at which memory was measured"),
+      QString::number(figures_.settledCount()));
+  row(QStringLiteral("resident memory, median of their first third"), megabytes(figures_.residentAtFirst()));
+  row(QStringLiteral("resident memory, median of their last third"), megabytes(figures_.residentAtLast()));
   row(QStringLiteral("of it neither files nor screen"),
       QStringLiteral("%1, then %2").arg(megabytes(figures_.ownAtFirst()), megabytes(figures_.ownAtLast())));
-  row(QStringLiteral("drift (at most %1%)").arg(kMostDriftInPercent),
-      QString::number(figures_.driftInPercent(), 'f', 1) + u'%');
+  QStringList sizes;
+  for (const qint64 size : figures_.ownAtSettled()) sizes += megabytes(size).section(u' ', 0, 0);
+  row(QStringLiteral("of it neither files nor screen, at each of them, in MB"), sizes.join(u' '));
+  row(QStringLiteral("growth of that"),
+      QString::number(figures_.ownBytesAStep() / 1024, 'f', 2) + QStringLiteral(" KB a step"));
+  row(QStringLiteral("drift over the whole time (at most %1%)").arg(kMostDriftInPercent),
+      figures_.isMemoryKnown() ? QString::number(figures_.driftInPercent(), 'f', 1) + u'%'
+                               : QStringLiteral("not known, there were too few such moments"));
   row(QStringLiteral("open descriptors, the same at each moment with as few threads"),
       QString::number(figures_.descriptorsAtFirst()));
   row(QStringLiteral("listings compared at the end"), QString::number(listingsCompared_));
@@ -270,6 +314,7 @@ Wishes wishesOf(const QCoreApplication& application) {
   option("minutes", "how long it goes on", "N", "10");
   option("steps", "how many steps it takes, instead of the minutes", "N", "0");
   option("seed", "where all choices come from", "N", "1");
+  option("only", "after the warm-up do nothing but this, to see what it leaves behind", "STEP", "");
   option("report", "where the figures are written, too", "FILE", "");
   option("heading", "the first line of the report", "TEXT", "Soak");
   option("keep", "leave all files where they are after a failure", "", "");
@@ -279,6 +324,7 @@ Wishes wishesOf(const QCoreApplication& application) {
   return {text("minutes").toDouble(),
           text("steps").toInt(),
           text("seed").toULongLong(),
+          text("only"),
           text("report"),
           text("heading"),
           parser.isSet(QStringLiteral("keep"))};

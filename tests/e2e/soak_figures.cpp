@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 
 #include <algorithm>
 #include <iterator>
@@ -13,8 +14,9 @@ namespace quorvin::test {
 
 namespace {
 
-/// Of how many moments a median is taken.
-constexpr std::size_t kMoments = 5;
+/// Three to each median.
+constexpr std::size_t kFewestSettled = 9;
+constexpr int kDebuggerMilliseconds = 60'000;
 constexpr qsizetype kMostNamed = 5;
 
 QString folderOf(qint64 process) {
@@ -78,38 +80,60 @@ ProcessFigures figuresOf(qint64 process) {
   return figures;
 }
 
+void FiguresOverTime::addSettled(const ProcessFigures& figures, int step) {
+  add(figures);
+  settled_.push_back({figures, step});
+}
+
+bool FiguresOverTime::isMemoryKnown() const {
+  return settled_.size() >= kFewestSettled;
+}
+
+std::size_t FiguresOverTime::third() const {
+  return std::max<std::size_t>(settled_.size() / 3, 1);
+}
+
 qint64 FiguresOverTime::medianOf(Bytes bytes, std::size_t first, std::size_t end) const {
   std::vector<qint64> sizes;
-  for (std::size_t i = first; i < end; ++i) sizes.push_back(all_[i].*bytes);
+  for (std::size_t i = first; i < end; ++i) sizes.push_back(settled_[i].figures.*bytes);
   const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
   std::nth_element(sizes.begin(), middle, sizes.end());
   return *middle;
 }
 
 qint64 FiguresOverTime::atFirst(Bytes bytes) const {
-  return medianOf(bytes, warm_, warm_ + std::min(kMoments, count()));
+  return medianOf(bytes, 0, third());
 }
 
 qint64 FiguresOverTime::atLast(Bytes bytes) const {
-  return medianOf(bytes, all_.size() - std::min(kMoments, count()), all_.size());
+  return medianOf(bytes, settled_.size() - third(), settled_.size());
 }
 
 double FiguresOverTime::driftInPercent() const {
   const auto first = static_cast<double>(residentAtFirst());
-  return 100 * (static_cast<double>(residentAtLast()) - first) / first;
+  // The middles of those thirds are two thirds of the way apart.
+  return 150 * (static_cast<double>(residentAtLast()) - first) / first;
+}
+
+std::vector<qint64> FiguresOverTime::ownAtSettled() const {
+  std::vector<qint64> sizes;
+  for (const Settled& moment : settled_) sizes.push_back(moment.figures.ownBytes);
+  return sizes;
+}
+
+double FiguresOverTime::ownBytesAStep() const {
+  const int steps = settled_.back().step - settled_.front().step;
+  return steps > 0 ? 1.5 * static_cast<double>(ownAtLast() - ownAtFirst()) / steps : 0;
 }
 
 int FiguresOverTime::fewestThreads() const {
-  int fewest = all_.back().threads;
-  for (std::size_t i = warm_; i < all_.size(); ++i) fewest = std::min(fewest, all_[i].threads);
-  return fewest;
+  return std::ranges::min(all_, {}, &ProcessFigures::threads).threads;
 }
 
 const ProcessFigures& FiguresOverTime::firstWith(int threads) const {
-  for (std::size_t i = warm_; i < all_.size(); ++i) {
-    if (all_[i].threads == threads) return all_[i];
-  }
-  throw std::logic_error("no such moment");
+  const auto first = std::ranges::find(all_, threads, &ProcessFigures::threads);
+  if (first == all_.end()) throw std::logic_error("no such moment");
+  return *first;
 }
 
 qsizetype FiguresOverTime::descriptorsAtFirst() const {
@@ -118,6 +142,41 @@ qsizetype FiguresOverTime::descriptorsAtFirst() const {
 
 QString FiguresOverTime::descriptorsThatDiffer() const {
   return differenceOf(all_.back().descriptors, firstWith(all_.back().threads).descriptors);
+}
+
+namespace {
+
+QString fromDebugger(qint64 process) {
+  QProcess debugger;
+  debugger.start(
+      QStringLiteral("gdb"),
+      {QStringLiteral("-nx"), QStringLiteral("-batch"), QStringLiteral("-p"), QString::number(process),
+       QStringLiteral("-ex"), QStringLiteral("thread apply all backtrace 60")});
+  if (!debugger.waitForFinished(kDebuggerMilliseconds)) {
+    debugger.kill();
+    debugger.waitForFinished();
+  }
+  const QString output = QString::fromUtf8(debugger.readAllStandardOutput());
+  // Without the right to look it says little.
+  return output.contains(QStringLiteral("\n#0 ")) ? output : QString();
+}
+
+}  // namespace
+
+QString whereThreadsAre(qint64 process) {
+  const QString stacks = fromDebugger(process);
+  if (!stacks.isEmpty()) return stacks;
+  QString text;
+  const QString tasks = folderOf(process) + QStringLiteral("task/");
+  for (const QString& task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    const auto part = [&](const char* name) {
+      QFile file(tasks + task + u'/' + QString::fromLatin1(name));
+      return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).simplified() : QString();
+    };
+    text += QStringLiteral("thread %1 (%2): %3, waits in %4, system call %5\n")
+                .arg(task, part("comm"), part("stat").section(u' ', 2, 2), part("wchan"), part("syscall"));
+  }
+  return text;
 }
 
 QString differenceOf(const QStringList& found, const QStringList& expected) {

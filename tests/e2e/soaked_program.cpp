@@ -67,6 +67,7 @@ SoakedProgram::SoakedProgram(const QString& name, ProgramHome& home, WebSite& si
   }
   lists_.offline.push_back({QStringLiteral("Offline"), offlineOnDisk_.front()});
   saved_ = lists_;
+  first_ = lists_;
   main_ = mainListing();
   everListed_[QStringLiteral("main.txt")] = {main_};
   home_.folder.writeFile(QStringLiteral("data/main.txt"), main_.text());
@@ -182,7 +183,18 @@ QString SoakedProgram::stateShown() const {
     text += QStringLiteral("  %1 at %2\n").arg(description, path);
   }
   try {
-    return text + (program_ ? messageShown() : QStringLiteral("not running"));
+    if (!program_) return text + QStringLiteral("not running");
+    const qint64 process = program_->processId();
+    text += QStringLiteral("windows:\n");
+    for (const QString& window : desktop_.windowsOf(process, QStringLiteral(".*"))) {
+      text +=
+          QStringLiteral("  \"%1\"%2\n")
+              .arg(desktop_.titleOf(window),
+                   window == desktop_.activeWindow() ? QStringLiteral(", which has the keys") : QString());
+    }
+    // Before it hears of a key again.
+    text += whereThreadsAre(process);
+    return text + messageShown();
   } catch (const std::exception& fault) {
     return text + QString::fromUtf8(fault.what());
   }
@@ -246,8 +258,12 @@ void SoakedProgram::waitForThreads(int most) const {
 }
 
 ProcessFigures SoakedProgram::figures() {
-  // What is drawn into takes up memory, too.
-  desktop_.resize(program_->mainWindow(), 900, 500);
+  // What is drawn into takes up memory, too. A window that becomes somewhat smaller keeps the memory it had,
+  // so it is made large first.
+  for (const QSize size : {QSize(1250, 950), QSize(900, 500)}) {
+    desktop_.resize(program_->mainWindow(), size.width(), size.height());
+    waitUntilAtRest();
+  }
   search({kEverything});
   return figuresOf(program_->processId());
 }

@@ -9,6 +9,7 @@
 #include "files/file_identity.h"
 
 #include <QJsonObject>
+#include <QSize>
 
 #include <functional>
 #include <map>
@@ -60,12 +61,15 @@ class SoakedProgram {
   void changeFiles(Dice& dice);
   void takeAwayOrBringBack(Dice& dice);
 
-  /// What the program expects and shows, for the report of a failure.
+  /// What the program expects and shows, and where it is, for the report of a failure.
   QString stateShown() const;
   /// Waits until no more threads than these are left.
   void waitForThreads(int most) const;
   /// The program's figures, after a search that is always the same.
   ProcessFigures figures();
+  /// The same with its first sources, all refreshed, and with windows of their first sizes, so that the
+  /// memory that it takes up can be compared with other such moments.
+  ProcessFigures settledFigures();
   /// Refreshes a last time, closes, and looks at everything on the disk. Gives the number of listings that
   /// were compared.
   int closeAndCompare(Dice& dice);
@@ -110,6 +114,11 @@ class SoakedProgram {
   void refreshAgain();
 
   void selectRow(int row, bool hasSelection) const;
+  void editTo(const SourceRecords& wanted, SourceRecords& records, const AddEntry& add) const;
+  void settleSources();
+  void lookAtPicture(const QString& name, const std::vector<QSize>& sizes);
+  AddEntry addingFolder() const;
+  AddEntry addingOfflineList() const;
   QString editOnce(SourceRecords& records, const SourceRecords& unlisted, const AddEntry& add, Dice& dice,
                    bool& hasSelection) const;
   void getListsOf(const SoakedProgram& sharer, bool isAdded);
@@ -117,6 +126,8 @@ class SoakedProgram {
 
   bool isGoingToReport() const { return missingListings() > 0 || isAnyFolderAway(); }
   void beInTheMiddle(Moment moment, Dice& dice);
+  void waitForWork(const Identities& before) const;
+  bool isWriting() const;
   void forgetUnsaved();
   QString recoveryCopy() const;
   QJsonObject unsavedChanges() const;
@@ -133,6 +144,7 @@ class SoakedProgram {
   std::optional<RunningProgram> program_;
 
   std::vector<SourceFolder> folders_;
+  Lists first_;
   /// By the descriptions of own folders; those that have been made.
   std::map<QString, Listing> listings_;
   /// By the names of listings in the data folder: what they have held, the history's versions among it.

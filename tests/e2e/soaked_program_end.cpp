@@ -42,6 +42,7 @@ void SoakedProgram::beInTheMiddle(Moment moment, Dice& dice) {
     case Moment::Refreshing: {
       const Identities before = identitiesOfListings();
       startRefresh();
+      waitForWork(before);
       return waitForRefreshed(before, dice.below(static_cast<int>(folders_.size())));
     }
     case Moment::InDialog:
@@ -49,17 +50,37 @@ void SoakedProgram::beInTheMiddle(Moment moment, Dice& dice) {
   }
 }
 
+bool SoakedProgram::isWriting() const {
+  return !QDir(home_.data()).entryList({QStringLiteral("*.tmp")}).isEmpty();
+}
+
+/// The menu has closed and the refresh has started. Before that the menu has the keyboard, and Alt+F4 does
+/// not reach the window manager, whose key it is.
+void SoakedProgram::waitForWork(const Identities& before) const {
+  // Nothing is written where no folder is there.
+  if (std::ranges::none_of(folders_, [this](const SourceFolder& one) { return isListedAndThere(one); }))
+    return;
+  waitUntil(
+      QStringLiteral("for the refresh to start"),
+      [&] { return isWriting() || identitiesOfListings() != before; }, [this] { return messageShown(); });
+}
+
 void SoakedProgram::end(WayOut way, Moment moment, Dice& dice) {
   static const std::vector<QStringList> kKeys = {
       {QStringLiteral("ctrl+q")}, {QStringLiteral("alt+F4")}, {QStringLiteral("alt+f"), QStringLiteral("q")}};
-  const QStringList ways = {QStringLiteral("by keys"), QStringLiteral("SIGTERM"), QStringLiteral("SIGKILL")};
+  const QStringList ways = {QString(), QStringLiteral("SIGTERM"), QStringLiteral("SIGKILL")};
   const QStringList moments = {QStringLiteral("at rest"), QStringLiteral("searching"),
                                QStringLiteral("refreshing"), QStringLiteral("in a dialog")};
-  note(QStringLiteral("end %1, %2").arg(ways[static_cast<int>(way)], moments[static_cast<int>(moment)]));
+  const QStringList keys = dice.pick(kKeys);
+  note(QStringLiteral("end %1, %2")
+           .arg(way == WayOut::Keys ? keys.join(u' ') : ways[static_cast<int>(way)],
+                moments[static_cast<int>(moment)]));
   if (way == WayOut::Kill) waitForRecoveryCopy();
   // What asks or reports on the way keeps the keys for itself.
   beInTheMiddle(way == WayOut::Keys && isGoingToReport() ? Moment::AtRest : moment, dice);
-  const ProgramEnd end = way == WayOut::Keys ? program_->endBy(dice.pick(kKeys))
+  // The window manager closes the window that has the keyboard, and that may be the progress window's turn.
+  if (way == WayOut::Keys && keys.contains(QStringLiteral("alt+F4"))) program_->comeToFront();
+  const ProgramEnd end = way == WayOut::Keys ? program_->endBy(keys)
                                              : program_->endBySignal(way == WayOut::Kill ? SIGKILL : SIGTERM);
   program_.reset();
   const bool hasEndedAsItShould =

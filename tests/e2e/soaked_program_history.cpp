@@ -89,9 +89,6 @@ void SoakedProgram::takeOverRestored(const QString& name) {
 /// From the moment on at which the program writes a listing, it goes on in small steps until its progress is
 /// shown. False when it has come to its end before.
 bool SoakedProgram::pressCancel(const Identities& before) const {
-  const auto isWriting = [this] {
-    return !QDir(home_.data()).entryList({QStringLiteral("*.tmp")}).isEmpty();
-  };
   const auto isDone = [&] {
     return std::ranges::all_of(folders_, [&](const SourceFolder& folder) {
       return !isListedAndThere(folder) ||

@@ -13,6 +13,8 @@ namespace quorvin::test {
 
 namespace {
 
+const QString kFolderEditor = QStringLiteral("Local File Search Locations");
+const QString kOfflineEditor = QStringLiteral("Offline Search List files");
 const QString kReceived = QStringLiteral("Received/127.0.0.1/");
 
 /// From the first box of the editors for sources back to their list, or the other way.
@@ -74,10 +76,68 @@ QString SoakedProgram::editOnce(SourceRecords& records, const SourceRecords& unl
   return done;
 }
 
+/// In the editor that is open: makes `records` those that are `wanted`, of which there is one at least.
+void SoakedProgram::editTo(const SourceRecords& wanted, SourceRecords& records, const AddEntry& add) const {
+  for (const SourceRecord& record : wanted) {
+    if (std::ranges::find(records, record) != records.end()) continue;
+    add(record);
+    records.push_back(record);
+  }
+  bool hasSelection = false;
+  for (int row = static_cast<int>(records.size()) - 1; row >= 0; --row) {
+    if (std::ranges::find(wanted, records[static_cast<std::size_t>(row)]) != wanted.end()) continue;
+    selectRow(row, hasSelection);
+    hasSelection = true;
+    press(QStringList{QStringLiteral("Delete"), QStringLiteral("Up")} +
+          times(kTabsToList, QStringLiteral("Tab")));
+    records.erase(records.begin() + row);
+  }
+}
+
+SoakedProgram::AddEntry SoakedProgram::addingFolder() const {
+  return [this](const SourceRecord& record) { program_->addFolder(record.first, record.second); };
+}
+
+SoakedProgram::AddEntry SoakedProgram::addingOfflineList() const {
+  return [this](const SourceRecord& record) { program_->addOfflineList(record.second); };
+}
+
+void SoakedProgram::settleSources() {
+  const auto isAsAtFirst = [](SourceRecords now, SourceRecords first) {
+    std::ranges::sort(now);
+    std::ranges::sort(first);
+    return now == first;
+  };
+  for (SourceFolder& folder : folders_) {
+    if (!folder.isThere()) folder.bringBack();
+  }
+  if (!isAsAtFirst(lists_.online, first_.online)) {
+    program_->openFromFileMenu({QStringLiteral("a")}, kFolderEditor);
+    editTo(first_.online, lists_.online, addingFolder());
+    program_->saveFolders(false);
+    waitUntilAtRest();
+  }
+  if (!isAsAtFirst(lists_.offline, first_.offline)) {
+    program_->openFromFileMenu({QStringLiteral("Down"), QStringLiteral("Return")}, kOfflineEditor);
+    editTo(first_.offline, lists_.offline, addingOfflineList());
+    program_->saveOfflineLists();
+    waitUntilAtRest();
+  }
+  refresh();
+}
+
+ProcessFigures SoakedProgram::settledFigures() {
+  note(QStringLiteral("settle"));
+  settleSources();
+  lookAtPicture(QString(first_.online.front().first).replace(u' ', u'-') + QStringLiteral("-still.bmp"),
+                {QSize(900, 700), QSize(200, 200)});
+  return figures();
+}
+
 void SoakedProgram::editFolders(Dice& dice) {
   SourceRecords edited = lists_.online;
   const SourceRecords before = edited;
-  program_->openFromFileMenu({QStringLiteral("a")}, QStringLiteral("Local File Search Locations"));
+  program_->openFromFileMenu({QStringLiteral("a")}, kFolderEditor);
   bool hasSelection = false;
   for (int left = 1 + dice.below(3); left > 0; --left) {
     SourceRecords unlisted;
@@ -85,8 +145,7 @@ void SoakedProgram::editFolders(Dice& dice) {
       const SourceRecord record{folder.description(), folder.path()};
       if (std::ranges::find(edited, record) == edited.end()) unlisted.push_back(record);
     }
-    const auto add = [this](const SourceRecord& record) { program_->addFolder(record.first, record.second); };
-    note(QStringLiteral("folders: ") + editOnce(edited, unlisted, add, dice, hasSelection));
+    note(QStringLiteral("folders: ") + editOnce(edited, unlisted, addingFolder(), dice, hasSelection));
   }
   if (dice.oneIn(5)) {
     note(QStringLiteral("folders: cancel"));
@@ -107,8 +166,7 @@ void SoakedProgram::editFolders(Dice& dice) {
 
 void SoakedProgram::editOfflineLists(Dice& dice) {
   SourceRecords edited = lists_.offline;
-  program_->openFromFileMenu({QStringLiteral("Down"), QStringLiteral("Return")},
-                             QStringLiteral("Offline Search List files"));
+  program_->openFromFileMenu({QStringLiteral("Down"), QStringLiteral("Return")}, kOfflineEditor);
   bool hasSelection = false;
   for (int left = 1 + dice.below(3); left > 0; --left) {
     SourceRecords unlisted;
@@ -116,8 +174,8 @@ void SoakedProgram::editOfflineLists(Dice& dice) {
       const SourceRecord record{QStringLiteral("Offline"), path};
       if (std::ranges::find(edited, record) == edited.end()) unlisted.push_back(record);
     }
-    const auto add = [this](const SourceRecord& record) { program_->addOfflineList(record.second); };
-    note(QStringLiteral("offline lists: ") + editOnce(edited, unlisted, add, dice, hasSelection));
+    note(QStringLiteral("offline lists: ") +
+         editOnce(edited, unlisted, addingOfflineList(), dice, hasSelection));
   }
   if (dice.oneIn(5)) {
     note(QStringLiteral("offline lists: cancel"));
@@ -153,6 +211,11 @@ void SoakedProgram::preview(Dice& dice) {
   }
   if (pictures.empty()) return note(QStringLiteral("no picture to look at"));
   const QString name = dice.pick(pictures);
+  lookAtPicture(name, {QSize(200 + dice.below(600), 200 + dice.below(400))});
+}
+
+/// Shows it in the window for pictures, which gets these sizes one after the other.
+void SoakedProgram::lookAtPicture(const QString& name, const std::vector<QSize>& sizes) {
   search({name});
   note(QStringLiteral("preview ") + name);
   press({QStringLiteral("ctrl+f"), QStringLiteral("shift+Tab"), QStringLiteral("Home"),
@@ -163,7 +226,10 @@ void SoakedProgram::preview(Dice& dice) {
   } else {
     program_->waitForWindow(QStringLiteral("Image Preview"));
     const QString window = desktop_.activeWindow();
-    desktop_.resize(window, 200 + dice.below(600), 200 + dice.below(400));
+    for (const QSize size : sizes) {
+      desktop_.resize(window, size.width(), size.height());
+      waitUntilAtRest();
+    }
     press({QStringLiteral("Escape")});
   }
   program_->waitForMainWindow();
@@ -191,6 +257,9 @@ void SoakedProgram::wander(Dice& dice) {
                                              QStringLiteral("Right"),  QStringLiteral("shift+Down")};
   press({QStringLiteral("ctrl+f"), QStringLiteral("shift+Tab")});
   for (int left = 5; left > 0; --left) press({dice.pick(kKeys)});
+  waitUntilAtRest();
+  // Copying paths names files that are gone since they were listed.
+  if (isMessageShown()) answer({QStringLiteral("Return")});
   desktop_.resize(program_->mainWindow(), 800 + dice.below(400), 400 + dice.below(500));
   desktop_.move(program_->mainWindow(), dice.below(100), 30 + dice.below(60));
   press({QStringLiteral("alt+h"), QStringLiteral("a")});
