@@ -265,7 +265,17 @@ ProcessFigures SoakedProgram::figures() {
     waitUntilAtRest();
   }
   search({kEverything});
-  return figuresOf(program_->processId());
+  // Changed settings of the view are saved a second later.
+  const auto isBeingSaved = [](const QString& descriptor) {
+    return descriptor.endsWith(QStringLiteral(".part")) ||
+           descriptor.endsWith(QStringLiteral("settings.ini.lock"));
+  };
+  ProcessFigures figures;
+  waitUntil(QStringLiteral("for everything to be saved"), [&] {
+    figures = figuresOf(program_->processId());
+    return std::ranges::none_of(figures.descriptors, isBeingSaved);
+  });
+  return figures;
 }
 
 bool SoakedProgram::isListedAndThere(const SourceFolder& folder) const {
