@@ -126,7 +126,9 @@ bool SoakedProgram::cancelRefresh() {
   const bool isInTime = pressCancel(before);
   note(isInTime ? QStringLiteral("refresh, cancelled") : QStringLiteral("refresh, cancelled too late"));
   waitUntilAtRest();
-  if (desktop_.titleOf(desktop_.activeWindow()) == kResults) {
+  // It may not have been given the keys yet.
+  if (!desktop_.windowsOf(program_->processId(), kResults).isEmpty()) {
+    program_->waitForWindow(kResults);
     press({QStringLiteral("Escape")});
   }
   program_->waitForMainWindow();
