@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 #include <QWidget>
 
@@ -47,6 +48,10 @@ void nameIcon(const QMessageBox& box) {
       return icon->setAccessibleName(QStringLiteral("Information"));
   }
 }
+
+/// For parts of controls as the style has drawn them, each for its size. The usual 10 MB fill up as windows
+/// are resized, with what is hardly seen again.
+constexpr int kDrawnPartsKilobytes = 4096;
 
 void writeLine(const QString& text) {
   std::fprintf(stderr, "quorvin: %s\n", text.simplified().toLocal8Bit().constData());
@@ -136,6 +141,7 @@ void endWithSentence() {
 Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
+  QPixmapCache::setCacheLimit(kDrawnPartsKilobytes);
   setPalette(withReadableQuietText(palette()));
   setWindowIcon(applicationIcon());
   // Wayland's desktops take the icon from there.

@@ -11,6 +11,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QMetaMethod>
+#include <QPixmapCache>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -92,6 +93,10 @@ TEST(MainApplicationDeathTest, WithoutMemoryItEndsWithASentence) {
       },
       testing::ExitedWithCode(2),
       "quorvin: There is not enough memory to go on. What was not saved is offered at the next start.");
+}
+
+TEST(MainApplication, KeepsFewDrawnPartsOfControls) {
+  EXPECT_EQ(QPixmapCache::cacheLimit(), 4096);
 }
 
 TEST(MainApplication, TellsAFaultThatNoHandlerDealtWithAndGoesOn) {
