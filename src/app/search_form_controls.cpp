@@ -2,8 +2,10 @@
 
 #include "app/search_form_view.h"
 
+#include <QGuiApplication>
 #include <QKeySequence>
 #include <QString>
+#include <QStyle>
 
 #include <utility>
 
@@ -13,9 +15,14 @@ namespace {
 
 constexpr char16_t kInitialMatch[] = u"50";
 
+/// Labels take the direction of their text, which is English, for their alignment, too.
+Qt::Alignment mirrored(Qt::Alignment alignment) {
+  return QStyle::visualAlignment(QGuiApplication::layoutDirection(), alignment);
+}
+
 QLabel* makeCaption(QWidget* parent, const QString& text, QWidget* buddy) {
   auto* label = new QLabel(text, parent);
-  label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  label->setAlignment(mirrored(Qt::AlignLeft) | Qt::AlignVCenter);
   label->setBuddy(buddy);
   return label;
 }
@@ -26,7 +33,7 @@ QLabel* makeValue(QWidget* parent, const QString& name, const QString& text, con
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
   label->setText(text);
-  label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  label->setAlignment(mirrored(Qt::AlignLeft) | Qt::AlignVCenter);
   label->setAccessibleDescription(meaning);
   return label;
 }
@@ -112,7 +119,7 @@ SearchFormControls makeControls(QWidget* parent, QAbstractItemModel& rows) {
   made.foundLabel = makeCaption(parent, QStringLiteral("Found:"), made.lblFound);
   made.searchedLabel = makeCaption(parent, QStringLiteral("Searched:"), made.lblSearched);
   made.lblVer = makeValue(parent, QStringLiteral("lblVer"), QString(), QStringLiteral("Program version"));
-  made.lblVer->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  made.lblVer->setAlignment(mirrored(Qt::AlignRight) | Qt::AlignVCenter);
   made.lblVer->setForegroundRole(QPalette::PlaceholderText);
   made.filterLabel = makeCaption(parent, QStringLiteral("Fi&lter:"), made.FilterStr);
   made.lblShown =

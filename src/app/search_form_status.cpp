@@ -57,8 +57,7 @@ void SearchFormStatus::show() {
   parts += order_;
   parts += run_;
   parts += note_;
-  parts.removeAll(QString());
-  label_->setText(parts.join(QStringLiteral("  \u00B7  ")));
+  label_->setText(statusLine(parts, label_->layoutDirection()));
 }
 
 }  // namespace quorvin

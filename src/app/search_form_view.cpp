@@ -1,5 +1,7 @@
 #include "app/search_form_view.h"
 
+#include "app/status_texts.h"
+#include "platform/text_direction.h"
 #include "state/search_history.h"
 
 #include <QActionGroup>
@@ -215,8 +217,8 @@ void SearchFormView::showFilter(bool isShown) {
 
 void SearchFormView::showCount() {
   const RowOrder& order = rows_.order();
-  controls_.lblShown->setText(QStringLiteral("%1 of %2 shown")
-                                  .arg(locale_.toString(order.count()), locale_.toString(order.knownRows())));
+  controls_.lblShown->setText(englishWithin(controls_.lblShown->layoutDirection(),
+                                            shownText(order.count(), order.knownRows(), locale_)));
   placeFilter(controls_, controls_.HitList->parentWidget()->size());
 }
 

@@ -1,5 +1,7 @@
 #include "app/status_texts.h"
 
+#include "platform/text_direction.h"
+
 #include <algorithm>
 
 namespace quorvin {
@@ -58,6 +60,16 @@ QString fewerWordsText(const SearchQuery& query, const RunReport& report) {
 
 QString hitCountText(std::int64_t hits, const QLocale& locale) {
   return counted(hits, QStringLiteral("hit"), locale);
+}
+
+QString statusLine(QStringList parts, Qt::LayoutDirection direction) {
+  parts.removeAll(QString());
+  for (QString& part : parts) part = englishWithin(direction, part);
+  return parts.join(QStringLiteral("  \u00B7  "));
+}
+
+QString shownText(std::int64_t shown, std::int64_t hits, const QLocale& locale) {
+  return QStringLiteral("%1 of %2 shown").arg(number(shown, locale), number(hits, locale));
 }
 
 QString selectionText(std::int64_t rows, std::optional<std::int64_t> bytes, const QLocale& locale) {

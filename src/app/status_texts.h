@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QString>
 #include <QStringList>
+#include <Qt>
 
 #include <cstdint>
 #include <optional>
@@ -15,6 +16,12 @@ namespace quorvin {
 
 /// "3,481 hits".
 QString hitCountText(std::int64_t hits, const QLocale& locale);
+
+/// The parts of the status line, of which some may be empty, as one line; `direction` is that of the window.
+QString statusLine(QStringList parts, Qt::LayoutDirection direction);
+
+/// "12 of 3,481 shown".
+QString shownText(std::int64_t shown, std::int64_t hits, const QLocale& locale);
 
 /// "12 selected, 4.56 MB"; the number alone while the bytes are still being added up. Empty for none.
 QString selectionText(std::int64_t rows, std::optional<std::int64_t> bytes, const QLocale& locale);

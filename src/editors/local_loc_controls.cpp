@@ -1,6 +1,7 @@
 #include "editors/local_loc_controls.h"
 
 #include "editors/source_list_model.h"
+#include "platform/screen_room.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -112,6 +112,8 @@ class SourceRows : public QStyledItemDelegate {
     const QColor text = cell.palette.color(group, QPalette::Text);
     painter.save();
     painter.setFont(cell.font);
+    // English, whatever the direction of the desktop: "3 entries" would become "entries 3".
+    painter.setLayoutDirection(Qt::LeftToRight);
     painter.setPen(isSelected ? cell.palette.color(group, QPalette::HighlightedText)
                               : quietColour(text, cell.palette.color(group, QPalette::Base)));
     painter.drawText(place,
@@ -301,11 +303,13 @@ QSize placeLocalLocControls(const LocalLocControls& controls) {
 
   // The list with the buttons for it in a column at its right. With large letters it leaves them room on the
   // screen.
-  const int sideWidth =
-      widestOf({controls.MvUp, controls.MvDn, controls.LocDel, controls.LocAdd}) + distances.between;
-  const int screenWidth = controls.Online->screen()->availableGeometry().width();
-  const int listWidth = std::min(characters(controls.Online, kLeastListCharacters),
-                                 screenWidth - sideWidth - distances.between - 2 * distances.margin);
+  const int screenWidth = largestInside(*controls.Online->screen()).width();
+  const int captions = widestOf({controls.MvUp, controls.MvDn, controls.LocDel, controls.LocAdd});
+  const int besideList = captions + distances.between + 2 * distances.margin;
+  const int usualListWidth = characters(controls.Online, kLeastListCharacters);
+  const bool isTight = usualListWidth + besideList + distances.between > screenWidth;
+  const int sideWidth = captions + (isTight ? 0 : distances.between);
+  const int listWidth = std::min(usualListWidth, screenWidth - besideList);
   const int listRight = left + listWidth;
   const int sideLeft = listRight + distances.between;
   const int listTop = distances.margin;

@@ -1,5 +1,7 @@
 #include "help/frm_splash.h"
 
+#include "platform/screen_room.h"
+
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
@@ -111,7 +113,7 @@ void frmSplash::Form_Load(const ProductFacts& facts) {
 void frmSplash::wrapWideLabels() {
   const int line = fontMetrics().height();
   const int besideTexts = imgLogo_->sizeHint().width() + line * 9 / 2;
-  const int most = std::max(line * 8, screen()->availableGeometry().width() - besideTexts);
+  const int most = std::max(line * 8, largestInside(*screen()).width() - besideTexts);
   for (QLabel* label : {lblProductName_, lblVersion_, AppDesc_, lblPlatform_, lblSystem_, lblLicence_}) {
     if (label->sizeHint().width() <= most) continue;
     label->setWordWrap(true);

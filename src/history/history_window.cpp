@@ -1,11 +1,13 @@
 #include "history/history_window.h"
 
+#include "platform/screen_room.h"
+#include "platform/text_direction.h"
+
 #include <QAbstractItemView>
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QPointer>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -16,6 +18,8 @@ namespace {
 
 constexpr int kWidthInCharacters = 90;
 constexpr int kHeightInLines = 22;
+/// So that numbers at the right of one column are well apart from those of the next.
+constexpr int kLeastColumnCharacters = 12;
 constexpr int kNumberRole = Qt::UserRole;
 constexpr int kReadableRole = Qt::UserRole + 1;
 
@@ -31,6 +35,8 @@ QTreeWidget* makeVersions() {
   versions->setTabKeyNavigation(false);
   versions->header()->setSectionsMovable(false);
   versions->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  versions->header()->setMinimumSectionSize(versions->fontMetrics().averageCharWidth() *
+                                            kLeastColumnCharacters);
   return versions;
 }
 
@@ -87,7 +93,7 @@ HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& local
   rows->addWidget(buttons);
   const QSize wanted(fontMetrics().averageCharWidth() * kWidthInCharacters,
                      fontMetrics().lineSpacing() * kHeightInLines);
-  resize(wanted.boundedTo(screen()->availableGeometry().size()));
+  resize(wanted.boundedTo(largestInside(*screen())));
 
   connect(listing_, &QComboBox::currentIndexChanged, this, &HistoryWindow::showVersions);
   connect(versions_, &QTreeWidget::itemSelectionChanged, this,
@@ -129,9 +135,10 @@ void HistoryWindow::showVersions() {
 void HistoryWindow::listVersions(const QString& listing) {
   for (const ListingVersion& version : history_.versions(listing)) {
     auto* row = new QTreeWidgetItem(versions_);
-    row->setText(0, dateOf(version, locale_));
+    row->setText(0, englishWithin(layoutDirection(), dateOf(version, locale_)));
     row->setText(1, locale_.toString(static_cast<qulonglong>(version.entries)));
-    row->setText(2, locale_.formattedDataSize(static_cast<qint64>(version.size)));
+    const QString size = locale_.formattedDataSize(static_cast<qint64>(version.size));
+    row->setText(2, englishWithin(layoutDirection(), size));
     row->setText(3, completeness(version));
     row->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     row->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);

@@ -1,9 +1,13 @@
 #include "hits/hit_properties.h"
 
+#include "platform/screen_room.h"
+
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStringList>
 #include <QVBoxLayout>
 
@@ -17,6 +21,23 @@ constexpr int kValueCharacters = 64;
 /// As long as events may be held up.
 constexpr qint64 kMillisecondsOfReading = 8;
 
+/// On a small screen, or with large letters, there may be more rows than there is room for.
+QScrollArea* makeScrolling(QFormLayout* rows) {
+  auto* inner = new QWidget;
+  rows->setContentsMargins(0, 0, 0, 0);
+  inner->setLayout(rows);
+  auto* area = new QScrollArea;
+  area->setObjectName(QStringLiteral("Values"));
+  area->setAccessibleName(QStringLiteral("Values"));
+  area->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the values"));
+  area->setWidget(inner);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFocusPolicy(Qt::NoFocus);
+  return area;
+}
+
 }  // namespace
 
 HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget* parent)
@@ -24,6 +45,8 @@ HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget
   setObjectName(QStringLiteral("HitProperties"));
   setWindowTitle(QStringLiteral("Properties of ") + hit.row.name);
 
+  const QSize most = largestInside(*screen());
+  leastValueWidth_ = std::min(fontMetrics().averageCharWidth() * kValueCharacters, most.width() / 2);
   auto* rows = new QFormLayout;
   rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   for (const HitFact& fact : factsOf(hit, locale)) {
@@ -47,10 +70,17 @@ HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget
   buttons->addStretch();
   buttons->addWidget(close);
   auto* whole = new QVBoxLayout(this);
-  whole->addLayout(rows);
+  QScrollArea* values = makeScrolling(rows);
+  whole->addWidget(values);
   whole->addSpacing(fontMetrics().height() / 2);
   whole->addLayout(buttons);
   close->setFocus();
+  const QSize inner = values->widget()->sizeHint();
+  const QSize wanted = sizeHint() - values->sizeHint() + inner;
+  const bool scrolls = wanted.height() > most.height();
+  const int bar = scrolls ? values->verticalScrollBar()->sizeHint().width() : 0;
+  values->setMinimumWidth(inner.width() + bar);
+  resize((wanted + QSize(bar, 0)).boundedTo(most));
 
   connect(&reading_, &QTimer::timeout, this, &HitProperties::readOn);
   reading_.start(0);
@@ -68,7 +98,7 @@ QLineEdit* HitProperties::addRow(QFormLayout* rows, const HitFact& fact) {
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
   palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
   value->setPalette(palette);
-  value->setMinimumWidth(fontMetrics().averageCharWidth() * kValueCharacters);
+  value->setMinimumWidth(leastValueWidth_);
   value->setCursorPosition(0);
   auto* label = new QLabel(fact.label + u':', this);
   label->setBuddy(value);

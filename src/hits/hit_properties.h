@@ -29,6 +29,7 @@ class HitProperties : public QDialog {
   void Copy_Click();
 
   QLocale locale_;
+  int leastValueWidth_ = 0;
   std::vector<QLineEdit*> values_;
   QLineEdit* line_ = nullptr;
   EntryLineFinder finder_;

@@ -1,5 +1,6 @@
 #include "preview/img_pre.h"
 
+#include "platform/screen_room.h"
 #include "preview/in_background.h"
 #include "preview/picture_fit.h"
 
@@ -143,7 +144,7 @@ ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
   PicName_->setTextFormat(Qt::PlainText);
   PicName_->setMargin(kNoteMargin);
   PicName_->setAutoFillBackground(true);
-  resize(kFirstSize);
+  resize(kFirstSize.boundedTo(largestInside(*screen())));
   connect(&animation_, &PictureAnimation::frameReached, Pic_, &Picture::setImage);
   connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
 }

@@ -1,9 +1,10 @@
 #include "preview/res_win.h"
 
+#include "platform/screen_room.h"
+
 #include <QDialogButtonBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -47,7 +48,7 @@ ResWin::ResWin(QWidget* parent) : QDialog(parent), text_(makeText()) {
   text_->setFocus();
   const QSize wanted(fontMetrics().averageCharWidth() * kWidthInCharacters,
                      fontMetrics().lineSpacing() * kHeightInLines);
-  resize(wanted.boundedTo(screen()->availableGeometry().size()));
+  resize(wanted.boundedTo(largestInside(*screen())));
 }
 
 void ResWin::setText(const QString& text) {

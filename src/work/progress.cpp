@@ -1,12 +1,14 @@
 #include "work/progress.h"
 
+#include "platform/screen_room.h"
+#include "platform/text_direction.h"
+
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -61,8 +63,8 @@ void layOutProgress(QDialog& dialog, const QList<QWidget*>& rows, QLabel& detail
   layout->addLayout(lastRow);
   // The texts change all the time; the window must not change with them.
   layout->setSizeConstraint(QLayout::SetNoConstraint);
-  const int width = std::min(dialog.fontMetrics().averageCharWidth() * characters,
-                             dialog.screen()->availableGeometry().width());
+  const int width =
+      std::min(dialog.fontMetrics().averageCharWidth() * characters, largestInside(*dialog.screen()).width());
   dialog.setFixedSize(width, layout->sizeHint().height());
 }
 
@@ -104,8 +106,9 @@ void Progress::setDetail(const QString& text) {
 
 void Progress::showDetail() {
   const QString stopping = QStringLiteral("Stopping...");
-  if (!isCancelled_) return detail_->setText(detailText_);
-  detail_->setText(detailText_.isEmpty() ? stopping : stopping + u' ' + detailText_);
+  QString shown = detailText_;
+  if (isCancelled_) shown = detailText_.isEmpty() ? stopping : stopping + u' ' + detailText_;
+  detail_->setText(englishWithin(layoutDirection(), shown));
 }
 
 void Progress::setBar(std::int32_t value) {

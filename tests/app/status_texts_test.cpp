@@ -27,6 +27,21 @@ TEST(HitCountText, IsGroupedAsTheLocaleDoes) {
   EXPECT_EQ(hitCountText(7325923, QLocale(QLocale::German)), u"7.325.923 hits"_qs);
 }
 
+TEST(StatusLine, LeavesOutWhatIsEmpty) {
+  EXPECT_EQ(statusLine({u"3 hits"_qs, QString(), u"stopped"_qs}, Qt::LeftToRight),
+            u"3 hits  \u00B7  stopped"_qs);
+  EXPECT_EQ(statusLine({QString()}, Qt::LeftToRight), QString());
+}
+
+TEST(StatusLine, NumbersStayInFrontOfTheirWordsFromRightToLeft) {
+  EXPECT_EQ(statusLine({u"3 hits"_qs, u"2 selected"_qs}, Qt::RightToLeft),
+            u"\u20663 hits\u2069  \u00B7  \u20662 selected\u2069"_qs);
+}
+
+TEST(ShownText, SaysHowManyOfHowMany) {
+  EXPECT_EQ(shownText(12, 3481, kEnglish), u"12 of 3,481 shown"_qs);
+}
+
 TEST(SelectionText, SaysHowManyAndHowMuch) {
   EXPECT_EQ(selectionText(0, 0, kEnglish), QString());
   EXPECT_EQ(selectionText(1234, std::nullopt, kEnglish), u"1,234 selected"_qs);

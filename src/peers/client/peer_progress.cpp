@@ -1,5 +1,7 @@
 #include "peers/client/peer_progress.h"
 
+#include "platform/text_direction.h"
+
 #include <QCloseEvent>
 #include <QProgressBar>
 
@@ -54,7 +56,8 @@ void PeerProgress::showFigures(const PeerFigures& figures) {
   }
   list_->setText(QStringLiteral("List %1 of %2: ").arg(figures.listNumber).arg(figures.listCount) +
                  figures.list);
-  bytes_->setText(locale_.toString(figures.bytes) + QStringLiteral(" bytes"));
+  bytes_->setText(
+      englishWithin(layoutDirection(), locale_.toString(figures.bytes) + QStringLiteral(" bytes")));
 }
 
 void PeerProgress::reject() {
