@@ -2,6 +2,8 @@
 
 #include "app/fault_report.h"
 #include "app/version.h"
+#include "hits/hit_list_delegate.h"
+#include "platform/text_direction.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -62,8 +64,9 @@ class Box : public QMessageBox {
  public:
   Box(Icon icon, const QString& text, StandardButtons buttons)
       : QMessageBox(icon, applicationTitle(),
-                    QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), buttons,
-                    QApplication::activeWindow()) {
+                    englishWithin(QGuiApplication::layoutDirection(),
+                                  QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))),
+                    buttons, QApplication::activeWindow()) {
     // Messages name files, and a file's name may look like markup.
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -122,7 +125,7 @@ QIcon applicationIcon() {
 
 }  // namespace
 
-QPalette withReadableQuietText(QPalette palette) {
+QPalette withReadableTexts(QPalette palette) {
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
     const QColor text = palette.color(group, QPalette::Text);
     const QColor base = palette.color(group, QPalette::Base);
@@ -130,6 +133,9 @@ QPalette withReadableQuietText(QPalette palette) {
     palette.setColor(group, QPalette::PlaceholderText,
                      QColor(between(text.red(), base.red()), between(text.green(), base.green()),
                             between(text.blue(), base.blue())));
+    const QColor selectedText = palette.color(group, QPalette::HighlightedText);
+    palette.setColor(group, QPalette::Highlight,
+                     shadeAgainst(palette.color(group, QPalette::Highlight), selectedText));
   }
   return palette;
 }
@@ -142,7 +148,7 @@ Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
   QPixmapCache::setCacheLimit(kDrawnPartsKilobytes);
-  setPalette(withReadableQuietText(palette()));
+  setPalette(withReadableTexts(palette()));
   setWindowIcon(applicationIcon());
   // Wayland's desktops take the icon from there.
   setDesktopFileName(QStringLiteral("quorvin"));

@@ -13,8 +13,9 @@
 namespace quorvin {
 
 /// `palette` with a colour for quiet texts (PlaceholderText) that lies between text and background and can be
-/// read on Base and on Window. Desktops give one of too little contrast, or, with dark palettes, none.
-QPalette withReadableQuietText(QPalette palette);
+/// read on Base and on Window. Desktops give one of too little contrast, or, with dark palettes, none. What
+/// is selected has a background on which its text can be read, of the hue that the desktop has chosen.
+QPalette withReadableTexts(QPalette palette);
 
 /// For main(), first of all: a fault that nobody can catch or show, most of all where there is no memory for
 /// that, ends the program with a sentence on standard error; without memory with the exit status 2, else as

@@ -1,4 +1,5 @@
 #include "app/search_form_controls.h"
+#include "hits/hit_list_delegate.h"
 #include "search/hit_table.h"
 
 #include <QDate>
@@ -212,7 +213,8 @@ void setInitialColumnWidths(const SearchFormControls& controls, const QLocale& l
     const int title = columns->sectionSizeHint(static_cast<int>(column));
     controls.HitList->columns().setUsualWidth(column, std::max(title, textWidth + around));
   };
-  makeAtLeast(HitColumn::Match, metrics.horizontalAdvance(QStringLiteral("100%")));
+  makeAtLeast(HitColumn::Match,
+              metrics.horizontalAdvance(QStringLiteral("100%")) + HitListDelegate::markWidth(metrics));
   makeAtLeast(HitColumn::Size, metrics.horizontalAdvance(QStringLiteral("00000.00mb")));
   makeAtLeast(HitColumn::Date, widestDate(controls.HitList->font(), locale));
 }

@@ -125,8 +125,6 @@ void HitListView::reset() {
   updateScrollBars();
 }
 
-void HitListView::keyboardSearch(const QString&) {}
-
 void HitListView::rowsInserted(const QModelIndex& parent, int start, int end) {
   QAbstractItemView::rowsInserted(parent, start, end);
   updateScrollBars();
@@ -350,6 +348,8 @@ void HitListView::paintEmptyText(QPainter& painter) const {
   if (emptyText_.isEmpty()) return;
   const int margin = fontMetrics().height() * 2;
   painter.setPen(palette().color(QPalette::PlaceholderText));
+  // Whatever the direction of the desktop: the full stops of its sentences would go astray.
+  painter.setLayoutDirection(Qt::LeftToRight);
   painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                    Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
 }

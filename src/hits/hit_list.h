@@ -25,6 +25,8 @@ class HitListView : public QAbstractItemView {
   QHeaderView* header() const { return header_; }
   HitListColumns& columns() { return *columns_; }
   int rowHeight() const { return rowHeight_; }
+  /// The column in which rows start.
+  int firstColumn() const { return columns_->first(); }
   /// The first row on the screen.
   int firstVisibleRow() const;
   /// How many rows fit on the screen as a whole, at least 1.
@@ -45,7 +47,7 @@ class HitListView : public QAbstractItemView {
   QModelIndex indexAt(const QPoint& point) const override;
   void reset() override;
   /// Does nothing: looking for a row that begins with a letter would make text of millions of rows.
-  void keyboardSearch(const QString& search) override;
+  void keyboardSearch(const QString&) override {}
 
  Q_SIGNALS:
   /// The user wants to open the current row: by a double-click of the left button or by Enter.

@@ -79,7 +79,7 @@ class RowAccessible : public QAccessibleInterface {
   int row_;
 };
 
-/// The list. Rows get their interfaces when they are asked for.
+/// The list: its rows, which get their interfaces when they are asked for, and the buttons in an empty one.
 class ListAccessible : public QAccessibleWidget {
  public:
   explicit ListAccessible(HitListView* view) : QAccessibleWidget(view, QAccessible::List), view_(view) {}
@@ -95,10 +95,11 @@ class ListAccessible : public QAccessibleWidget {
     return state;
   }
 
-  int childCount() const override { return view_->model() ? view_->model()->rowCount() : 0; }
+  int childCount() const override { return rowCount() + static_cast<int>(offers().size()); }
 
   QAccessibleInterface* child(int row) const override {
-    if (row < 0 || row >= childCount()) return nullptr;
+    if (row >= rowCount()) return QAccessible::queryAccessibleInterface(offers().value(row - rowCount()));
+    if (row < 0) return nullptr;
     const auto known = rows_.constFind(row);
     if (known != rows_.constEnd()) return QAccessible::accessibleInterface(*known);
     auto* made = new RowAccessible(view_, row);
@@ -107,12 +108,16 @@ class ListAccessible : public QAccessibleWidget {
   }
 
   int indexOfChild(const QAccessibleInterface* child) const override {
-    const auto* row = dynamic_cast<const RowAccessible*>(child);
-    return row ? row->row() : -1;
+    if (const auto* row = dynamic_cast<const RowAccessible*>(child)) return row->row();
+    const auto offer = offers().indexOf(qobject_cast<QWidget*>(child ? child->object() : nullptr));
+    return offer < 0 ? -1 : rowCount() + static_cast<int>(offer);
   }
 
   QAccessibleInterface* childAt(int x, int y) const override {
-    const QModelIndex index = view_->indexAt(view_->viewport()->mapFromGlobal(QPoint(x, y)));
+    const QPoint place = view_->viewport()->mapFromGlobal(QPoint(x, y));
+    if (QWidget* offer = view_->viewport()->childAt(place))
+      return QAccessible::queryAccessibleInterface(offer);
+    const QModelIndex index = view_->indexAt(place);
     return index.isValid() ? child(index.row()) : nullptr;
   }
 
@@ -122,6 +127,15 @@ class ListAccessible : public QAccessibleWidget {
   }
 
  private:
+  int rowCount() const { return view_->model() ? view_->model()->rowCount() : 0; }
+
+  /// What an empty list shows in the place of rows.
+  QList<QWidget*> offers() const {
+    QList<QWidget*> shown = view_->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    shown.removeIf([](const QWidget* widget) { return !widget->isVisible(); });
+    return shown;
+  }
+
   HitListView* view_;
   mutable QHash<int, QAccessible::Id> rows_;
 };

@@ -82,6 +82,12 @@ int HitListColumns::visibleCount() const {
   return header_->count() - header_->hiddenSectionCount();
 }
 
+int HitListColumns::first() const {
+  int place = 0;
+  while (place < header_->count() - 1 && header_->isSectionHidden(header_->logicalIndex(place))) ++place;
+  return header_->logicalIndex(place);
+}
+
 QString HitListColumns::text() const {
   QStringList items;
   for (int place = 0; place < kHitColumnCount; ++place) {

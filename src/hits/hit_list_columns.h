@@ -32,6 +32,8 @@ class HitListColumns : public QObject {
   /// The last visible column stays.
   void setVisible(HitColumn column, bool isVisible);
   int visibleCount() const;
+  /// The section of the visible column that comes first in reading direction.
+  int first() const;
 
   /// All that the user has set, as text: the columns from left to right, with a minus before the hidden ones
   /// and the width, in logical pixels, behind those that the user has given one, such as

@@ -1,5 +1,6 @@
 #include "hits/hit_list_delegate.h"
 
+#include "hits/hit_list.h"
 #include "hits/hit_list_model.h"
 #include "hits/marked_text.h"
 
@@ -18,8 +19,9 @@ namespace quorvin {
 namespace {
 
 /// Above the 4.5 to 1 that is usual for text: saturated blue and red tire the eye on dark backgrounds.
-constexpr double kReadableContrast = 6;
-constexpr double kUsualContrast = 4.5;
+constexpr double kContrastOnDark = 6;
+/// Of the backgrounds of ordinary light lists, striped rows among them.
+constexpr double kLeastUsualLight = 0.8;
 
 double linearLight(double channel) {
   return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -54,15 +56,34 @@ TextRanges wordsIn(const QModelIndex& index) {
   return index.data(kWordPlacesRole).value<TextRanges>();
 }
 
-/// The same hue, darkened until it can be read on a background that is neither dark nor quite light; or
-/// black, where no shade can.
-QColor darkerOn(const QColor& colour, const QColor& background) {
-  QColor darker = colour;
-  for (float lightness = colour.lightnessF(); lightness > 0.0F; lightness -= 0.01F) {
-    darker = QColor::fromHslF(colour.hslHueF(), colour.hslSaturationF(), lightness);
-    if (contrast(darker, background) >= kUsualContrast) return darker;
+/// Rows start with their mark, whichever column is the first one.
+bool startsRow(const QStyleOptionViewItem& option, const QModelIndex& index) {
+  const auto* list = qobject_cast<const HitListView*>(option.widget);
+  return list && list->firstColumn() == index.column();
+}
+
+qreal markSide(const QFontMetrics& metrics) {
+  return metrics.ascent() * 0.66;
+}
+
+/// The shapes differ for those who see the colours alike.
+void drawMark(QPainter& painter, SourceKind kind, const QRectF& place) {
+  const qreal edge = place.width() / 16;
+  switch (kind) {
+    case SourceKind::Online:
+      return painter.drawEllipse(place);
+    case SourceKind::MainDataFile:
+      return painter.drawRect(place.adjusted(edge, edge, -edge, -edge));
+    case SourceKind::Offline:
+      return painter.drawPolygon(
+          QPolygonF{place.bottomLeft(), {place.center().x(), place.top()}, place.bottomRight()});
   }
-  return Qt::black;
+}
+
+/// Of a cell whose style has been set.
+QColor textColour(const QStyleOptionViewItem& cell) {
+  const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+  return cell.palette.color(colourGroup(cell), isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
 /// Narrow enough to follow the column division in a small window, wide enough to be taken hold of.
@@ -72,32 +93,71 @@ constexpr QChar kPadding = u' ';
 
 }  // namespace
 
-QColor readableOn(const QColor& colour, const QColor& background) {
-  if (!isDark(background)) return colour;
-  const float hue = colour.hslHueF();
-  const float saturation = colour.hslSaturationF();
-  for (float lightness = colour.lightnessF(); lightness < 1.0F; lightness += 0.01F) {
-    const QColor lighter = QColor::fromHslF(hue, saturation, lightness);
-    if (contrast(lighter, background) >= kReadableContrast) return lighter;
+QColor shadeAgainst(const QColor& colour, const QColor& other, double least) {
+  if (contrast(colour, other) >= least) return colour;
+  const float step = isDark(other) ? 0.01F : -0.01F;
+  for (float lightness = colour.lightnessF(); lightness > 0.0F && lightness < 1.0F; lightness += step) {
+    const QColor shade = QColor::fromHslF(colour.hslHueF(), colour.hslSaturationF(), lightness);
+    if (contrast(shade, other) >= least) return shade;
   }
-  return Qt::white;
+  return isDark(other) ? Qt::white : Qt::black;
+}
+
+QColor readableOn(const QColor& colour, const QColor& background) {
+  if (luminance(background) >= kLeastUsualLight) return colour;
+  return shadeAgainst(colour, background, isDark(background) ? kContrastOnDark : kUsualContrast);
 }
 
 QBrush HitListDelegate::selectionBrush(const QStyleOptionViewItem& option) {
-  return option.palette.brush(colourGroup(option), QPalette::Highlight);
+  const QPalette::ColorGroup group = colourGroup(option);
+  QBrush brush = option.palette.brush(group, QPalette::Highlight);
+  const QColor text = option.palette.color(group, QPalette::HighlightedText);
+  if (brush.style() == Qt::SolidPattern) brush.setColor(shadeAgainst(brush.color(), text));
+  return brush;
+}
+
+int HitListDelegate::markWidth(const QFontMetrics& metrics) {
+  return static_cast<int>(std::ceil(markSide(metrics))) + metrics.horizontalAdvance(u' ');
 }
 
 void HitListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const {
   const int padding = cellPadding(option);
+  const int mark = startsRow(option, index) ? markWidth(option.fontMetrics) : 0;
+  if (mark > 0) paintMark(*painter, option, index);
   QStyleOptionViewItem padded = option;
-  padded.rect.adjust(padding, 0, -padding, 0);
+  padded.rect =
+      QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(padding + mark, 0, -padding, 0));
   const TextRanges bold = wordsIn(index);
-  if (bold.empty()) return QStyledItemDelegate::paint(painter, padded, index);
+  // The style would turn "03 - Song" around where people read from right to left.
+  const bool needsOwnText = !bold.empty() || option.direction == Qt::RightToLeft;
+  if (!needsOwnText) return QStyledItemDelegate::paint(painter, padded, index);
   paintMarked(*painter, padded, index, bold);
 }
 
-/// As the style draws a cell, but for the text, which it can only draw in one font.
+void HitListDelegate::paintMark(QPainter& painter, const QStyleOptionViewItem& option,
+                                const QModelIndex& index) const {
+  const QVariant kind = index.data(kSourceKindRole);
+  if (!kind.isValid()) return;
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  const qreal side = markSide(option.fontMetrics);
+  const QRect area = QStyle::visualRect(option.direction, option.rect,
+                                        QRect(option.rect.left() + cellPadding(option), option.rect.top(),
+                                              static_cast<int>(std::ceil(side)), option.rect.height()));
+  QRectF place(0, 0, side, side);
+  place.moveCenter(QRectF(area).center());
+  painter.save();
+  painter.setClipRect(option.rect, Qt::IntersectClip);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(textColour(cell));
+  drawMark(painter, static_cast<SourceKind>(kind.toInt()), place);
+  painter.restore();
+}
+
+/// As the style draws a cell, but for the text, which it can only draw in one font and in the cell's
+/// direction.
 void HitListDelegate::paintMarked(QPainter& painter, const QStyleOptionViewItem& option,
                                   const QModelIndex& index, const TextRanges& bold) const {
   QStyleOptionViewItem cell = option;
@@ -110,19 +170,18 @@ void HitListDelegate::paintMarked(QPainter& painter, const QStyleOptionViewItem&
   style->drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
 
   QTextOption lines(QStyle::visualAlignment(cell.direction, cell.displayAlignment));
-  lines.setTextDirection(cell.direction);
-  const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+  lines.setTextDirection(whole.text.isRightToLeft() ? cell.direction : Qt::LeftToRight);
   painter.save();
   painter.setClipRect(option.rect, Qt::IntersectClip);
-  painter.setPen(
-      cell.palette.color(colourGroup(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
+  painter.setPen(textColour(cell));
   const Cut cut = cell.textElideMode == Qt::ElideMiddle ? Cut::Middle : Cut::End;
   drawLine(painter, cutToWidth(whole, cell.font, place.width(), cut), cell.font, place, lines);
   painter.restore();
 }
 
 QSize HitListDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  const QSize plain = QStyledItemDelegate::sizeHint(option, index) + QSize(2 * cellPadding(option), 0);
+  const int mark = startsRow(option, index) ? markWidth(option.fontMetrics) : 0;
+  const QSize plain = QStyledItemDelegate::sizeHint(option, index) + QSize(2 * cellPadding(option) + mark, 0);
   const TextRanges bold = wordsIn(index);
   if (bold.empty()) return plain;
   const QString text = index.data().toString();
@@ -156,10 +215,13 @@ void HitListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
   const QColor base = option->palette.color(QPalette::Base);
   const bool isAlternate = option->features.testFlag(QStyleOptionViewItem::Alternate);
   const QColor behind = isAlternate ? option->palette.color(QPalette::AlternateBase) : base;
-  QColor shown = readableOn(text, behind);
-  // Every second row of a dark palette may be light enough to count as light, and too dark for the colours.
-  if (isDark(base) && contrast(shown, behind) < kUsualContrast) shown = darkerOn(text, behind);
+  // Every second row of a dark palette may be so light that it counts as that of a light one.
+  const QColor shown =
+      isDark(base) && !isDark(behind) ? shadeAgainst(text, behind) : readableOn(text, behind);
   option->palette.setColor(QPalette::Text, shown);
+  if (option->state.testFlag(QStyle::State_Selected)) {
+    option->palette.setBrush(QPalette::Highlight, selectionBrush(*option));
+  }
   // What tells folders apart is mostly at their ends.
   const bool isFolder = index.column() == static_cast<int>(HitColumn::Folder);
   option->textElideMode = isFolder ? Qt::ElideMiddle : Qt::ElideRight;

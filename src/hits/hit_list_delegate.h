@@ -5,25 +5,36 @@
 
 #include <QBrush>
 #include <QColor>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
 
 namespace quorvin {
 
-/// `colour` as it is on a light `background`; on a dark one the same hue, lightened until it can be read
-/// well there.
+/// The contrast that is usual for text.
+inline constexpr double kUsualContrast = 4.5;
+
+/// The shade of `colour` next to it that has at least the contrast `least` (1 to 21) to `other`: lighter
+/// where that is dark, otherwise darker; white or black where no shade has.
+QColor shadeAgainst(const QColor& colour, const QColor& other, double least = kUsualContrast);
+
+/// `colour` as it is on the `background` of an ordinary light list. On others the same hue where it can be
+/// read well: lightened on a dark background, darkened on one that is neither dark nor quite light.
 QColor readableOn(const QColor& colour, const QColor& background);
 
 /// Draws cells in the colour of their kind of source, with the words that were found bold, and shows in a
-/// tooltip what does not fit into a cell.
+/// tooltip what does not fit into a cell. Each row starts with a mark in the shape of its kind of source: a
+/// disc for a folder of one's own, a square for the main data file, a triangle for an offline listing.
 class HitListDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  /// The background of a selected row.
+  /// The background of a selected row: the palette's, in a shade on which its text can be read.
   static QBrush selectionBrush(const QStyleOptionViewItem& option);
+  /// The width of a mark with its distance to the text, in pixels.
+  static int markWidth(const QFontMetrics& metrics);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
@@ -38,6 +49,7 @@ class HitListDelegate : public QStyledItemDelegate {
  private:
   void paintMarked(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
                    const TextRanges& bold) const;
+  void paintMark(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
 };
 
 /// Keeps titles a little away from the edges of their columns, so that one that is at the right side of

@@ -71,6 +71,8 @@ QVariant HitListModel::data(const QModelIndex& index, int role) const {
       return hitText(hitRow(index.row()), static_cast<HitColumn>(index.column()), locale_);
     case Qt::ForegroundRole:
       return QColor(QRgb{rowColour(table_.kind(order_.tableRow(index.row())))});
+    case kSourceKindRole:
+      return static_cast<int>(table_.kind(order_.tableRow(index.row())));
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(columnAlignment(index.column()));
     case kWordPlacesRole:

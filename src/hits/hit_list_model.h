@@ -17,6 +17,8 @@ namespace quorvin {
 
 /// For folders and names: the TextRanges at which words of the search are in the text.
 inline constexpr int kWordPlacesRole = Qt::UserRole;
+/// The SourceKind of a row, as a number.
+inline constexpr int kSourceKindRole = Qt::UserRole + 1;
 
 /// What a row says about its kind of source in words, for those who do not see or know the colours.
 QString sourceKindText(SourceKind kind);
@@ -50,9 +52,9 @@ class HitListModel : public QAbstractTableModel {
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
-  /// Besides the texts: the exact colour of the kind of source (ForegroundRole), the alignment, where words
-  /// of the search are (kWordPlacesRole), and in words the kind of source and which of the words the row
-  /// holds (ToolTipRole and AccessibleDescriptionRole).
+  /// Besides the texts: the kind of source (kSourceKindRole), its exact colour (ForegroundRole), the
+  /// alignment, where words of the search are (kWordPlacesRole), and in words the kind of source and which of
+  /// the words the row holds (ToolTipRole and AccessibleDescriptionRole).
   QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 

@@ -30,6 +30,23 @@ TEST_F(AccessibleWindow, RowsAreItemsNamedByTheirColumnsAndDescribedByTheirKind)
   EXPECT_EQ(list->child(0), row);
 }
 
+TEST_F(AccessibleWindow, TheButtonsOfAnEmptyListAreItsChildren) {
+  form();
+  QAccessibleInterface* list = QAccessible::queryAccessibleInterface(controls().HitList);
+  ASSERT_EQ(list->childCount(), 2);
+  QAccessibleInterface* offer = list->child(0);
+  ASSERT_NE(offer, nullptr);
+  EXPECT_EQ(offer->role(), QAccessible::Button);
+  EXPECT_EQ(offer->text(QAccessible::Name), QStringLiteral("Catalogue folders of your own"));
+  EXPECT_EQ(list->indexOfChild(offer), 0);
+  const QPoint middle = offer->rect().center();
+  EXPECT_EQ(list->childAt(middle.x(), middle.y()), offer);
+  EXPECT_EQ(list->child(2), nullptr);
+  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 3, "tune"));
+  form().sourcesChanged();
+  EXPECT_EQ(list->childCount(), 0);
+}
+
 TEST_F(AccessibleWindow, ARowReadsTheColumnsThatAreSeenInTheirOrder) {
   addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 1, "tune"));
   find(QStringLiteral("tune"));

@@ -40,7 +40,7 @@ double luminanceOf(const QColor& colour) {
 }
 
 double contrastOf(const QColor& one, const QColor& other) {
-  const auto [darker, lighter] = std::minmax(luminanceOf(one), luminanceOf(other));
+  const auto [darker, lighter] = std::minmax({luminanceOf(one), luminanceOf(other)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 
@@ -62,11 +62,32 @@ TEST(MainApplication, QuietTextsCanBeReadOnLightDarkAndHighContrastDesktops) {
     palette.setColor(QPalette::Text, colours.text);
     palette.setColor(QPalette::Base, colours.base);
     palette.setColor(QPalette::Window, colours.window);
-    const QColor quiet = withReadableQuietText(palette).color(QPalette::PlaceholderText);
+    const QColor quiet = withReadableTexts(palette).color(QPalette::PlaceholderText);
     EXPECT_GE(contrastOf(quiet, colours.base), 4.5) << colours.base.name().toStdString();
     EXPECT_GE(contrastOf(quiet, colours.window), 4.5) << colours.window.name().toStdString();
     EXPECT_NE(quiet, colours.text);
   }
+}
+
+TEST(MainApplication, SelectedTextsCanBeReadOnEverySelectionColour) {
+  for (const QColor& selection : {QColor(48, 140, 198), QColor(61, 174, 233), QColor(233, 84, 32)}) {
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, selection);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    const QColor shown = withReadableTexts(palette).color(QPalette::Highlight);
+    EXPECT_GE(contrastOf(Qt::white, shown), 4.5) << selection.name().toStdString();
+    EXPECT_LE(std::abs(shown.hslHue() - selection.hslHue()), 1) << selection.name().toStdString();
+  }
+  QPalette palette;
+  palette.setColor(QPalette::Highlight, QColor(255, 255, 0));
+  palette.setColor(QPalette::HighlightedText, Qt::black);
+  EXPECT_EQ(withReadableTexts(palette).color(QPalette::Highlight), QColor(255, 255, 0));
+}
+
+TEST(MainApplication, ItsWindowsHaveReadableSelectedTexts) {
+  EXPECT_GE(contrastOf(QApplication::palette().color(QPalette::HighlightedText),
+                       QApplication::palette().color(QPalette::Highlight)),
+            4.5);
 }
 
 TEST(MainApplication, ItsWindowsHaveReadableQuietTexts) {

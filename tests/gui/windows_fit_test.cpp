@@ -1,5 +1,6 @@
 // Every window on a small screen, with large letters, and where people write from right to left: it fits the
 // screen, nothing of it is outside, and no caption is cut.
+#include "app/main_application.h"
 #include "editors/dialog_driving.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
@@ -7,13 +8,21 @@
 #include "help/frm_browser.h"
 #include "help/frm_splash.h"
 #include "history/history_window.h"
+#include "history/listing_history.h"
+#include "hits/hit_properties.h"
 #include "peers/client/peer_progress.h"
 #include "preview/image_preview.h"
 #include "preview/res_win.h"
+#include "support/eventually.h"
 
 #include <QAbstractScrollArea>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QMessageBox>
 #include <QScreen>
 #include <QToolButton>
+#include <QTreeWidget>
 
 namespace quorvin::test {
 
@@ -59,11 +68,22 @@ bool isCut(const QWidget* widget) {
   return false;
 }
 
-/// A window may be of any size that the screen has; what is in it is what counts.
-void expectFits(const QWidget& window) {
+/// What a title bar and the frame around a window take on usual desktops. The frames of these tests take
+/// less.
+constexpr QSize kUsualFrame(8, 32);
+
+/// With its frame the window is on the screen.
+void expectIsOnScreen(const QWidget& window) {
   const QSize screen = window.screen()->availableGeometry().size();
-  EXPECT_LE(window.width(), screen.width()) << described(&window).toStdString();
-  EXPECT_LE(window.height(), screen.height()) << described(&window).toStdString();
+  QSize outer = window.frameGeometry().size();
+  // The main window makes itself smaller by the frame that it gets.
+  if (!qobject_cast<const QMainWindow*>(&window)) outer = outer.expandedTo(window.size() + kUsualFrame);
+  EXPECT_LE(outer.width(), screen.width()) << described(&window).toStdString();
+  EXPECT_LE(outer.height(), screen.height()) << described(&window).toStdString();
+}
+
+void expectFits(const QWidget& window) {
+  expectIsOnScreen(window);
   int looked = 0;
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
     if (!widget->isVisible() || widget->window() != &window || scrolls(widget)) continue;
@@ -148,6 +168,75 @@ TEST_P(WindowsFit, ProgressAndResultsDo) {
   expectShownFits(results);
 }
 
+TEST_P(WindowsFit, ThePropertiesOfAHitDo) {
+  find(QStringLiteral("song"));
+  controls().HitList->setFocus();
+  QTest::keyClick(controls().HitList, Qt::Key_End);
+  expectDialogFits(form().itemMenu().HitProperties);
+}
+
+TEST_P(WindowsFit, TheHistoryDoes) {
+  ListingHistory history(folder_.path());
+  const QString made = folder_.writeFile(QStringLiteral("made"), listingOf("MUSIC", 31, "song"));
+  ASSERT_EQ(history.keep(QStringLiteral("Music.txt"), made, true).fault, QString());
+  HistoryWindow window(history, QLocale(QLocale::German), {}, nullptr);
+  expectShownFits(window);
+  const auto* versions = window.findChild<QTreeWidget*>(QStringLiteral("Versions"));
+  ASSERT_EQ(versions->topLevelItemCount(), 1);
+  for (int column = 0; column < versions->columnCount(); ++column) {
+    const QModelIndex cell = versions->model()->index(0, column);
+    EXPECT_GE(versions->columnWidth(column), versions->sizeHintForIndex(cell).width()) << column;
+  }
+}
+
+TEST_P(WindowsFit, TheDialogsForFilesDo) {
+  find(QStringLiteral("song"));
+  int boxes = 0;
+  EXPECT_TRUE(duringModal<QFileDialog>([this] { form().menus().ExportHits->trigger(); },
+                                       [&boxes](QFileDialog& dialog) {
+                                         QTest::qWait(0);
+                                         expectIsOnScreen(dialog);
+                                         for (const auto* box : dialog.findChildren<QComboBox*>()) {
+                                           if (box->objectName() != u"fileTypeCombo") continue;
+                                           ++boxes;
+                                           EXPECT_EQ(box->count(), 3);
+                                           EXPECT_LE(textWidth(box, box->currentText()), box->width());
+                                         }
+                                       }));
+  EXPECT_EQ(boxes, 1);
+  DialogFilePicker picker;
+  EXPECT_TRUE(duringModal<QFileDialog>([&] { picker.pickFolders({}); },
+                                       [](QFileDialog& dialog) {
+                                         QTest::qWait(0);
+                                         expectIsOnScreen(dialog);
+                                       }));
+}
+
+/// Their abbreviated months differ in width more than others do.
+TEST_P(WindowsFit, GermanDatesDo) {
+  QByteArray listing = blockHead("MUSIC", "\\Music\\");
+  for (int month = 1; month <= 12; ++month) {
+    const QByteArray date = "2004-" + QByteArray::number(month).rightJustified(2, '0') + "-28 10:20:30";
+    listing += entryLine("date.mp3", "1,024", date);
+  }
+  folder_.writeFile(QStringLiteral("Music.txt"), listing);
+  SearchForm german(state_, messages_, shell_, QLocale(QLocale::German));
+  showAndActivate(german);
+  german.controls().SearchStr->setText(QStringLiteral("date"));
+  german.controls().Find->click();
+  HitListView& list = *german.controls().HitList;
+  ASSERT_EQ(list.model()->rowCount(), 12);
+  const int date = static_cast<int>(HitColumn::Date);
+  QStringList dates;
+  for (int row = 0; row < 12; ++row) {
+    const QModelIndex cell = list.model()->index(row, date);
+    dates += cell.data().toString();
+    EXPECT_LE(list.sizeHintForIndex(cell).width(), list.header()->sectionSize(date))
+        << dates.last().toStdString();
+  }
+  EXPECT_EQ(dates.at(2), QStringLiteral("M\u00E4r, 28 04"));
+}
+
 TEST_P(WindowsFit, ThePreviewDoes) {
   QThreadPool pool;
   ImgPre window(pool, nullptr);
@@ -185,6 +274,54 @@ TEST_F(MirroredWindows, TheMainWindowIsTheMirrorImage) {
     EXPECT_GT(controls().Find->x(), controls().foundLabel->geometry().right());
     EXPECT_GT(controls().foundLabel->x(), controls().lblFound->geometry().right());
   }
+}
+
+TEST_F(MirroredWindows, NumbersStayInFrontOfTheirWords) {
+  addOnlineSource(QStringLiteral("Music"), listingOf("MUSIC", 30, "song"));
+  find(QStringLiteral("song"));
+  EXPECT_EQ(form().findChild<QLabel*>(QStringLiteral("StatusText"))->text(),
+            QStringLiteral(u"\u206630 hits\u2069"));
+  form().menus().FilterHits->trigger();
+  type(controls().FilterStr, QStringLiteral("7"));
+  const QString shown = QStringLiteral(u"\u20663 of 30 shown\u2069");
+  EXPECT_TRUE(eventually([&] { return controls().lblShown->text() == shown; }))
+      << controls().lblShown->text().toStdString();
+  form().progress().setDetail(QStringLiteral("3 files in 1 folder"));
+  EXPECT_EQ(form().progress().findChild<QLabel*>(QStringLiteral("Detail"))->text(),
+            QStringLiteral(u"\u20663 files in 1 folder\u2069"));
+}
+
+TEST_F(MirroredWindows, SizesOfEarlierVersionsStayInFrontOfTheirUnits) {
+  folder_.writeFile(QStringLiteral("Music.txt"), listingOf("MUSIC", 30, "song"));
+  const QString made = folder_.writeFile(QStringLiteral("made"), listingOf("MUSIC", 31, "song"));
+  ListingHistory history(folder_.path());
+  ASSERT_EQ(history.keep(QStringLiteral("Music.txt"), made, true).fault, QString());
+  HistoryWindow window(history, QLocale::c(), {}, nullptr);
+  const auto* versions = window.findChild<QTreeWidget*>(QStringLiteral("Versions"));
+  ASSERT_EQ(versions->topLevelItemCount(), 1);
+  const QString size = versions->topLevelItem(0)->text(2);
+  EXPECT_TRUE(size.startsWith(QChar(u'\u2066')) && size.endsWith(QChar(u'\u2069'))) << size.toStdString();
+}
+
+TEST_F(MirroredWindows, CountsAreBesideTheirCaptions) {
+  form();
+  for (const QLabel* label : {controls().lblFound, controls().lblSearched, controls().searchLabel}) {
+    EXPECT_TRUE(label->alignment().testFlag(Qt::AlignRight)) << label->text().toStdString();
+    EXPECT_TRUE(label->alignment().testFlag(Qt::AlignAbsolute)) << label->text().toStdString();
+  }
+  EXPECT_TRUE(controls().lblVer->alignment().testFlag(Qt::AlignLeft));
+}
+
+TEST_F(MirroredWindows, MessagesAreReadFromLeftToRight) {
+  QString seen;
+  QTimer::singleShot(0, [&seen] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    seen = box->text();
+    box->accept();
+  });
+  WidgetMessageBoxes().inform(QStringLiteral("3 of 4 are gone.\r\nAll is well."));
+  EXPECT_EQ(seen, QStringLiteral(u"\u20663 of 4 are gone.\u2069\n\u2066All is well.\u2069"));
 }
 
 TEST_F(MirroredWindows, TheEditorIsTheMirrorImage) {

@@ -1,33 +1,16 @@
 // The colours in which rows are drawn on light and dark backgrounds.
 #include "hits/hit_list_delegate.h"
 
-#include "hits/hit_list.h"
-#include "hits/hit_list_model.h"
+#include "hits/painted_list.h"
 #include "hits/scan_into.h"
 #include "support/listing_lines.h"
 
 #include <QHeaderView>
-#include <QImage>
 #include <QStandardItemModel>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <cstdlib>
 
 namespace quorvin::test {
 
 namespace {
-
-const QColor kLight(255, 255, 255);
-const QColor kDark(30, 30, 30);
-
-double luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
 
 class RowColours : public testing::TestWithParam<SourceKind> {
  protected:
@@ -43,6 +26,55 @@ TEST_P(RowColours, KeepTheirHueAndCanBeReadOnADarkBackground) {
   EXPECT_LE(std::abs(drawn.hslHue() - ofKind().hslHue()), 1);
   EXPECT_GE((luminance(drawn) + 0.05) / (luminance(kDark) + 0.05), 4.5);
 }
+
+TEST_P(RowColours, CanBeReadOnEveryBackgroundThatIsNotOfAnOrdinaryLightList) {
+  for (int grey = 0; grey < 230; ++grey) {
+    const QColor background(grey, grey, grey);
+    EXPECT_GE(contrast(readableOn(ofKind(), background), background), 4.5) << grey;
+  }
+  EXPECT_EQ(readableOn(ofKind(), QColor(240, 240, 240)), ofKind());
+}
+
+struct Selection {
+  const char* palette;
+  QColor background;
+  QColor text;
+};
+
+class SelectedRow : public testing::TestWithParam<Selection> {
+ protected:
+  static QColor background() {
+    QStyleOptionViewItem option;
+    option.state = QStyle::State_Enabled | QStyle::State_Active;
+    option.palette.setColor(QPalette::Highlight, GetParam().background);
+    option.palette.setColor(QPalette::HighlightedText, GetParam().text);
+    return HitListDelegate::selectionBrush(option).color();
+  }
+};
+
+TEST_P(SelectedRow, HasABackgroundOfThePalettesHueOnWhichItsTextCanBeRead) {
+  EXPECT_GE(contrast(background(), GetParam().text), 4.5);
+  EXPECT_LE(std::abs(background().hslHue() - GetParam().background.hslHue()), 1);
+}
+
+TEST_P(SelectedRow, HasThePalettesBackgroundWhereTextCanBeReadOnThat) {
+  if (contrast(GetParam().background, GetParam().text) < 4.5) {
+    EXPECT_NE(background(), GetParam().background);
+  } else {
+    EXPECT_EQ(background(), GetParam().background);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfPalettes, SelectedRow,
+    testing::Values(Selection{"light", QColor(48, 140, 198), Qt::white},
+                    Selection{"dark", QColor(61, 174, 233), QColor(252, 252, 252)},
+                    Selection{"accented", QColor(233, 84, 32), Qt::white},
+                    Selection{"pale", QColor(200, 220, 240), QColor(90, 90, 90)},
+                    Selection{"high contrast", QColor(255, 255, 0), Qt::black},
+                    Selection{"high contrast inverted", QColor(26, 235, 255), Qt::black},
+                    Selection{"without a hue", QColor(128, 128, 128), QColor(160, 160, 160)}),
+    [](const auto& info) { return QString::fromLatin1(info.param.palette).remove(u' ').toStdString(); });
 
 /// The colour in which the delegate draws a row of this kind.
 class DrawnColour : public HitListDelegate {
@@ -64,7 +96,7 @@ TEST_P(RowColours, CanBeReadOnEverySecondRowOfADarkPaletteHoweverLightThatIs) {
     palette.setColor(QPalette::Base, kDark);
     palette.setColor(QPalette::AlternateBase, QColor(grey, grey, grey));
     const QColor drawn = DrawnColour().of(ofKind(), palette, true);
-    const auto [darker, lighter] = std::minmax(luminance(drawn), luminance(QColor(grey, grey, grey)));
+    const auto [darker, lighter] = std::minmax({luminance(drawn), luminance(QColor(grey, grey, grey))});
     EXPECT_GE((lighter + 0.05) / (darker + 0.05), 4.5) << grey;
   }
 }
@@ -74,26 +106,6 @@ TEST_P(RowColours, AreExactOnEverySecondRowOfALightPalette) {
   palette.setColor(QPalette::Base, kLight);
   palette.setColor(QPalette::AlternateBase, QColor(245, 245, 245));
   EXPECT_EQ(DrawnColour().of(ofKind(), palette, true), ofKind());
-}
-
-/// Whether anything in the picture is drawn about in `colour`; text is smoothed against its background.
-bool holds(const QImage& picture, const QColor& colour) {
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      const QColor pixel = picture.pixelColor(x, y);
-      const int distance = std::abs(pixel.red() - colour.red()) + std::abs(pixel.green() - colour.green()) +
-                           std::abs(pixel.blue() - colour.blue());
-      if (distance < 40) return true;
-    }
-  }
-  return false;
-}
-
-void show(HitListView& view, HitListModel& model) {
-  view.setModel(&model);
-  view.resize(700, 100);
-  view.show();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
 }
 
 QImage pictureOfFirstRow(HitListView& view, HitListModel& model, bool isSelected) {
@@ -214,6 +226,48 @@ TEST_F(FoundWords, AreCountedInTheTooltip) {
   EXPECT_EQ(delegate->tooltip(option, model_.index(0, static_cast<int>(HitColumn::Name))),
             QStringLiteral("<p style='white-space:pre-wrap'>From the listing of an online source\n"
                            "2 of 2 words</p>"));
+}
+
+TEST_F(FoundWords, AreDrawnAsInOtherDirectionsWherePeopleReadFromRightToLeft) {
+  // How many pixels of each column of the name are no background, from its first to its last letter.
+  const auto columnsWithInk = [this](bool isMirrored) {
+    view_.setLayoutDirection(isMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    QCoreApplication::processEvents();
+    const int name = static_cast<int>(HitColumn::Name);
+    QRect cell = view_.rowRect(0);
+    cell.setLeft(view_.header()->sectionViewportPosition(name));
+    cell.setWidth(view_.header()->sectionSize(name));
+    const QImage picture = view_.viewport()->grab(cell).toImage();
+    QString inked;
+    for (int x = 0; x < picture.width(); ++x) {
+      int ink = 0;
+      for (int y = 0; y < picture.height(); ++y) ink += picture.pixelColor(x, y) == kLight ? 0 : 1;
+      inked += QChar(static_cast<char16_t>(u'0' + ink));
+    }
+    while (inked.startsWith(u'0')) inked.remove(0, 1);
+    while (inked.endsWith(u'0')) inked.chop(1);
+    return inked;
+  };
+  for (const bool knowsWords : {false, true}) {
+    model_.clear(knowsWords ? SearchQuery(QStringLiteral("live song"), 40) : SearchQuery());
+    scanInto(table_, SourceKind::Online, blockHead("D", "\\Live\\") + "03 - A song.mp3\r\n",
+             QStringLiteral("live song"));
+    model_.hitsArrived();
+    QPalette palette;
+    palette.setColor(QPalette::Base, kLight);
+    palette.setColor(QPalette::AlternateBase, kLight);
+    view_.setPalette(palette);
+    show(view_, model_);
+    view_.setCurrentIndex({});
+    view_.clearSelection();
+    // The dash behind the number, a line of one pixel, tells where the number is.
+    const QString dash = QStringLiteral("1111");
+    const qsizetype usual = columnsWithInk(false).indexOf(dash);
+    EXPECT_GT(usual, 0);
+    EXPECT_NEAR(static_cast<double>(columnsWithInk(true).indexOf(dash)), static_cast<double>(usual), 2)
+        << knowsWords;
+    view_.setLayoutDirection(Qt::LeftToRight);
+  }
 }
 
 const auto kKinds = testing::Values(SourceKind::Online, SourceKind::MainDataFile, SourceKind::Offline);
