@@ -31,6 +31,7 @@ SearchFormSources::SearchFormSources(ProgramState& state, MessageBoxes& messages
     : state_(state),
       messages_(messages),
       list_(*controls.HitList),
+      searchText_(*controls.SearchStr),
       rescan_(std::move(rescan)),
       changed_(std::move(changed)),
       folders_(makeOffer(QStringLiteral("OfferFolders"), QStringLiteral("&Catalogue folders of your own"),
@@ -63,8 +64,8 @@ QCommandLinkButton* SearchFormSources::makeOffer(const QString& name, const QStr
 void SearchFormSources::showOffers() {
   const bool isEmpty = !state_.hasSources() && list_.model()->rowCount() == 0;
   for (QCommandLinkButton* offer : {folders_, listings_}) {
-    // The keyboard would be nowhere.
-    if (!isEmpty && offer->hasFocus()) list_.setFocus();
+    // The keyboard would be nowhere; and what comes next is a search.
+    if (!isEmpty && offer->window()->focusWidget() == offer) searchText_.setFocus();
     offer->setVisible(isEmpty);
   }
   if (isEmpty) placeOffers();

@@ -41,6 +41,7 @@ class SearchFormSources : public QObject {
   ProgramState& state_;
   MessageBoxes& messages_;
   HitListView& list_;
+  QWidget& searchText_;
   std::function<void()> rescan_;
   std::function<void()> changed_;
   QCommandLinkButton* folders_;

@@ -1,5 +1,8 @@
 #include "editors/file_picker.h"
 
+#include "platform/screen_room.h"
+
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -40,11 +43,27 @@ QString endingOf(const QString& form) {
   return form.mid(start).section(u')', 0, 0).section(u' ', 0, 0);
 }
 
+QStringList allPicked(QFileDialog& dialog) {
+  dialog.resize(dialog.sizeHint().boundedTo(largestInside(*dialog.screen())));
+  QStringList paths;
+  if (dialog.exec() != QDialog::Accepted) return paths;
+  for (const QString& file : dialog.selectedFiles()) paths.append(QDir::toNativeSeparators(file));
+  return paths;
+}
+
 std::optional<QString> picked(QFileDialog& dialog) {
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  const QStringList files = dialog.selectedFiles();
-  if (files.isEmpty()) return std::nullopt;
-  return QDir::toNativeSeparators(files.first());
+  const QStringList files = allPicked(dialog);
+  return files.isEmpty() ? std::nullopt : std::optional(files.first());
+}
+
+void askForFolderIn(QFileDialog& dialog, const FileQuestion& question) {
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  dialog.setDirectory(existingFolder(question.initialFolder));
+}
+
+PickedFile inFolder(const QString& folder, const FileQuestion& question, PathStyle style) {
+  return {withTrailingSeparator(folder, style) + question.fileName, question.fileName};
 }
 
 }  // namespace
@@ -65,18 +84,24 @@ QStringList DialogFilePicker::openFiles(const FileQuestion& question) {
   dialog.setFileMode(QFileDialog::ExistingFiles);
   dialog.setDirectory(existingFolder(question.initialFolder));
   if (!question.fileName.isEmpty()) dialog.selectFile(question.fileName);
-  QStringList paths;
-  if (dialog.exec() != QDialog::Accepted) return paths;
-  for (const QString& file : dialog.selectedFiles()) paths.append(QDir::toNativeSeparators(file));
-  return paths;
+  return allPicked(dialog);
 }
 
 std::optional<QString> DialogFilePicker::pickFolder(const FileQuestion& question) {
   QFileDialog dialog(QApplication::activeWindow());
-  dialog.setFileMode(QFileDialog::Directory);
-  dialog.setOption(QFileDialog::ShowDirsOnly);
-  dialog.setDirectory(existingFolder(question.initialFolder));
+  askForFolderIn(dialog, question);
   return picked(dialog);
+}
+
+QStringList DialogFilePicker::pickFolders(const FileQuestion& question) {
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Choose Folders to Catalogue"));
+  askForFolderIn(dialog, question);
+  // The toolkit's own dialog has these views, and says of a folder only that it is to be one.
+  for (const char* name : {"listView", "treeView"}) {
+    auto* view = dialog.findChild<QAbstractItemView*>(QString::fromLatin1(name));
+    if (view) view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  }
+  return allPicked(dialog);
 }
 
 std::optional<QString> DialogFilePicker::saveFile(const SaveQuestion& question) {
@@ -107,7 +132,16 @@ QStringList askForFiles(FilePicker& picker, const FileQuestion& question) {
 std::optional<PickedFile> askForFolder(FilePicker& picker, const FileQuestion& question, PathStyle style) {
   const std::optional<QString> folder = askQuietly([&] { return picker.pickFolder(question); });
   if (!folder || folder->isEmpty()) return std::nullopt;
-  return PickedFile{withTrailingSeparator(*folder, style) + question.fileName, question.fileName};
+  return inFolder(*folder, question, style);
+}
+
+std::vector<PickedFile> askForFolders(FilePicker& picker, const FileQuestion& question, PathStyle style) {
+  const auto folders = askQuietly([&] { return std::optional(picker.pickFolders(question)); });
+  std::vector<PickedFile> all;
+  for (const QString& folder : folders.value_or(QStringList())) {
+    if (!folder.isEmpty()) all.push_back(inFolder(folder, question, style));
+  }
+  return all;
 }
 
 QString folderOf(const PickedFile& picked) {

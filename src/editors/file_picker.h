@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <vector>
 
 namespace quorvin {
 
@@ -51,6 +52,13 @@ class FilePicker {
   /// initial folder is used.
   virtual std::optional<QString> pickFolder(const FileQuestion& question) = 0;
 
+  /// The same for any number of folders; none when the user cancels. A picker that knows only single folders
+  /// gives one.
+  virtual QStringList pickFolders(const FileQuestion& question) {
+    const std::optional<QString> folder = pickFolder(question);
+    return folder ? QStringList(*folder) : QStringList();
+  }
+
   /// The whole native path under which the user wants to save, with the ending of the chosen form where none
   /// was typed; nothing when the user cancels. A file that is there is to be replaced.
   virtual std::optional<QString> saveFile(const SaveQuestion& question) = 0;
@@ -62,6 +70,8 @@ class DialogFilePicker : public FilePicker {
   std::optional<QString> openFile(const FileQuestion& question) override;
   QStringList openFiles(const FileQuestion& question) override;
   std::optional<QString> pickFolder(const FileQuestion& question) override;
+  /// Native dialogs let the user pick one.
+  QStringList pickFolders(const FileQuestion& question) override;
   std::optional<QString> saveFile(const SaveQuestion& question) override;
 };
 
@@ -80,6 +90,10 @@ QStringList askForFiles(FilePicker& picker, const FileQuestion& question);
 /// Lets the user pick a folder; the answer is as if the user had confirmed the prefilled file name in it. A
 /// picker that fails counts as cancelled.
 std::optional<PickedFile> askForFolder(FilePicker& picker, const FileQuestion& question, PathStyle style);
+
+/// Lets the user pick any number of folders; each answer is as askForFolder() gives it. A picker that fails
+/// counts as cancelled.
+std::vector<PickedFile> askForFolders(FilePicker& picker, const FileQuestion& question, PathStyle style);
 
 /// The part of `FileName` before the first occurrence of `FileTitle`: the folder with its trailing separator,
 /// unless a folder further up holds the title in its name.

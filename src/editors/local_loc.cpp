@@ -1,7 +1,8 @@
 #include "editors/local_loc.h"
 
+#include "platform/screen_room.h"
+
 #include <QKeySequence>
-#include <QScreen>
 #include <QShortcut>
 #include <QToolTip>
 
@@ -63,7 +64,7 @@ void LocalLoc::arrangeForOffline() {
 void LocalLoc::takeInitialSize() {
   setMinimumSize(laidOutFor_);
   const QSize wanted = initialLocalLocSize(controls_, laidOutFor_);
-  resize(wanted.boundedTo(screen()->availableGeometry().size()).expandedTo(laidOutFor_));
+  resize(wanted.boundedTo(largestInside(*screen())).expandedTo(laidOutFor_));
 }
 
 void LocalLoc::connectControls() {
@@ -226,6 +227,9 @@ void LocalLoc::GetListName_Click() {
   if (LocMode_ != kOfflineMode) proposeDescription(*path);
   // The next Enter is to add what was picked, not to pick again.
   controls_.LocAdd->setFocus();
+  const bool isOffline = LocMode_ == kOfflineMode;
+  setNotice(controls_, isOffline ? QStringLiteral("Not in the list yet: Add puts the file there.")
+                                 : QStringLiteral("Not in the list yet: Add puts the folder there."));
 }
 
 /// A folder's name says more than the description that is given, and each folder needs one of its own.
@@ -241,8 +245,8 @@ void LocalLoc::showNotice() {
   setNotice(controls_, isOffline ? QString() : descriptionNotice(entries_.entries(), editing_.state));
 }
 
-/// Nothing when the user has cancelled; an empty path when several listings were picked, which are in the
-/// list by then.
+/// Nothing when the user has cancelled; an empty path when several sources were picked, which are in the list
+/// by then.
 std::optional<QString> LocalLoc::pickedPath(const FileQuestion& question) {
   if (LocMode_ == kOfflineMode) {
     const QStringList files = askForFiles(editing_.picker, question);
@@ -251,8 +255,13 @@ std::optional<QString> LocalLoc::pickedPath(const FileQuestion& question) {
     appendAll(files);
     return QString();
   }
-  const std::optional<PickedFile> folder = askForFolder(editing_.picker, question, editing_.pathStyle);
-  return folder ? std::optional(folderOf(*folder)) : std::nullopt;
+  const std::vector<PickedFile> folders = askForFolders(editing_.picker, question, editing_.pathStyle);
+  if (folders.empty()) return std::nullopt;
+  if (folders.size() == 1) return folderOf(folders.front());
+  QStringList paths;
+  for (const PickedFile& folder : folders) paths.append(folderOf(folder));
+  appendAll(paths);
+  return QString();
 }
 
 void LocalLoc::OK_Click() {

@@ -80,6 +80,17 @@ std::vector<BusNode> AccessibleBus::everythingBelow(const BusNode& top) const {
   return all;
 }
 
+QRect AccessibleBus::place(const BusNode& node) const {
+  constexpr uint kOnScreen = 0;
+  QDBusMessage call = callTo(node, "org.a11y.atspi.Component", "GetExtents");
+  call << kOnScreen;
+  const QVariant extents = answer(call);
+  if (!extents.isValid()) return {};
+  QRect place;
+  extents.value<QDBusArgument>() >> place;
+  return place;
+}
+
 void AccessibleBus::press(const BusNode& node) const {
   QDBusMessage call = callTo(node, "org.a11y.atspi.Action", "DoAction");
   call << 0;

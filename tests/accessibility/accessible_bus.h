@@ -4,6 +4,7 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QRect>
 #include <QString>
 #include <QVariant>
 
@@ -36,6 +37,9 @@ class AccessibleBus {
   std::vector<BusNode> children(const BusNode& parent) const;
   /// Everything below `top`, from top to bottom.
   std::vector<BusNode> everythingBelow(const BusNode& top) const;
+
+  /// Where on the screen it is, in pixels; empty where that is not known.
+  QRect place(const BusNode& node) const;
 
   /// Does what pressing would do. Returns at once: a press may open a dialog, and is over when that is
   /// closed.

@@ -4,6 +4,7 @@
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
+#include <QAbstractItemView>
 #include <QFileDialog>
 
 namespace quorvin::test {
@@ -77,6 +78,31 @@ TEST_F(FileDialogs, AFolderIsPicked) {
                          confirm(dialog, QStringLiteral("inner"));
                        }),
             folder_.pathOf(QStringLiteral("inner")));
+}
+
+TEST_F(FileDialogs, SeveralFoldersArePickedAtOnce) {
+  folder_.makeFolder(QStringLiteral("other"));
+  const auto pickTwo = [](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Choose Folders to Catalogue"));
+    confirm(dialog, QStringLiteral("\"inner\" \"other\""));
+  };
+  QStringList paths;
+  EXPECT_TRUE(duringModal<QFileDialog>([&] { paths = DialogFilePicker().pickFolders(question()); }, pickTwo));
+  EXPECT_EQ(paths,
+            (QStringList{folder_.pathOf(QStringLiteral("inner")), folder_.pathOf(QStringLiteral("other"))}));
+}
+
+TEST_F(FileDialogs, TheViewsOfFoldersLetSeveralBeSelected) {
+  EXPECT_TRUE(duringModal<QFileDialog>(
+      [this] { DialogFilePicker().pickFolders(question()); },
+      [](QFileDialog& dialog) {
+        for (const char* name : {"listView", "treeView"}) {
+          const auto* view = dialog.findChild<QAbstractItemView*>(QString::fromLatin1(name));
+          ASSERT_NE(view, nullptr);
+          EXPECT_EQ(view->selectionMode(), QAbstractItemView::ExtendedSelection);
+        }
+      }));
 }
 
 TEST_F(FileDialogs, WhatIsSavedGetsTheEndingOfItsForm) {

@@ -24,7 +24,11 @@ class RecordingFilePicker : public FilePicker {
     askedForFolder.push_back(question);
     return answer();
   }
-
+  QStringList pickFolders(const FileQuestion& question) override {
+    if (picks.isEmpty()) return FilePicker::pickFolders(question);
+    askedForFolder.push_back(question);
+    return picks;
+  }
   std::optional<QString> saveFile(const SaveQuestion& question) override {
     askedToSave.push_back(question);
     if (duringSave) duringSave();
@@ -38,7 +42,7 @@ class RecordingFilePicker : public FilePicker {
   std::function<void()> duringSave;
   /// What is picked next; nothing is a cancel.
   std::optional<QString> pick;
-  /// Where several files can be picked: these, unless there are none.
+  /// Where several files or folders can be picked: these, unless there are none.
   QStringList picks;
   bool fails = false;
 

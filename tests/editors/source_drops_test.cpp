@@ -140,6 +140,24 @@ TEST_F(EditorDrops, SeveralListingsOfOnePickAreAppended) {
   });
 }
 
+TEST_F(EditorDrops, APickedFolderThatIsNotInTheListYetIsSaidToBeMissingThereUntilItIsAdded) {
+  picker_.pick = QStringLiteral("/m/Music");
+  click(controls().GetListName);
+  EXPECT_TRUE(controls().Notice->isVisible());
+  EXPECT_EQ(controls().Notice->toolTip(), QStringLiteral("Not in the list yet: Add puts the folder there."));
+  click(controls().LocAdd);
+  EXPECT_FALSE(controls().Notice->isVisible());
+}
+
+TEST_F(EditorDrops, SeveralFoldersOfOnePickAreAppendedUnderTheirNames) {
+  picker_.picks = {QStringLiteral("/m/Music"), QStringLiteral("/m/Films")};
+  click(controls().GetListName);
+  EXPECT_EQ(edited(), (Entries{{QStringLiteral("Music"), QStringLiteral("/m/Music/")},
+                               {QStringLiteral("Films"), QStringLiteral("/m/Films/")}}));
+  EXPECT_EQ(controls().LocalDataFolder->text(), QString());
+  EXPECT_TRUE(messages_.informed.empty());
+}
+
 }  // namespace
 
 }  // namespace quorvin::test

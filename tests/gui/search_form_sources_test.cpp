@@ -78,6 +78,15 @@ TEST_F(IncomingSources, TheOffersAreInsideTheListAndOffTheText) {
             1);
 }
 
+TEST_F(IncomingSources, AnOfferThatIsTakenLeavesTheKeysToTheSearch) {
+  form();
+  tabTo("OfferFolders");
+  addMissingOnlineSource(QStringLiteral("Music"));
+  form().sourcesChanged();
+  EXPECT_FALSE(offer("OfferFolders")->isVisible());
+  EXPECT_EQ(focusName(), QStringLiteral("SearchStr"));
+}
+
 TEST_F(IncomingSources, WithASourceNothingIsOffered) {
   addMissingOnlineSource(QStringLiteral("Music"));
   EXPECT_FALSE(offer("OfferFolders")->isVisible());
