@@ -110,7 +110,8 @@ QString HitTable::listing(std::int64_t row) const {
 
 void HitTable::clear() {
   ++timesCleared_;
-  pages_.resize(std::min(pages_.size(), kPagesKept));
+  const auto filled = static_cast<std::size_t>((rowCount_ + kPageSize - 1) / kPageSize);
+  pages_.resize(std::min(pages_.size(), std::max(filled, kPagesKept)));
   segments_.clear();
   carried_.clear();
   rowCount_ = 0;

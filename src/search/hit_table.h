@@ -63,7 +63,8 @@ class HitTable : public HitSink {
   /// Size and date of `row`. Throws DamagedSegment.
   EntryValues values(std::int64_t row) const;
 
-  /// Removes all rows and releases the segments.
+  /// Removes all rows and releases the segments. Memory for as many rows stays, so that a next run with as
+  /// many hits need not ask for it.
   void clear();
   /// How often clear() has been called: while it stays the same, so do the rows that there are.
   std::int64_t timesCleared() const { return timesCleared_; }
@@ -91,7 +92,8 @@ class HitTable : public HitSink {
   static constexpr std::int64_t kNoRow = -1;
   /// Hits are kept in pages, so that growing never copies them.
   static constexpr std::int64_t kPageSize = 1 << 16;
-  /// This many (16 MB) stay for the next run: new memory costs more than what is written to it.
+  /// This many (16 MB) stay for the next run, or as many as the last run has filled: new memory costs more
+  /// than what is written to it.
   static constexpr std::size_t kPagesKept = 32;
 
   void readRow(std::int64_t row, HitRow& result) const;
