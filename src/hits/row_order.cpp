@@ -14,7 +14,6 @@ namespace {
 
 /// Events run in between.
 constexpr std::chrono::milliseconds kSlice{8};
-constexpr std::int64_t kRowsPerLook = 4096;
 
 SliceEnd endOfSlice() {
   const auto end = std::chrono::steady_clock::now() + kSlice;

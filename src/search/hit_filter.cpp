@@ -14,7 +14,7 @@ namespace quorvin {
 namespace {
 
 /// What is looked at before the clock is looked at again: some 0.05 ms.
-constexpr std::int64_t kRowsPerLook = 8192;
+constexpr std::int64_t kRowsPerStep = 8192;
 /// All entries between the first and the last of a stretch are searched where no more than so many come on
 /// one row that matters: looking at a single one takes as long.
 constexpr std::int64_t kEntriesPerRow = 32;
@@ -113,7 +113,7 @@ bool HitFilter::goOn(std::int64_t end, const SliceEnd& isOver) {
   while (lookedAt_ < end) {
     if (isOver()) return false;
     HitStretch stretch = table_.stretchAt(lookedAt_);
-    std::int64_t most = std::min(kRowsPerLook, end - lookedAt_);
+    std::int64_t most = std::min(kRowsPerStep, end - lookedAt_);
     // A piece lies on one side of this row.
     if (lookedAt_ < narrowedUntil_) most = std::min(most, narrowedUntil_ - lookedAt_);
     if (std::ssize(stretch.hits) > most) stretch.hits = stretch.hits.first(static_cast<std::size_t>(most));
@@ -165,7 +165,7 @@ void HitFilter::lookAtAll(const HitStretch& stretch) {
   const std::uint32_t first = stretch.hits.front().entry;
   const std::uint32_t last = stretch.hits.back().entry + 1;
   const bool isWhole = last - first == stretch.hits.size();
-  std::array<std::uint64_t, kRowsPerLook / 64> rows;
+  std::array<std::uint64_t, kRowsPerStep / 64> rows;
   rows.fill(~std::uint64_t{0});
   for (Word* word : wordsFor(stretch.firstRow)) {
     const std::span<const std::uint64_t> found = word->search.mark(*stretch.segment, first, last);

@@ -11,7 +11,6 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::int64_t kRowsPerLook = 4096;
 constexpr double kSecondsPerDay = 86400;
 
 /// A number as a key: keys compare as the numbers do.

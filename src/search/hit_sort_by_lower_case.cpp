@@ -11,8 +11,6 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::int64_t kRowsPerLook = 4096;
-
 /// The eight bytes at `place` of folded texts, up to the end of the text.
 std::uint64_t textKey(const CheckedSpan<char>& texts, std::size_t place) {
   if (place >= texts.size()) return 0;

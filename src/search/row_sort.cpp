@@ -8,7 +8,7 @@ namespace quorvin {
 namespace {
 
 /// The clock is looked at after work on so many rows: some 0.1 ms.
-constexpr std::size_t kRowsPerLook = 4096;
+constexpr auto kStep = static_cast<std::size_t>(kRowsPerLook);
 /// So many rows are sorted at once; they fit into the nearest cache.
 constexpr std::size_t kSmallPart = 2048;
 constexpr int kDigitBits = 8;
@@ -45,7 +45,7 @@ bool RowSort::goOn(const SliceEnd& isOver) {
 
 bool RowSort::spend(std::size_t rows, const SliceEnd& isOver) {
   spent_ += rows;
-  if (spent_ < kRowsPerLook) return false;
+  if (spent_ < kStep) return false;
   spent_ = 0;
   return isOver();
 }
@@ -73,7 +73,7 @@ bool RowSort::work(Part& part, const SliceEnd& isOver) {
 bool RowSort::findBits(Part& part, const SliceEnd& isOver) {
   const std::uint64_t first = rows_[part.begin].key();
   for (at_ = std::max(at_, part.begin); at_ < part.end;) {
-    const std::size_t end = std::min(at_ + kRowsPerLook, part.end);
+    const std::size_t end = std::min(at_ + kStep, part.end);
     const std::size_t looked = end - at_;
     for (; at_ < end; ++at_) differing_ |= rows_[at_].key() ^ first;
     if (spend(looked, isOver)) return false;
@@ -88,7 +88,7 @@ bool RowSort::findBits(Part& part, const SliceEnd& isOver) {
 bool RowSort::count(Part& part, const SliceEnd& isOver) {
   const int shift = shiftOf(part.bits);
   for (at_ = std::max(at_, part.begin); at_ < part.end;) {
-    const std::size_t end = std::min(at_ + kRowsPerLook, part.end);
+    const std::size_t end = std::min(at_ + kStep, part.end);
     const std::size_t looked = end - at_;
     for (; at_ < end; ++at_) ++counts_[digitOf(rows_[at_], shift)];
     if (spend(looked, isOver)) return false;
@@ -154,7 +154,7 @@ void RowSort::decideOnAlike(Part& part) {
 bool RowSort::refill(Part& part, const SliceEnd& isOver) {
   at_ = std::max(at_, part.begin);
   while (at_ < part.end) {
-    const std::size_t count = std::min(kRowsPerLook, part.end - at_);
+    const std::size_t count = std::min(kStep, part.end - at_);
     const std::span<KeyedRow> rows(rows_.data() + at_, count);
     if (part.isByRow) {
       for (KeyedRow& row : rows) row.setKey(row.row);

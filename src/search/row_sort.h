@@ -14,6 +14,9 @@ namespace quorvin {
 /// Asked every now and then by work that goes on in slices: true where the present slice is over.
 using SliceEnd = std::function<bool()>;
 
+/// After so many rows it is time to ask: they take some hundredths of a millisecond.
+inline constexpr std::int64_t kRowsPerLook = 4096;
+
 /// A row on its way to its place. In two halves, so that it takes 12 bytes: there may be tens of millions.
 struct KeyedRow {
   std::array<std::uint32_t, 2> keyHalves;
