@@ -328,7 +328,8 @@ int strideOf(const Deed& deed, const SystemFailure& failure) {
   if (allocates && isLarge == isOfConsole(deed)) return 0;
   if (isLarge) return sweep(1, 3);
   if (deed.isAboutMemory) return 0;
-  return allocates ? sweep(7, 499) : isOfConsole(deed) ? 1 : sweep(1, 5);
+  if (allocates) return sweep(7, 499);
+  return isOfConsole(deed) ? sweep(1, 3) : sweep(1, 11);
 }
 
 TEST_P(FailingSystem, EveryFailureIsSaidAndLeavesWholeFiles) {
@@ -358,7 +359,7 @@ class KilledSystem : public FailingSystem {};
 
 TEST_P(KilledSystem, AKilledRunLeavesWholeFilesAndTheNextOneNeedsNoHelp) {
   for (const char* call : {"open", "write", "fsync", "rename", "mkdir", "read", "list"}) {
-    for (int number = 1;; number += isOfConsole(GetParam()) ? 1 : sweep(1, 7)) {
+    for (int number = 1;; number += isOfConsole(GetParam()) ? sweep(1, 3) : sweep(1, 11)) {
       SCOPED_TRACE(testing::Message() << "killed at " << call << " " << number);
       prepare();
       const FailedRun killed = run({call, QStringLiteral("kill")}, number);
