@@ -26,7 +26,7 @@
 namespace quorvin {
 
 /// The rescan, the web update, the unpacking of the main data file, and the exchange of lists with peers,
-/// each as a job of one Work. What is refused is told with the reason. Nothing runs until the user asks for
+/// each as a job of one Work. A refusal is reported with its reason. Nothing runs until the user asks for
 /// it.
 class SearchFormWork {
  public:
@@ -52,7 +52,7 @@ class SearchFormWork {
   /// Whether a window of the program is in front; the tests have an answer of their own.
   void setIsInFront(std::function<bool()> isInFront) { isInFront_ = std::move(isInFront); }
   /// Puts an earlier version in the place of a listing, as a job of the kind Refresh, and packs shared lists
-  /// anew. `ended` is called when that is done, has failed, or was refused, which the user has been told.
+  /// anew. `ended` is called when that is done, has failed, or was refused, which the user has been shown.
   void restoreListing(const QString& listing, int number, std::function<void()> ended);
   void WebUpdate_Click();
   /// What start-up does when only the archive of the main data file is there: shows the main window and

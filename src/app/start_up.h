@@ -15,7 +15,7 @@
 
 namespace quorvin {
 
-/// What the user is told of a file on the command line that is not there.
+/// The message for a file on the command line that is not there.
 inline constexpr char16_t kListingNotFound[] =
     u"Could not find file specified on command line. Using default file.";
 

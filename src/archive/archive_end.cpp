@@ -19,9 +19,10 @@ constexpr std::int64_t kTailSize = kZipLocatorSize + kZipEndRecordSize + 65535;
 
 // The large end record that the locator at `locator` belongs to: where the locator says, or right before it
 // when other bytes come before the archive.
-std::optional<EndRecord> largeEndRecord(const RandomAccessFile& file, quint64 told, std::int64_t locator) {
+std::optional<EndRecord> largeEndRecord(const RandomAccessFile& file, quint64 recorded,
+                                        std::int64_t locator) {
   const auto before = static_cast<quint64>(std::max<std::int64_t>(0, locator - kZipLargeEndRecordSize));
-  for (const quint64 place : {told, before}) {
+  for (const quint64 place : {recorded, before}) {
     if (place > before) continue;
     const QByteArray bytes = file.read(static_cast<std::int64_t>(place), kZipLargeEndRecordSize);
     const ZipBytes record(bytes);

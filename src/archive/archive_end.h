@@ -49,7 +49,7 @@ struct EndRecord {
   bool isOfSeveralFiles = false;
 };
 
-/// The last end record in the first `length` bytes of `file` that a directory stands before, or, when none
+/// The last end record in the first `length` bytes of `file` that has a directory before it, or, when none
 /// does, the last one at all; nothing when there is none. Throws RuntimeFault when the file cannot be read.
 std::optional<EndRecord> endRecordOf(const RandomAccessFile& file, std::int64_t length);
 

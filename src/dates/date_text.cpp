@@ -52,7 +52,7 @@ void foldEach(QStringView text, Sink sink) {
     const bool pair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
     const char32_t character = pair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();
     if (pair) ++i;
-    // A NUL that stands in the text itself must not vanish: it is no part of any date.
+    // A NUL in the text itself must not vanish: it is no part of any date.
     const char32_t result = character == 0 ? kReplacement : folded(character);
     if (result != kNothing) sink(result);
   }

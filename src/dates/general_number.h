@@ -22,7 +22,7 @@ std::int16_t roundToInt16(double value);
 
 /// A size in bytes as it is in a listing: an optional minus sign and digits, with any grouping sign
 /// (comma, dot, blank, no-break blanks, apostrophes) singly between them, blanks around. Digits may be those
-/// of any script. Nothing when there is no digit, anything else stands there, or the value does not fit.
+/// of any script. Nothing when there is no digit, there is anything else, or the value does not fit.
 std::optional<std::int64_t> readByteCount(QStringView text);
 
 /// A size as the hit list shows it: mebibytes with two decimals, at least one digit before the locale's

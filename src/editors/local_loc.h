@@ -95,7 +95,7 @@ class LocalLoc : public QDialog {
   EditHistory history_;
   SourceLooks looks_;
   QTimer lookSoon_;
-  /// What stands in `Desc` unless the user has typed there.
+  /// What is in `Desc` unless the user has typed there.
   QString proposedDescription_;
   /// The inner size that the controls are placed for.
   QSize laidOutFor_;

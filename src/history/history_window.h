@@ -22,8 +22,8 @@ class HistoryWindow : public QDialog {
   Q_OBJECT
 
  public:
-  /// Restores a version, which may take its time; calls `ended` when that has been done or has failed, which
-  /// the user has been told by then.
+  /// Restores a version, which may take its time; calls `ended` when that has been done, or has failed and
+  /// the message has been shown.
   using Restore = std::function<void(const QString& listing, int number, std::function<void()> ended)>;
 
   /// `history` must outlive the window.

@@ -55,7 +55,7 @@ using HistoryPause = std::function<void()>;
 /// Reads `text` to its end. Throws as it does.
 ListingFacts factsOf(ListingBytes& text, const HistoryPause& pause);
 
-/// What stands at the front of a version's file.
+/// The head of a version's file.
 struct VersionHead {
   ListingFacts text;
   /// When the listing was made: milliseconds since the start of 1970, UTC.

@@ -63,7 +63,7 @@ MarkedText partsOf(const MarkedText& line, const Kept& kept) {
   return parts;
 }
 
-/// Whether each character stands to the right of the one before, so that a part is as wide as the
+/// Whether each character is to the right of the one before, so that a part is as wide as the
 /// places where it starts and ends are apart.
 bool runsToTheRight(const QString& text) {
   constexpr char16_t kFirstOfOtherDirections = 0x0590;

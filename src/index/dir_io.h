@@ -72,7 +72,7 @@ class NameTable {
   }
 
   std::size_t size() const { return rows_.size(); }
-  /// A NUL stands behind it. Valid until the table changes.
+  /// A NUL follows it. Valid until the table changes.
   std::string_view name(std::size_t row) const {
     return {bytes_.data() + rows_[row].offset, rows_[row].length};
   }

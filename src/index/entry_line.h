@@ -41,7 +41,7 @@ class ListedDates {
   void appendZero(std::string& line) const { line += zeroDate_; }
 
  private:
-  // One field of a pattern with what stands beside it, as a text for each value that the field can have.
+  // One field of a pattern with the literal text beside it, as a text for each value that the field can have.
   struct Part {
     PatternField field;
     std::vector<std::string> texts;

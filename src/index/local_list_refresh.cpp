@@ -223,7 +223,7 @@ class Refresh {
     try {
       earlier = history_.newestComplete(nameOf(source));
     } catch (const RuntimeFault&) {
-      // Whoever looks for an earlier version is told why there is none.
+      // So that whoever looks for an earlier version learns why there is none.
     }
     if (!earlier) return {};
     return QStringLiteral("; File, Listing History brings back the one of %1 with %2 entries")

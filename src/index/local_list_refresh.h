@@ -30,7 +30,7 @@ struct RefreshOutcome {
   std::int64_t leftOut = 0;
   /// `RescanAbort` ended it before its last source.
   bool isStopped = false;
-  /// What the user is told of the fault that ended it; empty when there was none.
+  /// The message for the fault that ended it; empty when there was none.
   QString fault;
   /// What there is to report of single names and sources, lines that end with CR LF: the whole error log,
   /// which is empty now. After a fault the log is left for the next refresh.

@@ -59,7 +59,7 @@ std::optional<Step> WalkFaults::stepAfter(FaultNumber number, std::string_view n
   return Step::Skipped;
 }
 
-// The line itself holds a name alone, so the folder of a file stands in a line above.
+// The line itself holds a name alone, so the folder of a file is named in a line above.
 void WalkFaults::noteAccessError(std::string_view name) {
   const bool goesOn = state_.errorLog.size() == endOfAccessErrors_ && folderOfAccessErrors_ == folderPath_;
   if (!name.empty() && !goesOn) state_.errorLog += QStringLiteral("In %1:\r\n").arg(folder());

@@ -14,7 +14,7 @@ struct ProgramPlace {
 /// Those of this run: where the executable is, and userDataFolder().
 ProgramPlace usualProgramPlace();
 
-/// Whether the program in `executableFolder` was installed, that is its help stands in "share/quorvin" beside
+/// Whether the program in `executableFolder` was installed, that is its help is in "share/quorvin" beside
 /// that folder, or was built there, that is CMake's cache is in the folder above. Such a folder may be
 /// emptied or removed by those who make it, whoever may write there.
 bool isInstalledOrBuilt(const QString& executableFolder);

@@ -180,7 +180,7 @@ QString stored(const SettingsStore& store, const QString& application, const QSt
   return store.read(application, QString::fromUtf16(kSettingsSection), key, {});
 }
 
-/// Whether what stands beside the program is in use, or was, before the settings were lost.
+/// Whether what is beside the program is in use, or was, before the settings were lost.
 bool isInUse(const QString& localFolder, const ProgramPlace& place) {
   if (!localFolder.isEmpty()) return isSameFolder(localFolder, place.executableFolder);
   // Then a first run takes the folder that is named there.

@@ -16,7 +16,7 @@ namespace quorvin {
 /// data file, archive, what came from peers, history) into the data folder, with the offline list's paths led
 /// there; stores the new `LocalFolder` where one was stored; and says so. The files beside the program stay.
 /// Nothing is ever replaced: where the data folder holds a different file of one of these names, nothing is
-/// copied, and the user is told to choose. A fault is reported too; then everything is as before, and the
+/// copied, and the user is asked to choose. A fault is reported too; then everything is as before, and the
 /// next start tries again. Never throws.
 void takeAlongData(SettingsStore& store, const QString& application, const ProgramPlace& place,
                    MessageBoxes& messages);

@@ -34,7 +34,7 @@ void saveSourceList(const QString& path, const SourceTable& table, int count);
 /// Only the list that was read, or saved by this program, is replaced just so. Any other may hold records
 /// that are in no table (it was broken, its folder was not connected or became the data folder later, another
 /// program has written to it since); it stays where the user has nothing to save: the table is empty, or the
-/// same as it was read from this list. Otherwise it is copied beside it, and the user is told. The list that
+/// same as it was read from this list. Otherwise it is copied beside it, and a message says so. The list that
 /// was read is known by its bytes, under every spelling of its path.
 ///
 /// A list with a path where a description should be is damaged, most likely by a double quote, and saving it

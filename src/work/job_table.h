@@ -44,7 +44,7 @@ enum class Answer : std::uint8_t {
 /// The one rule of what may run beside what: the answer to `wanted` while `running` runs.
 Answer answerWhile(JobKind running, JobKind wanted);
 
-/// What the user is told when `wanted` is refused since `running` runs: what is running, and that the other
+/// The message when `wanted` is refused since `running` runs: what is running, and that the other
 /// can be started when it has ended. Empty while the program closes: nothing more is said then.
 QString refusalText(JobKind running, JobKind wanted);
 

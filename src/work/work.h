@@ -29,8 +29,8 @@ class Job {
   Job& operator=(Job&&) = delete;
   ~Job() { end(); }
 
-  /// Ends the job before the end of its object, which must not be used any more: for what is told of it when
-  /// it does not run any longer.
+  /// Ends the job before the end of its object, which must not be used any more: for what is reported of it
+  /// when it does not run any longer.
   void end();
 
   /// What the job shows itself in. It must not be used after the job's end.

@@ -113,7 +113,7 @@ class PeerConnection : public QObject {
   bool isOver_ = false;
 };
 
-/// The listening socket, element 0 of `IPServ`. It accepts one connection, and then no more until it is told
+/// The listening socket, element 0 of `IPServ`. It accepts one connection, and then no more until it is asked
 /// to; the others wait in the system's queue. So a flood of callers leaves room for other events.
 class PeerListener : public QTcpServer {
   Q_OBJECT
