@@ -53,12 +53,24 @@ void PeerExchange::offerWhenPossible() {
   if (!mayAsk_()) return;
   offer_.stop();
   const PeerOutcome outcome = *std::exchange(outcome_, std::nullopt);
-  const bool added = offerReceivedLists(outcome, state_, *unpacking, messages_, unpackingIn(*unpacking));
+  bool added = false;
+  try {
+    added = offerReceivedLists(outcome, state_, *unpacking, messages_, unpackingIn(*unpacking));
+  } catch (...) {
+    // What came stays in its folder, and lists can be got again.
+    unpacking.reset();
+    endGetting(false);
+    throw;
+  }
   unpacking.reset();
-  getting_.reset();
-  if (added) Q_EMIT offlineSourcesAdded();
-  Q_EMIT outcomeDealtWith();
+  endGetting(added);
   work_.wake();
+}
+
+void PeerExchange::endGetting(bool sourcesAdded) {
+  getting_.reset();
+  if (sourcesAdded) Q_EMIT offlineSourcesAdded();
+  Q_EMIT outcomeDealtWith();
 }
 
 }  // namespace quorvin

@@ -62,6 +62,7 @@ class PeerExchange : public QObject {
  private:
   void conversationEnded(const PeerOutcome& outcome);
   void offerWhenPossible();
+  void endGetting(bool sourcesAdded);
 
   ProgramState& state_;
   Work& work_;

@@ -237,6 +237,8 @@ int main(int argc, char** argv) {
   } catch (const quorvin::RuntimeFault& fault) {
     // As the event loop's edge shows it.
     quorvin::test::PrintedMessages::print(fault.text());
+  } catch (const std::bad_alloc&) {
+    quorvin::test::PrintedMessages::print(QStringLiteral("Run-time error: Out of memory"));
   } catch (const std::runtime_error& error) {
     // The scenario's own server did not come up.
     quorvin::test::PrintedMessages::print(QString::fromUtf8(error.what()));
