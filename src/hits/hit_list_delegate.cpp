@@ -175,7 +175,7 @@ void HitListDelegate::paintMarked(QPainter& painter, const QStyleOptionViewItem&
   painter.setClipRect(option.rect, Qt::IntersectClip);
   painter.setPen(textColour(cell));
   const Cut cut = cell.textElideMode == Qt::ElideMiddle ? Cut::Middle : Cut::End;
-  drawLine(painter, cutToWidth(whole, cell.font, place.width(), cut), cell.font, place, lines);
+  drawLine(painter, whole, cell.font, place, lines, cut);
   painter.restore();
 }
 

@@ -112,10 +112,16 @@ MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width, Cu
 }
 
 void drawLine(QPainter& painter, const MarkedText& line, const QFont& font, const QRect& place,
-              const QTextOption& option) {
+              const QTextOption& option, Cut cut) {
   QTextLayout layout(line.text, font);
   layOut(layout, line, option, place.width());
   if (layout.lineCount() == 0) return;
+  // Most lines fit, and laying one out is most of the work.
+  if (layout.lineAt(0).naturalTextWidth() > place.width()) {
+    const MarkedText fitting = cutToWidth(line, font, place.width(), cut);
+    layout.setText(fitting.text);
+    layOut(layout, fitting, option, place.width());
+  }
   const qreal height = layout.lineAt(0).height();
   layout.draw(&painter, QPointF(place.x(), place.y() + (place.height() - height) / 2));
 }

@@ -29,9 +29,9 @@ enum class Cut { End, Middle };
 /// an ellipsis behind them; or, cut in the middle, of its first and last ones with the ellipsis between.
 MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width, Cut cut = Cut::End);
 
-/// Draws the line in the painter's pen, in the middle of the height of `place`; direction and alignment are
-/// those of `option`.
+/// Draws the line in the painter's pen, cut to the width of `place` and in the middle of its height;
+/// direction and alignment are those of `option`.
 void drawLine(QPainter& painter, const MarkedText& line, const QFont& font, const QRect& place,
-              const QTextOption& option);
+              const QTextOption& option, Cut cut = Cut::End);
 
 }  // namespace quorvin
