@@ -69,7 +69,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       windows_(state, messages, menus_,
                {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_)}, *this,
                locale, picker),
-      export_({state, runMessages_, jobs_.work(), windows_.picker(), hits_, hitActions_, status_, locale}),
+      export_(
+          {state, runMessages_, jobs_.work(), windows_.picker(), hits_, *controls_.HitList, status_, locale}),
       frame_(*this, controls_, display_, jobs_, windows_) {
   setObjectName(QStringLiteral("SearchForm"));
   setWindowTitle(applicationTitle());
@@ -114,6 +115,7 @@ void SearchForm::connectControls() {
 
   auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
   connect(stop, &QShortcut::activated, this, [this] {
+    if (export_.stop()) return;
     if (!view_.stop(search_.isRunning())) search_.stop();
   });
   auto* goToSearch = new QShortcut(QKeySequence(QKeySequence::Find), this);

@@ -24,15 +24,22 @@ SearchFormExport::SearchFormExport(const SearchFormExportParts& parts)
     : parts_(parts), folder_(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {}
 
 void SearchFormExport::ExportHits_Click() {
-  exportRows(parts_.hits.shownTableRows());
+  exportRows(ListRows::All);
 }
 
 void SearchFormExport::ExportSelected_Click() {
-  exportRows(parts_.hits.selectedTableRows());
+  exportRows(ListRows::Selected);
 }
 
-void SearchFormExport::exportRows(const std::vector<int>& tableRows) {
-  if (tableRows.empty()) return parts_.messages.inform(QStringLiteral("There are no hits to export."));
+bool SearchFormExport::stop() {
+  isStopped_ = isRunning_;
+  return isRunning_;
+}
+
+void SearchFormExport::exportRows(ListRows which) {
+  const bool isAny = which == ListRows::All ? parts_.list.model()->rowCount() > 0
+                                            : parts_.list.selectionModel()->hasSelection();
+  if (!isAny) return parts_.messages.inform(QStringLiteral("There are no hits to export."));
   timesCleared_ = parts_.table.timesCleared();
   const QString refusal = parts_.work.refusalOf(JobKind::Export);
   if (!refusal.isEmpty()) return parts_.messages.inform(refusal);
@@ -41,7 +48,7 @@ void SearchFormExport::exportRows(const std::vector<int>& tableRows) {
   if (!path || !mayWriteTo(*path)) return;
   folder_ = QFileInfo(*path).path();
   const std::optional<ExportFormat> format = exportFormatOf(*path);
-  const auto action = [&](Job& job) { write(job, *path, *format, tableRows); };
+  const auto action = [&](Job& job) { write(job, *path, *format, which); };
   if (parts_.work.run(JobKind::Export, action) != Answer::Refused) return;
   // Something else has started while the user was choosing.
   const QString why = parts_.work.refusalOf(JobKind::Export);
@@ -62,50 +69,77 @@ bool SearchFormExport::mayWriteTo(const QString& path) const {
   return false;
 }
 
-void SearchFormExport::write(Job& job, const QString& path, ExportFormat format,
-                             const std::vector<int>& tableRows) {
-  const auto all = static_cast<std::int64_t>(tableRows.size());
+void SearchFormExport::write(Job& job, const QString& path, ExportFormat format, ListRows which) {
+  isRunning_ = true;
+  isStopped_ = false;
   isShown_ = false;
   sinceStart_.start();
   bool isWhole = false;
-  const std::unique_ptr<ExportText> text =
-      makeExportText(format, parts_.locale, QGuiApplication::layoutDirection());
   const QString title = job.display().title();
   reportFaults(parts_.messages, QStringLiteral("exporting hits to %1").arg(path), [&] {
     job.display().setTitle(QStringLiteral("Export Hits"));
     job.display().setStatus(path);
-    // While a file was chosen, a search may have come.
-    const bool areThere = parts_.table.timesCleared() == timesCleared_;
-    isWhole = areThere && exportHits(path, *text, parts_.table, tableRows,
-                                     [&](std::int64_t written) { return goOn(job, written, all); });
-    if (!isWhole) tellUnfinished(job, isShown_ && job.display().isCancelled());
+    isWhole = writeRows(job, path, format, which);
+    if (!isWhole) tellUnfinished(job);
   });
+  isRunning_ = false;
   // The request was this job's; a later search or rescan must not end by it.
   if (isShown_ && job.display().isCancelled()) job.dropStopRequest();
   job.display().setTitle(title);
   job.end();
   if (!isWhole || parts_.work.isClosing()) return;
-  parts_.status.setNote(QStringLiteral("%1 hits were written to %2.").arg(parts_.locale.toString(all), path));
+  parts_.status.setNote(
+      QStringLiteral("%1 hits were written to %2.").arg(parts_.locale.toString(all_), path));
 }
 
-bool SearchFormExport::goOn(Job& job, std::int64_t written, std::int64_t all) {
-  if (!isShown_ && written < all && sinceStart_.hasExpired(kMillisecondsUnseen)) {
+/// Whether the file is whole.
+bool SearchFormExport::writeRows(Job& job, const QString& path, ExportFormat format, ListRows which) {
+  // While a file was chosen, a search may have come.
+  if (!areHitsThere()) return false;
+  ShownRows rows(*parts_.list.selectionModel(), which);
+  while (rows.goOn()) {
+    if (!mayGoOn(job)) return false;
+  }
+  all_ = std::ssize(rows.rows());
+  const std::unique_ptr<ExportText> text =
+      makeExportText(format, parts_.locale, QGuiApplication::layoutDirection());
+  return exportHits(path, *text, parts_.table, rows.rows(),
+                    [&](std::int64_t written) { return goOn(job, written); });
+}
+
+bool SearchFormExport::goOn(Job& job, std::int64_t written) {
+  if (!isShown_ && written < all_ && sinceStart_.hasExpired(kMillisecondsUnseen)) {
     isShown_ = true;
     job.show();
   }
   if (isShown_ && job.display().isDue()) {
-    job.display().setBar(static_cast<std::int32_t>(written * kFullBar / all));
+    job.display().setBar(static_cast<std::int32_t>(written * kFullBar / all_));
     job.display().setDetail(
-        QStringLiteral("%1 of %2 hits").arg(parts_.locale.toString(written), parts_.locale.toString(all)));
+        QStringLiteral("%1 of %2 hits").arg(parts_.locale.toString(written), parts_.locale.toString(all_)));
   }
-  job.letEventsRun();
-  const bool isCancelled = isShown_ && job.display().isCancelled();
-  return !isCancelled && !job.isClosing() && parts_.table.timesCleared() == timesCleared_;
+  return mayGoOn(job);
 }
 
-/// Who has cancelled knows; whoever has started a search may not.
-void SearchFormExport::tellUnfinished(const Job& job, bool isCancelled) const {
-  if (isCancelled || job.isClosing()) return;
+/// Lets events run.
+bool SearchFormExport::mayGoOn(const Job& job) const {
+  job.letEventsRun();
+  return !isCancelled(job) && !job.isClosing() && areHitsThere();
+}
+
+bool SearchFormExport::isCancelled(const Job& job) const {
+  return isStopped_ || (isShown_ && job.display().isCancelled());
+}
+
+bool SearchFormExport::areHitsThere() const {
+  return parts_.table.timesCleared() == timesCleared_;
+}
+
+void SearchFormExport::tellUnfinished(const Job& job) const {
+  if (job.isClosing()) return;
+  // Who has stopped it knows; who has started a search may not.
+  if (isCancelled(job)) {
+    return parts_.status.setNote(QStringLiteral("The export was stopped. Nothing was written."));
+  }
   parts_.messages.inform(
       QStringLiteral("The export was given up, since a new search has replaced the hits. Nothing was "
                      "written."));

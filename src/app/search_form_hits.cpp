@@ -4,6 +4,7 @@
 #include "app/search_form_controls.h"
 #include "hits/hit_list_model.h"
 #include "hits/hit_properties.h"
+#include "hits/shown_rows.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -2,7 +2,6 @@
 
 #include <QColor>
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -134,17 +133,6 @@ std::int64_t selectedRowCount(const QItemSelectionModel& selection) {
 int hitAt(const QModelIndex& index) {
   const auto* hits = qobject_cast<const HitListModel*>(index.model());
   return hits ? static_cast<int>(hits->order().tableRow(index.row())) : index.row();
-}
-
-std::vector<int> selectedRows(const QItemSelectionModel& selection) {
-  std::vector<int> rows;
-  for (const QItemSelectionRange& range : selection.selection()) {
-    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
-  }
-  std::ranges::sort(rows);
-  if (!qobject_cast<const HitListModel*>(selection.model())) return rows;
-  for (int& row : rows) row = hitAt(selection.model()->index(row, 0));
-  return rows;
 }
 
 }  // namespace quorvin

@@ -11,7 +11,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <vector>
 
 namespace quorvin {
 
@@ -78,8 +77,5 @@ std::int64_t selectedRowCount(const QItemSelectionModel& selection);
 /// The row of the hit table that is shown at `index`; -1 for none. Of another model than HitListModel, the
 /// row of the index.
 int hitAt(const QModelIndex& index);
-
-/// The rows of the hit table that are selected (see hitAt()), in the order of the list.
-std::vector<int> selectedRows(const QItemSelectionModel& selection);
 
 }  // namespace quorvin

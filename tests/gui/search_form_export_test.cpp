@@ -2,6 +2,7 @@
 #include "app/search_form_export.h"
 
 #include "editors/recording_file_picker.h"
+#include "files/full_disk.h"
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"
 
@@ -27,6 +28,19 @@ class ExportedHits : public SearchFormTest {
   }
   QString statusLine() { return form().findChild<QLabel*>(QStringLiteral("StatusText"))->text(); }
   QByteArray exported(const QString& name) { return out_.readFile(name); }
+  void waitForRows() {
+    const RowOrder& order = static_cast<HitListModel*>(controls().HitList->model())->order();
+    EXPECT_EVENTUALLY(!order.isSorting() && !order.isFiltering());
+  }
+  /// Those of a table, each with a blank behind it.
+  std::string namesIn(const QString& table) {
+    std::string names;
+    const QList<QByteArray> lines = exported(table).split('\n').mid(1);
+    for (const QByteArray& line : lines) {
+      if (!line.isEmpty()) names += line.split(',').value(3).toStdString() + ' ';
+    }
+    return names;
+  }
   /// Does `action` once when the export lets events run.
   static void duringTheExport(const std::function<void()>& action) { QTimer::singleShot(0, action); }
 
@@ -78,6 +92,82 @@ TEST_F(ExportedHits, AsAListingAreFoundAgainByTheProgramItself) {
   EXPECT_EQ(rowTexts(0).mid(1), before.mid(1)) << "the first is the best match";
   find(QStringLiteral("tune"));
   EXPECT_EQ(rows(), 30);
+}
+
+TEST_F(ExportedHits, GoOutInTheOrderInWhichTheyAreShown) {
+  showHits(3);
+  activate(form());
+  press(Qt::Key_4, Qt::ControlModifier);
+  press(Qt::Key_4, Qt::ControlModifier);
+  waitForRows();
+  exportAllTo(QStringLiteral("all.csv"));
+  EXPECT_EQ(namesIn(QStringLiteral("all.csv")), "tune 3.mp3 tune 2.mp3 tune 1.mp3 ");
+}
+
+TEST_F(ExportedHits, AreThoseThatTheFilterLeaves) {
+  showHits(30);
+  activate(form());
+  press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+  typeText(QStringLiteral("2."));
+  waitForRows();
+  exportAllTo(QStringLiteral("all.csv"));
+  EXPECT_EQ(namesIn(QStringLiteral("all.csv")), "tune 2.mp3 tune 12.mp3 tune 22.mp3 ");
+}
+
+TEST_F(ExportedHits, ThatAreSelectedGoOutInTheOrderInWhichTheyAreShownToo) {
+  showHits(30);
+  activate(form());
+  controls().HitList->setFocus();
+  press(Qt::Key_4, Qt::ControlModifier);
+  press(Qt::Key_4, Qt::ControlModifier);
+  waitForRows();
+  press(Qt::Key_Home);
+  press(Qt::Key_Down, Qt::ShiftModifier, 2);
+  files_.pick = out_.pathOf(QStringLiteral("three.csv"));
+  form().itemMenu().ExportSelected->trigger();
+  EXPECT_EQ(namesIn(QStringLiteral("three.csv")), "tune 30.mp3 tune 29.mp3 tune 28.mp3 ");
+}
+
+TEST_F(ExportedHits, ThatAreSortedWhileTheFileIsChosenGoOutSorted) {
+  showHits(3);
+  files_.duringSave = [this] {
+    activate(form());
+    press(Qt::Key_4, Qt::ControlModifier);
+    press(Qt::Key_4, Qt::ControlModifier);
+    waitForRows();
+  };
+  exportAllTo(QStringLiteral("all.csv"));
+  EXPECT_EQ(namesIn(QStringLiteral("all.csv")), "tune 3.mp3 tune 2.mp3 tune 1.mp3 ");
+}
+
+TEST_F(ExportedHits, ThatDoNotFitOnTheDiskLeaveTheEarlierFileAndNothingElse) {
+  showHits(5000);
+  out_.writeFile(QStringLiteral("all.csv"), "the earlier file");
+  {
+    const FullDisk disk(100'000);
+    exportAllTo(QStringLiteral("all.csv"));
+  }
+  EXPECT_EQ(exported(QStringLiteral("all.csv")), "the earlier file");
+  EXPECT_EQ(out_.names(), QStringList(QStringLiteral("all.csv")));
+  ASSERT_EQ(messages_.informed.size(), 1U);
+  EXPECT_TRUE(messages_.informed[0].startsWith(QStringLiteral("Run-time error '61'")))
+      << messages_.informed[0].toStdString();
+  EXPECT_FALSE(statusLine().contains(QStringLiteral("written")));
+}
+
+TEST_F(ExportedHits, EscStopsTheExportAndTheEarlierFileStays) {
+  showHits(50'000);
+  out_.writeFile(QStringLiteral("all.csv"), "the earlier file");
+  activate(form());
+  duringTheExport([] { press(Qt::Key_Escape); });
+  exportAllTo(QStringLiteral("all.csv"));
+  EXPECT_EQ(exported(QStringLiteral("all.csv")), "the earlier file");
+  EXPECT_EQ(out_.names(), QStringList(QStringLiteral("all.csv")));
+  EXPECT_TRUE(statusLine().endsWith(QStringLiteral("The export was stopped. Nothing was written.")))
+      << statusLine().toStdString();
+  EXPECT_TRUE(messages_.informed.empty());
+  exportAllTo(QStringLiteral("all.csv"));
+  EXPECT_TRUE(statusLine().contains(QStringLiteral("50,000 hits were written"))) << "the next one goes on";
 }
 
 TEST_F(ExportedHits, AsAPageAreOneFileWithAllOfThem) {

@@ -2,6 +2,7 @@
 #include "hits/hit_list_order.h"
 
 #include "hits/scan_into.h"
+#include "hits/shown_rows.h"
 #include "search/hit_table_maker.h"
 #include "support/eventually.h"
 #include "support/qt_printing.h"

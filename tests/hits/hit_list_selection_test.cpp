@@ -2,6 +2,7 @@
 #include "hits/hit_list.h"
 #include "hits/hit_list_model.h"
 #include "hits/many_rows_model.h"
+#include "hits/shown_rows.h"
 #include "support/qt_printing.h"
 
 #include <QContextMenuEvent>
