@@ -62,6 +62,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       display_(controls_, rows_, status_, locale),
       runMessages_(messages, display_, [this] { return jobs_.work().isClosing(); }),
       hitActions_(*controls_.HitList, *menus_.HitsMenu, hits_, state, shell, messages, locale),
+      copy_({*controls_.HitList, hits_, state, runMessages_, status_, locale}, hitActions_.itemMenu()),
       view_(controls_, menus_, rows_, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale, status_),
       search_(
@@ -115,7 +116,7 @@ void SearchForm::connectControls() {
 
   auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
   connect(stop, &QShortcut::activated, this, [this] {
-    if (export_.stop()) return;
+    if (copy_.stop() || export_.stop()) return;
     if (!view_.stop(search_.isRunning())) search_.stop();
   });
   auto* goToSearch = new QShortcut(QKeySequence(QKeySequence::Find), this);
@@ -210,6 +211,7 @@ void SearchForm::showEvent(QShowEvent* event) {
 
 void SearchForm::closeEvent(QCloseEvent* event) {
   event->setAccepted(Form_Unload());
+  if (event->isAccepted()) copy_.drop();
 }
 
 void SearchForm::comeForward(const QString& activationToken) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/search_form_controls.h"
+#include "app/search_form_copy.h"
 #include "app/search_form_export.h"
 #include "app/search_form_hits.h"
 #include "app/search_form_run.h"
@@ -131,6 +132,7 @@ class SearchForm : public QMainWindow {
   Progress& progress() { return jobs_.progress(); }
 
   const SearchFormControls& controls() const { return controls_; }
+  SearchFormCopy& copies() { return copy_; }
   const ItemMenu& itemMenu() const { return hitActions_.itemMenu(); }
   const SearchFormMenus& menus() const { return menus_; }
   SearchFormStatus& status() { return status_; }
@@ -166,6 +168,7 @@ class SearchForm : public QMainWindow {
   SearchFormDisplay display_;
   RunMessages runMessages_;
   SearchFormHits hitActions_;
+  SearchFormCopy copy_;
   SearchFormView view_;
   SearchFormWork jobs_;
   SearchFormRun search_;

@@ -2,20 +2,18 @@
 
 #include "app/fault_report.h"
 #include "app/search_form_controls.h"
+#include "app/status_texts.h"
 #include "hits/hit_list_model.h"
+#include "hits/hit_paths.h"
 #include "hits/hit_properties.h"
 #include "hits/shown_rows.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDrag>
-#include <QGuiApplication>
 #include <QKeySequence>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
-
-#include <numeric>
 
 namespace quorvin {
 
@@ -28,15 +26,12 @@ QAction* addItemWithKeys(QMenu* menu, const QString& name, const QString& captio
   return item;
 }
 
-/// Some 10 MB of text; more is rather a mistake than a wish, and would hold the window up.
-constexpr std::int64_t kMostRowsToCopy = 100'000;
+/// What is dragged has to be there at once; more is rather a mistake than a wish, and would hold the window
+/// up.
+constexpr std::int64_t kMostRowsToDrag = 100'000;
 /// Each is a program that starts, or at least a window that opens.
 constexpr std::int64_t kMostHitsToOpen = 1'000;
 constexpr std::int64_t kHitsOpenedUnasked = 10;
-
-void copyLines(const QStringList& lines) {
-  if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join(u'\n'));
-}
 
 }  // namespace
 
@@ -123,9 +118,6 @@ void SearchFormHits::connectItems() {
   handle(menu_.CTOpFolder, &SearchFormHits::CTOpFolder_Click);
   handle(menu_.ShowPreview, &SearchFormHits::ShowPreview_Click);
   handle(menu_.CTQueue, &SearchFormHits::CTQueue_Click);
-  handle(menu_.CopyRows, &SearchFormHits::CopyRows_Click);
-  handle(menu_.CopyNames, &SearchFormHits::CopyNames_Click);
-  handle(menu_.CopyPaths, &SearchFormHits::CopyPaths_Click);
   handle(menu_.WhichDisk, &SearchFormHits::WhichDisk_Click);
   handle(menu_.HitProperties, &SearchFormHits::HitProperties_Click);
 }
@@ -170,7 +162,7 @@ bool SearchFormHits::isDragged(const QMouseEvent& move) {
 }
 
 void SearchFormHits::HitList_Drag() {
-  if (selectedRowCount(*list_.selectionModel()) > kMostRowsToCopy) return;
+  if (selectedRowCount(*list_.selectionModel()) > kMostRowsToDrag) return;
   if (auto data = dragData(); data->hasText()) startDrag_(std::move(data));
 }
 
@@ -198,12 +190,12 @@ void SearchFormHits::CTQueue_Click() {
 
 void SearchFormHits::OpenHits_Click() {
   const std::int64_t missing = openSelected();
-  if (missing > 0) tellMissing(missing, selectedRowCount(*list_.selectionModel()), {});
+  if (missing > 0) tellMissing(missing, selectedRowCount(*list_.selectionModel()));
 }
 
 void SearchFormHits::ShowInFolder_Click() {
   const auto hit = currentHit();
-  if (hit && actions_.openFolder(*hit) == LaunchOutcome::NotFound) tellMissing(1, 1, {});
+  if (hit && actions_.openFolder(*hit) == LaunchOutcome::NotFound) tellMissing(1, 1);
 }
 
 bool SearchFormHits::mayOpen(std::int64_t count) const {
@@ -219,7 +211,7 @@ bool SearchFormHits::mayOpen(std::int64_t count) const {
 std::int64_t SearchFormHits::openSelected() const {
   if (!mayOpen(selectedRowCount(*list_.selectionModel()))) return 0;
   std::int64_t missing = 0;
-  for (const int row : selectedTableRows()) {
+  for (const int row : selectedRows(*list_.selectionModel())) {
     const LaunchOutcome outcome = actions_.launch(table_.row(row));
     if (outcome == LaunchOutcome::Failed) return 0;
     if (outcome == LaunchOutcome::NotFound) ++missing;
@@ -227,37 +219,23 @@ std::int64_t SearchFormHits::openSelected() const {
   return missing;
 }
 
-void SearchFormHits::tellMissing(std::int64_t missing, std::int64_t all, const QString& instead) const {
-  messages_.inform(QStringLiteral("%1 of %2 could not be found on a connected drive.")
-                       .arg(locale_.toString(missing), locale_.toString(all)) +
-                   instead);
-}
-
-void SearchFormHits::CopyRows_Click() {
-  QStringList lines;
-  for (const int row : rowsToCopy()) lines.append(rowText(row));
-  copyLines(lines);
-}
-
-void SearchFormHits::CopyNames_Click() {
-  QStringList lines;
-  for (const int row : rowsToCopy()) lines.append(table_.row(row).name);
-  copyLines(lines);
-}
-
-void SearchFormHits::CopyPaths_Click() {
-  const Paths paths = pathsOf(rowsToCopy());
-  copyLines(paths.lines);
-  if (paths.missing == 0) return;
-  tellMissing(paths.missing, paths.lines.size(),
-              QStringLiteral(" For these, the path in the catalogue was copied."));
+void SearchFormHits::tellMissing(std::int64_t missing, std::int64_t all) const {
+  messages_.inform(notFoundText(missing, all, locale_));
 }
 
 std::unique_ptr<QMimeData> SearchFormHits::dragData() const {
+  HitPaths paths(state_);
+  QStringList lines;
+  QList<QUrl> files;
+  for (const int row : selectedRows(*list_.selectionModel())) {
+    const HitRow hit = table_.row(row);
+    const HitPath path = paths.of(hit);
+    lines.append(path.isEmpty() ? cataloguePath(hit) : path.fullPath());
+    if (!path.isEmpty()) files.append(QUrl::fromLocalFile(path.fullPath()));
+  }
   auto data = std::make_unique<QMimeData>();
-  const Paths paths = pathsOf(selectedTableRows());
-  if (!paths.files.isEmpty()) data->setUrls(paths.files);
-  if (!paths.lines.isEmpty()) data->setText(paths.lines.join(u'\n'));
+  if (!files.isEmpty()) data->setUrls(files);
+  if (!lines.isEmpty()) data->setText(lines.join(u'\n'));
   return data;
 }
 
@@ -280,16 +258,6 @@ void SearchFormHits::HitProperties_Click() {
   window.exec();
 }
 
-std::vector<int> SearchFormHits::selectedTableRows() const {
-  return selectedRows(*list_.selectionModel());
-}
-
-std::vector<int> SearchFormHits::shownTableRows() const {
-  std::vector<int> rows(static_cast<std::size_t>(list_.model()->rowCount()));
-  std::iota(rows.begin(), rows.end(), 0);
-  return rows;
-}
-
 std::optional<int> SearchFormHits::currentTableRow() const {
   const int row = list_.currentSelectedRow();
   return row < 0 ? std::nullopt : std::optional(row);
@@ -309,41 +277,6 @@ KnownHit SearchFormHits::known(int tableRow) const {
   hit.expectedPath = actions_.expectedPath(hit.row);
   hit.sourceFolder = sourceFolderOf(state_, hit.row);
   return hit;
-}
-
-std::vector<int> SearchFormHits::rowsToCopy() const {
-  const std::int64_t count = selectedRowCount(*list_.selectionModel());
-  if (count <= kMostRowsToCopy) return selectedTableRows();
-  messages_.inform(QStringLiteral("%1 hits are selected. At most %2 can be copied at once.")
-                       .arg(locale_.toString(count), locale_.toString(kMostRowsToCopy)));
-  return {};
-}
-
-SearchFormHits::Paths SearchFormHits::pathsOf(const std::vector<int>& tableRows) const {
-  FoldersReadOnce folders;
-  const FileLookUp lookUp = [&folders](const QString& pattern) { return folders.find(pattern); };
-  Paths paths;
-  for (const int row : tableRows) {
-    const HitRow hit = table_.row(row);
-    const HitPath path = actions_.resolveQuietly(hit, lookUp);
-    if (path.isEmpty()) {
-      paths.lines.append(cataloguePath(hit));
-      ++paths.missing;
-    } else {
-      paths.lines.append(path.fullPath());
-      paths.files.append(QUrl::fromLocalFile(path.fullPath()));
-    }
-  }
-  return paths;
-}
-
-QString SearchFormHits::rowText(int tableRow) const {
-  const HitRow hit = table_.row(tableRow);
-  QStringList columns;
-  for (int column = 0; column < kHitColumnCount; ++column) {
-    columns.append(hitText(hit, static_cast<HitColumn>(column), locale_));
-  }
-  return columns.join(u'\t');
 }
 
 }  // namespace quorvin

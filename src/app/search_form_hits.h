@@ -18,7 +18,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
 namespace quorvin {
 
@@ -49,13 +48,13 @@ using PreviewOpener = std::function<void(const QString& folder, const QString& n
 using DragStarter = std::function<void(std::unique_ptr<QMimeData>)>;
 
 /// Connects the hit list with the hit actions. The pop-up menu, which comes up only for hits whose file is
-/// there, is a child of the list; the menu of the menu bar serves all hits.
+/// there, is a child of the list; the menu of the menu bar serves all hits. Copies and exports are left to
+/// SearchFormCopy and SearchFormExport.
 class SearchFormHits : public QObject {
   Q_OBJECT
 
  public:
-  /// Everything must outlive the object; `hitsMenu`, the menu bar's, is filled. `locale` is the one in which
-  /// rows are copied as text.
+  /// Everything must outlive the object; `hitsMenu`, the menu bar's, is filled.
   SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitTable& table, const ProgramState& state,
                  Shell& shell, MessageBoxes& messages, const QLocale& locale);
 
@@ -66,10 +65,6 @@ class SearchFormHits : public QObject {
 
   const ItemMenu& itemMenu() const { return menu_; }
 
-  /// The rows of the table that the selected rows of the list show, in the order of the list.
-  std::vector<int> selectedTableRows() const;
-  /// The rows of the table that all rows of the list show, in the order of the list.
-  std::vector<int> shownTableRows() const;
   /// The files and texts of the selected hits, as they are dragged out of the list: the URLs of those files
   /// that are there, and one line for each hit, its path or where it is in the catalogue.
   std::unique_ptr<QMimeData> dragData() const;
@@ -91,17 +86,8 @@ class SearchFormHits : public QObject {
   void CTQueue_Click();
   void OpenHits_Click();
   void ShowInFolder_Click();
-  void CopyRows_Click();
-  void CopyNames_Click();
-  void CopyPaths_Click();
   void WhichDisk_Click();
   void HitProperties_Click();
-
-  struct Paths {
-    QStringList lines;
-    QList<QUrl> files;
-    std::int64_t missing = 0;
-  };
 
   std::optional<int> currentTableRow() const;
   std::optional<HitRow> currentHit() const;
@@ -109,11 +95,7 @@ class SearchFormHits : public QObject {
   void selectCurrentIfNone() const;
   bool mayOpen(std::int64_t count) const;
   std::int64_t openSelected() const;
-  void tellMissing(std::int64_t missing, std::int64_t all, const QString& instead) const;
-  /// The rows to copy; empty, with a message, where they are too many.
-  std::vector<int> rowsToCopy() const;
-  Paths pathsOf(const std::vector<int>& tableRows) const;
-  QString rowText(int tableRow) const;
+  void tellMissing(std::int64_t missing, std::int64_t all) const;
 
   HitListView& list_;
   const HitTable& table_;

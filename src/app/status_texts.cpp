@@ -105,6 +105,20 @@ QString refreshText(const RefreshOutcome& outcome, const QLocale& locale) {
   return parts.join(QStringLiteral(", "));
 }
 
+QString copyingText(std::int64_t done, std::int64_t all, const QLocale& locale) {
+  return QStringLiteral("%1 of %2 copied so far; Esc stops")
+      .arg(number(done, locale), hitCountText(all, locale));
+}
+
+QString copiedText(std::int64_t hits, const QLocale& locale) {
+  return QStringLiteral("%1 were copied.").arg(hitCountText(hits, locale));
+}
+
+QString notFoundText(std::int64_t missing, std::int64_t all, const QLocale& locale) {
+  return QStringLiteral("%1 of %2 could not be found on a connected drive.")
+      .arg(number(missing, locale), number(all, locale));
+}
+
 QString emptyResultText(const SearchQuery& query, const RunReport& report, const QLocale& locale) {
   if (query.fewestForHit() > query.wordCount()) {
     return QStringLiteral("No file holds more than 100% of the words; 99 asks for all of them.");

@@ -33,6 +33,15 @@ QStringList runTexts(const RunReport& report, const QLocale& locale);
 /// "3 listings, 81,204 entries, 412 new, 18 gone, 1 drive missing".
 QString refreshText(const RefreshOutcome& outcome, const QLocale& locale);
 
+/// "45,000 of 100,000 hits copied so far; Esc stops".
+QString copyingText(std::int64_t done, std::int64_t all, const QLocale& locale);
+
+/// "100,000 hits were copied."
+QString copiedText(std::int64_t hits, const QLocale& locale);
+
+/// "12 of 100,000 could not be found on a connected drive."
+QString notFoundText(std::int64_t missing, std::int64_t all, const QLocale& locale);
+
 /// Why the hit list is empty after a run for `query`, and what to type instead: one sentence a line.
 QString emptyResultText(const SearchQuery& query, const RunReport& report, const QLocale& locale);
 

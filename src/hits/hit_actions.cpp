@@ -5,8 +5,6 @@
 #include "platform/text_encoding.h"
 #include "state/settings.h"
 
-#include <QDirIterator>
-
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -29,11 +27,6 @@ QString badFileNameText(const HitPath& path) {
   return QStringLiteral("Bad file name Launching: ") + path.fullPath() +
          QStringLiteral("\r\nThe file may have been renamed, deleted or moved.") +
          QStringLiteral(" Try rescanning the file lists.");
-}
-
-qsizetype firstWildcard(const QString& name) {
-  const auto isWildcard = [](QChar character) { return character == u'*' || character == u'?'; };
-  return std::ranges::find_if(name, isWildcard) - name.begin();
 }
 
 }  // namespace
@@ -134,46 +127,6 @@ void HitActions::enqueueFile(const HitPath& path) const {
 void HitActions::tellFault(const RuntimeFault& fault, const HitPath& path) const {
   if (fault.faultNumber() == FaultNumber::BadFileName) return messages_.inform(badFileNameText(path));
   messages_.inform(QStringLiteral("Launch Error: ") + QString::number(fault.number()) + fault.description());
-}
-
-FoldersReadOnce::FoldersReadOnce(ReadNames readNames) : readNames_(std::move(readNames)) {}
-
-QString FoldersReadOnce::find(const QString& pattern) {
-  const qsizetype nameStart = pattern.lastIndexOf(nativePathStyle().separator) + 1;
-  const QString wanted = pattern.mid(nameStart);
-  const QString beginning = wanted.left(firstWildcard(wanted));
-  // A single name takes no reading.
-  if (beginning == wanted) return findOrdinaryFile(pattern);
-
-  const Names& names = namesIn(pattern.left(nameStart));
-  const Name* found = nullptr;
-  auto name = std::ranges::lower_bound(names, beginning, {}, &Name::text);
-  for (; name != names.end() && name->text.startsWith(beginning); ++name) {
-    if (name->text == wanted) return wanted;
-    const bool comesFirst = found == nullptr || name->place < found->place;
-    if (comesFirst && fitsWildcards(name->text, wanted)) found = &*name;
-  }
-  return found == nullptr ? QString() : found->text;
-}
-
-const FoldersReadOnce::Names& FoldersReadOnce::namesIn(const QString& folder) {
-  const auto [known, isNew] = folders_.try_emplace(folder);
-  Names& names = known->second;
-  if (!isNew) return names;
-  for (const QString& text : readNames_(folder)) names.push_back({text, std::ssize(names)});
-  std::ranges::sort(names, {}, &Name::text);
-  return names;
-}
-
-QStringList FoldersReadOnce::ordinaryFiles(const QString& folder) {
-  QStringList names;
-  // Without hidden and special files.
-  QDirIterator files(folder, QDir::Files);
-  while (files.hasNext()) {
-    files.next();
-    names.append(files.fileName());
-  }
-  return names;
 }
 
 QString enqueueCommand(const SettingsStore& settings, const ProgramState& state) {

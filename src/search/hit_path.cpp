@@ -47,7 +47,12 @@ bool isSeparator(QChar character, PathStyle style) {
 QString fileThatBeginsWith(const QString& folder, const QString& text, const FileLookUp& lookUp) {
   if (text.isEmpty()) return {};
   const QString whole = lookUp(folder + text);
-  return whole.isEmpty() ? lookUp(folder + text + u'*') : whole;
+  // Nearly every entry has its whole name; looking it up once is enough then.
+  if (whole == text) return whole;
+  const QString found = whole.isEmpty() ? lookUp(folder + text + u'*') : whole;
+  if (found.isEmpty()) return {};
+  // A name whose bytes are no text comes back changed and leads nowhere.
+  return lookUp(folder + found) == found ? found : QString();
 }
 
 /// Its row in the table of online sources.
@@ -92,9 +97,7 @@ QString fileOfEntry(const QString& folder, const QString& entryText, PathStyle s
   QString found = fileThatBeginsWith(folder, entryText, lookUp);
   const QString name = withoutSizeDigits(entryText);
   if (found.isEmpty() && name != entryText) found = fileThatBeginsWith(folder, name, lookUp);
-  if (found.isEmpty()) return {};
-  // A name whose bytes are no text comes back changed and leads nowhere.
-  return lookUp(folder + found) == found ? found : QString();
+  return found;
 }
 
 }  // namespace quorvin

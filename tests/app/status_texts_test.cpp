@@ -49,6 +49,13 @@ TEST(SelectionText, SaysHowManyAndHowMuch) {
   EXPECT_EQ(selectionText(12, 5'000'000'000, kEnglish), u"12 selected, 4.66 GB"_qs);
 }
 
+TEST(CopyTexts, SayHowFarACopyIsAndWhatCameOfIt) {
+  EXPECT_EQ(copyingText(45'000, 100'000, kEnglish), u"45,000 of 100,000 hits copied so far; Esc stops"_qs);
+  EXPECT_EQ(copiedText(100'000, kEnglish), u"100,000 hits were copied."_qs);
+  EXPECT_EQ(notFoundText(1'200, 100'000, kEnglish),
+            u"1,200 of 100,000 could not be found on a connected drive."_qs);
+}
+
 TEST(RunTexts, AUsualRunNeedsNone) {
   EXPECT_EQ(runTexts(reportOf(412), kEnglish), QStringList());
 }

@@ -185,63 +185,6 @@ TEST_F(WindowHits, WithoutAnyRowNothingHappens) {
   EXPECT_TRUE(shell_.calls.empty());
 }
 
-TEST_F(WindowHits, ControlCCopiesTheSelectedRowsAsText) {
-  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
-  click(1);
-  click(2, Qt::ShiftModifier);
-  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(clipboard(), rowTexts(1).join(u'\t') + u'\n' + rowTexts(2).join(u'\t'));
-  EXPECT_TRUE(clipboard().startsWith(QStringLiteral("100%\tMusic\t\\")));
-}
-
-TEST_F(WindowHits, ControlShiftCCopiesFullPathsAndForMissingFilesWhereTheyAreInTheCatalogue) {
-  showFiles({QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
-  QFile::remove(files_.pathOf(QStringLiteral("b.txt")));
-  click(0);
-  click(2, Qt::ShiftModifier);
-  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(clipboard(), files_.pathOf(QStringLiteral("a.txt")) + QStringLiteral("\nMusic:") +
-                             QString::fromUtf8(listed(files_.path())) + QStringLiteral("b.txt\n") +
-                             files_.pathOf(QStringLiteral("c.txt")));
-  EXPECT_EQ(messages_.informed,
-            std::vector{QStringLiteral("1 of 3 could not be found on a connected drive. For these, the path "
-                                       "in the catalogue was copied.")});
-}
-
-TEST_F(WindowHits, OfHitsFromOtherListingsThePathInTheCatalogueIsCopied) {
-  setMainDataFile(listingOf("DISK_7", 1, "tune"));
-  addOfflineSource(QStringLiteral("cd.lst"), listingOf("CD 12", 1, "tune"));
-  find(QStringLiteral("tune"));
-  list()->setFocus();
-  QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(clipboard(), QStringLiteral("DISK_7:\\Music\\tune 1.mp3\nCD 12:\\Music\\tune 1.mp3"));
-  EXPECT_EQ(messages_.informed,
-            std::vector{QStringLiteral("2 of 2 could not be found on a connected drive. For these, the path "
-                                       "in the catalogue was copied.")});
-}
-
-TEST_F(WindowHits, ControlCInTheSearchTextCopiesTheSearchText) {
-  showFiles({QStringLiteral("a.txt")});
-  click(0);
-  type(controls().SearchStr, QStringLiteral("rock"));
-  controls().SearchStr->selectAll();
-  QTest::keyClick(controls().SearchStr, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(clipboard(), QStringLiteral("rock"));
-}
-
-TEST_F(WindowHits, TooManyRowsAreNotCopied) {
-  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 100'001, "tune"));
-  find(QStringLiteral("tune"));
-  QGuiApplication::clipboard()->setText(QStringLiteral("before"));
-  list()->setFocus();
-  QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClick(list(), Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(clipboard(), QStringLiteral("before"));
-  EXPECT_EQ(messages_.informed,
-            std::vector{QStringLiteral("100,001 hits are selected. At most 100,000 can be copied at once.")});
-}
-
 }  // namespace
 
 }  // namespace quorvin::test

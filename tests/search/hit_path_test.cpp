@@ -152,6 +152,12 @@ TEST_F(FileOfEntry, IsTheFileOfThatName) {
   EXPECT_EQ(find(QStringLiteral("song.mp3"), kWindowsPaths), QStringLiteral("song.mp3"));
 }
 
+TEST_F(FileOfEntry, AWholeNameIsLookedUpOnce) {
+  names_ = {QStringLiteral("song.mp3")};
+  EXPECT_EQ(find(QStringLiteral("song.mp3")), QStringLiteral("song.mp3"));
+  EXPECT_EQ(asked_, std::vector{QStringLiteral("/m/song.mp3")});
+}
+
 TEST_F(FileOfEntry, TheWholeNameComesBeforeALongerOne) {
   names_ = {QStringLiteral("song.mp3.txt"), QStringLiteral("song.mp3")};
   EXPECT_EQ(find(QStringLiteral("song.mp3")), QStringLiteral("song.mp3"));
