@@ -1,6 +1,7 @@
 #include "app/search_form.h"
 
 #include "app/fault_report.h"
+#include "app/status_texts.h"
 #include "app/version.h"
 #include "app/window_place.h"
 
@@ -111,6 +112,8 @@ void SearchForm::connectControls() {
 
   connect(&rows_.order(), &RowOrder::countChanged, this, &SearchForm::showEmptyText);
   connect(&rows_.order(), &RowOrder::orderChanged, this, [this] { status_.setOrder(rows_.order().note()); });
+  connect(&view_, &SearchFormView::selectionLetGo, this,
+          [this](std::int64_t hits) { status_.setNote(letGoText(hits, locale_)); });
   connect(&*selectionSize_, &SelectionSize::changed, this,
           [this] { status_.setSelected(selectionSize_->rows(), selectionSize_->bytes()); });
 

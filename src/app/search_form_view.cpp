@@ -82,6 +82,7 @@ void SearchFormView::connectOrder() {
     });
   }
   connect(&rows_.order(), &RowOrder::orderChanged, this, &SearchFormView::showOrder);
+  connect(&order_, &HitListOrder::selectionLetGo, this, &SearchFormView::selectionLetGo);
 }
 
 void SearchFormView::connectColumns() {

@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QObject>
 
+#include <cstdint>
 #include <functional>
 #include <utility>
 
@@ -40,6 +41,10 @@ class SearchFormView : public QObject {
   /// What Esc does: it closes the filter, at first where the focus is in it, or gives up a sort. False where
   /// it is for the run instead.
   bool stop(bool isRunning);
+
+ Q_SIGNALS:
+  /// So many hits are no longer selected: see HitListOrder.
+  void selectionLetGo(std::int64_t hits);
 
  private:
   void connectSearches();

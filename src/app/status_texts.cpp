@@ -119,6 +119,11 @@ QString notFoundText(std::int64_t missing, std::int64_t all, const QLocale& loca
       .arg(number(missing, locale), number(all, locale));
 }
 
+QString letGoText(std::int64_t hits, const QLocale& locale) {
+  return QStringLiteral("%1 are no longer selected: they are scattered too widely now")
+      .arg(hitCountText(hits, locale));
+}
+
 QString emptyResultText(const SearchQuery& query, const RunReport& report, const QLocale& locale) {
   if (query.fewestForHit() > query.wordCount()) {
     return QStringLiteral("No file holds more than 100% of the words; 99 asks for all of them.");

@@ -42,6 +42,10 @@ QString copiedText(std::int64_t hits, const QLocale& locale);
 /// "12 of 100,000 could not be found on a connected drive."
 QString notFoundText(std::int64_t missing, std::int64_t all, const QLocale& locale);
 
+/// What is said when the selected hits cannot stay selected, since in their new places there is no telling
+/// them but one by one.
+QString letGoText(std::int64_t hits, const QLocale& locale);
+
 /// Why the hit list is empty after a run for `query`, and what to type instead: one sentence a line.
 QString emptyResultText(const SearchQuery& query, const RunReport& report, const QLocale& locale);
 

@@ -62,7 +62,13 @@ void HitListOrder::restoreSelection() {
   std::vector<RowOrder::Range> ranges;
   if (areAllSelected_) ranges = {{0, order_.count() - 1}};
   if (!selected_.empty()) ranges = order_.shownRanges(selected_);
-  if (ranges.empty() || ranges.size() > kMostStretches) return;
+  if (ranges.empty()) return;
+  if (ranges.size() > kMostStretches) {
+    std::int64_t hits = 0;
+    for (const auto& [first, last] : ranges) hits += last - first + 1;
+    Q_EMIT selectionLetGo(hits);
+    return;
+  }
   QItemSelection selection;
   selection.reserve(static_cast<qsizetype>(ranges.size()));
   const int lastColumn = rows_.columnCount() - 1;

@@ -23,9 +23,13 @@ class HitListOrder : public QObject {
   /// `rows` is the model of `list`. Both must outlive the object.
   HitListOrder(HitListView& list, HitListModel& rows);
 
-  /// A selection of more stretches of rows than this is given up when the order changes: nobody has made it
-  /// one by one, and the toolkit would take too long over it.
+  /// A selection of more stretches of rows than this is let go when the order changes: nobody has made it one
+  /// by one, and the toolkit would take too long over it.
   static constexpr std::size_t kMostStretches = 100'000;
+
+ Q_SIGNALS:
+  /// So many hits are no longer selected, since they would be in too many stretches.
+  void selectionLetGo(std::int64_t hits);
 
  private:
   void showArrow();

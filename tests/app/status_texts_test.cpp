@@ -56,6 +56,11 @@ TEST(CopyTexts, SayHowFarACopyIsAndWhatCameOfIt) {
             u"1,200 of 100,000 could not be found on a connected drive."_qs);
 }
 
+TEST(LetGoText, SaysHowManyHitsAreNoLongerSelectedAndWhy) {
+  EXPECT_EQ(letGoText(350'000, kEnglish),
+            u"350,000 hits are no longer selected: they are scattered too widely now"_qs);
+}
+
 TEST(RunTexts, AUsualRunNeedsNone) {
   EXPECT_EQ(runTexts(reportOf(412), kEnglish), QStringList());
 }

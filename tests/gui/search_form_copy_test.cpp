@@ -171,6 +171,25 @@ TEST_F(CopiedHits, AnotherCopyTakesThePlaceOfALongOne) {
   EXPECT_EQ(clipboard(), QStringLiteral("tune 2.mp3"));
 }
 
+TEST_F(CopiedHits, ASelectionThatIsLetGoIsToldInTheStatusLine) {
+  // Sorted by size, the first half and the second follow each other in turn.
+  constexpr int kHalf = 100'001;
+  QByteArray listing = blockHead("DISK_7", "\\Music\\");
+  for (int i = 0; i < 2 * kHalf; ++i) {
+    const int size = i < kHalf ? 2 * i : 2 * (i - kHalf) + 1;
+    listing += entryLine("tune", QByteArray::number(size));
+  }
+  setMainDataFile(listing);
+  find(QStringLiteral("tune"));
+  ASSERT_EQ(rows(), 2 * kHalf);
+  list()->selectionModel()->select(
+      QItemSelection(list()->model()->index(0, 0), list()->model()->index(kHalf - 1, kHitColumnCount - 1)),
+      QItemSelectionModel::ClearAndSelect);
+  press(Qt::Key_5, Qt::ControlModifier);
+  EXPECT_EVENTUALLY(status().endsWith(
+      QStringLiteral("100,001 hits are no longer selected: they are scattered too widely now")));
+}
+
 }  // namespace
 
 }  // namespace quorvin::test

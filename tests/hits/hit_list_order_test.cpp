@@ -8,6 +8,7 @@
 #include "support/qt_printing.h"
 
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -133,6 +134,25 @@ TEST_F(HitListOrderTest, ALongSelectionStaysWithItsHits) {
   EXPECT_NE(after, before);
   std::ranges::sort(after);
   EXPECT_EQ(after, before);
+}
+
+TEST_F(HitListOrderTest, ASelectionThatWouldBeScatteredTooWidelyIsLetGoAndThatIsTold) {
+  // Sorted by size, selected and other hits follow each other in turn.
+  constexpr int kHalf = HitListOrder::kMostStretches + 1;
+  std::vector<int> sizes;
+  for (int i = 0; i < kHalf; ++i) sizes.push_back(2 * i);
+  for (int i = 0; i < kHalf; ++i) sizes.push_back(2 * i + 1);
+  addHits(sizes);
+  view_.selectionModel()->select(
+      QItemSelection(rows_.index(0, 0), rows_.index(kHalf - 1, kHitColumnCount - 1)),
+      QItemSelectionModel::ClearAndSelect);
+  QSignalSpy letGo(&order_, &HitListOrder::selectionLetGo);
+  clickTitle(HitColumn::Size);
+  ASSERT_EQ(letGo.size(), 1);
+  EXPECT_EQ(letGo[0][0].toLongLong(), kHalf);
+  EXPECT_EQ(selectedRowCount(*view_.selectionModel()), 0);
+  clickTitle(HitColumn::Size);
+  EXPECT_EQ(letGo.size(), 1) << "there is nothing more to let go";
 }
 
 TEST_F(HitListOrderTest, TheCurrentRowStaysOnTheScreen) {
