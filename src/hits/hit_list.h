@@ -105,7 +105,8 @@ class HitListView : public QAbstractItemView {
 
 /// Makes every HitListView from now on known to assistive technology as a list whose items are the rows: an
 /// item's name is the row's visible columns with their titles, in their order on the screen, its description
-/// the kind of source. May be called any number of times.
+/// the kind of source. The description of the list says why it is empty, or how its rows are sorted. May be
+/// called any number of times.
 void installHitListAccessible();
 
 }  // namespace quorvin

@@ -79,6 +79,17 @@ class RowAccessible : public QAccessibleInterface {
   int row_;
 };
 
+/// "Sorted by Name, ascending"; empty in found order.
+QString orderOf(const HitListView& view) {
+  const QHeaderView& header = *view.header();
+  const int column = header.sortIndicatorSection();
+  if (!view.model() || column < 0 || column >= view.model()->columnCount()) return {};
+  const QString title = view.model()->headerData(column, Qt::Horizontal).toString();
+  return header.sortIndicatorOrder() == Qt::AscendingOrder
+             ? QStringLiteral("Sorted by %1, ascending").arg(title)
+             : QStringLiteral("Sorted by %1, descending").arg(title);
+}
+
 /// The list: its rows, which get their interfaces when they are asked for, and the buttons in an empty one.
 class ListAccessible : public QAccessibleWidget {
  public:
@@ -88,6 +99,12 @@ class ListAccessible : public QAccessibleWidget {
   }
   ListAccessible(const ListAccessible&) = delete;
   ListAccessible& operator=(const ListAccessible&) = delete;
+
+  /// Why it is empty, or how its rows are sorted, which others see by an arrow.
+  QString text(QAccessible::Text kind) const override {
+    const QString own = QAccessibleWidget::text(kind);
+    return kind == QAccessible::Description && own.isEmpty() ? orderOf(*view_) : own;
+  }
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();

@@ -1,5 +1,6 @@
 #include "hits/hit_list_order.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 
 namespace quorvin {
@@ -35,6 +36,9 @@ void HitListOrder::showArrow() {
   const HitOrder& order = order_.order();
   list_.header()->setSortIndicator(order.column ? static_cast<int>(*order.column) : kNoSection,
                                    order.isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent event(&list_, QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&event);
 }
 
 void HitListOrder::keepPlaces(bool isSameRows) {

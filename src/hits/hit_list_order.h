@@ -14,8 +14,9 @@ namespace quorvin {
 /// What a click on the title of `column` makes of the order `now`: up at first, then down, then found order.
 HitOrder orderAfterClick(const HitOrder& now, HitColumn column);
 
-/// Has the rows sorted when a title is clicked, shows the order by an arrow there, and sees to it that the
-/// selection and the current row stay with their hits when rows change their places, come or go.
+/// Has the rows sorted when a title is clicked, shows the order by an arrow there, which screen readers find
+/// in the description of the list, and sees to it that the selection and the current row stay with their hits
+/// when rows change their places, come or go.
 class HitListOrder : public QObject {
   Q_OBJECT
 

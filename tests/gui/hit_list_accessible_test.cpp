@@ -55,6 +55,21 @@ TEST_F(AccessibleWindow, ARowReadsTheColumnsThatAreSeenInTheirOrder) {
             QStringLiteral("Name tune 1.mp3, Folder \\Music\\"));
 }
 
+TEST_F(AccessibleWindow, TheListSaysByWhatAndInWhichDirectionItIsSorted) {
+  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 2, "tune"));
+  find(QStringLiteral("tune"));
+  const QAccessibleInterface* list = QAccessible::queryAccessibleInterface(controls().HitList);
+  EXPECT_EQ(list->text(QAccessible::Description), QString());
+  form().menus().SortBy[3]->trigger();
+  EXPECT_EQ(list->text(QAccessible::Description), QStringLiteral("Sorted by Name, ascending"));
+  form().menus().SortBy[3]->trigger();
+  EXPECT_EQ(list->text(QAccessible::Description), QStringLiteral("Sorted by Name, descending"));
+  form().menus().FoundOrder->trigger();
+  EXPECT_EQ(list->text(QAccessible::Description), QString());
+  find(QStringLiteral("zebra"));
+  EXPECT_EQ(list->text(QAccessible::Description), QStringLiteral("No file found in 1 listing."));
+}
+
 TEST_F(AccessibleWindow, TheSelectedRowSaysSo) {
   addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 3, "tune"));
   find(QStringLiteral("tune"));
