@@ -3,6 +3,8 @@
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
+#include <algorithm>
+
 namespace quorvin::test {
 
 namespace {
@@ -12,6 +14,9 @@ constexpr char kAccessible[] = "org.a11y.atspi.Accessible";
 constexpr char kRoot[] = "/org/a11y/atspi/accessible/root";
 /// Numbers of the protocol.
 constexpr uint kLabelledBy = 2;
+constexpr int kActive = 1;
+constexpr int kChecked = 4;
+constexpr int kFocused = 12;
 constexpr int kShowing = 25;
 constexpr int kLongestCallMilliseconds = 120'000;
 
@@ -61,6 +66,12 @@ std::vector<BusNode> AccessibleBus::programs() const {
 }
 
 std::vector<BusNode> AccessibleBus::children(const BusNode& parent) const {
+  if (parent.role == u"list") {
+    std::vector<BusNode> nodes;
+    const int count = std::min(kMostOfAList, childCount(parent));
+    for (int number = 0; number < count; ++number) nodes.push_back(child(parent, number));
+    return nodes;
+  }
   const QVariant list = answer(callTo(parent, kAccessible, "GetChildren"));
   std::vector<BusNode> nodes;
   if (!list.isValid()) return nodes;
@@ -68,6 +79,31 @@ std::vector<BusNode> AccessibleBus::children(const BusNode& parent) const {
     nodes.push_back(described(place.service, place.path.path()));
   }
   return nodes;
+}
+
+int AccessibleBus::childCount(const BusNode& parent) const {
+  return property(parent, "ChildCount").toInt();
+}
+
+BusNode AccessibleBus::child(const BusNode& parent, int number) const {
+  QDBusMessage call = callTo(parent, kAccessible, "GetChildAtIndex");
+  call << number;
+  const QVariant reference = answer(call);
+  if (!reference.isValid()) return {};
+  Place place;
+  reference.value<QDBusArgument>() >> place;
+  return described(place.service, place.path.path());
+}
+
+QString AccessibleBus::description(const BusNode& node) const {
+  return property(node, "Description").toString();
+}
+
+QString AccessibleBus::text(const BusNode& node) const {
+  constexpr int kToTheEnd = -1;
+  QDBusMessage call = callTo(node, "org.a11y.atspi.Text", "GetText");
+  call << 0 << kToTheEnd;
+  return answer(call).toString();
 }
 
 std::vector<BusNode> AccessibleBus::everythingBelow(const BusNode& top) const {
@@ -121,14 +157,18 @@ BusNode AccessibleBus::described(const QString& service, const QString& path) co
   node.role = answer(callTo(node, kAccessible, "GetRoleName")).toString();
   node.name = nameOf(node);
   node.label = labelOf(node);
-  node.isShowing = isShowing(node);
+  readStates(node);
   return node;
 }
 
-QString AccessibleBus::nameOf(const BusNode& node) const {
+QVariant AccessibleBus::property(const BusNode& node, const char* name) const {
   QDBusMessage call = callTo(node, "org.freedesktop.DBus.Properties", "Get");
-  call << latin(kAccessible) << latin("Name");
-  return answer(call).value<QDBusVariant>().variant().toString();
+  call << latin(kAccessible) << latin(name);
+  return answer(call).value<QDBusVariant>().variant();
+}
+
+QString AccessibleBus::nameOf(const BusNode& node) const {
+  return property(node, "Name").toString();
 }
 
 QString AccessibleBus::labelOf(const BusNode& node) const {
@@ -153,12 +193,16 @@ QString AccessibleBus::labelOf(const BusNode& node) const {
   return label;
 }
 
-bool AccessibleBus::isShowing(const BusNode& node) const {
+void AccessibleBus::readStates(BusNode& node) const {
   const QVariant states = answer(callTo(node, kAccessible, "GetState"));
-  if (!states.isValid()) return false;
+  if (!states.isValid()) return;
   QList<uint> words;
   states.value<QDBusArgument>() >> words;
-  return !words.isEmpty() && ((words.first() >> kShowing) & 1U) != 0;
+  const auto has = [&words](int state) { return !words.isEmpty() && ((words.first() >> state) & 1U) != 0; };
+  node.isShowing = has(kShowing);
+  node.isActive = has(kActive);
+  node.isFocused = has(kFocused);
+  node.isChecked = has(kChecked);
 }
 
 }  // namespace quorvin::test

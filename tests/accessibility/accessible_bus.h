@@ -22,6 +22,9 @@ struct BusNode {
   /// The name of the label that belongs to it; empty where there is none.
   QString label;
   bool isShowing = false;
+  bool isActive = false;
+  bool isFocused = false;
+  bool isChecked = false;
 };
 
 /// A connection to the bus. What has gone from a program's tree meanwhile counts as nameless and childless.
@@ -32,11 +35,22 @@ class AccessibleBus {
   AccessibleBus(const AccessibleBus&) = delete;
   AccessibleBus& operator=(const AccessibleBus&) = delete;
 
+  /// Of a list only so many children are visited: it may have millions, and readers do not go through them
+  /// either.
+  static constexpr int kMostOfAList = 20;
+
   /// The programs that can be read.
   std::vector<BusNode> programs() const;
   std::vector<BusNode> children(const BusNode& parent) const;
   /// Everything below `top`, from top to bottom.
   std::vector<BusNode> everythingBelow(const BusNode& top) const;
+  int childCount(const BusNode& parent) const;
+  BusNode child(const BusNode& parent, int number) const;
+  /// The same thing as it is now.
+  BusNode again(const BusNode& node) const { return described(node.service, node.path); }
+  QString description(const BusNode& node) const;
+  /// What is in a text box.
+  QString text(const BusNode& node) const;
 
   /// Where on the screen it is, in pixels; empty where that is not known.
   QRect place(const BusNode& node) const;
@@ -51,10 +65,10 @@ class AccessibleBus {
   QDBusMessage callTo(const BusNode& node, const char* interface, const char* method) const;
   QVariant answer(const QDBusMessage& call) const;
   BusNode described(const QString& service, const QString& path) const;
-  std::vector<BusNode> references(const QDBusArgument& list) const;
+  QVariant property(const BusNode& node, const char* name) const;
   QString nameOf(const BusNode& node) const;
   QString labelOf(const BusNode& node) const;
-  bool isShowing(const BusNode& node) const;
+  void readStates(BusNode& node) const;
 
   QDBusConnection bus_;
 };

@@ -29,25 +29,19 @@ inline QString asLine(const BusNode& node) {
          node.name;
 }
 
-class RunningProgram : public testing::Test {
+/// A program that a test starts when its files are there.
+class ProgramOnBus : public testing::Test {
  protected:
-  /// The program finds a listing, an online source whose folder is gone, and the settings for both.
-  RunningProgram() {
-    folder_.writeFile(QStringLiteral("defaults.txt"),
-                      folder_.path().toLocal8Bit() + "\r\nmain.lst\r\nmain.zip\r\nhost.invalid\r\n");
-    folder_.writeFile(QStringLiteral("main.lst"),
-                      blockHead("DISK", "\\Music\\") + entryLine("one tune.mp3", "131,072"));
-    folder_.writeFile(QStringLiteral("Films.txt"), "");
-    folder_.writeFile(QStringLiteral("Locations.txt"),
-                      "\"Films\",\"" + folder_.pathOf(QStringLiteral("gone/")).toLocal8Bit() + "\"\r\n");
-    program_.setProcessEnvironment(desktop_.environment());
+  ~ProgramOnBus() override { endProcess(program_); }
+
+  /// Starts it in the test's folder.
+  void start(const QProcessEnvironment& environment) {
+    program_.setProcessEnvironment(environment);
     program_.setWorkingDirectory(folder_.path());
     program_.setProcessChannelMode(QProcess::ForwardedChannels);
     program_.start(QStringLiteral(QUORVIN_PROGRAM), QStringList());
+    ASSERT_TRUE(shown(QStringLiteral("frame"), QStringLiteral("Quorvin Utility")));
   }
-  ~RunningProgram() override { endProcess(program_); }
-
-  void SetUp() override { ASSERT_TRUE(shown(QStringLiteral("frame"), QStringLiteral("Quorvin Utility"))); }
 
   std::vector<BusNode> windows() {
     for (const BusNode& program : bus_.programs()) {
@@ -124,6 +118,21 @@ class RunningProgram : public testing::Test {
   }
 
   QProcess program_;
+};
+
+class RunningProgram : public ProgramOnBus {
+ protected:
+  /// The program finds a listing, an online source whose folder is gone, and the settings for both.
+  void SetUp() override {
+    folder_.writeFile(QStringLiteral("defaults.txt"),
+                      folder_.path().toLocal8Bit() + "\r\nmain.lst\r\nmain.zip\r\nhost.invalid\r\n");
+    folder_.writeFile(QStringLiteral("main.lst"),
+                      blockHead("DISK", "\\Music\\") + entryLine("one tune.mp3", "131,072"));
+    folder_.writeFile(QStringLiteral("Films.txt"), "");
+    folder_.writeFile(QStringLiteral("Locations.txt"),
+                      "\"Films\",\"" + folder_.pathOf(QStringLiteral("gone/")).toLocal8Bit() + "\"\r\n");
+    start(desktop_.environment());
+  }
 };
 
 }  // namespace quorvin::test

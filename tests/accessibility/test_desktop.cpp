@@ -8,7 +8,7 @@
 
 namespace quorvin::test {
 
-TestDesktop::TestDesktop() : environment_(QProcessEnvironment::systemEnvironment()) {
+TestDesktop::TestDesktop() : environment_(screen_.environment()) {
   environment_.insert(QStringLiteral("HOME"), home_.path());
   for (const char* name : {"XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
     environment_.insert(QString::fromLatin1(name), home_.makeFolder(QString::fromLatin1(name)));
@@ -17,11 +17,9 @@ TestDesktop::TestDesktop() : environment_(QProcessEnvironment::systemEnvironment
                         QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   environment_.insert(QStringLiteral("QUORVIN_SETTINGS"), home_.pathOf(QStringLiteral("settings.ini")));
   environment_.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-  environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
   environment_.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
   environment_.insert(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory"));
   environment_.remove(QStringLiteral("AT_SPI_BUS_ADDRESS"));
-  environment_.insert(QStringLiteral("DISPLAY"), screen_.display());
   startSessionBus();
   startAccessibilityBus();
 }

@@ -1,7 +1,7 @@
-// A desktop of a test's own: a screen that nobody sees, a session bus, and the accessibility bus on it.
+// A desktop of a test's own with buses: a session bus, and the accessibility bus on it.
 #pragma once
 
-#include "support/hidden_screen.h"
+#include "e2e/desktop.h"
 #include "support/temporary_folder.h"
 
 #include <QProcess>
@@ -20,6 +20,8 @@ class TestDesktop {
   TestDesktop& operator=(const TestDesktop&) = delete;
 
   const QProcessEnvironment& environment() const { return environment_; }
+  /// Its keyboard and clipboard.
+  const Desktop& screen() const { return screen_; }
   /// Where to connect to hear what screen readers hear.
   const QString& accessibilityBus() const { return accessibilityBus_; }
 
@@ -28,7 +30,7 @@ class TestDesktop {
   void startAccessibilityBus();
 
   TemporaryFolder home_;
-  HiddenScreen screen_;
+  Desktop screen_;
   QProcessEnvironment environment_;
   QProcess sessionBus_;
   QString accessibilityBus_;

@@ -9,7 +9,11 @@
 #include "preview/image_preview.h"
 #include "preview/res_win.h"
 
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QThreadPool>
+#include <QUrl>
 
 namespace quorvin::test {
 
@@ -35,6 +39,15 @@ class AccessibleWindows : public SearchFormTest {
       EXPECT_EQ(dialog.windowTitle(), title);
       expectReadings(dialog, lines);
     }));
+  }
+  static void drop(QWidget& target, const QUrl& url) {
+    QMimeData data;
+    data.setUrls({url});
+    QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &enter);
+    QDropEvent event(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &event);
+    QCoreApplication::processEvents();
   }
   static frmBrowser* shownBrowser() {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -67,6 +80,19 @@ TEST_F(AccessibleWindows, LocalLocForFolders) {
                                         "Button Cancel: Cancel\n"
                                         "StaticText Label1: Description\n"
                                         "StaticText Label2: Path"));
+}
+
+TEST_F(AccessibleWindows, FoldersThatAreDroppedOntoTheEditorAreReadInItsList) {
+  const QString music = folder_.makeFolder(QStringLiteral("Music"));
+  form();
+  EXPECT_TRUE(duringModal<QDialog>(
+      [this] { form().menus().AddLocal->trigger(); },
+      [&](QDialog& dialog) {
+        drop(dialog, QUrl::fromLocalFile(music.chopped(1)));
+        const QString lines = asLines(readingsOf(dialog));
+        EXPECT_TRUE(lines.contains(QStringLiteral("TreeItem : Music\nTreeItem : %1\n").arg(music)))
+            << lines.toStdString();
+      }));
 }
 
 TEST_F(AccessibleWindows, LocalLocForOfflineLists) {

@@ -10,7 +10,7 @@ namespace quorvin::test {
 namespace {
 
 // How long nothing at all may happen; it only ends a test that hangs.
-constexpr int kPatienceMilliseconds = 180'000;
+constexpr int kLongestStandstill = 180'000;
 constexpr int kBetweenLooksMilliseconds = 20;
 constexpr int kBetweenKeysMilliseconds = 4;
 
@@ -22,12 +22,12 @@ constexpr int kBetweenKeysMilliseconds = 4;
 
 void waitUntil(const QString& what, const std::function<bool()>& condition,
                const std::function<QString()>& instead, const std::function<qint64()>& progress) {
-  QDeadlineTimer deadline(kPatienceMilliseconds);
+  QDeadlineTimer deadline(kLongestStandstill);
   qint64 seen = 0;
   while (!condition()) {
     if (const qint64 now = progress ? progress() : 0; now != seen) {
       seen = now;
-      deadline.setRemainingTime(kPatienceMilliseconds);
+      deadline.setRemainingTime(kLongestStandstill);
     }
     if (deadline.hasExpired()) {
       fail(QStringLiteral("waited in vain ") + what +
@@ -68,7 +68,7 @@ Desktop::Answer Desktop::run(const QString& program, const QStringList& argument
   endWithTest(process);
   process.setProcessEnvironment(environment_);
   process.start(program, arguments);
-  if (!process.waitForFinished(kPatienceMilliseconds)) fail(program + QStringLiteral(" does not end"));
+  if (!process.waitForFinished(kLongestStandstill)) fail(program + QStringLiteral(" does not end"));
   return {process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
           QString::fromUtf8(process.readAllStandardOutput())};
 }

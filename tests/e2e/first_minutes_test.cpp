@@ -26,19 +26,12 @@ class FirstMinutes : public testing::Test {
     home_.writeFile(QStringLiteral("Films/harbour lights.avi"), "x");
     QProcessEnvironment environment = desktop_.environment();
     environment.insert(QStringLiteral("HOME"), home_.path());
-    windowManager_.setProcessEnvironment(environment);
-    endWithTest(windowManager_);
-    windowManager_.start(QStringLiteral(QUORVIN_OPENBOX), {QStringLiteral("--sm-disable")});
-    EXPECT_TRUE(eventually([this] { return control({QStringLiteral("get_num_desktops")}); }));
     program_.setProcessEnvironment(environment);
     program_.setWorkingDirectory(home_.path());
     program_.setProcessChannelMode(QProcess::ForwardedChannels);
     program_.start(QStringLiteral(QUORVIN_PROGRAM), QStringList());
   }
-  ~FirstMinutes() override {
-    endProcess(program_);
-    endProcess(windowManager_);
-  }
+  ~FirstMinutes() override { endProcess(program_); }
 
   bool control(const QStringList& arguments) const {
     QProcess process;
@@ -104,7 +97,6 @@ class FirstMinutes : public testing::Test {
   TemporaryFolder home_;
   TestDesktop desktop_;
   AccessibleBus bus_{desktop_.accessibilityBus()};
-  QProcess windowManager_;
   QProcess program_;
   int clicks_ = 0;
 };
