@@ -32,10 +32,10 @@ double secondsOf(const QElapsedTimer& clock) {
 }  // namespace
 
 struct SearchWindow::Parts {
-  Parts(const QString& settingsPath, const QLocale& locale)
+  Parts(const QString& settingsPath, const QLocale& locale, FilePicker* picker)
       : settings(settingsPath),
         segments(SegmentStore::defaultOptions()),
-        form(state, messages, shell, locale, &segments),
+        form(state, messages, shell, locale, &segments, picker),
         startUp(state, settings, messages, form.frame(), nullptr) {}
 
   void press() { QTest::mouseClick(form.controls().Find, Qt::LeftButton); }
@@ -51,8 +51,9 @@ struct SearchWindow::Parts {
   StartUp startUp;
 };
 
-SearchWindow::SearchWindow(const QString& listing, const QString& folder, const QLocale& locale)
-    : parts_(std::make_unique<Parts>(folder + QStringLiteral("/settings.ini"), locale)) {
+SearchWindow::SearchWindow(const QString& listing, const QString& folder, const QLocale& locale,
+                           FilePicker* picker)
+    : parts_(std::make_unique<Parts>(folder + QStringLiteral("/settings.ini"), locale, picker)) {
   StartUpConditions conditions;
   conditions.commandLine = listing;
   conditions.programFolder = [folder] { return folder; };
@@ -73,6 +74,10 @@ SegmentStore& SearchWindow::segments() {
 
 SearchForm& SearchWindow::form() {
   return parts_->form;
+}
+
+ProgramState& SearchWindow::state() {
+  return parts_->state;
 }
 
 void SearchWindow::type(const QString& words, const QString& match) {

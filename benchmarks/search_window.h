@@ -13,7 +13,9 @@
 
 namespace quorvin {
 
+class FilePicker;
 class SearchForm;
+struct ProgramState;
 
 /// What came of pressing Stop when a run let events run for the first time.
 struct StopFigures {
@@ -29,7 +31,9 @@ class SearchWindow {
  public:
   /// `listing` is a whole path. Settings are kept in `folder`, which exists; segments where the environment
   /// says.
-  SearchWindow(const QString& listing, const QString& folder, const QLocale& locale);
+  /// Files are picked with `picker`; it may be null.
+  SearchWindow(const QString& listing, const QString& folder, const QLocale& locale,
+               FilePicker* picker = nullptr);
   ~SearchWindow();
   SearchWindow(const SearchWindow&) = delete;
   SearchWindow& operator=(const SearchWindow&) = delete;
@@ -37,8 +41,9 @@ class SearchWindow {
   /// The segments that the window searches.
   SegmentStore& segments();
 
-  /// The window itself.
+  /// The window itself, and the state that it works on.
   SearchForm& form();
+  ProgramState& state();
 
   /// Types the search text and the desired match over what stands in their fields.
   void type(const QString& words, const QString& match);

@@ -36,20 +36,6 @@ struct Options {
 
 constexpr const char* kColumnNames[] = {"Match", "Volume", "Folder", "Name", "Size", "Date"};
 
-struct Timed {
-  double milliseconds = 0;
-  double longestGap = 0;
-};
-
-Timed median(std::vector<Timed> all) {
-  const auto middle = [&](double Timed::*figure) {
-    std::ranges::sort(all, {}, figure);
-    return all[all.size() / 2].*figure;
-  };
-  const double time = middle(&Timed::milliseconds);
-  return {time, std::ranges::max(all, {}, &Timed::longestGap).longestGap};
-}
-
 /// The window after a search, and what can be done with its rows.
 class OrderedWindow {
  public:
