@@ -41,6 +41,10 @@ struct Selection {
   QColor text;
 };
 
+void PrintTo(const Selection& selection, std::ostream* out) {
+  *out << selection.palette;
+}
+
 class SelectedRow : public testing::TestWithParam<Selection> {
  protected:
   static QColor background() {
