@@ -111,6 +111,7 @@ class SoakedProgram {
   void takeOver(const QString& description, const Listing& listing);
   void takeOverRestored(const QString& name);
   bool pressCancel(const Identities& before) const;
+  void closeResults() const;
   void refreshAgain();
 
   void selectRow(int row, bool hasSelection) const;

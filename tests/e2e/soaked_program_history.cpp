@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kWaitMilliseconds = 60'000;
 constexpr unsigned kBetweenLooksMicroseconds = 200;
+constexpr int kLooksAtMainWindow = 15;
 constexpr unsigned kLittleWorkMicroseconds = 3'000;
 const QString kResults = QStringLiteral("Results");
 const QString kVersions = QStringLiteral("*.version");
@@ -120,18 +121,29 @@ bool SoakedProgram::pressCancel(const Identities& before) const {
   return false;
 }
 
+/// Where something is to be reported, a window comes, with which the window manager takes its time.
+void SoakedProgram::closeResults() const {
+  int looks = 0;
+  waitUntil(
+      QStringLiteral("for the main window alone"),
+      [&] {
+        const QString active = desktop_.activeWindow();
+        const QString title = desktop_.titleOf(active);
+        if (title == kResults) press({QStringLiteral("Escape")});
+        if (title.isEmpty()) desktop_.activate(program_->mainWindow());
+        looks = active == program_->mainWindow() ? looks + 1 : 0;
+        return looks >= kLooksAtMainWindow;
+      },
+      [this] { return messageShown(); });
+}
+
 bool SoakedProgram::cancelRefresh() {
   const Identities before = identitiesOfListings();
   startRefresh();
   const bool isInTime = pressCancel(before);
   note(isInTime ? QStringLiteral("refresh, cancelled") : QStringLiteral("refresh, cancelled too late"));
   waitUntilAtRest();
-  // It may not have been given the keys yet.
-  if (!desktop_.windowsOf(program_->processId(), kResults).isEmpty()) {
-    program_->waitForWindow(kResults);
-    press({QStringLiteral("Escape")});
-  }
-  program_->waitForMainWindow();
+  closeResults();
   waitUntilAtRest();
   takeOverListings(isInTime);
   refreshAgain();
