@@ -51,6 +51,14 @@ struct SearchWindow::Parts {
   StartUp startUp;
 };
 
+void liveIn(const QTemporaryDir& folder) {
+  if (!folder.isValid()) throw std::runtime_error("no temporary folder could be made");
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  for (const char* kind : {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
+    qputenv(kind, folder.filePath(QString::fromLatin1(kind)).toLocal8Bit());
+  }
+}
+
 SearchWindow::SearchWindow(const QString& listing, const QString& folder, const QLocale& locale,
                            FilePicker* picker)
     : parts_(std::make_unique<Parts>(folder + QStringLiteral("/settings.ini"), locale, picker)) {

@@ -7,6 +7,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QTemporaryDir>
 
 #include <cstdint>
 #include <memory>
@@ -24,6 +25,11 @@ struct StopFigures {
   /// From the press of Stop to the end of the run.
   double seconds = 0;
 };
+
+/// From now on settings, data and cache are below `folder`, so that nothing of the user's is read or written,
+/// and there is no screen. To be called before there is an Application. Throws std::runtime_error when the
+/// folder could not be made.
+void liveIn(const QTemporaryDir& folder);
 
 /// The window after a start-up with one listing on the command line. Needs an Application; user-interface
 /// thread only. Every press throws std::runtime_error when the program shows a message.

@@ -196,12 +196,7 @@ void measureFilters(OrderedWindow& window, const Options& options) {
 
 void run(const Options& options, int argumentCount, char** arguments) {
   const QTemporaryDir folder;
-  if (!folder.isValid()) throw std::runtime_error("no temporary folder could be made");
-  // Nothing of the user's is read or written.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  for (const char* kind : {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
-    qputenv(kind, folder.filePath(QString::fromLatin1(kind)).toLocal8Bit());
-  }
+  liveIn(folder);
   RecordedMessages faults;
   const Application application(argumentCount, arguments, faults);
   QLocale::setDefault(localeNamed(options.locale));
