@@ -32,6 +32,11 @@ class ExportedHits : public SearchFormTest {
     const RowOrder& order = static_cast<HitListModel*>(controls().HitList->model())->order();
     EXPECT_EVENTUALLY(!order.isSorting() && !order.isFiltering());
   }
+  void sortByNameDownwards() {
+    press(Qt::Key_4, Qt::ControlModifier);
+    press(Qt::Key_4, Qt::ControlModifier);
+    waitForRows();
+  }
   /// Those of a table, each with a blank behind it.
   std::string namesIn(const QString& table) {
     std::string names;
@@ -97,9 +102,7 @@ TEST_F(ExportedHits, AsAListingAreFoundAgainByTheProgramItself) {
 TEST_F(ExportedHits, GoOutInTheOrderInWhichTheyAreShown) {
   showHits(3);
   activate(form());
-  press(Qt::Key_4, Qt::ControlModifier);
-  press(Qt::Key_4, Qt::ControlModifier);
-  waitForRows();
+  sortByNameDownwards();
   exportAllTo(QStringLiteral("all.csv"));
   EXPECT_EQ(namesIn(QStringLiteral("all.csv")), "tune 3.mp3 tune 2.mp3 tune 1.mp3 ");
 }
@@ -118,9 +121,7 @@ TEST_F(ExportedHits, ThatAreSelectedGoOutInTheOrderInWhichTheyAreShownToo) {
   showHits(30);
   activate(form());
   controls().HitList->setFocus();
-  press(Qt::Key_4, Qt::ControlModifier);
-  press(Qt::Key_4, Qt::ControlModifier);
-  waitForRows();
+  sortByNameDownwards();
   press(Qt::Key_Home);
   press(Qt::Key_Down, Qt::ShiftModifier, 2);
   files_.pick = out_.pathOf(QStringLiteral("three.csv"));
@@ -132,9 +133,7 @@ TEST_F(ExportedHits, ThatAreSortedWhileTheFileIsChosenGoOutSorted) {
   showHits(3);
   files_.duringSave = [this] {
     activate(form());
-    press(Qt::Key_4, Qt::ControlModifier);
-    press(Qt::Key_4, Qt::ControlModifier);
-    waitForRows();
+    sortByNameDownwards();
   };
   exportAllTo(QStringLiteral("all.csv"));
   EXPECT_EQ(namesIn(QStringLiteral("all.csv")), "tune 3.mp3 tune 2.mp3 tune 1.mp3 ");
