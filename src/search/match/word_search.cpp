@@ -1,6 +1,6 @@
 #include "search/match/word_search.h"
 
-#include "search/match/word_scan.h"
+#include "search/segment/text_scan.h"
 
 #include <algorithm>
 #include <optional>

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "search/format/line_scan.h"
-#include "search/segment/byte_pair_scan.h"
 #include "search/segment/checked_span.h"
 #include "search/segment/passing_bytes.h"
+#include "search/segment/text_scan.h"
 
 #include <array>
 #include <cstdint>

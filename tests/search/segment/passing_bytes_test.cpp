@@ -1,6 +1,6 @@
 #include "search/segment/passing_bytes.h"
 
-#include "search/segment/byte_pair_scan.h"
+#include "search/segment/text_scan.h"
 #include "support/temporary_folder.h"
 
 #include <QFile>

@@ -1,9 +1,9 @@
-#include "search/match/word_scan.h"
+#include "search/segment/text_scan.h"
 
 #include "platform/instruction_set.h"
 
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "search/match/word_scan.cpp"
+#define HWY_TARGET_INCLUDE "search/segment/text_scan.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -11,6 +11,39 @@ HWY_BEFORE_NAMESPACE();
 namespace quorvin::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
+
+// At most 64 lanes, so that one mask word takes a whole number of vectors.
+using Lanes = hn::CappedTag<std::uint8_t, 64>;
+
+template <typename Mask>
+HWY_INLINE std::uint64_t bitsOf(Mask mask) {
+  alignas(8) std::uint8_t stored[8] = {};
+  hn::StoreMaskBits(Lanes(), mask, stored);
+  return bitsOfStoredMask(stored);
+}
+
+bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64_t* bits) {
+  const Lanes d;
+  const std::size_t lanes = hn::Lanes(d);
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text);
+  const auto first = hn::Set(d, pair.first);
+  const auto second = hn::Set(d, pair.second);
+  std::uint64_t any = 0;
+  for (std::size_t base = 0; base < size; base += 64) {
+    // The processor's own reading ahead ends with each page of memory.
+    __builtin_prefetch(bytes + base + 4096);
+    std::uint64_t word = 0;
+    for (std::size_t i = 0; i < 64; i += lanes) {
+      const auto fits = hn::And(hn::Eq(hn::LoadU(d, bytes + base + i + pair.firstAt), first),
+                                hn::Eq(hn::LoadU(d, bytes + base + i + pair.secondAt), second));
+      word |= bitsOf(fits) << i;
+    }
+    if (size - base < 64) word &= (std::uint64_t{1} << (size - base)) - 1;
+    bits[base / 64] = word;
+    any |= word;
+  }
+  return any != 0;
+}
 
 // Counting bits and finding the lowest one are single instructions only where the processor is known to have
 // them, so that this is compiled again for each set though nothing here is a vector.
@@ -84,16 +117,6 @@ class TextGathering {
 };
 
 #endif
-
-// At most 64 lanes, so that one mask word takes a whole number of vectors.
-using Lanes = hn::CappedTag<std::uint8_t, 64>;
-
-template <typename Mask>
-HWY_INLINE std::uint64_t bitsOf(Mask mask) {
-  alignas(8) std::uint8_t stored[8] = {};
-  hn::StoreMaskBits(Lanes(), mask, stored);
-  return bitsOfStoredMask(stored);
-}
 
 /// The scan for a word of kLength bytes: with the length known, its bytes stay in registers.
 template <std::size_t kLength>
@@ -192,7 +215,42 @@ HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 
+#include <algorithm>
+#include <array>
+
 namespace quorvin {
+
+bool scanBytePair(const char* text, std::size_t size, BytePair pair, std::uint64_t* bits) {
+  static constexpr FunctionVersions<decltype(&scanBytePair)> kVersions = QUORVIN_VERSIONS_OF(scanBytePair);
+  return kVersions.chosen()(text, size, pair, bits);
+}
+
+namespace {
+
+/// How common a byte is in lower-cased names, 0 the rarest. Only the order matters.
+int commonness(std::uint8_t byte) {
+  static constexpr std::string_view kFromCommonToRare = "e.aiotnrsl-_cdmpuhgbfy0k1v2w3x4z5j6789q ";
+  const std::size_t at = kFromCommonToRare.find(static_cast<char>(byte));
+  if (at != kFromCommonToRare.npos) return static_cast<int>(kFromCommonToRare.size() - at) + 1;
+  // Every character of a script has the same lead bytes.
+  return byte >= 0xC0 ? 30 : byte >= 0x80 ? 1 : 0;
+}
+
+}  // namespace
+
+BytePair rarestPair(std::string_view word) {
+  const std::size_t length = std::min(word.size(), kFarthestPairByte);
+  const auto byteAt = [&](std::size_t i) { return static_cast<std::uint8_t>(word[i]); };
+  std::size_t first = 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if (commonness(byteAt(i)) < commonness(byteAt(first))) first = i;
+  }
+  std::size_t second = first == 0 ? length - 1 : 0;
+  for (std::size_t i = 0; i < length; ++i) {
+    if (i != first && commonness(byteAt(i)) < commonness(byteAt(second))) second = i;
+  }
+  return {byteAt(first), byteAt(second), static_cast<std::uint8_t>(first), static_cast<std::uint8_t>(second)};
+}
 
 bool scanTexts(std::string_view text, std::string_view word, char end, std::uint64_t* texts) {
   static constexpr FunctionVersions<decltype(&scanTexts)> kVersions = QUORVIN_VERSIONS_OF(scanTexts);

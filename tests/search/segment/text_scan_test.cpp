@@ -1,4 +1,4 @@
-#include "search/segment/byte_pair_scan.h"
+#include "search/segment/text_scan.h"
 
 #include "support/instruction_sets.h"
 

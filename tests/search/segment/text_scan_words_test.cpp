@@ -1,7 +1,5 @@
 // Where words stand, and which texts hold them, held against plain loops.
-#include "search/match/word_scan.h"
-
-#include "search/segment/byte_pair_scan.h"
+#include "search/segment/text_scan.h"
 #include "support/instruction_sets.h"
 
 #include <gtest/gtest.h>
