@@ -1,4 +1,4 @@
-#include "hits/marked_text.h"
+#include "hits/hit_list_delegate.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
