@@ -56,7 +56,7 @@ bool Shutdown::saveWhatCanBeSaved() {
 /// The place of a minimized window is none that anyone wants to find it in.
 void Shutdown::saveWindowPlace() {
   if (view_.isMinimized()) return;
-  writePlacement(store_, state_, view_);
+  writePlacement(store_, state_, [this](PlacementKey key) { return view_.placement(key); });
   writeMaximized(store_, state_, view_.maximizedFrom());
 }
 

@@ -11,9 +11,14 @@
 
 namespace quorvin {
 
-/// What shutdown does with the windows.
-class ShutdownView : public WindowPlacement {
+/// What shutdown does with the windows. It is the edge to the window system: shutdown has to hold without a
+/// screen, too, where every one of its calls of the system is made to fail.
+class ShutdownView {
  public:
+  virtual ~ShutdownView() = default;
+
+  /// See PlacementOf.
+  virtual float placement(PlacementKey key) const = 0;
   virtual bool isMinimized() const = 0;
   /// Where a maximized window goes back to; empty for one that is not maximized.
   virtual QString maximizedFrom() const = 0;

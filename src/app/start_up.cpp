@@ -48,7 +48,9 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
     takeCommandLine(conditions.commandLine, conditions.pathStyle);
   }
 
-  readPlacement(store_, state_, view_);
+  readPlacement(
+      store_, state_, [this](PlacementKey key) { return view_.placement(key); },
+      [this](PlacementKey key, float twips) { view_.setPlacement(key, twips); });
   readSettings(store_, state_, conditions.now, conditions.locale);
   if (!state_.WebServer.isEmpty() && !state_.ArchiveFile.isEmpty()) view_.setWebUpdateEnabled(true);
   completeLocalFolder(state_, [&] { return programFolderOf(conditions); });

@@ -19,9 +19,15 @@ namespace quorvin {
 inline constexpr char16_t kListingNotFound[] =
     u"Could not find file specified on command line. Using default file.";
 
-/// What start-up does with the main window, besides moving it.
-class StartUpView : public WindowPlacement {
+/// What start-up does with the main window. It is the edge to the window system: start-up has to hold without
+/// a screen, too, where it is killed and started again by the thousand.
+class StartUpView {
  public:
+  virtual ~StartUpView() = default;
+
+  /// See PlacementOf and SetPlacement.
+  virtual float placement(PlacementKey key) const = 0;
+  virtual void setPlacement(PlacementKey key, float twips) = 0;
   /// Sets the caption of `lblVer`.
   virtual void setVersionCaption(const QString& caption) = 0;
   /// The window is that of the listing at `path`, which the command line names: its title says so.

@@ -82,10 +82,11 @@ float placementValue(const QString& text) {
   throw RuntimeFault(FaultNumber::Overflow, describe(FaultNumber::Overflow) + QStringLiteral(": ") + text);
 }
 
-void readPlacement(const SettingsStore& store, ProgramState& state, WindowPlacement& window) {
+void readPlacement(const SettingsStore& store, ProgramState& state, const PlacementOf& placement,
+                   const SetPlacement& setPlacement) {
   for (const auto& [key, name] : placementNames()) {
-    const QString current = placementText(window.placement(key));
-    window.setPlacement(key, placementValue(readSetting(store, state, name, current)));
+    const QString current = placementText(placement(key));
+    setPlacement(key, placementValue(readSetting(store, state, name, current)));
     state.settingsRead += name;
   }
 }
@@ -174,11 +175,10 @@ void writeSettings(SettingsStore& store, const ProgramState& state, const QLocal
   }
 }
 
-void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window) {
+void writePlacement(SettingsStore& store, const ProgramState& state, const PlacementOf& placement) {
   for (const auto& [key, name] : placementNames()) {
     if (shouldStay(store, state, name)) continue;
-    store.write(state.RegKey, QString::fromUtf16(kSettingsSection), name,
-                placementText(window.placement(key)));
+    store.write(state.RegKey, QString::fromUtf16(kSettingsSection), name, placementText(placement(key)));
   }
 }
 

@@ -20,15 +20,11 @@ inline constexpr char16_t kSettingsSection[] = u"Settings";
 /// The four placement keys, in the order in which they are read and written.
 enum class PlacementKey { Top, Left, Width, Height };
 
-/// The main window's place on the screen, as the settings see it: outer measures in twips (15 to the logical
+/// Gives one measure of the main window's place on the screen: an outer measure in twips (15 to the logical
 /// pixel).
-class WindowPlacement {
- public:
-  virtual ~WindowPlacement() = default;
-  virtual float placement(PlacementKey key) const = 0;
-  /// Moves or resizes the window at once.
-  virtual void setPlacement(PlacementKey key, float twips) = 0;
-};
+using PlacementOf = std::function<float(PlacementKey)>;
+/// Moves or resizes the window to such a measure at once.
+using SetPlacement = std::function<void(PlacementKey, float twips)>;
 
 /// A single-precision number as settings text, and back. Reading takes the number at the front of the text
 /// and throws fault 13 when there is none.
@@ -38,7 +34,8 @@ float placementValue(const QString& text);
 /// Reads the placement keys of `state.RegKey`, each with the window's current value as default, and applies
 /// each to the window as soon as it is read, in the order Top, Left, Width, Height. `state` notes the keys
 /// that were read. Throws fault 13 for what is no number, and as the store does.
-void readPlacement(const SettingsStore& store, ProgramState& state, WindowPlacement& window);
+void readPlacement(const SettingsStore& store, ProgramState& state, const PlacementOf& placement,
+                   const SetPlacement& setPlacement);
 
 /// Reads "LocalFolder", "TextFile", "ArchiveFile", "WebServer", "JoinDate" and "NickName" of `state.RegKey`
 /// into `state`, in this order, which also notes that they were read. What `state` holds before is the
@@ -83,7 +80,7 @@ void writeSettings(SettingsStore& store, const ProgramState& state, const QLocal
 /// Stores the window's place and size under `state.RegKey`: Top, Left, Width, Height. One that was not read
 /// at start-up replaces only what is no number, which would end the next start-up too. Throws as the store
 /// does in writing.
-void writePlacement(SettingsStore& store, const ProgramState& state, const WindowPlacement& window);
+void writePlacement(SettingsStore& store, const ProgramState& state, const PlacementOf& placement);
 
 /// The eleventh key, "Maximized": where a maximized main window goes back to, as text that only the window
 /// understands; empty for one that is not maximized. Nothing is written where nothing changes, so the key is

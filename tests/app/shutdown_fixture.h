@@ -16,7 +16,6 @@ namespace quorvin {
 class LoggingWindows : public ShutdownView {
  public:
   float placement(PlacementKey key) const override { return static_cast<float>(key) * 1000 + 15.5F; }
-  void setPlacement(PlacementKey, float) override {}
   bool isMinimized() const override { return minimized; }
   QString maximizedFrom() const override { return maximized; }
   void processEvents() override {

@@ -19,10 +19,10 @@ using testing::ElementsAre;
 
 const QString kApplication = QStringLiteral("Ketta Quorvin");
 
-class FakeWindow : public WindowPlacement {
+class FakeWindow {
  public:
-  float placement(PlacementKey key) const override { return values[static_cast<std::size_t>(key)]; }
-  void setPlacement(PlacementKey key, float twips) override {
+  float placement(PlacementKey key) const { return values[static_cast<std::size_t>(key)]; }
+  void setPlacement(PlacementKey key, float twips) {
     values[static_cast<std::size_t>(key)] = twips;
     changes.push_back(key);
   }
@@ -53,6 +53,15 @@ const QLocale kAmerican(QLocale::English, QLocale::UnitedStates);
 class Settings : public testing::Test {
  protected:
   Settings() { state_.resetFileNames(); }
+
+  void readWindowPlace() {
+    readPlacement(
+        store_, state_, [this](PlacementKey key) { return window_.placement(key); },
+        [this](PlacementKey key, float twips) { window_.setPlacement(key, twips); });
+  }
+  void writeWindowPlace() {
+    writePlacement(store_, state_, [this](PlacementKey key) { return window_.placement(key); });
+  }
 
   MemorySettingsStore store_;
   ProgramState state_;
@@ -95,7 +104,7 @@ TEST(PlacementValue, FaultsWhenSinglePrecisionCannotHoldIt) {
 }
 
 TEST_F(Settings, PlacementIsReadInOrderWithTheWindowsOwnAsDefault) {
-  readPlacement(store_, state_, window_);
+  readWindowPlace();
   EXPECT_EQ(keysRead(store_), QStringList({QStringLiteral("Top"), QStringLiteral("Left"),
                                            QStringLiteral("Width"), QStringLiteral("Height")}));
   ASSERT_EQ(store_.reads.size(), 4U);
@@ -111,7 +120,7 @@ TEST_F(Settings, PlacementIsAppliedFourTimes) {
   store_.put(kApplication, QStringLiteral("Left"), QStringLiteral("30.5"));
   store_.put(kApplication, QStringLiteral("Width"), QStringLiteral("12000"));
   store_.put(kApplication, QStringLiteral("Height"), QStringLiteral("7500"));
-  readPlacement(store_, state_, window_);
+  readWindowPlace();
   EXPECT_THAT(window_.values, ElementsAre(15, 30.5F, 12000, 7500));
   EXPECT_THAT(window_.changes,
               ElementsAre(PlacementKey::Top, PlacementKey::Left, PlacementKey::Width, PlacementKey::Height));
@@ -120,7 +129,7 @@ TEST_F(Settings, PlacementIsAppliedFourTimes) {
 TEST_F(Settings, AnUnreadablePlacementFaultsAndKeepsThoseBefore) {
   store_.put(kApplication, QStringLiteral("Top"), QStringLiteral("15"));
   store_.put(kApplication, QStringLiteral("Left"), QStringLiteral("far left"));
-  EXPECT_FAULT(readPlacement(store_, state_, window_), 13);
+  EXPECT_FAULT(readWindowPlace(), 13);
   EXPECT_THAT(window_.values, ElementsAre(15, 3000, 9000, 6000));
 }
 
@@ -324,8 +333,8 @@ TEST_F(AfterAFailedStart, OnlyAPlaceThatIsNoNumberIsReplaced) {
   store_.put(kApplication, QStringLiteral("Left"), QStringLiteral("far left"));
   store_.put(kApplication, QStringLiteral("Width"), QStringLiteral("12000"));
   store_.put(kApplication, QStringLiteral("Height"), QStringLiteral("1e39"));
-  EXPECT_FAULT(readPlacement(store_, state_, window_), 13);
-  writePlacement(store_, state_, window_);
+  EXPECT_FAULT(readWindowPlace(), 13);
+  writeWindowPlace();
   EXPECT_EQ(stored("Top"), QStringLiteral("15"));
   EXPECT_EQ(stored("Left"), QStringLiteral("3000"));
   EXPECT_EQ(stored("Width"), QStringLiteral("12000"));
@@ -336,7 +345,7 @@ TEST_F(AfterAFailedStart, AStoreThatCannotBeReadKeepsNobodyFromLeaving) {
   store_.refusesReads = true;
   endStartUp();
   writeSettings(store_, state_, kAmerican);
-  writePlacement(store_, state_, window_);
+  writeWindowPlace();
   EXPECT_TRUE(store_.writes.empty());
 }
 

@@ -14,7 +14,9 @@
 
 namespace quorvin {
 
-/// Takes what was found in the stream. Texts are bytes in the peer's code page.
+/// Takes what was found in the stream. Texts are bytes in the peer's code page. It is the edge to the
+/// network: what strangers send is taken apart at random and byte by byte with nothing behind it that keeps
+/// files.
 class AnswerSink {
  public:
   virtual ~AnswerSink() = default;
