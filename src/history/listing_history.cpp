@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -36,10 +35,14 @@ bool isBelowDataFolder(const QString& listing) {
          clean != u"." && clean != u".." && !clean.startsWith(u"../");
 }
 
-/// The number in the name of a version's file; 0 for other names.
+/// The number in the name of a version's file; 0 for other names. A regular expression that gets no memory
+/// fits no name, and the number of a version would be given to another one.
 int numberOf(const QString& fileName) {
-  static const QRegularExpression pattern(QStringLiteral("^([0-9]{8})\\.version$"));
-  return pattern.match(fileName).captured(1).toInt();
+  constexpr QStringView ending = u".version";
+  if (fileName.size() != kDigits + ending.size() || !fileName.endsWith(ending)) return 0;
+  const QStringView digits = QStringView(fileName).first(kDigits);
+  const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
+  return std::ranges::all_of(digits, isDigit) ? digits.toInt() : 0;
 }
 
 bool isSameText(const QString& path, const QString& other, const HistoryPause& pause) {
@@ -221,7 +224,7 @@ void ListingHistory::makeFolder(const QString& listing) const {
 
 QStringList ListingHistory::listings() const {
   QStringList listings;
-  QStringList folders{QString()};
+  QStringList folders(1);
   while (!folders.isEmpty()) {
     const QString folder = folders.takeFirst();
     const Names names = namesIn(historyFolder() + u'/' + folder);

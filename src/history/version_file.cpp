@@ -9,12 +9,14 @@
 #include <array>
 #include <bit>
 #include <cstring>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 #include <xxhash.h>
 #include <zstd.h>
+#include <zstd_errors.h>
 
 namespace quorvin {
 
@@ -39,6 +41,7 @@ constexpr std::uint32_t kIsIncomplete = 2;
 
 std::size_t checked(std::size_t result) {
   if (ZSTD_isError(result) == 0) return result;
+  if (ZSTD_getErrorCode(result) == ZSTD_error_memory_allocation) throw std::bad_alloc();
   throw RuntimeFault(FaultNumber::PathFileAccess, QStringLiteral("The listing could not be packed: ") +
                                                       QString::fromUtf8(ZSTD_getErrorName(result)));
 }
@@ -262,6 +265,7 @@ class Version : public ListingBytes {
     }
     const std::size_t result =
         ZSTD_decompressDCtx(context_.get(), stretch_.data(), size, packed_.data(), packed_.size());
+    if (ZSTD_getErrorCode(result) == ZSTD_error_memory_allocation) throw std::bad_alloc();
     if (ZSTD_isError(result) != 0 || result != size) failDamaged(path_);
     sum_.add({stretch_.data(), size});
     unpacked_ += size;
