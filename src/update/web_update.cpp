@@ -107,9 +107,16 @@ WebUpdate::Step WebUpdate::run() {
   address_ = webUpdateAddress(state_.WebServer, archiveFile_);
   if (const Step step = check(); step != Step::GoOn) return step;
   if (const Step step = download(); step != Step::GoOn) return step;
-  if (!archiveFile_.isEmpty() && ordinaryFileExists(archivePath())) unpack();
+  if (!archiveFile_.isEmpty()) unpackReceived();
   job_.hide();
   return Step::Done;
+}
+
+void WebUpdate::unpackReceived() {
+  if (ordinaryFileExists(archivePath())) return unpack();
+  if (job_.isClosing()) return;
+  boxes_.inform(QStringLiteral("The update was downloaded, but %1 cannot be found now. Nothing was unpacked.")
+                    .arg(archivePath()));
 }
 
 WebUpdate::Step WebUpdate::check() {

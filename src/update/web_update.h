@@ -49,6 +49,7 @@ class WebUpdate {
   Step check();
   Step download();
   Step receive(QByteArray next);
+  void unpackReceived();
   void unpack();
   Step cancelDownload();
 

@@ -85,6 +85,17 @@ TEST_F(WebUpdateFailure, OfTheUnpackingIsFollowedByAnotherTry) {
   EXPECT_EQ(boxes_.informed.size(), 1U);
 }
 
+TEST_F(WebUpdateFailure, OfFindingTheArchiveAfterTheDownloadIsReported) {
+  web_.atCancel = [this] { QFile::remove(data_.pathOf(u"main.zip"_qs)); };
+  click();
+  EXPECT_THAT(boxes_.informed,
+              ElementsAre(QStringLiteral("The update was downloaded, but %1 cannot be found now. Nothing was "
+                                         "unpacked.")
+                              .arg(data_.pathOf(u"main.zip"_qs))));
+  EXPECT_FALSE(view_.isShown);
+  EXPECT_TRUE(webUpdateEnabled_);
+}
+
 TEST_F(WebUpdateFailure, OfTheSecondRequestLeavesTheEarlierArchive) {
   haveArchive("earlier", utc(2001, 1, 1, 0, 0));
   web_.answers[1].failure = FaultNumber::FileNotFound;

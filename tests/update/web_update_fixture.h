@@ -70,8 +70,12 @@ class MadeTransfer : public HttpTransfer {
     chunkSizes.push_back(size);
     return bytes;
   }
-  void cancel() override { log_ += QStringLiteral("cancel"); }
+  void cancel() override {
+    log_ += QStringLiteral("cancel");
+    atCancel();
+  }
 
+  std::function<void()> atCancel = [] {};
   std::deque<MadeAnswer> answers;
   std::vector<qsizetype> chunkSizes;
 
