@@ -41,8 +41,9 @@ class FileWriter {
 /// Everything else is a FileAside.
 ///
 /// Half a file must not pass for the newest one, even if the program is killed on the way. So its time of
-/// modification is kNotKnownToBeWhole, while it is written and afterwards: from the start for a file that was
-/// empty, else from the first bytes on. Whoever has found it to be whole gives it the time it should have.
+/// modification is kNotKnownToBeWhole, while it is written and afterwards: from the start for a file that is
+/// new or was empty, else from the first bytes on (as soon as they are written; nothing can set the time in
+/// the same step). Whoever has found it to be whole gives it the time it should have.
 /// Where the system lets nobody set the time (a file of another user), it is that of the last write.
 class OverwrittenFile {
  public:

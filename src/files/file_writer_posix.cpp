@@ -1,5 +1,8 @@
 #include "faults/runtime_fault.h"
+#include "files/file_aside.h"
 #include "files/file_writer.h"
+
+#include <QFileInfo>
 
 #include <array>
 #include <cerrno>
@@ -15,7 +18,22 @@ namespace {
 // Large enough that the calls do not count, small enough to stay in the processor's caches.
 constexpr std::size_t kBufferSize = std::size_t{1} << 16;
 
+constexpr std::array<timespec, 2> kTimesBack{timespec{0, UTIME_OMIT},
+                                             timespec{OverwrittenFile::kNotKnownToBeWhole, 0}};
+
+/// Makes an empty file where nothing is. It gets its time before it gets its name, so that nobody ever sees
+/// it as a new one.
+void makeWithTimeBack(const QString& path) {
+  struct stat status {};
+  if (::lstat(encodedPath(path).constData(), &status) == 0 || errno != ENOENT) return;
+  FileAside file(path, {.durability = Durability::None, .mayReplace = false});
+  static_cast<void>(::utimensat(AT_FDCWD, encodedPath(file.path()).constData(), kTimesBack.data(), 0));
+  file.finish();
+  static_cast<void>(file.commitUnlessTaken(QFileInfo(path).fileName()));
+}
+
 Descriptor openRegularFile(const QString& path) {
+  makeWithTimeBack(path);
   // Not blocking, so that a pipe without a reader is refused instead of holding the program up.
   constexpr int kKeepContent = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK;
   constexpr mode_t kWhatTheUmaskLeaves = 0666;
@@ -86,8 +104,7 @@ void OverwrittenFile::flush() {
 }
 
 void OverwrittenFile::setTimeBack() const {
-  const std::array<timespec, 2> times{timespec{0, UTIME_OMIT}, timespec{kNotKnownToBeWhole, 0}};
-  static_cast<void>(::futimens(file_.get(), times.data()));
+  static_cast<void>(::futimens(file_.get(), kTimesBack.data()));
 }
 
 }  // namespace quorvin

@@ -3,6 +3,7 @@
 #include "faults/runtime_fault.h"
 #include "files/full_disk.h"
 #include "support/qt_printing.h"
+#include "support/system_call_watch.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -145,6 +146,18 @@ TEST_F(OverwrittenFileTest, NeverPassesForNewWhileItIsWritten) {
   }
   file.flush();
   EXPECT_EQ(modified(), k1980);
+}
+
+TEST_F(OverwrittenFileTest, NeverPassesForNewWhileItIsMade) {
+  int moments = 0;
+  test::systemCallWatcher() = [&](const std::string&) {
+    if (!QFileInfo::exists(path())) return;
+    ++moments;
+    EXPECT_EQ(modified(), k1980);
+  };
+  { const OverwrittenFile file(path()); }
+  test::systemCallWatcher() = nullptr;
+  EXPECT_GT(moments, 0);
 }
 
 TEST_F(OverwrittenFileTest, NeverPassesForNewAfterwards) {
