@@ -1,5 +1,6 @@
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
+#include "files/file_lookup.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,6 +8,7 @@
 #include <QRandomGenerator>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -91,6 +93,17 @@ LockState lockState(const QString& path) {
   if (!file.isOpen()) return LockState::Unknown;
   if (::flock(file.get(), LOCK_EX | LOCK_NB) == 0) return LockState::Free;
   return errno == EWOULDBLOCK ? LockState::Held : LockState::Unknown;
+}
+
+/// Six letters, of which some are small and some, not only the first, are capitals: "list.backup" and
+/// "list.Backup" are somebody's own.
+bool isEarlierEnding(QStringView ending) {
+  const auto isSmall = [](QChar letter) { return letter >= u'a' && letter <= u'z'; };
+  const auto isCapital = [](QChar letter) { return letter >= u'A' && letter <= u'Z'; };
+  const bool isLetters = std::ranges::all_of(
+      ending, [&](QChar character) { return isSmall(character) || isCapital(character); });
+  return ending.size() == 6 && isLetters && std::ranges::any_of(ending, isSmall) &&
+         std::ranges::any_of(ending.mid(1), isCapital);
 }
 
 bool isUntouchedForADay(const QString& path) {
@@ -288,10 +301,11 @@ void replaceFile(const QString& path, QByteArrayView contents) {
 
 QStringList filesAside(const QString& folder) {
   QStringList paths;
-  const QDir names(folder);
-  const QStringList patterns = {QStringLiteral(".quorvin-*.part"), QStringLiteral(".quorvin-*.tmp")};
-  for (const QString& name : names.entryList(patterns, QDir::Files | QDir::Hidden)) {
-    if (processOf(name)) paths += names.filePath(name);
+  const QDir place(folder);
+  for (const QStringView pattern : {u".quorvin-*.part", u".quorvin-*.tmp"}) {
+    for (const QString& name : namesThatFit(folder, pattern, QDir::Files | QDir::Hidden)) {
+      if (processOf(name)) paths += place.filePath(name);
+    }
   }
   return paths;
 }
@@ -313,15 +327,13 @@ void removeLeftovers(const QString& folder) {
 }
 
 void removeEarlierLeftovers(const QString& path) {
-  // Six letters, of which some are small and some, not only the first, are capitals: "list.backup" and
-  // "list.Backup" are somebody's own.
-  static const QRegularExpression ending(QStringLiteral("^\\.(?=.*[a-z])(?=.+[A-Z])[A-Za-z]{6}$"));
   const QFileInfo place(path);
   const QDir folder = place.dir();
-  for (const QString& name : folder.entryList({place.fileName() + QStringLiteral(".??????")}, QDir::Files)) {
+  const QString start = place.fileName() + u'.';
+  for (const QString& name : folder.entryList(QDir::Files)) {
+    if (!name.startsWith(start) || !isEarlierEnding(QStringView(name).mid(start.size()))) continue;
     const QString leftover = folder.filePath(name);
-    const bool isLeftover = ending.match(name.mid(place.fileName().size())).hasMatch();
-    if (isLeftover && isUntouchedForADay(leftover)) ::unlink(encodedPath(leftover).constData());
+    if (isUntouchedForADay(leftover)) ::unlink(encodedPath(leftover).constData());
   }
 }
 

@@ -64,6 +64,12 @@ bool fitsWildcards(QStringView name, QStringView pattern) {
   return p == pattern.size();
 }
 
+QStringList namesThatFit(const QString& folder, QStringView pattern, QDir::Filters kinds) {
+  QStringList names = QDir(folder).entryList(kinds, QDir::Name);
+  names.removeIf([&](const QString& name) { return !fitsWildcards(name, pattern); });
+  return names;
+}
+
 QString findOrdinaryFile(const QString& pattern) {
   if (pattern.isEmpty()) return {};
   const auto [folder, wanted] = splitPattern(pattern);

@@ -1,6 +1,7 @@
 // Directory look-ups: which files fit a path whose last part may hold wildcards.
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <QStringList>
 
@@ -29,5 +30,11 @@ bool fileExists(const QString& path);
 /// Whether `name` fits `pattern`, in which "*" stands for any characters and "?" for any one; every other
 /// character stands for itself.
 bool fitsWildcards(QStringView name, QStringView pattern);
+
+/// The names of the files in `folder`, without it, that fit `pattern`, in the order of QDir::Name. `kinds`
+/// are the kinds of files that count. A folder that is missing or unreadable holds nothing. The toolkit's own
+/// name filters are not used for this: they end the program where there is no memory for them. Throws
+/// std::bad_alloc alone.
+QStringList namesThatFit(const QString& folder, QStringView pattern, QDir::Filters kinds = QDir::Files);
 
 }  // namespace quorvin

@@ -3,6 +3,7 @@
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_lock.h"
+#include "files/file_lookup.h"
 #include "history/listing_history.h"
 #include "index/dir_io.h"
 #include "index/walk_faults.h"
@@ -54,7 +55,7 @@ void removeUnfinishedOfRemoved(const ProgramState& state) {
     listed.insert(temporaryOf(state.onlineListingPath(state.OnlineSources.description(row))));
   }
   const auto plainFiles = QDir::Files | QDir::Hidden | QDir::NoSymLinks;
-  for (const QString& name : QDir(state.LocalFolder).entryList({QStringLiteral("*.tmp")}, plainFiles)) {
+  for (const QString& name : namesThatFit(state.LocalFolder, u"*.tmp", plainFiles)) {
     const QString path = state.LocalFolder + name;
     const QString baseName = name.chopped(QStringLiteral(".tmp").size());
     if (!listed.contains(path) && !isHeld(path) && startsAsListingOf(baseName, path)) QFile::remove(path);

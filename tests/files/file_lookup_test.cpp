@@ -47,6 +47,19 @@ TEST(FitsWildcards, ManyStarsTakeNoLongTime) {
   EXPECT_FALSE(fitsWildcards(QString(5000, u'a'), QStringLiteral("*a").repeated(500) + u'b'));
 }
 
+TEST(NamesThatFit, AreSortedAndOfTheKindsAskedFor) {
+  const TemporaryFolder folder;
+  for (const QString& name : {u"b.tmp"_qs, u"a.tmp"_qs, u".c.tmp"_qs, u"d.TMP"_qs, u"e.tmpx"_qs}) {
+    folder.writeFile(name, "");
+  }
+  folder.makeFolder(u"f.tmp"_qs);
+  EXPECT_EQ(namesThatFit(folder.path(), u"*.tmp"), QStringList({u"a.tmp"_qs, u"b.tmp"_qs}));
+  EXPECT_EQ(namesThatFit(folder.path(), u"*.tmp", QDir::Files | QDir::Hidden),
+            QStringList({u".c.tmp"_qs, u"a.tmp"_qs, u"b.tmp"_qs}));
+  EXPECT_EQ(namesThatFit(folder.path(), u"[ab].tmp"), QStringList());
+  EXPECT_EQ(namesThatFit(folder.pathOf(u"none"_qs), u"*"), QStringList());
+}
+
 TEST(FindOrdinaryFile, FindsAFileByItsName) {
   const TemporaryFolder folder;
   const QString path = folder.writeFile(QStringLiteral("a.txt"), "x");

@@ -3,6 +3,7 @@
 #include "archive/archive_packing.h"
 #include "faults/runtime_fault.h"
 #include "files/file_identity.h"
+#include "files/file_lookup.h"
 #include "peers/messages/peer_names.h"
 
 #include <QDir>
@@ -100,8 +101,7 @@ QStringList ListSharing::packEach(const Job& job) {
 void ListSharing::removeUnlisted() const {
   QSet<QString> listed;
   for (int row = 1; row <= state_.OnlineSourceCount; ++row) listed.insert(archivePathOf(state_, row));
-  const QDir folder(state_.LocalFolder);
-  for (const QString& name : folder.entryList({QStringLiteral("*.zip")}, QDir::Files | QDir::Hidden)) {
+  for (const QString& name : namesThatFit(state_.LocalFolder, u"*.zip", QDir::Files | QDir::Hidden)) {
     const QString path = state_.LocalFolder + name;
     const bool isMainArchive = name == state_.ArchiveFile;
     if (listed.contains(path) || isMainArchive) continue;

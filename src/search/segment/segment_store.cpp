@@ -1,6 +1,7 @@
 #include "search/segment/segment_store.h"
 
 #include "faults/runtime_fault.h"
+#include "files/file_lookup.h"
 #include "platform/machine_memory.h"
 #include "platform/standard_folders.h"
 
@@ -23,18 +24,14 @@ constexpr char16_t kSegmentEnding[] = u".qsegments";
 constexpr char16_t kEarlierEnding[] = u".qimage";
 
 QString readingRulesOf(const QLocale& locale) {
-  const QStringList rules = {locale.name(), locale.dateFormat(QLocale::ShortFormat),
-                             locale.timeFormat(QLocale::LongFormat),
-                             QString::number(QDate::currentDate().year())};
-  return rules.join(u'\n');
+  return locale.name() + u'\n' + locale.dateFormat(QLocale::ShortFormat) + u'\n' +
+         locale.timeFormat(QLocale::LongFormat) + u'\n' + QString::number(QDate::currentDate().year());
 }
 
-QStringList filesThatFit(const QString& folderPath, const QStringList& patterns) {
+QStringList filesThatFit(const QString& folderPath, const QString& pattern) {
   const QDir folder(folderPath);
   QStringList paths;
-  for (const QString& name : folder.entryList(patterns, QDir::Files, QDir::Name)) {
-    paths += folder.filePath(name);
-  }
+  for (const QString& name : namesThatFit(folderPath, pattern)) paths += folder.filePath(name);
   return paths;
 }
 
@@ -60,14 +57,14 @@ QString segmentFilePath(const QString& cacheFolder, const QString& listing) {
 }
 
 QStringList segmentFiles(const QString& cacheFolder) {
-  return filesThatFit(cacheFolder, {u'*' + QString::fromUtf16(kSegmentEnding)});
+  return filesThatFit(cacheFolder, u'*' + QString::fromUtf16(kSegmentEnding));
 }
 
 QStringList earlierSegmentFiles(const QString& cacheFolder) {
   const QString files = u'*' + QString::fromUtf16(kEarlierEnding);
   const QString unfinished = QStringLiteral(".*.new");
-  return filesThatFit(cacheFolder,
-                      {files, files + unfinished, u'*' + QString::fromUtf16(kSegmentEnding) + unfinished});
+  return filesThatFit(cacheFolder, files) + filesThatFit(cacheFolder, files + unfinished) +
+         filesThatFit(cacheFolder, u'*' + QString::fromUtf16(kSegmentEnding) + unfinished);
 }
 
 SegmentStore::Options SegmentStore::defaultOptions(SegmentUse use) {
