@@ -14,7 +14,6 @@
 
 #include <QByteArray>
 #include <QFileInfo>
-#include <QScopeGuard>
 
 #include <optional>
 
@@ -175,8 +174,13 @@ void noteRecords(const SourceTable& table, int count, SourceListRead& read) {
 void load(const QString& path, SourceTable& table, int& count, SourceListRead& read) {
   read = {};
   read.path = path;
-  const auto afterwards = qScopeGuard([&] { noteRecords(table, count, read); });
-  if (fileIsThere(path)) read.digest = loadSourceList(path, table, count);
+  try {
+    if (fileIsThere(path)) read.digest = loadSourceList(path, table, count);
+  } catch (const RuntimeFault&) {
+    noteRecords(table, count, read);
+    throw;
+  }
+  noteRecords(table, count, read);
   read.isComplete = true;
 }
 
@@ -199,10 +203,15 @@ QByteArray digestOfFile(const QString& path) {
   return lines.digest();
 }
 
+/// Whether the list on disk is what would be saved, as after a save that failed at its very end.
+bool isSavedAlready(const List& list) {
+  return digestOfFile(list.path) == digestOf(recordsText(list.table, list.count));
+}
+
 /// The sentence that tells why the list on disk may hold records that no table has; empty where it is the one
 /// that was read, or there is none.
 QString whyUnknown(const List& list) {
-  if (!ordinaryFileExists(list.path)) return {};
+  if (!ordinaryFileExists(list.path) || isSavedAlready(list)) return {};
   const auto sentence = [&](const QString& reason) { return reason.arg(list.path); };
   if (!list.read.isComplete) {
     return sentence(QStringLiteral("The list %1 was not read completely when the program started."));

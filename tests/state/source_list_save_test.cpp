@@ -124,6 +124,20 @@ TEST_F(SourceListSave, NumbersTheListsThatItKeepsFrom2) {
   EXPECT_EQ(folder_.readFile(QStringLiteral("Locations.txt.kept2")), "second");
 }
 
+TEST_F(SourceListSave, KeepsNoCopyOfAListThatIsSavedAlready) {
+  ProgramState state;
+  state.LocalFolder = folder_.path();
+  state.LocFile = QStringLiteral("Locations.txt");
+  state.OnlineSources.set(++state.OnlineSourceCount, QStringLiteral("Music"), QStringLiteral("/music/"));
+  // As a save leaves it whose very last step fails.
+  folder_.writeFile(state.LocFile, "\"Music\",\"/music/\"\r\n");
+  RecordingMessageBoxes messages;
+  EXPECT_TRUE(saveOnlineSources(state, messages));
+  EXPECT_EQ(folder_.names(), QStringList{QStringLiteral("Locations.txt")});
+  EXPECT_EQ(saved(), QByteArray("\"Music\",\"/music/\"\r\n"));
+  EXPECT_TRUE(messages.informed.empty());
+}
+
 TEST_F(SourceListSave, LeavesNothingElseInTheFolder) {
   saveSourceList(list(), table_, 3);
   EXPECT_EQ(folder_.names(), QStringList{QStringLiteral("Locations.txt")});
