@@ -3,6 +3,7 @@
 #include "files/file_reader.h"
 
 #include <CLI/CLI.hpp>
+#include <QCalendar>
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -262,6 +263,9 @@ int main(int argc, char** argv) {
       "quorvin-cli: a file of the search cache was cut while it was searched. Please try again.\n");
   try {
     const QCoreApplication application(argc, argv);
+    // The toolkit makes its calendar when it is first asked for a month, and crashes if there is no memory
+    // for that: better here, where no file has been touched.
+    static_cast<void>(QCalendar());
     return CommandLine().run(argc, argv);
   } catch (const std::bad_alloc&) {
     std::fputs("quorvin-cli: there is not enough memory\n", stderr);

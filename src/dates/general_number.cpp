@@ -134,12 +134,11 @@ QString mebibytesText(std::int64_t bytes, const QLocale& locale) {
 }
 
 std::array<QString, 10> digitsOf(const QLocale& locale) {
-  // A zero sign may need two units; the other digits follow it in order.
-  const QString zeroSign = locale.zeroDigit();
-  const char32_t zero = zeroSign.toUcs4().value(0, U'0');
+  // A zero sign may need two units; the other digits follow it in order, and differ in the last one.
+  const QString zero = locale.zeroDigit();
   std::array<QString, 10> digits;
   for (std::size_t digit = 0; digit < digits.size(); ++digit) {
-    digits[digit] = QStringView(QChar::fromUcs4(zero + static_cast<char32_t>(digit))).toString();
+    digits[digit] = zero.chopped(1) + QChar(static_cast<char16_t>(zero.back().unicode() + digit));
   }
   return digits;
 }
