@@ -358,7 +358,7 @@ TEST_P(FailingSystem, EveryFailureIsSaidAndLeavesWholeFiles) {
 class KilledSystem : public FailingSystem {};
 
 TEST_P(KilledSystem, AKilledRunLeavesWholeFilesAndTheNextOneNeedsNoHelp) {
-  for (const char* call : {"open", "write", "fsync", "rename", "mkdir", "read", "list"}) {
+  for (const char* call : {"open", "write", "fsync", "rename", "mkdir", "read", "list", "stat"}) {
     for (int number = 1;; number += isOfConsole(GetParam()) ? sweep(1, 3) : sweep(1, 11)) {
       SCOPED_TRACE(testing::Message() << "killed at " << call << " " << number);
       prepare();
