@@ -12,8 +12,6 @@
 #include <QDrag>
 #include <QKeySequence>
 #include <QString>
-#include <QStringList>
-#include <QUrl>
 
 namespace quorvin {
 
@@ -26,8 +24,7 @@ QAction* addItemWithKeys(QMenu* menu, const QString& name, const QString& captio
   return item;
 }
 
-/// What is dragged has to be there at once; more is rather a mistake than a wish, and would hold the window
-/// up.
+/// More is rather a mistake than a wish, and another program that takes them would be busy for minutes.
 constexpr std::int64_t kMostRowsToDrag = 100'000;
 /// Each is a program that starts, or at least a window that opens.
 constexpr std::int64_t kMostHitsToOpen = 1'000;
@@ -163,7 +160,8 @@ bool SearchFormHits::isDragged(const QMouseEvent& move) {
 
 void SearchFormHits::HitList_Drag() {
   if (selectedRowCount(*list_.selectionModel()) > kMostRowsToDrag) return;
-  if (auto data = dragData(); data->hasText()) startDrag_(std::move(data));
+  std::vector<int> rows = selectedRows(*list_.selectionModel());
+  if (!rows.empty()) startDrag_(std::make_unique<HitDragData>(table_, state_, std::move(rows)));
 }
 
 void SearchFormHits::CtLaunch_Click() {
@@ -221,22 +219,6 @@ std::int64_t SearchFormHits::openSelected() const {
 
 void SearchFormHits::tellMissing(std::int64_t missing, std::int64_t all) const {
   messages_.inform(notFoundText(missing, all, locale_));
-}
-
-std::unique_ptr<QMimeData> SearchFormHits::dragData() const {
-  HitPaths paths(state_);
-  QStringList lines;
-  QList<QUrl> files;
-  for (const int row : selectedRows(*list_.selectionModel())) {
-    const HitRow hit = table_.row(row);
-    const HitPath path = paths.of(hit);
-    lines.append(path.isEmpty() ? cataloguePath(hit) : path.fullPath());
-    if (!path.isEmpty()) files.append(QUrl::fromLocalFile(path.fullPath()));
-  }
-  auto data = std::make_unique<QMimeData>();
-  if (!files.isEmpty()) data->setUrls(files);
-  if (!lines.isEmpty()) data->setText(lines.join(u'\n'));
-  return data;
 }
 
 void SearchFormHits::WhichDisk_Click() {

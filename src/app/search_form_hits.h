@@ -44,7 +44,8 @@ ItemMenu makeItemMenu(QWidget* parent);
 /// Shows the picture `name` of `folder` in the preview window. It may throw RuntimeFault.
 using PreviewOpener = std::function<void(const QString& folder, const QString& name)>;
 
-/// Offers what was dragged out of the list to the window system; returns when it has been dropped.
+/// Offers what was dragged out of the list, a HitDragData, to the window system; returns when it has been
+/// dropped.
 using DragStarter = std::function<void(std::unique_ptr<QMimeData>)>;
 
 /// Connects the hit list with the hit actions. The pop-up menu, which comes up only for hits whose file is
@@ -64,10 +65,6 @@ class SearchFormHits : public QObject {
   void setExplanation(std::function<QString(const HitRow&)> explain) { explain_ = std::move(explain); }
 
   const ItemMenu& itemMenu() const { return menu_; }
-
-  /// The files and texts of the selected hits, as they are dragged out of the list: the URLs of those files
-  /// that are there, and one line for each hit, its path or where it is in the catalogue.
-  std::unique_ptr<QMimeData> dragData() const;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

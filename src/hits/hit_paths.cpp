@@ -2,9 +2,13 @@
 
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
+#include "hits/hit_actions.h"
 
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QTimerEvent>
+#include <QUrl>
 
 #include <algorithm>
 #include <utility>
@@ -17,6 +21,11 @@ qsizetype firstWildcard(const QString& name) {
   const auto isWildcard = [](QChar character) { return character == u'*' || character == u'?'; };
   return std::ranges::find_if(name, isWildcard) - name.begin();
 }
+
+const QString kUrlsFormat = QStringLiteral("text/uri-list");
+const QString kTextFormat = QStringLiteral("text/plain");
+
+constexpr qint64 kMillisecondsOfLooking = 8;
 
 }  // namespace
 
@@ -103,6 +112,48 @@ std::optional<QString> HitPaths::folderOf(const HitRow& hit) {
   folderBefore_ = folderOfHit(state_, hit, style_);
   before_ = hit;
   return folderBefore_;
+}
+
+HitDragData::HitDragData(const HitTable& table, const ProgramState& state, std::vector<int> tableRows)
+    : table_(table), timesCleared_(table.timesCleared()), rows_(std::move(tableRows)), paths_(state) {
+  while (!isWhole() && urls_.isEmpty() && done_ < kMostLookedAtFirst) addHit();
+  hasUrls_ = !urls_.isEmpty() || !isWhole();
+  timer_.start(0, this);
+}
+
+QStringList HitDragData::formats() const {
+  if (rows_.empty()) return {};
+  return hasUrls_ ? QStringList{kUrlsFormat, kTextFormat} : QStringList{kTextFormat};
+}
+
+QVariant HitDragData::retrieveData(const QString& format, QMetaType) const {
+  const bool isKnown = format == kUrlsFormat || format == kTextFormat;
+  if (!isKnown || !isOfNow()) return {};
+  makeAll();
+  return format == kUrlsFormat ? QVariant(urls_) : QVariant(lines_);
+}
+
+void HitDragData::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != timer_.timerId()) return QMimeData::timerEvent(event);
+  QElapsedTimer slice;
+  slice.start();
+  while (isOfNow() && !isWhole() && !slice.hasExpired(kMillisecondsOfLooking)) addHit();
+  if (isOfNow() && !isWhole()) return;
+  timer_.stop();
+  paths_.reset();
+}
+
+void HitDragData::addHit() const {
+  const HitRow hit = table_.row(rows_[static_cast<std::size_t>(done_)]);
+  const HitPath path = paths_->of(hit);
+  if (done_ > 0) lines_ += u'\n';
+  lines_ += path.isEmpty() ? cataloguePath(hit) : path.fullPath();
+  if (!path.isEmpty()) urls_.append(QUrl::fromLocalFile(path.fullPath()));
+  ++done_;
+}
+
+void HitDragData::makeAll() const {
+  while (!isWhole()) addHit();
 }
 
 }  // namespace quorvin

@@ -1,14 +1,19 @@
-// Where the files of many hits are.
+// Where the files of many hits are, and how these hits are dragged to other programs.
 #pragma once
 
 #include "files/folder_reader.h"
 #include "files/path_style.h"
 #include "search/hit_path.h"
+#include "search/hit_table.h"
 #include "state/program_state.h"
 
+#include <QBasicTimer>
+#include <QMimeData>
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -77,6 +82,47 @@ class HitPaths {
   /// The hit before, and its folder: neighbours mostly share it.
   HitRow before_;
   std::optional<QString> folderBefore_;
+};
+
+/// What is dragged out of the list of hits: the URLs of those files that are there ("text/uri-list"), and one
+/// line for each hit, its path or where it is in the catalogue ("text/plain"). A drag starts at once: files
+/// are looked for some milliseconds at a time while it goes on, and what is left of them when the data is
+/// asked for, which is mostly where it is dropped. User-interface thread only.
+class HitDragData : public QMimeData {
+ public:
+  /// So many hits at most are looked at in order to know whether there are URLs at all. Where none of their
+  /// files is there, URLs are offered all the same if there are further hits.
+  static constexpr std::int64_t kMostLookedAtFirst = 100;
+
+  /// The hits in these rows of `table`, in this order. `table` and `state` must outlive the drag.
+  HitDragData(const HitTable& table, const ProgramState& state, std::vector<int> tableRows);
+
+  QStringList formats() const override;
+  /// How many hits have been looked at so far.
+  std::int64_t done() const { return done_; }
+
+ protected:
+  /// Nothing once the table has been cleared.
+  QVariant retrieveData(const QString& format, QMetaType type) const override;
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  void addHit() const;
+  bool isWhole() const { return done_ == std::ssize(rows_); }
+  bool isOfNow() const { return table_.timesCleared() == timesCleared_; }
+  void makeAll() const;
+
+  const HitTable& table_;
+  std::int64_t timesCleared_;
+  std::vector<int> rows_;
+  QBasicTimer timer_;
+  bool hasUrls_ = false;
+  // Data is made where it is asked for, which the toolkit does of a constant object. The folder that paths
+  // have open may be on a drive that is to be taken out, so they are let go of at the end.
+  mutable std::optional<HitPaths> paths_;
+  mutable std::int64_t done_ = 0;
+  mutable QVariantList urls_;
+  mutable QString lines_;
 };
 
 }  // namespace quorvin
