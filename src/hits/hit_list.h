@@ -103,6 +103,10 @@ class HitListView : public QAbstractItemView {
   int previousRow_ = -1;
 };
 
+/// So many rows of a list are kept ready for assistive technology: those that were asked for last, those on
+/// the screen and the current one.
+inline constexpr int kMostAccessibleRows = 1000;
+
 /// Makes every HitListView from now on known to assistive technology as a list whose items are the rows: an
 /// item's name is the row's visible columns with their titles, in their order on the screen, its description
 /// the kind of source. The description of the list says why it is empty, or how its rows are sorted. May be

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QPointer>
 
+#include <deque>
+
 namespace quorvin {
 
 namespace {
@@ -91,6 +93,8 @@ QString orderOf(const HitListView& view) {
 }
 
 /// The list: its rows, which get their interfaces when they are asked for, and the buttons in an empty one.
+/// A reader may go through millions of rows, so that interfaces of rows read long ago are let go of; such a
+/// row gets a new one when it is asked for again.
 class ListAccessible : public QAccessibleWidget {
  public:
   explicit ListAccessible(HitListView* view) : QAccessibleWidget(view, QAccessible::List), view_(view) {}
@@ -119,8 +123,10 @@ class ListAccessible : public QAccessibleWidget {
     if (row < 0) return nullptr;
     const auto known = rows_.constFind(row);
     if (known != rows_.constEnd()) return QAccessible::accessibleInterface(*known);
+    letGoOfOldRows();
     auto* made = new RowAccessible(view_, row);
     rows_.insert(row, QAccessible::registerAccessibleInterface(made));
+    oldestFirst_.push_back(row);
     return made;
   }
 
@@ -146,6 +152,21 @@ class ListAccessible : public QAccessibleWidget {
  private:
   int rowCount() const { return view_->model() ? view_->model()->rowCount() : 0; }
 
+  /// What can be seen, and what has the keyboard, may be asked about at any time.
+  bool isInUse(int row) const { return !view_->rowRect(row).isEmpty() || view_->currentIndex().row() == row; }
+
+  void letGoOfOldRows() const {
+    for (auto looks = oldestFirst_.size(); looks > 0 && rows_.size() >= kMostAccessibleRows; --looks) {
+      const int row = oldestFirst_.front();
+      oldestFirst_.pop_front();
+      if (isInUse(row)) {
+        oldestFirst_.push_back(row);
+      } else {
+        QAccessible::deleteAccessibleInterface(rows_.take(row));
+      }
+    }
+  }
+
   /// What an empty list shows in the place of rows.
   QList<QWidget*> offers() const {
     QList<QWidget*> shown = view_->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
@@ -155,6 +176,8 @@ class ListAccessible : public QAccessibleWidget {
 
   HitListView* view_;
   mutable QHash<int, QAccessible::Id> rows_;
+  /// The rows in it, in the order in which they were asked for.
+  mutable std::deque<int> oldestFirst_;
 };
 
 QAccessibleInterface* makeHitListAccessible(const QString&, QObject* object) {

@@ -85,6 +85,34 @@ TEST_F(AccessibleWindow, TheSelectedRowSaysSo) {
   EXPECT_EQ(list->indexOfChild(list->focusChild()), 1);
 }
 
+TEST_F(AccessibleWindow, RowsReadLongAgoAreLetGo) {
+  constexpr int kRows = 5000;
+  addOnlineSource(QStringLiteral("disk"), listingOf("DISK", kRows, "tune"));
+  find(QStringLiteral("tune"));
+  ASSERT_EQ(rows(), kRows);
+  controls().HitList->selectionModel()->setCurrentIndex(controls().HitList->model()->index(2000, 0),
+                                                        QItemSelectionModel::ClearAndSelect);
+  controls().HitList->scrollToTop();
+  QAccessibleInterface* list = QAccessible::queryAccessibleInterface(controls().HitList);
+  std::vector<QAccessible::Id> ids;
+  for (int row = 0; row < kRows; ++row) {
+    ids.push_back(QAccessible::uniqueId(list->child(row)));
+    ASSERT_EQ(list->indexOfChild(list->child(row)), row);
+  }
+  const auto isKept = [&](int row) {
+    return QAccessible::accessibleInterface(ids[static_cast<std::size_t>(row)]) != nullptr;
+  };
+  int kept = 0;
+  for (int row = 0; row < kRows; ++row) kept += isKept(row) ? 1 : 0;
+  EXPECT_EQ(kept, 1000);
+  EXPECT_TRUE(isKept(kRows - 1));
+  EXPECT_TRUE(isKept(0)) << "it is on the screen";
+  EXPECT_TRUE(isKept(2000)) << "it is the current row";
+  EXPECT_FALSE(isKept(3000));
+  EXPECT_TRUE(list->child(3000)->text(QAccessible::Name).contains(QStringLiteral("tune 3001.mp3")))
+      << "it is read again";
+}
+
 TEST_F(AccessibleWindow, ARowThatIsGoneIsInvalid) {
   addOnlineSource(QStringLiteral("disk"), listingOf("DISK", 3, "tune"));
   find(QStringLiteral("tune"));
