@@ -48,14 +48,14 @@ SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages
                                      const QLocale& locale, FilePicker* picker)
     : menus_(menus),
       owner_(owner),
+      lookers_(kLookers),
       sourceEditing_{state, messages, picker ? *picker : systemPicker_,
                      std::move(requests.refreshLocalLists)},
       optionsEditing_{state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)},
       restoreListing_(std::move(requests.restoreListing)),
       locale_(locale),
       preview_(&owner, usualMetafileChild(), previewReport(messages)) {
-  lookers_.setMaxThreadCount(kLookers);
-  sourceEditing_.lookers = &lookers_;
+  sourceEditing_.lookers = &lookers_.pool();
   sourceEditing_.locale = locale;
   sourceEditing_.countEntries = [cache = userCacheFolder(), locale](const QString& listing) {
     return quickEntryCount(listing, cache, locale);

@@ -80,7 +80,7 @@ class SearchFormWindows {
   const SearchFormMenus& menus_;
   QWidget& owner_;
   DialogFilePicker systemPicker_;
-  QThreadPool lookers_;
+  LookingThreads lookers_;
   SourceEditing sourceEditing_;
   OptionsEditing optionsEditing_;
   HistoryWindow::Restore restoreListing_;

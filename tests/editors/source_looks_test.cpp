@@ -152,6 +152,59 @@ TEST_F(Looks, AreGivenUpAtTheEndWithoutWaiting) {
   EXPECT_EQ(looked, 4);
 }
 
+/// A drive that does not answer before its `answer` has been let go.
+class LostDrive {
+ public:
+  std::function<SourceFacts(const SourcePlaces&)> look() {
+    return [shared = shared_](const SourcePlaces&) {
+      ++shared->asked;
+      shared->answer.acquire();
+      ++shared->answered;
+      return SourceFacts{};
+    };
+  }
+  int asked() const { return shared_->asked; }
+  int answered() const { return shared_->answered; }
+  void answer() { shared_->answer.release(1000); }
+
+ private:
+  struct Shared {
+    std::atomic<int> asked = 0;
+    std::atomic<int> answered = 0;
+    QSemaphore answer;
+  };
+  /// The threads may outlive the test.
+  std::shared_ptr<Shared> shared_ = std::make_shared<Shared>();
+};
+
+TEST(ThreadsThatLook, AreLeftToThemselvesAtTheEndWhereADriveDoesNotAnswer) {
+  LostDrive drive;
+  {
+    LookingThreads threads(8, std::chrono::milliseconds(1));
+    SourceLooks looks(threads.pool(), drive.look(), nullptr);
+    looks.lookAt({place(0), place(1)});
+    EXPECT_EVENTUALLY(drive.asked() == 2);
+  }
+  EXPECT_EQ(drive.answered(), 0) << "the end has not waited for the drive";
+  drive.answer();
+  EXPECT_EVENTUALLY(drive.answered() == 2);
+}
+
+TEST(ThreadsThatLook, ThatHaveNotStartedDoNotStartAfterTheEnd) {
+  LostDrive drive;
+  {
+    LookingThreads threads(1, std::chrono::milliseconds(1));
+    SourceLooks first(threads.pool(), drive.look(), nullptr);
+    SourceLooks second(threads.pool(), drive.look(), nullptr);
+    first.lookAt({place(0)});
+    EXPECT_EVENTUALLY(drive.asked() == 1);
+    second.lookAt({place(1)});
+  }
+  drive.answer();
+  EXPECT_EVENTUALLY(drive.answered() == 1);
+  EXPECT_EQ(drive.asked(), 1);
+}
+
 }  // namespace
 
 }  // namespace quorvin::test
