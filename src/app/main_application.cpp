@@ -16,6 +16,8 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPixmapCache>
+#include <QStringList>
+#include <QStyleOptionMenuItem>
 #include <QSvgRenderer>
 #include <QWidget>
 
@@ -107,6 +109,10 @@ QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
   std::abort();
 }
 
+QString captionWithin(Qt::LayoutDirection around, const QString& caption) {
+  return caption.isRightToLeft() ? caption : englishWithin(around, caption);
+}
+
 /// In every size that desktops ask for, each drawn for itself, so that none is blurred.
 QIcon applicationIcon() {
   QSvgRenderer drawing(QStringLiteral(":/quorvin/help/quorvin.svg"));
@@ -140,6 +146,25 @@ QPalette withReadableTexts(QPalette palette) {
   return palette;
 }
 
+void EnglishCaptions::drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette,
+                                   bool enabled, const QString& text, QPalette::ColorRole role) const {
+  QProxyStyle::drawItemText(painter, place, flags, palette, enabled,
+                            captionWithin(painter->layoutDirection(), text), role);
+}
+
+/// Styles draw the texts of menu items by themselves.
+void EnglishCaptions::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                  const QWidget* widget) const {
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element != CE_MenuItem || !item) return QProxyStyle::drawControl(element, option, painter, widget);
+  // The caption, and the keys behind a tab.
+  QStringList parts = item->text.split(u'\t');
+  for (QString& part : parts) part = captionWithin(item->direction, part);
+  QStyleOptionMenuItem shown(*item);
+  shown.text = parts.join(u'\t');
+  QProxyStyle::drawControl(element, &shown, painter, widget);
+}
+
 void endWithSentence() {
   std::set_terminate(&endNow);
 }
@@ -148,6 +173,7 @@ Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
   QPixmapCache::setCacheLimit(kDrawnPartsKilobytes);
+  if (isRightToLeft()) setStyle(new EnglishCaptions);
   setPalette(withReadableTexts(palette()));
   setWindowIcon(applicationIcon());
   // Wayland's desktops take the icon from there.

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 
 #include <functional>
 #include <optional>
@@ -16,6 +17,21 @@ namespace quorvin {
 /// read on Base and on Window. Desktops give one of too little contrast, or, with dark palettes, none. What
 /// is selected has a background on which its text can be read, of the hue that the desktop has chosen.
 QPalette withReadableTexts(QPalette palette);
+
+/// Draws English captions on desktops that are read from right to left: without it the full stops and
+/// question marks at their ends would be drawn at their starts ("?Web Update"). The captions themselves stay
+/// as they are; texts in other scripts are drawn as ever.
+class EnglishCaptions : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  void drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette, bool enabled,
+                    const QString& text, QPalette::ColorRole role) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+};
 
 /// For main(), first of all: a fault that nobody can catch or show, most of all where there is no memory for
 /// that, ends the program with a sentence on standard error; without memory with the exit status 2, else as

@@ -6,12 +6,15 @@
 #include "support/eventually.h"
 #include "support/qt_printing.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
+#include <QMenu>
 #include <QMetaMethod>
 #include <QPixmapCache>
+#include <QPushButton>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -94,6 +97,60 @@ TEST(MainApplication, ItsWindowsHaveReadableQuietTexts) {
   EXPECT_GE(contrastOf(QApplication::palette().color(QPalette::PlaceholderText),
                        QApplication::palette().color(QPalette::Base)),
             4.5);
+}
+
+template <typename Widget>
+QImage drawn(Widget& widget, QStyle& style) {
+  widget.setStyle(&style);
+  widget.ensurePolished();
+  widget.resize(300, 40);
+  return widget.grab().toImage();
+}
+
+QImage drawnButton(const QString& caption, QStyle& style) {
+  QPushButton button(caption);
+  return drawn(button, style);
+}
+
+QImage drawnMenu(const QString& caption, QStyle& style) {
+  QMenu menu;
+  menu.addAction(caption)->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
+  return drawn(menu, style);
+}
+
+/// On a desktop that is read from right to left.
+class EnglishCaptionsTest : public testing::Test {
+ protected:
+  EnglishCaptionsTest() { QApplication::setLayoutDirection(Qt::RightToLeft); }
+  ~EnglishCaptionsTest() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
+
+  static QString isolated(const QString& text) { return u'\u2066' + text + u'\u2069'; }
+
+  QProxyStyle plain_;
+  EnglishCaptions captions_;
+};
+
+TEST_F(EnglishCaptionsTest, KeepTheirEndsWhereTheyAreReadFromRightToLeft) {
+  const QString question = QStringLiteral("Web Update?");
+  for (const auto& draw : {&drawnButton, &drawnMenu}) {
+    EXPECT_EQ(draw(question, captions_), draw(isolated(question), plain_));
+    EXPECT_NE(draw(question, captions_), draw(question, plain_)) << "the question mark would come first";
+  }
+}
+
+TEST_F(EnglishCaptionsTest, ThatArePlainWordsAreDrawnAsEver) {
+  EXPECT_EQ(drawnButton(QStringLiteral("Find"), captions_), drawnButton(QStringLiteral("Find"), plain_));
+}
+
+TEST_F(EnglishCaptionsTest, InOtherScriptsAreDrawnAsEver) {
+  const QString shalom = QStringLiteral("\u05E9\u05DC\u05D5\u05DD?");
+  EXPECT_EQ(drawnButton(shalom, captions_), drawnButton(shalom, plain_));
+}
+
+TEST_F(EnglishCaptionsTest, AreDrawnAsEverFromLeftToRight) {
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+  const QString question = QStringLiteral("Web Update?");
+  EXPECT_EQ(drawnButton(question, captions_), drawnButton(question, plain_));
 }
 
 void* allocateWithoutMemory() {
