@@ -85,6 +85,13 @@ class KeyboardPoints : public ProgramOnBus {
   QString focused() { return asLine(focus()); }
   QString aboutFocused() { return bus_.description(focus()); }
   QString frontWindow() { return front().name; }
+  /// The title of the picture window while it is shown.
+  QString shownPreview() {
+    for (const BusNode& window : windows()) {
+      if (window.isShowing && window.name == u"Image Preview") return window.name;
+    }
+    return {};
+  }
   QString frontLines() { return linesOf(front()).join(u'\n'); }
   /// Of the properties: which words were found, and in which line of the listing.
   QString wordsAndLine() {
@@ -122,18 +129,36 @@ class KeyboardPoints : public ProgramOnBus {
                                        : QString();
   }
 
-  /// So that what is opened is taken down: a program of the test's own in the place of the desktop's.
+  /// What was handed to the audio player, one call a line.
+  QString queued() {
+    return folder_.has(text("queued")) ? QString::fromUtf8(folder_.readFile(text("queued"))).trimmed()
+                                       : QString();
+  }
+
+  /// By the mouse.
+  void dragFirstRowToSearchText() {
+    const QRect row = bus_.place(bus_.child(list(), 0));
+    const QRect box = bus_.place(node(text("text"), text("Search text")));
+    desktop_.screen().drag(row.center(), box.center());
+  }
+
+  /// So that what is opened or queued is taken down: programs of the test's own in the place of the desktop's
+  /// and of an audio player.
   QProcessEnvironment environmentThatNotesOpening() {
-    QFile program(folder_.writeFile(
-        text("bin/xdg-open"),
-        "#!/bin/sh\nprintf '%s\\n' \"$1\" >>'" + folder_.pathOf(text("opened")).toLocal8Bit() + "'\n"));
-    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    writeProgram("bin/xdg-open", "$1", "opened");
+    writeProgram("bin/audacious", "$*", "queued");
     QProcessEnvironment environment = desktop_.environment();
     environment.insert(text("PATH"), folder_.pathOf(text("bin:")) + environment.value(text("PATH")));
     return environment;
   }
 
  private:
+  /// One that appends what it was called with to a file.
+  void writeProgram(const char* name, const QByteArray& called, const char* notes) {
+    QFile program(folder_.writeFile(text(name), "#!/bin/sh\nprintf '%s\\n' \"" + called + "\" >>'" +
+                                                    folder_.pathOf(text(notes)).toLocal8Bit() + "'\n"));
+    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  }
   /// The window that has the keys.
   BusNode front() {
     for (const BusNode& window : windows()) {

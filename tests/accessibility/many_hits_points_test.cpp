@@ -203,6 +203,16 @@ TEST_F(ManyHitsByKeys, AreOpenedLookedForAndDescribed) {
        {text("alt+i"), text("f")},
        &KeyboardPoints::opened,
        file + u'\n' + filesFolder},
+      {"many that are not here are found again",
+       {text("ctrl+f"), text("'song rock mp3 live"), text("Return")},
+       &KeyboardPoints::status,
+       hits_ + text(" hits")},
+      {"their paths in the catalogue are copied, all of them",
+       {text("shift+Tab"), text("Home"), text("ctrl+a"), text("ctrl+shift+c")},
+       &KeyboardPoints::copied,
+       QStringLiteral("%1: DISK:\\Music\\Rock\\%2 ... DISK:\\Music\\Rock\\%3")
+           .arg(kHits)
+           .arg(song(kHits), song(1))},
   });
 }
 

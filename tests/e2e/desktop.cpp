@@ -90,6 +90,18 @@ void Desktop::type(const QString& text) const {
       {QStringLiteral("type"), QStringLiteral("--delay"), QString::number(kBetweenKeysMilliseconds), text});
 }
 
+void Desktop::drag(QPoint from, QPoint to) const {
+  const auto moveTo = [this](QPoint place) {
+    control({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
+             QString::number(place.y())});
+  };
+  moveTo(from);
+  control({QStringLiteral("mousedown"), QStringLiteral("1")});
+  constexpr int kSteps = 10;
+  for (int step = 1; step <= kSteps; ++step) moveTo(from + (to - from) * step / kSteps);
+  control({QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
 QString Desktop::activeWindow() const {
   const Answer answer = run(QStringLiteral(QUORVIN_XDOTOOL), {QStringLiteral("getactivewindow")});
   return answer.isGood ? answer.output.trimmed() : QString();

@@ -3,6 +3,7 @@
 
 #include "support/hidden_screen.h"
 
+#include <QPoint>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -38,6 +39,9 @@ class Desktop {
   /// Presses keys one after another, named as in "alt+f", "Tab" or "o"; they go to the active window.
   void press(const QStringList& keys) const;
   void type(const QString& text) const;
+
+  /// Drags by the mouse what is at `from` to `to`, both in pixels of the screen.
+  void drag(QPoint from, QPoint to) const;
 
   /// The window that keys go to; empty while there is none.
   QString activeWindow() const;
