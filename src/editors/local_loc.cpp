@@ -2,6 +2,8 @@
 
 #include "platform/screen_room.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QKeySequence>
 #include <QShortcut>
 #include <QToolTip>
@@ -52,6 +54,8 @@ void LocalLoc::arrangeForOffline() {
   controls_.Desc->setText(QStringLiteral("Offline"));
   mirrorLocalLocControls(controls_, laidOutFor_.width());
   setPathCaption(controls_, QStringLiteral("Path to List file"));
+  controls_.AddSources->setText(QStringLiteral("Add &Files..."));
+  controls_.AddSources->setToolTip(QStringLiteral("Pick listing files, which are in the list at once"));
   widenPathOverDescription(controls_);
   mirrorLocalLocControls(controls_, laidOutFor_.width());
   LocMode_ = QString::fromUtf16(kOfflineMode);
@@ -74,6 +78,7 @@ void LocalLoc::connectControls() {
   connect(controls_.MvUp, &QPushButton::clicked, this, &LocalLoc::MvUp_Click);
   connect(controls_.MvDn, &QPushButton::clicked, this, &LocalLoc::MvDn_Click);
   connect(controls_.GetListName, &QPushButton::clicked, this, &LocalLoc::GetListName_Click);
+  connect(controls_.AddSources, &QPushButton::clicked, this, &LocalLoc::AddSources_Click);
   connect(controls_.OK, &QPushButton::clicked, this, &LocalLoc::OK_Click);
   connect(controls_.SaveOffLine, &QPushButton::clicked, this, &LocalLoc::SaveOffLine_Click);
   connect(controls_.Cancel, &QPushButton::clicked, this, &LocalLoc::reject);
@@ -218,9 +223,7 @@ void LocalLoc::MvDn_Click() {
 }
 
 void LocalLoc::GetListName_Click() {
-  const FileQuestion question{QStringLiteral("All Files"), controls_.LocalDataFolder->text(),
-                              QStringLiteral(".txt")};
-  const std::optional<QString> path = pickedPath(question);
+  const std::optional<QString> path = pickedPath();
   if (!path) return;
   if (path->isEmpty()) return controls_.Online->setFocus();
   controls_.LocalDataFolder->setText(*path);
@@ -245,23 +248,34 @@ void LocalLoc::showNotice() {
   setNotice(controls_, isOffline ? QString() : descriptionNotice(entries_.entries(), editing_.state));
 }
 
+/// None when the user has cancelled.
+QStringList LocalLoc::pickedSources(const QString& initialFolder) {
+  const FileQuestion question{QStringLiteral("All Files"), initialFolder, QStringLiteral(".txt")};
+  if (LocMode_ == kOfflineMode) return askForFiles(editing_.picker, question);
+  QStringList paths;
+  for (const PickedFile& folder : askForFolders(editing_.picker, question, editing_.pathStyle)) {
+    paths.append(folderOf(folder));
+  }
+  return paths;
+}
+
 /// Nothing when the user has cancelled; an empty path when several sources were picked, which are in the list
 /// by then.
-std::optional<QString> LocalLoc::pickedPath(const FileQuestion& question) {
-  if (LocMode_ == kOfflineMode) {
-    const QStringList files = askForFiles(editing_.picker, question);
-    if (files.isEmpty()) return std::nullopt;
-    if (files.size() == 1) return files.first();
-    appendAll(files);
-    return QString();
-  }
-  const std::vector<PickedFile> folders = askForFolders(editing_.picker, question, editing_.pathStyle);
-  if (folders.empty()) return std::nullopt;
-  if (folders.size() == 1) return folderOf(folders.front());
-  QStringList paths;
-  for (const PickedFile& folder : folders) paths.append(folderOf(folder));
-  appendAll(paths);
+std::optional<QString> LocalLoc::pickedPath() {
+  const QStringList sources = pickedSources(controls_.LocalDataFolder->text());
+  if (sources.isEmpty()) return std::nullopt;
+  if (sources.size() == 1) return sources.first();
+  appendAll(sources);
   return QString();
+}
+
+/// Dialogs of the desktop let the user pick one folder at a time. The next one is mostly beside it.
+void LocalLoc::AddSources_Click() {
+  const QStringList sources =
+      pickedSources(pickedIn_.isEmpty() ? controls_.LocalDataFolder->text() : pickedIn_);
+  if (sources.isEmpty()) return;
+  pickedIn_ = QFileInfo(QDir::cleanPath(sources.last())).path();
+  appendAll(sources);
 }
 
 void LocalLoc::OK_Click() {

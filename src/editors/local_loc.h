@@ -66,6 +66,7 @@ class LocalLoc : public QDialog {
   void MvUp_Click();
   void MvDn_Click();
   void GetListName_Click();
+  void AddSources_Click();
   void OK_Click();
   void SaveOffLine_Click();
 
@@ -84,7 +85,8 @@ class LocalLoc : public QDialog {
   void showNotice();
   void appendAll(const QStringList& sources);
   void takeDropped(const DroppedSources& dropped);
-  std::optional<QString> pickedPath(const FileQuestion& question);
+  QStringList pickedSources(const QString& initialFolder);
+  std::optional<QString> pickedPath();
   /// Whether the list could be stored; if not, a message has said why.
   bool store(SourceTable& table, int& count);
 
@@ -97,6 +99,8 @@ class LocalLoc : public QDialog {
   QTimer lookSoon_;
   /// What is in `Desc` unless the user has typed there.
   QString proposedDescription_;
+  /// The folder in which sources were picked last by `AddSources`; empty before.
+  QString pickedIn_;
   /// The inner size that the controls are placed for.
   QSize laidOutFor_;
 };

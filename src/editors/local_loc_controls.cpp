@@ -252,6 +252,8 @@ LocalLocControls makeLocalLocControls(QWidget* parent) {
   made.GetListName = makeBrowseButton(parent);
   made.LocAdd = makeButton(parent, QStringLiteral("LocAdd"), QStringLiteral("Add"));
   made.LocAdd->setDefault(true);
+  made.AddSources = makeButton(parent, QStringLiteral("AddSources"), QStringLiteral("Add Fol&ders..."));
+  made.AddSources->setToolTip(QStringLiteral("Pick folders, which are in the list at once"));
   made.Notice = makeLabel(parent, QStringLiteral("Notice"), nullptr);
   made.Notice->hide();
   made.OK = makeButton(parent, QStringLiteral("OK"), QStringLiteral("Save"));
@@ -342,11 +344,13 @@ QSize placeLocalLocControls(const LocalLocControls& controls) {
   y += boxHeight + distances.besideLabel;
   controls.Notice->setGeometry(left, y, sideLeft + sideWidth - left, labelHeight);
 
-  // The ways out, at the right; both buttons to save have the same place, one of them is shown.
+  // The quick way to add many at the left. The ways out, at the right; both buttons to save have the same
+  // place, one of them is shown.
   y += labelHeight + distances.between;
   const int wayOutWidth = widestOf({controls.OK, controls.SaveOffLine, controls.Cancel});
   const int cancelLeft = sideLeft + sideWidth - wayOutWidth;
   const int saveLeft = cancelLeft - distances.between - wayOutWidth;
+  controls.AddSources->setGeometry(left, y, controls.AddSources->sizeHint().width(), buttonHeight);
   controls.OK->setGeometry(saveLeft, y, wayOutWidth, buttonHeight);
   controls.SaveOffLine->setGeometry(saveLeft, y, wayOutWidth, buttonHeight);
   controls.Cancel->setGeometry(cancelLeft, y, wayOutWidth, buttonHeight);
@@ -368,21 +372,17 @@ void stretchLocalLocControls(const LocalLocControls& controls, QSize growth) {
   moveBy({controls.MvUp, controls.MvDn, controls.LocDel}, wider, 0);
   moveBy({controls.Label1, controls.Desc, controls.Label2, controls.LocalDataFolder}, 0, taller);
   growBy(controls.LocalDataFolder, wider, 0);
-  moveBy({controls.Notice}, 0, taller);
+  moveBy({controls.Notice, controls.AddSources}, 0, taller);
   growBy(controls.Notice, wider, 0);
   moveBy({controls.GetListName, controls.LocAdd, controls.OK, controls.SaveOffLine, controls.Cancel}, wider,
          taller);
 }
 
 void mirrorLocalLocControls(const LocalLocControls& controls, int width) {
-  for (QWidget* widget :
-       {static_cast<QWidget*>(controls.Online), static_cast<QWidget*>(controls.MvUp),
-        static_cast<QWidget*>(controls.MvDn), static_cast<QWidget*>(controls.LocDel),
-        static_cast<QWidget*>(controls.Label1), static_cast<QWidget*>(controls.Desc),
-        static_cast<QWidget*>(controls.Label2), static_cast<QWidget*>(controls.LocalDataFolder),
-        static_cast<QWidget*>(controls.GetListName), static_cast<QWidget*>(controls.LocAdd),
-        static_cast<QWidget*>(controls.Notice), static_cast<QWidget*>(controls.OK),
-        static_cast<QWidget*>(controls.SaveOffLine), static_cast<QWidget*>(controls.Cancel)}) {
+  for (QWidget* widget : std::initializer_list<QWidget*>{
+           controls.Online, controls.MvUp, controls.MvDn, controls.LocDel, controls.Label1, controls.Desc,
+           controls.Label2, controls.LocalDataFolder, controls.GetListName, controls.LocAdd,
+           controls.AddSources, controls.Notice, controls.OK, controls.SaveOffLine, controls.Cancel}) {
     widget->setGeometry(
         QStyle::visualRect(widget->layoutDirection(), QRect(0, 0, width, 1), widget->geometry()));
   }

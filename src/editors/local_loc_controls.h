@@ -47,6 +47,8 @@ struct LocalLocControls {
   QLineEdit* LocalDataFolder;
   QPushButton* GetListName;
   QPushButton* LocAdd;
+  /// Picks sources and puts them into the list at once.
+  QPushButton* AddSources;
   QLabel* Notice;
   QPushButton* OK;
   QPushButton* SaveOffLine;

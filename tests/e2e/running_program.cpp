@@ -144,7 +144,7 @@ void RunningProgram::addOfflineList(const QString& path) const {
 
 void RunningProgram::saveFolders(bool rescan) const {
   // From the description over the path and the buttons to browse and to add.
-  tab(4);
+  tab(5);
   press({QStringLiteral("space")});
   waitForWindow(kTitle);
   press({rescan ? QStringLiteral("alt+y") : QStringLiteral("alt+n")});
@@ -153,7 +153,7 @@ void RunningProgram::saveFolders(bool rescan) const {
 
 void RunningProgram::saveOfflineLists() const {
   // From the path over the buttons to browse and to add.
-  tab(3);
+  tab(4);
   press({QStringLiteral("space")});
   waitForMainWindow();
 }

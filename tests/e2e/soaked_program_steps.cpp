@@ -19,6 +19,8 @@ const QString kReceived = QStringLiteral("Received/127.0.0.1/");
 
 /// From the first box of the editors for sources back to their list, or the other way.
 constexpr int kTabsToList = 4;
+/// From their description on to the button that saves.
+constexpr int kTabsToSave = 5;
 
 QStringList times(int count, const QString& key) {
   return QStringList(count, key);
@@ -156,7 +158,7 @@ void SoakedProgram::editFolders(Dice& dice) {
   note(rescans ? QStringLiteral("folders: save and rescan") : QStringLiteral("folders: save"));
   lists_.online = edited;
   const Identities identities = identitiesOfListings();
-  program_->tab(kTabsToList);
+  program_->tab(kTabsToSave);
   press({QStringLiteral("space")});
   answer({rescans ? QStringLiteral("alt+y") : QStringLiteral("alt+n")});
   if (rescans) return refreshHasStarted(identities);

@@ -35,6 +35,8 @@ TEST_F(EditorLayout, EdgesAreAligned) {
     EXPECT_EQ(row->height(), all.Desc->height());
   }
   EXPECT_EQ(all.OK->geometry(), all.SaveOffLine->geometry());
+  EXPECT_EQ(all.AddSources->x(), all.Online->x());
+  EXPECT_EQ(all.AddSources->y(), all.OK->y());
 }
 
 TEST_F(EditorLayout, ResizingStretchesTheListAndThePathBox) {
@@ -43,6 +45,7 @@ TEST_F(EditorLayout, ResizingStretchesTheListAndThePathBox) {
   const QRect path = all.LocalDataFolder->geometry();
   const QSize description = all.Desc->size();
   const QPoint cancel = all.Cancel->geometry().bottomRight();
+  const QPoint addSources = all.AddSources->pos();
   const QSize before = dialog().size();
   dialog().resize(before + QSize(100, 50));
   EXPECT_EQ(all.Online->size(), list + QSize(100, 50));
@@ -50,6 +53,7 @@ TEST_F(EditorLayout, ResizingStretchesTheListAndThePathBox) {
             QRect(path.x(), path.y() + 50, path.width() + 100, path.height()));
   EXPECT_EQ(all.Desc->size(), description);
   EXPECT_EQ(all.Cancel->geometry().bottomRight(), cancel + QPoint(100, 50));
+  EXPECT_EQ(all.AddSources->pos(), addSources + QPoint(0, 50));
   dialog().resize(before);
   EXPECT_EQ(all.Online->size(), list);
   EXPECT_EQ(all.LocalDataFolder->geometry(), path);
@@ -82,8 +86,8 @@ class LeastLayout : public LocalLocTest, public testing::WithParamInterface<int>
 
   std::vector<QWidget*> texts() {
     const LocalLocControls& all = controls();
-    return {all.Label1, all.Label2, all.MvUp,        all.MvDn,  all.LocDel,
-            all.LocAdd, all.OK,     all.SaveOffLine, all.Cancel};
+    return {all.Label1, all.Label2, all.MvUp,        all.MvDn,   all.LocDel,
+            all.LocAdd, all.OK,     all.SaveOffLine, all.Cancel, all.AddSources};
   }
 
  private:
@@ -111,6 +115,7 @@ TEST_P(LeastLayout, CoversNoControlAndStaysInside) {
   EXPECT_GT(all.MvUp->x(), rightOf(all.Online));
   EXPECT_GT(all.OK->y(), bottomOf(all.Desc));
   EXPECT_GT(all.Cancel->x(), rightOf(all.OK));
+  EXPECT_GT(all.OK->x(), rightOf(all.AddSources));
   for (const QWidget* widget : texts()) {
     EXPECT_TRUE(dialog().rect().contains(widget->geometry())) << widget->objectName().toStdString();
   }

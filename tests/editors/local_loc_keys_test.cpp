@@ -24,14 +24,15 @@ TEST_F(EditorKeys, TabLeadsThroughTheControlsInReadingOrder) {
   std::vector<QString> names;
   select(1);
   controls().Online->setFocus();
-  for (int tab = 0; tab < 10; ++tab) {
+  for (int tab = 0; tab < 11; ++tab) {
     names.push_back(dialog().focusWidget()->objectName());
     press(Qt::Key_Tab);
   }
-  EXPECT_EQ(names, (std::vector{QStringLiteral("Online"), QStringLiteral("MvUp"), QStringLiteral("MvDn"),
-                                QStringLiteral("LocDel"), QStringLiteral("Desc"),
-                                QStringLiteral("LocalDataFolder"), QStringLiteral("GetListName"),
-                                QStringLiteral("LocAdd"), QStringLiteral("OK"), QStringLiteral("Cancel")}));
+  EXPECT_EQ(names,
+            (std::vector{QStringLiteral("Online"), QStringLiteral("MvUp"), QStringLiteral("MvDn"),
+                         QStringLiteral("LocDel"), QStringLiteral("Desc"), QStringLiteral("LocalDataFolder"),
+                         QStringLiteral("GetListName"), QStringLiteral("LocAdd"),
+                         QStringLiteral("AddSources"), QStringLiteral("OK"), QStringLiteral("Cancel")}));
 }
 
 TEST_F(EditorKeys, EnterInEitherBoxAddsOnce) {

@@ -140,6 +140,50 @@ TEST_F(EditorDrops, SeveralListingsOfOnePickAreAppended) {
   });
 }
 
+/// With dialogs that know only single folders.
+TEST_F(EditorDrops, TwoFoldersAreAddedOneAfterTheOtherWithOneClickEach) {
+  picker_.pick = QStringLiteral("/m/old/Music");
+  click(controls().AddSources);
+  picker_.pick = QStringLiteral("/m/old/Films");
+  click(controls().AddSources);
+  EXPECT_EQ(edited(), (Entries{{QStringLiteral("Music"), QStringLiteral("/m/old/Music/")},
+                               {QStringLiteral("Films"), QStringLiteral("/m/old/Films/")}}));
+  ASSERT_EQ(picker_.askedForFolder.size(), 2U);
+  EXPECT_EQ(picker_.askedForFolder[0].initialFolder, QString());
+  EXPECT_EQ(picker_.askedForFolder[1].initialFolder, QStringLiteral("/m/old")) << "the next one is beside it";
+  EXPECT_EQ(controls().LocalDataFolder->text(), QString());
+  EXPECT_EQ(controls().Desc->text(), QStringLiteral("Online"));
+  EXPECT_FALSE(controls().Notice->isVisible());
+}
+
+TEST_F(EditorDrops, AddFoldersStartsInTheFolderThatIsTyped) {
+  type(controls().LocalDataFolder, QStringLiteral("/typed/"));
+  picker_.pick = std::nullopt;
+  click(controls().AddSources);
+  EXPECT_EQ(picker_.askedForFolder[0].initialFolder, QStringLiteral("/typed/"));
+  EXPECT_TRUE(edited().empty());
+}
+
+TEST_F(EditorDrops, AddFoldersTakesSeveralAndCanBeTakenBack) {
+  picker_.picks = {QStringLiteral("/m/Music"), QStringLiteral("/m/Films")};
+  QTest::keyClick(&dialog(), Qt::Key_D, Qt::AltModifier);
+  EXPECT_EVENTUALLY(edited().size() == 2U);
+  controls().Undo->trigger();
+  EXPECT_TRUE(edited().empty());
+}
+
+TEST_F(EditorDrops, OneListingOfAPickIsAddedAtOnceByAddFiles) {
+  picker_.pick = QStringLiteral("/l/a.txt");
+  inOfflineEditor([this](LocalLoc& editor) {
+    EXPECT_EQ(editor.controls().AddSources->text(), QStringLiteral("Add &Files..."));
+    click(editor.controls().AddSources);
+    EXPECT_EQ(editor.entries().entries(), (Entries{{QStringLiteral("Offline"), QStringLiteral("/l/a.txt")}}));
+    click(editor.controls().AddSources);
+    EXPECT_EQ(picker_.askedForFile.back().initialFolder, QStringLiteral("/l"));
+  });
+  EXPECT_EQ(messages_.informed, std::vector{QStringLiteral("/l/a.txt is in the list already.")});
+}
+
 TEST_F(EditorDrops, APickedFolderThatIsNotInTheListYetIsSaidToBeMissingThereUntilItIsAdded) {
   picker_.pick = QStringLiteral("/m/Music");
   click(controls().GetListName);

@@ -49,7 +49,7 @@ TEST_F(EditorsByKeys, TabReachesEveryControlOfTheFolders) {
     tabTo("Online");
     press(Qt::Key_Home);
     EXPECT_EQ(tabStops().toStdString(),
-              "Online MvUp MvDn LocDel Desc LocalDataFolder GetListName LocAdd OK Cancel");
+              "Online MvUp MvDn LocDel Desc LocalDataFolder GetListName LocAdd AddSources OK Cancel");
     press(Qt::Key_Escape);
   });
 }
@@ -123,7 +123,7 @@ TEST_F(EditorsByKeys, TabReachesEveryControlOfTheOfflineLists) {
     tabTo("Online");
     press(Qt::Key_Home);
     EXPECT_EQ(tabStops().toStdString(),
-              "Online MvUp MvDn LocDel LocalDataFolder GetListName LocAdd SaveOffLine Cancel");
+              "Online MvUp MvDn LocDel LocalDataFolder GetListName LocAdd AddSources SaveOffLine Cancel");
     press(Qt::Key_Escape);
   });
 }

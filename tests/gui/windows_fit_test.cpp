@@ -326,21 +326,22 @@ TEST_F(MirroredWindows, MessagesAreReadFromLeftToRight) {
 
 TEST_F(MirroredWindows, TheEditorIsTheMirrorImage) {
   form();
-  EXPECT_TRUE(duringModal<LocalLoc>([this] { form().menus().AddLocal->trigger(); },
-                                    [](LocalLoc& dialog) {
-                                      const LocalLocControls& all = dialog.controls();
-                                      for (const int wider : {0, 100, -50}) {
-                                        dialog.resize(dialog.width() + wider, dialog.height());
-                                        QTest::qWait(0);
-                                        EXPECT_GT(all.Online->x(), all.MvUp->geometry().right());
-                                        EXPECT_EQ(all.Desc->geometry().right(),
-                                                  all.Online->geometry().right());
-                                        EXPECT_LT(all.LocalDataFolder->geometry().right(), all.Desc->x());
-                                        EXPECT_EQ(all.GetListName->x(), all.Online->x());
-                                        EXPECT_EQ(all.Cancel->x(), all.LocAdd->x());
-                                        EXPECT_GT(all.OK->x(), all.Cancel->geometry().right());
-                                      }
-                                    }));
+  EXPECT_TRUE(
+      duringModal<LocalLoc>([this] { form().menus().AddLocal->trigger(); },
+                            [](LocalLoc& dialog) {
+                              const LocalLocControls& all = dialog.controls();
+                              for (const int wider : {0, 100, -50}) {
+                                dialog.resize(dialog.width() + wider, dialog.height());
+                                QTest::qWait(0);
+                                EXPECT_GT(all.Online->x(), all.MvUp->geometry().right());
+                                EXPECT_EQ(all.Desc->geometry().right(), all.Online->geometry().right());
+                                EXPECT_LT(all.LocalDataFolder->geometry().right(), all.Desc->x());
+                                EXPECT_EQ(all.GetListName->x(), all.Online->x());
+                                EXPECT_EQ(all.Cancel->x(), all.LocAdd->x());
+                                EXPECT_GT(all.OK->x(), all.Cancel->geometry().right());
+                                EXPECT_EQ(all.AddSources->geometry().right(), all.Online->geometry().right());
+                              }
+                            }));
   EXPECT_TRUE(duringModal<LocalLoc>(
       [this] { form().menus().EditOffline->trigger(); },
       [](LocalLoc& dialog) {
