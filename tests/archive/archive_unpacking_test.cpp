@@ -143,6 +143,11 @@ TEST_F(ArchiveUnpacking, OfAMissingArchiveIsAnError) {
             QStringList{u"The archive \"none.zip\" cannot be read. Nothing was unpacked."_qs});
 }
 
+TEST_F(ArchiveUnpacking, OfAFewBytesReportsNoMoreThanAll) {
+  EXPECT_EQ(unpack({file("a.txt", "12345"), file("b.txt", "12345")}), UnpackingOutcome::Unpacked);
+  EXPECT_THAT(record_.percentages, ElementsAre(0, 50, 100));
+}
+
 TEST_F(ArchiveUnpacking, ReportsEachPercentage) {
   EXPECT_EQ(unpack({file("a.txt", QByteArray(10 << 20, 'a')), file("b.txt", QByteArray(10 << 20, 'b'))}),
             UnpackingOutcome::Unpacked);

@@ -32,6 +32,8 @@ TEST(ListedName, EachByteThatIsNoTextBecomesAQuestionMark) {
   EXPECT_EQ(listedText("\xED\xA0\x80"), "???");
   EXPECT_EQ(listedText("\xC0\xAF"), "??");
   EXPECT_EQ(listedText("\xFFä"), "?ä");
+  // A byte that goes on behind a whole character of four.
+  EXPECT_EQ(listedText("😀\x80"), "😀?");
   EXPECT_EQ(traitsOfName("caf\xE9.txt"), kHoldsQuestion);
 }
 

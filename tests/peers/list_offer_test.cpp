@@ -94,6 +94,10 @@ TEST_F(PeerOfferTest, TheQuestionSaysHowManyListingsThereAreAndHowMuchRoom) {
   EXPECT_THAT(asked(2),
               HasSubstr("The archives hold 2 listings. There is room for 1 more offline source.\r\n"));
   EXPECT_THAT(asked(3), HasSubstr(" There is room for 0 more offline sources.\r\n"));
+  program_.state.OfflineSourceCount = 1995;
+  outcome_.listings = 5;
+  offer(false);
+  EXPECT_THAT(asked(4), HasSubstr("The archives hold 5 listings.\r\n"));
 }
 
 TEST_F(PeerOfferTest, TheUsualQuestionSaysNothingOfListings) {

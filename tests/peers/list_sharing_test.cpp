@@ -109,6 +109,16 @@ TEST_F(PeerSharingTest, ArchivesOfSourcesThatAreNoLongerListedAreNotSent) {
   EXPECT_EQ(caller.receiveRest(), QByteArray());
 }
 
+TEST_F(PeerSharingTest, TheArchiveOfTheRowBeforeTheFirstSourceIsNotKept) {
+  program_.addListedSource(QStringLiteral("Music"), "music");
+  program_.addListedSource(QStringLiteral("Films"), "films");
+  ASSERT_TRUE(start());
+  program_.state.OnlineSourceCount = 1;
+  program_.state.OnlineSources.set(0, QStringLiteral("Films"), QStringLiteral("/films/"));
+  sharing_.sourcesRefreshed();
+  EXPECT_EQ(archives(), QStringList{QStringLiteral("Music.zip")});
+}
+
 TEST_F(PeerSharingTest, ASourceWithoutAListingIsNotAnsweredWithTheArchiveOfAnother) {
   program_.addSource(QStringLiteral("Films"));
   program_.addListedSource(QStringLiteral("Music"), "music");

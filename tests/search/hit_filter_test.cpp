@@ -2,14 +2,28 @@
 
 #include "platform/text_encoding.h"
 #include "search/hit_table_maker.h"
+#include "search/segment/segment_store.h"
 #include "search/short_slices.h"
 #include "support/qt_printing.h"
+#include "support/temporary_folder.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <tuple>
+
 namespace quorvin {
 namespace {
+
+/// The same rows, asked for in pieces that start anywhere.
+void expectSameInPieces(const HitFilter& filter, const std::vector<std::int64_t>& rows, std::int64_t end) {
+  std::vector<std::uint32_t> pieces;
+  const std::int64_t cut = std::min<std::int64_t>(end, 77);
+  filter.addRows(0, cut, pieces);
+  filter.addRows(cut, end, pieces);
+  EXPECT_TRUE(std::ranges::equal(pieces, rows));
+}
 
 std::vector<std::int64_t> rowsWith(HitFilter& filter, const HitTable& table) {
   const SliceEnd isOver = test::everyOtherTime();
@@ -19,6 +33,7 @@ std::vector<std::int64_t> rowsWith(HitFilter& filter, const HitTable& table) {
   for (std::int64_t row = 0; row < table.rowCount(); ++row) {
     if (filter.has(row)) rows.push_back(row);
   }
+  expectSameInPieces(filter, rows, table.rowCount());
   return rows;
 }
 
@@ -75,6 +90,25 @@ TEST_F(FilteredHits, MayBeAmongFewRowsOfManyEntries) {
   ASSERT_GT(scan.table.rowCount(), 100);
   ASSERT_LT(scan.table.rowCount(), 3000);
   expectAgreement(scan.table);
+}
+
+TEST_F(FilteredHits, MayBeSomeOfTheEntriesOfAKeptListing) {
+  const TemporaryFolder folder;
+  const QString listing = folder.writeFile(u"many.txt"_qs, test::mixedListing(6000, 51));
+  SegmentStore store({QString(), std::size_t{1} << 30});
+  ScanLimits limits;
+  limits.keptSegment = 120'000;
+  // All entries between the first hit and the last are searched; then each hit by itself.
+  for (const auto& [text, fewest, most] :
+       {std::tuple(u"live"_qs, 1500, 3000), std::tuple(u"117"_qs, 5, 100)}) {
+    for (int time = 0; time < 2; ++time) {
+      test::TestScan scan(text);
+      scan.runFile(listing, &store, limits);
+      ASSERT_GT(scan.table.rowCount(), fewest);
+      ASSERT_LT(scan.table.rowCount(), most);
+      expectAgreement(scan.table);
+    }
+  }
 }
 
 class Filter : public testing::Test {
@@ -146,6 +180,12 @@ TEST_F(Filter, IsOffWithoutWords) {
   EXPECT_FALSE(filter_.isOn());
   filter_.setText(u"live"_qs);
   expectRowsOf(u"live"_qs);
+}
+
+TEST_F(Filter, CountsRepeatedWordsOnce) {
+  const QString text = u"t "_qs.repeated(150) + u"live"_qs;
+  filter_.setText(text);
+  EXPECT_EQ(rowsWith(filter_, scan_.table), plainRowsWith(scan_.table, u"t live"_qs));
 }
 
 TEST_F(Filter, TakesTheFirstOfVeryManyWords) {

@@ -104,6 +104,12 @@ TEST(OrderOfAListing, IsLookedForBeyondTheFirstChunk) {
   EXPECT_EQ(listing.opened, 2);
 }
 
+TEST(OrderOfAListing, MayBeThatOfALastLineWithoutAnEnd) {
+  CountedListing listing(entryLine("song 1", "7", "3/4/2026 1:04:09 PM").repeated(50) +
+                         entryLine("other", "7", "3/15/2026 1:04:09 PM").chopped(2));
+  EXPECT_EQ(listing.dates(1000), QStringList(50, u"2026-03-04"_qs));
+}
+
 TEST(OrderOfAListing, IsLookedForBeforeTheFirstDateInQuestion) {
   CountedListing listing(entryLine("other", "7", "3/15/2026 1:04:09 PM") +
                          entryLine("other", "7", "2026-03-15 13:04:09").repeated(50) +

@@ -1,10 +1,13 @@
 #include "faults/runtime_fault.h"
+#include "files/file_aside.h"
 #include "state/source_list_file.h"
 #include "support/fault_number.h"
 #include "support/qt_printing.h"
 #include "support/recording_message_boxes.h"
+#include "support/system_call_watch.h"
 #include "support/temporary_folder.h"
 
+#include <QScopeGuard>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -136,6 +139,52 @@ TEST_F(SourceListSave, KeepsNoCopyOfAListThatIsSavedAlready) {
   EXPECT_EQ(folder_.names(), QStringList{QStringLiteral("Locations.txt")});
   EXPECT_EQ(saved(), QByteArray("\"Music\",\"/music/\"\r\n"));
   EXPECT_TRUE(messages.informed.empty());
+}
+
+class FirstSourceList : public SourceListSave {
+ protected:
+  FirstSourceList() {
+    state_.LocalFolder = folder_.path();
+    state_.LocFile = QStringLiteral("Locations.txt");
+    state_.OnlineSources.set(++state_.OnlineSourceCount, QStringLiteral("Music"), QStringLiteral("/music/"));
+    folder_.writeFile(QStringLiteral("here"), "");
+  }
+
+  ProgramState state_;
+  RecordingMessageBoxes messages_;
+  const QByteArray kMusic = "\"Music\",\"/music/\"\r\n";
+};
+
+TEST_F(FirstSourceList, IsMade) {
+  EXPECT_TRUE(saveOnlineSources(state_, messages_));
+  EXPECT_EQ(saved(), kMusic);
+  EXPECT_EQ(folder_.names(), QStringList({QStringLiteral("Locations.txt"), QStringLiteral("here")}));
+}
+
+TEST_F(FirstSourceList, IsMadeInTheFoldersOfItsName) {
+  state_.LocFile = QStringLiteral("lists/of mine/Locations.txt");
+  EXPECT_TRUE(saveOnlineSources(state_, messages_));
+  EXPECT_EQ(folder_.readFile(state_.LocFile), kMusic);
+}
+
+TEST_F(FirstSourceList, IsNotMadeWhereStartUpDidNotComeToIt) {
+  state_.OnlineSourceCount = 0;
+  EXPECT_TRUE(saveOnlineSources(state_, messages_));
+  EXPECT_EQ(folder_.names(), QStringList{QStringLiteral("here")});
+}
+
+TEST_F(FirstSourceList, OfAnotherProgramThatComesInBetweenIsKept) {
+  bool hasCome = false;
+  test::systemCallWatcher() = [&](const std::string&) {
+    if (hasCome || filesAside(folder_.path()).isEmpty()) return;
+    hasCome = true;
+    folder_.writeFile(state_.LocFile, "\"Films\",\"/films/\"\r\n");
+  };
+  const auto unwatched = qScopeGuard([] { test::systemCallWatcher() = nullptr; });
+  EXPECT_TRUE(saveOnlineSources(state_, messages_));
+  ASSERT_TRUE(hasCome);
+  EXPECT_EQ(saved(), kMusic);
+  EXPECT_EQ(folder_.readFile(QStringLiteral("Locations.txt.kept")), "\"Films\",\"/films/\"\r\n");
 }
 
 TEST_F(SourceListSave, LeavesNothingElseInTheFolder) {

@@ -85,6 +85,15 @@ TEST_F(WebUpdateProtected, TenNamesAreShownAndTheOthersCounted) {
       << boxes_.informed[0].toStdString();
 }
 
+TEST_F(WebUpdateProtected, TheEleventhNameIsCountedToo) {
+  QStringList names;
+  for (int number = 1; number <= 11; ++number) names += u"history/%1"_qs.arg(number);
+  update(names);
+  ASSERT_EQ(boxes_.informed.size(), 1U);
+  EXPECT_TRUE(boxes_.informed[0].endsWith(u"history/10\r\nand 1 more"_qs))
+      << boxes_.informed[0].toStdString();
+}
+
 TEST_F(WebUpdateProtected, WhatIsLeftOutDoesNotMakeTheUpdateBeOfferedAgain) {
   update({u"Locations.txt"_qs, u"main.txt"_qs});
   EXPECT_NE(modified(), k1980);

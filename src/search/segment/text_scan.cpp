@@ -246,7 +246,7 @@ BytePair rarestPair(std::string_view word) {
     if (commonness(byteAt(i)) < commonness(byteAt(first))) first = i;
   }
   std::size_t second = first == 0 ? length - 1 : 0;
-  for (std::size_t i = 0; i < length; ++i) {
+  for (std::size_t i = 1; i < length; ++i) {
     if (i != first && commonness(byteAt(i)) < commonness(byteAt(second))) second = i;
   }
   return {byteAt(first), byteAt(second), static_cast<std::uint8_t>(first), static_cast<std::uint8_t>(second)};

@@ -90,6 +90,7 @@ TEST_F(SegmentBuilderTest, OnlyTheAskedValuesAreRead) {
   EXPECT_EQ(segment().valueState(1), ValueState::Unreadable);
   EXPECT_EQ(segment().unreadableLine(1), 2);
   EXPECT_EQ(segment().valueState(2), ValueState::Own);
+  EXPECT_EQ(segment().unreadableLine(2), 0);
   EXPECT_EQ(segment().values(2).size, 3);
   EXPECT_EQ(segment().arrays().values[3].second, CompactValues::kAbsent);
 }

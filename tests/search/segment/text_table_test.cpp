@@ -203,5 +203,14 @@ TEST(TextTable, LongTextsFit) {
   EXPECT_GT(builder.memorySize(), 300000U);
 }
 
+TEST(TextTable, MemoryGrowsWithTheTextsThatOnlyTheirCapitalsTellApart) {
+  TextTableBuilder builder;
+  builder.add("plain", true);
+  const std::size_t before = builder.memorySize();
+  for (int i = 0; i < 10'000; ++i) builder.add("\xC3\x84", false);
+  // At least the text itself, its capitals, and where they are.
+  EXPECT_GT(builder.memorySize(), before + 10'000 * (3 + 2 + sizeof(TextTable::Exception)));
+}
+
 }  // namespace
 }  // namespace quorvin
