@@ -1,6 +1,7 @@
 #include "app/search_form_sources.h"
 
 #include "app/fault_report.h"
+#include "state/source_entries.h"
 
 #include <QAbstractItemModel>
 #include <QEvent>

@@ -1,6 +1,7 @@
 #include "editors/source_drops.h"
 
 #include "files/file_lookup.h"
+#include "files/path_style.h"
 
 #include <QDir>
 #include <QDropEvent>
@@ -8,55 +9,9 @@
 #include <QTimer>
 #include <QUrl>
 
-#include <algorithm>
 #include <utility>
 
 namespace quorvin {
-
-namespace {
-
-QString withoutEnd(const QString& path) {
-  return QDir::cleanPath(path);
-}
-
-bool isAmong(const std::vector<SourceEntry>& entries, const QString& path) {
-  return std::ranges::any_of(entries, [known = withoutEnd(path)](const SourceEntry& entry) {
-    return withoutEnd(entry.path) == known;
-  });
-}
-
-bool isTaken(const std::vector<SourceEntry>& entries, const QString& description) {
-  return std::ranges::any_of(entries, [&description](const SourceEntry& entry) {
-    return entry.description.compare(description, Qt::CaseInsensitive) == 0;
-  });
-}
-
-/// Each folder needs a listing of its own.
-QString freeDescription(const QString& folder, const std::vector<SourceEntry>& entries, PathStyle style) {
-  QString name = descriptionOfFolder(folder, style).replace(u'"', u'\'');
-  if (name.isEmpty()) name = QStringLiteral("Online");
-  QString description = name;
-  for (int number = 2; isTaken(entries, description); ++number) {
-    description = name + u' ' + QString::number(number);
-  }
-  return description;
-}
-
-/// The sentence that says why the entry is not added; empty when it is.
-QString addEntry(const SourceEntry& entry, std::vector<SourceEntry>& entries) {
-  if (isAmong(entries, entry.path)) return QStringLiteral("%1 is in the list already.").arg(entry.path);
-  if (const auto refusal = whyNotAdded(entry)) return entry.path + QStringLiteral(": ") + *refusal;
-  entries.push_back(entry);
-  return {};
-}
-
-void addLine(QString& lines, const QString& line) {
-  if (line.isEmpty()) return;
-  if (!lines.isEmpty()) lines += QStringLiteral("\r\n");
-  lines += line;
-}
-
-}  // namespace
 
 DroppedSources droppedSources(const QMimeData& data) {
   DroppedSources dropped;
@@ -70,20 +25,6 @@ DroppedSources droppedSources(const QMimeData& data) {
     }
   }
   return dropped;
-}
-
-QString addFolders(const QStringList& folders, std::vector<SourceEntry>& entries, PathStyle style) {
-  QString told;
-  for (const QString& folder : folders) {
-    addLine(told, addEntry({freeDescription(folder, entries, style), folder}, entries));
-  }
-  return told;
-}
-
-QString addListings(const QStringList& files, std::vector<SourceEntry>& entries) {
-  QString told;
-  for (const QString& file : files) addLine(told, addEntry({QStringLiteral("Offline"), file}, entries));
-  return told;
 }
 
 SourceDrops::SourceDrops(QWidget& window, std::function<void(const DroppedSources&)> take)

@@ -1,9 +1,6 @@
 // Folders and listing files that are dropped onto a window to be searched.
 #pragma once
 
-#include "editors/source_list_model.h"
-#include "files/path_style.h"
-
 #include <QMimeData>
 #include <QObject>
 #include <QString>
@@ -11,7 +8,6 @@
 #include <QWidget>
 
 #include <functional>
-#include <vector>
 
 namespace quorvin {
 
@@ -26,13 +22,6 @@ struct DroppedSources {
 
 /// The folders and ordinary files of this machine among `data`; anything else is left out.
 DroppedSources droppedSources(const QMimeData& data);
-
-/// Appends each folder that is not among `entries` yet as a source, under its name as the description, or
-/// that name with a number where another folder has it already. The result names, a sentence a line, those
-/// that were not added; empty where all were.
-QString addFolders(const QStringList& folders, std::vector<SourceEntry>& entries, PathStyle style);
-/// The same for listing files, which are all described as "Offline".
-QString addListings(const QStringList& files, std::vector<SourceEntry>& entries);
 
 /// Lets folders and files be dropped onto a window. What is dragged out of the program itself is not taken.
 class SourceDrops : public QObject {

@@ -39,31 +39,6 @@ TEST_F(Dropped, WhatIsNotThereOrElsewhereIsLeftOut) {
                   .isEmpty());
 }
 
-TEST(AddedFolders, AreDescribedByTheirNamesAndTakenOnce) {
-  Entries entries{{QStringLiteral("Music"), QStringLiteral("/mnt/a/Music/")}};
-  const QString told = addFolders({QStringLiteral("/mnt/b/Music/"), QStringLiteral("/mnt/a/Music"),
-                                   QStringLiteral("/mnt/c/a:b/"), QStringLiteral("/")},
-                                  entries, kUnixPaths);
-  EXPECT_EQ(entries, (Entries{{QStringLiteral("Music"), QStringLiteral("/mnt/a/Music/")},
-                              {QStringLiteral("Music 2"), QStringLiteral("/mnt/b/Music/")},
-                              {QStringLiteral("a_b"), QStringLiteral("/mnt/c/a:b/")}}));
-  EXPECT_EQ(told, QStringLiteral("/mnt/a/Music is in the list already.\r\n/: The Path must be at lease 3 "
-                                 "characters long. (ex: C:\\)"));
-}
-
-TEST(AddedListings, AreDescribedAsOfflineAndTakenOnce) {
-  Entries entries;
-  const QString told = addListings({QStringLiteral("/l/a.txt"), QStringLiteral("/l/a.txt"),
-                                    QStringLiteral("/l/\"b\".txt"), QStringLiteral("/l/c.txt")},
-                                   entries);
-  EXPECT_EQ(entries, (Entries{{QStringLiteral("Offline"), QStringLiteral("/l/a.txt")},
-                              {QStringLiteral("Offline"), QStringLiteral("/l/c.txt")}}));
-  EXPECT_EQ(told, QStringLiteral(
-                      "/l/a.txt is in the list already.\r\n/l/\"b\".txt: The Path must not contain a double "
-                      "quote, since a list of sources cannot keep one. Please give the folder another "
-                      "name, or use a link to it."));
-}
-
 /// Drops onto the real editors.
 class EditorDrops : public LocalLocTest {
  protected:

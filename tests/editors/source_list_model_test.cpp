@@ -28,14 +28,6 @@ class SourceList : public testing::Test {
   QAbstractItemModelTester tester_{&list_, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-TEST(DescriptionOfFolder, IsItsNameWithoutWhatNoDescriptionMayHold) {
-  EXPECT_EQ(descriptionOfFolder(u"D:\\Data\\Music\\"_qs, kWindowsPaths), u"Music"_qs);
-  EXPECT_EQ(descriptionOfFolder(u"D:\\"_qs, kWindowsPaths), QString());
-  EXPECT_EQ(descriptionOfFolder(u"/home/ann/Music 1:2*\\x/"_qs, kUnixPaths), u"Music 1_2__x"_qs);
-  EXPECT_EQ(descriptionOfFolder(u"/home"_qs, kUnixPaths), u"home"_qs);
-  EXPECT_EQ(descriptionOfFolder(u"/"_qs, kUnixPaths), QString());
-}
-
 TEST_F(SourceList, HasTheColumnsDescriptionAndPath) {
   EXPECT_EQ(list_.columnCount(), 2);
   EXPECT_EQ(list_.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Description"));
@@ -95,82 +87,6 @@ TEST_F(SourceList, WithoutASelectionNothingHappens) {
   EXPECT_EQ(list_.moveUp(-1), std::nullopt);
   EXPECT_EQ(list_.moveDown(-1), std::nullopt);
   EXPECT_EQ(descriptions(), words("one two three"));
-}
-
-// What may be added, and how a list is stored.
-
-const QString kPathMessage = QStringLiteral("The Path must be at lease 3 characters long. (ex: C:\\)");
-const QString kDescriptionMessage =
-    QStringLiteral("Description must not be left blank or contain the characters /?\\:|*");
-
-std::optional<QString> refusalOf(const QString& description, const QString& path) {
-  return whyNotAdded({description, path});
-}
-
-TEST(SourceEntry, APathOfThreeCharactersIsAccepted) {
-  EXPECT_EQ(refusalOf(QStringLiteral("Online"), QStringLiteral("C:\\")), std::nullopt);
-}
-
-TEST(SourceEntry, APathOfTwoCharactersIsRefusedBeforeTheDescriptionIsLookedAt) {
-  EXPECT_EQ(refusalOf(QStringLiteral("a/b"), QStringLiteral("C:")), kPathMessage);
-  EXPECT_EQ(refusalOf(QString(), QString()), kPathMessage);
-}
-
-TEST(SourceEntry, ADescriptionThatNoFileNameCanHoldIsRefused) {
-  for (const QString& description :
-       {QStringLiteral("a/b"), QStringLiteral("x:y"), QStringLiteral("*"), QStringLiteral("?"),
-        QStringLiteral("\\"), QStringLiteral("a|b"), QStringLiteral("ends with:"), QString()}) {
-    EXPECT_EQ(refusalOf(description, QStringLiteral("C:\\")), kDescriptionMessage)
-        << description.toStdString();
-  }
-}
-
-TEST(SourceEntry, AnyOtherDescriptionIsAcceptedAsItStands) {
-  for (const QString& description :
-       {QStringLiteral("Music CDs"), QStringLiteral("Online"), QStringLiteral("   "), QStringLiteral("<a>"),
-        QStringLiteral("\"quoted\"")}) {
-    EXPECT_EQ(refusalOf(description, QStringLiteral("C:\\")), std::nullopt) << description.toStdString();
-  }
-}
-
-TEST(StoreEntries, AnEmptyListMakesTheCountZeroAndLeavesTheRows) {
-  SourceTable table;
-  int count = 0;
-  ASSERT_EQ(storeEntries({{QStringLiteral("Music"), QStringLiteral("D:\\")}}, table, count), std::nullopt);
-  ASSERT_EQ(storeEntries({}, table, count), std::nullopt);
-  EXPECT_EQ(count, 0);
-  EXPECT_EQ(table.description(1), QStringLiteral("Music"));
-  EXPECT_EQ(table.path(1), QStringLiteral("D:\\"));
-}
-
-TEST(StoreEntries, NeitherRowZeroNorColumnZeroIsWritten) {
-  SourceTable table;
-  int count = 0;
-  table.at(0, SourceTable::kDescription) = QStringLiteral("row 0");
-  table.at(1, 0) = QStringLiteral("column 0");
-  ASSERT_EQ(storeEntries({{QStringLiteral("Music"), QStringLiteral("D:\\")}}, table, count), std::nullopt);
-  EXPECT_EQ(table.at(0, SourceTable::kDescription), QStringLiteral("row 0"));
-  EXPECT_EQ(table.at(1, 0), QStringLiteral("column 0"));
-}
-
-TEST(StoreEntries, TwoThousandEntriesFit) {
-  SourceTable table;
-  int count = 0;
-  EXPECT_EQ(storeEntries(std::vector<SourceEntry>(2000), table, count), std::nullopt);
-  EXPECT_EQ(count, 2000);
-}
-
-TEST(StoreEntries, OneMoreIsRefusedWithNothingStored) {
-  SourceTable table;
-  int count = 0;
-  ASSERT_EQ(storeEntries({{QStringLiteral("Music"), QStringLiteral("D:\\")}}, table, count), std::nullopt);
-  const std::vector<SourceEntry> tooMany(2001, {QStringLiteral("New"), QStringLiteral("E:\\")});
-  EXPECT_EQ(storeEntries(tooMany, table, count),
-            QStringLiteral("A list can hold 2000 entries at most, and this one has 2001.\r\n\r\n"
-                           "Nothing has been saved. Please delete entries and save again."));
-  EXPECT_EQ(count, 1);
-  EXPECT_EQ(table.description(1), QStringLiteral("Music"));
-  EXPECT_EQ(table.description(2), QString());
 }
 
 }  // namespace
