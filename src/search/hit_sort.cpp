@@ -58,7 +58,7 @@ class ByNumber : public HitSort::Way {
     const FoundEntry& hit = stretch.hits[i];
     if (order_.column == HitColumn::Match) return hit.match;
     try {
-      const bool isOwn = stretch.segment->valueState(hit.entry) == ValueState::Own;
+      const bool isOwn = hasValues(stretch.segment->valueState(hit.entry));
       const EntryValues values = isOwn ? stretch.segment->values(hit.entry) : table_.values(row);
       return order_.column == HitColumn::Size ? values.size : std::llround(values.date * kSecondsPerDay);
     } catch (const DamagedSegment&) {

@@ -81,6 +81,11 @@ EntryValues HitTable::values(std::int64_t row) const {
   return segmentRows(valueRow).segment->values(hit(valueRow).entry);
 }
 
+std::optional<std::int64_t> HitTable::rowWithValues(std::int64_t row) const {
+  const std::int64_t valueRow = valueRowOf(row);
+  return valueRow == kNoRow ? std::nullopt : std::optional(valueRow);
+}
+
 HitStretch HitTable::stretchAt(std::int64_t row) const {
   const SegmentRows& rows = segmentRows(row);
   const bool isLast = &rows == &segments_.back();
@@ -160,7 +165,7 @@ bool HitTable::findOwnValues(const Segment& segment, std::span<const FoundEntry>
   if (segment.allOwn(hits.front().entry, hits.back().entry)) return true;
   ownValues_.clear();
   for (const FoundEntry& found : hits) {
-    ownValues_.push_back(segment.valueState(found.entry) == ValueState::Own ? 1 : 0);
+    ownValues_.push_back(hasValues(segment.valueState(found.entry)) ? 1 : 0);
   }
   return false;
 }

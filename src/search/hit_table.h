@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -62,6 +63,9 @@ class HitTable : public HitSink {
   HitStretch stretchAt(std::int64_t row) const;
   /// Size and date of `row`. Throws DamagedSegment.
   EntryValues values(std::int64_t row) const;
+  /// The row whose entry has the size and date that `row` shows: itself or one before it; nothing where the
+  /// listing has none up to there.
+  std::optional<std::int64_t> rowWithValues(std::int64_t row) const;
 
   /// Removes all rows and releases the segments. Memory for as many rows stays, so that a next run with as
   /// many hits need not ask for it.

@@ -9,6 +9,8 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <span>
+#include <utility>
 
 namespace quorvin {
 
@@ -62,7 +64,7 @@ void SearchRun::searchListings(const QString& searchText, const QString& desMatc
   run(searchText, desMatch, [&] {
     report_.listings = static_cast<int>(paths.size());
     for (const QString& path : paths) {
-      if (!isEnding()) searchIfFound(path, SourceKind::Offline);
+      if (!isEnding() && !scanStream(path)) searchIfFound(path, SourceKind::Offline);
     }
     showSearched();
   });
@@ -152,7 +154,7 @@ void SearchRun::searchOfflineSources() {
 
 bool SearchRun::searchIfFound(const QString& path, SourceKind kind) {
   if (isListing(path)) {
-    scan(path, kind);
+    scanFile(path, kind);
     return true;
   }
   reportMissing(path);
@@ -166,12 +168,31 @@ void SearchRun::reportMissing(const QString& path) {
   tellsMissing_ = parts_.messages.informOneOfMany(QStringLiteral("Listing file not found: ") + path);
 }
 
-void SearchRun::scan(const QString& path, SourceKind kind) {
+ScanRequest SearchRun::request() {
+  return {query_, parts_.locale, parts_.hits, [this](std::int64_t) { return yield(); }};
+}
+
+void SearchRun::scanFile(const QString& path, SourceKind kind) {
+  scan(path, kind,
+       [&](ScanOutcome& outcome) { scanListingFile(path, parts_.segments, request(), counts_, outcome); });
+}
+
+/// False where the listing is no stream.
+bool SearchRun::scanStream(const QString& path) {
+  ListingReader stream = parts_.streamAt ? parts_.streamAt(path) : ListingReader();
+  if (!stream) return false;
+  const auto atItsEnd = [](std::span<char>) { return std::size_t{0}; };
+  const ListingOpener openOnce = [&] { return std::exchange(stream, atItsEnd); };
+  scan(path, SourceKind::Offline,
+       [&](ScanOutcome& outcome) { scanListing(openOnce, request(), counts_, outcome); });
+  return true;
+}
+
+void SearchRun::scan(const QString& path, SourceKind kind, const std::function<void(ScanOutcome&)>& read) {
   ScanOutcome outcome;
   if (parts_.hits != nullptr) parts_.hits->startListing(kind, path);
   try {
-    const ScanRequest request{query_, parts_.locale, parts_.hits, [this](std::int64_t) { return yield(); }};
-    scanListingFile(path, parts_.segments, request, counts_, outcome);
+    read(outcome);
     if (!outcome.stopped) ++report_.searchedToTheEnd;
   } catch (const RuntimeFault& fault) {
     ++failedListings_;

@@ -55,6 +55,9 @@ struct RunParts {
   /// Whether the run is of no use any more, since the program is closing or another search is wanted: it then
   /// ends at its next yield, without further sources or messages.
   std::function<bool()> endRequested = [] { return false; };
+  /// Gives the way to read a listing that was named and is no file, such as a pipe; nothing for files and for
+  /// what is not there. Without it all listings are files.
+  std::function<ListingReader(const QString& path)> streamAt = {};
 };
 
 /// How a run went over its listings.
@@ -92,7 +95,8 @@ class SearchRun {
   void searchQuietly(const QString& searchText, const QString& desMatch);
 
   /// Scans the listings at `paths`, in order, instead of the sources of the state; the console's way of
-  /// searching listings that are named. Missing ones are reported and skipped.
+  /// searching listings that are named. Missing ones are reported and skipped. What is no file is read as
+  /// RunParts::streamAt says, and nothing is kept of it.
   void searchListings(const QString& searchText, const QString& desMatch, const std::vector<QString>& paths);
 
   /// From the moment at which the hits of the last run are cleared to the end of the last listing. Messages
@@ -119,7 +123,10 @@ class SearchRun {
   int sourceCount() const;
   bool searchIfFound(const QString& path, SourceKind kind);
   void reportMissing(const QString& path);
-  void scan(const QString& path, SourceKind kind);
+  void scan(const QString& path, SourceKind kind, const std::function<void(ScanOutcome&)>& read);
+  void scanFile(const QString& path, SourceKind kind);
+  bool scanStream(const QString& path);
+  ScanRequest request();
   bool yield();
   bool isEnding() const { return enough_ || parts_.endRequested(); }
   void showHits();

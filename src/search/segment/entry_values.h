@@ -14,13 +14,20 @@ namespace quorvin {
 
 /// Where an entry's size and date come from.
 enum class ValueState : std::uint8_t {
-  /// They are in its line, or in the last line before it that was long enough.
+  /// They are in its line.
   Own,
+  /// They are in the last line before it that was long enough.
+  Carried,
   /// No line up to its own is long enough to hold any.
   Absent,
   /// There is text where they should be, but it cannot be read.
   Unreadable,
 };
+
+/// Whether there are values in that state.
+constexpr bool hasValues(ValueState state) {
+  return state == ValueState::Own || state == ValueState::Carried;
+}
 
 struct EntryValues {
   /// Bytes.

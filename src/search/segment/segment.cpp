@@ -49,7 +49,7 @@ ValueState Segment::valueState(std::uint32_t entry) const {
     case CompactValues::kUnreadable:
       return ValueState::Unreadable;
     default:
-      return ValueState::Own;
+      return ValueState::Carried;
   }
 }
 

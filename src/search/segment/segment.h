@@ -47,9 +47,9 @@ struct SegmentArrays {
   CheckedSpan<VolumeRun> volumes;
   CheckedSpan<char> volumeTexts;
   CheckedSpan<CompactValues> values;
-  /// Every entry has values of its own. This is nearly always so, and saves looking at each.
+  /// The line of every entry has values. This is nearly always so, and saves looking at each.
   bool allOwn = false;
-  /// A bit for each entry: it has none of its own, or they could not be read.
+  /// A bit for each entry: its line has none, or they could not be read.
   CheckedSpan<std::uint64_t> notOwn;
   /// Both ascending by entry.
   CheckedSpan<WideValues> wideValues;
@@ -98,7 +98,7 @@ class Segment {
   /// Whether the state of all entries from `first` to `last`, that one too, is Own. Far quicker than asking
   /// for each.
   bool allOwn(std::uint32_t first, std::uint32_t last) const;
-  /// Meaningful where the state is Own.
+  /// Meaningful where hasValues() the state.
   EntryValues values(std::uint32_t entry) const;
   /// The line in the listing, from 1, of an entry whose state is Unreadable.
   std::int64_t unreadableLine(std::uint32_t entry) const;

@@ -159,7 +159,15 @@ void SegmentBuilder::readValues(std::uint32_t entry) {
   nextToRead_ = entry + 1;
   const Unread& unread = unread_[entry - firstUnread_];
   readTail(unread);
-  segment_->setValues(entry, readState_, readValues_, textFirstLine_ + unread.line);
+  const bool isCarried = readState_ == ValueState::Own && !hasOwnTail(entry - firstUnread_);
+  segment_->setValues(entry, isCarried ? ValueState::Carried : readState_, readValues_,
+                      textFirstLine_ + unread.line);
+}
+
+/// Whether the line of entry `place` of the text has the tail that applies to it.
+bool SegmentBuilder::hasOwnTail(std::uint32_t place) const {
+  const char* before = place > 0 ? unread_[place - 1].tail : keptTail_.data();
+  return unread_[place].tail != before;
 }
 
 void SegmentBuilder::readAllValues() {

@@ -71,6 +71,7 @@ class SegmentBuilder {
   void beginBlockIfNeeded();
   void noteEntry();
   void readTail(const Unread& unread);
+  bool hasOwnTail(std::uint32_t place) const;
   void keepTail();
   std::optional<DayMonthOrder> findOrder() const;
 

@@ -127,7 +127,9 @@ TEST_F(SegmentBuilderTest, AllValuesAreReadAtOnce) {
   add(test::entryLine("a", "1") + "short\n" + test::entryLine("c", "3"));
   builder_.readAllValues();
   builder_.segment()->publish();
-  for (std::uint32_t entry = 0; entry < 3; ++entry) EXPECT_EQ(segment().valueState(entry), ValueState::Own);
+  EXPECT_EQ(segment().valueState(0), ValueState::Own);
+  EXPECT_EQ(segment().valueState(1), ValueState::Carried);
+  EXPECT_EQ(segment().valueState(2), ValueState::Own);
   EXPECT_EQ(segment().values(1).size, 1);
   EXPECT_EQ(segment().values(2).size, 3);
 }
@@ -138,8 +140,18 @@ TEST_F(SegmentBuilderTest, TailIsCarriedIntoTheNextText) {
   add("short\n");
   builder_.readAllValues();
   builder_.segment()->publish();
-  EXPECT_EQ(segment().valueState(1), ValueState::Own);
+  EXPECT_EQ(segment().valueState(1), ValueState::Carried);
   EXPECT_EQ(segment().values(1).size, 4711);
+}
+
+TEST_F(SegmentBuilderTest, ValuesAreCarriedAlsoWhereThoseOfTheirOwnLineWereNotAskedFor) {
+  add(test::entryLine("a", "4,711") + "short\n" + test::entryLine("b", "3"));
+  builder_.readValues(1);
+  builder_.readValues(2);
+  builder_.segment()->publish();
+  EXPECT_EQ(segment().valueState(1), ValueState::Carried);
+  EXPECT_EQ(segment().values(1).size, 4711);
+  EXPECT_EQ(segment().valueState(2), ValueState::Own);
 }
 
 TEST_F(SegmentBuilderTest, UnreadableTailIsCarriedWithEachLinesOwnNumber) {
