@@ -1,27 +1,45 @@
-// The commands of the console companion: "find", "cache", "index", "refresh" and "history". Each gives the
-// exit status of the program.
+// The commands of the console companion: "find", "cache", "index", "refresh", "sources" and "history". Each
+// gives the exit status of the program.
 #pragma once
 
-#include "console/hit_writer.h"
+#include "console/hit_rows.h"
+#include "search/hit_sort.h"
 
 #include <QString>
+#include <QStringList>
 
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace quorvin {
+
+/// When words that were found are highlighted. Auto: on a terminal, unless the user wants no colours there.
+enum class ColourUse { Auto, Always, Never };
 
 /// What the command line asked of "find".
 struct FindRequest {
   QString searchText;
   /// As typed: a number, which is corrected like that in the window's box.
   QString desiredMatch = QStringLiteral("50");
-  HitFormat format = HitFormat::Tsv;
+  RowFormat format = RowFormat::Tsv;
+  /// Empty for those of the format.
+  std::vector<HitField> fields = {};
+  bool hasHeader = false;
+  bool endsWithNul = false;
+  /// How many rows are written at most; nothing for all.
+  std::optional<std::int64_t> limit = {};
+  /// The order of the rows; without a column that in which they are found.
+  HitOrder order = {};
+  ColourUse colours = ColourUse::Auto;
   /// Only the number of hits is written.
   bool countOnly = false;
+  /// Neither progress nor the last line is written.
+  bool isQuiet = false;
   /// Whether segments of listings are taken from and written to the user's cache folder.
   bool useCache = true;
-  /// The listings to search; empty for the user's own sources.
-  std::vector<QString> listings;
+  /// The listings to search, "-" for standard input; empty for the user's own sources.
+  std::vector<QString> listings = {};
 };
 
 /// Runs the search; hits go to standard output, messages and the last line "F found, S searched" to standard
@@ -29,22 +47,32 @@ struct FindRequest {
 /// search, stopStatus() when a signal ended it; the rows that were complete by then are written.
 int runFind(const FindRequest& request);
 
-/// Writes a line for each file of the user's search cache: its size in bytes, a tab, and the listing it is
-/// for. Files that are of no use to a search, left by a killed program or an earlier version, are marked as
-/// such. The exit status is 2 when not all could be written, else 0.
-int listCache();
+/// What the command line asked of "cache".
+struct CacheRequest {
+  /// Only what is of no use to a search: of listings that are not there any more, damaged, left by a killed
+  /// program or by an earlier version.
+  bool onlyUnused = false;
+  bool isJson = false;
+};
+
+/// Writes a row for each file of the user's search cache: its size in bytes, a tab, and the listing it is
+/// for, behind that "(gone)" where the listing is not there. Files that are of no use to a search are marked
+/// as such. The exit status is 2 when not all could be written, else 0.
+int listCache(const CacheRequest& request);
 
 /// Removes those files. The exit status is 2 when one could not be removed, else 0.
-int clearCache();
+int clearCache(const CacheRequest& request);
 
 /// What the command line asked of "index".
 struct IndexRequest {
   QString folder;
   /// Stands after "Volume:" in every block; empty for the folder's own name.
   QString label;
-  /// Where the listing goes; empty for standard output.
+  /// Where the listing goes; empty or "-" for standard output.
   QString output;
   bool foldersOnly = false;
+  /// No progress is shown.
+  bool isQuiet = false;
 };
 
 /// Writes the listing. A file is written aside and put in place when it is whole; until then, and when
@@ -54,12 +82,40 @@ struct IndexRequest {
 /// many, stopStatus() after a signal.
 int runIndex(const IndexRequest& request);
 
+/// What the command line asked of "refresh".
+struct RefreshRequest {
+  /// The descriptions of the sources to refresh; empty for all.
+  QStringList names;
+  bool isQuiet = false;
+  /// What was done is written to standard output.
+  bool isJson = false;
+};
+
 /// Refreshes the listings of the user's own online sources as the window would. The settings and source lists
 /// are only read. What went wrong with single names, and which listings were kept because their folder was
-/// not there, is reported on standard error and changes nothing in the exit status: 0; 2 when the refresh was
-/// ended by a fault, another one is running, or names were left out since their folder holds too many;
-/// stopStatus() after a signal, which leaves the old listing of the source at work and of those after it.
-int runRefresh();
+/// not there, is reported on standard error and changes nothing in the exit status: 0; 2 when there is no
+/// source of one of the names, and then nothing is done, when the refresh was ended by a fault, another one
+/// is running, or names were left out since their folder holds too many; stopStatus() after a signal, which
+/// leaves the old listing of the source at work and of those after it.
+int runRefresh(const RefreshRequest& request);
+
+/// What the command line asked of "sources".
+struct SourcesRequest {
+  enum class Action { List, Add, Remove, Move };
+  Action action = Action::List;
+  /// Paths to add, or descriptions or paths of sources.
+  QStringList names;
+  /// The description of the one that is added; empty for the usual one.
+  QString description;
+  /// Where the source is moved to in its list, from 1.
+  int place = 0;
+  bool isQuiet = false;
+  bool isJson = false;
+};
+
+/// Shows or changes the lists of sources, by the rules of the window's editors. What cannot be done whole is
+/// not done at all. The exit status: 0, or 2 with a sentence on standard error.
+int runSources(const SourcesRequest& request);
 
 /// What the command line asked of "history".
 struct HistoryRequest {
@@ -68,6 +124,7 @@ struct HistoryRequest {
   /// Whether a version is put in the listing's place, and which; 0 for the newest complete one.
   bool restores = false;
   int number = 0;
+  bool isJson = false;
 };
 
 /// Writes a line for each earlier version: the listing's name, the version's number, when the listing was

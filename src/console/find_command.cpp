@@ -1,22 +1,27 @@
-// "find" and "cache": a search in the terminal, and what searches have kept.
+// "find": a search in the terminal.
 #include "console/commands.h"
 #include "console/error_lines.h"
+#include "console/hit_writer.h"
+#include "console/progress_line.h"
+#include "dates/general_number.h"
 #include "faults/runtime_fault.h"
-#include "files/file_aside.h"
-#include "platform/standard_folders.h"
+#include "files/stream_reader.h"
 #include "platform/stop_signal.h"
+#include "platform/text_encoding.h"
 #include "search/match/search_query.h"
 #include "search/search_run.h"
 #include "search/segment/segment_store.h"
 #include "state/settings.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cstdio>
+#include <memory>
 #include <optional>
+#include <unistd.h>
 
 namespace quorvin {
 
@@ -37,100 +42,231 @@ bool hasTooManyWords(const QString& searchText) {
   return false;
 }
 
+QString complaintAboutMatch(const QString& match) {
+  if (match.endsWith(u'%') && isNumber(match.chopped(1))) {
+    return QStringLiteral(
+        "the value of --match comes without \"%\". Hits must match more than it: --match 99 finds what has "
+        "all the words");
+  }
+  return QStringLiteral("the value of --match is a percentage from 1 to 100, not \"%1\"").arg(match);
+}
+
 /// What is wrong with the request, as a sentence; empty when nothing is.
 QString complaintAbout(const FindRequest& request) {
   if (request.searchText.isEmpty()) return QStringLiteral("the search text is empty");
   if (hasTooManyWords(request.searchText)) {
     return QStringLiteral("the search text has more than %1 words").arg(kMostWords);
   }
-  if (!isNumber(request.desiredMatch)) {
-    return QStringLiteral("the value of --match is a percentage from 1 to 100, not \"%1\"")
-        .arg(request.desiredMatch);
-  }
+  if (!isNumber(request.desiredMatch)) return complaintAboutMatch(request.desiredMatch);
   return {};
 }
 
-void search(const FindRequest& request, SearchRun& run) {
-  if (request.listings.empty()) {
-    run.Find_Click(request.searchText, request.desiredMatch);
-  } else {
-    run.searchListings(request.searchText, request.desiredMatch, request.listings);
-  }
+/// Standard input and pipes among the listings. They are opened when their turn comes.
+ListingReader streamAt(const QString& path) {
+  const bool isInput = path == QStringLiteral("-");
+  if (!isInput && !isStream(path)) return {};
+  // Shared, since functions are copied.
+  auto stream = std::make_shared<std::unique_ptr<StreamReader>>();
+  return [isInput, path, stream](std::span<char> buffer) {
+    if (!*stream) {
+      *stream = std::make_unique<StreamReader>(isInput ? StreamReader::standardInput(stopSignalled)
+                                                       : StreamReader(path, stopSignalled));
+    }
+    return (*stream)->read(buffer);
+  };
 }
 
-void printCacheFile(const QString& path, const char* listing) {
-  std::printf("%lld\t%s\n", static_cast<long long>(QFileInfo(path).size()), listing);
+/// How far a search has come.
+class SearchProgress : public RunDisplay {
+ public:
+  explicit SearchProgress(bool isWanted) : line_(isWanted) {}
+
+  ProgressLine& line() { return line_; }
+
+  void setDesMatch(const QString&) override {}
+  void runStarted(const SearchQuery&) override {}
+  void runEnded() override { line_.clear(); }
+  void showFound(std::int64_t count) override { found_ = count; }
+  void showSearched(std::int64_t count) override { searched_ = count; }
+  void clearHits() override {}
+  void hitsArrived() override {}
+  void processEvents() override {
+    if (!line_.isDue()) return;
+    line_.show(QStringLiteral("%1 found, %2 searched")
+                   .arg(locale_.toString(qlonglong{found_}), locale_.toString(qlonglong{searched_})));
+  }
+
+ private:
+  ProgressLine line_;
+  QLocale locale_;
+  std::int64_t found_ = 0;
+  std::int64_t searched_ = 0;
+};
+
+/// Whether the user wants colours where they can be seen.
+bool isColourWelcome() {
+  return qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
 }
+
+RowOptions rowOptions(const FindRequest& request) {
+  RowOptions options;
+  options.format = request.format;
+  options.fields = request.fields;
+  options.endsWithNul = request.endsWithNul;
+  options.isForTerminal = ::isatty(STDOUT_FILENO) == 1;
+  const bool isColoured = request.colours == ColourUse::Always ||
+                          (request.colours == ColourUse::Auto && options.isForTerminal && isColourWelcome());
+  options.isColoured = isColoured && request.format == RowFormat::Tsv;
+  return options;
+}
+
+/// One search with all that it writes.
+class Finding {
+ public:
+  explicit Finding(const FindRequest& request)
+      : request_(request),
+        progress_(!request.isQuiet),
+        options_(rowOptions(request)),
+        rows_(options_, locale_, WordPlaces(SearchQuery(simpleLowerCase(request.searchText), 1)), state_),
+        writer_(stdout, rows_, writerOptions()) {
+    if (request.useCache) segments_.emplace(SegmentStore::defaultOptions(SegmentUse::Once));
+    run_.emplace(parts());
+  }
+
+  int run() {
+    if (request_.hasHeader && !request_.countOnly) writer_.writeHead();
+    try {
+      if (request_.listings.empty()) {
+        loadUserSources(state_, locale_, messages_);
+        if (!state_.hasSources()) {
+          printError(QStringLiteral(
+              "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
+              "window"));
+          return 2;
+        }
+      }
+      watchStopSignal();
+      search();
+      if (request_.order.column) writeSorted();
+    } catch (const RuntimeFault& fault) {
+      hasFailed_ = true;
+      printError(fault.text());
+    }
+    progress_.line().clear();
+    if (request_.countOnly) std::printf("%lld\n", static_cast<long long>(shownHits()));
+    finishOutput();
+    report();
+    return status();
+  }
+
+ private:
+  WriterOptions writerOptions() {
+    WriterOptions options;
+    if (request_.limit) options.limit = *request_.limit;
+    options.isWatched = options_.isForTerminal;
+    options.beforeOutput = [this] { progress_.line().clear(); };
+    return options;
+  }
+
+  RunParts parts() {
+    RunParts parts{state_, messages_, locale_};
+    if (!request_.countOnly) parts.hits = request_.order.column ? static_cast<HitSink*>(&table_) : &writer_;
+    parts.segments = segments_ ? &*segments_ : nullptr;
+    parts.display = progress_.line().isOnTerminal() ? &progress_ : nullptr;
+    parts.endRequested = stopSignalled;
+    parts.streamAt = streamAt;
+    return parts;
+  }
+
+  void search() {
+    if (request_.limit == 0) return;
+    if (request_.listings.empty()) {
+      run_->Find_Click(request_.searchText, request_.desiredMatch);
+    } else {
+      run_->searchListings(request_.searchText, request_.desiredMatch, request_.listings);
+    }
+  }
+
+  void writeSorted() {
+    HitSort sort(table_, request_.order, locale_);
+    while (!sort.goOn([] { return false; })) {
+    }
+    const std::int64_t damaged = writer_.writeRows(table_, sort.takeRows());
+    if (damaged == 0) return;
+    hasFailed_ = true;
+    printError(
+        QStringLiteral("%1 hits could not be read from the search cache. Please try again").arg(damaged));
+  }
+
+  void finishOutput() {
+    writer_.flush();
+    isWritten_ = writer_.good() && std::fflush(stdout) == 0;
+    if (!isWritten_) printError(QStringLiteral("the hits could not all be written to standard output"));
+  }
+
+  /// The number of hits, or of those that were wanted.
+  std::int64_t shownHits() const {
+    const std::int64_t hits = run_->hitCount();
+    return request_.limit ? std::min(hits, *request_.limit) : hits;
+  }
+
+  void report() {
+    if (writer_.leftOut() > 0) {
+      printError(QStringLiteral("%1 hits were left out, since they are from no folder of your own or their "
+                                "files are not there")
+                     .arg(writer_.leftOut()));
+    }
+    const bool wantsMoreThanAll = leadingNumber(request_.desiredMatch) >= 100;
+    if (wantsMoreThanAll) {
+      printError(QStringLiteral("nothing matches more than 100%; --match 99 finds what has all the words"));
+    }
+    explainMissing();
+    if (request_.isQuiet) return;
+    std::fprintf(stderr, "%lld found, %lld searched\n", static_cast<long long>(shownHits()),
+                 static_cast<long long>(run_->searchedCount()));
+  }
+
+  /// A word that was meant to be found counts as a listing when it comes as an argument of its own.
+  void explainMissing() const {
+    if (run_->report().missing == 0) return;
+    for (const QString& listing : request_.listings) {
+      const bool isWord = !listing.contains(u'/') && !listing.contains(u'.') && !QFileInfo::exists(listing);
+      if (!isWord || listing == QStringLiteral("-")) continue;
+      printError(
+          QStringLiteral("words to find come in one argument: \"%1 %2\"").arg(request_.searchText, listing));
+      return;
+    }
+  }
+
+  int status() const {
+    if (hasFailed_ || !isWritten_) return 2;
+    if (stopSignalled()) return stopStatus();
+    if (run_->failedListings() > 0) return 2;
+    return run_->hitCount() > 0 ? 0 : 1;
+  }
+
+  const FindRequest& request_;
+  QLocale locale_;
+  ProgramState state_;
+  ErrorLines messages_;
+  SearchProgress progress_;
+  RowOptions options_;
+  HitRows rows_;
+  HitWriter writer_;
+  HitTable table_;
+  std::optional<SegmentStore> segments_;
+  std::optional<SearchRun> run_;
+  bool hasFailed_ = false;
+  bool isWritten_ = true;
+};
 
 }  // namespace
 
 int runFind(const FindRequest& request) {
   const QString complaint = complaintAbout(request);
-  if (!complaint.isEmpty()) {
-    printError(complaint);
-    return 2;
-  }
-  const QLocale locale;
-  ProgramState state;
-  ErrorLines messages;
-  HitWriter writer(stdout, request.format, locale);
-  std::optional<SegmentStore> segments;
-  if (request.useCache) segments.emplace(SegmentStore::defaultOptions(SegmentUse::Once));
-  RunParts parts{state, messages, locale};
-  parts.hits = request.countOnly ? nullptr : &writer;
-  parts.segments = segments ? &*segments : nullptr;
-  parts.endRequested = stopSignalled;
-  SearchRun run(std::move(parts));
-  bool failed = false;
-  try {
-    if (request.listings.empty()) {
-      loadUserSources(state, locale, messages);
-      if (!state.hasSources()) {
-        printError(QStringLiteral(
-            "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
-            "window"));
-        return 2;
-      }
-    }
-    watchStopSignal();
-    search(request, run);
-  } catch (const RuntimeFault& fault) {
-    failed = true;
-    printError(fault.text());
-  }
-  if (request.countOnly) std::printf("%lld\n", static_cast<long long>(run.hitCount()));
-  writer.flush();
-  if (!writer.good()) printError(QStringLiteral("the hits could not all be written to standard output"));
-  std::fprintf(stderr, "%lld found, %lld searched\n", static_cast<long long>(run.hitCount()),
-               static_cast<long long>(run.searchedCount()));
-  if (failed || !writer.good()) return 2;
-  if (stopSignalled()) return stopStatus();
-  if (run.failedListings() > 0) return 2;
-  return run.hitCount() > 0 ? 0 : 1;
-}
-
-int listCache() {
-  const QString folder = userCacheFolder();
-  for (const QString& path : segmentFiles(folder)) {
-    const QByteArray listing = listingOfSegmentFile(path).toLocal8Bit();
-    printCacheFile(path, listing.isEmpty() ? "(damaged)" : listing.constData());
-  }
-  for (const QString& path : filesAside(folder)) printCacheFile(path, "(unfinished)");
-  for (const QString& path : earlierSegmentFiles(folder)) printCacheFile(path, "(of an earlier version)");
-  if (std::fflush(stdout) == 0) return 0;
-  printError(QStringLiteral("the list could not be written to standard output"));
+  if (complaint.isEmpty()) return Finding(request).run();
+  printError(complaint);
   return 2;
-}
-
-int clearCache() {
-  int status = 0;
-  const QString folder = userCacheFolder();
-  for (const QString& path : segmentFiles(folder) + earlierSegmentFiles(folder) + filesAside(folder)) {
-    if (QFile::remove(path)) continue;
-    std::fprintf(stderr, "quorvin-cli: %s could not be removed\n", path.toLocal8Bit().constData());
-    status = 2;
-  }
-  return status;
 }
 
 }  // namespace quorvin

@@ -1,6 +1,7 @@
 // "history": the earlier versions of listings.
 #include "console/commands.h"
 #include "console/error_lines.h"
+#include "console/json_text.h"
 #include "faults/runtime_fault.h"
 #include "files/file_writer.h"
 #include "history/listing_history.h"
@@ -25,6 +26,14 @@ const char* completeness(const ListingVersion& version) {
 
 QString dateOf(const ListingVersion& version) {
   return QDateTime::fromMSecsSinceEpoch(version.made).toString(Qt::ISODate);
+}
+
+std::string jsonRowOf(const QString& listing, const ListingVersion& version) {
+  JsonLine line;
+  line.add("listing", listing).add("number", std::int64_t{version.number}).add("made", dateOf(version));
+  line.add("entries", static_cast<std::int64_t>(version.entries))
+      .add("size", static_cast<std::int64_t>(version.size));
+  return line.add("state", QString::fromLatin1(completeness(version))).text();
 }
 
 /// The listing that the user means: its description, its name, or its path. Empty when it has no history.
@@ -67,6 +76,10 @@ class HistoryCommand {
  private:
   void print(FileWriter& output, const QString& listing) {
     for (const ListingVersion& version : history_.versions(listing)) {
+      if (request_.isJson) {
+        output.write(jsonRowOf(listing, version));
+        continue;
+      }
       const QString line = QStringLiteral("%1\t%2\t%3\t%4\t%5\t%6\n")
                                .arg(listing, QString::number(version.number), dateOf(version),
                                     QString::number(version.entries), QString::number(version.size),

@@ -1,25 +1,46 @@
-// Hits as lines on a stream.
+// Hits as rows on a stream.
 #pragma once
 
-#include "hits/hit_lines.h"
+#include "console/hit_rows.h"
 #include "search/hit_sink.h"
-
-#include <QLocale>
+#include "search/hit_table.h"
 
 #include <cstdint>
 #include <cstdio>
+#include <functional>
+#include <limits>
 #include <string>
 
 namespace quorvin {
 
-/// Writes each hit as soon as it comes and keeps none. Wants no more of them once a write has failed.
+/// How a HitWriter writes.
+struct WriterOptions {
+  /// No more rows than these are written.
+  std::int64_t limit = std::numeric_limits<std::int64_t>::max();
+  /// Somebody watches the rows come.
+  bool isWatched = false;
+  /// Called before anything goes to the output; may be empty.
+  std::function<void()> beforeOutput = {};
+};
+
+/// Writes each hit as soon as it comes and keeps none. Wants no more of them once a write has failed or all
+/// the rows that are wanted have been written.
 class HitWriter : public HitSink {
  public:
-  /// `output` must outlive the writer.
-  HitWriter(std::FILE* output, HitFormat format, const QLocale& locale);
+  /// `output` and `rows` must outlive the writer.
+  HitWriter(std::FILE* output, HitRows& rows, WriterOptions options = {});
 
   /// Whether all output so far has been taken; false once a write failed.
   bool good() const { return good_; }
+  /// The rows that have been made, and the hits without a row.
+  std::int64_t written() const { return written_; }
+  std::int64_t leftOut() const { return leftOut_; }
+  bool isLimitReached() const { return written_ >= options_.limit; }
+
+  void writeHead();
+  /// Writes rows of a table, by their numbers. Rows that turn out to be damaged are left out; gives their
+  /// number.
+  std::int64_t writeRows(const HitTable& table, const std::vector<std::uint32_t>& tableRows);
   /// Hands what is still buffered to the output.
   void flush();
 
@@ -29,15 +50,30 @@ class HitWriter : public HitSink {
                   const std::shared_ptr<const Segment>& kept) override;
 
  private:
-  void addLines(const Segment& segment, std::span<const FoundEntry> hits);
+  /// The block of the entry before.
+  struct Block {
+    const Segment* segment = nullptr;
+    std::uint32_t number = 0;
+    std::string_view volume;
+    std::string folder;
+  };
+
+  void addRows(const Segment& segment, std::span<const FoundEntry> hits);
+  void enterBlock(const Segment& segment, std::uint32_t entry);
+  void addTableRow(const HitTable& table, std::int64_t row);
+  void addRow(const FoundHit& hit);
 
   std::FILE* output_;
-  HitFormat format_;
-  QLocale locale_;
+  HitRows& rows_;
+  WriterOptions options_;
   SourceKind kind_ = SourceKind::Online;
+  std::string listing_;
+  Block block_;
   /// Size and date last read in the current listing.
-  EntryValues values_;
+  std::optional<EntryValues> values_;
   std::string buffer_;
+  std::int64_t written_ = 0;
+  std::int64_t leftOut_ = 0;
   bool good_ = true;
 };
 

@@ -1,12 +1,15 @@
 // "index" and "refresh": the commands that write listings.
 #include "console/commands.h"
 #include "console/error_lines.h"
+#include "console/json_text.h"
+#include "console/progress_line.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_lookup.h"
 #include "index/dir_io.h"
 #include "index/local_list_refresh.h"
 #include "platform/stop_signal.h"
+#include "platform/text_encoding.h"
 #include "state/settings.h"
 #include "work/work_display.h"
 
@@ -14,104 +17,56 @@
 #include <QFileInfo>
 #include <QLocale>
 
-#include <chrono>
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace quorvin {
 namespace {
 
-constexpr std::chrono::milliseconds kBetweenLines{100};
-// A line that the terminal breaks at its edge could not be written over.
-constexpr qsizetype kLineWidth = 79;
-
-/// How far an indexing has come: one line on standard error that is written over again and again, if that is
-/// a terminal. A signal that asks the program to end stops the work as closing the window would.
+/// How far an indexing has come. A signal that asks the program to end stops the work as closing the window
+/// would.
 class ConsoleProgress : public WorkDisplay {
  public:
-  ConsoleProgress();
-  /// Clears the line.
-  ~ConsoleProgress() override;
-  ConsoleProgress(const ConsoleProgress&) = delete;
-  ConsoleProgress& operator=(const ConsoleProgress&) = delete;
+  explicit ConsoleProgress(bool isQuiet) : line_(!isQuiet) {}
 
   void begin() override {}
-  void end() override { clearLine(); }
-  void leaveStanding() override { clearLine(); }
+  void end() override { line_.clear(); }
+  void leaveStanding() override { line_.clear(); }
   QString title() const override { return title_; }
   /// The part after the last "... ", which is what changes, leads the line.
-  void setTitle(const QString& title) override;
+  void setTitle(const QString& title) override { title_ = title; }
   void setStatus(const QString& text) override { status_ = text; }
   void setDetail(const QString& text) override { detail_ = text; }
   void setBarMaximum(std::int32_t) override {}
   void setBar(std::int32_t) override {}
   void setBusy() override {}
   void setBusyPointer(bool) override {}
-  bool isDue() override;
+  bool isDue() override {
+    isLineDue_ = line_.isDue();
+    return isLineDue_;
+  }
   void processEvents() override;
   void waitForEvents() override {}
   bool isCancelled() const override { return false; }
-  bool endRequested() const override;
+  bool endRequested() const override { return stopSignalled(); }
 
  private:
-  using Clock = std::chrono::steady_clock;
-
-  void showLine();
-  void clearLine();
-
-  bool onTerminal_;
-  Clock::time_point nextLine_;
-  bool lineShown_ = false;
+  ProgressLine line_;
   bool isLineDue_ = false;
   QString title_;
   QString status_;
   QString detail_;
 };
 
-ConsoleProgress::ConsoleProgress()
-    : onTerminal_(::isatty(STDERR_FILENO) == 1), nextLine_(Clock::now() + kBetweenLines) {}
-
-ConsoleProgress::~ConsoleProgress() {
-  clearLine();
-}
-
-void ConsoleProgress::setTitle(const QString& title) {
-  title_ = title;
-}
-
-bool ConsoleProgress::isDue() {
-  isLineDue_ = onTerminal_ && Clock::now() >= nextLine_;
-  return isLineDue_;
-}
-
 void ConsoleProgress::processEvents() {
-  if (isLineDue_) showLine();
-  isLineDue_ = false;
-}
-
-bool ConsoleProgress::endRequested() const {
-  return stopSignalled();
-}
-
-void ConsoleProgress::showLine() {
+  if (!std::exchange(isLineDue_, false)) return;
   const QString source = title_.section(QStringLiteral("... "), -1);
-  QString line = source.isEmpty() ? QString() : source + QStringLiteral(": ");
-  line += detail_ + QStringLiteral(". ") + status_;
-  for (QChar& sign : line) {
-    if (!sign.isPrint()) sign = u'?';
-  }
-  std::fprintf(stderr, "\r\033[K%s", line.left(kLineWidth).toLocal8Bit().constData());
-  std::fflush(stderr);
-  lineShown_ = true;
-  nextLine_ = Clock::now() + kBetweenLines;
-}
-
-void ConsoleProgress::clearLine() {
-  if (!lineShown_) return;
-  std::fprintf(stderr, "\r\033[K");
-  std::fflush(stderr);
-  lineShown_ = false;
+  const QString front = source.isEmpty() ? QString() : source + QStringLiteral(": ");
+  line_.show(front + detail_ + QStringLiteral(". ") + status_);
 }
 
 QString labelOf(const IndexRequest& request, const QString& folder) {
@@ -132,7 +87,7 @@ class Indexing {
   /// Throws RuntimeFault when the folder cannot be read or the listing cannot be written.
   void run() {
     checkFolder();
-    if (request_.output.isEmpty()) {
+    if (isStandardOutput()) {
       FileWriter writer(STDOUT_FILENO, QStringLiteral("standard output"));
       writeListing(writer);
       writer.flush();
@@ -151,6 +106,10 @@ class Indexing {
   bool isComplete() const { return leftOut_ == 0; }
 
  private:
+  bool isStandardOutput() const {
+    return request_.output.isEmpty() || request_.output == QStringLiteral("-");
+  }
+
   void checkFolder() {
     const int error = folders_->enterTop(folder_);
     if (error != 0) throw faultOfSystemError(error, request_.folder);
@@ -181,7 +140,7 @@ class Indexing {
   ProgramState state_;
   ErrorLines messages_;
   std::unique_ptr<FolderReader> folders_ = makeFolderReader();
-  ConsoleProgress display_;
+  ConsoleProgress display_{request_.isQuiet};
   Work work_{state_, display_};
   std::optional<Job> job_ = work_.start(JobKind::Refresh);
   IndexProgress progress_;
@@ -211,7 +170,58 @@ int runIndex(const IndexRequest& request) {
   return indexing.isComplete() ? 0 : 2;
 }
 
-int runRefresh() {
+namespace {
+
+/// The row of the online source that the user calls `name`; 0 for none.
+int rowNamed(const ProgramState& state, const QString& name) {
+  for (const Qt::CaseSensitivity cases : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+    for (int row = 1; row <= state.OnlineSourceCount; ++row) {
+      const QStringView description = trimBlanks(state.OnlineSources.description(row));
+      if (description.compare(trimBlanks(name), cases) == 0) return row;
+    }
+  }
+  return 0;
+}
+
+/// Leaves only the online sources that are named in the table, in its order; false, with a sentence about the
+/// first of them that is not there, where it stays as it is.
+bool keepNamed(ProgramState& state, const QStringList& names) {
+  std::vector<int> rows;
+  for (const QString& name : names) {
+    rows.push_back(rowNamed(state, name));
+    if (rows.back() != 0) continue;
+    printError(
+        QStringLiteral("there is no folder of your own with the description \"%1\"; quorvin-cli sources "
+                       "shows them")
+            .arg(name));
+    return false;
+  }
+  std::ranges::sort(rows);
+  rows.erase(std::ranges::unique(rows).begin(), rows.end());
+  int count = 0;
+  for (const int row : rows) {
+    const QString description = state.OnlineSources.description(row);
+    state.OnlineSources.set(++count, description, QString(state.OnlineSources.path(row)));
+  }
+  state.OnlineSourceCount = count;
+  return true;
+}
+
+/// False where it could not be written.
+bool printOutcome(const RefreshOutcome& outcome) {
+  JsonLine line;
+  line.add("made", std::int64_t{outcome.made}).add("kept", std::int64_t{outcome.kept});
+  line.add("missing", std::int64_t{outcome.missing}).add("entries", outcome.entries);
+  if (outcome.areChangesKnown) line.add("added", outcome.changes.added).add("gone", outcome.changes.gone);
+  line.add("leftOut", outcome.leftOut).add("stopped", outcome.isStopped);
+  if (std::fputs(line.text().c_str(), stdout) >= 0 && std::fflush(stdout) == 0) return true;
+  printError(QStringLiteral("the outcome could not be written to standard output"));
+  return false;
+}
+
+}  // namespace
+
+int runRefresh(const RefreshRequest& request) {
   const QLocale locale;
   ProgramState state;
   ErrorLines messages;
@@ -222,7 +232,8 @@ int runRefresh() {
     printError(fault.description());
     return 2;
   }
-  ConsoleProgress progress;
+  if (!request.names.isEmpty() && !keepNamed(state, request.names)) return 2;
+  ConsoleProgress progress(request.isQuiet);
   Work work(state, progress);
   RefreshOutcome outcome;
   work.run(JobKind::Refresh,
@@ -232,6 +243,7 @@ int runRefresh() {
     printError(outcome.fault);
     return 2;
   }
+  if (request.isJson && !printOutcome(outcome)) return 2;
   if (outcome.isStopped) return stopStatus();
   return outcome.leftOut == 0 ? 0 : 2;
 }

@@ -1,13 +1,15 @@
+#include "console/command_texts.h"
 #include "console/commands.h"
 #include "console/error_lines.h"
+#include "console/text_pages.h"
 #include "files/file_reader.h"
 
 #include <CLI/CLI.hpp>
 #include <QCalendar>
 #include <QCoreApplication>
-#include <QLocale>
 
 #include <cstdio>
+#include <functional>
 #include <map>
 #include <new>
 #include <optional>
@@ -22,238 +24,335 @@ QString textOf(const std::string& argument) {
   return QString::fromLocal8Bit(argument.c_str());
 }
 
-struct FindOptions {
-  std::string searchText;
-  std::string match = "50";
-  std::string format = "tsv";
-  bool countOnly = false;
-  bool noCache = false;
-  std::vector<std::string> listings;
+QString textOf(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// What was given for the options of a command, by their long names.
+class Given {
+ public:
+  std::string& value(std::string_view name) { return values_[std::string(name)]; }
+  bool& flag(std::string_view name) { return flags_[std::string(name)]; }
+
+  bool has(const std::string& name) const { return flags_.contains(name) && flags_.at(name); }
+  /// Nothing where the option was not given.
+  std::optional<QString> text(const std::string& name) const {
+    return given_(name) ? std::optional(textOf(values_.at(name))) : std::nullopt;
+  }
+  void askParser(std::function<bool(const std::string&)> given) { given_ = std::move(given); }
+
+  /// What follows the options.
+  std::string needed;
+  std::vector<std::string> others;
+
+  QStringList texts() const {
+    QStringList texts;
+    for (const std::string& argument : others) texts += textOf(argument);
+    return texts;
+  }
+
+ private:
+  std::map<std::string, std::string> values_;
+  std::map<std::string, bool> flags_;
+  std::function<bool(const std::string&)> given_;
 };
 
-struct IndexOptions {
-  std::string folder;
-  std::string label;
-  std::string output;
-  bool foldersOnly = false;
+/// A mistake in the command line, as a sentence.
+struct Mistake {
+  QString sentence;
 };
 
-struct HistoryOptions {
-  std::string listing;
-  std::string number;
-  bool restores = false;
-};
+std::string longName(const OptionText& option) {
+  return std::string(option.names.substr(option.names.find("--")));
+}
 
 /// The command line: what can be asked for, and what was.
 class CommandLine {
  public:
-  CommandLine() {
-    app_.set_version_flag("--version", "quorvin-cli " QUORVIN_VERSION);
-    // What is left over is reported in our own words.
-    app_.allow_extras();
-    for (CLI::App* app : {&app_, find_, index_, refresh_, history_, cache_}) nameParts(*app);
-    addFind();
-    addIndex();
-    refresh_->allow_extras();
-    addHistory();
-    addCache();
-  }
+  CommandLine();
 
   /// Does what is asked for; the program's exit status.
   int run(int argc, char** argv);
 
  private:
-  static void nameParts(CLI::App& app);
-  void addFind();
-  void addIndex();
-  void addHistory();
-  void addCache();
-  int runCommand();
-  int runFindCommand();
-  int runIndexCommand();
-  int runHistoryCommand();
-  int refuse(const QString& sentence) const;
+  CLI::App& parserOf(std::string_view command);
+  void addCommand(const CommandText& command);
+  void addOptions(CLI::App& parser, const std::vector<OptionText>& options, Given& given);
+  const CommandText* named() const;
+  int runNamed(const CommandText& command);
+  int runFindCommand(const Given& given);
+  int runIndexCommand(const Given& given);
+  int runHistoryCommand(const Given& given);
+  int runSourcesCommand(SourcesRequest::Action action, const Given& given);
+  QString whatIsMissing() const;
   QString leftOver() const;
 
-  CLI::App app_{"Quorvin Utility in the terminal: search and make catalogues of disks and folders.",
-                "quorvin-cli"};
-  CLI::App* find_ = app_.add_subcommand("find", "Find files in listings by words and a match percentage");
-  CLI::App* index_ = app_.add_subcommand("index", "Write the listing of a folder");
-  CLI::App* refresh_ = app_.add_subcommand("refresh", "Renew the listings of the user's own online sources");
-  CLI::App* history_ =
-      app_.add_subcommand("history", "Show the earlier versions of listings, or restore one");
-  CLI::App* cache_ =
-      app_.add_subcommand("cache", "List the files of the search cache with the listings they are for");
-  FindOptions findOptions_;
-  IndexOptions indexOptions_;
-  HistoryOptions historyOptions_;
-  bool clearCache_ = false;
+  CLI::App app_{"", "quorvin-cli"};
+  std::map<std::string_view, CLI::App*> parsers_;
+  std::map<std::string_view, Given> given_;
 };
 
-/// An argument that has to be there; its help comes without the parser's remarks.
-void addNeeded(CLI::App& command, const std::string& name, std::string& value, const std::string& help) {
-  command.add_option(name, value, help)->required()->option_text(" ");
+CommandLine::CommandLine() {
+  // What is left over is reported in our own words.
+  app_.allow_extras();
+  app_.set_help_flag();
+  addOptions(app_, programOptions(), given_[""]);
+  for (const CommandText& command : commandTexts()) addCommand(command);
 }
 
-/// The headings and marks of the help.
-void CommandLine::nameParts(CLI::App& app) {
-  CLI::FormatterBase& help = *app.get_formatter();
-  help.label("OPTIONS", "options");
-  help.label("Positionals", "Arguments");
-  help.label("SUBCOMMAND", "command");
+/// The parser that the command is added to.
+CLI::App& CommandLine::parserOf(std::string_view command) {
+  const std::size_t blank = command.find(' ');
+  return blank == std::string_view::npos ? app_ : *parsers_.at(command.substr(0, blank));
 }
 
-void CommandLine::addFind() {
-  find_->allow_extras();
-  find_->add_option("--match", findOptions_.match, "Hits must match more than this percentage (1 to 100); 50")
-      ->option_text("N");
-  find_->add_option("--format", findOptions_.format, "How hits are written: tsv (default), csv or json")
-      ->option_text("FORMAT");
-  find_->add_flag("--count", findOptions_.countOnly, "Write only the number of hits");
-  find_->add_flag("--no-cache", findOptions_.noCache, "Neither read nor write the search cache");
-  addNeeded(*find_, "TEXT", findOptions_.searchText, "The words to find, in one argument");
-  find_
-      ->add_option("LISTING", findOptions_.listings,
-                   "Listing files to search instead of the user's own sources")
-      ->option_text(" ");
+void CommandLine::addCommand(const CommandText& command) {
+  const std::string_view word = command.name.substr(command.name.rfind(' ') + 1);
+  CLI::App& parser = *parserOf(command.name).add_subcommand(std::string(word));
+  parsers_[command.name] = &parser;
+  Given& given = given_[command.name];
+  parser.allow_extras();
+  parser.set_help_flag("-h,--help");
+  addOptions(parser, command.options, given);
+  // "TEXT [LISTING...]": what has to be there comes first, and alone.
+  const std::string_view arguments = command.arguments;
+  if (arguments.empty()) return;
+  const bool isFirstNeeded = !arguments.starts_with('[');
+  if (isFirstNeeded) parser.add_option("needed", given.needed)->required();
+  const bool mayHaveMore = !isFirstNeeded || arguments.find_first_of(" .") != std::string_view::npos;
+  if (mayHaveMore) parser.add_option("others", given.others);
 }
 
-void CommandLine::addIndex() {
-  index_->allow_extras();
-  index_
-      ->add_option("--label", indexOptions_.label,
-                   "The volume's name in the listing; default: the folder's name")
-      ->option_text("TEXT");
-  index_->add_flag("--folders-only", indexOptions_.foldersOnly, "List folders only");
-  index_->add_option("--output", indexOptions_.output, "The listing's file; default: standard output")
-      ->option_text("FILE");
-  addNeeded(*index_, "FOLDER", indexOptions_.folder, "The folder to list, with everything below it");
-}
-
-void CommandLine::addHistory() {
-  history_->allow_extras();
-  history_->add_flag("--restore", historyOptions_.restores,
-                     "Put the newest complete version in the listing's place");
-  history_->add_option("--number", historyOptions_.number, "Restore this version instead")->option_text("N");
-  history_
-      ->add_option("LISTING", historyOptions_.listing,
-                   "The description of a folder, or the name of a listing")
-      ->option_text(" ");
-}
-
-void CommandLine::addCache() {
-  cache_->allow_extras();
-  cache_->add_flag("--clear", clearCache_, "Remove them all; they are made again when they are needed");
+void CommandLine::addOptions(CLI::App& parser, const std::vector<OptionText>& options, Given& given) {
+  for (const OptionText& option : options) {
+    const std::string names(option.names);
+    if (option.value.empty()) {
+      parser.add_flag(names, given.flag(longName(option)));
+    } else {
+      parser.add_option(names, given.value(longName(option)));
+    }
+  }
+  given.askParser([&parser](const std::string& name) { return parser.count(name) > 0; });
 }
 
 /// The exit status: 2 when the text could not be written.
-int print(std::string text) {
-  if (text.empty() || text.back() != '\n') text += '\n';
-  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-  if (written && std::fflush(stdout) == 0) return 0;
+int print(std::string_view text) {
+  const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+  if (isWritten && std::fflush(stdout) == 0) return 0;
   printError(QStringLiteral("the text could not be written to standard output"));
+  return 2;
+}
+
+int refuse(const QString& sentence) {
+  printError(sentence);
+  std::fprintf(stderr, "Try: quorvin-cli --help\n");
   return 2;
 }
 
 int CommandLine::run(int argc, char** argv) {
   try {
     app_.parse(argc, argv);
+    const Given& own = given_.at("");
+    if (own.has("--help")) return print(helpOfProgram());
+    if (own.has("--version")) return print("quorvin-cli " QUORVIN_VERSION "\n");
+    if (own.has("--man")) return print(manualPage(QUORVIN_VERSION));
+    if (const auto shell = own.text("--completion")) {
+      const std::string completion = completionFor(shell->toStdString());
+      if (!completion.empty()) return print(completion);
+      throw Mistake{
+          QStringLiteral("there is no completion for \"%1\"; the shells are bash, zsh and fish").arg(*shell)};
+    }
+    const QString extra = leftOver();
+    if (!extra.isEmpty()) throw Mistake{extra};
+    return runNamed(*named());
   } catch (const CLI::CallForHelp&) {
-    return print(app_.help());
-  } catch (const CLI::CallForVersion&) {
-    return print(app_.version());
+    return print(named() ? helpOf(*named()) : helpOfProgram());
   } catch (const CLI::ArgumentMismatch& error) {
     // The parser's words start with the option's name.
-    return refuse(textOf(error.what()).section(u':', 0, 0) + QStringLiteral(" needs a value"));
+    return refuse(textOf(std::string(error.what())).section(u':', 0, 0) + QStringLiteral(" needs a value"));
   } catch (const CLI::RequiredError&) {
-    return refuse(index_->parsed() ? QStringLiteral("index needs the folder to list")
-                                   : QStringLiteral("find needs the words to find, in one argument"));
+    return refuse(whatIsMissing());
   } catch (const CLI::ParseError&) {
     return refuse(QStringLiteral("the options could not be understood"));
+  } catch (const Mistake& mistake) {
+    return refuse(mistake.sentence);
   }
-  const QString leftOverSentence = leftOver();
-  return leftOverSentence.isEmpty() ? runCommand() : refuse(leftOverSentence);
 }
 
-int CommandLine::refuse(const QString& sentence) const {
-  printError(sentence);
-  std::fprintf(stderr, "Try: quorvin-cli --help\n");
-  return 2;
+/// The command that was asked for, the inner one of two; null for none.
+const CommandText* CommandLine::named() const {
+  const CommandText* found = nullptr;
+  for (const CommandText& command : commandTexts()) {
+    if (parsers_.at(command.name)->parsed()) found = &command;
+  }
+  return found;
+}
+
+QString CommandLine::whatIsMissing() const {
+  const std::string_view name = named()->name;
+  if (name == "find") return QStringLiteral("find needs the words to find, in one argument");
+  if (name == "index") return QStringLiteral("index needs the folder to list");
+  if (name == "sources add") return QStringLiteral("sources add needs a folder or a listing");
+  return textOf(name) + QStringLiteral(" needs the description or the path of a source");
 }
 
 /// A sentence about the first argument that has no meaning; empty when all have one.
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = app_.remaining();
-  const QString commands = QStringLiteral("the commands are find, index, refresh, history and cache");
+  const QString commands =
+      QStringLiteral("the commands are find, index, refresh, sources, history and cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
     if (first.startsWith(u'-')) return QStringLiteral("there is no option \"%1\"").arg(first);
     return QStringLiteral("there is no command \"%1\"; ").arg(first) + commands;
   }
-  const std::vector<CLI::App*> named = app_.get_subcommands();
-  if (named.empty()) return QStringLiteral("there is no command; ") + commands;
-  const CLI::App& command = *named.front();
-  const std::vector<std::string> ofCommand = command.remaining();
-  if (ofCommand.empty()) return {};
-  const QString name = textOf(command.get_name());
-  const QString first = textOf(ofCommand.front());
-  if (!first.startsWith(u'-')) {
-    return QStringLiteral("%1 does not know what to do with \"%2\"").arg(name, first);
+  if (!named()) return QStringLiteral("there is no command; ") + commands;
+  for (const CommandText& command : commandTexts()) {
+    const std::vector<std::string> ofCommand = parsers_.at(command.name)->remaining();
+    if (ofCommand.empty()) continue;
+    const QString name = textOf(command.name);
+    const QString first = textOf(ofCommand.front());
+    if (!first.startsWith(u'-')) {
+      return QStringLiteral("%1 does not know what to do with \"%2\"").arg(name, first);
+    }
+    const QString hint =
+        command.name == "find" ? QStringLiteral("; words that start with a dash go behind --") : QString();
+    return QStringLiteral("%1 has no option \"%2\"").arg(name, first) + hint;
   }
-  const QString hint =
-      &command == find_ ? QStringLiteral("; words that start with a dash go behind --") : QString();
-  return QStringLiteral("%1 has no option \"%2\"").arg(name, first) + hint;
+  return {};
 }
 
-int CommandLine::runCommand() {
-  if (find_->parsed()) return runFindCommand();
-  if (index_->parsed()) return runIndexCommand();
-  if (refresh_->parsed()) return runRefresh();
-  if (history_->parsed()) return runHistoryCommand();
-  return clearCache_ ? clearCache() : listCache();
+int CommandLine::runNamed(const CommandText& command) {
+  using Action = SourcesRequest::Action;
+  const Given& given = given_.at(command.name);
+  const std::string_view name = command.name;
+  if (name == "find") return runFindCommand(given);
+  if (name == "index") return runIndexCommand(given);
+  if (name == "refresh") return runRefresh({given.texts(), given.has("--quiet"), given.has("--json")});
+  if (name == "sources") return runSourcesCommand(Action::List, given);
+  if (name == "sources add") return runSourcesCommand(Action::Add, given);
+  if (name == "sources remove") return runSourcesCommand(Action::Remove, given);
+  if (name == "sources move") return runSourcesCommand(Action::Move, given);
+  if (name == "history") return runHistoryCommand(given);
+  const CacheRequest request{given.has("--unused"), given.has("--json")};
+  return given.has("--clear") ? clearCache(request) : listCache(request);
 }
 
-std::optional<HitFormat> formatOf(const QString& name) {
-  static const std::map<QString, HitFormat> formats = {{QStringLiteral("tsv"), HitFormat::Tsv},
-                                                       {QStringLiteral("csv"), HitFormat::Csv},
-                                                       {QStringLiteral("json"), HitFormat::Json}};
-  const auto found = formats.find(name.toLower());
-  return found == formats.end() ? std::nullopt : std::optional(found->second);
+RowFormat formatNamed(const QString& name) {
+  const QString lower = name.toLower();
+  if (lower == QStringLiteral("tsv")) return RowFormat::Tsv;
+  if (lower == QStringLiteral("csv")) return RowFormat::Csv;
+  if (lower == QStringLiteral("json")) return RowFormat::Json;
+  throw Mistake{QStringLiteral("there is no format \"%1\"; the formats are tsv, csv and json").arg(name)};
 }
 
-int CommandLine::runFindCommand() {
-  const std::optional<HitFormat> format = formatOf(textOf(findOptions_.format));
-  if (!format) {
-    return refuse(QStringLiteral("there is no format \"%1\"; the formats are tsv, csv and json")
-                      .arg(textOf(findOptions_.format)));
+std::vector<HitField> fieldsNamed(const QString& names) {
+  std::vector<HitField> fields;
+  for (const QString& name : names.split(u',')) {
+    const std::optional<HitField> field = hitFieldNamed(name);
+    if (field) {
+      fields.push_back(*field);
+      continue;
+    }
+    throw Mistake{QStringLiteral("there is no field \"%1\"; the fields are %2")
+                      .arg(name, hitFieldNames().join(QStringLiteral(", ")))};
   }
+  return fields;
+}
+
+std::int64_t limitOf(const QString& text) {
+  bool isNumber = false;
+  const qlonglong limit = text.toLongLong(&isNumber);
+  if (isNumber && limit >= 0) return limit;
+  throw Mistake{QStringLiteral("the value of --limit is a number of hits, not \"%1\"").arg(text)};
+}
+
+HitColumn columnNamed(const QString& name) {
+  static const std::map<QString, HitColumn> columns = {
+      {QStringLiteral("match"), HitColumn::Match},   {QStringLiteral("volume"), HitColumn::Volume},
+      {QStringLiteral("folder"), HitColumn::Folder}, {QStringLiteral("name"), HitColumn::Name},
+      {QStringLiteral("size"), HitColumn::Size},     {QStringLiteral("modified"), HitColumn::Date}};
+  const auto found = columns.find(name.toLower());
+  if (found != columns.end()) return found->second;
+  throw Mistake{
+      QStringLiteral("hits cannot be sorted by \"%1\", only by match, volume, folder, name, size or modified")
+          .arg(name)};
+}
+
+ColourUse colourUseNamed(const QString& name) {
+  const QString lower = name.toLower();
+  if (lower == QStringLiteral("auto")) return ColourUse::Auto;
+  if (lower == QStringLiteral("always")) return ColourUse::Always;
+  if (lower == QStringLiteral("never")) return ColourUse::Never;
+  throw Mistake{QStringLiteral("the value of --color is auto, always or never, not \"%1\"").arg(name)};
+}
+
+int CommandLine::runFindCommand(const Given& given) {
   FindRequest request;
-  request.searchText = textOf(findOptions_.searchText);
-  request.desiredMatch = textOf(findOptions_.match);
-  request.format = *format;
-  request.countOnly = findOptions_.countOnly;
-  request.useCache = !findOptions_.noCache;
-  for (const std::string& listing : findOptions_.listings) request.listings.push_back(textOf(listing));
+  request.searchText = textOf(given.needed);
+  request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
+  request.format = formatNamed(given.text("--format").value_or(QStringLiteral("tsv")));
+  if (const auto fields = given.text("--fields")) request.fields = fieldsNamed(*fields);
+  const bool isHeaderUsual = request.format == RowFormat::Csv && !request.fields.empty();
+  request.hasHeader = !given.has("--no-header") && (isHeaderUsual || given.has("--header"));
+  request.endsWithNul = given.has("--null");
+  if (const auto limit = given.text("--limit")) request.limit = limitOf(*limit);
+  if (const auto sort = given.text("--sort")) request.order.column = columnNamed(*sort);
+  request.order.isDescending = given.has("--reverse");
+  if (request.order.isDescending && !request.order.column) {
+    throw Mistake{QStringLiteral("--reverse goes with --sort")};
+  }
+  request.colours = colourUseNamed(given.text("--color").value_or(QStringLiteral("auto")));
+  request.countOnly = given.has("--count");
+  request.isQuiet = given.has("--quiet");
+  request.useCache = !given.has("--no-cache");
+  for (const QString& listing : given.texts()) request.listings.push_back(listing);
   return runFind(request);
 }
 
-int CommandLine::runIndexCommand() {
+int CommandLine::runIndexCommand(const Given& given) {
   IndexRequest request;
-  request.folder = textOf(indexOptions_.folder);
-  request.label = textOf(indexOptions_.label);
-  request.output = textOf(indexOptions_.output);
-  request.foldersOnly = indexOptions_.foldersOnly;
+  request.folder = textOf(given.needed);
+  request.label = given.text("--label").value_or(QString());
+  request.output = given.text("--output").value_or(QString());
+  request.foldersOnly = given.has("--folders-only");
+  request.isQuiet = given.has("--quiet");
   return runIndex(request);
 }
 
-int CommandLine::runHistoryCommand() {
-  HistoryRequest request{textOf(historyOptions_.listing), historyOptions_.restores, 0};
-  if (historyOptions_.number.empty()) return runHistory(request);
-  if (!request.restores) return refuse(QStringLiteral("--number goes with --restore"));
+int CommandLine::runHistoryCommand(const Given& given) {
+  HistoryRequest request{given.texts().value(0), given.has("--restore"), 0, given.has("--json")};
+  if (given.texts().size() > 1) {
+    throw Mistake{QStringLiteral("history does not know what to do with \"%1\"").arg(given.texts()[1])};
+  }
+  const std::optional<QString> number = given.text("--number");
+  if (!number) return runHistory(request);
+  if (!request.restores) throw Mistake{QStringLiteral("--number goes with --restore")};
   bool isNumber = false;
-  request.number = textOf(historyOptions_.number).toInt(&isNumber);
+  request.number = number->toInt(&isNumber);
   if (isNumber && request.number >= 1) return runHistory(request);
-  return refuse(QStringLiteral("\"%1\" is no number of a version").arg(textOf(historyOptions_.number)));
+  throw Mistake{QStringLiteral("\"%1\" is no number of a version").arg(*number)};
+}
+
+int CommandLine::runSourcesCommand(SourcesRequest::Action action, const Given& given) {
+  SourcesRequest request;
+  request.action = action;
+  if (!given.needed.empty()) request.names += textOf(given.needed);
+  request.names += given.texts();
+  request.isQuiet = given.has("--quiet");
+  request.isJson = given.has("--json");
+  if (action == SourcesRequest::Action::Add) {
+    request.description = given.text("--name").value_or(QString());
+    const bool isForMany = !request.description.isEmpty() && request.names.size() > 1;
+    if (isForMany) throw Mistake{QStringLiteral("--name is for one source at a time")};
+  }
+  if (action == SourcesRequest::Action::Move) {
+    if (request.names.size() != 2) throw Mistake{QStringLiteral("sources move needs a source and its place")};
+    bool isNumber = false;
+    request.place = request.names.takeLast().toInt(&isNumber);
+    if (!isNumber) throw Mistake{QStringLiteral("the place of sources move is a number from 1")};
+  }
+  return runSources(request);
 }
 
 }  // namespace

@@ -18,10 +18,8 @@ class ExportedTable : public ExportText {
  public:
   explicit ExportedTable(const QLocale& locale) : locale_(locale) {}
 
-  void start(std::string& text) override { addLine(text, hitHeadLine(HitFormat::Csv)); }
-  void add(std::string& text, const HitRow& row) override {
-    addLine(text, hitLine(row, HitFormat::Csv, locale_));
-  }
+  void start(std::string& text) override { addLine(text, csvHeadLine()); }
+  void add(std::string& text, const HitRow& row) override { addLine(text, csvLine(row, locale_)); }
   void end(std::string&) override {}
 
  private:

@@ -1,4 +1,4 @@
-// Hits as lines of text.
+// Hits as lines of a CSV table (RFC 4180), with the texts of the hit list.
 #pragma once
 
 #include "search/hit_table.h"
@@ -6,18 +6,12 @@
 #include <QLocale>
 #include <QString>
 
-#include <cstdint>
-
 namespace quorvin {
 
-enum class HitFormat : std::uint8_t { Tsv, Csv, Json };
+/// The six columns of a hit, quoted where needed, without the line end.
+QString csvLine(const HitRow& row, const QLocale& locale);
 
-/// One line for one hit, without the line end. Tsv: the six columns with tabs between, control characters in
-/// them turned into blanks. Csv: RFC 4180, fields quoted where needed. Json: one object with the keys match,
-/// volume, folder, name, size and date.
-QString hitLine(const HitRow& row, HitFormat format, const QLocale& locale);
-
-/// The titles of the six columns, in order, as a line of the same format; nothing for Json.
-QString hitHeadLine(HitFormat format);
+/// Their titles, in order.
+QString csvHeadLine();
 
 }  // namespace quorvin

@@ -104,9 +104,9 @@ TEST_F(FindProgram, CsvAndJsonAreWritten) {
   EXPECT_EQ(run({u"find"_qs, u"--format"_qs, u"csv"_qs, u"live"_qs, sample()}).output,
             u"100%,CD 7,\\Music\\Rock\\,Live at Wembley.mp3,0.13mb,\"Jan, 15 04\"\n"_qs);
   EXPECT_EQ(run({u"find"_qs, u"--format"_qs, u"json"_qs, u"cover"_qs, sample()}).output,
-            u"{\"date\":\"Jan, 15 "
-            u"04\",\"folder\":\"\\\\Music\\\\Rock\\\\\",\"match\":\"100%\",\"name\":\"Cover.jpg\","
-            "\"size\":\"2.00mb\",\"volume\":\"CD 7\"}\n"_qs);
+            u"{\"match\":100,\"volume\":\"CD 7\",\"folder\":\"\\\\Music\\\\Rock\\\\\",\"name\":\"Cover.jpg\","
+            "\"size\":2097152,\"modified\":\"2004-01-15T10:20:30\",\"listing\":\""_qs +
+                sample() + u"\",\"words\":[\"cover\"]}\n"_qs);
 }
 
 TEST_F(FindProgram, MissingListingIsToldAndTheOthersAreSearched) {
@@ -190,9 +190,9 @@ TEST_F(FindProgram, ClearRemovesTheCacheFiles) {
 TEST_F(FindProgram, WrongUseIsToldInASentenceAndEndsWith2) {
   const QString manyWords = u"w"_qs + u" w"_qs.repeated(101);
   const std::vector<std::pair<QStringList, QString>> cases = {
-      {{}, u"there is no command; the commands are find, index, refresh, history and cache"_qs},
+      {{}, u"there is no command; the commands are find, index, refresh, sources, history and cache"_qs},
       {{u"seek"_qs, u"a"_qs},
-       u"there is no command \"seek\"; the commands are find, index, refresh, history and cache"_qs},
+       u"there is no command \"seek\"; the commands are find, index, refresh, sources, history and cache"_qs},
       {{u"--quick"_qs, u"find"_qs, u"a"_qs}, u"there is no option \"--quick\""_qs},
       {{u"find"_qs}, u"find needs the words to find, in one argument"_qs},
       {{u"find"_qs, u"--quick"_qs, u"a"_qs},
@@ -206,8 +206,25 @@ TEST_F(FindProgram, WrongUseIsToldInASentenceAndEndsWith2) {
        u"the value of --match is a percentage from 1 to 100, not \"\""_qs},
       {{u"find"_qs, u""_qs}, u"the search text is empty"_qs},
       {{u"find"_qs, manyWords}, u"the search text has more than 101 words"_qs},
+      {{u"find"_qs, u"--match"_qs, u"100%"_qs, u"a"_qs},
+       u"the value of --match comes without \"%\". Hits must match more than it: --match 99 finds what has "
+       u"all "
+       "the words"_qs},
+      {{u"find"_qs, u"--fields"_qs, u"name,colour"_qs, u"a"_qs},
+       u"there is no field \"colour\"; the fields are match, volume, folder, name, path, size, modified, "
+       "listing, words"_qs},
+      {{u"find"_qs, u"--limit"_qs, u"few"_qs, u"a"_qs},
+       u"the value of --limit is a number of hits, not \"few\""_qs},
+      {{u"find"_qs, u"--sort"_qs, u"path"_qs, u"a"_qs},
+       u"hits cannot be sorted by \"path\", only by match, volume, folder, name, size or modified"_qs},
+      {{u"find"_qs, u"--reverse"_qs, u"a"_qs}, u"--reverse goes with --sort"_qs},
+      {{u"find"_qs, u"--color"_qs, u"red"_qs, u"a"_qs},
+       u"the value of --color is auto, always or never, not \"red\""_qs},
+      {{u"--completion"_qs, u"tcsh"_qs},
+       u"there is no completion for \"tcsh\"; the shells are bash, zsh and fish"_qs},
+      {{u"history"_qs, u"a"_qs, u"b"_qs}, u"history does not know what to do with \"b\""_qs},
       {{u"index"_qs}, u"index needs the folder to list"_qs},
-      {{u"refresh"_qs, u"all"_qs}, u"refresh does not know what to do with \"all\""_qs},
+      {{u"cache"_qs, u"all"_qs}, u"cache does not know what to do with \"all\""_qs},
   };
   for (const auto& [arguments, sentence] : cases) {
     const Ended ended = run(arguments);

@@ -1,0 +1,222 @@
+#include "console/command_texts.h"
+
+#include <algorithm>
+
+namespace quorvin {
+
+namespace {
+
+constexpr OptionText kQuiet{"-q,--quiet", "", "Write neither counts nor progress to standard error"};
+constexpr OptionText kJson{"--json", "", "Write JSON, an object a line"};
+
+CommandText findText() {
+  return {
+      "find",
+      "TEXT [LISTING...]",
+      ArgumentKind::Files,
+      "Find files in listings by words and a match percentage",
+      {{"--match", "N", "Hits must match more than this percentage; 50"},
+       {"--format", "FORMAT", "tsv (default), csv or json", "tsv csv json"},
+       {"--fields", "LIST", "Of match,volume,folder,name,path,size,modified,listing,words",
+        "match volume folder name path size modified listing words"},
+       {"--header", "", "Start with the titles of the columns"},
+       {"--no-header", "", "Leave them out of csv with --fields, which starts with them"},
+       {"-0,--null", "", "End rows with NUL instead of a line feed"},
+       {"--limit", "N", "Write no more than N hits"},
+       {"--sort", "FIELD", "match, volume, folder, name, size or modified",
+        "match volume folder name size modified"},
+       {"--reverse", "", "The other way round, with --sort"},
+       {"--color", "WHEN", "Highlight the words: auto (default), always or never", "auto always never"},
+       {"--count", "", "Write only the number of hits"},
+       kQuiet,
+       {"--no-cache", "", "Neither read nor write the search cache"}},
+      {{"quorvin-cli find \"northern harbour live\"", "Search your own sources"},
+       {"quorvin-cli find -0 --fields path harbour | xargs -0 ls -l", "Hand the files on"},
+       {"quorvin-cli index . | quorvin-cli find --match 99 \"harbour live\" -", "A listing from a pipe"}},
+      {"Writes one row for each entry of the listings that matches TEXT by more than the wanted percentage, "
+       "in "
+       "the order in which they are found. TEXT is one argument: words with blanks between, in any order, of "
+       "which each is looked for anywhere in folder or name, whatever its case. The match is the share of "
+       "the "
+       "words that were found. Without a LISTING, the user's own sources are searched, as the window does. A "
+       "LISTING may be a pipe; - is standard input.",
+       "In tsv and csv, the columns are those of the window unless --fields chooses others: the match as "
+       "\"100%\", volume, folder, name, the size in megabytes and the date, as the locale writes them. Json "
+       "has all fields. Tsv has blanks in place of control characters, but where -0 is given and there is "
+       "one column, texts are left as they are. On a terminal, no control character of a name gets through.",
+       "The last line on standard error says how many entries were found and searched. With --sort nothing "
+       "is "
+       "written before all is searched."}};
+}
+
+CommandText indexText() {
+  return {"index",
+          "FOLDER",
+          ArgumentKind::Folders,
+          "Write the listing of a folder",
+          {{"--label", "TEXT", "The volume's name in the listing; default: the folder's name"},
+           {"--folders-only", "", "List folders only"},
+           {"--output", "FILE", "The listing's file; default, and -: standard output"},
+           kQuiet},
+          {{"quorvin-cli index --output music.txt ~/Music", "Catalogue a folder"},
+           {"quorvin-cli index --label \"CD 7\" /media/cdrom | gzip > cd7.gz", "Name it, and pack it"}},
+          {"Catalogues a folder with everything below it. A file is put in place when it is whole; until "
+           "then, and when anything goes wrong, the one that was there before stays. Names that could not be "
+           "read are reported on standard error."}};
+}
+
+CommandText refreshText() {
+  return {"refresh",
+          "[NAME...]",
+          ArgumentKind::OwnFolders,
+          "Renew the listings of your own folders, or of those named",
+          {kQuiet, {"--json", "", "Write what was done to standard output, as JSON"}},
+          {{"quorvin-cli refresh", "Renew all of them"}, {"quorvin-cli refresh Music Films", "Only these"}},
+          {"A NAME is the description of a folder. A folder that is not there, such as an unplugged drive, "
+           "keeps its listing. What a listing held before is kept too; see history."}};
+}
+
+CommandText sourcesText() {
+  return {"sources",
+          "",
+          ArgumentKind::None,
+          "Show what is searched, or change it",
+          {kQuiet, kJson},
+          {{"quorvin-cli sources", "Show folders and offline lists"},
+           {"quorvin-cli sources add ~/Music cd7.txt", "Add a folder and an offline list"},
+           {"quorvin-cli sources remove Music", "Take one out of its list"},
+           {"quorvin-cli sources move Films 1", "Have one searched first"}},
+          {"Shows a row for each source, in the order in which they are searched: \"folder\", \"main\" or "
+           "\"offline\", its description, its path, the path of its listing, and whether the source is "
+           "\"there\" or \"gone\", parted by tabs. The last line, on standard error, names the folder in "
+           "which listings and lists are kept.",
+           "A window that is open shows changes when it is next started. Where it has changed the same list "
+           "meanwhile, neither is lost: one of them is kept beside the other, and a message says so."}};
+}
+
+CommandText sourcesAddText() {
+  return {"sources add",
+          "PATH...",
+          ArgumentKind::Files,
+          "Add folders of your own, or listings as offline lists",
+          {{"--name", "TEXT", "The description of one source; default: the folder's name"}, kQuiet},
+          {{"quorvin-cli sources add --name Songs ~/Music", "A folder"},
+           {"quorvin-cli sources add cd7.txt", "An offline list"}},
+          {"All of the paths are added, or none. A folder is listed by the next refresh."}};
+}
+
+CommandText sourcesRemoveText() {
+  return {"sources remove",
+          "NAME...",
+          ArgumentKind::OwnFolders,
+          "Take sources out of their lists",
+          {kQuiet},
+          {{"quorvin-cli sources remove Music", "By its description"},
+           {"quorvin-cli sources remove /media/cd7.txt", "By its path"}},
+          {"A NAME is a description or a path. Neither folder nor listing is touched."}};
+}
+
+CommandText sourcesMoveText() {
+  return {"sources move",
+          "NAME PLACE",
+          ArgumentKind::OwnFolders,
+          "Give a source another place in its list",
+          {kQuiet},
+          {{"quorvin-cli sources move Films 1", "Search it before the others"}},
+          {"A NAME is a description or a path, PLACE a number from 1. Sources are searched in this order."}};
+}
+
+CommandText historyText() {
+  return {
+      "history",
+      "[LISTING]",
+      ArgumentKind::OwnFolders,
+      "Show the earlier versions of listings, or restore one",
+      {{"--restore", "", "Put the newest complete version in the listing's place"},
+       {"--number", "N", "Restore this version instead"},
+       kJson},
+      {{"quorvin-cli history Music", "Show what there is"},
+       {"quorvin-cli history --restore --number 12 Music", "Bring that version back"}},
+      {"Each row holds the listing, the number of the version, when the listing was made, its entries, its "
+       "bytes, and \"complete\", \"incomplete\" or \"damaged\", parted by tabs, newest first. LISTING is "
+       "the description of a folder, or the name or path of a listing."}};
+}
+
+CommandText cacheText() {
+  return {"cache",
+          "",
+          ArgumentKind::None,
+          "Show what is kept for later searches, or remove it",
+          {{"--clear", "", "Remove it; it is made again when it is needed"},
+           {"--unused", "", "Only what belongs to no listing any more"},
+           kJson},
+          {{"quorvin-cli cache", "Show it"}, {"quorvin-cli cache --clear --unused", "Tidy up"}},
+          {"Each row holds a size in bytes and the listing it is for, parted by a tab, and a third column "
+           "\"(gone)\" where that listing is not there any more. What no search can use is marked as "
+           "\"(damaged)\", \"(unfinished)\" or \"(of an earlier version)\"."}};
+}
+
+}  // namespace
+
+const std::vector<CommandText>& commandTexts() {
+  static const std::vector<CommandText> texts{findText(),        indexText(),      refreshText(),
+                                              sourcesText(),     sourcesAddText(), sourcesRemoveText(),
+                                              sourcesMoveText(), historyText(),    cacheText()};
+  return texts;
+}
+
+const std::vector<OptionText>& programOptions() {
+  static const std::vector<OptionText> options{
+      {"-h,--help", "", "Show this help, or that of a command behind it"},
+      {"--version", "", "Show the version"},
+      {"--completion", "SHELL", "Write the completion for bash, zsh or fish", "bash zsh fish"},
+      {"--man", "", "Write the manual page"}};
+  return options;
+}
+
+const CommandText& commandText(std::string_view name) {
+  return *std::ranges::find(commandTexts(), name, &CommandText::name);
+}
+
+const std::vector<SectionText>& manualSections() {
+  static const std::vector<SectionText> sections{
+      {"FIELDS",
+       {{"", "What --fields of find chooses from, and the keys of its JSON:"},
+        {"match", "The match percentage, a number."},
+        {"volume, folder, name", "As the listing has them, the folder with backslashes."},
+        {"path",
+         "The path of the file itself, where the hit is from a folder of your own; empty for others, and "
+         "where the listing does not hold the whole name and the file is not there. With --fields path "
+         "alone, "
+         "hits without a path are left out and counted on standard error."},
+        {"size", "Bytes."},
+        {"modified", "As in 2004-01-15T10:20:30, in the time zone of the machine that made the listing."},
+        {"listing", "The path of the listing, as it was given."},
+        {"words", "The words that were found, as they were searched for; in JSON an array."},
+        {"inherited",
+         "In JSON only, and only where it is true: the entry has no size and date of its own in the listing, "
+         "and those shown are of an earlier line. Where there are none at all, both keys are left out."}}},
+      {"EXIT STATUS",
+       {{"0", "find: there were hits. Others: all was done."},
+        {"1", "find: there were none. history: there is no earlier version."},
+        {"2",
+         "Something went wrong, or the command line was not understood; a sentence on standard error says "
+         "what. What could be done was done. index and refresh: also when a folder holds more names than a "
+         "listing takes."},
+        {"130, 143", "An interrupt or a termination ended it. Complete rows and files stay."}}},
+      {"FILES",
+       {{"$XDG_DATA_HOME/quorvin, ~/.local/share/quorvin",
+         "Listings of own folders, the lists of sources and the listing history, unless another folder is "
+         "chosen in the window under File, Options, or the program was copied somewhere as it is: then they "
+         "are beside it. quorvin-cli sources names the folder."},
+        {"$XDG_CONFIG_HOME/quorvin/settings.ini, ~/.config/quorvin/settings.ini", "The settings."},
+        {"$XDG_CACHE_HOME/quorvin, ~/.cache/quorvin", "The search cache."}}},
+      {"ENVIRONMENT",
+       {{"NO_COLOR", "If it is set and not empty, find colours nothing unless --color always is given."},
+        {"LC_ALL, LC_TIME, LC_NUMERIC, LANG", "How sizes and dates are written, and read in listings."},
+        {"QUORVIN_SETTINGS", "The settings file to use."},
+        {"XDG_DATA_HOME, XDG_CONFIG_HOME, XDG_CACHE_HOME", "See FILES."}}}};
+  return sections;
+}
+
+}  // namespace quorvin

@@ -1,0 +1,65 @@
+// What quorvin-cli says of its commands. The help, the manual page and the shells' completions are all made
+// of this, and so is what the command line takes: an option that is not described here does not exist.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvin {
+
+struct OptionText {
+  /// "-q,--quiet": short and long, as the parser takes them.
+  std::string_view names;
+  /// What its value is called; empty for a switch.
+  std::string_view value;
+  /// So short that help has it in one line.
+  std::string_view text;
+  /// The values that there are, with blanks between; empty for others.
+  std::string_view choices = {};
+};
+
+/// What follows the options, for the completion.
+enum class ArgumentKind { None, Files, Folders, OwnFolders };
+
+struct ExampleText {
+  std::string_view line;
+  std::string_view text;
+};
+
+struct CommandText {
+  /// "find"; of a command within a command both words, "sources add".
+  std::string_view name;
+  /// What follows the options: "TEXT [LISTING...]".
+  std::string_view arguments;
+  ArgumentKind argumentKind;
+  /// One sentence without its full stop, for the list of commands.
+  std::string_view summary;
+  std::vector<OptionText> options;
+  std::vector<ExampleText> examples;
+  /// Paragraphs for the manual page.
+  std::vector<std::string_view> details;
+};
+
+/// All commands, in the order in which they are shown.
+const std::vector<CommandText>& commandTexts();
+
+/// The options of the program itself.
+const std::vector<OptionText>& programOptions();
+
+/// The command of that name, which is one of them.
+const CommandText& commandText(std::string_view name);
+
+/// Further paragraphs of the manual page, in its own order.
+struct SectionText {
+  std::string_view title;
+  struct Item {
+    /// Empty for a plain paragraph.
+    std::string_view term;
+    std::string_view text;
+  };
+  std::vector<Item> items;
+};
+const std::vector<SectionText>& manualSections();
+
+}  // namespace quorvin

@@ -1,0 +1,94 @@
+#include "console/json_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace quorvin {
+
+namespace {
+
+bool isLowControl(char byte) {
+  return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;
+}
+
+void addEscaped(std::string& text, unsigned number) {
+  std::array<char, 8> buffer;
+  std::snprintf(buffer.data(), buffer.size(), "\\u%04x", number);
+  text += buffer.data();
+}
+
+}  // namespace
+
+std::size_t characterLength(std::string_view text) {
+  const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char first = byteAt(0);
+  const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+  if (first < 0xC2 || first > 0xF4 || text.size() < length) return 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if (byteAt(i) < 0x80 || byteAt(i) > 0xBF) return 0;
+  }
+  const unsigned char second = byteAt(1);
+  const bool isTooLong = (first == 0xE0 && second < 0xA0) || (first == 0xF0 && second < 0x90);
+  const bool isSurrogate = first == 0xED && second > 0x9F;
+  const bool isBeyond = first == 0xF4 && second > 0x8F;
+  return isTooLong || isSurrogate || isBeyond ? 0 : length;
+}
+
+bool isHighControl(std::string_view character) {
+  return character.size() == 2 && character[0] == '\xC2' && static_cast<unsigned char>(character[1]) < 0xA0;
+}
+
+void addJsonString(std::string& text, std::string_view value) {
+  text += '"';
+  for (std::size_t at = 0; at < value.size();) {
+    const char byte = value[at];
+    if (static_cast<unsigned char>(byte) < 0x80) {
+      if (byte == '"' || byte == '\\') text += '\\';
+      if (isLowControl(byte)) {
+        addEscaped(text, static_cast<unsigned char>(byte));
+      } else {
+        text += byte;
+      }
+      ++at;
+      continue;
+    }
+    const std::size_t length = characterLength(value.substr(at));
+    const std::string_view character = value.substr(at, std::max<std::size_t>(length, 1));
+    if (length == 0) {
+      text += "\\ufffd";
+    } else if (isHighControl(character)) {
+      addEscaped(text, static_cast<unsigned char>(character[1]));
+    } else {
+      text += character;
+    }
+    at += character.size();
+  }
+  text += '"';
+}
+
+JsonLine& JsonLine::add(std::string_view key, const QString& value) {
+  addKey(key);
+  addJsonString(text_, value.toStdString());
+  return *this;
+}
+
+JsonLine& JsonLine::add(std::string_view key, std::int64_t value) {
+  addKey(key);
+  text_ += std::to_string(value);
+  return *this;
+}
+
+JsonLine& JsonLine::add(std::string_view key, bool value) {
+  addKey(key);
+  text_ += value ? "true" : "false";
+  return *this;
+}
+
+void JsonLine::addKey(std::string_view key) {
+  if (text_.size() > 1) text_ += ',';
+  addJsonString(text_, key);
+  text_ += ':';
+}
+
+}  // namespace quorvin
