@@ -9,6 +9,10 @@ install(FILES packaging/desktop/quorvin.desktop DESTINATION ${CMAKE_INSTALL_DATA
 install(FILES packaging/desktop/quorvin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES packaging/icon/quorvin.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/man/quorvin.1 packaging/man/quorvin-cli.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/completions/quorvin-cli.bash
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME quorvin-cli)
+install(FILES packaging/completions/_quorvin-cli DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+install(FILES packaging/completions/quorvin-cli.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME quorvin)
