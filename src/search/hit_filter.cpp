@@ -40,8 +40,7 @@ HitFilter::Word::Word(const QString& text)
 class HitFilter::RowLook {
  public:
   RowLook(const Segment& segment, const std::vector<Word*>& words)
-      : segment_(segment),
-        words_(words),
+      : words_(words),
         starts_(segment.arrays().blockStarts.all()),
         folders_(segment.arrays().folders),
         names_(segment.arrays().entries) {}
@@ -68,7 +67,6 @@ class HitFilter::RowLook {
     blockEnd_ = block + 1 < starts_.size() ? starts_[block + 1] : UINT32_MAX;
   }
 
-  const Segment& segment_;
   const std::vector<Word*>& words_;
   std::span<const std::uint32_t> starts_;
   TextWalk folders_;
