@@ -111,6 +111,22 @@ TEST_F(FilteredHits, MayBeSomeOfTheEntriesOfAKeptListing) {
   }
 }
 
+TEST_F(FilteredHits, MayBeTheFirstEntriesOfTheirFolders) {
+  QByteArray bytes;
+  for (int folder = 0; folder < 20; ++folder) {
+    bytes += test::blockHead("Disk", folder % 2 == 0 ? "\\even\\" : "\\odd\\");
+    bytes += test::entryLine("song") + test::entryLine("other").repeated(49);
+  }
+  const TemporaryFolder folder;
+  SegmentStore store({QString(), std::size_t{1} << 30});
+  test::TestScan scan(u"song"_qs);
+  scan.runFile(folder.writeFile(u"songs.txt"_qs, bytes), &store);
+  ASSERT_EQ(scan.table.rowCount(), 20);
+  HitFilter filter(scan.table);
+  filter.setText(u"even"_qs);
+  EXPECT_EQ(rowsWith(filter, scan.table), (std::vector<std::int64_t>{0, 2, 4, 6, 8, 10, 12, 14, 16, 18}));
+}
+
 class Filter : public testing::Test {
  protected:
   Filter() {
