@@ -79,7 +79,7 @@ void QuickScan::endSegment() {
 void QuickScan::note(const FoundEntry& found) {
   const GrowingSegment& segment = *builder_.segment();
   const ValueState state = segment.valueState(found.entry);
-  if (state == ValueState::Own) shown_ = segment.values(found.entry);
+  if (hasValues(state)) shown_ = segment.values(found.entry);
   if (state == ValueState::Unreadable && ++result_.unreadable == 1) {
     result_.firstUnreadableLine = segment.unreadableLine(found.entry) - linesBefore_;
   }
