@@ -211,8 +211,7 @@ bool mayLackZero(const PatternPart& part) {
   return leading || part.width < 2;
 }
 
-template <typename Unit>
-std::size_t takeWord(const WordList& words, std::basic_string_view<Unit> text, int& meaning) {
+std::size_t takeWord(const WordList& words, std::u16string_view text, int& meaning) {
   const auto found = words.at(text);
   if (!found) return kNoMatch;
   meaning = found->meaning;
@@ -240,12 +239,11 @@ DateForm::DateForm(const DatePattern& pattern) {
   order_ = day < month ? DayMonthOrder::DayFirst : DayMonthOrder::MonthFirst;
 }
 
-template <typename Unit>
-std::size_t DateForm::matchPart(const Part& part, std::basic_string_view<Unit> text,
-                                const DateVocabulary& words, int& value) {
+std::size_t DateForm::matchPart(const Part& part, std::u16string_view text, const DateVocabulary& words,
+                                int& value) {
   switch (part.field) {
     case PatternField::Literal:
-      return beginsWith(text, part.literal) ? part.literal.size() : kNoMatch;
+      return text.starts_with(part.literal) ? part.literal.size() : kNoMatch;
     case PatternField::HalfDay:
       return takeWord(words.halves, text, value);
     case PatternField::MonthNameShort:
@@ -257,8 +255,8 @@ std::size_t DateForm::matchPart(const Part& part, std::basic_string_view<Unit> t
   std::size_t digits = 0;
   int number = 0;
   const std::size_t most = std::min(part.mostDigits, text.size());
-  while (digits < most && isDigit(foldedUnit(text[digits]))) {
-    number = number * 10 + (foldedUnit(text[digits]) - u'0');
+  while (digits < most && isDigit(text[digits])) {
+    number = number * 10 + (text[digits] - u'0');
     ++digits;
   }
   if (digits < part.leastDigits) return kNoMatch;
@@ -283,8 +281,7 @@ DateForm::Match DateForm::matchOf(const Values& values, std::size_t length) {
   return match;
 }
 
-template <typename Unit>
-std::optional<DateForm::Match> DateForm::matchFront(std::basic_string_view<Unit> text,
+std::optional<DateForm::Match> DateForm::matchFront(std::u16string_view text,
                                                     const DateVocabulary& words) const {
   Values values;
   values.fill(-1);
@@ -297,9 +294,5 @@ std::optional<DateForm::Match> DateForm::matchFront(std::basic_string_view<Unit>
   }
   return matchOf(values, length);
 }
-
-template std::optional<DateForm::Match> DateForm::matchFront(std::string_view, const DateVocabulary&) const;
-template std::optional<DateForm::Match> DateForm::matchFront(std::u16string_view,
-                                                             const DateVocabulary&) const;
 
 }  // namespace quorvin

@@ -107,10 +107,9 @@ class DateForm {
 
   explicit DateForm(const DatePattern& pattern);
 
-  /// Matches the front of `text`, a DateText or plain bytes. Days, months and hours may leave out a leading
-  /// zero where a sign ends them; the numbers are not checked for making a date or time. Allocates nothing.
-  template <typename Unit>
-  std::optional<Match> matchFront(std::basic_string_view<Unit> text, const DateVocabulary& words) const;
+  /// Matches the front of `text`, a DateText. Days, months and hours may leave out a leading zero where a
+  /// sign ends them; the numbers are not checked for making a date or time. Allocates nothing.
+  std::optional<Match> matchFront(std::u16string_view text, const DateVocabulary& words) const;
 
   /// The order of day and month of this form, if it is one in which that is a question: both are numbers, and
   /// the year does not come before them.
@@ -143,18 +142,12 @@ class DateForm {
   /// What was read for each field of a pattern.
   using Values = std::array<int, kPatternFields>;
 
-  template <typename Unit>
-  static std::size_t matchPart(const Part& part, std::basic_string_view<Unit> text,
-                               const DateVocabulary& words, int& value);
+  static std::size_t matchPart(const Part& part, std::u16string_view text, const DateVocabulary& words,
+                               int& value);
   static Match matchOf(const Values& values, std::size_t length);
 
   std::vector<Part> parts_;
   std::optional<DayMonthOrder> order_;
 };
-
-extern template std::optional<DateForm::Match> DateForm::matchFront(std::string_view,
-                                                                    const DateVocabulary&) const;
-extern template std::optional<DateForm::Match> DateForm::matchFront(std::u16string_view,
-                                                                    const DateVocabulary&) const;
 
 }  // namespace quorvin

@@ -102,6 +102,13 @@ void WordList::add(QStringView word, int meaning) {
   words_.insert(place, {std::move(text), meaning});
 }
 
+std::optional<WordList::Found> WordList::at(std::u16string_view text) const {
+  for (const Word& word : words_) {
+    if (text.starts_with(word.text)) return Found{word.meaning, word.text.size()};
+  }
+  return std::nullopt;
+}
+
 namespace {
 
 void addMonthName(WordList& names, const QString& name, int month) {

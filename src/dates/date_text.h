@@ -45,27 +45,6 @@ constexpr bool isDigit(char16_t unit) {
   return unit >= u'0' && unit <= u'9';
 }
 
-/// One unit of a text as matching sees it. A DateText is folded already; plain bytes are folded here, and one
-/// that is not ASCII equals nothing.
-constexpr char16_t foldedUnit(char16_t unit) {
-  return unit;
-}
-constexpr char16_t foldedUnit(char byte) {
-  const auto unit = static_cast<unsigned char>(byte);
-  if (unit >= 0x80) return 0xFFFF;
-  return unit >= 'A' && unit <= 'Z' ? static_cast<char16_t>(unit + ('a' - 'A')) : unit;
-}
-
-/// Whether `text` begins with `literal`, which is folded.
-template <typename Unit>
-bool beginsWith(std::basic_string_view<Unit> text, std::u16string_view literal) {
-  if (text.size() < literal.size()) return false;
-  for (std::size_t i = 0; i < literal.size(); ++i) {
-    if (foldedUnit(text[i]) != literal[i]) return false;
-  }
-  return true;
-}
-
 /// Words with a meaning, of which the longest that fits is found.
 class WordList {
  public:
@@ -77,14 +56,8 @@ class WordList {
   /// Adds `word`, folded; a word that is there already keeps its first meaning. Empty words are ignored.
   void add(QStringView word, int meaning);
 
-  /// The longest word at the front of `text`.
-  template <typename Unit>
-  std::optional<Found> at(std::basic_string_view<Unit> text) const {
-    for (const Word& word : words_) {
-      if (beginsWith(text, word.text)) return Found{word.meaning, word.text.size()};
-    }
-    return std::nullopt;
-  }
+  /// The longest word at the front of `text`, a DateText.
+  std::optional<Found> at(std::u16string_view text) const;
 
  private:
   struct Word {

@@ -8,6 +8,7 @@
 #include <QTime>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cmath>
 
@@ -52,18 +53,40 @@ namespace {
 
 constexpr std::chrono::sys_days kZeroDay = std::chrono::year{1899} / std::chrono::December / 30;
 
+/// The first days of the months in which nearly all dates are; the month behind them ends the last.
+struct MonthStarts {
+  static constexpr int kFirstYear = 1900;
+  static constexpr int kYears = 200;
+  std::array<std::int32_t, kYears * 12 + 1> days;
+};
+
+constexpr MonthStarts kMonthStarts = [] {
+  MonthStarts starts{};
+  for (std::size_t i = 0; i < starts.days.size(); ++i) {
+    const std::chrono::year year{MonthStarts::kFirstYear + static_cast<int>(i / 12)};
+    const std::chrono::sys_days first{year / static_cast<int>(i % 12 + 1) / 1};
+    starts.days[i] = static_cast<std::int32_t>((first - kZeroDay).count());
+  }
+  return starts;
+}();
+
 }  // namespace
 
-std::optional<int> dayNumberOf(CalendarDate date) {
+int dayNumberOrNone(int year, int month, int day) {
   // The calendar's own types hold small numbers only, so wild ones are refused before they are put in.
-  if (date.year < 100 || date.year > 9999) return std::nullopt;
-  if (date.month < 1 || date.month > 12 || date.day < 1 || date.day > 31) return std::nullopt;
-  const std::chrono::year_month_day day{std::chrono::year{date.year},
-                                        std::chrono::month{static_cast<unsigned>(date.month)},
-                                        std::chrono::day{static_cast<unsigned>(date.day)}};
+  if (year < 100 || year > 9999) return kNoDay;
+  if (month < 1 || month > 12 || day < 1 || day > 31) return kNoDay;
+  if (year >= MonthStarts::kFirstYear && year < MonthStarts::kFirstYear + MonthStarts::kYears) {
+    const auto place = static_cast<std::size_t>((year - MonthStarts::kFirstYear) * 12 + month - 1);
+    const int number = kMonthStarts.days[place] + day - 1;
+    return number < kMonthStarts.days[place + 1] ? number : kNoDay;
+  }
+  const std::chrono::year_month_day date{std::chrono::year{year},
+                                         std::chrono::month{static_cast<unsigned>(month)},
+                                         std::chrono::day{static_cast<unsigned>(day)}};
   // Every month has the first 28.
-  if (date.day > 28 && !day.ok()) return std::nullopt;
-  return static_cast<int>((std::chrono::sys_days{day} - kZeroDay).count());
+  if (day > 28 && !date.ok()) return kNoDay;
+  return static_cast<int>((std::chrono::sys_days{date} - kZeroDay).count());
 }
 
 std::optional<DayMonthOrder> orderOf(OrderEvidence evidence) {

@@ -69,9 +69,17 @@ inline constexpr int kSecondsPerDay = 86400;
 inline constexpr int kFirstDay = -657434;
 inline constexpr int kLastDay = 2958465;
 
+/// The same as dayNumberOf() as a plain number, which goes through a register where it is read millions of
+/// times; kNoDay for nothing.
+inline constexpr int kNoDay = kFirstDay - 1;
+int dayNumberOrNone(int year, int month, int day);
+
 /// The day number of a date of the Gregorian calendar; nothing when there is no such day or its year is not
 /// 100 to 9999.
-std::optional<int> dayNumberOf(CalendarDate date);
+inline std::optional<int> dayNumberOf(const CalendarDate& date) {
+  const int day = dayNumberOrNone(date.year, date.month, date.day);
+  return day == kNoDay ? std::nullopt : std::optional(day);
+}
 
 /// Which comes first in a date whose day and month are both numbers and whose year is last or missing. (After
 /// a year, the month always comes first.)

@@ -61,7 +61,8 @@ GeneralDateReader::GeneralDateReader(const QLocale& locale, int currentYear)
       generalTime_(generalTimePattern(locale)),
       shortDate_(parseDatePattern(locale.dateFormat(QLocale::ShortFormat))),
       longDate_(parseDatePattern(locale.dateFormat(QLocale::LongFormat))),
-      shortTime_(shortTimePattern(locale)) {
+      shortTime_(shortTimePattern(locale)),
+      layouts_(locale, generalDatePattern(locale), generalTimePattern(locale), words_) {
   rules_.buddhistYears = locale.language() == QLocale::Thai;
 }
 
@@ -83,7 +84,8 @@ std::optional<DateReading> GeneralDateReader::reading(QStringView text) const {
 }
 
 std::optional<DateReading> GeneralDateReader::readingOfAscii(std::string_view text) const {
-  if (const auto value = readOwnForm(text)) return value;
+  WrittenMoment written;
+  if (readWritten(text, written)) return DateReading{joinDateValue(written.moment), written.evidence};
   if (!isAscii(text)) {
     // No character of a text that is short enough takes up more than three bytes a unit.
     if (text.size() > 3 * DateText::kMaxLength) return std::nullopt;
@@ -96,6 +98,19 @@ std::optional<DateReading> GeneralDateReader::readingOfAscii(std::string_view te
   std::array<char16_t, DateText::kMaxLength> wide;
   std::copy(text.begin(), text.end(), wide.begin());
   return reading(QStringView(wide.data(), static_cast<qsizetype>(text.size())));
+}
+
+bool GeneralDateReader::readWritten(std::string_view text, WrittenMoment& written) const {
+  DateForm::Match match;
+  if (!layouts_.match(text, match)) return false;
+  const int year = rules_.yearMeantBy(match.date.year);
+  const auto day = generalDate_.dayOf({year, match.date.month, match.date.day}, rules_.order);
+  const std::optional<int> second = secondOfDay(match.clock);
+  if (!day || !second) return false;
+  written.moment.day = day->day;
+  written.moment.second = *second;
+  written.evidence = day->evidence;
+  return true;
 }
 
 std::optional<DateReading> GeneralDateReader::readFolded(const DateText& text) const {
@@ -119,13 +134,7 @@ std::optional<DateReading> GeneralDateReader::readLoosely(View text) const {
   return GeneralForms::ofAllLocales().read(text, rules_.order);
 }
 
-std::optional<OrderedDay> GeneralDateReader::dayOf(const DateForm& form, CalendarDate date) const {
-  date.year = rules_.yearMeantBy(date.year);
-  return form.dayOf(date, rules_.order);
-}
-
-template <typename Unit>
-std::optional<DateReading> GeneralDateReader::readOwnForm(std::basic_string_view<Unit> text) const {
+std::optional<DateReading> GeneralDateReader::readOwnForm(View text) const {
   if (const auto date = generalDate_.matchFront(text, words_)) {
     const std::optional<OrderedDay> day = dayOf(generalDate_, date->date);
     if (day && date->length == text.size()) return DateReading{joinDateValue({day->day, 0}), day->evidence};
@@ -139,9 +148,7 @@ std::optional<DateReading> GeneralDateReader::readOwnForm(std::basic_string_view
   return DateReading{joinDateValue({0, *second})};
 }
 
-template <typename Unit>
-std::optional<int> GeneralDateReader::wholeTime(const DateForm& form,
-                                                std::basic_string_view<Unit> text) const {
+std::optional<int> GeneralDateReader::wholeTime(const DateForm& form, View text) const {
   const auto time = form.matchFront(text, words_);
   if (!time || time->length != text.size()) return std::nullopt;
   return secondOfDay(time->clock);

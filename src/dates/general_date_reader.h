@@ -1,6 +1,7 @@
 // Reading many dates of one locale.
 #pragma once
 
+#include "dates/date_layouts.h"
 #include "dates/date_pattern.h"
 #include "dates/date_text.h"
 #include "dates/general_date.h"
@@ -23,13 +24,21 @@ class GeneralDateReader {
 
   std::optional<DateValue> read(QStringView text) const;
 
-  /// The same as read() for ASCII text, and quick for the locale's own form. Text with other bytes is taken
-  /// as UTF-8 and read the slow way.
+  /// The same as read() for ASCII text, and quick for a date and a time of the locale's own form. Text with
+  /// other bytes is taken as UTF-8 and read the slow way.
   std::optional<DateValue> readAscii(std::string_view text) const;
 
   /// The same, with what the text says about the order of day and month.
   std::optional<DateReading> reading(QStringView text) const;
   std::optional<DateReading> readingOfAscii(std::string_view text) const;
+
+  /// A date and a time of the locale's own form, read at once: leaves in `written` what readingOfAscii gives.
+  /// Where it is false the text may still be a date.
+  struct WrittenMoment {
+    DayAndSecond moment;
+    OrderEvidence evidence;
+  };
+  bool readWritten(std::string_view text, WrittenMoment& written) const;
 
   /// From now on day and month are read in `order`, whatever the locale's own. Not to be called while others
   /// read.
@@ -38,11 +47,11 @@ class GeneralDateReader {
  private:
   using View = std::u16string_view;
 
-  template <typename Unit>
-  std::optional<DateReading> readOwnForm(std::basic_string_view<Unit> text) const;
-  template <typename Unit>
-  std::optional<int> wholeTime(const DateForm& form, std::basic_string_view<Unit> text) const;
-  std::optional<OrderedDay> dayOf(const DateForm& form, CalendarDate date) const;
+  std::optional<DateReading> readOwnForm(View text) const;
+  std::optional<int> wholeTime(const DateForm& form, View text) const;
+  std::optional<OrderedDay> dayOf(const DateForm& form, const CalendarDate& date) const {
+    return form.dayOf({rules_.yearMeantBy(date.year), date.month, date.day}, rules_.order);
+  }
 
   std::optional<DateReading> readFolded(const DateText& text) const;
   std::optional<DateReading> readLoosely(View text) const;
@@ -67,6 +76,7 @@ class GeneralDateReader {
   DateForm shortDate_;
   DateForm longDate_;
   DateForm shortTime_;
+  DateLayouts layouts_;
 };
 
 }  // namespace quorvin

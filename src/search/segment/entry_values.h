@@ -40,28 +40,6 @@ struct EntryValues {
 /// Finds the order in which a listing has day and month; nothing where its dates leave that open.
 using OrderFinder = std::function<std::optional<DayMonthOrder>()>;
 
-/// Reads the tails of one listing by the rules of one locale.
-class EntryValuesReader {
- public:
-  /// `findOrder` is called once, when the first date comes that two orders make two dates of. Where it finds
-  /// none, or is empty, the order is that of the locale.
-  explicit EntryValuesReader(const QLocale& locale, OrderFinder findOrder = {});
-
-  /// Reads the UTF-8 text `tail` into `values`. They are changed only where the result is Own. Where `ascii`
-  /// is true a column is a byte.
-  ValueState read(std::string_view tail, bool ascii, EntryValues& values);
-
-  /// The order of day and month in the date of `tail`, if it is a date in one of them only.
-  std::optional<DayMonthOrder> orderIn(std::string_view tail, bool ascii) const;
-
- private:
-  GeneralDateReader dates_;
-  OrderFinder findOrder_;
-};
-
-/// As readByteCount, for ASCII text. `bytes` is changed only where the result is true.
-bool readAsciiByteCount(std::string_view text, std::int64_t& bytes);
-
 /// Size and date in eight bytes. Sizes of 4 GiB and more, negative ones and dates outside 1899 to 2035 do not
 /// fit; those are kept aside.
 struct CompactValues {
@@ -73,6 +51,32 @@ struct CompactValues {
   static constexpr std::uint32_t kUnreadable = 0xFFFFFFFE;
   static constexpr std::uint32_t kKeptAside = 0xFFFFFFFD;
 };
+
+/// Reads the tails of one listing by the rules of one locale.
+class EntryValuesReader {
+ public:
+  /// `findOrder` is called once, when the first date comes that two orders make two dates of. Where it finds
+  /// none, or is empty, the order is that of the locale.
+  explicit EntryValuesReader(const QLocale& locale, OrderFinder findOrder = {});
+
+  /// Reads the UTF-8 text `tail` into `values`. They are changed only where the result is Own. Where `ascii`
+  /// is true a column is a byte.
+  ValueState read(std::string_view tail, bool ascii, EntryValues& values);
+
+  /// Reads the values of a tail as this program writes it in the locale, at once. False where read() has to
+  /// look: the tail is another one, or its values do not fit.
+  bool readWritten(std::string_view tail, CompactValues& values) const;
+
+  /// The order of day and month in the date of `tail`, if it is a date in one of them only.
+  std::optional<DayMonthOrder> orderIn(std::string_view tail, bool ascii) const;
+
+ private:
+  GeneralDateReader dates_;
+  OrderFinder findOrder_;
+};
+
+/// As readByteCount, for ASCII text. `bytes` is changed only where the result is true.
+bool readAsciiByteCount(std::string_view text, std::int64_t& bytes);
 
 /// The compact form; its `second` is kKeptAside where the values do not fit without loss.
 CompactValues compact(ValueState state, const EntryValues& values);

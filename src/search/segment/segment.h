@@ -128,6 +128,9 @@ class GrowingSegment : public Segment {
   /// in ascending order.
   void setValues(std::uint32_t entry, ValueState state, const EntryValues& values, std::int64_t line);
 
+  /// The same for values of the entry's own in their compact form.
+  void setValues(std::uint32_t entry, const CompactValues& values) { values_[entry] = values; }
+
   /// Makes all that has been added so far visible.
   void publish();
 

@@ -126,12 +126,14 @@ void SegmentBuilder::noteEntry() {
   unread_.push_back({tail_, tailLength_, static_cast<std::uint32_t>(lineCount_ - textFirstLine_)});
 }
 
-/// Leaves what the tail says in readState_ and readValues_.
+/// Leaves what the tail says in readWritten_, or else in readState_ and readValues_.
 void SegmentBuilder::readTail(const Unread& unread) {
   // Lines without a tail of their own share one.
   if (unread.tail == readTail_) return;
   readTail_ = unread.tail;
   const std::string_view tail(unread.tail, unread.tailLength);
+  isWritten_ = valuesReader_.readWritten(tail, readWritten_);
+  if (isWritten_) return;
   readState_ = valuesReader_.read(tail, isAscii(tail), readValues_);
 }
 
@@ -159,9 +161,16 @@ void SegmentBuilder::readValues(std::uint32_t entry) {
   nextToRead_ = entry + 1;
   const Unread& unread = unread_[entry - firstUnread_];
   readTail(unread);
-  const bool isCarried = readState_ == ValueState::Own && !hasOwnTail(entry - firstUnread_);
-  segment_->setValues(entry, isCarried ? ValueState::Carried : readState_, readValues_,
-                      textFirstLine_ + unread.line);
+  const std::int64_t line = textFirstLine_ + unread.line;
+  const bool isOwn = hasOwnTail(entry - firstUnread_);
+  if (!isWritten_) {
+    const bool isCarried = readState_ == ValueState::Own && !isOwn;
+    segment_->setValues(entry, isCarried ? ValueState::Carried : readState_, readValues_, line);
+  } else if (isOwn) {
+    segment_->setValues(entry, readWritten_);
+  } else {
+    segment_->setValues(entry, ValueState::Carried, expand(readWritten_), line);
+  }
 }
 
 /// Whether the line of entry `place` of the text has the tail that applies to it.

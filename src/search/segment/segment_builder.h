@@ -93,8 +93,10 @@ class SegmentBuilder {
   std::uint32_t tailLength_ = 0;
   std::string keptTail_;
 
-  /// The tail that was read last, and what it says.
+  /// The tail that was read last, and what it says: either as a tail of the usual form, or the long way.
   const char* readTail_ = nullptr;
+  bool isWritten_ = false;
+  CompactValues readWritten_{};
   ValueState readState_ = ValueState::Absent;
   EntryValues readValues_;
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <random>
 #include <string>
@@ -92,6 +93,95 @@ TEST_F(ReadEntryValues, TextThatIsNoSizeOrNoDateIsUnreadable) {
   EXPECT_EQ(read("          n/a bytes 15 Jan 2004 10:20:30"), ValueState::Unreadable);
   EXPECT_EQ(read("        1,024 bytes no date at all 123456"), ValueState::Unreadable);
   EXPECT_EQ(values_, (EntryValues{-7, -7}));
+}
+
+/// What is read at once of a tail: its size, 0 where nothing is.
+class ReadWrittenValues : public testing::Test {
+ protected:
+  std::uint32_t sizeAtOnce(const std::string& tail) const {
+    CompactValues values{};
+    return reader_.readWritten(tail, values) ? values.size : 0;
+  }
+
+  /// True where the tail was read at once; it is expected to be as it is read the long way then.
+  bool readsAlike(const std::string& tail) {
+    CompactValues atOnce{};
+    if (!reader_.readWritten(tail, atOnce)) return false;
+    const bool ascii = std::ranges::all_of(tail, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    EntryValues values;
+    EXPECT_EQ(reader_.read(tail, ascii, values), ValueState::Own) << '"' << tail << '"';
+    const CompactValues expected = compact(ValueState::Own, values);
+    EXPECT_EQ(atOnce.size, expected.size) << '"' << tail << '"';
+    EXPECT_EQ(atOnce.second, expected.second) << '"' << tail << '"';
+    return true;
+  }
+
+  EntryValuesReader reader_{QLocale::c()};
+};
+
+TEST_F(ReadWrittenValues, AreSizesInGroupsOfThree) {
+  const std::string rest = " bytes 15 Jan 2004 10:20:30";
+  EXPECT_EQ(sizeAtOnce("            7" + rest), 7U);
+  EXPECT_EQ(sizeAtOnce("           12" + rest), 12U);
+  EXPECT_EQ(sizeAtOnce("          123" + rest), 123U);
+  EXPECT_EQ(sizeAtOnce("        1,024" + rest), 1024U);
+  EXPECT_EQ(sizeAtOnce("       98.765" + rest), 98765U);
+  EXPECT_EQ(sizeAtOnce("      987 654" + rest), 987654U);
+  EXPECT_EQ(sizeAtOnce("    1'234'567" + rest), 1234567U);
+  EXPECT_EQ(sizeAtOnce("   12,345,678" + rest), 12345678U);
+  EXPECT_EQ(sizeAtOnce("  123,456,789" + rest), 123456789U);
+  EXPECT_EQ(sizeAtOnce("4,294,967,295" + rest), 4294967295U);
+}
+
+TEST_F(ReadWrittenValues, AllElseIsLeftToBeLookedAt) {
+  const std::string rest = " bytes 15 Jan 2004 10:20:30";
+  for (const char* size :
+       {"4,294,967,296", "9,999,999,999", " 9999999999  ", "         1024", "      ,234   ", "       1,02 ",
+        "         ,234", "     ,234,567", "        1;024", "    1,234.567", "       1,,024", "       -1,024",
+        "        1,0x4", "             ", "        1 024 "}) {
+    EXPECT_EQ(sizeAtOnce(size + rest), 0U) << size;
+  }
+  EXPECT_EQ(sizeAtOnce("        1,024 byt\xC3\xA9s 15 Jan 2004 10:20:30"), 0U);
+  EXPECT_EQ(sizeAtOnce("        1,024 byt\xC3\xA9s15 Jan 2004 10:20:30"), 0U);
+  EXPECT_EQ(sizeAtOnce("        1,024 bytes 5 Jan 2004"), 0U);
+  EXPECT_EQ(sizeAtOnce("        1,024 bytes 4 Feb 2036 10:20:30"), 1024U);
+  EXPECT_EQ(sizeAtOnce("        1,024 bytes 5 Feb 2036 10:20:30"), 0U);
+  EXPECT_EQ(sizeAtOnce("        1,024 bytes 29 Dec 1899 10:20:30"), 0U);
+  EXPECT_EQ(sizeAtOnce("        1,024"), 0U);
+  EXPECT_EQ(sizeAtOnce(""), 0U);
+}
+
+TEST_F(ReadWrittenValues, AgreeWithTheLongWayOnNearlyRightTails) {
+  std::mt19937 random(43);
+  int atOnce = 0;
+  for (int round = 0; round < 200000; ++round) {
+    std::string tail = QLocale(QLocale::English).toString(random() >> random() % 32).toStdString();
+    tail = std::string(13 - tail.size(), ' ') + tail + " bytes 15 Jan 2004 10:20:30";
+    for (auto changes = random() % 3; changes > 0; --changes) {
+      tail[random() % (random() % 2 == 0 ? 13 : tail.size())] = "0123456789,.' -\xC3"[random() % 16];
+    }
+    if (readsAlike(tail)) ++atOnce;
+  }
+  EXPECT_GT(atOnce, 60000);
+}
+
+TEST(ReadWrittenDates, WaitUntilTheOrderOfDayAndMonthHasBeenLookedFor) {
+  int asked = 0;
+  EntryValuesReader reader(QLocale(QLocale::English, QLocale::UnitedKingdom), [&asked] {
+    ++asked;
+    return std::optional(DayMonthOrder::MonthFirst);
+  });
+  const std::string tail = "        1,024 bytes 03/04/2004 13:04:09";
+  CompactValues atOnce{};
+  EXPECT_TRUE(reader.readWritten("        1,024 bytes 15/04/2004 13:04:09", atOnce));
+  EXPECT_FALSE(reader.readWritten(tail, atOnce));
+  EXPECT_EQ(asked, 0);
+  EntryValues values;
+  EXPECT_EQ(reader.read(tail, true, values), ValueState::Own);
+  EXPECT_EQ(asked, 1);
+  EXPECT_TRUE(reader.readWritten(tail, atOnce));
+  EXPECT_EQ(expand(atOnce), values);
+  EXPECT_EQ(values, (EntryValues{1024, 38050 + 47049 * kSecond}));
 }
 
 TEST(ReadAsciiByteCount, AgreesWithTheReaderOfAllScripts) {
