@@ -23,6 +23,30 @@ TEST(TrigramFilter, WordThatIsThereIsNeverDenied) {
   }
 }
 
+TEST(TrigramFilter, ATextAddsWhatItsTrigramsAddOneByOne) {
+  std::mt19937 random(13);
+  for (std::size_t size = 0; size < 200; ++size) {
+    std::string text(size, '\0');
+    for (char& c : text) c = static_cast<char>(random() % 256);
+    TrigramSet whole{};
+    TrigramSet single{};
+    addTrigrams(whole, "kept");
+    addTrigrams(single, "kept");
+    addTrigrams(whole, text);
+    for (std::size_t at = 0; at + 3 <= size; ++at) addTrigrams(single, text.substr(at, 3));
+    ASSERT_EQ(whole, single) << size;
+  }
+}
+
+// Kept files hold the sets, so the bits are part of their format.
+TEST(TrigramFilter, TheBitOfATrigramIsThatOfTheFormat) {
+  TrigramSet set{};
+  addTrigrams(set, "abc");
+  std::size_t bit = 0;
+  while ((set[bit / 64] >> (bit % 64) & 1U) == 0) ++bit;
+  EXPECT_EQ(bit, (0x636261U * 0x9E3779B1U) >> 19);
+}
+
 TEST(TrigramFilter, WordsOfEveryAddedTextArePossible) {
   TrigramSet set{};
   addTrigrams(set, "live at wembley");
