@@ -125,22 +125,70 @@ class SegmentLayout {
   std::uint64_t size_ = 0;
 };
 
-/// Copies the arrays to their places.
-class SegmentCopier {
+/// Hands the bytes of a segment to `write`, in pieces that stay in the processor's caches until they are
+/// written, and keeps the checksums of their blocks.
+template <typename Write>
+class SegmentPieces {
  public:
-  SegmentCopier(std::vector<std::byte>& bytes, const SegmentRecord& record)
-      : bytes_(bytes), record_(record) {}
+  SegmentPieces(const SegmentRecord& record, Write write)
+      : record_(record), write_(std::move(write)), piece_(std::min<std::uint64_t>(kPiece, record.size)) {}
 
   template <typename Element>
   void operator()(const CheckedSpan<Element>& array) {
-    const auto from = std::as_bytes(array.all());
-    if (!from.empty()) std::memcpy(bytes_.data() + record_.arrays[next_].offset, from.data(), from.size());
-    ++next_;
+    addZerosUpTo(record_.arrays[next_++].offset);
+    add(std::as_bytes(array.all()));
+  }
+
+  /// To be called last. The checksums of all blocks.
+  std::vector<std::uint64_t> finish() {
+    addZerosUpTo(record_.size);
+    writeOut();
+    return std::move(sums_);
   }
 
  private:
-  std::vector<std::byte>& bytes_;
+  static constexpr std::size_t kPiece = std::size_t{1} << 20;
+  static_assert(kPiece % ByteCheck::kBlockSize == 0);
+
+  std::span<std::byte> room() { return std::span(piece_).subspan(filled_); }
+
+  void add(std::span<const std::byte> bytes) {
+    while (!bytes.empty()) {
+      const std::size_t count = std::min(bytes.size(), room().size());
+      std::ranges::copy(bytes.first(count), room().begin());
+      bytes = bytes.subspan(count);
+      taken(count);
+    }
+  }
+
+  void addZerosUpTo(std::uint64_t offset) {
+    while (written_ + filled_ < offset) {
+      const auto count = std::min<std::uint64_t>(offset - written_ - filled_, room().size());
+      std::ranges::fill(room().first(count), std::byte{0});
+      taken(count);
+    }
+  }
+
+  void taken(std::size_t count) {
+    filled_ += count;
+    if (room().empty()) writeOut();
+  }
+
+  void writeOut() {
+    const auto piece = std::span<const std::byte>(piece_).first(filled_);
+    const std::vector<std::uint64_t> sums = checksumsOf(piece);
+    sums_.insert(sums_.end(), sums.begin(), sums.end());
+    write_(piece);
+    written_ += filled_;
+    filled_ = 0;
+  }
+
   const SegmentRecord& record_;
+  Write write_;
+  std::vector<std::byte> piece_;
+  std::size_t filled_ = 0;
+  std::uint64_t written_ = 0;
+  std::vector<std::uint64_t> sums_;
   std::size_t next_ = 0;
 };
 
@@ -171,10 +219,10 @@ void SegmentFileWriter::append(const Segment& segment) {
   record.entryCount = arrays.entries.count;
   record.blockCount = arrays.folders.count;
   record.allOwn = arrays.allOwn ? 1 : 0;
-  std::vector<std::byte> bytes(record.size);
-  visitArrays(arrays, SegmentCopier(bytes, record));
-  write(bytes.data(), bytes.size());
-  sums_.push_back(checksumsOf(bytes));
+  SegmentPieces pieces(record,
+                       [this](std::span<const std::byte> piece) { write(piece.data(), piece.size()); });
+  visitArrays(arrays, pieces);
+  sums_.push_back(pieces.finish());
   segments_.push_back(record);
 }
 

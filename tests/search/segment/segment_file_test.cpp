@@ -56,7 +56,6 @@ class SegmentFileTest : public testing::TestWithParam<SegmentUse> {
   SegmentKey key_{u"/lists/cd.lst"_qs, {60, 1, 2, 3, 4}, u"C\nd MMM yyyy"_qs};
   QByteArray whole_;
 
- private:
   static void write(SegmentFileWriter& writer, const std::string& lines) {
     const std::string text = std::string(kLinePadding, '\n') + lines + std::string(kLinePadding, '\n');
     SegmentBuilder builder{QLocale::c()};
@@ -91,6 +90,26 @@ TEST_P(SegmentFileTest, SegmentsComeBackAsTheyWere) {
   ASSERT_EQ(segments[1]->entryCount(), 1U);
   EXPECT_EQ(segments[1]->name(0), u"Third"_qs);
   EXPECT_EQ(listingOfSegmentFile(path_), u"/lists/cd.lst"_qs);
+}
+
+TEST_P(SegmentFileTest, ASegmentThatIsWrittenInManyPiecesComesBackAsItWas) {
+  constexpr int kEntries = 150000;
+  std::string lines = "Volume:    V1\r\nDirectory: \\Music\\\r\n";
+  const auto nameOf = [](int i) { return "Song " + std::to_string(i) + " of many, With Capitals"; };
+  for (int i = 0; i < kEntries; ++i) lines += nameOf(i) + "\r\n";
+  const QString path = folder_.pathOf(u"large.qsegments"_qs);
+  SegmentFileWriter writer(path);
+  write(writer, lines);
+  write(writer, "behind it\r\n");
+  writer.finish(key_);
+  const auto segments = openSegmentFile(path, key_, GetParam());
+  ASSERT_EQ(segments.size(), 2U);
+  ASSERT_EQ(segments[0]->entryCount(), static_cast<std::uint32_t>(kEntries));
+  for (int i = 0; i < kEntries; ++i) {
+    ASSERT_EQ(segments[0]->name(static_cast<std::uint32_t>(i)).toStdString(), nameOf(i));
+  }
+  EXPECT_EQ(segments[0]->folder(kEntries - 1), u"\\Music\\"_qs);
+  EXPECT_EQ(segments[1]->name(0), u"behind it"_qs);
 }
 
 TEST_P(SegmentFileTest, TheFileEndsInItsEightLetters) {
