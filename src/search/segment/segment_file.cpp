@@ -21,7 +21,7 @@ namespace {
 /// that stays open is one of few that the system allows.
 constexpr std::uint64_t kSmall = std::uint64_t{1} << 20;
 
-constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '7'};
+constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '8'};
 /// Arrays start at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 

@@ -113,7 +113,7 @@ TEST_P(SegmentFileTest, ASegmentThatIsWrittenInManyPiecesComesBackAsItWas) {
 }
 
 TEST_P(SegmentFileTest, TheFileEndsInItsEightLetters) {
-  EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT7"));
+  EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT8"));
 }
 
 TEST_P(SegmentFileTest, EachSegmentStartsAtTheNextMultipleOf65536Bytes) {
@@ -125,7 +125,7 @@ TEST_P(SegmentFileTest, EachSegmentStartsAtTheNextMultipleOf65536Bytes) {
 
 TEST_P(SegmentFileTest, OtherLettersAreAnotherFormat) {
   QByteArray other = whole_;
-  other.replace(other.size() - 8, 8, "QVSEGMT6");
+  other.replace(other.size() - 8, 8, "QVSEGMT7");
   replaceWith(other);
   expectNoSegmentFile();
 }
