@@ -224,7 +224,8 @@ void ListingHistory::makeFolder(const QString& listing) const {
 
 QStringList ListingHistory::listings() const {
   QStringList listings;
-  QStringList folders(1);
+  QStringList folders;
+  folders += QString();
   while (!folders.isEmpty()) {
     const QString folder = folders.takeFirst();
     const Names names = namesIn(historyFolder() + u'/' + folder);
