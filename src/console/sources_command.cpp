@@ -25,7 +25,7 @@ namespace {
 // Long enough for any other program to finish its own change.
 constexpr int kLockWaitMilliseconds = 5000;
 
-/// One of the two lists while it is edited.
+/// Both lists while they are edited.
 struct EditedSources {
   std::vector<SourceEntry> folders;
   std::vector<SourceEntry> offline;
