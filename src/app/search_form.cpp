@@ -114,6 +114,7 @@ void SearchForm::connectControls() {
   connect(&rows_.order(), &RowOrder::orderChanged, this, [this] { status_.setOrder(rows_.order().note()); });
   connect(&view_, &SearchFormView::selectionLetGo, this,
           [this](std::int64_t hits) { status_.setNote(letGoText(hits, locale_)); });
+  connect(&hitActions_, &SearchFormHits::noted, this, [this](const QString& note) { status_.setNote(note); });
   connect(&*selectionSize_, &SelectionSize::changed, this,
           [this] { status_.setSelected(selectionSize_->rows(), selectionSize_->bytes()); });
 

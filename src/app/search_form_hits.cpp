@@ -13,6 +13,8 @@
 #include <QKeySequence>
 #include <QString>
 
+#include <utility>
+
 namespace quorvin {
 
 namespace {
@@ -137,6 +139,7 @@ void SearchFormHits::HitList_MouseDown(const QPoint& place) {
 bool SearchFormHits::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonPress) noteDragStart(*static_cast<QMouseEvent*>(event));
   if (event->type() == QEvent::MouseMove && isDragged(*static_cast<QMouseEvent*>(event))) return true;
+  if (event->type() == QEvent::MouseButtonRelease && std::exchange(isDragged_, false)) return true;
   return QObject::eventFilter(watched, event);
 }
 
@@ -147,19 +150,25 @@ void SearchFormHits::noteDragStart(const QMouseEvent& press) {
   const bool mayDrag =
       isOnSelected && press.button() == Qt::LeftButton && press.modifiers() == Qt::NoModifier;
   dragStart_ = mayDrag ? std::optional(press.pos()) : std::nullopt;
+  isDragged_ = false;
 }
 
 /// Whether the list has nothing to do with this movement.
 bool SearchFormHits::isDragged(const QMouseEvent& move) {
   if (!dragStart_ || !move.buttons().testFlag(Qt::LeftButton)) return false;
+  if (isDragged_) return true;
   if ((move.pos() - *dragStart_).manhattanLength() < QApplication::startDragDistance()) return true;
-  dragStart_.reset();
+  isDragged_ = true;
   HitList_Drag();
   return true;
 }
 
 void SearchFormHits::HitList_Drag() {
-  if (selectedRowCount(*list_.selectionModel()) > kMostRowsToDrag) return;
+  if (selectedRowCount(*list_.selectionModel()) > kMostRowsToDrag) {
+    Q_EMIT noted(QStringLiteral("At most %1 hits can be dragged at once. Nothing was dragged.")
+                     .arg(locale_.toString(static_cast<qlonglong>(kMostRowsToDrag))));
+    return;
+  }
   std::vector<int> rows = selectedRows(*list_.selectionModel());
   if (!rows.empty()) startDrag_(std::make_unique<HitDragData>(table_, state_, std::move(rows)));
 }

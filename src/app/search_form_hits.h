@@ -68,6 +68,10 @@ class SearchFormHits : public QObject {
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
+ Q_SIGNALS:
+  /// Something that the user should know and need not answer.
+  void noted(const QString& note);
+
  private:
   void fillHitsMenu(QMenu& menu);
   void connectItems();
@@ -104,8 +108,10 @@ class SearchFormHits : public QObject {
   std::function<QString(const HitRow&)> explain_ = [](const HitRow&) { return QString(); };
   PreviewOpener openPreview_;
   DragStarter startDrag_;
-  /// Where the mouse was pressed on a selected row, as long as it has not been moved far enough for a drag.
+  /// Where the mouse was pressed on a selected row.
   std::optional<QPoint> dragStart_;
+  /// From the start of a drag, a refused one too, to the release of the button: the list would select rows.
+  bool isDragged_ = false;
 };
 
 }  // namespace quorvin

@@ -213,6 +213,17 @@ TEST_F(DraggedHits, FromElsewhereAreTextOnly) {
   EXPECT_EQ(dragged_->text(), QStringLiteral("DISK_7:\\Music\\tune 1.mp3"));
 }
 
+TEST_F(DraggedHits, AreAtMostAHundredThousandAndTheStatusLineSaysSo) {
+  showFarHits(100'001);
+  selectAll();
+  drag(0);
+  EXPECT_EQ(dragged_, nullptr);
+  EXPECT_EQ(list()->selectionModel()->selectedRows().size(), 100'001);
+  EXPECT_TRUE(form().status().text().contains(
+      QStringLiteral("At most 100,000 hits can be dragged at once. Nothing was dragged.")))
+      << form().status().text().toStdString();
+}
+
 TEST_F(DraggedHits, PressingOnARowThatIsNotSelectedSelectsRowsAsBefore) {
   showFiles(numbered(3));
   list()->clearSelection();
