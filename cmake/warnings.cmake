@@ -3,10 +3,12 @@
 # other builds compile it alone.
 option(QUORVIN_UNITY "Compile several files as one" OFF)
 
-# Warnings are errors: a warning that is let stand hides the next one.
+# In our own presets warnings are errors: a warning that is let stand hides the next one. Who builds the program with
+# another compiler is not to be stopped by what that one finds.
+option(QUORVIN_WERROR "Treat warnings as errors" OFF)
 add_library(quorvin_warnings INTERFACE)
 target_compile_options(quorvin_warnings INTERFACE
-  -Wall -Wextra -Wpedantic -Werror
+  -Wall -Wextra -Wpedantic $<$<BOOL:${QUORVIN_WERROR}>:-Werror>
   -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
   -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wimplicit-fallthrough)
 # Where files are compiled as one, a name in a function may be that of another file's private constant.
