@@ -55,6 +55,10 @@ std::optional<int> answerToOption(const CommandLine& line) {
       std::fprintf(stderr, "quorvin: unknown option %s\nTry: quorvin --help\n",
                    line.text.toLocal8Bit().constData());
       return 2;
+    case CommandLine::Wish::MissValue:
+      std::fprintf(stderr, "quorvin: the option %s needs a value\nTry: quorvin --help\n",
+                   line.text.toLocal8Bit().constData());
+      return 2;
     case CommandLine::Wish::OpenWindow:
       break;
   }
@@ -86,8 +90,8 @@ QString activationToken() {
 /// One run of the program with its window.
 class Run {
  public:
-  Run(Application& application, WidgetMessageBoxes& messages, const QString& commandLine)
-      : application_(application), messages_(messages), commandLine_(commandLine) {
+  Run(Application& application, WidgetMessageBoxes& messages, const CommandLine& line)
+      : application_(application), messages_(messages), commandLine_(line.text), errand_(line.errand) {
     form_.setUnloadHandler([this] {
       keepView();
       shutdown_.Form_Unload();
@@ -115,6 +119,7 @@ class Run {
       // One that is there has this window only where it is this window's own.
       const bool isMissing = !later.commandLine.isEmpty() && later.commandLine != commandLine_;
       if (isMissing) messages_.inform(QString::fromUtf16(kListingNotFound));
+      form_.runErrand(errandOf(later.errand));
     });
     return true;
   }
@@ -134,7 +139,10 @@ class Run {
     form_.sourcesChanged();
     form_.setSourcesHandler([this] { untilKept_.start(); });
     // Once events run, so that the program can be closed over the question.
-    QTimer::singleShot(0, &form_, [this] { offerRecovery(); });
+    QTimer::singleShot(0, &form_, [this] {
+      offerRecovery();
+      form_.runErrand(errand_);
+    });
     if (!form_.jobs().work().isClosing()) {
       form_.frame().restoreMaximized(placeOfMaximized());
       form_.show();
@@ -201,6 +209,7 @@ class Run {
   Application& application_;
   WidgetMessageBoxes& messages_;
   const QString commandLine_;
+  const Errand errand_;
   const QLocale locale_;
   ProgramState state_;
   IniSettingsStore settings_{userSettingsPath()};
@@ -228,8 +237,8 @@ int main(int argc, char** argv) {
   const CommandLine line = readCommandLine(QCoreApplication::arguments().mid(1));
   if (const std::optional<int> status = answerToOption(line)) return *status;
   OneWindow oneWindow(sharedWindow(line.text), usualOneWindowOptions());
-  if (oneWindow.handOver({line.text, token})) return 0;
-  Run run(application, messages, line.text);
+  if (oneWindow.handOver({line.text, token, textOf(line.errand)})) return 0;
+  Run run(application, messages, line);
   oneWindow.serve([&run](const LaterStart& later) { return run.take(later); });
   return run.exec();
 }

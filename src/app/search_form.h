@@ -1,6 +1,7 @@
 // The main window.
 #pragma once
 
+#include "app/command_line.h"
 #include "app/search_form_controls.h"
 #include "app/search_form_copy.h"
 #include "app/search_form_export.h"
@@ -109,6 +110,9 @@ class SearchForm : public QMainWindow {
   /// Brings the window to the front, or the dialog that is open above it. `activationToken` is the desktop's
   /// permission for that; it may be empty.
   void comeForward(const QString& activationToken);
+  /// Does what a start asks for, as if the user had done it by the controls. Nothing while a dialog or a
+  /// message is open, since the user is about something else, nor while the program closes.
+  void runErrand(const Errand& errand);
   /// The system wants the program to end: closes the window as the user would, and the dialogs and messages
   /// that are open. What cannot be saved at the second attempt either is given up.
   void closeUnasked();
@@ -144,6 +148,8 @@ class SearchForm : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void searchFor(const QString& text);
+  void searchInFolder(const QString& folder);
   void connectControls();
   void connectMenus();
   bool Form_Unload();

@@ -4,6 +4,7 @@
 #include "state/source_entries.h"
 
 #include <QAbstractItemModel>
+#include <QDir>
 #include <QEvent>
 #include <QLocale>
 
@@ -94,6 +95,40 @@ void SearchFormSources::placeOffers() {
     offer->setGeometry(left, top, width, offer->sizeHint().height());
     top += offer->height();
   }
+}
+
+/// By their texts alone: the drives of other sources need not be there, or may be slow to answer.
+std::optional<QString> SearchFormSources::listedFolderInSources(const QString& folder) const {
+  for (const SourceEntry& entry : entriesOf(state_.OnlineSources, state_.OnlineSourceCount)) {
+    const QString source = withTrailingSeparator(entry.path, nativePathStyle());
+    if (folder.startsWith(source)) return listedFolder(folder, nativePathStyle());
+  }
+  return std::nullopt;
+}
+
+QString SearchFormSources::listedFolderOf(const QString& path) {
+  const QString real = QDir(path).canonicalPath();
+  if (real.isEmpty() || !QDir(real).isReadable()) {
+    messages_.inform(path + QStringLiteral(" is no folder that can be read."));
+    return {};
+  }
+  const QString given = withTrailingSeparator(QDir::cleanPath(path), nativePathStyle());
+  const QString folder = withTrailingSeparator(real, nativePathStyle());
+  for (const QString& way : {given, folder}) {
+    if (const auto listed = listedFolderInSources(way)) return *listed;
+  }
+  const QString question = folder + QStringLiteral(
+                                        " is not catalogued yet.\r\n\r\n"
+                                        "Add it to the local search folders, and rescan them?");
+  if (!messages_.askYesNo(question)) return {};
+  QString told;
+  if (takeFolders({folder}, told) == 0) {
+    messages_.inform(told);
+    return {};
+  }
+  changed_();
+  rescan_();
+  return listedFolder(folder, nativePathStyle());
 }
 
 void SearchFormSources::take(const DroppedSources& dropped) {

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace quorvin {
 
@@ -29,11 +30,16 @@ class SearchFormSources : public QObject {
   /// To be called after the sources may have changed.
   void showOffers();
 
+  /// The folder at `path` as listings name it. One that is in no online source is added and catalogued where
+  /// the user agrees. Empty where it is in no listing then, and the user knows why.
+  QString listedFolderOf(const QString& path);
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void placeOffers();
   QCommandLinkButton* makeOffer(const QString& name, const QString& caption, QAction& item);
+  std::optional<QString> listedFolderInSources(const QString& folder) const;
   void take(const DroppedSources& dropped);
   int takeFolders(const QStringList& folders, QString& told);
   int takeListings(const QStringList& files, QString& told);

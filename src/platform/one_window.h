@@ -21,6 +21,8 @@ struct LaterStart {
   QString commandLine;
   /// By this the desktop knows that its user wants to see the window now; may be empty.
   QString activationToken;
+  /// What it asks of the window, in words that both programs know; may be empty.
+  QString errand;
 };
 
 /// Where programs find each other, and who may.

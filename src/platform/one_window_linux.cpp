@@ -17,9 +17,9 @@ namespace quorvin {
 namespace {
 
 constexpr unsigned kBetweenTriesMilliseconds = 20;
-// A path has 4096 bytes at most, and a token some hundred.
+// A path has 4096 bytes at most, a token some hundred, and an errand is a path or what somebody types.
 constexpr qsizetype kLongestMessage = 16384;
-constexpr int kFields = 2;
+constexpr int kFields = 3;
 constexpr QByteArrayView kTaken = "taken\n";
 
 QString nameFor(const QString& set) {
@@ -38,7 +38,11 @@ std::optional<unsigned> userBehind(const QLocalSocket& socket) {
 }
 
 QByteArray messageOf(const LaterStart& start) {
-  return start.commandLine.toUtf8() + '\0' + start.activationToken.toUtf8() + '\0';
+  QByteArray message;
+  for (const QString* field : {&start.commandLine, &start.activationToken, &start.errand}) {
+    message += field->toUtf8() + '\0';
+  }
+  return message;
 }
 
 int leftOf(const QDeadlineTimer& deadline) {
@@ -121,7 +125,7 @@ void OneWindow::hear(QLocalSocket& socket) {
   if (message.count('\0') < kFields) return;
   socket.readAll();
   const QList<QByteArray> fields = message.split('\0');
-  if (take_({QString::fromUtf8(fields[0]), QString::fromUtf8(fields[1])}))
+  if (take_({QString::fromUtf8(fields[0]), QString::fromUtf8(fields[1]), QString::fromUtf8(fields[2])}))
     socket.write(kTaken.data(), kTaken.size());
   socket.disconnectFromServer();
 }

@@ -67,6 +67,37 @@ TEST_F(CommandLineTest, AfterTwoHyphensThereAreNoOptions) {
   expect({u"--"_qs}, Wish::OpenWindow, {});
 }
 
+TEST_F(CommandLineTest, AnErrandTakesAllThatFollowsAsItsSubject) {
+  using Kind = Errand::Kind;
+  const auto errand = [](const QStringList& arguments) { return readCommandLine(arguments).errand; };
+  EXPECT_EQ(errand({u"--search"_qs, u"northern harbour"_qs}), (Errand{Kind::Search, u"northern harbour"_qs}));
+  EXPECT_EQ(errand({u"--search"_qs, u"two"_qs, u"--words"_qs}), (Errand{Kind::Search, u"two --words"_qs}));
+  EXPECT_EQ(errand({u"--folder"_qs, u"/a 'b'\n\"c\""_qs}), (Errand{Kind::SearchFolder, u"/a 'b'\n\"c\""_qs}));
+  EXPECT_EQ(errand({u"--folder"_qs, u"music"_qs}),
+            (Errand{Kind::SearchFolder, QDir::currentPath() + u"/music"_qs}));
+  EXPECT_EQ(errand({u"--rescan"_qs}), (Errand{Kind::Rescan, {}}));
+  EXPECT_EQ(errand({u"--manual"_qs}), (Errand{Kind::ShowManual, {}}));
+  EXPECT_EQ(errand({}), Errand());
+  expect({u"--search"_qs, u"northern harbour"_qs}, Wish::OpenWindow, {});
+}
+
+TEST_F(CommandLineTest, AnErrandWithoutItsSubjectOrWithOneTooManyIsRefused) {
+  expect({u"--search"_qs}, Wish::MissValue, u"--search"_qs);
+  expect({u"--folder"_qs, {}}, Wish::MissValue, u"--folder"_qs);
+  expect({u"--rescan"_qs, u"all"_qs}, Wish::RefuseOption, u"--rescan"_qs);
+}
+
+TEST_F(CommandLineTest, AnErrandIsHandedOverAsText) {
+  using Kind = Errand::Kind;
+  for (const Errand& errand :
+       {Errand{Kind::Search, u" two  blanks "_qs}, Errand{Kind::SearchFolder, u"/a\nb"_qs},
+        Errand{Kind::Rescan, {}}, Errand{Kind::ShowManual, {}}, Errand()}) {
+    EXPECT_EQ(errandOf(textOf(errand)), errand) << textOf(errand).toStdString();
+  }
+  EXPECT_EQ(textOf(Errand()), QString());
+  EXPECT_EQ(errandOf(u"--format /home"_qs), Errand());
+}
+
 TEST_F(CommandLineTest, EachListingThatIsThereHasItsOwnSettings) {
   const QString listing = folder_.writeFile(u"disk.txt"_qs, "x");
   EXPECT_EQ(settingsSetOf(listing), listing);
@@ -75,7 +106,8 @@ TEST_F(CommandLineTest, EachListingThatIsThereHasItsOwnSettings) {
 }
 
 TEST_F(CommandLineTest, TheUsageNamesEveryOption) {
-  for (const char* option : {"--help", "--version", "[LISTING]"}) {
+  for (const char* option :
+       {"--help", "--version", "--search TEXT", "--folder FOLDER", "--rescan", "--manual", "[LISTING]"}) {
     EXPECT_TRUE(usageText().contains(QString::fromLatin1(option))) << option;
   }
 }

@@ -106,6 +106,15 @@ TEST_F(Starting, ASecondStartWithAListingThatIsNotThereIsToldInTheFirstWindow) {
   EXPECT_FALSE(home_.settings().contains(QStringLiteral("such.txt")));
 }
 
+TEST_F(Starting, ASecondStartSearchesInTheFirstWindow) {
+  home_.folder.writeFile(QStringLiteral("data/main.txt"),
+                         blockHead("Main", "\\far\\") + entryLine("song.mp3"));
+  RunningProgram first(desktop_, home_);
+  expectEndsQuietly({QStringLiteral("--search"), QStringLiteral("song")});
+  first.waitForHits({QStringLiteral("100%\tMain\t\\far\\\tsong.mp3\t0.00mb\tJan, 15 04")});
+  expectCleanEnd(first.endBy(kCtrlQ));
+}
+
 TEST_F(Starting, AKilledProgramIsNotInTheWayOfTheNext) {
   {
     RunningProgram killed(desktop_, home_);

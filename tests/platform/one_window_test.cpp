@@ -39,6 +39,7 @@ class OneWindowTest : public testing::Test {
   std::function<bool(const LaterStart&)> recording() {
     return [this](const LaterStart& start) {
       taken_.push_back(start.commandLine + u'|' + start.activationToken);
+      errands_.push_back(start.errand);
       return takes_;
     };
   }
@@ -49,16 +50,26 @@ class OneWindowTest : public testing::Test {
   QCoreApplication application_{argumentCount_, arguments_.data()};
   TemporaryFolder folder_;
   std::vector<QString> taken_;
+  std::vector<QString> errands_;
   bool takes_ = true;
 };
 
 TEST_F(OneWindowTest, TheFirstHasTheWindowAndTakesWhatLaterOnesHandOver) {
   OneWindow first(u"set"_qs, options());
-  EXPECT_FALSE(first.handOver({u"ignored"_qs, {}}));
+  EXPECT_FALSE(first.handOver({u"ignored"_qs, {}, {}}));
   first.serve(recording());
-  EXPECT_TRUE(isTaken(u"set"_qs, {u"/lists/d\u00efsk.txt"_qs, u"token"_qs}, options()));
+  EXPECT_TRUE(isTaken(u"set"_qs, {u"/lists/d\u00efsk.txt"_qs, u"token"_qs, {}}, options()));
   EXPECT_TRUE(isTaken(u"set"_qs, {}, options()));
   EXPECT_EQ(taken_, std::vector<QString>({u"/lists/d\u00efsk.txt|token"_qs, u"|"_qs}));
+}
+
+TEST_F(OneWindowTest, WhatALaterOneAsksForComesThroughWhateverIsInIt) {
+  OneWindow first(u"set"_qs, options());
+  first.handOver({});
+  first.serve(recording());
+  EXPECT_TRUE(isTaken(u"set"_qs, {{}, {}, u"--folder /a 'b'\n\"c\" \u00e9"_qs}, options()));
+  EXPECT_TRUE(isTaken(u"set"_qs, {u"disk.txt"_qs, u"token"_qs, {}}, options()));
+  EXPECT_EQ(errands_, std::vector<QString>({u"--folder /a 'b'\n\"c\" \u00e9"_qs, {}}));
 }
 
 TEST_F(OneWindowTest, AnotherSetHasAnotherWindow) {
@@ -77,7 +88,7 @@ TEST_F(OneWindowTest, AfterTheFirstTheNextHasTheWindow) {
   OneWindow next(u"set"_qs, options());
   EXPECT_FALSE(next.handOver({}));
   next.serve(recording());
-  EXPECT_TRUE(isTaken(u"set"_qs, {u"later"_qs, {}}, options()));
+  EXPECT_TRUE(isTaken(u"set"_qs, {u"later"_qs, {}, {}}, options()));
   EXPECT_EQ(taken_, std::vector<QString>({u"later|"_qs}));
 }
 
@@ -103,7 +114,7 @@ TEST_F(OneWindowTest, OneThatIsClosingIsWaitedForAndThenThisOneHasTheWindow) {
   first->handOver({});
   first->serve(recording());
   std::atomic<int> outcome = -1;
-  std::thread later([&] { outcome = OneWindow(u"set"_qs, options()).handOver({u"later"_qs, {}}); });
+  std::thread later([&] { outcome = OneWindow(u"set"_qs, options()).handOver({u"later"_qs, {}, {}}); });
   EXPECT_EVENTUALLY(taken_.size() >= 2);
   EXPECT_EQ(outcome, -1);
   first.reset();
@@ -128,7 +139,7 @@ TEST_F(OneWindowTest, AnotherUserIsNotTrustedWithTheStart) {
   first.serve(recording());
   OneWindowOptions ofAnother = options(300);
   ++ofAnother.user;
-  EXPECT_FALSE(isTaken(u"set"_qs, {u"secret"_qs, {}}, ofAnother));
+  EXPECT_FALSE(isTaken(u"set"_qs, {u"secret"_qs, {}, {}}, ofAnother));
   EXPECT_TRUE(taken_.empty());
 }
 
@@ -138,7 +149,7 @@ TEST_F(OneWindowTest, AnotherUserIsNotHeard) {
   OneWindow first(u"set"_qs, ofAnother);
   first.handOver({});
   first.serve(recording());
-  EXPECT_FALSE(isTaken(u"set"_qs, {u"foreign"_qs, {}}, options(300)));
+  EXPECT_FALSE(isTaken(u"set"_qs, {u"foreign"_qs, {}, {}}, options(300)));
   EXPECT_TRUE(taken_.empty());
 }
 
@@ -154,7 +165,7 @@ TEST_F(OneWindowTest, AMessageThatIsTooLongIsNotHeard) {
   OneWindow first(u"set"_qs, options());
   first.handOver({});
   first.serve(recording());
-  EXPECT_FALSE(isTaken(u"set"_qs, {QString(20'000, u'x'), {}}, options(300)));
+  EXPECT_FALSE(isTaken(u"set"_qs, {QString(20'000, u'x'), {}, {}}, options(300)));
   EXPECT_TRUE(taken_.empty());
 }
 
