@@ -43,6 +43,7 @@ ProgramPlace usualProgramPlace() {
 
 bool isInstalledOrBuilt(const QString& executableFolder) {
   return QFileInfo(executableFolder + QStringLiteral("/../share/quorvin/help")).isDir() ||
+         QFileInfo(executableFolder + QStringLiteral("/../../share/quorvin/help")).isDir() ||
          QFileInfo(executableFolder + QStringLiteral("/../CMakeCache.txt")).isFile();
 }
 

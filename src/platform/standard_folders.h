@@ -14,9 +14,10 @@ struct ProgramPlace {
 /// Those of this run: where the executable is, and userDataFolder().
 ProgramPlace usualProgramPlace();
 
-/// Whether the program in `executableFolder` was installed, that is its help is in "share/quorvin" beside
-/// that folder, or was built there, that is CMake's cache is in the folder above. Such a folder may be
-/// emptied or removed by those who make it, whoever may write there.
+/// Whether the program in `executableFolder` was installed, that is the help is in "share/quorvin" beside
+/// that folder ("bin") or the one above it ("libexec/quorvin"), or was built there, that is CMake's cache is
+/// in the folder above. Such a folder may be emptied or removed by those who make it, whoever may write
+/// there.
 bool isInstalledOrBuilt(const QString& executableFolder);
 
 /// The folder that an empty `LocalFolder` stands for, with a trailing separator: the folder of the executable

@@ -1,4 +1,5 @@
-// The console companion runs on servers without any windows; nothing may pull them in by the back door.
+// The console companion runs on servers without any windows, and the desktop's search starts its helper
+// before anybody wants a window; nothing may pull windows in by the back door.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,6 +31,14 @@ TEST(ConsoleProgram, LoadsNoQtWidgets) {
   ASSERT_THAT(libraries, testing::HasSubstr("libQt6Core"));
   EXPECT_THAT(libraries, testing::Not(testing::HasSubstr("libQt6Widgets")))
       << "quorvin-cli has been linked with a library that uses QtWidgets; see src/console/CMakeLists.txt.";
+}
+
+TEST(SearchProvider, LoadsNothingOfTheWindowSystem) {
+  const std::string libraries = librariesOf(QUORVIN_PROVIDER_PROGRAM);
+  ASSERT_THAT(libraries, testing::HasSubstr("libQt6DBus"));
+  EXPECT_THAT(libraries, testing::Not(testing::HasSubstr("libQt6Gui")))
+      << "quorvin-search-provider has been linked with a library that draws; see "
+         "src/provider/CMakeLists.txt.";
 }
 
 }  // namespace

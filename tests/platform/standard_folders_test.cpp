@@ -93,6 +93,9 @@ TEST(ChooseProgramFolder, OfAnInstalledProgramIsTheDataFolderWhoeverMayWrite) {
   const QString data = folder.pathOf(QStringLiteral("data/"));
   EXPECT_EQ(chooseProgramFolder(own.chopped(1), data), data);
   EXPECT_TRUE(folder.has(kNote));
+  // What others start is in a folder of the program's own.
+  const QString hidden = folder.makeFolder(QStringLiteral("usr/libexec/quorvin"));
+  EXPECT_EQ(chooseProgramFolder(hidden.chopped(1), data), data);
 }
 
 TEST(ChooseProgramFolder, OfAProgramInItsBuildFolderIsTheDataFolder) {
