@@ -10,8 +10,12 @@ WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14
   at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold)
 TIDY_PACKAGES=(clang-tidy-14)
+# To check licences and what desktops read:
+METADATA_PACKAGES=(appstream desktop-file-utils reuse)
 # To use the exported page as people do:
 BROWSER_PACKAGES=(chromium)
+# To try the packages in clean systems:
+PACKAGING_PACKAGES=(autopkgtest mmdebstrap rpm)
 # What the clang preset needs on top:
 CLANG_PACKAGES=(clang-14 libclang-rt-14-dev llvm-14)
 
@@ -35,6 +39,8 @@ quietly() {
   [ "$status" -eq 0 ] || printf '%s\n' "$output" >&2
   return "$status"
 }
+
+program_version() { sed -n -E 's/^project\(quorvin VERSION ([0-9.]+).*/\1/p' CMakeLists.txt; }
 
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
