@@ -127,7 +127,7 @@ class Finding {
       : request_(request),
         progress_(!request.isQuiet),
         options_(rowOptions(request)),
-        rows_(options_, locale_, WordPlaces(SearchQuery(simpleLowerCase(request.searchText), 1)), state_),
+        rows_(options_, locale_, SearchQuery(simpleLowerCase(request.searchText), 1), state_),
         writer_(stdout, rows_, writerOptions()) {
     if (request.useCache) segments_.emplace(SegmentStore::defaultOptions(SegmentUse::Once));
     run_.emplace(parts());

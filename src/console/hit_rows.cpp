@@ -1,16 +1,12 @@
 #include "console/hit_rows.h"
 
 #include "console/json_text.h"
-#include "dates/general_number.h"
 #include "faults/runtime_fault.h"
 #include "platform/text_encoding.h"
 #include "search/format/listing_line.h"
-#include "search/match/search_query.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cstdio>
 #include <utility>
 
 namespace quorvin {
@@ -42,72 +38,26 @@ const FieldName& nameOf(HitField field) {
   return kFields[static_cast<std::size_t>(field)];
 }
 
+bool isShared(HitField field) {
+  return field == HitField::Volume || field == HitField::Folder || field == HitField::Listing;
+}
+
+std::string keyOf(HitField field) {
+  return std::string("\"") + nameOf(field).name + "\":";
+}
+
+constexpr std::int16_t kWholeMatch = 100;
+
 constexpr std::string_view kMarkStart = "\x1B[1;31m";
 constexpr std::string_view kMarkEnd = "\x1B[m";
 
-bool isControl(char byte) {
-  return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;
-}
-
-template <typename Number>
-void addNumber(std::string& text, Number number) {
-  std::array<char, 24> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-  text.append(digits.data(), end);
-}
-
-void addUtf8(std::string& text, const QString& value) {
+std::string utf8Of(QStringView value) {
   const QByteArray bytes = value.toUtf8();
-  text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-std::string utf8Of(const QString& value) {
-  std::string text;
-  addUtf8(text, value);
-  return text;
-}
-
-void addMoment(std::string& text, DateValue date) {
-  const DayAndSecond moment = splitDateValue(date);
-  const CalendarDate day = calendarDateOf(moment.day);
-  std::array<char, 48> buffer;
-  const int length =
-      std::snprintf(buffer.data(), buffer.size(), "%04d-%02d-%02dT%02d:%02d:%02d", day.year, day.month,
-                    day.day, moment.second / 3600, moment.second / 60 % 60, moment.second % 60);
-  text.append(buffer.data(), static_cast<std::size_t>(length));
-}
-
-/// `text` from `start` on with a sign in place of each control character.
-void replaceControls(std::string& text, std::size_t start, char sign) {
-  std::replace_if(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), isControl, sign);
-}
-
-/// The same for the controls above ASCII and for bytes that are no UTF-8.
-void replaceHighControls(std::string& text, std::size_t start) {
-  const auto isHigh = [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; };
-  if (std::none_of(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), isHigh)) return;
-  std::string harmless;
-  for (std::size_t at = start; at < text.size();) {
-    const std::string_view rest = std::string_view(text).substr(at);
-    const std::size_t length = isHigh(rest[0]) ? characterLength(rest) : 1;
-    const std::string_view character = rest.substr(0, std::max<std::size_t>(length, 1));
-    harmless += length == 0 || isHighControl(character) ? std::string_view("?") : character;
-    at += character.size();
-  }
-  text.replace(start, std::string::npos, harmless);
-}
-
-void addCsvText(std::string& text, std::string_view value) {
-  if (value.find_first_of(",\"\n\r") == std::string_view::npos) {
-    text += value;
-    return;
-  }
-  text += '"';
-  for (const char byte : value) {
-    if (byte == '"') text += '"';
-    text += byte;
-  }
-  text += '"';
+bool isUtf8(std::string_view text) {
+  return isAscii(text) || isUtf8AsItStands({text.data(), static_cast<qsizetype>(text.size())});
 }
 
 /// Whether the name in a listing may be that of another file: it is cut, or has signs in place of others.
@@ -127,6 +77,11 @@ std::vector<HitField> columnsOf(const RowOptions& options) {
   return all;
 }
 
+CellRule ruleOf(const RowOptions& options) {
+  if (options.format == RowFormat::Csv) return CellRule::Quotes;
+  return options.endsWithNul && options.fields.size() == 1 ? CellRule::AsItIs : CellRule::Blanks;
+}
+
 }  // namespace
 
 QStringList hitFieldNames() {
@@ -140,18 +95,58 @@ std::optional<HitField> hitFieldNamed(const QString& name) {
   return place < 0 ? std::nullopt : std::optional(kFields[static_cast<std::size_t>(place)].field);
 }
 
-HitRows::HitRows(RowOptions options, const QLocale& locale, WordPlaces words, const ProgramState& state)
+/// The words, by their places in the query, that `areFound`.
+template <typename AreFound>
+void HitRows::addWordsThat(std::string& text, AreFound areFound) const {
+  if (isJson()) text += '[';
+  const std::size_t start = text.size();
+  for (std::size_t i = 0; i < query_.words().size(); ++i) {
+    if (!areFound(i)) continue;
+    if (text.size() > start) text += isJson() ? ',' : ' ';
+    const std::string& word = query_.words()[i].bytes;
+    if (isJson()) {
+      addJsonString(text, word);
+    } else {
+      text += word;
+    }
+  }
+  if (isJson()) {
+    text += ']';
+  } else {
+    cells_.finish(text, start);
+  }
+}
+
+HitRows::HitRows(RowOptions options, const QLocale& locale, SearchQuery query, const ProgramState& state)
     : options_(std::move(options)),
-      locale_(locale),
-      words_(std::move(words)),
+      query_(std::move(query)),
+      places_(query_),
       state_(state),
       paths_(state),
-      looksForPaths_(std::ranges::count(options_.fields, HitField::Path) > 0) {
+      cells_(ruleOf(options_), options_.isForTerminal),
+      looksForPaths_(asksFor(HitField::Path)),
+      isPathAlone_(options_.format != RowFormat::Json && options_.fields == std::vector{HitField::Path}),
+      rowEnd_(options_.endsWithNul ? '\0' : '\n'),
+      sizes_(locale),
+      shownDays_([this, locale](int day) {
+        std::string cell;
+        cells_.add(cell, utf8Of(shortMonthDateText(day, locale)));
+        return cell;
+      }) {
   options_.fields = columnsOf(options_);
+  for (const HitField field : options_.fields) {
+    if (!isShared(field)) own_.push_back({field, isJson() ? keyOf(field) : std::string()});
+  }
+  shared_.resize(own_.size() + 1);
+  addWordsThat(allWords_, [](std::size_t) { return true; });
+}
+
+bool HitRows::asksFor(HitField field) const {
+  return std::ranges::count(options_.fields, field) > 0;
 }
 
 void HitRows::addHead(std::string& text) const {
-  if (options_.format == RowFormat::Json) return;
+  if (isJson()) return;
   // With the window's columns their titles, too, are the window's.
   const bool isWindows = options_.fields.front() == HitField::ShownMatch;
   for (std::size_t column = 0; column < options_.fields.size(); ++column) {
@@ -160,27 +155,64 @@ void HitRows::addHead(std::string& text) const {
     text += nameOf(options_.fields[column]).title;
     if (isWindows && text[start] >= 'a') text[start] = static_cast<char>(text[start] - 'a' + 'A');
   }
-  text += options_.endsWithNul ? '\0' : '\n';
+  text += rowEnd_;
+}
+
+void HitRows::enterFolder(const HitFolder& folder) {
+  kind_ = folder.kind;
+  volume_ = folder.volume;
+  folder_ = folder.folder;
+  listing_ = folder.listing;
+  ownFolder_.reset();
+  folderHas_.clear();
+  if (asksFor(HitField::Words)) {
+    for (const SearchQuery::Word& word : query_.words()) {
+      folderHas_.push_back(folder.lowerFolder.find(word.bytes) != std::string_view::npos);
+    }
+  }
+  auto text = shared_.begin();
+  *text = isJson() ? "{" : "";
+  for (std::size_t column = 0; column < options_.fields.size(); ++column) {
+    if (column > 0 && !isJson()) *text += options_.format == RowFormat::Tsv ? '\t' : ',';
+    const HitField field = options_.fields[column];
+    if (isShared(field)) {
+      addShared(*text, field);
+    } else {
+      (++text)->clear();
+    }
+  }
+}
+
+void HitRows::addShared(std::string& text, HitField field) const {
+  const std::string& value = field == HitField::Volume   ? volume_
+                             : field == HitField::Folder ? folder_
+                                                         : listing_;
+  if (isJson()) {
+    text += keyOf(field);
+    addJsonString(text, value);
+    text += ',';
+  } else if (field == HitField::Folder) {
+    addName(text, value);
+  } else {
+    cells_.add(text, value);
+  }
 }
 
 bool HitRows::add(std::string& text, const FoundHit& hit) {
-  if (options_.format == RowFormat::Json) {
-    addObject(text, hit);
-  } else if (!addRow(text, hit)) {
-    return false;
-  }
-  text += options_.endsWithNul ? '\0' : '\n';
-  return true;
-}
-
-bool HitRows::addRow(std::string& text, const FoundHit& hit) {
   const std::size_t start = text.size();
-  for (std::size_t column = 0; column < options_.fields.size(); ++column) {
-    if (column > 0) text += options_.format == RowFormat::Tsv ? '\t' : ',';
-    addCell(text, options_.fields[column], hit);
+  for (std::size_t i = 0; i < own_.size(); ++i) {
+    text += shared_[i];
+    if (isJson()) {
+      addMember(text, own_[i], hit);
+    } else {
+      addCell(text, own_[i].field, hit);
+    }
   }
-  const bool isPathAlone = options_.fields.size() == 1 && options_.fields.front() == HitField::Path;
-  return !isPathAlone || text.size() > start;
+  text += shared_.back();
+  if (isJson()) endObject(text, hit);
+  if (isPathAlone_ && text.size() == start) return false;
+  text += rowEnd_;
+  return true;
 }
 
 void HitRows::addCell(std::string& text, HitField field, const FoundHit& hit) {
@@ -188,150 +220,148 @@ void HitRows::addCell(std::string& text, HitField field, const FoundHit& hit) {
   switch (field) {
     case HitField::Match:
       return addNumber(text, hit.match);
-    case HitField::Volume:
-      return addText(text, hit.volume);
-    case HitField::Folder:
-      return addMarked(text, hit.folder);
     case HitField::Name:
-      return addMarked(text, hit.name);
+      return addName(text, hit.name);
     case HitField::Path:
-      return addMarked(text, utf8Of(pathOf(hit).value_or(QString())));
+      if (const std::string* path = pathOf(hit)) addName(text, *path);
+      return;
     case HitField::Size:
       if (hit.values) addNumber(text, values.size);
       return;
     case HitField::Modified:
       if (hit.values) addMoment(text, values.date);
       return;
-    case HitField::Listing:
-      return addText(text, hit.listing);
     case HitField::Words:
-      return addText(text, utf8Of(wordsIn(hit).join(u' ')));
+      return addWords(text, hit);
     case HitField::ShownMatch:
-      return addText(text, utf8Of(matchText(hit.match)));
-    case HitField::ShownSize:
-      return addText(text, utf8Of(mebibytesText(values.size, locale_)));
+      text += matchCell(hit.match);
+      return;
+    case HitField::ShownSize: {
+      const std::size_t start = text.size();
+      sizes_.add(text, values.size);
+      return cells_.finish(text, start);
+    }
     case HitField::ShownDate:
-      return addText(text, utf8Of(shortMonthDateText(values.date, locale_)));
+      text += shownDays_.of(splitDateValue(values.date).day);
+      return;
+    case HitField::Volume:
+    case HitField::Folder:
+    case HitField::Listing:
+      return addShared(text, field);
   }
-}
-
-void HitRows::addText(std::string& text, std::string_view value) const {
-  const std::size_t start = text.size();
-  if (options_.format == RowFormat::Csv) {
-    addCsvText(text, value);
-    if (options_.isForTerminal) replaceControls(text, start, '?');
-  } else {
-    text += value;
-    const bool isLeft = options_.endsWithNul && options_.fields.size() == 1 && !options_.isForTerminal;
-    if (!isLeft) replaceControls(text, start, ' ');
-  }
-  if (options_.isForTerminal) replaceHighControls(text, start);
-}
-
-void HitRows::addMarked(std::string& text, std::string_view value) const {
-  if (!options_.isColoured) return addText(text, value);
-  const QString whole = textOfUtf8(value);
-  qsizetype done = 0;
-  for (const TextRange& range : words_.in(whole)) {
-    addText(text, utf8Of(whole.mid(done, range.start - done)));
-    text += kMarkStart;
-    addText(text, utf8Of(whole.mid(range.start, range.length)));
-    text += kMarkEnd;
-    done = range.start + range.length;
-  }
-  addText(text, utf8Of(whole.mid(done)));
-}
-
-void HitRows::addObject(std::string& text, const FoundHit& hit) {
-  text += '{';
-  for (const HitField field : options_.fields) addMember(text, field, hit);
-  if (hit.areInherited) text += "\"inherited\":true,";
-  if (text.back() == ',') text.pop_back();
-  text += '}';
 }
 
 /// With a comma behind it; nothing for what is not known.
-void HitRows::addMember(std::string& text, HitField field, const FoundHit& hit) {
-  std::optional<QString> path;
-  if (field == HitField::Path && !(path = pathOf(hit))) return;
-  if ((field == HitField::Size || field == HitField::Modified) && !hit.values) return;
-  text += '"';
-  text += nameOf(field).name;
-  text += "\":";
-  switch (field) {
-    case HitField::Volume:
-      addJsonString(text, hit.volume);
-      break;
-    case HitField::Folder:
-      addJsonString(text, hit.folder);
-      break;
+void HitRows::addMember(std::string& text, const OwnColumn& column, const FoundHit& hit) {
+  const bool isValue = column.field == HitField::Size || column.field == HitField::Modified;
+  if (isValue && !hit.values) return;
+  const std::string* path = column.field == HitField::Path ? pathOf(hit) : nullptr;
+  if (column.field == HitField::Path && path == nullptr) return;
+  text += column.key;
+  switch (column.field) {
     case HitField::Name:
       addJsonString(text, hit.name);
       break;
     case HitField::Path:
-      addJsonString(text, utf8Of(*path));
-      break;
-    case HitField::Listing:
-      addJsonString(text, hit.listing);
+      addJsonString(text, *path);
       break;
     case HitField::Modified:
       text += '"';
       addMoment(text, hit.values->date);
       text += '"';
       break;
-    case HitField::Words:
-      text += '[';
-      for (const QString& word : wordsIn(hit)) {
-        if (text.back() != '[') text += ',';
-        addJsonString(text, utf8Of(word));
-      }
-      text += ']';
-      break;
-    case HitField::Match:
-    case HitField::Size:
-    case HitField::ShownMatch:
-    case HitField::ShownSize:
-    case HitField::ShownDate:
-      addCell(text, field, hit);
+    default:
+      addCell(text, column.field, hit);
       break;
   }
   text += ',';
 }
 
-QStringList HitRows::wordsIn(const FoundHit& hit) const {
-  return words_.foundWords(textOfUtf8(hit.folder), textOfUtf8(hit.name));
+void HitRows::endObject(std::string& text, const FoundHit& hit) const {
+  if (hit.areInherited) text += "\"inherited\":true,";
+  if (text.back() == ',') text.pop_back();
+  text += '}';
 }
 
-/// Nothing where the hit is from no own folder, or its name in the listing is not the whole name and there is
-/// no such file now.
-std::optional<QString> HitRows::pathOf(const FoundHit& hit) {
-  if (hit.kind != SourceKind::Online) return std::nullopt;
-  const QString& folder = ownFolderOf(hit);
-  if (folder.isEmpty()) return std::nullopt;
+/// A folder, name or path.
+void HitRows::addName(std::string& text, std::string_view value) const {
+  if (options_.isColoured) {
+    addMarked(text, value);
+  } else {
+    cells_.add(text, value);
+  }
+}
+
+void HitRows::addMarked(std::string& text, std::string_view value) const {
+  const QString whole = textOfUtf8(value);
+  qsizetype done = 0;
+  for (const TextRange& range : places_.in(whole)) {
+    cells_.add(text, utf8Of(QStringView(whole).mid(done, range.start - done)));
+    text += kMarkStart;
+    cells_.add(text, utf8Of(QStringView(whole).mid(range.start, range.length)));
+    text += kMarkEnd;
+    done = range.start + range.length;
+  }
+  cells_.add(text, utf8Of(QStringView(whole).mid(done)));
+}
+
+void HitRows::addWords(std::string& text, const FoundHit& hit) const {
+  if (hit.match == kWholeMatch) {
+    text += allWords_;
+    return;
+  }
+  addWordsThat(text, [&](std::size_t word) {
+    return folderHas_[word] || hit.lowerName.find(query_.words()[word].bytes) != std::string_view::npos;
+  });
+}
+
+void HitRows::addMoment(std::string& text, DateValue date) {
+  const DayAndSecond moment = splitDateValue(date);
+  text += isoDays_.of(moment.day);
+  text += 'T';
+  addClock(text, moment.second);
+}
+
+const std::string& HitRows::matchCell(std::int16_t match) {
+  std::string& cell = matches_[static_cast<std::size_t>(std::clamp<std::int16_t>(match, 0, kWholeMatch))];
+  if (cell.empty()) cell = utf8Of(matchText(match));
+  return cell;
+}
+
+/// Null where the hit is from no own folder, or its name in the listing is not the whole name and there is no
+/// such file now. Valid until the next call.
+const std::string* HitRows::pathOf(const FoundHit& hit) {
+  if (kind_ != SourceKind::Online || ownFolder().empty()) return nullptr;
   const bool isOpen = mayDiffer(hit.name);
   if (isOpen || looksForPaths_) {
-    HitRow row{hit.match, hit.kind, textOfUtf8(hit.volume), textOfUtf8(hit.folder), textOfUtf8(hit.name)};
-    const HitPath file = paths_.of(row);
-    if (!file.isEmpty()) return file.fullPath();
+    const HitPath file =
+        paths_.of({hit.match, kind_, textOfUtf8(volume_), textOfUtf8(folder_), textOfUtf8(hit.name)});
+    if (!file.isEmpty()) {
+      path_ = utf8Of(file.fullPath());
+      return &path_;
+    }
   }
-  if (isOpen) return std::nullopt;
-  return folder + textOfUtf8(hit.name);
+  if (isOpen) return nullptr;
+  path_ = ownFolder();
+  if (isUtf8(hit.name)) {
+    path_ += hit.name;
+  } else {
+    path_ += utf8Of(textOfUtf8(hit.name));
+  }
+  return &path_;
 }
 
-const QString& HitRows::ownFolderOf(const FoundHit& hit) {
-  if (isFolderKnown_ && hit.folder == folderBefore_ && hit.volume == volumeBefore_) return ownFolder_;
-  folderBefore_ = hit.folder;
-  volumeBefore_ = hit.volume;
-  isFolderKnown_ = true;
+const std::string& HitRows::ownFolder() {
+  if (ownFolder_) return *ownFolder_;
   HitRow row;
-  row.volume = textOfUtf8(hit.volume);
-  row.folder = textOfUtf8(hit.folder);
+  row.volume = textOfUtf8(volume_);
+  row.folder = textOfUtf8(folder_);
   try {
-    ownFolder_ = folderOfHit(state_, row, nativePathStyle()).value_or(QString());
+    ownFolder_ = utf8Of(folderOfHit(state_, row, nativePathStyle()).value_or(QString()));
   } catch (const RuntimeFault&) {
-    ownFolder_.clear();
+    ownFolder_ = std::string();
   }
-  return ownFolder_;
+  return *ownFolder_;
 }
 
 }  // namespace quorvin

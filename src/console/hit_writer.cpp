@@ -20,9 +20,15 @@ void HitWriter::writeHead() {
 }
 
 void HitWriter::startListing(SourceKind kind, const QString& path) {
-  kind_ = kind;
-  listing_ = path.toStdString();
+  setListing(kind, path);
   values_.reset();
+}
+
+void HitWriter::setListing(SourceKind kind, const QString& path) {
+  kind_ = kind;
+  if (path == listingPath_) return;
+  listingPath_ = path;
+  listing_ = path.toStdString();
 }
 
 bool HitWriter::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
@@ -36,17 +42,15 @@ void HitWriter::addRows(const Segment& segment, std::span<const FoundEntry> hits
   const std::optional<EntryValues> valuesBefore = values_;
   const std::int64_t writtenBefore = written_;
   const std::int64_t leftOutBefore = leftOut_;
-  // A segment that still grows moves its texts.
-  block_ = {};
   try {
+    startSegment(segment);
     for (const FoundEntry& hit : hits) {
       if (isLimitReached()) break;
       enterBlock(segment, hit.entry);
       const ValueState state = segment.valueState(hit.entry);
       if (hasValues(state)) values_ = segment.values(hit.entry);
-      const std::string name = segment.arrays().entries.listedText(hit.entry);
-      const bool areInherited = values_ && state != ValueState::Own;
-      addRow({hit.match, kind_, block_.volume, block_.folder, name, values_, areInherited, listing_});
+      const ListedWalk::Text name = names_.at(hit.entry);
+      addRow({hit.match, name.listed, name.folded, values_, values_ && state != ValueState::Own});
     }
   } catch (const DamagedSegment&) {
     // The same hits will come again out of the listing itself.
@@ -58,16 +62,20 @@ void HitWriter::addRows(const Segment& segment, std::span<const FoundEntry> hits
   }
 }
 
+/// A segment that still grows moves its texts, so this is to be done again when more of them are there.
+void HitWriter::startSegment(const Segment& segment) {
+  names_.start(segment.arrays().entries);
+  folders_.start(segment.arrays().folders);
+  block_ = {};
+}
+
 void HitWriter::enterBlock(const Segment& segment, std::uint32_t entry) {
+  if (entry >= block_.first && entry < block_.last) return;
   const std::span<const std::uint32_t> starts = segment.arrays().blockStarts.all();
-  if (block_.segment == &segment && entry >= starts[block_.number] &&
-      (block_.number + 1 == starts.size() || entry < starts[block_.number + 1])) {
-    return;
-  }
-  block_.number = blockAt(starts, entry);
-  block_.volume = segment.volumeOfBlock(block_.number);
-  block_.folder = segment.folderOfBlock(block_.number);
-  block_.segment = &segment;
+  const std::uint32_t block = blockAt(starts, entry);
+  const ListedWalk::Text folder = folders_.at(block);
+  rows_.enterFolder({kind_, segment.volumeOfBlock(block), folder.listed, folder.folded, listing_});
+  block_ = {starts[block], block + 1 < starts.size() ? starts[block + 1] : UINT32_MAX};
 }
 
 std::int64_t HitWriter::writeRows(const HitTable& table, const std::vector<std::uint32_t>& tableRows) {
@@ -86,17 +94,18 @@ std::int64_t HitWriter::writeRows(const HitTable& table, const std::vector<std::
 
 void HitWriter::addTableRow(const HitTable& table, std::int64_t row) {
   const HitStretch stretch = table.stretchAt(row);
+  const Segment& segment = *stretch.segment;
   const FoundEntry& hit = stretch.hits.front();
-  block_ = {};
-  enterBlock(*stretch.segment, hit.entry);
-  const std::string name = stretch.segment->arrays().entries.listedText(hit.entry);
-  const std::string listing = table.listing(row).toStdString();
+  setListing(table.kind(row), table.listing(row));
+  startSegment(segment);
+  enterBlock(segment, hit.entry);
+  const ListedWalk::Text name = names_.at(hit.entry);
   const std::optional<std::int64_t> withValues = table.rowWithValues(row);
   std::optional<EntryValues> values;
   if (withValues) values = table.values(row);
   const bool areInherited =
-      withValues && (*withValues != row || stretch.segment->valueState(hit.entry) != ValueState::Own);
-  addRow({hit.match, table.kind(row), block_.volume, block_.folder, name, values, areInherited, listing});
+      withValues && (*withValues != row || segment.valueState(hit.entry) != ValueState::Own);
+  addRow({hit.match, name.listed, name.folded, values, areInherited});
 }
 
 void HitWriter::addRow(const FoundHit& hit) {

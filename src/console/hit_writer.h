@@ -4,6 +4,7 @@
 #include "console/hit_rows.h"
 #include "search/hit_sink.h"
 #include "search/hit_table.h"
+#include "search/segment/text_table.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -50,24 +51,28 @@ class HitWriter : public HitSink {
                   const std::shared_ptr<const Segment>& kept) override;
 
  private:
-  /// The block of the entry before.
+  /// The hits of an entry's block, from `first` to `last` - 1; none at first.
   struct Block {
-    const Segment* segment = nullptr;
-    std::uint32_t number = 0;
-    std::string_view volume;
-    std::string folder;
+    std::uint32_t first = 0;
+    std::uint32_t last = 0;
   };
 
   void addRows(const Segment& segment, std::span<const FoundEntry> hits);
+  void startSegment(const Segment& segment);
   void enterBlock(const Segment& segment, std::uint32_t entry);
   void addTableRow(const HitTable& table, std::int64_t row);
+  void setListing(SourceKind kind, const QString& path);
   void addRow(const FoundHit& hit);
 
   std::FILE* output_;
   HitRows& rows_;
   WriterOptions options_;
   SourceKind kind_ = SourceKind::Online;
+  QString listingPath_;
   std::string listing_;
+  ListedWalk names_;
+  ListedWalk folders_;
+  /// That of the entry before.
   Block block_;
   /// Size and date last read in the current listing.
   std::optional<EntryValues> values_;

@@ -2,20 +2,39 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
+#include <cstddef>
 
 namespace quorvin {
 
 namespace {
 
-bool isLowControl(char byte) {
-  return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;
+/// The ASCII characters that are in a string as they are.
+constexpr std::array<bool, 256> kIsPlain = [] {
+  std::array<bool, 256> isPlain{};
+  for (std::size_t byte = 0x20; byte < 0x7F; ++byte) isPlain[byte] = byte != '"' && byte != '\\';
+  return isPlain;
+}();
+
+void addEscaped(std::string& text, unsigned char number) {
+  constexpr char kDigits[] = "0123456789abcdef";
+  text += "\\u00";
+  text += kDigits[number / 16];
+  text += kDigits[number % 16];
 }
 
-void addEscaped(std::string& text, unsigned number) {
-  std::array<char, 8> buffer;
-  std::snprintf(buffer.data(), buffer.size(), "\\u%04x", number);
-  text += buffer.data();
+/// What is in a string in place of `character`, a single one.
+void addCharacter(std::string& text, std::string_view character) {
+  const auto first = static_cast<unsigned char>(character.front());
+  if (isHighControl(character)) {
+    addEscaped(text, static_cast<unsigned char>(character[1]));
+  } else if (first >= 0x80) {
+    text += "\\ufffd";
+  } else if (first < 0x20 || first == 0x7F) {
+    addEscaped(text, first);
+  } else {
+    text += '\\';
+    text += character;
+  }
 }
 
 }  // namespace
@@ -41,29 +60,23 @@ bool isHighControl(std::string_view character) {
 
 void addJsonString(std::string& text, std::string_view value) {
   text += '"';
+  // What can stay is appended a run at a time.
+  std::size_t run = 0;
   for (std::size_t at = 0; at < value.size();) {
-    const char byte = value[at];
-    if (static_cast<unsigned char>(byte) < 0x80) {
-      if (byte == '"' || byte == '\\') text += '\\';
-      if (isLowControl(byte)) {
-        addEscaped(text, static_cast<unsigned char>(byte));
-      } else {
-        text += byte;
-      }
+    const auto byte = static_cast<unsigned char>(value[at]);
+    if (kIsPlain[byte]) {
       ++at;
       continue;
     }
-    const std::size_t length = characterLength(value.substr(at));
+    const std::size_t length = byte < 0x80 ? 0 : characterLength(value.substr(at));
     const std::string_view character = value.substr(at, std::max<std::size_t>(length, 1));
-    if (length == 0) {
-      text += "\\ufffd";
-    } else if (isHighControl(character)) {
-      addEscaped(text, static_cast<unsigned char>(character[1]));
-    } else {
-      text += character;
-    }
     at += character.size();
+    if (length > 0 && !isHighControl(character)) continue;
+    text += value.substr(run, at - character.size() - run);
+    addCharacter(text, character);
+    run = at;
   }
+  text += value.substr(run);
   text += '"';
 }
 

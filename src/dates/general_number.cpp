@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -118,7 +120,13 @@ std::optional<std::int64_t> readByteCount(QStringView text) {
   return -value;
 }
 
-QString mebibytesText(std::int64_t bytes, const QLocale& locale) {
+MebibyteWriter::MebibyteWriter(const QLocale& locale)
+    : point_(locale.decimalPoint().toStdString()), hasAsciiDigits_(locale.zeroDigit() == u"0") {
+  if (hasAsciiDigits_) return;
+  std::ranges::transform(digitsOf(locale), digits_.begin(), &QString::toStdString);
+}
+
+void MebibyteWriter::add(std::string& text, std::int64_t bytes) const {
   constexpr unsigned kMebibyteBits = 20;
   constexpr std::uint64_t kMebibyte = std::uint64_t{1} << kMebibyteBits;
   const bool negative = bytes < 0;
@@ -126,11 +134,29 @@ QString mebibytesText(std::int64_t bytes, const QLocale& locale) {
   // Whole mebibytes are split off first, so that the hundredfold of the largest size still fits.
   const std::uint64_t partHundredths = ((magnitude % kMebibyte) * 100 + kMebibyte / 2) >> kMebibyteBits;
   const std::uint64_t hundredths = (magnitude >> kMebibyteBits) * 100 + partHundredths;
-  const QString sign = negative && hundredths > 0 ? QStringLiteral("-") : QString();
-  const QString whole = QString::number(hundredths / 100);
-  const QString part = QString::number(hundredths % 100).rightJustified(2, u'0');
-  return sign + withLocaleDigits(whole, locale) + locale.decimalPoint() + withLocaleDigits(part, locale) +
-         QStringLiteral("mb");
+  if (negative && hundredths > 0) text += '-';
+  std::array<char, 24> digits;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), hundredths / 100).ptr;
+  addNumber(text, digits.data(), end);
+  text += point_;
+  const std::uint64_t part = hundredths % 100;
+  const std::array<char, 2> two = {static_cast<char>('0' + part / 10), static_cast<char>('0' + part % 10)};
+  addNumber(text, two.data(), two.data() + two.size());
+  text += "mb";
+}
+
+void MebibyteWriter::addNumber(std::string& text, const char* digits, const char* end) const {
+  if (hasAsciiDigits_) {
+    text.append(digits, end);
+    return;
+  }
+  for (; digits != end; ++digits) text += digits_[static_cast<std::size_t>(*digits - '0')];
+}
+
+QString mebibytesText(std::int64_t bytes, const QLocale& locale) {
+  std::string text;
+  MebibyteWriter(locale).add(text, bytes);
+  return QString::fromStdString(text);
 }
 
 std::array<QString, 10> digitsOf(const QLocale& locale) {

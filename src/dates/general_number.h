@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace quorvin {
 
@@ -28,7 +29,25 @@ std::optional<std::int64_t> readByteCount(QStringView text);
 /// A size as the hit list shows it: mebibytes with two decimals, at least one digit before the locale's
 /// decimal sign, no grouping, ties rounded away from zero, followed by "mb" ("0.13mb" for 131,072 bytes).
 /// A size that rounds to zero carries no minus sign.
+/// For many sizes: MebibyteWriter.
 QString mebibytesText(std::int64_t bytes, const QLocale& locale);
+
+/// Writes what mebibytesText gives, as UTF-8, with the locale's signs looked up once.
+class MebibyteWriter {
+ public:
+  explicit MebibyteWriter(const QLocale& locale);
+
+  /// Appends the text of `bytes`.
+  void add(std::string& text, std::int64_t bytes) const;
+
+ private:
+  void addNumber(std::string& text, const char* digits, const char* end) const;
+
+  std::string point_;
+  /// The locale's signs for 0 to 9; unused where they are those of ASCII.
+  std::array<std::string, 10> digits_;
+  bool hasAsciiDigits_;
+};
 
 /// The locale's own signs for 0 to 9.
 std::array<QString, 10> digitsOf(const QLocale& locale);

@@ -2,6 +2,8 @@
 
 #include "platform/text_encoding.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace quorvin {
@@ -45,16 +47,6 @@ std::vector<WordPlaces::Word> WordPlaces::missing(QStringView folder, QStringVie
 int WordPlaces::found(QStringView folder, QStringView name) const {
   int found = wordCount_;
   for (const Word& word : missing(folder, name)) found -= word.times;
-  return found;
-}
-
-QStringList WordPlaces::foundWords(QStringView folder, QStringView name) const {
-  const QString lowerFolder = simpleLowerCase(folder);
-  const QString lowerName = simpleLowerCase(name);
-  QStringList found;
-  for (const Word& word : words_) {
-    if (lowerFolder.contains(word.text) || lowerName.contains(word.text)) found += word.text;
-  }
   return found;
 }
 

@@ -4,7 +4,6 @@
 #include "search/match/search_query.h"
 
 #include <QString>
-#include <QStringList>
 #include <QStringView>
 
 #include <vector>
@@ -34,9 +33,6 @@ class WordPlaces {
   /// How many words of the search text the entry holds, counted as for its match: repetitions count again,
   /// and empty words are found everywhere.
   int found(QStringView folder, QStringView name) const;
-
-  /// The different words that it holds, as they are searched for, in their order; none of them is empty.
-  QStringList foundWords(QStringView folder, QStringView name) const;
 
   /// "3 of 4 words; missing: live", the missing ones as they are searched for. Empty for fewer than two
   /// words, where there is nothing to explain.

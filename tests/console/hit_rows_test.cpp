@@ -1,5 +1,6 @@
 #include "console/hit_rows.h"
 
+#include "console/plain_hit_rows.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -10,30 +11,30 @@ namespace {
 
 class HitRowsTest : public testing::Test {
  protected:
-  static FoundHit sampleHit() {
+  static test::PlainHit sampleHit() {
     return {67,    SourceKind::Online, "CD 7", "\\Music\\", "Live, \"late\".mp3", {{131072, 38001.5}},
             false, "/lists/cd7.txt"};
   }
 
-  std::string rowOf(const FoundHit& hit, RowOptions options) {
-    HitRows rows(std::move(options), QLocale::c(), WordPlaces(SearchQuery(u"live at music", 1)), state_);
+  std::string rowOf(const test::PlainHit& hit, RowOptions options) {
+    HitRows rows(std::move(options), QLocale::c(), SearchQuery(u"live at music", 1), state_);
     std::string text;
-    isWritten_ = rows.add(text, hit);
+    isWritten_ = test::addQuickly(rows, hit, text);
     return text;
   }
   std::string headOf(RowOptions options) {
-    const HitRows rows(std::move(options), QLocale::c(), WordPlaces(), state_);
+    const HitRows rows(std::move(options), QLocale::c(), {}, state_);
     std::string text;
     rows.addHead(text);
     return text;
   }
   std::string tsvOf(std::string_view name) {
-    FoundHit hit = sampleHit();
+    test::PlainHit hit = sampleHit();
     hit.name = name;
     return rowOf(hit, {.fields = {HitField::Name}});
   }
   std::string jsonOf(std::string_view name, bool isForTerminal = false) {
-    FoundHit hit = sampleHit();
+    test::PlainHit hit = sampleHit();
     hit.name = name;
     return rowOf(hit,
                  {.format = RowFormat::Json, .fields = {HitField::Name}, .isForTerminal = isForTerminal});
@@ -71,7 +72,7 @@ TEST_F(HitRowsTest, JsonHasEveryFieldTyped) {
 }
 
 TEST_F(HitRowsTest, InheritedValuesAreMarkedAndAbsentOnesLeftOut) {
-  FoundHit hit = sampleHit();
+  test::PlainHit hit = sampleHit();
   hit.areInherited = true;
   const RowOptions options{.format = RowFormat::Json,
                            .fields = {HitField::Match, HitField::Size, HitField::Modified}};
@@ -90,7 +91,7 @@ TEST_F(HitRowsTest, TsvTurnsControlCharactersIntoBlanks) {
 }
 
 TEST_F(HitRowsTest, TextsOfOneColumnAreLeftAsTheyAreWhereRowsEndWithNul) {
-  FoundHit hit = sampleHit();
+  test::PlainHit hit = sampleHit();
   hit.name = "a\tb\nc";
   EXPECT_EQ(rowOf(hit, {.fields = {HitField::Name}, .endsWithNul = true}), std::string("a\tb\nc\0", 6));
   EXPECT_EQ(rowOf(hit, {.fields = {HitField::Match, HitField::Name}, .endsWithNul = true}),
@@ -113,7 +114,7 @@ TEST_F(HitRowsTest, JsonEscapesControlCharactersAndReplacesWhatIsNoUtf8) {
 }
 
 TEST_F(HitRowsTest, NoControlCharacterReachesATerminal) {
-  FoundHit hit = sampleHit();
+  test::PlainHit hit = sampleHit();
   hit.name =
       "\x1B[2J\xC2\x9B"
       "31m\xC3\xA4\r";
@@ -144,7 +145,7 @@ class PathsOfRows : public HitRowsTest {
     listed_ = folder_.pathOf(u"Music/"_qs).replace(u'/', u'\\').toStdString();
   }
   std::string pathOf(std::string_view name, SourceKind kind = SourceKind::Online) {
-    FoundHit hit = sampleHit();
+    test::PlainHit hit = sampleHit();
     hit.kind = kind;
     hit.folder = listed_;
     hit.name = name;

@@ -26,7 +26,7 @@ class HitWriterTest : public testing::Test {
 
   std::string written() {
     std::rewind(file_);
-    std::array<char, 4096> buffer{};
+    std::array<char, 1 << 16> buffer{};
     return {buffer.data(), std::fread(buffer.data(), 1, buffer.size(), file_)};
   }
 
@@ -73,6 +73,33 @@ TEST_F(HitWriterTest, RowsOfATableSayTheSame) {
   EXPECT_EQ(writer.writeRows(table, {2, 0, 1}), 0);
   writer.flush();
   EXPECT_EQ(written(), tune_ + song_ + film_);
+}
+
+TEST_F(HitWriterTest, HitsHereAndThereHaveTheirOwnNamesAndFolders) {
+  HitRows rows({.fields = {HitField::Folder, HitField::Name, HitField::Size}}, QLocale::c(), {}, state_);
+  const auto segment = std::make_shared<GrowingSegment>();
+  std::vector<FoundEntry> hits;
+  std::string expected;
+  for (std::uint32_t entry = 0; entry < 2000; ++entry) {
+    const std::string number = std::to_string(entry);
+    const std::string folder = "\\Folder " + std::to_string(entry / 7) + "\\";
+    if (entry % 7 == 0) segment->beginBlock("V", folder, true);
+    const bool isAsciiName = entry % 3 != 0;
+    const std::string name = (isAsciiName ? "Name " : "\xC3\x84RGER ") + number;
+    segment->addEntry(name, isAsciiName);
+    segment->setValues(entry, ValueState::Own, {entry, 1}, entry + 1);
+    if (entry % 5 != 0 && entry % 11 != 1) continue;
+    hits.push_back({entry, 100});
+    expected += folder + '\t' + name + '\t' + number + '\n';
+  }
+  segment->publish();
+  HitWriter writer(file_, rows);
+  writer.startListing(SourceKind::Online, {});
+  // The second half is of the folder in which the first one ends.
+  writer.addHits(segment, std::span(hits).first(hits.size() / 2));
+  writer.addHits(segment, std::span(hits).subspan(hits.size() / 2));
+  writer.flush();
+  EXPECT_EQ(written(), expected);
 }
 
 TEST_F(HitWriterTest, WantsNoMoreThanTheLimit) {

@@ -174,4 +174,15 @@ TEST(MebibytesText, HasTheLocalesSignsAndNoGrouping) {
   EXPECT_EQ(mebibytesText(131072, QLocale(u"ar_EG")), QStringLiteral("٠٫١٣mb"));
 }
 
+TEST(MebibyteWriter, AppendsTheSame) {
+  std::string text = "size: ";
+  MebibyteWriter(QLocale(u"de_DE")).add(text, -131072);
+  EXPECT_EQ(text, "size: -0,13mb");
+  const MebibyteWriter egyptian(QLocale(u"ar_EG"));
+  text.clear();
+  egyptian.add(text, 131072);
+  egyptian.add(text, 0);
+  EXPECT_EQ(text, "\u0660\u066B\u0661\u0663mb\u0660\u066B\u0660\u0660mb");
+}
+
 }  // namespace quorvin

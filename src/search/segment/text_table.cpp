@@ -23,15 +23,20 @@ const char* endOfText(const char* begin) {
   return static_cast<const char*>(::rawmemchr(begin, kTextEnd));
 }
 
-bool bitAt(std::uint64_t bits, std::uint32_t index) {
-  return (bits >> (index % 64) & 1U) != 0;
+/// The bits of eight letters, the first one lowest, as what tells a capital from a small letter in each byte.
+constexpr std::uint64_t capitalBytes(std::uint8_t bits) {
+  const std::uint64_t picked = bits * 0x0101010101010101U & 0x8040201008040201U;
+  return ((picked + 0x7F7F7F7F7F7F7F7FU) & 0x8080808080808080U) >> 2;
 }
 
-/// Puts the capitals back.
-void raise(std::string& text, std::span<const std::uint8_t> upperBits) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if ((static_cast<unsigned>(upperBits[i / 8]) >> (i % 8) & 1U) != 0)
-      text[i] = static_cast<char>(text[i] - ('a' - 'A'));
+/// Writes `folded` to `raised` with the capitals put back. Readable bytes follow it.
+void raise(std::string_view folded, std::span<const std::uint8_t> upperBits, std::string& raised) {
+  raised.resize(upperBits.size() * sizeof(std::uint64_t));
+  for (std::size_t i = 0; i < upperBits.size(); ++i) {
+    std::uint64_t eight = 0;
+    std::memcpy(&eight, folded.data() + i * sizeof eight, sizeof eight);
+    eight = lowestByteFirst(lowestByteFirst(eight) ^ capitalBytes(upperBits[i]));
+    std::memcpy(raised.data() + i * sizeof eight, &eight, sizeof eight);
   }
 }
 
@@ -106,26 +111,9 @@ std::string_view TextTable::toSearch(Stretch stretch) const {
 }
 
 std::string TextTable::listedText(std::uint32_t text) const {
-  const auto all = exceptions.all();
-  const auto exception = std::lower_bound(all.begin(), all.end(), text,
-                                          [](const Exception& e, std::uint32_t t) { return e.text < t; });
-  if (exception != all.end() && exception->text == text) {
-    const std::uint32_t size = std::next(exception)->start - exception->start;
-    return std::string(textOf(exceptionTexts.part(exception->start, size)));
-  }
-  const Stretch group = between(text / kTextsPerMark, text / kTextsPerMark + 1);
-  const char* begin = folded.part(group.begin, group.size).data();
-  // The texts of a mark have their bits in one element.
-  const std::uint64_t withUpper = hasUpper[text / 64];
-  std::size_t upper = marks[text / kTextsPerMark].upper;
-  for (std::uint32_t i = text - text % kTextsPerMark; i < text; ++i) {
-    const char* end = endOfText(begin);
-    if (bitAt(withUpper, i)) upper += (static_cast<std::size_t>(end - begin) + 7) / 8;
-    begin = end + 1;
-  }
-  std::string listed(begin, static_cast<std::size_t>(endOfText(begin) - begin));
-  if (bitAt(withUpper, text)) raise(listed, upperBits.part(upper, (listed.size() + 7) / 8));
-  return listed;
+  ListedWalk walk;
+  walk.start(*this);
+  return std::string(walk.at(text).listed);
 }
 
 std::uint32_t TextWalk::placeOf(std::uint32_t text) {
@@ -143,6 +131,52 @@ std::uint32_t TextWalk::placeOf(std::uint32_t text) {
 std::string_view TextWalk::text(std::uint32_t text) {
   placeOf(text);
   return {at_, static_cast<std::size_t>(endOfText(at_) - at_)};
+}
+
+void ListedWalk::start(const TextTable& table) {
+  table_ = &table;
+  current_ = UINT32_MAX;
+  exceptions_ = table.exceptions.all();
+}
+
+ListedWalk::Text ListedWalk::at(std::uint32_t text) {
+  const bool isAhead = current_ <= text && current_ / kTextsPerMark == text / kTextsPerMark;
+  if (!isAhead) enterGroup(text);
+  while (current_ < text) goOn();
+  return {listed(), {begin_, size()}};
+}
+
+void ListedWalk::enterGroup(std::uint32_t text) {
+  const std::uint32_t group = text / kTextsPerMark;
+  const TextTable::Stretch stretch = table_->between(group, group + 1);
+  begin_ = table_->folded.part(stretch.begin, stretch.size).data();
+  end_ = endOfText(begin_);
+  upper_ = table_->marks[group].upper;
+  // The texts of a mark have their bits in one element.
+  withUpper_ = table_->hasUpper[text / 64];
+  if (current_ == UINT32_MAX || current_ > text) {
+    const auto found = std::ranges::lower_bound(exceptions_, text, {}, &TextTable::Exception::text);
+    exception_ = static_cast<std::size_t>(found - exceptions_.begin());
+  }
+  current_ = text - text % kTextsPerMark;
+}
+
+void ListedWalk::goOn() {
+  if (hasUpper()) upper_ += (size() + 7) / 8;
+  begin_ = end_ + 1;
+  end_ = endOfText(begin_);
+  ++current_;
+}
+
+std::string_view ListedWalk::listed() {
+  while (exception_ < exceptions_.size() && exceptions_[exception_].text < current_) ++exception_;
+  if (exception_ < exceptions_.size() && exceptions_[exception_].text == current_) {
+    const std::uint32_t start = exceptions_[exception_].start;
+    return textOf(table_->exceptionTexts.part(start, table_->exceptions[exception_ + 1].start - start));
+  }
+  if (!hasUpper()) return {begin_, size()};
+  raise({begin_, size()}, table_->upperBits.part(upper_, (size() + 7) / 8), raised_);
+  return std::string_view(raised_).substr(0, size());
 }
 
 void TextTableBuilder::add(std::string_view listed, bool ascii) {

@@ -92,6 +92,46 @@ TEST(TextTable, ManyTextsComeBackAcrossMarksAndPages) {
   }
 }
 
+TEST(ListedWalk, GivesWhatListedTextGivesInAnyOrder) {
+  std::mt19937 random(19);
+  TextTableBuilder builder;
+  std::vector<Pair> texts;
+  while (texts.size() < 3000) {
+    texts.push_back(hardTexts()[random() % hardTexts().size()]);
+    add(builder, texts.back().listed);
+  }
+  const TextTable table = builder.table();
+  ListedWalk walk;
+  for (const std::uint32_t farthest : {1U, 2U, 5U, 40U, 1000U}) {
+    walk.start(table);
+    for (std::uint32_t at = 0; at < table.count; at += 1 + static_cast<std::uint32_t>(random() % farthest)) {
+      ASSERT_EQ(walk.at(at).listed, texts[at].listed) << "text " << at;
+      ASSERT_EQ(walk.at(at).folded, texts[at].folded) << "text " << at;
+    }
+  }
+  for (int i = 0; i < 3000; ++i) {
+    const auto at = static_cast<std::uint32_t>(random() % table.count);
+    ASSERT_EQ(walk.at(at).listed, texts[at].listed) << "text " << at;
+  }
+}
+
+TEST(ListedWalk, GoesFromTableToTable) {
+  TextTableBuilder first;
+  TextTableBuilder second;
+  for (const char* text : {"A", "\xC3\x84rger", "C"}) add(first, text);
+  for (const char* text : {"Other", "\xC3\x96l"}) add(second, text);
+  ListedWalk walk;
+  const TextTable one = first.table();
+  const TextTable two = second.table();
+  walk.start(one);
+  EXPECT_EQ(walk.at(1).listed, "\xC3\x84rger");
+  walk.start(two);
+  EXPECT_EQ(walk.at(1).listed, "\xC3\x96l");
+  EXPECT_EQ(walk.at(0).listed, "Other");
+  walk.start(one);
+  EXPECT_EQ(walk.at(2).listed, "C");
+}
+
 TEST(TextTable, EveryTextEndsWithTheEndByteAndPaddingFollows) {
   TextTableBuilder builder;
   for (const char* text : {"A", "", "bc"}) add(builder, text);
