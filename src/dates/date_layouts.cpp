@@ -1,8 +1,8 @@
 #include "dates/date_layouts.h"
 
+#include "dates/eight_bytes.h"
+
 #include <algorithm>
-#include <bit>
-#include <cstring>
 #include <string>
 #include <utility>
 
@@ -28,7 +28,6 @@ using Pieces = std::vector<Piece>;
 constexpr std::size_t kNameLetters = 3;
 constexpr std::size_t kMostLayouts = 64;
 constexpr int kMonths = 12;
-constexpr std::uint64_t kEveryByte = 0x0101010101010101U;
 
 constexpr bool isLetter(char16_t unit) {
   return unit >= u'a' && unit <= u'z';
@@ -135,13 +134,6 @@ std::vector<std::uint32_t> monthLettersOf(const QLocale& locale, const WordList&
   return names;
 }
 
-/// Eight bytes, the first one lowest.
-std::uint64_t wordAt(const char* bytes) {
-  std::uint64_t word = 0;
-  std::memcpy(&word, bytes, sizeof word);
-  return std::endian::native == std::endian::big ? __builtin_bswap64(word) : word;
-}
-
 }  // namespace
 
 DateLayouts::DateLayouts(const QLocale& locale, const DatePattern& date, const DatePattern& time,
@@ -199,7 +191,8 @@ DateLayouts::Layout DateLayouts::layoutOf(const Pieces& pieces) {
   const std::array<std::size_t, kWords> places = {0, kStep, std::min(2 * kStep, last), last};
   for (std::size_t i = 0; i < places.size(); ++i) {
     const std::size_t at = places[i];
-    layout.words[i] = {at, wordAt(fold + at), wordAt(mask + at), wordAt(literal + at), wordAt(digit + at)};
+    layout.words[i] = {at, eightBytesAt(fold + at), eightBytesAt(mask + at), eightBytesAt(literal + at),
+                       eightBytesAt(digit + at)};
   }
   std::size_t at = 0;
   for (const Piece& piece : pieces) {
@@ -252,11 +245,10 @@ bool DateLayouts::fits(const Layout& layout, const char* text, Pairs& pairs) {
   std::uint64_t wrong = 0;
   for (std::size_t i = 0; i < kWords; ++i) {
     const Word& word = layout.words[i];
-    const std::uint64_t bytes = wordAt(text + word.at);
+    const std::uint64_t bytes = eightBytesAt(text + word.at);
     wrong |= ((bytes | word.foldMask) ^ word.literal) & word.literalMask;
-    // A digit is 0 to 9 now; all else reaches the uppermost bit, by itself or with 118 added.
-    const std::uint64_t digits = (bytes ^ kEveryByte * '0') & word.digitMask;
-    wrong |= (digits | (digits + kEveryByte * 118)) & kEveryByte * 0x80;
+    std::uint64_t digits = 0;
+    wrong |= noDigitsAmong(bytes, word.digitMask, digits);
     pairs[i] = digits * 10 + (digits >> 8);
     if (i == 0) pairs[kWords] = digits;
   }

@@ -1,8 +1,8 @@
 #include "search/segment/entry_values.h"
 
+#include "dates/eight_bytes.h"
 #include "dates/general_date.h"
 #include "dates/general_number.h"
-#include "platform/instruction_set.h"
 #include "platform/text_encoding.h"
 #include "search/format/listing_line.h"
 
@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cstring>
 #include <limits>
 #include <utility>
 
@@ -37,9 +36,7 @@ std::string_view dateTextOf(std::string_view tail, bool ascii) {
 /// Whether the columns between size and date, 13 to 20, are ASCII and so bytes.
 bool isAsciiBeforeDate(std::string_view tail) {
   static_assert(kDateOffset - kSizeWidth < sizeof(std::uint64_t));
-  std::uint64_t columns = 0;
-  std::memcpy(&columns, tail.data() + kSizeWidth, sizeof columns);
-  return (columns & 0x8080808080808080U) == 0;
+  return (eightBytesAt(tail.data() + kSizeWidth) & eightTimes('\x80')) == 0;
 }
 
 bool isDigit(char c) {
@@ -66,7 +63,6 @@ struct SizeLayout {
   Word back;
 };
 constexpr std::size_t kBackWord = kSizeWidth - sizeof(std::uint64_t);
-constexpr std::uint64_t kEveryByte = 0x0101010101010101U;
 
 constexpr SizeLayout sizeLayout(std::size_t blanks) {
   SizeLayout layout;
@@ -89,28 +85,20 @@ constexpr std::array<SizeLayout, kSizeWidth> kSizeLayouts = [] {
   return layouts;
 }();
 
-std::uint64_t wordAt(const char* bytes) {
-  std::uint64_t word = 0;
-  std::memcpy(&word, bytes, sizeof word);
-  return lowestByteFirst(word);
-}
-
 /// Leaves the digits of `bytes` in `digits`, all other bytes 0. Where it is not 0, it is not as in `layout`.
-std::uint64_t strays(std::uint64_t bytes, std::uint64_t sign, const SizeLayout::Word& layout,
+std::uint64_t strays(std::uint64_t bytes, std::uint64_t signs, const SizeLayout::Word& layout,
                      std::uint64_t& digits) {
-  digits = (bytes ^ kEveryByte * '0') & layout.digits;
-  // A digit is 0 to 9 now; all else reaches the uppermost bit, by itself or with 118 added.
-  const std::uint64_t noDigits = (digits | (digits + kEveryByte * 118)) & kEveryByte * 0x80;
-  return ((bytes ^ kEveryByte * ' ') & layout.blanks) | ((bytes ^ sign) & layout.signs) | noDigits;
+  return ((bytes ^ eightTimes(' ')) & layout.blanks) | ((bytes ^ signs) & layout.signs) |
+         noDigitsAmong(bytes, layout.digits, digits);
 }
 
 /// Reads the size at `columns` as this program writes it, without a step that depends on how long it is.
 /// False where it has to be looked at closely.
 bool readWrittenSize(const char* columns, std::uint64_t& size) {
-  const std::uint64_t front = wordAt(columns);
-  const std::uint64_t back = wordAt(columns + kBackWord);
-  const std::uint64_t frontText = front ^ kEveryByte * ' ';
-  const std::uint64_t backText = back ^ kEveryByte * ' ';
+  const std::uint64_t front = eightBytesAt(columns);
+  const std::uint64_t back = eightBytesAt(columns + kBackWord);
+  const std::uint64_t frontText = front ^ eightTimes(' ');
+  const std::uint64_t backText = back ^ eightTimes(' ');
   if (backText == 0) return false;
   const std::size_t frontBlanks = static_cast<std::size_t>(std::countr_zero(frontText)) / 8;
   const std::size_t backBlanks = static_cast<std::size_t>(std::countr_zero(backText)) / 8 + kBackWord;
@@ -121,7 +109,7 @@ bool readWrittenSize(const char* columns, std::uint64_t& size) {
   const char sign = columns[kLastSign];
   std::uint64_t high = 0;
   std::uint64_t low = 0;
-  const std::uint64_t signs = kEveryByte * static_cast<unsigned char>(sign);
+  const std::uint64_t signs = eightTimes(sign);
   if ((strays(front, signs, layout.front, high) | strays(back, signs, layout.back, low)) != 0) return false;
   // Where a size has no signs there is a blank.
   if (!isGrouping(sign) || (layout.back.digits >> 56) == 0) return false;
