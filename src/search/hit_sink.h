@@ -43,9 +43,9 @@ class HitSink {
   /// throw DamagedSegment, and has then taken none of these hits.
   virtual bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) = 0;
 
-  /// No more hits of `segment` will come. `kept` is an equal segment that stays in any case and is to be used
-  /// instead (it may be `segment` itself). It is null where only the hits keep the segment alive; a copy of
-  /// their entries alone is then the better thing to keep.
+  /// No more hits of `segment` will come; those of the next one may have begun to. `kept` is an equal segment
+  /// that stays in any case and is to be used instead (it may be `segment` itself). It is null where only the
+  /// hits keep the segment alive; a copy of their entries alone is then the better thing to keep.
   virtual void endSegment(const std::shared_ptr<const Segment>& segment,
                           const std::shared_ptr<const Segment>& kept) = 0;
 };

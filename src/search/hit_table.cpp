@@ -184,22 +184,27 @@ void HitTable::noteCarriedRow(std::int64_t row) {
 
 void HitTable::endSegment(const std::shared_ptr<const Segment>& segment,
                           const std::shared_ptr<const Segment>& kept) {
-  if (segments_.empty() || segments_.back().segment != segment) return;
+  // The next segment may have come.
+  constexpr std::ptrdiff_t kLatest = 2;
+  const auto latest = segments_.end() - std::min(kLatest, std::ssize(segments_));
+  const auto rows =
+      std::find_if(latest, segments_.end(), [&](const SegmentRows& own) { return own.segment == segment; });
+  if (rows == segments_.end()) return;
   if (kept) {
-    segments_.back().segment = kept;
+    rows->segment = kept;
     return;
   }
-  const std::int64_t firstRow = segments_.back().firstRow;
-  const auto hits = static_cast<std::size_t>(rowCount_ - firstRow);
+  const std::int64_t endRow = std::next(rows) == segments_.end() ? rowCount_ : std::next(rows)->firstRow;
+  const auto hits = static_cast<std::size_t>(endRow - rows->firstRow);
   // Where most entries are hits the segment itself is the smallest way to keep them.
   if (hits > segment->entryCount() / 2) return;
   std::vector<std::uint32_t> chosen;
   chosen.reserve(hits);
-  for (std::int64_t row = firstRow; row < rowCount_; ++row) {
+  for (std::int64_t row = rows->firstRow; row < endRow; ++row) {
     chosen.push_back(hit(row).entry);
     hit(row).entry = static_cast<std::uint32_t>(chosen.size() - 1);
   }
-  segments_.back().segment = copyOfEntries(*segment, chosen);
+  rows->segment = copyOfEntries(*segment, chosen);
 }
 
 }  // namespace quorvin

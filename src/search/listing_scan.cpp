@@ -130,6 +130,20 @@ class BuildingScan {
         limits_(limits) {}
 
   void run() {
+    try {
+      readListing();
+    } catch (const RuntimeFault&) {
+      settleSegment();
+      throw;
+    }
+    endSegment();
+    settleSegment();
+  }
+
+  bool isNoText() const { return text_.holdsZeros(); }
+
+ private:
+  void readListing() {
     while (!search_.stopped() && text_.readChunk()) {
       text_.consume(builder_.addLines(text_.begin(), text_.size()));
       searchText(text_.lastChunkSize());
@@ -139,12 +153,8 @@ class BuildingScan {
       builder_.addLine(text_.lastLine());
       searchText(0);
     }
-    endSegment();
   }
 
-  bool isNoText() const { return text_.holdsZeros(); }
-
- private:
   void searchText(std::size_t bytes) {
     if (recorder_ != nullptr) builder_.readAllValues();
     builder_.segment()->publish();
@@ -170,15 +180,23 @@ class BuildingScan {
   }
 
   void endSegment() {
-    std::shared_ptr<const Segment> kept;
+    settleSegment();
     if (recorder_ != nullptr && !search_.stopped() && builder_.segment()->entryCount() > 0) {
-      builder_.segment()->complete();
-      kept = recorder_->add(builder_.segment());
+      unsettled_ = builder_.segment();
+      recorder_->add(unsettled_);
+    } else {
+      search_.endSegment(builder_.segment(), nullptr);
     }
-    search_.endSegment(builder_.segment(), kept);
-    builder_.beginSegment();
+    builder_.beginSegment(std::move(spare_));
     nextEntry_ = 0;
     segmentBytes_ = 0;
+  }
+
+  /// Waits for the segment that is being kept while the one behind it was read.
+  void settleSegment() {
+    if (!unsettled_) return;
+    search_.endSegment(unsettled_, recorder_->settle());
+    spare_ = std::move(unsettled_);
   }
 
   SegmentBuilder builder_;
@@ -189,6 +207,10 @@ class BuildingScan {
   const ScanLimits& limits_;
   std::size_t segmentBytes_ = 0;
   std::uint32_t nextEntry_ = 0;
+  /// The recorder has it and is not done with it.
+  std::shared_ptr<GrowingSegment> unsettled_;
+  /// Its memory can be used again.
+  std::shared_ptr<GrowingSegment> spare_;
 };
 
 /// Whether it is the same file with another content.

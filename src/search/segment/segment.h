@@ -134,7 +134,8 @@ class GrowingSegment : public Segment {
   /// Makes all that has been added so far visible.
   void publish();
 
-  /// To be called once no more entries come: makes what lets later searches skip parts of the segment.
+  /// To be called when no more entries come: makes what lets later searches skip parts of the segment. Not
+  /// while others read it. A second call does nothing more.
   void complete();
 
   /// Forgets everything and keeps the memory for the next entries.

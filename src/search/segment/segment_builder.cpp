@@ -25,12 +25,12 @@ SegmentBuilder::SegmentBuilder(const QLocale& locale, OrderFinder findOrder)
     : findOrderOfListing_(std::move(findOrder)),
       valuesReader_(locale, [this] { return this->findOrder(); }) {}
 
-void SegmentBuilder::beginSegment() {
-  if (segment_.use_count() == 1) {
-    segment_->clear();
-  } else {
-    segment_ = std::make_shared<GrowingSegment>();
+void SegmentBuilder::beginSegment(std::shared_ptr<GrowingSegment> spare) {
+  const bool isSpareFree = spare && spare.use_count() == 1;
+  if (segment_.use_count() > 1) {
+    segment_ = isSpareFree ? std::move(spare) : std::make_shared<GrowingSegment>();
   }
+  segment_->clear();
   blockPending_ = true;
   unread_.clear();
   firstUnread_ = 0;

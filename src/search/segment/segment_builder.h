@@ -50,8 +50,9 @@ class SegmentBuilder {
   /// The segment that lines are being added to. Entries are seen in it after its publish().
   const std::shared_ptr<GrowingSegment>& segment() const { return segment_; }
 
-  /// Starts a new segment; the one before is complete. Its memory is reused if nobody else has it.
-  void beginSegment();
+  /// Starts a new segment; no more entries come to the one before. Its memory is reused if nobody else has
+  /// it, else that of `spare`, which may be null.
+  void beginSegment(std::shared_ptr<GrowingSegment> spare = nullptr);
 
   /// How many lines have been added.
   std::int64_t lineCount() const { return lineCount_; }

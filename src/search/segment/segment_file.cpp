@@ -192,6 +192,14 @@ class SegmentPieces {
   std::size_t next_ = 0;
 };
 
+/// Gives `table` the trigram sets that it lacks; it is not to be used longer than they are.
+std::vector<TrigramSet> missingTrigrams(TextTable& table) {
+  if (!table.trigrams.empty()) return {};
+  std::vector<TrigramSet> sets = table.makeTrigrams();
+  table.trigrams = sets;
+  return sets;
+}
+
 QString inMadeFolder(const QString& path) {
   QDir().mkpath(QFileInfo(path).path());
   return path;
@@ -211,6 +219,8 @@ void SegmentFileWriter::append(const Segment& segment) {
   // Where it can be mapped. What lies between is never written, and takes up no room on the disk.
   position_ = (position_ + kMappingAlignment - 1) / kMappingAlignment * kMappingAlignment;
   SegmentArrays arrays = segment.arrays();
+  const std::vector<TrigramSet> entries = missingTrigrams(arrays.entries);
+  const std::vector<TrigramSet> folders = missingTrigrams(arrays.folders);
   SegmentRecord record{};
   SegmentLayout layout(record);
   visitArrays(arrays, layout);

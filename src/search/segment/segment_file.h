@@ -37,8 +37,9 @@ class SegmentFileWriter {
   /// Throws RuntimeFault when the file cannot be made.
   explicit SegmentFileWriter(const QString& path);
 
-  /// Writes a complete segment. Throws RuntimeFault when the disk is full or the like; the writer is then of
-  /// no more use.
+  /// Writes a segment to which no more entries come. What lets searches skip parts of it is made here where
+  /// the segment does not have it yet; the segment itself is only read. Throws RuntimeFault when the disk is
+  /// full or the like; the writer is then of no more use.
   void append(const Segment& segment);
 
   /// The segment that was appended last as it is in the file, for repeated use. Null where it is better kept

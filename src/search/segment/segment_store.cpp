@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <iterator>
 #include <new>
+#include <system_error>
 #include <utility>
 
 namespace quorvin {
@@ -154,12 +155,47 @@ SegmentStore::Recorder::Recorder(SegmentStore& store, const SegmentKey& key)
   }
 }
 
-std::shared_ptr<const Segment> SegmentStore::Recorder::add(const std::shared_ptr<GrowingSegment>& segment) {
-  std::shared_ptr<const Segment> kept = write(*segment);
-  if (!isHolding_) return nullptr;
+void SegmentStore::Recorder::add(const std::shared_ptr<GrowingSegment>& segment) {
+  added_ = segment;
+  if (writer_) startWriting();
+}
+
+void SegmentStore::Recorder::startWriting() {
+  if (added_->memorySize() >= store_.options_.writtenBeside) {
+    try {
+      writing_ = std::async(std::launch::async, [this] { write(); });
+      return;
+    } catch (const std::system_error&) {
+      // There are no more threads.
+    }
+  }
+  // It is small, and so perhaps held in memory: what the file needs it will need, too.
+  added_->complete();
+  write();
+}
+
+/// Makes a segment in the file of the one that is being added.
+void SegmentStore::Recorder::write() {
+  try {
+    writer_->append(*added_);
+    if (isHolding_) inFile_ = writer_->last();
+  } catch (const RuntimeFault&) {
+    writer_.reset();
+  } catch (const std::bad_alloc&) {
+    writer_.reset();
+    stopHolding();
+  }
+}
+
+std::shared_ptr<const Segment> SegmentStore::Recorder::settle() {
+  if (writing_.valid()) writing_.get();
+  const std::shared_ptr<GrowingSegment> added = std::exchange(added_, nullptr);
+  std::shared_ptr<const Segment> kept = std::exchange(inFile_, nullptr);
+  if (!added || !isHolding_) return nullptr;
   if (!kept) {
-    kept = segment;
-    memory_ += segment->memorySize();
+    added->complete();
+    memory_ += added->memorySize();
+    kept = added;
   }
   if (memory_ > store_.options_.memoryBudget) {
     stopHolding();
@@ -167,21 +203,6 @@ std::shared_ptr<const Segment> SegmentStore::Recorder::add(const std::shared_ptr
   }
   segments_.push_back(kept);
   return kept;
-}
-
-/// The segment as it is in the file, where that is the better one to hold.
-std::shared_ptr<const Segment> SegmentStore::Recorder::write(const Segment& segment) {
-  if (!writer_) return nullptr;
-  try {
-    writer_->append(segment);
-    return isHolding_ ? writer_->last() : nullptr;
-  } catch (const RuntimeFault&) {
-    writer_.reset();
-  } catch (const std::bad_alloc&) {
-    writer_.reset();
-    stopHolding();
-  }
-  return nullptr;
 }
 
 void SegmentStore::Recorder::stopHolding() {

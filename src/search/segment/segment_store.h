@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <cstddef>
+#include <future>
 #include <list>
 #include <memory>
 #include <optional>
@@ -33,6 +34,8 @@ class SegmentStore {
     std::size_t memoryBudget = 0;
     /// Once where the program ends after one search.
     SegmentUse use = SegmentUse::Repeated;
+    /// A segment that takes up so many bytes is written by a thread of its own, while the listing is read on.
+    std::size_t writtenBeside = std::size_t{1} << 20;
   };
 
   /// The user's cache folder and a quarter of the machine's memory.
@@ -55,17 +58,25 @@ class SegmentStore {
    public:
     /// The first of a store also removes leftovers and what earlier versions kept in the cache folder.
     Recorder(SegmentStore& store, const SegmentKey& key);
+    Recorder(const Recorder&) = delete;
+    Recorder& operator=(const Recorder&) = delete;
 
-    /// Takes a complete segment and returns the one to be used from now on instead: an equal one in a file,
-    /// or itself. Null where the store does not hold it: there is no room for the listing in memory, or the
-    /// store is for a single search. The listing may go to the cache folder all the same.
-    std::shared_ptr<const Segment> add(const std::shared_ptr<GrowingSegment>& segment);
+    /// Takes a segment to which no more entries come. It may be read by another thread until settle(), so it
+    /// is not to be changed. The one before has been settled.
+    void add(const std::shared_ptr<GrowingSegment>& segment);
 
-    /// The listing has been read to its end and has not changed.
+    /// Waits until the segment that was added last is written, if any was, and returns the one to be used
+    /// from now on instead: an equal one in a file, or itself, which may have been completed. Null where the
+    /// store does not hold it: there is no room for the listing in memory, or the store is for a single
+    /// search. The listing may go to the cache folder all the same.
+    std::shared_ptr<const Segment> settle();
+
+    /// The listing has been read to its end and has not changed; all segments have been settled.
     void finish();
 
    private:
-    std::shared_ptr<const Segment> write(const Segment& segment);
+    void startWriting();
+    void write();
     void stopHolding();
 
     SegmentStore& store_;
@@ -75,6 +86,11 @@ class SegmentStore {
     std::size_t memory_ = 0;
     /// Whether the segments will be held in memory, by the store.
     bool isHolding_;
+    /// The segment that is being added, and the same in the file where that is the better one to hold.
+    std::shared_ptr<GrowingSegment> added_;
+    std::shared_ptr<const Segment> inFile_;
+    /// While it is valid, all that is above is the writing thread's. The last member: its end waits.
+    std::future<void> writing_;
   };
 
  private:

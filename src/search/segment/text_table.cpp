@@ -133,6 +133,17 @@ std::string_view TextWalk::text(std::uint32_t text) {
   return {at_, static_cast<std::size_t>(endOfText(at_) - at_)};
 }
 
+std::vector<TrigramSet> TextTable::makeTrigrams() const {
+  std::vector<TrigramSet> sets((count + kTextsPerPage - 1) / kTextsPerPage);
+  constexpr std::uint32_t kMarksPerPage = kTextsPerPage / kTextsPerMark;
+  for (std::size_t page = 0; page < sets.size(); ++page) {
+    const Stretch stretch = between(page * kMarksPerPage, (page + 1) * kMarksPerPage);
+    // Trigrams that span two texts are added too: that costs a few bits, and saves a test for each byte.
+    addTrigrams(sets[page], textOf(folded.part(stretch.begin, stretch.size)));
+  }
+  return sets;
+}
+
 void ListedWalk::start(const TextTable& table) {
   table_ = &table;
   current_ = UINT32_MAX;
@@ -209,15 +220,7 @@ void TextTableBuilder::addColumns(const char* line, std::size_t columns, bool tr
 }
 
 void TextTableBuilder::completeTrigrams() {
-  trigrams_.assign((count_ + kTextsPerPage - 1) / kTextsPerPage, {});
-  constexpr std::uint32_t kMarksPerPage = kTextsPerPage / kTextsPerMark;
-  for (std::size_t page = 0; page < trigrams_.size(); ++page) {
-    const std::size_t nextMark = (page + 1) * kMarksPerPage;
-    const std::size_t begin = marks_[page * kMarksPerPage].text;
-    const std::size_t end = nextMark < marks_.size() ? marks_[nextMark].text : foldedSize_;
-    // Trigrams that span two texts are added too: that costs a few bits, and saves a test for each byte.
-    addTrigrams(trigrams_[page], std::string_view(folded_).substr(begin, end - begin));
-  }
+  if (trigrams_.empty()) trigrams_ = table().makeTrigrams();
 }
 
 void TextTableBuilder::clear() {

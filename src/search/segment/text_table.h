@@ -69,7 +69,7 @@ struct TextTable {
   CheckedSpan<char> folded;
   /// One for each 32 texts.
   CheckedSpan<Mark> marks;
-  /// One for each page, or none at all while the table is being built.
+  /// One for each page, or none at all as long as nobody has made them.
   CheckedSpan<TrigramSet> trigrams;
 
   /// A bit for each text: it has ASCII capitals.
@@ -98,6 +98,9 @@ struct TextTable {
 
   /// The text as listed, UTF-8.
   std::string listedText(std::uint32_t text) const;
+
+  /// Makes the trigram sets of all pages.
+  std::vector<TrigramSet> makeTrigrams() const;
 };
 
 /// Finds folded texts one after another.
@@ -170,7 +173,8 @@ class TextTableBuilder {
   /// where `trimmed`. kFoldWidth bytes can be read there.
   void addColumns(const char* line, std::size_t columns, bool trimmed);
 
-  /// Makes the trigram sets of all pages. A table has none before; it is then searched without them.
+  /// Makes the trigram sets of all pages, once no more texts come. A table has none before; it is then
+  /// searched without them.
   void completeTrigrams();
 
   /// Gives back what was reserved for more texts where that is more than the texts take up: a small listing
