@@ -53,9 +53,17 @@ void nameIcon(const QMessageBox& box) {
   }
 }
 
-/// For parts of controls as the style has drawn them, each for its size. The usual 10 MB fill up as windows
-/// are resized, with what is hardly seen again.
-constexpr int kDrawnPartsKilobytes = 4096;
+/// For parts of controls as the style has drawn them, each for its size. The usual 10 MB, which what is known
+/// of the parts doubles, fill up as windows are resized, with what is hardly seen again.
+constexpr int kDrawnPartsKilobytes = 1024;
+
+/// Whether a dialog or another window of its own goes from the screen; menus and tooltips are none.
+bool isWindowGoing(QObject* receiver, const QEvent& event) {
+  if (event.type() != QEvent::Hide) return false;
+  const auto* widget = qobject_cast<QWidget*>(receiver);
+  if (!widget || !widget->isWindow()) return false;
+  return widget->windowType() == Qt::Dialog || widget->windowType() == Qt::Window;
+}
 
 void writeLine(const QString& text) {
   std::fprintf(stderr, "quorvin: %s\n", text.simplified().toLocal8Bit().constData());
@@ -194,9 +202,12 @@ void Application::setLeaveHandler(std::function<void()> leave) {
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
+  const bool isGoing = isWindowGoing(receiver, *event);
   bool result = false;
   reportFaults(messages_, QStringLiteral("handling an event of the window system"),
                [&] { result = QApplication::notify(receiver, event); });
+  // The style keeps what it has drawn under the name of that window's colours, which nobody asks for again.
+  if (isGoing) QPixmapCache::clear();
   return result;
 }
 

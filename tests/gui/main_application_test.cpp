@@ -7,6 +7,7 @@
 #include "support/qt_printing.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QIcon>
@@ -99,6 +100,28 @@ TEST(MainApplication, ItsWindowsHaveReadableQuietTexts) {
             4.5);
 }
 
+const QString kDrawnPart = QStringLiteral("what the style has drawn of a control");
+
+/// Shows the window and takes it away again.
+bool isDrawnPartKeptBeyond(QWidget& window) {
+  QPixmapCache::insert(kDrawnPart, QPixmap(16, 16));
+  window.show();
+  window.hide();
+  QPixmap found;
+  return QPixmapCache::find(kDrawnPart, &found);
+}
+
+TEST(MainApplication, ForgetsWhatWasDrawnOfADialogThatHasGone) {
+  QDialog dialog;
+  EXPECT_FALSE(isDrawnPartKeptBeyond(dialog));
+}
+
+TEST(MainApplication, KeepsWhatWasDrawnBeyondAMenu) {
+  QMenu menu;
+  menu.addAction(QStringLiteral("Open"));
+  EXPECT_TRUE(isDrawnPartKeptBeyond(menu));
+}
+
 template <typename Widget>
 QImage drawn(Widget& widget, QStyle& style) {
   widget.setStyle(&style);
@@ -174,7 +197,7 @@ TEST(MainApplicationDeathTest, WithoutMemoryItEndsWithASentence) {
 }
 
 TEST(MainApplication, KeepsFewDrawnPartsOfControls) {
-  EXPECT_EQ(QPixmapCache::cacheLimit(), 4096);
+  EXPECT_EQ(QPixmapCache::cacheLimit(), 1024);
 }
 
 TEST(MainApplication, TellsAFaultThatNoHandlerDealtWithAndGoesOn) {
