@@ -64,6 +64,9 @@ int main(int argc, char** argv) {
   untilEnd.start();
 
   QDBusConnection bus = QDBusConnection::sessionBus();
+  // With the session.
+  bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
+              QStringLiteral("Disconnected"), QCoreApplication::instance(), SLOT(quit()));
   // The name comes last: who has waited for it asks at once.
   const bool isThere =
       bus.registerObject(QStringLiteral("/org/quorvin/utility/SearchProvider"), &shellPlace) &&

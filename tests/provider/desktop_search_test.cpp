@@ -33,7 +33,7 @@ class ProviderProgram : public testing::Test {
     home_.folder.makeFolder(u"prefix/share/quorvin/help"_qs);
     EXPECT_TRUE(QFile::copy(QStringLiteral(QUORVIN_SEARCH_PROVIDER), provider()));
     home_.environment.insert(u"PATH"_qs, home_.folder.pathOf(u"path:"_qs) + qEnvironmentVariable("PATH"));
-    startBus("60");
+    startBus("600");
   }
   ~ProviderProgram() override {
     QDBusConnection::disconnectFromBus(kConnection);
@@ -172,6 +172,20 @@ TEST_F(ProviderProgram, StaysWhileItIsAskedAndEndsWhenNobodyAsks) {
   identifiersFor({u"northern"_qs});
   EXPECT_EVENTUALLY(!QDBusConnection(kConnection).interface()->isServiceRegistered(kService).value());
   EXPECT_EQ(identifiersFor({u"northern"_qs}).size(), 3) << "the bus starts it anew";
+}
+
+TEST_F(ProviderProgram, EndsWithTheBus) {
+  identifiersFor({u"northern"_qs});
+  const uint process = QDBusConnection(kConnection).interface()->servicePid(kService).value();
+  // One that has ended and that nobody has asked about yet has no command line any more.
+  const auto commandLine = [process] {
+    QFile file(u"/proc/%1/cmdline"_qs.arg(process));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  };
+  ASSERT_TRUE(commandLine().contains("quorvin-search-provider"));
+  bus_.terminate();
+  ASSERT_TRUE(bus_.waitForFinished(60000));
+  EXPECT_EVENTUALLY(commandLine().isEmpty());
 }
 
 }  // namespace
