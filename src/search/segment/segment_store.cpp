@@ -11,9 +11,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <exception>
 #include <iterator>
 #include <new>
-#include <system_error>
 #include <utility>
 
 namespace quorvin {
@@ -165,8 +165,8 @@ void SegmentStore::Recorder::startWriting() {
     try {
       writing_ = std::async(std::launch::async, [this] { write(); });
       return;
-    } catch (const std::system_error&) {
-      // There are no more threads.
+    } catch (const std::exception&) {
+      // There is no thread to be had, or no memory for one: it is done here.
     }
   }
   // It is small, and so perhaps held in memory: what the file needs it will need, too.
