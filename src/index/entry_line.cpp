@@ -11,6 +11,7 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <cstring>
 #include <limits>
 
 namespace quorvin {
@@ -121,7 +122,11 @@ ListedDates::ListedDates(const QLocale& locale)
       offsets_((kDays * kSecondsPerDay >> kBlockBits) + 1, kUnknown) {}
 
 ListedDates::Parts ListedDates::partsOf(const DatePattern& pattern, const std::string& before) const {
-  Parts parts;
+  struct Field {
+    PatternField field;
+    std::vector<std::string> texts;
+  };
+  std::vector<Field> fields;
   std::string leading = before;
   for (const PatternPart& part : pattern) {
     if (part.field == PatternField::Literal) {
@@ -129,7 +134,7 @@ ListedDates::Parts ListedDates::partsOf(const DatePattern& pattern, const std::s
       continue;
     }
     const FieldRange range = rangeOf(part.field);
-    Part& made = parts.emplace_back(Part{part.field, {}});
+    Field& made = fields.emplace_back(Field{part.field, {}});
     for (int value = 0; value < range.values; ++value) {
       // A day that has this value, whichever of its fields the part shows.
       const CalendarDate date{kFirstYear + value, 1 + value % 12, 1 + value % 31};
@@ -137,8 +142,23 @@ ListedDates::Parts ListedDates::partsOf(const DatePattern& pattern, const std::s
     }
     leading.clear();
   }
-  for (std::string& text : parts.back().texts) text += leading;
+  for (std::string& text : fields.back().texts) text += leading;
+  Parts parts;
+  for (const Field& field : fields) addParts(parts, field.field, field.texts);
   return parts;
+}
+
+void ListedDates::addParts(Parts& parts, PatternField field, const std::vector<std::string>& texts) {
+  std::size_t longest = 1;
+  for (const std::string& text : texts) longest = std::max(longest, text.size());
+  for (std::size_t from = 0; from < longest; from += ShortText::kRoom) {
+    Part& part = parts.emplace_back(Part{field, std::vector<ShortText>(texts.size())});
+    for (std::size_t value = 0; value < texts.size(); ++value) {
+      if (texts[value].size() <= from) continue;
+      ShortText& piece = part.texts[value];
+      piece.length = static_cast<std::uint8_t>(texts[value].copy(piece.bytes.data(), ShortText::kRoom, from));
+    }
+  }
 }
 
 void ListedDates::append(std::string& line, std::int64_t seconds) {
@@ -151,14 +171,20 @@ void ListedDates::append(std::string& line, std::int64_t seconds) {
     return;
   }
   const CalendarDate date = calendarDateOf(static_cast<int>(days) + kDayOf1970);
-  appendParts(line, date_, date, second);
-  if (second != 0) appendParts(line, time_, date, second);
+  const std::size_t start = line.size();
+  line.resize(start + (date_.size() + time_.size()) * ShortText::kRoom);
+  char* end = writeParts(line.data() + start, date_, date, second);
+  if (second != 0) end = writeParts(end, time_, date, second);
+  line.resize(static_cast<std::size_t>(end - line.data()));
 }
 
-void ListedDates::appendParts(std::string& line, const Parts& parts, CalendarDate date, int second) {
+char* ListedDates::writeParts(char* place, const Parts& parts, CalendarDate date, int second) {
   for (const Part& part : parts) {
-    line += part.texts[static_cast<std::size_t>(valueOf(part.field, date, second))];
+    const ShortText& text = part.texts[static_cast<std::size_t>(valueOf(part.field, date, second))];
+    std::memcpy(place, text.bytes.data(), ShortText::kRoom);
+    place += text.length;
   }
+  return place;
 }
 
 void ListedDates::appendRare(std::string& line, std::int64_t days, int second) const {
@@ -195,6 +221,13 @@ void EntryLines::append(std::string& line, const ListedFile& file) {
 
 void EntryLines::appendName(std::string& line, std::string_view name) const {
   const std::string_view cut = cutToColumns(name, kNameColumns);
+  if (isAscii(cut)) {
+    std::array<char, kNameColumns> columns;
+    columns.fill(' ');
+    cut.copy(columns.data(), columns.size());
+    line.append(columns.data(), columns.size());
+    return;
+  }
   line += cut;
   line.append(kNameColumns - characterCount(cut), ' ');
 }
@@ -207,10 +240,6 @@ void EntryLines::appendSize(std::string& line, std::int64_t size) const {
   const bool grouped = shown >= 1000 && shown <= kLargestGroupedSize;
   const std::size_t signs = grouped ? (number.size() - 1) / kGroup : 0;
   line.append(kSizeColumns - number.size() - signs, ' ');
-  if (!grouped) {
-    line += number;
-    return;
-  }
   std::size_t place = number.size() - signs * kGroup;
   line += number.substr(0, place);
   for (; place < number.size(); place += kGroup) {
