@@ -3,7 +3,9 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -28,9 +30,32 @@ struct NameStatus {
   std::int64_t modified = 0;
 };
 
+/// What a walk does with a name that it has read.
+struct NameUse {
+  /// Looks it up before it reads the next name.
+  bool lookUpAtOnce = false;
+  /// Looks it up when it has read all names of the folder; a link only if that leads to a file.
+  bool lookUpLater = false;
+  /// Enters it when it has looked up all names of the folder.
+  bool enter = false;
+};
+
+/// What a walk is going to do, so that a part of it can be done ahead.
+struct WalkPlan {
+  /// Called in other threads too, several at a time, perhaps even after the reader's end. Throws
+  /// std::bad_alloc alone.
+  std::function<NameUse(const FolderName&)> use;
+  /// Where a folder has more sub-folders or more files than that (a link may be either), it is not certain
+  /// which of them the walk comes to, so none of them is read ahead.
+  std::size_t mostSubFolders = 0;
+  std::size_t mostFiles = 0;
+  /// A folder is not entered when the names from the top down to it have more bytes, with a separator each.
+  std::size_t longestWay = 0;
+};
+
 /// A way down a tree of folders and back. The folder reached last is the current one; names belong to it. All
-/// calls but the last give 0 or the system's error number (errno); after an error nothing has changed and the
-/// same call may be made again.
+/// calls that give a number give 0 or the system's error number (errno); after an error nothing has changed
+/// and the same call may be made again.
 class FolderReader {
  public:
   virtual ~FolderReader() = default;
@@ -48,6 +73,15 @@ class FolderReader {
   /// What `name` of the current folder stands for; links are followed to their end.
   virtual int lookUp(const char* name, NameStatus& status) = 0;
 
+  /// The walk from the top that is entered next keeps to `plan`, until another plan is set; an empty one ends
+  /// it. A reader may then do ahead, in other threads, what the walk is going to do, and nothing else. All
+  /// calls give what they would give without a plan; the tree is only seen as it was a moment earlier. What
+  /// failed ahead fails when the walk comes to it, and the same call made again asks the system again.
+  virtual void planWalk(const WalkPlan&) {}
+  /// What was done ahead is old by now: the user was asked something, or the walk has rested. From here on it
+  /// sees the tree as it is.
+  virtual void forgetAhead() {}
+
   /// Whether `path` still leads to the folder that was entered last as a top.
   virtual bool topIsStillAt(const QString& path) const = 0;
 };
@@ -56,8 +90,13 @@ class FolderReader {
 inline constexpr int kMostOpenFolders = 64;
 
 /// The system's own folders. However deep the tree, at most `mostOpen` folders (at least 2) are open at a
-/// time; the way back to one that was closed leads through its sub-folder or, where that is gone, down from
-/// the top. A folder that cannot be reached any more holds nothing, and its sub-folders are not found.
+/// time, and where a plan is kept to 64 more; the way back to one that was closed leads through its
+/// sub-folder or, where that is gone, down from the top. A folder that cannot be reached any more holds
+/// nothing, and its sub-folders are not found.
 std::unique_ptr<FolderReader> makeFolderReader(int mostOpen = kMostOpenFolders);
+
+class ReadersAtOnce;
+/// The same; of a walk with a plan, as many threads read as `readers` says.
+std::unique_ptr<FolderReader> makeFolderReader(int mostOpen, const ReadersAtOnce& readers);
 
 }  // namespace quorvin

@@ -1,21 +1,23 @@
-// getdents64 and fstatat straight into buffers that are used again and again: the folder classes of libraries
-// allocate for each name and look each one up, which takes longer than the system's own work.
+// The way down a tree on open folders, and what was read ahead of it.
+#include "files/folder_calls.h"
 #include "files/folder_reader.h"
+#include "files/folders_ahead.h"
+#include "files/readers_at_once.h"
 
 #include <QByteArray>
 #include <QFile>
 #include <QString>
+#include <QThread>
 
-#include <array>
 #include <cerrno>
 #include <cstddef>
-#include <dirent.h>
 #include <fcntl.h>
 #include <optional>
 #include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace quorvin {
@@ -30,11 +32,11 @@ struct FolderIdentity {
   bool operator==(const FolderIdentity&) const = default;
 };
 
-constexpr int kFolderOnly = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+constexpr int kReadFolder = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
-std::optional<FolderIdentity> identityOf(int descriptor) {
+std::optional<FolderIdentity> identityOf(const Descriptor& folder) {
   struct stat status {};
-  if (::fstat(descriptor, &status) != 0) return std::nullopt;
+  if (::fstat(folder.get(), &status) != 0) return std::nullopt;
   return FolderIdentity{status.st_dev, status.st_ino};
 }
 
@@ -55,10 +57,12 @@ class FolderTrail {
 
   int enterTop(const QString& path);
   int enter(const char* name);
+  /// The same with a sub-folder that is open already.
+  void enterOpen(const char* name, OpenFolder folder);
   void leave();
 
-  /// The descriptor of the current folder; -1 when it could not be found again, and why().
-  int current() const { return folders_[depth_ - 1].descriptor; }
+  /// The current folder; none when it could not be found again, and why(), or when there is none.
+  const OpenFolder& current() const { return depth_ > 0 ? folders_[depth_ - 1].open : none_; }
   int why() const { return folders_[depth_ - 1].error; }
 
   bool topIsStillAt(const QString& path) const;
@@ -66,21 +70,22 @@ class FolderTrail {
  private:
   struct Folder {
     std::string name;
-    int descriptor = -1;
+    OpenFolder open;
     // Why it is not open any more.
     int error = ENOENT;
     // Set when the folder is closed on the way down.
     FolderIdentity identity;
   };
 
-  void add(const char* name, int descriptor);
+  void add(const char* name, OpenFolder folder);
   bool closeTopmost();
-  void findAgain(Folder& folder, int subFolder);
-  int openFromTop() const;
+  void findAgain(Folder& folder, const OpenFolder& subFolder);
+  Descriptor openFromTop() const;
 
   std::size_t mostOpen_;
   QByteArray topPath_;
   FolderIdentity top_;
+  OpenFolder none_;
   // Rows are kept when folders are left, so that their texts need not be made again.
   std::vector<Folder> folders_;
   std::size_t depth_ = 0;
@@ -95,31 +100,35 @@ FolderTrail::~FolderTrail() {
 int FolderTrail::enterTop(const QString& path) {
   if (!canBePath(path)) return ENOENT;
   const QByteArray bytes = QFile::encodeName(path);
-  const int descriptor = ::open(bytes.constData(), kFolderOnly);
-  if (descriptor < 0) return errno;
+  Descriptor folder(::open(bytes.constData(), kReadFolder));
+  if (!folder.isOpen()) return errno;
   topPath_ = bytes;
-  top_ = identityOf(descriptor).value_or(FolderIdentity{});
+  top_ = identityOf(folder).value_or(FolderIdentity{});
   firstOpen_ = 0;
-  add("", descriptor);
+  add("", std::make_shared<const Descriptor>(std::move(folder)));
   return 0;
 }
 
 int FolderTrail::enter(const char* name) {
-  if (current() < 0) return why();
-  int descriptor = -1;
+  if (!current()) return why();
+  OpenFolder folder;
+  int error = 0;
   do {
-    descriptor = ::openat(current(), name, kFolderOnly | O_NOFOLLOW);
-  } while (descriptor < 0 && (errno == EMFILE || errno == ENFILE) && closeTopmost());
-  if (descriptor < 0) return errno;
-  add(name, descriptor);
-  if (depth_ - firstOpen_ > mostOpen_) closeTopmost();
-  return 0;
+    error = openSubFolder(*current(), name, folder);
+  } while ((error == EMFILE || error == ENFILE) && closeTopmost());
+  if (error == 0) enterOpen(name, std::move(folder));
+  return error;
 }
 
-void FolderTrail::add(const char* name, int descriptor) {
+void FolderTrail::enterOpen(const char* name, OpenFolder folder) {
+  add(name, std::move(folder));
+  if (depth_ - firstOpen_ > mostOpen_) closeTopmost();
+}
+
+void FolderTrail::add(const char* name, OpenFolder folder) {
   if (depth_ == folders_.size()) folders_.emplace_back();
   folders_[depth_].name = name;
-  folders_[depth_].descriptor = descriptor;
+  folders_[depth_].open = std::move(folder);
   ++depth_;
 }
 
@@ -127,52 +136,45 @@ void FolderTrail::add(const char* name, int descriptor) {
 bool FolderTrail::closeTopmost() {
   if (depth_ - firstOpen_ < 2) return false;
   Folder& folder = folders_[firstOpen_];
-  const int error = errno;
-  if (folder.descriptor >= 0) {
-    folder.identity = identityOf(folder.descriptor).value_or(FolderIdentity{});
-    ::close(folder.descriptor);
-    folder.descriptor = -1;
+  if (folder.open) {
+    folder.identity = identityOf(*folder.open).value_or(FolderIdentity{});
+    folder.open = nullptr;
   }
-  errno = error;
   ++firstOpen_;
   return true;
 }
 
 void FolderTrail::leave() {
-  const int left = current();
+  const OpenFolder left = std::exchange(folders_[depth_ - 1].open, nullptr);
   --depth_;
-  if (depth_ > 0 && depth_ == firstOpen_) {
-    --firstOpen_;
-    findAgain(folders_[depth_ - 1], left);
-  }
-  if (left >= 0) ::close(left);
+  if (depth_ == 0 || depth_ != firstOpen_) return;
+  --firstOpen_;
+  findAgain(folders_[depth_ - 1], left);
 }
 
-void FolderTrail::findAgain(Folder& folder, int subFolder) {
-  const auto takeIfTheSame = [&folder](int descriptor) {
-    folder.error = descriptor < 0 ? errno : ENOENT;
-    folder.descriptor = descriptor;
-    if (descriptor >= 0 && identityOf(descriptor) == folder.identity) return true;
-    if (descriptor >= 0) ::close(descriptor);
-    folder.descriptor = -1;
-    return false;
+void FolderTrail::findAgain(Folder& folder, const OpenFolder& subFolder) {
+  const auto takeIfTheSame = [&folder](Descriptor found) {
+    folder.error = found.isOpen() ? ENOENT : errno;
+    folder.open = nullptr;
+    if (!found.isOpen() || identityOf(found) != folder.identity) return false;
+    folder.open = std::make_shared<const Descriptor>(std::move(found));
+    return true;
   };
-  if (subFolder >= 0 && takeIfTheSame(::openat(subFolder, "..", kFolderOnly))) return;
+  if (subFolder && takeIfTheSame(Descriptor(::openat(subFolder->get(), "..", kReadFolder)))) return;
   // The sub-folder has been moved or removed meanwhile.
   takeIfTheSame(openFromTop());
 }
 
 // Opens the current folder by the names that lead to it; the caller checks which folder that is now.
-int FolderTrail::openFromTop() const {
-  int descriptor = ::open(topPath_.constData(), kFolderOnly);
-  for (std::size_t i = 1; i < depth_ && descriptor >= 0; ++i) {
-    const int below = ::openat(descriptor, folders_[i].name.c_str(), kFolderOnly | O_NOFOLLOW);
+Descriptor FolderTrail::openFromTop() const {
+  Descriptor folder(::open(topPath_.constData(), kReadFolder));
+  for (std::size_t i = 1; i < depth_ && folder.isOpen(); ++i) {
+    Descriptor below(::openat(folder.get(), folders_[i].name.c_str(), kReadFolder | O_NOFOLLOW));
     const int error = errno;
-    ::close(descriptor);
+    folder = std::move(below);
     errno = error;
-    descriptor = below;
   }
-  return descriptor;
+  return folder;
 }
 
 // Without opening it: where no descriptor is left, that would pass for a folder that is gone.
@@ -182,88 +184,79 @@ bool FolderTrail::topIsStillAt(const QString& path) const {
   return FolderIdentity{found.st_dev, found.st_ino} == top_;
 }
 
-NameKind kindOfMode(mode_t mode) {
-  if (S_ISREG(mode)) return NameKind::File;
-  if (S_ISDIR(mode)) return NameKind::Folder;
-  return S_ISLNK(mode) ? NameKind::Link : NameKind::Other;
-}
-
-// Not every file system keeps the kinds beside the names. A name that is gone already passes for a link: the
-// look-up will tell.
-NameKind kindOfEntry(int folder, const dirent64& entry) {
-  if (entry.d_type != DT_UNKNOWN) return kindOfMode(static_cast<mode_t>(DTTOIF(entry.d_type)));
-  struct stat found {};
-  const int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
-  return ::fstatat(folder, entry.d_name, &found, flags) == 0 ? kindOfMode(found.st_mode) : NameKind::Link;
-}
-
 class LinuxFolderReader : public FolderReader {
  public:
-  explicit LinuxFolderReader(int mostOpen) : trail_(mostOpen) {}
+  LinuxFolderReader(int mostOpen, const ReadersAtOnce& readers) : trail_(mostOpen), ahead_(readers) {}
 
   int enterTop(const QString& path) override {
     const int error = trail_.enterTop(path);
-    if (error == 0) forgetNames();
+    if (error == 0) start("");
     return error;
   }
 
   int enter(const char* name) override {
-    const int error = trail_.enter(name);
-    if (error == 0) forgetNames();
+    FoldersAhead::Opened opened = ahead_.open(name);
+    if (opened.error != 0) return opened.error;
+    if (opened.folder) {
+      trail_.enterOpen(name, std::move(opened.folder));
+      stretch_.forget();
+      return 0;
+    }
+    const int error = enterItself(name);
+    if (error == 0) start(name);
     return error;
   }
 
-  void leave() override { trail_.leave(); }
+  void leave() override {
+    trail_.leave();
+    ahead_.leave(trail_.current());
+  }
 
   int next(FolderName& name) override {
-    for (;;) {
-      if (position_ == filled_) {
-        const int error = fill();
-        if (error != 0) return error;
-        name = {};
-        if (filled_ == 0) return 0;
-      }
-      const auto* entry = reinterpret_cast<const dirent64*>(buffer_.data() + position_);
-      position_ += entry->d_reclen;
-      // A leading dot hides a name; the folder itself and the one above have such names too.
-      if (entry->d_name[0] == '.') continue;
-      name = {entry->d_name, kindOfEntry(trail_.current(), *entry)};
-      return 0;
-    }
+    if (const std::optional<int> known = ahead_.next(name)) return *known;
+    if (!trail_.current()) return trail_.why();
+    const int error = stretch_.next(*trail_.current(), name);
+    if (error == 0) ahead_.noteNext(name);
+    return error;
   }
 
   int lookUp(const char* name, NameStatus& status) override {
-    if (trail_.current() < 0) return trail_.why();
-    struct stat found;
-    if (::fstatat(trail_.current(), name, &found, AT_NO_AUTOMOUNT) != 0) return errno;
-    status = {kindOfMode(found.st_mode), found.st_size, found.st_mtim.tv_sec};
-    return 0;
+    if (const std::optional<int> known = ahead_.lookUp(name, status)) return *known;
+    return trail_.current() ? lookUpName(*trail_.current(), name, status) : trail_.why();
   }
+
+  void planWalk(const WalkPlan& plan) override { ahead_.plan(plan); }
+  void forgetAhead() override { ahead_.forget(); }
 
   bool topIsStillAt(const QString& path) const override { return trail_.topIsStillAt(path); }
 
  private:
-  void forgetNames() { position_ = filled_ = 0; }
+  void start(const char* name) {
+    stretch_.forget();
+    ahead_.entered(trail_.current(), name);
+  }
 
-  int fill() {
-    forgetNames();
-    if (trail_.current() < 0) return trail_.why();
-    const ssize_t count = ::getdents64(trail_.current(), buffer_.data(), buffer_.size());
-    if (count < 0) return errno;
-    filled_ = static_cast<std::size_t>(count);
-    return 0;
+  // The folders that are open ahead must not be what the walk lacks.
+  int enterItself(const char* name) {
+    const int error = trail_.enter(name);
+    if (error != EMFILE && error != ENFILE) return error;
+    ahead_.makeRoom();
+    return trail_.enter(name);
   }
 
   FolderTrail trail_;
-  alignas(dirent64) std::array<char, 65536> buffer_;
-  std::size_t position_ = 0;
-  std::size_t filled_ = 0;
+  FoldersAhead ahead_;
+  FolderStretch stretch_;
 };
 
 }  // namespace
 
 std::unique_ptr<FolderReader> makeFolderReader(int mostOpen) {
-  return std::make_unique<LinuxFolderReader>(mostOpen);
+  return makeFolderReader(mostOpen, ReadersAtOnce(QThread::idealThreadCount()));
+}
+
+std::unique_ptr<FolderReader> makeFolderReader(int mostOpen, const ReadersAtOnce& readers) {
+  return std::make_unique<LinuxFolderReader>(mostOpen, readers);
 }
 
 }  // namespace quorvin

@@ -6,6 +6,8 @@
 
 #include <QScopeGuard>
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace quorvin {
@@ -21,6 +23,9 @@ void writeTo(FileWriter* output, std::string_view line) {
   output->write(line);
   output->write("\r\n");
 }
+
+/// When events took longer, what was read ahead of the walk is old.
+constexpr std::chrono::seconds kLongRest{1};
 
 constexpr std::string_view kNeverListed = "pagefile.sys";
 
@@ -53,7 +58,7 @@ DirIO::DirIO(ProgramState& state, FolderReader& folders, IndexProgress& progress
       progress_(progress),
       style_(style),
       separator_(bytesOf(QStringView(&style.separator, 1))),
-      faults_(state, progress.job(), messages, path_),
+      faults_(state, progress.job(), messages, folders, path_),
       names_(folders, faults_),
       entryLines_(locale) {}
 
@@ -65,7 +70,8 @@ WalkResult DirIO::walk(QString& folderPath, const QString& filePattern, const Li
   result_ = {};
   if (isEmpty || folderPath.size() <= style_.drivePrefixLength) return result_;
 
-  job_ = {folderPath, filePattern, outputs, "Volume:    " + lineText(bytesOf(volumeText)), flags};
+  const NameChoice choice(filePattern, (flags & kFoldersOnly) == 0);
+  job_ = {folderPath, choice, outputs, "Volume:    " + lineText(bytesOf(volumeText)), flags};
   const auto unwinding = qScopeGuard([this] { leaveAll(); });
   listTop();
   while (depth_ > 0) walkOn();
@@ -80,8 +86,23 @@ void DirIO::listTop() {
   const std::string listed = bytesOf(listedFolder(job_.topPath, style_));
   noteHostileTop(listed);
   listedPath_ = lineText(listed);
+  folders_.planWalk(plan());
   listFolder(top, {});
   result_.opened = top.entered;
+}
+
+// After a stop request the walk goes down the first sub-folders alone: what it will come to is little then,
+// and nothing else is to be read.
+WalkPlan DirIO::plan() const {
+  if (progress_.job().isAbortRequested()) return {};
+  WalkPlan plan;
+  plan.use = [choice = job_.choice](const FolderName& name) {
+    return choice.useOf(name, traitsOfName(name.bytes));
+  };
+  plan.mostSubFolders = kMostSubFolders;
+  plan.mostFiles = kMostFiles;
+  plan.longestWay = kLongestListedFolder - std::min(listedPath_.size(), kLongestListedFolder);
+  return plan;
 }
 
 // The path above all names is the user's own, and no pass over names has looked at it.
@@ -134,7 +155,7 @@ void DirIO::leaveFolder() {
   path_.resize(left.pathAbove);
   listedPath_.resize(left.listedAbove);
   if (depth_ == 0) return;
-  progress_.letEventsRun(counts_);
+  letEventsRun();
   Level& above = *levels_[depth_ - 1];
   if (!progress_.job().isAbortRequested()) return;
   while (above.nextSubFolder < above.subFolders.size()) {
@@ -142,7 +163,19 @@ void DirIO::leaveFolder() {
   }
 }
 
+// A user may have opened a window of the program meanwhile that everything else waits for.
+void DirIO::letEventsRun() {
+  const auto start = std::chrono::steady_clock::now();
+  progress_.letEventsRun(counts_);
+  if (progress_.job().isAbortRequested()) {
+    folders_.planWalk({});
+  } else if (std::chrono::steady_clock::now() - start > kLongRest) {
+    folders_.forgetAhead();
+  }
+}
+
 void DirIO::leaveAll() {
+  folders_.planWalk({});
   while (depth_ > 0) {
     if (levels_[--depth_]->entered) folders_.leave();
   }
@@ -151,7 +184,7 @@ void DirIO::leaveAll() {
 void DirIO::listFolder(Level& level, std::string_view name) {
   ++counts_.folders;
   progress_.enterFolder(listedPath_);
-  progress_.letEventsRun(counts_);
+  letEventsRun();
   writeHead();
   // A folder that was left at once has no sub-folders to walk.
   if (!listContents(level, name)) {
@@ -173,7 +206,7 @@ bool DirIO::readNames(Level& level, std::string_view name) {
   const Step entering = faults_.attempt({}, [&] { return faults_.faultOfReading(enter(name)); });
   level.entered = entering == Step::Done;
   if (!level.entered) return entering == Step::Skipped;
-  return names_.read(level.subFolders, job_.filePattern, (job_.flags & kFoldersOnly) == 0);
+  return names_.read(level.subFolders, job_.choice);
 }
 
 // The top folder has no name of its own here.
@@ -208,7 +241,7 @@ bool DirIO::writeFiles() {
     if (!writeFile(files.name(row), files.note(row))) return false;
     ++counts_.files;
     ++result_.files;
-    if (row % kFilesBetweenEvents == 0) progress_.letEventsRun(counts_);
+    if (row % kFilesBetweenEvents == 0) letEventsRun();
   }
   return true;
 }
@@ -240,17 +273,32 @@ bool DirIO::writeFile(std::string_view name, NameTraits traits) {
   return true;
 }
 
+NameChoice::NameChoice(const QString& filePattern, bool withFiles)
+    : filePattern_(filePattern), everyFile_(fitsEveryName(filePattern)), withFiles_(withFiles) {}
+
+bool NameChoice::lists(std::string_view file) const {
+  return withFiles_ && (everyFile_ || fitsWildcards(textOfUtf8(listedText(file)), filePattern_));
+}
+
+NameUse NameChoice::useOf(const FolderName& name, NameTraits traits) const {
+  if (name.bytes == kNeverListed) return {};
+  const bool isLink = name.kind == NameKind::Link;
+  // A name that a listing cannot hold is one of a file at most, and has no size and date.
+  if ((traits & kHoldsQuestion) != 0) return {.lookUpAtOnce = isLink};
+  if (name.kind == NameKind::Folder) return {.enter = true};
+  if (name.kind == NameKind::Other) return {};
+  return {.lookUpAtOnce = isLink, .lookUpLater = lists(name.bytes)};
+}
+
 void FolderNames::clear() {
   files_.clear();
   subFoldersLeftOut_ = {};
   filesLeftOut_ = {};
 }
 
-bool FolderNames::read(NameTable& subFolders, const QString& filePattern, bool withFiles) {
+bool FolderNames::read(NameTable& subFolders, const NameChoice& choice) {
   clear();
-  filePattern_ = filePattern;
-  everyFile_ = fitsEveryName(filePattern);
-  withFiles_ = withFiles;
+  choice_ = choice;
   for (;;) {
     FolderName found;
     const Step step = faults_.attempt({}, [&] { return faults_.faultOfReading(folders_.next(found)); });
@@ -265,32 +313,34 @@ bool FolderNames::take(NameTable& subFolders, const FolderName& found) {
   const std::string_view name = found.bytes;
   if (name == kNeverListed) return true;
   const NameTraits traits = traitsOfName(name);
+  const NameUse use = choice_.useOf(found, traits);
   if ((traits & kHoldsQuestion) != 0) {
-    takeQuestioned(found);
+    takeQuestioned(found, use);
     return true;
   }
-  if (found.kind == NameKind::File) takeFile(name, traits);
-  if (found.kind == NameKind::Folder) takeFolder(subFolders, name, 0);
-  if (found.kind == NameKind::Link) return takeLink(subFolders, name);
-  return true;
+  if (found.kind == NameKind::File && use.lookUpLater) takeFile(name, traits);
+  if (use.enter) takeFolder(subFolders, name, 0);
+  return !use.lookUpAtOnce || takeLink(subFolders, name, use);
 }
 
-bool FolderNames::takeLink(NameTable& subFolders, std::string_view name) {
+bool FolderNames::takeLink(NameTable& subFolders, std::string_view name, NameUse use) {
   NameStatus target;
   const Step step =
       faults_.attempt(name, [&] { return faults_.faultOfReading(folders_.lookUp(name.data(), target)); });
   if (step != Step::Done) return step == Step::Skipped;
-  if (target.kind == NameKind::File) takeFile(name, traitsOfName(name));
+  if (target.kind == NameKind::File && use.lookUpLater) takeFile(name, traitsOfName(name));
   if (target.kind == NameKind::Folder) takeFolder(subFolders, name, kLinkToFolder);
   return true;
 }
 
 // Only what is a file goes on into the listing.
-void FolderNames::takeQuestioned(const FolderName& found) {
+void FolderNames::takeQuestioned(const FolderName& found, NameUse use) {
   faults_.note(found.bytes, QStringLiteral(" Contains unsuported characters represented by the ?"));
   NameStatus target{found.kind, 0, 0};
-  if (found.kind == NameKind::Link && folders_.lookUp(found.bytes.data(), target) != 0) return;
-  if (target.kind == NameKind::File) takeFile(found.bytes, traitsOfName(found.bytes));
+  if (use.lookUpAtOnce && folders_.lookUp(found.bytes.data(), target) != 0) return;
+  if (target.kind == NameKind::File && choice_.lists(found.bytes)) {
+    takeFile(found.bytes, traitsOfName(found.bytes));
+  }
 }
 
 void FolderNames::takeFolder(NameTable& subFolders, std::string_view name, std::uint8_t note) {
@@ -302,8 +352,6 @@ void FolderNames::takeFolder(NameTable& subFolders, std::string_view name, std::
 }
 
 void FolderNames::takeFile(std::string_view name, NameTraits traits) {
-  if (!withFiles_) return;
-  if (!everyFile_ && !fitsWildcards(textOfUtf8(listedText(name)), filePattern_)) return;
   if (!files_.add(name, traits)) filesLeftOut_.add(name);
 }
 

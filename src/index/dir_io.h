@@ -97,6 +97,23 @@ inline constexpr std::size_t kMostFiles = 31'001;
 /// The note of a sub-folder that is a link and is not walked into.
 inline constexpr std::uint8_t kLinkToFolder = 1;
 
+/// What a walk does with the names that it reads. Other threads have copies.
+class NameChoice {
+ public:
+  /// Files whose name fits `filePattern` are listed, unless `withFiles` is false.
+  explicit NameChoice(const QString& filePattern = QStringLiteral("*.*"), bool withFiles = true);
+
+  /// Whether a file of this name, or a link to one, has an entry line.
+  bool lists(std::string_view file) const;
+  /// What is asked of the system, besides the name itself. `traits` are those of the name.
+  NameUse useOf(const FolderName& name, NameTraits traits) const;
+
+ private:
+  QString filePattern_;
+  bool everyFile_;
+  bool withFiles_;
+};
+
 /// Reads a folder once for both of its passes. Names that hold "?" are logged, as are sub-folders whose name
 /// a reader of the listing will misread. A table that overflows is fault 9, which the user is asked about
 /// when the folder has been read; when the user ignores it, the rest of that kind is left out and the number
@@ -107,9 +124,9 @@ class FolderNames {
   FolderNames(FolderReader& folders, WalkFaults& faults) : folders_(folders), faults_(faults) {}
 
   /// Reads the reader's current folder. Its sub-folders come into `subFolders`, whose notes are 0 or
-  /// kLinkToFolder; files whose name fits `filePattern` are kept for files(), unless `withFiles` is false.
-  /// Gives false when the folder is to be left at once.
-  bool read(NameTable& subFolders, const QString& filePattern, bool withFiles);
+  /// kLinkToFolder; files that `choice` lists are kept for files(). Gives false when the folder is to be left
+  /// at once.
+  bool read(NameTable& subFolders, const NameChoice& choice);
 
   /// Tells when there were more files than the table holds; to be called before they are used. Gives false
   /// when the folder is to be left at once.
@@ -136,17 +153,15 @@ class FolderNames {
 
   bool take(NameTable& subFolders, const FolderName& found);
   void takeFolder(NameTable& subFolders, std::string_view name, std::uint8_t note);
-  bool takeLink(NameTable& subFolders, std::string_view name);
-  void takeQuestioned(const FolderName& found);
+  bool takeLink(NameTable& subFolders, std::string_view name, NameUse use);
+  void takeQuestioned(const FolderName& found, NameUse use);
   void takeFile(std::string_view name, std::uint8_t traits);
   bool report(const LeftOut& leftOut, const QString& kind, std::size_t room);
 
   FolderReader& folders_;
   WalkFaults& faults_;
   NameTable files_{kMostFiles};
-  QString filePattern_;
-  bool everyFile_ = true;
-  bool withFiles_ = true;
+  NameChoice choice_;
   LeftOut subFoldersLeftOut_;
   LeftOut filesLeftOut_;
 };
@@ -200,7 +215,7 @@ class DirIO {
   // What one walk was asked for.
   struct Job {
     QString topPath;
-    QString filePattern;
+    NameChoice choice;
     LineOutputs outputs;
     std::string volumeLine;
     int flags = 0;
@@ -216,6 +231,7 @@ class DirIO {
   };
 
   void listTop();
+  WalkPlan plan() const;
   void walkOn();
   void walkSubFolder(std::string_view name);
   Level& addLevel();
@@ -232,6 +248,7 @@ class DirIO {
   bool writeFile(std::string_view name, NameTraits traits);
   void write(std::string_view line) { writeLine(line, job_.outputs, job_.flags); }
   void noteHostileTop(const std::string& listed);
+  void letEventsRun();
 
   FolderReader& folders_;
   IndexProgress& progress_;

@@ -83,7 +83,9 @@ Step WalkFaults::reportFull(std::string_view first, const QString& kind, std::si
 std::optional<Step> WalkFaults::ask(FaultNumber number, const QString& subject, const QString& remark) {
   const QString text = QStringLiteral("Error Number: %1 ").arg(static_cast<int>(number)) + describe(number) +
                        QStringLiteral("\r\nError reading:") + subject + QStringLiteral(" Skipping.") + remark;
-  switch (messages_.askAbortRetryIgnore(text)) {
+  const FaultAnswer answer = messages_.askAbortRetryIgnore(text);
+  folders_.forgetAhead();
+  switch (answer) {
     case FaultAnswer::Retry:
       return std::nullopt;
     case FaultAnswer::Ignore:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "faults/runtime_fault.h"
+#include "files/folder_reader.h"
 #include "platform/message_box.h"
 #include "state/program_state.h"
 #include "work/work.h"
@@ -29,9 +30,11 @@ void throwIfExhausted(int errorNumber, const QString& path);
 class WalkFaults {
  public:
   /// `folderPath` is the current folder with its trailing separator, in UTF-8, whenever a step is attempted;
-  /// all four must outlive the object. The user may end `job` where asked about a fault.
-  WalkFaults(ProgramState& state, const Job& job, MessageBoxes& messages, const std::string& folderPath)
-      : state_(state), job_(job), messages_(messages), folderPath_(folderPath) {}
+  /// all five must outlive the object. The user may end `job` where asked about a fault; what `folders` have
+  /// read ahead is forgotten then.
+  WalkFaults(ProgramState& state, const Job& job, MessageBoxes& messages, FolderReader& folders,
+             const std::string& folderPath)
+      : state_(state), job_(job), messages_(messages), folders_(folders), folderPath_(folderPath) {}
 
   /// Runs `action`, again as long as the user wants to retry it. It gives nothing when all went well, else
   /// the fault's number. `name` is what it works on, empty for the folder as a whole.
@@ -75,6 +78,7 @@ class WalkFaults {
   ProgramState& state_;
   const Job& job_;
   MessageBoxes& messages_;
+  FolderReader& folders_;
   const std::string& folderPath_;
   bool inFilePass_ = false;
   // The folder of the access errors at the end of the log, and where that end was.

@@ -35,6 +35,7 @@ class RecordingMessageBoxes : public MessageBoxes {
   /// Records the question and gives the next of `faultAnswers`; Closed when there is none left.
   FaultAnswer askAbortRetryIgnore(const QString& text) override {
     askedOfFaults.push_back(text);
+    if (whenAskedOfFault) whenAskedOfFault();
     if (faultAnswers.empty()) return FaultAnswer::Closed;
     const FaultAnswer answer = faultAnswers.front();
     faultAnswers.pop_front();
@@ -49,6 +50,8 @@ class RecordingMessageBoxes : public MessageBoxes {
   int shownOfAKind = 0;
   /// Called while a question with Yes and No is shown; may be empty.
   std::function<void()> whenAsked;
+  /// Called while a question about a fault is shown; may be empty.
+  std::function<void()> whenAskedOfFault;
   /// What the coming questions are answered with: true for Yes.
   std::deque<bool> answers;
   std::deque<FaultAnswer> faultAnswers;

@@ -1,5 +1,7 @@
 #include "support/system_call_watch.h"
 
+#include "support/folder_call_watch.h"
+
 #include <cerrno>
 #include <cstdarg>
 #include <cstddef>
@@ -112,6 +114,13 @@ int __wrap_openat(int folder, const char* path, int flags, ...) {
     va_start(arguments, flags);
     mode = va_arg(arguments, mode_t);
     va_end(arguments);
+  }
+  if ((flags & O_DIRECTORY) != 0) {
+    using quorvin::test::FolderCall;
+    if (const int error = quorvin::test::watchedFolderCall(FolderCall::Open, folder, path)) {
+      errno = error;
+      return -1;
+    }
   }
   return watched("openat", [&] { return __real_openat(folder, path, flags, mode); });
 }
