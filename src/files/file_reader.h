@@ -62,7 +62,20 @@ class RandomAccessFile {
   /// allows a thousand or so.
   bool isOneOfMany() const;
 
+  /// How long the file is, and when it was last written to, in nanoseconds since 1970. Being renamed or
+  /// removed changes neither.
+  struct Writing {
+    std::int64_t size;
+    std::int64_t time;
+
+    bool operator==(const Writing&) const = default;
+  };
+  /// Of the file as it is now. Throws RuntimeFault when the system does not say.
+  Writing lastWriting() const;
+
  private:
+  friend class GuardedMap;
+
   QString path_;
   int descriptor_ = -1;
   std::int64_t size_ = 0;
@@ -70,7 +83,7 @@ class RandomAccessFile {
 
 /// A stretch of a file mapped for reading. Looking at a part that somebody has cut off in the meantime ends
 /// the program with a signal, so only a program that has nothing to lose may do that, one that has called
-/// explainCutMapping(). The mapping outlives the file's name.
+/// explainCutMapping(); any other takes a GuardedMap. The mapping outlives the file's name.
 class MappedFile {
  public:
   /// Maps `size` bytes (more than 0) from `offset` on, which is a multiple of kMappingAlignment. Throws

@@ -92,6 +92,12 @@ bool RandomAccessFile::isOneOfMany() const {
   return descriptor_ >= kMany;
 }
 
+RandomAccessFile::Writing RandomAccessFile::lastWriting() const {
+  struct stat status {};
+  if (::fstat(descriptor_, &status) != 0) throw faultOfSystemError(errno, path_);
+  return {status.st_size, std::int64_t{status.st_mtim.tv_sec} * 1'000'000'000 + status.st_mtim.tv_nsec};
+}
+
 void RandomAccessFile::read(std::int64_t position, std::span<std::byte> buffer) const {
   while (!buffer.empty()) {
     const ssize_t count = ::pread(descriptor_, buffer.data(), buffer.size(), position);
