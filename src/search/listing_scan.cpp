@@ -233,6 +233,11 @@ bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search)
   return true;
 }
 
+/// Whether somebody has written to the files of segments, so that a search of them may have gone wrong.
+bool wereChanged(const SegmentStore::Segments& segments) {
+  return std::ranges::any_of(segments, [](const auto& segment) { return segment->wasChanged(); });
+}
+
 }  // namespace
 
 void scanListing(const ListingOpener& open, const ScanRequest& request, RunCounts& counts,
@@ -251,7 +256,9 @@ void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest
   const std::optional<SegmentKey> key = segmentKeyOf(path, request.locale);
   if (store != nullptr && key) {
     const SegmentStore::Segments segments = store->find(*key);
-    if (!segments.empty() && searchSegments(segments, search)) return;
+    const bool areWhole = searchSegments(segments, search);
+    outcome.changedMeanwhile = wereChanged(segments);
+    if (!segments.empty() && areWhole) return;
     if (!segments.empty()) store->forget(key->listing);
   }
   const ListingOpener open = [&path] {
@@ -265,7 +272,7 @@ void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest
   scan.run();
   outcome.isNoText = scan.isNoText();
   const std::optional<SegmentKey> keyNow = segmentKeyOf(path, request.locale);
-  outcome.changedMeanwhile = key && keyNow && wasWritten(key->identity, keyNow->identity);
+  if (key && keyNow && wasWritten(key->identity, keyNow->identity)) outcome.changedMeanwhile = true;
   // Each run is to say that it is no text.
   if (recorder && !outcome.stopped && !outcome.isNoText && keyNow == key) recorder->finish();
 }

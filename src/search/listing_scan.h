@@ -44,8 +44,9 @@ struct ScanOutcome {
   /// Hits whose size or date could not be read, and the line of the first of them (from 1; 0 if none).
   std::int64_t unreadableHits = 0;
   std::int64_t firstUnreadableLine = 0;
-  /// The file was written to while it was read, so that what was found may be partly of the old and partly of
-  /// the new content. One that was replaced is not meant: it is read to its end as it was.
+  /// The file, or what is kept of it, was written to while it was searched, so that what was found may be
+  /// partly of the old and partly of the new content. One that was replaced is not meant: it is read to its
+  /// end as it was.
   bool changedMeanwhile = false;
   /// There are zero bytes near its start: it is UTF-16 without a mark, or no text at all.
   bool isNoText = false;

@@ -80,12 +80,15 @@ void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t
                seen, {elsewhere, mostMissing});
     first = stretchLast;
   }
+  table.requireSearched();
 }
 
 void WordSearch::makeRoom(std::size_t blocks) {
   if (places_.size() >= blocks) return;
   places_.resize(blocks);
   ends_.resize(blocks);
+  // Each byte of a mapped file may have become the end of a text.
+  texts_.resize(std::max(texts_.size(), blocks + 1));
 }
 
 /// Rules out the words that cannot be in a page with these trigrams, if they are known. Returns how many

@@ -49,15 +49,31 @@ KeptSegment::KeptSegment(std::shared_ptr<const RandomAccessFile> file, const Seg
       file_(std::move(file)),
       offset_(static_cast<std::int64_t>(record.offset)) {}
 
+void KeptSegment::searchInFile() {
+  mapped_.emplace(file_, offset_, check().size(), FiledSegment::sums());
+  arrays_.entries.mapped = arrays_.folders.mapped = &*mapped_;
+}
+
 void KeptSegment::release() const {
   // What has been read whole could not be read again.
   if (!file_) return;
   check().forget();
   SparseMemory::release();
+  if (mapped_) mapped_->release();
+}
+
+bool KeptSegment::foundDamage() const {
+  return FiledSegment::foundDamage() || (mapped_ && mapped_->foundDamage());
+}
+
+bool KeptSegment::wasChanged() const {
+  return mapped_ && mapped_->wasChanged();
 }
 
 void KeptSegment::readWhole() {
   check().require(0, check().size());
+  arrays_.entries.mapped = arrays_.folders.mapped = nullptr;
+  mapped_.reset();
   file_.reset();
 }
 

@@ -3,6 +3,7 @@
 
 #include "files/file_reader.h"
 #include "platform/sparse_memory.h"
+#include "search/segment/mapped_bytes.h"
 #include "search/segment/passing_bytes.h"
 #include "search/segment/segment.h"
 
@@ -12,6 +13,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -71,6 +73,7 @@ class FiledSegment : public Segment {
                ByteCheck::Fetch fetch = {});
 
   ByteCheck& check() const { return check_; }
+  std::span<const std::uint64_t> sums() const { return sums_; }
 
  private:
   std::vector<std::uint64_t> sums_;
@@ -78,15 +81,22 @@ class FiledSegment : public Segment {
 };
 
 /// For repeated searches: the arrays lie in memory of the program's own, into which they are read block by
-/// block when they are asked for. Once there, they stay what they are.
+/// block when they are asked for. Once there, they stay what they are. Only the texts are searched in the
+/// file itself, which is mapped for that: they are most of it, and a search never relies on what they hold.
 class KeptSegment : private SparseMemory, public FiledSegment {
  public:
   /// Throws std::bad_alloc, and DamagedSegment as FiledSegment does.
   KeptSegment(std::shared_ptr<const RandomAccessFile> file, const SegmentRecord& record,
               std::vector<std::uint64_t> sums);
 
+  /// Without what is mapped: the system takes that back by itself.
   std::size_t memorySize() const override { return check().fetchedSize(); }
   void release() const override;
+  bool foundDamage() const override;
+  bool wasChanged() const override;
+
+  /// Has its texts searched in the file from now on, to which nobody has anything left to write.
+  void searchInFile();
 
   /// Reads all of it and lets go of the file. Throws DamagedSegment.
   void readWhole();
@@ -97,6 +107,8 @@ class KeptSegment : private SparseMemory, public FiledSegment {
   /// Null once all of the segment is in memory.
   std::shared_ptr<const RandomAccessFile> file_;
   std::int64_t offset_;
+  /// The segment as it is searched; nothing where it is searched in memory.
+  mutable std::optional<MappedBytes> mapped_;
 };
 
 /// What segments that are searched only once share: their texts pass through it.

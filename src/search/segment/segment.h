@@ -84,6 +84,10 @@ class Segment {
   /// Whether some of it has turned out to be damaged, so that it is not to be searched again.
   virtual bool foundDamage() const { return false; }
 
+  /// Whether its file has been written to since it was first searched: what is searched may have changed
+  /// after it was checked. That is damage, too.
+  virtual bool wasChanged() const { return false; }
+
   std::uint32_t entryCount() const { return arrays_.entries.count; }
   const SegmentArrays& arrays() const { return arrays_; }
 

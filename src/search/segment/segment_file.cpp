@@ -241,7 +241,7 @@ std::shared_ptr<const Segment> SegmentFileWriter::last() {
   if (record.size <= kSmall) return nullptr;
   if (!readable_) readable_ = std::make_shared<RandomAccessFile>(file_.path());
   if (readable_->isOneOfMany()) return nullptr;
-  return std::make_shared<KeptSegment>(readable_, record, sums_.back());
+  return kept_.emplace_back(std::make_shared<KeptSegment>(readable_, record, sums_.back()));
 }
 
 void SegmentFileWriter::finish(const SegmentKey& key) {
@@ -254,6 +254,7 @@ void SegmentFileWriter::finish(const SegmentKey& key) {
   write(directory.constData(), static_cast<std::size_t>(directory.size()));
   write(&trailer, sizeof trailer);
   file_.commit();
+  for (const auto& segment : kept_) segment->searchInFile();
 }
 
 namespace {
@@ -284,7 +285,11 @@ Segments keptSegments(const std::shared_ptr<const RandomAccessFile>& file, Direc
     if (!isInside(directory.segments[i], *file)) throw DamagedSegment();
     const auto segment =
         std::make_shared<KeptSegment>(file, directory.segments[i], std::move(directory.sums[i]));
-    if (isSmall || file->isOneOfMany()) segment->readWhole();
+    if (isSmall || file->isOneOfMany()) {
+      segment->readWhole();
+    } else {
+      segment->searchInFile();
+    }
     segments.push_back(segment);
   }
   return segments;

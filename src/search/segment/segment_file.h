@@ -18,7 +18,7 @@ namespace quorvin {
 /// How often segments out of a file are going to be searched. For a single time they are mapped and their
 /// texts read piece by piece, by a program that has called explainCutMapping(). For more, what has been
 /// looked at stays in memory of the program's own, whatever becomes of the file, so that a later search need
-/// not read it again.
+/// not read it again; the texts are searched in the file, through a guarded map.
 enum class SegmentUse { Once, Repeated };
 
 /// What a segment file belongs to: a listing as it was, and the rules by which it was read.
@@ -43,7 +43,7 @@ class SegmentFileWriter {
   void append(const Segment& segment);
 
   /// The segment that was appended last as it is in the file, for repeated use. Null where it is better kept
-  /// in memory: it is small, or too many files are open.
+  /// in memory: it is small, or too many files are open. Its texts are searched in the file after finish().
   std::shared_ptr<const Segment> last();
 
   /// Writes the key and puts the file in place. Throws as append does.
@@ -58,6 +58,8 @@ class SegmentFileWriter {
   std::uint64_t position_ = 0;
   std::vector<SegmentRecord> segments_;
   std::vector<std::vector<std::uint64_t>> sums_;
+  /// What last() has returned.
+  std::vector<std::shared_ptr<KeptSegment>> kept_;
 };
 
 /// The segments of the file at `path` if it is whole and belongs to `key`; else none. Of a large file only

@@ -107,6 +107,10 @@ std::string_view TextTable::toSearch(Stretch stretch) const {
     const auto copy = passing->take(folded.offset() + stretch.begin, stretch.size);
     if (copy) return *copy;
   }
+  if (mapped != nullptr) {
+    const auto there = mapped->take(folded.offset() + stretch.begin, stretch.size);
+    if (there) return *there;
+  }
   return textOf(folded.part(stretch.begin, stretch.size));
 }
 

@@ -3,6 +3,7 @@
 
 #include "search/format/line_scan.h"
 #include "search/segment/checked_span.h"
+#include "search/segment/mapped_bytes.h"
 #include "search/segment/passing_bytes.h"
 #include "search/segment/text_scan.h"
 
@@ -83,6 +84,8 @@ struct TextTable {
 
   /// Where `folded` is to be searched once only: the way to read it for that. Else null.
   PassingBytes* passing = nullptr;
+  /// Where `folded` is searched more often, but lies in a file: the way to search it there. Else null.
+  MappedBytes* mapped = nullptr;
 
   /// A part of `folded`.
   struct Stretch {
@@ -93,8 +96,15 @@ struct TextTable {
   Stretch between(std::size_t beginMark, std::size_t endMark) const;
 
   /// A stretch ready to be searched: itself, or a copy that is valid until the next call. kScanPadding
-  /// readable bytes follow it.
+  /// readable bytes follow it. Others may change what it holds while it is searched, the number of its ends
+  /// too.
   std::string_view toSearch(Stretch stretch) const;
+
+  /// To be called before anything is believed that was found in what toSearch() has returned. Throws
+  /// DamagedSegment when that was not the texts any more.
+  void requireSearched() const {
+    if (mapped != nullptr) mapped->requireTaken();
+  }
 
   /// The text as listed, UTF-8.
   std::string listedText(std::uint32_t text) const;

@@ -250,5 +250,33 @@ TEST(WordSet, JoinsTwoSets) {
   EXPECT_THAT(wordsIn(one | other), ElementsAre(0, 63, 64, 100));
 }
 
+/// What is searched may change after it was checked.
+TEST(WordSearch, TextsThatBecameOthersDoNotLeadOutOfBounds) {
+  std::vector<std::string> texts;
+  for (int i = 0; i < 3000; ++i) texts.push_back("song of the long evening " + std::to_string(i));
+  const auto builder = tableOf(texts);
+  std::string changed(textOf(builder->table().folded.all()));
+  changed.append(kScanPadding, '\0');
+  const std::size_t size = changed.size() - kScanPadding;
+  for (const InstructionSet set : test::instructionSets()) {
+    const test::OnlyInstructionSet only(set);
+    for (const std::string& filling : {std::string(1, kTextEnd), "s" + std::string(1, kTextEnd),
+                                       std::string("s"), std::string("song"), std::string(1, '\0')}) {
+      for (std::size_t i = 0; i < size; ++i) changed[i] = filling[i % filling.size()];
+      TextTable table = builder->table();
+      table.folded = std::string_view(changed).substr(0, size);
+      const SearchQuery query = queryOf({"s", "song", "evening"});
+      WordSearch search(query);
+      SeenWords seen(false);
+      for (int times = 0; times < 2; ++times) {
+        for (std::uint32_t first = 0; first < 3000; first += 1500) {
+          search.find(table, first, first + 1500, seen);
+          EXPECT_EQ(seen.touched().size(), 24U);
+        }
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quorvin

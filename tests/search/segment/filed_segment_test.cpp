@@ -115,6 +115,45 @@ TEST_F(FiledSegmentTest, AKeptOneOfACutFileIsDamagedWhereItWasNotRead) {
   EXPECT_TRUE(segment.foundDamage());
 }
 
+TEST_F(FiledSegmentTest, AKeptOneIsSearchedInItsFileAndShownFromMemory) {
+  KeptSegment segment = kept();
+  segment.searchInFile();
+  const TextTable& entries = segment.arrays().entries;
+  const std::string_view found = entries.toSearch(entries.between(0, kEntries));
+  EXPECT_EQ(found.substr(0, 14), "song 0\xFFsong 1\xFF");
+  // The marks, which are less than a block.
+  EXPECT_LE(segment.memorySize(), ByteCheck::kBlockSize);
+  EXPECT_EQ(segment.name(kEntries - 1), u"Song 2999"_qs);
+  ASSERT_TRUE(QFile::resize(path_, 0));
+  EXPECT_EQ(segment.name(kEntries - 1), u"Song 2999"_qs);
+  EXPECT_EQ(found[0], '\0');
+  EXPECT_THROW(entries.requireSearched(), DamagedSegment);
+  EXPECT_TRUE(segment.foundDamage());
+  EXPECT_EQ(segment.name(kEntries - 1), u"Song 2999"_qs);
+}
+
+TEST_F(FiledSegmentTest, AKeptOneThatCannotBeMappedIsSearchedInMemory) {
+  record_.offset = 64;
+  folder_.writeFile(kName, QByteArray(64, '#') + bytes_);
+  KeptSegment segment = kept();
+  segment.searchInFile();
+  const TextTable& entries = segment.arrays().entries;
+  EXPECT_EQ(entries.toSearch(entries.between(0, 1)).substr(0, 14), "song 0\xFFsong 1\xFF");
+  EXPECT_NO_THROW(entries.requireSearched());
+  expectRight(segment);
+}
+
+TEST_F(FiledSegmentTest, AKeptOneThatWasReadWholeIsSearchedInMemory) {
+  KeptSegment segment = kept();
+  segment.searchInFile();
+  segment.readWhole();
+  ASSERT_TRUE(QFile::resize(path_, 0));
+  const TextTable& entries = segment.arrays().entries;
+  EXPECT_EQ(entries.toSearch(entries.between(0, 1)).substr(0, 14), "song 0\xFFsong 1\xFF");
+  EXPECT_NO_THROW(entries.requireSearched());
+  EXPECT_FALSE(segment.foundDamage());
+}
+
 TEST_F(FiledSegmentTest, APassingOneSaysTheSame) {
   const PassingSegment segment(path_, record_, sums_, std::make_shared<PassingBuffers>());
   expectRight(segment);

@@ -92,6 +92,27 @@ TEST_P(SegmentFileTest, SegmentsComeBackAsTheyWere) {
   EXPECT_EQ(listingOfSegmentFile(path_), u"/lists/cd.lst"_qs);
 }
 
+/// What others write to a file that is searched is damage; what the writer adds is not.
+TEST_P(SegmentFileTest, ASegmentIsSearchedInMemoryUntilItsFileIsComplete) {
+  std::string lines;
+  for (int i = 0; i < 60000; ++i) lines += "a song of many, in small letters\r\n";
+  SegmentFileWriter writer(folder_.pathOf(u"large.qsegments"_qs));
+  write(writer, lines);
+  const auto segment = writer.last();
+  ASSERT_TRUE(segment);
+  const TextTable& entries = segment->arrays().entries;
+  EXPECT_EQ(entries.toSearch(entries.between(0, 1)).substr(0, 7), "a song ");
+  write(writer, "behind it\r\n");
+  writer.finish(key_);
+  EXPECT_FALSE(segment->foundDamage());
+  const std::size_t memoryBefore = segment->memorySize();
+  EXPECT_GT(memoryBefore, 0U);
+  EXPECT_EQ(entries.toSearch(entries.between(0, entries.marks.size())).substr(0, 7), "a song ");
+  EXPECT_NO_THROW(entries.requireSearched());
+  EXPECT_EQ(segment->memorySize(), memoryBefore);
+  EXPECT_FALSE(segment->foundDamage());
+}
+
 TEST_P(SegmentFileTest, ASegmentThatIsWrittenInManyPiecesComesBackAsItWas) {
   constexpr int kEntries = 150000;
   std::string lines = "Volume:    V1\r\nDirectory: \\Music\\\r\n";
