@@ -30,7 +30,9 @@ std::string commandsIn(std::string_view command) {
   std::string words;
   for (const CommandText& text : commandTexts()) {
     const bool isIn = command.empty() ? !isWithin(text) : text.name.starts_with(std::string(command) + ' ');
-    if (isIn) words += (words.empty() ? "" : " ") + std::string(lastWord(text.name));
+    if (!isIn) continue;
+    if (!words.empty()) words += ' ';
+    words += lastWord(text.name);
   }
   return words;
 }

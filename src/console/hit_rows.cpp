@@ -171,7 +171,8 @@ void HitRows::enterFolder(const HitFolder& folder) {
     }
   }
   auto text = shared_.begin();
-  *text = isJson() ? "{" : "";
+  text->clear();
+  if (isJson()) *text += '{';
   for (std::size_t column = 0; column < options_.fields.size(); ++column) {
     if (column > 0 && !isJson()) *text += options_.format == RowFormat::Tsv ? '\t' : ',';
     const HitField field = options_.fields[column];

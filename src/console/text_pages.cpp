@@ -21,7 +21,7 @@ void addLine(std::string& text, std::string_view left, std::string_view right, s
 std::string withBlanks(std::string_view names) {
   std::string result(names);
   const std::size_t comma = result.find(',');
-  if (comma != std::string::npos) result.insert(comma + 1, " ");
+  if (comma != std::string::npos) result.insert(comma + 1, 1, ' ');
   return result;
 }
 
