@@ -5,6 +5,7 @@
 #include "app/search_form_help.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
+#include "files/drive_threads.h"
 #include "help/frm_browser.h"
 #include "help/frm_splash.h"
 #include "help/page_transfer.h"
@@ -80,7 +81,7 @@ class SearchFormWindows {
   const SearchFormMenus& menus_;
   QWidget& owner_;
   DialogFilePicker systemPicker_;
-  LookingThreads lookers_;
+  DriveThreads lookers_;
   SourceEditing sourceEditing_;
   OptionsEditing optionsEditing_;
   HistoryWindow::Restore restoreListing_;

@@ -103,17 +103,6 @@ struct SourceLooks::Round {
   }
 };
 
-LookingThreads::LookingThreads(int most, std::chrono::milliseconds patience)
-    : patience_(patience), pool_(std::make_unique<QThreadPool>()) {
-  pool_->setMaxThreadCount(most);
-}
-
-LookingThreads::~LookingThreads() {
-  pool_->clear();
-  // The pool's own end would wait for its threads for as long as the drive does not answer.
-  if (!pool_->waitForDone(static_cast<int>(patience_.count()))) (void)pool_.release();
-}
-
 SourceLooks::SourceLooks(QThreadPool& pool, Look look, QObject* parent)
     : QObject(parent), pool_(pool), look_(std::move(look)) {}
 

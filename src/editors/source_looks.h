@@ -9,10 +9,8 @@
 #include <QString>
 #include <QThreadPool>
 
-#include <chrono>
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -59,25 +57,6 @@ QString factsInBrief(const SourceFacts& facts, const SourcePlaces& places, const
                      QDate today);
 /// The same as sentences, for tooltips and screen readers.
 QString factsInFull(const SourceFacts& facts, const SourcePlaces& places, const QLocale& locale);
-
-/// The threads in which sources are looked at. Their end waits for a moment at most: a thread that a lost
-/// drive keeps waiting is left to itself then. It has nothing of the program, so that it may end whenever it
-/// likes, or with the process.
-class LookingThreads {
- public:
-  static constexpr std::chrono::milliseconds kPatience{200};
-
-  explicit LookingThreads(int most, std::chrono::milliseconds patience = kPatience);
-  ~LookingThreads();
-  LookingThreads(const LookingThreads&) = delete;
-  LookingThreads& operator=(const LookingThreads&) = delete;
-
-  QThreadPool& pool() { return *pool_; }
-
- private:
-  std::chrono::milliseconds patience_;
-  std::unique_ptr<QThreadPool> pool_;
-};
 
 /// Looks at sources in other threads, a few at a time, and remembers what it has found. When it is destroyed,
 /// what has not been looked at yet is given up; nothing is waited for.

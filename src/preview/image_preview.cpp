@@ -47,9 +47,7 @@ ImgPreLoading::ImgPreLoading(const QString& path, QWidget* parent) : QProgressDi
 }
 
 ImagePreview::ImagePreview(QWidget* owner, MetafileChild child, PreviewFaultReport report)
-    : owner_(owner), child_(std::move(child)), report_(std::move(report)) {
-  pool_.setMaxThreadCount(kThreads);
-}
+    : owner_(owner), child_(std::move(child)), report_(std::move(report)), threads_(kThreads) {}
 
 ImagePreview::~ImagePreview() {
   unload();
@@ -62,7 +60,7 @@ void ImagePreview::PreviewImage(const QString& path) {
   connect(loading_.get(), &QProgressDialog::canceled, this, &ImagePreview::cancel);
   connect(loading_.get(), &QDialog::rejected, this, &ImagePreview::cancel);
   inBackground(
-      pool_, this, [path, child = child_, stop = stop_] { return loadPicture(path, child, stop); },
+      threads_.pool(), this, [path, child = child_, stop = stop_] { return loadPicture(path, child, stop); },
       [this, path, stop = stop_](const QFuture<LoadedPicture>& picture) {
         if (!stop.stop_requested()) loadingEnded(picture, path);
       });
@@ -106,7 +104,7 @@ void ImagePreview::show(const LoadedPicture& picture, const QString& path) {
 }
 
 ImgPre& ImagePreview::madeWindow() {
-  if (!window_) window_ = std::make_unique<ImgPre>(pool_, owner_);
+  if (!window_) window_ = std::make_unique<ImgPre>(threads_.pool(), owner_);
   return *window_;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "faults/runtime_fault.h"
+#include "files/drive_threads.h"
 #include "preview/img_pre.h"
 #include "preview/loaded_picture.h"
 #include "preview/metafile_child.h"
@@ -10,7 +11,6 @@
 #include <QObject>
 #include <QProgressDialog>
 #include <QString>
-#include <QThreadPool>
 
 #include <functional>
 #include <memory>
@@ -34,8 +34,8 @@ using PreviewFaultReport = std::function<void(const QString& path, const Runtime
 
 /// Loads pictures and shows them in the window `ImgPre`, which is made when the first picture has been loaded
 /// and is used again for all later ones. Pictures are loaded in other threads, so that the program can be
-/// used meanwhile. The object may be destroyed at any time; it then waits no longer than an image reader
-/// takes to notice.
+/// used meanwhile. The object may be destroyed at any time; a reader that a drive keeps waiting is left to
+/// itself then (see DriveThreads).
 class ImagePreview : public QObject {
   Q_OBJECT
 
@@ -69,7 +69,7 @@ class ImagePreview : public QObject {
   PreviewFaultReport report_;
   std::stop_source stop_;
   std::unique_ptr<ImgPreLoading> loading_;
-  QThreadPool pool_;
+  DriveThreads threads_;
   std::unique_ptr<ImgPre> window_;
 };
 

@@ -13,9 +13,9 @@
 
 namespace quorvin {
 
-/// Runs `work` in a thread of `pool` and then, in the thread of `user`, `use(future)`; `future` holds what
-/// the work returned, or throws what it threw. When `user` is destroyed first, `use` is not called, but the
-/// work goes on to its end.
+/// Runs `work`, which owns all that it uses, in a thread of `pool` and then, in the thread of `user`,
+/// `use(future)`; `future` holds what the work returned, or throws what it threw. When `user` is destroyed
+/// first, `use` is not called, but the work goes on to its end.
 template <typename Work, typename Use>
 void inBackground(QThreadPool& pool, QObject* user, Work work, Use use) {
   using Result = decltype(work());

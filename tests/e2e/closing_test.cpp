@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcessEnvironment>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -143,6 +144,40 @@ TEST_F(ClosingAtWork, TheUnpackingAtStartUpEndsAndEverythingIsSaved) {
   EXPECT_FALSE(home_.hasData(QStringLiteral("main.txt")));
   EXPECT_TRUE(home_.hasData(QStringLiteral("Locations.txt")));
   EXPECT_TRUE(home_.hasData(QStringLiteral("OfflineLocations.txt")));
+}
+
+/// What lets the first read of a file below the folder wait for ever, as one on a drive that does not answer;
+/// `report` is a file that is made when it starts to.
+QProcessEnvironment withReadsThatHang(const QString& folder, const QString& report) {
+  QProcessEnvironment environment;
+  environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(QUORVIN_FAILING_CALLS));
+  environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
+  environment.insert(QStringLiteral("QUORVIN_FAIL_CALL"), QStringLiteral("read"));
+  environment.insert(QStringLiteral("QUORVIN_FAIL_AT"), QStringLiteral("1"));
+  environment.insert(QStringLiteral("QUORVIN_FAIL_BELOW"), folder);
+  environment.insert(QStringLiteral("QUORVIN_FAIL_HOW"), QStringLiteral("hang"));
+  environment.insert(QStringLiteral("QUORVIN_FAIL_REPORT"), report);
+  return environment;
+}
+
+TEST_F(ClosingAtWork, APictureOnADriveThatDoesNotAnswerIsNotWaitedFor) {
+  const QString pictures = home_.folder.pathOf(QStringLiteral("pictures/"));
+  home_.folder.writeFile(QStringLiteral("pictures/harbour.bmp"), "BM");
+  home_.folder.writeFile(
+      QStringLiteral("data/Pictures.txt"),
+      blockHead("Pictures", QString(pictures).replace(u'/', u'\\').toUtf8()) + entryLine("harbour.bmp"));
+  home_.folder.writeFile(QStringLiteral("data/Locations.txt"),
+                         listFile({{QStringLiteral("Pictures"), pictures}}));
+  const QString report = home_.folder.pathOf(QStringLiteral("hangs"));
+
+  RunningProgram program(desktop_, home_, {}, withReadsThatHang(pictures, report));
+  program.find(QStringLiteral("harbour"));
+  program.waitForHits({QStringLiteral("100%\tPictures\t%1\tharbour.bmp\t0.00mb\tJan, 15 04")
+                           .arg(QString(pictures).replace(u'/', u'\\'))});
+  program.press({QStringLiteral("Home"), QStringLiteral("shift+F10"), QStringLiteral("Down"),
+                 QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")});
+  waitUntil(QStringLiteral("for the picture to be read"), [&] { return QFile::exists(report); });
+  expectCleanAndSoon(program);
 }
 
 TEST_F(ClosingAtWork, WhatWasNotSavedBeforeACrashIsOfferedAtTheNextStart) {

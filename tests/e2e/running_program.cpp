@@ -54,10 +54,12 @@ void ProgramHome::writeSettings() const {
       "[Ketta%20Quorvin/Settings]\nLocalFolder=" + data().toUtf8() + "\nTextFile=main.txt\nNickName=ann\n");
 }
 
-RunningProgram::RunningProgram(const Desktop& desktop, const ProgramHome& home, const QStringList& arguments)
+RunningProgram::RunningProgram(const Desktop& desktop, const ProgramHome& home, const QStringList& arguments,
+                               const QProcessEnvironment& variables)
     : desktop_(desktop) {
   QProcessEnvironment environment = desktop.environment();
   home.addTo(environment);
+  environment.insert(variables);
   endWithTest(process_);
   process_.setProcessEnvironment(environment);
   process_.setWorkingDirectory(home.folder.path());

@@ -5,6 +5,7 @@
 #include "support/temporary_folder.h"
 
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 
@@ -42,8 +43,10 @@ struct ProgramEnd {
 
 class RunningProgram {
  public:
-  /// Starts it and waits until its main window takes keys.
-  RunningProgram(const Desktop& desktop, const ProgramHome& home, const QStringList& arguments = {});
+  /// Starts it and waits until its main window takes keys. `variables` come on top of what desktop and home
+  /// set.
+  RunningProgram(const Desktop& desktop, const ProgramHome& home, const QStringList& arguments = {},
+                 const QProcessEnvironment& variables = {});
 
   const QString& mainWindow() const { return mainWindow_; }
   qint64 processId() const { return process_.processId(); }

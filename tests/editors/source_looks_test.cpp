@@ -1,6 +1,7 @@
 // What is found at the places of sources, and in which words.
 #include "editors/source_looks.h"
 
+#include "files/drive_threads.h"
 #include "support/eventually.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <memory>
 
 namespace quorvin::test {
@@ -180,7 +182,7 @@ class LostDrive {
 TEST(ThreadsThatLook, AreLeftToThemselvesAtTheEndWhereADriveDoesNotAnswer) {
   LostDrive drive;
   {
-    LookingThreads threads(8, std::chrono::milliseconds(1));
+    DriveThreads threads(8, std::chrono::milliseconds(1));
     SourceLooks looks(threads.pool(), drive.look(), nullptr);
     looks.lookAt({place(0), place(1)});
     EXPECT_EVENTUALLY(drive.asked() == 2);
@@ -193,7 +195,7 @@ TEST(ThreadsThatLook, AreLeftToThemselvesAtTheEndWhereADriveDoesNotAnswer) {
 TEST(ThreadsThatLook, ThatHaveNotStartedDoNotStartAfterTheEnd) {
   LostDrive drive;
   {
-    LookingThreads threads(1, std::chrono::milliseconds(1));
+    DriveThreads threads(1, std::chrono::milliseconds(1));
     SourceLooks first(threads.pool(), drive.look(), nullptr);
     SourceLooks second(threads.pool(), drive.look(), nullptr);
     first.lookAt({place(0)});

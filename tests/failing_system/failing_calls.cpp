@@ -1,4 +1,5 @@
-// A library that is loaded before all others (LD_PRELOAD) and makes one chosen system call of a program fail.
+// A library that is loaded before all others (LD_PRELOAD) and makes one chosen system call of a program fail
+// or never return.
 //
 //   QUORVIN_FAIL_CALL    which kind of call: open, read, write, fsync, rename, mkdir, stat, list, socket,
 //                        allocate
@@ -8,7 +9,8 @@
 //                        call on.
 //   QUORVIN_FAIL_ABOVE   only allocations of at least so many bytes count
 //   QUORVIN_FAIL_HOW     the number of the error (errno); "short" writes half of what was asked for, and the
-//                        next write of that file fails for want of room; "kill" ends the process at once
+//                        next write of that file fails for want of room; "kill" ends the process at once;
+//                        "hang" is a drive that does not answer: the call never returns
 //   QUORVIN_FAIL_REPORT  a file that is made when the call fails, so that whoever counts up knows when to
 //                        stop
 //
@@ -91,6 +93,7 @@ bool fails(std::string_view call) {
     kill(getpid(), SIGKILL);
     pause();
   }
+  while (plan().how == "hang") pause();
   errno = plan().how == "short" ? ENOSPC : atoi(plan().how.data());
   return true;
 }
