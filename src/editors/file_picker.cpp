@@ -95,6 +95,7 @@ std::optional<QString> DialogFilePicker::pickFolder(const FileQuestion& question
 
 QStringList DialogFilePicker::pickFolders(const FileQuestion& question) {
   QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Choose Folders to Catalogue"));
+  dialog.setOption(QFileDialog::DontUseNativeDialog, question.isForSeveral);
   askForFolderIn(dialog, question);
   // The toolkit's own dialog has these views, and says of a folder only that it is to be one.
   for (const char* name : {"listView", "treeView"}) {

@@ -19,6 +19,8 @@ struct FileQuestion {
   QString initialFolder;
   /// What a typed name without an extension is completed with, for example ".txt".
   QString defaultExtension;
+  /// Whether picking several at once matters more than the desktop's own dialog.
+  bool isForSeveral = false;
 };
 
 /// What something is to be saved as.
@@ -70,7 +72,7 @@ class DialogFilePicker : public FilePicker {
   std::optional<QString> openFile(const FileQuestion& question) override;
   QStringList openFiles(const FileQuestion& question) override;
   std::optional<QString> pickFolder(const FileQuestion& question) override;
-  /// Native dialogs let the user pick one.
+  /// Native dialogs let the user pick one folder, so that a question for several is asked without them.
   QStringList pickFolders(const FileQuestion& question) override;
   std::optional<QString> saveFile(const SaveQuestion& question) override;
 };

@@ -249,8 +249,9 @@ void LocalLoc::showNotice() {
 }
 
 /// None when the user has cancelled.
-QStringList LocalLoc::pickedSources(const QString& initialFolder) {
-  const FileQuestion question{QStringLiteral("All Files"), initialFolder, QStringLiteral(".txt")};
+QStringList LocalLoc::pickedSources(const QString& initialFolder, bool isForSeveral) {
+  const FileQuestion question{QStringLiteral("All Files"), initialFolder, QStringLiteral(".txt"),
+                              isForSeveral};
   if (LocMode_ == kOfflineMode) return askForFiles(editing_.picker, question);
   QStringList paths;
   for (const PickedFile& folder : askForFolders(editing_.picker, question, editing_.pathStyle)) {
@@ -262,17 +263,17 @@ QStringList LocalLoc::pickedSources(const QString& initialFolder) {
 /// Nothing when the user has cancelled; an empty path when several sources were picked, which are in the list
 /// by then.
 std::optional<QString> LocalLoc::pickedPath() {
-  const QStringList sources = pickedSources(controls_.LocalDataFolder->text());
+  const QStringList sources = pickedSources(controls_.LocalDataFolder->text(), false);
   if (sources.isEmpty()) return std::nullopt;
   if (sources.size() == 1) return sources.first();
   appendAll(sources);
   return QString();
 }
 
-/// Dialogs of the desktop let the user pick one folder at a time. The next one is mostly beside it.
+/// What is added next is mostly beside what was added last.
 void LocalLoc::AddSources_Click() {
   const QStringList sources =
-      pickedSources(pickedIn_.isEmpty() ? controls_.LocalDataFolder->text() : pickedIn_);
+      pickedSources(pickedIn_.isEmpty() ? controls_.LocalDataFolder->text() : pickedIn_, true);
   if (sources.isEmpty()) return;
   pickedIn_ = QFileInfo(QDir::cleanPath(sources.last())).path();
   appendAll(sources);

@@ -85,7 +85,7 @@ class LocalLoc : public QDialog {
   void showNotice();
   void appendAll(const QStringList& sources);
   void takeDropped(const DroppedSources& dropped);
-  QStringList pickedSources(const QString& initialFolder);
+  QStringList pickedSources(const QString& initialFolder, bool isForSeveral);
   std::optional<QString> pickedPath();
   /// Whether the list could be stored; if not, a message has said why.
   bool store(SourceTable& table, int& count);

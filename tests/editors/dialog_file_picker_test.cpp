@@ -105,6 +105,19 @@ TEST_F(FileDialogs, TheViewsOfFoldersLetSeveralBeSelected) {
       }));
 }
 
+TEST_F(FileDialogs, OnlyAQuestionForSeveralFoldersIsAskedWithoutTheDesktopsDialog) {
+  for (const bool isForSeveral : {false, true}) {
+    FileQuestion folders = question();
+    folders.isForSeveral = isForSeveral;
+    EXPECT_TRUE(duringModal<QFileDialog>([&] { DialogFilePicker().pickFolders(folders); },
+                                         [&](QFileDialog& dialog) {
+                                           EXPECT_EQ(dialog.testOption(QFileDialog::DontUseNativeDialog),
+                                                     isForSeveral);
+                                           EXPECT_TRUE(dialog.testOption(QFileDialog::ShowDirsOnly));
+                                         }));
+  }
+}
+
 TEST_F(FileDialogs, WhatIsSavedGetsTheEndingOfItsForm) {
   const SaveQuestion question{QStringLiteral("Export Hits"),
                               QStringLiteral("hits"),

@@ -147,6 +147,15 @@ TEST_F(EditorDrops, AddFoldersTakesSeveralAndCanBeTakenBack) {
   EXPECT_TRUE(edited().empty());
 }
 
+/// Several can be picked in every dialog of the program's own, and in none of most desktops.
+TEST_F(EditorDrops, AddFoldersAsksForSeveralAndBrowseInTheWayOfTheDesktop) {
+  click(controls().AddSources);
+  click(controls().GetListName);
+  ASSERT_EQ(picker_.askedForFolder.size(), 2U);
+  EXPECT_TRUE(picker_.askedForFolder[0].isForSeveral);
+  EXPECT_FALSE(picker_.askedForFolder[1].isForSeveral);
+}
+
 TEST_F(EditorDrops, OneListingOfAPickIsAddedAtOnceByAddFiles) {
   picker_.pick = QStringLiteral("/l/a.txt");
   inOfflineEditor([this](LocalLoc& editor) {
