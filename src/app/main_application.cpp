@@ -17,10 +17,12 @@
 #include <QPixmap>
 #include <QPixmapCache>
 #include <QStringList>
+#include <QStyleOptionButton>
 #include <QStyleOptionMenuItem>
 #include <QSvgRenderer>
 #include <QWidget>
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -137,16 +139,68 @@ QIcon applicationIcon() {
   return icon;
 }
 
+/// `share` is that of `one`, from 0 to 1.
+QColor between(const QColor& one, const QColor& other, double share) {
+  const auto mixed = [share](int of, int with) {
+    return static_cast<int>(std::lround(share * of + (1 - share) * with));
+  };
+  return {mixed(one.red(), other.red()), mixed(one.green(), other.green()), mixed(one.blue(), other.blue())};
+}
+
+/// Desktops of high contrast have been met with black on black.
+void makeUnusableTextsSeen(QPalette& palette) {
+  constexpr double kSeen = 2;
+  for (const auto& [text, background] :
+       {std::pair(QPalette::WindowText, QPalette::Window), std::pair(QPalette::Text, QPalette::Base),
+        std::pair(QPalette::ButtonText, QPalette::Button)}) {
+    const QColor behind = palette.color(QPalette::Disabled, background);
+    const QColor unusable = palette.color(QPalette::Disabled, text);
+    if (shadeAgainst(unusable, behind, kSeen) == unusable) continue;
+    palette.setColor(QPalette::Disabled, text, between(palette.color(QPalette::Active, text), behind, 0.5));
+  }
+}
+
+bool isFrame(QStyle::PrimitiveElement element) {
+  return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_PanelMenu ||
+         element == QStyle::PE_Frame || element == QStyle::PE_PanelButtonCommand;
+}
+
+constexpr int kDarkestWithMenuFrames = 128;
+
+/// Whether the window is so dark that no darker frame can be seen on it.
+bool losesFrame(QStyle::PrimitiveElement element, const QPalette& palette) {
+  constexpr int kDarkestWithFrames = 20;
+  const int darkest = element == QStyle::PE_PanelMenu ? kDarkestWithMenuFrames : kDarkestWithFrames;
+  return palette.color(QPalette::Window).lightness() < darkest;
+}
+
+/// What Enter presses, and what has the keys, has a frame in the selection's colour.
+bool standsOut(const QStyleOption& option) {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+  return option.state.testFlag(QStyle::State_HasFocus) ||
+         (button && button->features.testFlag(QStyleOptionButton::DefaultButton));
+}
+
 }  // namespace
 
+void SeenFrames::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (!isFrame(element) || standsOut(*option) || !losesFrame(element, option->palette)) return;
+  painter->save();
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(
+      between(option->palette.color(QPalette::WindowText), option->palette.color(QPalette::Window), 0.5));
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  painter->restore();
+}
+
 QPalette withReadableTexts(QPalette palette) {
+  makeUnusableTextsSeen(palette);
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
     const QColor text = palette.color(group, QPalette::Text);
     const QColor base = palette.color(group, QPalette::Base);
-    const auto between = [](int one, int other) { return (7 * one + 3 * other) / 10; };
-    palette.setColor(group, QPalette::PlaceholderText,
-                     QColor(between(text.red(), base.red()), between(text.green(), base.green()),
-                            between(text.blue(), base.blue())));
+    palette.setColor(group, QPalette::PlaceholderText, between(text, base, 0.7));
     const QColor selectedText = palette.color(group, QPalette::HighlightedText);
     palette.setColor(group, QPalette::Highlight,
                      shadeAgainst(palette.color(group, QPalette::Highlight), selectedText));
@@ -181,7 +235,11 @@ Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
   QPixmapCache::setCacheLimit(kDrawnPartsKilobytes);
-  if (isRightToLeft()) setStyle(new EnglishCaptions);
+  // Other styles find colours of their own for frames.
+  const bool needsFrames =
+      style()->name() == u"fusion" && palette().color(QPalette::Window).lightness() < kDarkestWithMenuFrames;
+  if (needsFrames) setStyle(new SeenFrames);
+  if (isRightToLeft()) setStyle(needsFrames ? new EnglishCaptions(new SeenFrames) : new EnglishCaptions);
   setPalette(withReadableTexts(palette()));
   setWindowIcon(applicationIcon());
   // Wayland's desktops take the icon from there.

@@ -15,8 +15,22 @@ namespace quorvin {
 
 /// `palette` with a colour for quiet texts (PlaceholderText) that lies between text and background and can be
 /// read on Base and on Window. Desktops give one of too little contrast, or, with dark palettes, none. What
-/// is selected has a background on which its text can be read, of the hue that the desktop has chosen.
+/// is selected has a background on which its text can be read, of the hue that the desktop has chosen. Texts
+/// of what cannot be used are fainter than others, but can be seen.
 QPalette withReadableTexts(QPalette palette);
+
+/// Draws frames that the toolkit's own style draws in a darker shade of the windows, so that nobody sees
+/// them: those of menus with dark palettes, and on black windows, for high contrast, also those of boxes,
+/// buttons and lists.
+class SeenFrames : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+};
 
 /// Draws English captions on desktops that are read from right to left: without it the full stops and
 /// question marks at their ends would be drawn at their starts ("?Web Update"). The captions themselves stay

@@ -12,10 +12,13 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMetaMethod>
 #include <QPixmapCache>
 #include <QPushButton>
+#include <QScopedPointer>
+#include <QStyleFactory>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -71,6 +74,63 @@ TEST(MainApplication, QuietTextsCanBeReadOnLightDarkAndHighContrastDesktops) {
     EXPECT_GE(contrastOf(quiet, colours.window), 4.5) << colours.window.name().toStdString();
     EXPECT_NE(quiet, colours.text);
   }
+}
+
+TEST(MainApplication, TextsOfWhatCannotBeUsedAreSeenAndFainterThanOthers) {
+  QPalette black;
+  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+    black.setColor(role, Qt::black);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    black.setColor(role, Qt::white);
+    black.setColor(QPalette::Disabled, role, Qt::black);
+  }
+  const QPalette shown = withReadableTexts(black);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    EXPECT_EQ(shown.color(QPalette::Disabled, role), QColor(128, 128, 128)) << role;
+    EXPECT_EQ(shown.color(QPalette::Active, role), QColor(Qt::white)) << role;
+  }
+  black.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(90, 90, 90));
+  EXPECT_EQ(withReadableTexts(black).color(QPalette::Disabled, QPalette::ButtonText), QColor(90, 90, 90))
+      << "seen as it is";
+}
+
+/// The colour of the left edge of `widget`, in its middle.
+template <typename Widget>
+QColor edgeOf(Widget& widget, const QColor& window, QStyle& style) {
+  QPalette palette;
+  palette.setColor(QPalette::Window, window);
+  palette.setColor(QPalette::Base, window);
+  palette.setColor(QPalette::Button, window);
+  palette.setColor(QPalette::WindowText, Qt::white);
+  widget.setPalette(palette);
+  widget.setStyle(&style);
+  widget.resize(120, 40);
+  return widget.grab().toImage().pixelColor(0, 20);
+}
+
+TEST(FramesOnBlackWindows, AreSeenAroundBoxesAndButtons) {
+  SeenFrames frames(QStringLiteral("fusion"));
+  QLineEdit box;
+  QPushButton button(QStringLiteral("Save"));
+  button.setAutoDefault(false);
+  EXPECT_EQ(edgeOf(box, Qt::black, frames), QColor(128, 128, 128));
+  EXPECT_EQ(edgeOf(button, Qt::black, frames), QColor(128, 128, 128));
+}
+
+TEST(FramesOnBlackWindows, AreSeenAroundMenusOnDarkOnesToo) {
+  SeenFrames frames(QStringLiteral("fusion"));
+  QMenu menu;
+  menu.addAction(QStringLiteral("Open"));
+  // Half of the way from the window's colour to that of its texts.
+  EXPECT_EQ(edgeOf(menu, QColor(45, 45, 45), frames), QColor(150, 150, 150));
+}
+
+TEST(FramesOnBlackWindows, AreThoseOfTheStyleOnOtherWindows) {
+  SeenFrames frames(QStringLiteral("fusion"));
+  QScopedPointer<QStyle> plain(QStyleFactory::create(QStringLiteral("fusion")));
+  QLineEdit box;
+  QLineEdit other;
+  EXPECT_EQ(edgeOf(box, QColor(45, 45, 48), frames), edgeOf(other, QColor(45, 45, 48), *plain));
 }
 
 TEST(MainApplication, SelectedTextsCanBeReadOnEverySelectionColour) {
