@@ -2,6 +2,7 @@
 
 #include "editors/source_list_model.h"
 #include "platform/screen_room.h"
+#include "platform/text_direction.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -60,12 +61,11 @@ void growBy(QWidget* widget, int wider, int taller) {
   widget->resize(widget->width() + wider, widget->height() + taller);
 }
 
-/// Between the colours of text and background, for what is of less weight; still far above the contrast that
-/// text needs.
+/// Between text and background, for what is of less weight; still far above the contrast that text needs.
 QColor quietColour(const QColor& text, const QColor& background) {
-  const auto between = [](int one, int other) { return (7 * one + 3 * other) / 10; };
-  return QColor(between(text.red(), background.red()), between(text.green(), background.green()),
-                between(text.blue(), background.blue()));
+  const auto mix = [](int one, int other) { return (7 * one + 3 * other) / 10; };
+  return {mix(text.red(), background.red()), mix(text.green(), background.green()),
+          mix(text.blue(), background.blue())};
 }
 
 /// Rows with a little air between them, and what is known of a source behind its path.
@@ -82,7 +82,8 @@ class SourceRows : public QStyledItemDelegate {
     const int width = std::min(wanted, option.rect.width() * 3 / 5);
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    paintBackground(*painter, cell);
+    const QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
     QStyleOptionViewItem path = option;
     path.rect.setWidth(option.rect.width() - width);
     if (option.direction == Qt::RightToLeft) path.rect.moveRight(option.rect.right());
@@ -95,13 +96,14 @@ class SourceRows : public QStyledItemDelegate {
     return {usual.width(), std::max(usual.height(), option.fontMetrics.height() * 5 / 4)};
   }
 
- private:
-  /// Under both texts alike.
-  static void paintBackground(QPainter& painter, const QStyleOptionViewItem& cell) {
-    const QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
-    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, cell.widget);
+ protected:
+  /// A path begins with its separator wherever people start to read.
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.column() == 1) option->text = englishWithin(option->direction, option->text);
   }
 
+ private:
   static void paintStatus(QPainter& painter, const QStyleOptionViewItem& cell, const QString& status,
                           int width, int gap) {
     QRect place = cell.rect.adjusted(cell.rect.width() - width + gap, 0, -gap, 0);

@@ -224,6 +224,8 @@ void layOutBrowser(const BrowserControls& controls) {
   placeAddressRow(controls);
   const QSize inner = controls.inner->size();
   controls.cboAddress->resize(addressWidth(inner.width()), controls.cboAddress->height());
+  // Above the side at which the address box is read first.
+  controls.lblAddress->resize(controls.cboAddress->width(), controls.lblAddress->height());
   const int margin = pixelsOfTwips(kBesidePages / 2);
   controls.brwWebBrowser->setGeometry(QRect(QPoint(margin, margin), pagesSize(inner)));
 }

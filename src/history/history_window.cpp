@@ -29,6 +29,9 @@ QTreeWidget* makeVersions() {
   versions->setAccessibleName(QStringLiteral("Earlier versions"));
   versions->setHeaderLabels({QStringLiteral("Date"), QStringLiteral("Entries"), QStringLiteral("Size"),
                              QStringLiteral("Complete")});
+  // As what is below them.
+  versions->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+  versions->headerItem()->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
   versions->setRootIsDecorated(false);
   versions->setUniformRowHeights(true);
   versions->setAllColumnsShowFocus(true);

@@ -17,6 +17,7 @@ namespace quorvin {
 
 namespace {
 
+constexpr QLatin1String kLineLabel("Line in the listing");
 constexpr int kValueCharacters = 64;
 /// As long as events may be held up.
 constexpr qint64 kMillisecondsOfReading = 8;
@@ -38,6 +39,19 @@ QScrollArea* makeScrolling(QFormLayout* rows) {
   return area;
 }
 
+/// So that each value is seen whole, where a window `most` wide has room for it beside the labels: the end
+/// may be what tells a path from others.
+int widthOfValues(const std::vector<HitFact>& facts, const QFontMetrics& metrics, int most) {
+  int values = metrics.averageCharWidth() * kValueCharacters;
+  int labels = metrics.horizontalAdvance(QString(kLineLabel));
+  for (const HitFact& fact : facts) {
+    values = std::max(values, metrics.horizontalAdvance(fact.value) + metrics.height());
+    labels = std::max(labels, metrics.horizontalAdvance(fact.label));
+  }
+  constexpr int kHeightsAround = 5;
+  return std::min(values, most - labels - kHeightsAround * metrics.height());
+}
+
 }  // namespace
 
 HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget* parent)
@@ -46,14 +60,14 @@ HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget
   setWindowTitle(QStringLiteral("Properties of ") + hit.row.name);
 
   const QSize most = largestInside(*screen());
-  leastValueWidth_ = std::min(fontMetrics().averageCharWidth() * kValueCharacters, most.width() / 2);
+  const std::vector<HitFact> facts = factsOf(hit, locale);
+  leastValueWidth_ = widthOfValues(facts, fontMetrics(), most.width());
   auto* rows = new QFormLayout;
   rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (const HitFact& fact : factsOf(hit, locale)) {
+  for (const HitFact& fact : facts) {
     addRow(rows, fact);
     if (fact.name != u"Listing") continue;
-    line_ = addRow(rows, {QStringLiteral("Line"), QStringLiteral("Line in the listing"),
-                          QStringLiteral("Being looked for...")});
+    line_ = addRow(rows, {QStringLiteral("Line"), kLineLabel, QStringLiteral("Being looked for...")});
   }
 
   auto* copy = new QPushButton(QStringLiteral("C&opy All"), this);

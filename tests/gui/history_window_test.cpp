@@ -62,6 +62,8 @@ TEST_F(ShownHistory, ShowsDateEntriesSizeAndWhetherAVersionIsComplete) {
     EXPECT_EQ(present(window), QStringLiteral("Now: 1/17/04 10:20 AM, 3 entries, 372 bytes, complete"));
     EXPECT_EQ(rowsOf(window), (QStringList{QStringLiteral("1/16/04 10:20 AM | 2 | 262 bytes | no"),
                                            QStringLiteral("1/15/04 10:20 AM | 1,500 | 161.17 KiB | yes")}));
+    const QTreeWidgetItem& titles = *versions(window)->headerItem();
+    for (const int numbers : {1, 2}) EXPECT_TRUE(titles.textAlignment(numbers) & Qt::AlignRight) << numbers;
   });
 }
 

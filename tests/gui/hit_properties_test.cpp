@@ -63,6 +63,20 @@ TEST_F(HitPropertiesWindow, PropertiesOfAFarHitSayThatItsFileIsNotThere) {
                           });
 }
 
+TEST_F(HitPropertiesWindow, ShowsALongPathWhole) {
+  const QString name = QStringLiteral("a song with so long a name that it goes on.txt");
+  showFiles({name});
+  click(0);
+  inDialog<HitProperties>([] { press(Qt::Key_Return, Qt::AltModifier); },
+                          [](HitProperties& window) {
+                            const auto* path = window.findChild<QLineEdit*>(QStringLiteral("Path"));
+                            ASSERT_NE(path, nullptr);
+                            EXPECT_LT(path->fontMetrics().horizontalAdvance(path->text()), path->width());
+                            EXPECT_LE(window.width(), window.screen()->availableGeometry().width());
+                            press(Qt::Key_Escape);
+                          });
+}
+
 }  // namespace
 
 }  // namespace quorvin::test

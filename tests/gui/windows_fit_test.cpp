@@ -4,6 +4,7 @@
 #include "editors/dialog_driving.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
+#include "editors/recording_file_picker.h"
 #include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
 #include "help/frm_splash.h"
@@ -14,6 +15,7 @@
 #include "preview/image_preview.h"
 #include "preview/res_win.h"
 #include "support/eventually.h"
+#include "support/recording_message_boxes.h"
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
@@ -301,6 +303,36 @@ TEST_F(MirroredWindows, SizesOfEarlierVersionsStayInFrontOfTheirUnits) {
   ASSERT_EQ(versions->topLevelItemCount(), 1);
   const QString size = versions->topLevelItem(0)->text(2);
   EXPECT_TRUE(size.startsWith(QChar(u'\u2066')) && size.endsWith(QChar(u'\u2069'))) << size.toStdString();
+}
+
+/// A picture of the editor's list with this path in its only row.
+QImage listWith(const QString& path, ProgramState& state) {
+  state.OnlineSources.set(1, QStringLiteral("Music"), path);
+  state.OnlineSourceCount = 1;
+  RecordingMessageBoxes messages;
+  RecordingFilePicker picker;
+  LocalLoc editor({state, messages, picker, [] {}}, QStringLiteral("Online"), nullptr);
+  editor.show();
+  return editor.controls().Online->grab().toImage();
+}
+
+TEST_F(MirroredWindows, APathInTheEditorKeepsItsSeparatorInFront) {
+  const QString path = QStringLiteral("/lists/backup.txt");
+  const QString isolated = u'\u2066' + path + u'\u2069';
+  EXPECT_EQ(listWith(path, state_), listWith(isolated, state_));
+}
+
+TEST_F(MirroredWindows, TheCaptionOfTheHelpsAddressIsAboveItsStart) {
+  form().menus().HlpGen->trigger();
+  const QWidget* caption = nullptr;
+  const QWidget* box = nullptr;
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() != u"frmBrowser") continue;
+    caption = window->findChild<QLabel*>(QStringLiteral("lblAddress"));
+    box = window->findChild<QComboBox*>(QStringLiteral("cboAddress"));
+  }
+  ASSERT_TRUE(caption && box);
+  EXPECT_EQ(caption->geometry().right(), box->geometry().right());
 }
 
 TEST_F(MirroredWindows, CountsAreBesideTheirCaptions) {
