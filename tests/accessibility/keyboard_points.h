@@ -135,12 +135,22 @@ class KeyboardPoints : public ProgramOnBus {
                                        : QString();
   }
 
-  /// By the mouse.
-  void dragFirstRowToSearchText() {
-    const QRect row = bus_.place(bus_.child(list(), 0));
-    const QRect box = bus_.place(node(text("text"), text("Search text")));
-    desktop_.screen().drag(row.center(), box.center());
+  // By the mouse.
+
+  /// The rows count from 0; the row is one that is on the screen.
+  QPoint placeOfRow(int row) { return bus_.place(bus_.child(list(), row)).center(); }
+  void clickRow(int row, const QString& heldKey = {}) { desktop_.screen().click(placeOfRow(row), heldKey); }
+  /// Between the upper edge of the list and that of its first row, above the first row's start.
+  void clickFirstTitle() {
+    const QPoint corner = bus_.place(list()).topLeft();
+    const QRect first = bus_.place(bus_.child(list(), 0));
+    desktop_.screen().click({first.left() + first.height() * 2, (corner.y() + first.top()) / 2});
   }
+  void dragRowToSearchText(int row) {
+    const QRect box = bus_.place(node(text("text"), text("Search text")));
+    desktop_.screen().drag(placeOfRow(row), box.center());
+  }
+  void dragFirstRowToSearchText() { dragRowToSearchText(0); }
 
   /// So that what is opened or queued is taken down: programs of the test's own in the place of the desktop's
   /// and of an audio player.

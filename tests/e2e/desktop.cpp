@@ -90,6 +90,15 @@ void Desktop::type(const QString& text) const {
       {QStringLiteral("type"), QStringLiteral("--delay"), QString::number(kBetweenKeysMilliseconds), text});
 }
 
+void Desktop::click(QPoint place, const QString& heldKey) const {
+  QStringList does = {QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
+                      QString::number(place.y())};
+  if (!heldKey.isEmpty()) does += {QStringLiteral("keydown"), heldKey};
+  does += {QStringLiteral("click"), QStringLiteral("1")};
+  if (!heldKey.isEmpty()) does += {QStringLiteral("keyup"), heldKey};
+  control(does);
+}
+
 void Desktop::drag(QPoint from, QPoint to) const {
   const auto moveTo = [this](QPoint place) {
     control({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),

@@ -40,6 +40,8 @@ class Desktop {
   void press(const QStringList& keys) const;
   void type(const QString& text) const;
 
+  /// Clicks there, in pixels of the screen; `heldKey` as xdotool names it ("ctrl"), if any.
+  void click(QPoint place, const QString& heldKey = {}) const;
   /// Drags by the mouse what is at `from` to `to`, both in pixels of the screen.
   void drag(QPoint from, QPoint to) const;
 
