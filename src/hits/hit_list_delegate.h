@@ -1,18 +1,13 @@
 // How the cells and column titles of the hit list are drawn.
 #pragma once
 
-#include "search/word_places.h"
-
 #include <QBrush>
 #include <QColor>
-#include <QFont>
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QPainter>
-#include <QRect>
 #include <QString>
 #include <QStyledItemDelegate>
-#include <QTextOption>
 
 namespace quorvin {
 
@@ -26,30 +21,6 @@ QColor shadeAgainst(const QColor& colour, const QColor& other, double least = kU
 /// `colour` as it is on the `background` of an ordinary light list. On others the same hue where it can be
 /// read well: lightened on a dark background, darkened on one that is neither dark nor quite light.
 QColor readableOn(const QColor& colour, const QColor& background);
-
-/// A line of text with some of its characters bold.
-struct MarkedText {
-  QString text;
-  /// From left to right, apart from each other.
-  TextRanges bold;
-
-  bool operator==(const MarkedText&) const = default;
-};
-
-/// The width of `line` in pixels.
-qreal widthOf(const MarkedText& line, const QFont& font);
-
-/// Where a line that is too long is cut.
-enum class Cut { End, Middle };
-
-/// The line as it is where it fits into `width` pixels, otherwise as many of its first characters as fit with
-/// an ellipsis behind them; or, cut in the middle, of its first and last ones with the ellipsis between.
-MarkedText cutToWidth(const MarkedText& line, const QFont& font, qreal width, Cut cut = Cut::End);
-
-/// Draws the line in the painter's pen, cut to the width of `place` and in the middle of its height;
-/// direction and alignment are those of `option`.
-void drawLine(QPainter& painter, const MarkedText& line, const QFont& font, const QRect& place,
-              const QTextOption& option, Cut cut = Cut::End);
 
 /// Draws cells in the colour of their kind of source, with the words that were found bold, and shows in a
 /// tooltip what does not fit into a cell. Each row starts with a mark in the shape of its kind of source: a
@@ -76,8 +47,7 @@ class HitListDelegate : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:
-  void paintMarked(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
-                   const TextRanges& bold) const;
+  void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
   void paintMark(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
 };
 

@@ -1,4 +1,4 @@
-#include "hits/hit_list_delegate.h"
+#include "hits/marked_text.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
