@@ -122,7 +122,8 @@ void HitListView::reset() {
   anchorRow_ = -1;
   previousRow_ = -1;
   verticalScrollBar()->setValue(0);
-  updateScrollBars();
+  // Otherwise it comes with the first rows, after they have been painted, and they are painted twice.
+  executeDelayedItemsLayout();
 }
 
 void HitListView::rowsInserted(const QModelIndex& parent, int start, int end) {

@@ -87,6 +87,21 @@ TEST_F(HitListTest, RowsThatArriveOnTheScreenArePainted) {
   EXPECT_TRUE(model_->rowsAskedFor.contains(4));
 }
 
+TEST_F(HitListTest, RowsOfTheNextSearchArePaintedOnce) {
+  showRows(30);
+  QTest::qWait(0);
+  paint();
+  const int forOnePainting = model_->dataCalls;
+  model_->dataCalls = 0;
+  model_->exchange(0);
+  model_->append(30);
+  // Its frame, too, as when a scroll bar comes or goes.
+  view_.update();
+  QTest::qWait(0);
+  QTest::qWait(0);
+  EXPECT_EQ(model_->dataCalls, forOnePainting);
+}
+
 TEST_F(HitListTest, TheLastOfTheMostRowsCanBeReachedAndSeen) {
   showRows(kMostRows);
   press(Qt::Key_Home);
