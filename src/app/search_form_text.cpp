@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStyleOptionFrame>
 
 #include <algorithm>
@@ -16,6 +17,7 @@ namespace {
 /// Longer texts are cut in the menu.
 constexpr int kWidestItemInCharacters = 80;
 constexpr int kInsideFrame = 2;
+constexpr int kMostEdits = 1000;
 
 }  // namespace
 
@@ -33,6 +35,7 @@ SearchTextEdit::SearchTextEdit(QWidget* parent)
   menu_->setObjectName(QStringLiteral("SearchHistory"));
   menu_->setAccessibleName(QStringLiteral("Earlier searches"));
   connect(button_, &QToolButton::clicked, this, &SearchTextEdit::showHistory);
+  connect(this, &QLineEdit::textEdited, this, &SearchTextEdit::forgetOldEdits);
   connect(this, &QLineEdit::textChanged, this, &SearchTextEdit::describeCompletion);
   connect(this, &QLineEdit::cursorPositionChanged, this, &SearchTextEdit::describeCompletion);
 }
@@ -59,6 +62,15 @@ QString SearchTextEdit::completion() const {
 void SearchTextEdit::describeCompletion() {
   const QString rest = completion();
   setAccessibleDescription(rest.isEmpty() ? QString() : QStringLiteral("Right adds \"%1\"").arg(rest));
+}
+
+void SearchTextEdit::forgetOldEdits() {
+  if (++edits_ <= kMostEdits || isComposing_) return;
+  edits_ = 0;
+  const int cursor = cursorPosition();
+  const QSignalBlocker nothingChanges(this);
+  setText(text());
+  setCursorPosition(cursor);
 }
 
 void SearchTextEdit::showHistory() {

@@ -15,6 +15,9 @@ namespace quorvin {
 /// Until then it is no part of the text, so that nobody searches for more than was typed; screen readers
 /// find it in the description.
 ///
+/// After a thousand changes of the text the next one starts undo anew: a line edit would remember each key of
+/// a window that is open for months.
+///
 /// The frame is a little away from the control's right edge, so that the control itself can reach to the edge
 /// of the window.
 class SearchTextEdit : public QLineEdit {
@@ -48,6 +51,7 @@ class SearchTextEdit : public QLineEdit {
   /// Makes `text` the text as if it had been typed.
   void take(const QString& text);
   void describeCompletion();
+  void forgetOldEdits();
   void placeButton();
   QRect frameRect() const { return rect().adjusted(0, 0, -edgeMargin_, 0); }
 
@@ -57,6 +61,8 @@ class SearchTextEdit : public QLineEdit {
   QMenu* menu_;
   /// An input method is in the middle of a character.
   bool isComposing_ = false;
+  /// Since the line edit last forgot its undo history.
+  int edits_ = 0;
 };
 
 }  // namespace quorvin

@@ -163,6 +163,21 @@ TEST_F(SearchText, ATextThatReplacesAnotherDuringARunIsKeptToo) {
   EXPECT_EQ(kept().join(u'|'), QStringLiteral("song|tune"));
 }
 
+TEST_F(SearchText, UndoStartsAnewAfterAThousandChanges) {
+  form();
+  box().setFocus();
+  for (int i = 0; i < 1000; ++i) typeText(QStringLiteral("x"));
+  ASSERT_TRUE(box().isUndoAvailable());
+  box().setCursorPosition(500);
+  typeText(QStringLiteral("y"));
+  EXPECT_FALSE(box().isUndoAvailable());
+  EXPECT_EQ(box().cursorPosition(), 501);
+  typeText(QStringLiteral("z"));
+  EXPECT_EQ(text(), QString(500, u'x') + QStringLiteral("yz") + QString(500, u'x'));
+  box().undo();
+  EXPECT_EQ(text(), QString(500, u'x') + u'y' + QString(500, u'x'));
+}
+
 TEST_F(SearchText, TheMenuClearsTheHistory) {
   search({QStringLiteral("rock")});
   press(Qt::Key_V, Qt::AltModifier);
