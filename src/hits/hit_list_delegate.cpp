@@ -20,8 +20,6 @@ namespace {
 
 /// Above the 4.5 to 1 that is usual for text: saturated blue and red tire the eye on dark backgrounds.
 constexpr double kContrastOnDark = 6;
-/// Of the backgrounds of ordinary light lists, striped rows among them.
-constexpr double kLeastUsualLight = 0.8;
 
 double linearLight(double channel) {
   return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -104,7 +102,6 @@ QColor shadeAgainst(const QColor& colour, const QColor& other, double least) {
 }
 
 QColor readableOn(const QColor& colour, const QColor& background) {
-  if (luminance(background) >= kLeastUsualLight) return colour;
   return shadeAgainst(colour, background, isDark(background) ? kContrastOnDark : kUsualContrast);
 }
 
@@ -210,16 +207,19 @@ void HitListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
   const QColor base = option->palette.color(QPalette::Base);
   const bool isAlternate = option->features.testFlag(QStyleOptionViewItem::Alternate);
   const QColor behind = isAlternate ? option->palette.color(QPalette::AlternateBase) : base;
-  // Every second row of a dark palette may be so light that it counts as that of a light one.
-  const QColor shown =
-      isDark(base) && !isDark(behind) ? shadeAgainst(text, behind) : readableOn(text, behind);
-  option->palette.setColor(QPalette::Text, shown);
+  option->palette.setColor(QPalette::Text, shadeOf(text, behind));
   if (option->state.testFlag(QStyle::State_Selected)) {
     option->palette.setBrush(QPalette::Highlight, selectionBrush(*option));
   }
   // What tells folders apart is mostly at their ends.
   const bool isFolder = index.column() == static_cast<int>(HitColumn::Folder);
   option->textElideMode = isFolder ? Qt::ElideMiddle : Qt::ElideRight;
+}
+
+QColor HitListDelegate::shadeOf(const QColor& colour, const QColor& background) const {
+  QColor& shade = shades_[{colour.rgba(), background.rgba()}];
+  if (!shade.isValid()) shade = readableOn(colour, background);
+  return shade;
 }
 
 HitListHeader::HitListHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {

@@ -4,10 +4,13 @@
 #include <QBrush>
 #include <QColor>
 #include <QFontMetrics>
+#include <QHash>
 #include <QHeaderView>
 #include <QPainter>
 #include <QString>
 #include <QStyledItemDelegate>
+
+#include <utility>
 
 namespace quorvin {
 
@@ -18,13 +21,14 @@ inline constexpr double kUsualContrast = 4.5;
 /// where that is dark, otherwise darker; white or black where no shade has.
 QColor shadeAgainst(const QColor& colour, const QColor& other, double least = kUsualContrast);
 
-/// `colour` as it is on the `background` of an ordinary light list. On others the same hue where it can be
-/// read well: lightened on a dark background, darkened on one that is neither dark nor quite light.
+/// `colour` where text in it can be read on `background`, otherwise the nearest shade of its hue that can:
+/// darkened on a light background, lightened on a dark one.
 QColor readableOn(const QColor& colour, const QColor& background);
 
-/// Draws cells in the colour of their kind of source, with the words that were found bold, and shows in a
-/// tooltip what does not fit into a cell. Each row starts with a mark in the shape of its kind of source: a
-/// disc for a folder of one's own, a square for the main data file, a triangle for an offline listing.
+/// Draws cells in the colour of their kind of source, in a shade that can be read on the row, with the words
+/// that were found bold, and shows in a tooltip what does not fit into a cell. Each row starts with a mark in
+/// the shape of its kind of source: a disc for a folder of one's own, a square for the main data file, a
+/// triangle for an offline listing.
 class HitListDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -49,6 +53,10 @@ class HitListDelegate : public QStyledItemDelegate {
  private:
   void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
   void paintMark(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+  QColor shadeOf(const QColor& colour, const QColor& background) const;
+
+  /// What readableOn() gave for the few colours and backgrounds there are: every cell that is drawn asks.
+  mutable QHash<std::pair<QRgb, QRgb>, QColor> shades_;
 };
 
 /// Keeps titles a little away from the edges of their columns, so that one that is at the right side of

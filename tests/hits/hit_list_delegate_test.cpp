@@ -17,8 +17,28 @@ class RowColours : public testing::TestWithParam<SourceKind> {
   static QColor ofKind() { return QColor(QRgb{rowColour(GetParam())}); }
 };
 
-TEST_P(RowColours, AreExactOnALightBackground) {
-  EXPECT_EQ(readableOn(ofKind(), kLight), ofKind());
+/// The shades on white and on the stripes of usual light lists.
+QColor shadeOnWhite(const QColor& ofKind) {
+  if (ofKind == QColor(255, 0, 0)) return {235, 0, 0};
+  return ofKind == QColor(255, 127, 0) ? QColor(184, 91, 0) : ofKind;
+}
+QColor shadeOnStripes(const QColor& ofKind) {
+  if (ofKind == QColor(255, 0, 0)) return {230, 0, 0};
+  return ofKind == QColor(255, 127, 0) ? QColor(179, 89, 0) : ofKind;
+}
+const QColor kStripes(247, 247, 247);
+
+TEST_P(RowColours, AreDarkenedOnALightBackgroundOnlyWhereTheyCannotBeRead) {
+  EXPECT_EQ(readableOn(ofKind(), kLight).rgb(), shadeOnWhite(ofKind()).rgb());
+  EXPECT_EQ(readableOn(ofKind(), kStripes).rgb(), shadeOnStripes(ofKind()).rgb());
+}
+
+TEST_P(RowColours, KeepTheirHueAndCanBeReadOnALightBackground) {
+  for (const QColor& background : {kLight, kStripes}) {
+    const QColor drawn = readableOn(ofKind(), background);
+    EXPECT_LE(std::abs(drawn.hslHue() - ofKind().hslHue()), 1);
+    EXPECT_GE(contrast(drawn, background), 4.5);
+  }
 }
 
 TEST_P(RowColours, KeepTheirHueAndCanBeReadOnADarkBackground) {
@@ -27,12 +47,11 @@ TEST_P(RowColours, KeepTheirHueAndCanBeReadOnADarkBackground) {
   EXPECT_GE((luminance(drawn) + 0.05) / (luminance(kDark) + 0.05), 4.5);
 }
 
-TEST_P(RowColours, CanBeReadOnEveryBackgroundThatIsNotOfAnOrdinaryLightList) {
-  for (int grey = 0; grey < 230; ++grey) {
+TEST_P(RowColours, CanBeReadOnEveryBackground) {
+  for (int grey = 0; grey < 256; ++grey) {
     const QColor background(grey, grey, grey);
     EXPECT_GE(contrast(readableOn(ofKind(), background), background), 4.5) << grey;
   }
-  EXPECT_EQ(readableOn(ofKind(), QColor(240, 240, 240)), ofKind());
 }
 
 struct Selection {
@@ -105,11 +124,22 @@ TEST_P(RowColours, CanBeReadOnEverySecondRowOfADarkPaletteHoweverLightThatIs) {
   }
 }
 
-TEST_P(RowColours, AreExactOnEverySecondRowOfALightPalette) {
+TEST_P(RowColours, AreThoseOfTheirBackgroundOnEverySecondRow) {
   QPalette palette;
   palette.setColor(QPalette::Base, kLight);
-  palette.setColor(QPalette::AlternateBase, QColor(245, 245, 245));
-  EXPECT_EQ(DrawnColour().of(ofKind(), palette, true), ofKind());
+  palette.setColor(QPalette::AlternateBase, kStripes);
+  const DrawnColour drawn;
+  EXPECT_EQ(drawn.of(ofKind(), palette, false).rgb(), shadeOnWhite(ofKind()).rgb());
+  EXPECT_EQ(drawn.of(ofKind(), palette, true).rgb(), shadeOnStripes(ofKind()).rgb());
+}
+
+TEST_P(RowColours, FollowAChangeOfThePalette) {
+  QPalette palette;
+  palette.setColor(QPalette::Base, kLight);
+  const DrawnColour drawn;
+  drawn.of(ofKind(), palette, false);
+  palette.setColor(QPalette::Base, kDark);
+  EXPECT_EQ(drawn.of(ofKind(), palette, false), readableOn(ofKind(), kDark));
 }
 
 QImage pictureOfFirstRow(HitListView& view, HitListModel& model, bool isSelected) {
@@ -143,7 +173,13 @@ class PaintedRow : public RowColours {
 };
 
 TEST_P(PaintedRow, IsDrawnInTheColourOfItsKind) {
-  EXPECT_TRUE(holds(paint(paletteOn(kLight), false), ofKind()));
+  EXPECT_TRUE(holds(paint(paletteOn(kLight), false), shadeOnWhite(ofKind())));
+  EXPECT_EQ(model_.index(0, 0).data(Qt::ForegroundRole).value<QColor>(), ofKind()) << "itself as it is";
+}
+
+TEST_P(PaintedRow, IsDrawnInAShadeThatCanBeReadOnWhite) {
+  const QColor unreadable(255, 127, 0);
+  EXPECT_FALSE(holds(paint(paletteOn(kLight), false), unreadable));
 }
 
 TEST_P(PaintedRow, IsDrawnLighterOnADarkBackground) {
