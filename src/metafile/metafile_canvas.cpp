@@ -14,6 +14,8 @@ namespace {
 
 constexpr std::size_t kDeepestSave = 1000;
 constexpr int kCopyPen = 13;
+/// The outline of a line has several elements for each of the line's, and can be widened again.
+constexpr int kMostElementsToWiden = 10'000;
 /// In pixels of the image.
 constexpr double kThinnestLine = 1;
 
@@ -300,6 +302,7 @@ void MetafileCanvas::clipToPath(MetafileClip mode) {
 
 void MetafileCanvas::widenPath() {
   if (state.pen.isNull()) return;
+  if (path_.elementCount() > kMostElementsToWiden) return leaveOut("very long outlines");
   path_ = QPainterPathStroker(penInImage()).createStroke(path_);
   path_.setFillRule(Qt::WindingFill);
 }

@@ -102,7 +102,8 @@ class MetafileCanvas {
   void dropPath();
   void paintPath(MetafilePaint paint);
   void clipToPath(MetafileClip mode);
-  /// Replaces the recorded path by the area that the pen would cover along it.
+  /// Replaces the recorded path by the area that the pen would cover along it; leaves one of more than 10,000
+  /// elements as it is.
   void widenPath();
 
   /// No region means the whole sheet. A mode that is none of the above throws MetafileFault.

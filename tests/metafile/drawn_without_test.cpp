@@ -241,6 +241,15 @@ TEST(PlayMetafile, AWidenedPathIsTheAreaOfItsLine) {
   EXPECT_EQ(leftOutOf(emf.file()), "");
 }
 
+TEST(PlayMetafile, APathThatIsWidenedAgainAndAgainStaysAsItIsInTheEnd) {
+  EmfWriter emf = filledEmf(kGreen);
+  emf.pen(2, 0, 4, kRed).select(2).record(59).moveTo(100, 100).lineTo(300, 100).record(60);
+  for (int i = 0; i < 60; ++i) emf.record(66);
+  emf.record(68).rectangle(0, 0, 50, 50);
+  EXPECT_EQ(colourAt(emf.file(), 25, 25), kGreen);
+  EXPECT_EQ(leftOutOf(emf.file()), "very long outlines");
+}
+
 }  // namespace
 
 }  // namespace quorvin::test
