@@ -11,6 +11,7 @@
 #include "hits/hit_actions.h"
 #include "platform/desktop_shell.h"
 #include "platform/ini_settings_store.h"
+#include "platform/machine_memory.h"
 #include "platform/one_window.h"
 #include "platform/standard_folders.h"
 #include "search/segment/segment_store.h"
@@ -227,6 +228,7 @@ class Run {
 
 int main(int argc, char** argv) {
   endWithSentence();
+  shareFreedMemoryAmongThreads();
   if (const std::optional<int> status = answerWithoutScreen(argc, argv)) return *status;
   const QString token = activationToken();
   WidgetMessageBoxes messages;

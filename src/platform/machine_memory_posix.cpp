@@ -20,4 +20,11 @@ void giveBackFreedMemory() {
 #endif
 }
 
+void shareFreedMemoryAmongThreads() {
+#ifdef __GLIBC__
+  constexpr int kOfTheFirstThreadAndOfTheOthers = 2;
+  ::mallopt(M_ARENA_MAX, kOfTheFirstThreadAndOfTheOthers);
+#endif
+}
+
 }  // namespace quorvin
