@@ -139,8 +139,8 @@ class Run {
     takeView();
     form_.sourcesChanged();
     form_.setSourcesHandler([this] { untilKept_.start(); });
-    // Once events run, so that the program can be closed over the question.
-    QTimer::singleShot(0, &form_, [this] {
+    // While events run, so that the program can be closed over the question.
+    form_.frame().whenPainted([this] {
       offerRecovery();
       form_.runErrand(errand_);
     });

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QIcon>
+#include <QIconEngine>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
@@ -123,21 +124,29 @@ QString captionWithin(Qt::LayoutDirection around, const QString& caption) {
   return caption.isRightToLeft() ? caption : englishWithin(around, caption);
 }
 
-/// In every size that desktops ask for, each drawn for itself, so that none is blurred.
-QIcon applicationIcon() {
-  QSvgRenderer drawing(QStringLiteral(":/quorvin/help/quorvin.svg"));
-  QIcon icon;
-  for (const int side : {16, 22, 24, 32, 48, 64, 96, 128, 256}) {
-    QPixmap picture(side, side);
+/// The program's icon in every size that desktops ask for, each drawn for itself, so that none is blurred,
+/// and only when it is asked for: some desktops have an icon of their own for the program.
+class ApplicationIcon : public QIconEngine {
+ public:
+  void paint(QPainter* painter, const QRect& place, QIcon::Mode, QIcon::State) override {
+    QSvgRenderer drawing(QStringLiteral(":/quorvin/help/quorvin.svg"));
+    painter->setRenderHint(QPainter::Antialiasing);
+    drawing.render(painter, place);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    drawing.render(&painter);
-    painter.end();
-    icon.addPixmap(picture);
+    paint(&painter, picture.rect(), mode, state);
+    return picture;
   }
-  return icon;
-}
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+    QList<QSize> sizes;
+    for (const int side : {16, 22, 24, 32, 48, 64, 96, 128, 256}) sizes.emplaceBack(side, side);
+    return sizes;
+  }
+  QIconEngine* clone() const override { return new ApplicationIcon; }
+};
 
 /// `share` is that of `one`, from 0 to 1.
 QColor between(const QColor& one, const QColor& other, double share) {
@@ -241,7 +250,7 @@ Application::Application(int& argc, char** argv, MessageBoxes& messages)
   if (needsFrames) setStyle(new SeenFrames);
   if (isRightToLeft()) setStyle(needsFrames ? new EnglishCaptions(new SeenFrames) : new EnglishCaptions);
   setPalette(withReadableTexts(palette()));
-  setWindowIcon(applicationIcon());
+  setWindowIcon(QIcon(new ApplicationIcon));
   // Wayland's desktops take the icon from there.
   setDesktopFileName(QStringLiteral("quorvin"));
   // The session goes on only when everybody has answered, so the handler has to be through by then.

@@ -21,7 +21,9 @@
 #include <QWindowStateChangeEvent>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace quorvin {
 
@@ -29,6 +31,9 @@ namespace {
 
 /// Settings may hold anything; further out than this no window can be.
 constexpr float kFarthestPixel = 32767;
+
+/// A window that is minimized or behind others may not be painted at all.
+constexpr std::chrono::seconds kLongestUnpainted{5};
 
 int toPixels(float twips) {
   const float pixels = twips / static_cast<float>(kTwipsPerPixel);
@@ -180,9 +185,10 @@ void SearchForm::showEmptyText() {
 bool SearchForm::eventFilter(QObject* watched, QEvent* event) {
   if (watched != centralWidget()) return QMainWindow::eventFilter(watched, event);
   if (event->type() == QEvent::Resize && !isMinimized()) layOut();
-  // The window system has given the window its frame by the time it is painted.
-  if (event->type() == QEvent::Paint && frame_.isUnsettled()) {
-    QTimer::singleShot(0, this, [this] { frame_.settleOuterSize(); });
+  if (event->type() == QEvent::Paint) {
+    // The window system has given the window its frame by now.
+    if (frame_.isUnsettled()) QTimer::singleShot(0, this, [this] { frame_.settleOuterSize(); });
+    frame_.painted();
   }
   return QMainWindow::eventFilter(watched, event);
 }
@@ -259,7 +265,16 @@ void SearchForm::leave() {
 
 SearchFormFrame::SearchFormFrame(QMainWindow& window, const SearchFormControls& controls,
                                  SearchFormDisplay& display, SearchFormWork& jobs, SearchFormWindows& windows)
-    : window_(window), controls_(controls), display_(display), jobs_(jobs), windows_(windows) {}
+    : window_(window),
+      controls_(controls),
+      display_(display),
+      jobs_(jobs),
+      windows_(windows),
+      untilSeen_(*new QTimer(&window)) {
+  untilSeen_.setObjectName(QStringLiteral("untilSeen"));
+  untilSeen_.setSingleShot(true);
+  QObject::connect(&untilSeen_, &QTimer::timeout, &window_, [this] { painted(); });
+}
 
 void SearchFormFrame::takeInitialPlace() {
   limitSize();
@@ -350,6 +365,23 @@ void SearchFormFrame::setPlacement(PlacementKey key, float twips) {
       break;
   }
   if (!window_.isVisible()) outerSizeWished_ = window_.frameGeometry().size();
+}
+
+void SearchFormFrame::whenPainted(std::function<void()> action) {
+  if (wasPainted_) {
+    QTimer::singleShot(0, &window_, std::move(action));
+    return;
+  }
+  if (afterPainting_.empty()) untilSeen_.start(kLongestUnpainted);
+  afterPainting_.push_back(std::move(action));
+}
+
+void SearchFormFrame::painted() {
+  if (std::exchange(wasPainted_, true)) return;
+  untilSeen_.stop();
+  for (std::function<void()>& action : std::exchange(afterPainting_, {})) {
+    QTimer::singleShot(0, &window_, std::move(action));
+  }
 }
 
 void SearchFormFrame::unloadOtherWindows() {

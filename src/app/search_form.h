@@ -24,10 +24,12 @@
 #include <QMainWindow>
 #include <QSize>
 #include <QString>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace quorvin {
 
@@ -63,6 +65,9 @@ class SearchFormFrame : public StartUpView, public ShutdownView {
   void setWebUpdateEnabled(bool enabled) override { jobs_.setWebUpdateEnabled(enabled); }
   float placement(PlacementKey key) const override;
   void setPlacement(PlacementKey key, float twips) override;
+  void whenPainted(std::function<void()> action) override;
+  /// The window is being painted.
+  void painted();
 
   // For shutdown.
   bool isMinimized() const override { return window_.isMinimized(); }
@@ -84,6 +89,11 @@ class SearchFormFrame : public StartUpView, public ShutdownView {
   /// goes back there, the text is kept as it is: without its frame it could only be guessed anew.
   QString maximizedText_;
   QRect maximizedPlace_;
+  /// What is to be done when the window has been painted; nothing waits any more once it was.
+  std::vector<std::function<void()>> afterPainting_;
+  bool wasPainted_ = false;
+  /// Ends the wait for a painting that may never come. The window owns it.
+  QTimer& untilSeen_;
 };
 
 /// The main window: it puts the parts together and hands over what the user does.

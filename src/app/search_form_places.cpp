@@ -98,10 +98,19 @@ QHeaderView* columnsOf(const SearchFormControls& controls) {
 /// Rounded up: a cell that is too narrow by a part of a pixel cuts its text.
 int widestDate(const QFont& font, const QLocale& locale) {
   const QFontMetricsF metrics(font);
+  const auto widthOn = [&](QDate day) {
+    const QString text = shortMonthDateText(dateValueOf(day.startOfDay(Qt::UTC)), locale);
+    return std::max(metrics.horizontalAdvance(text), metrics.boundingRect(text).width());
+  };
+  // The names of the months differ far more than the days do: the days of all months would take longer than
+  // all the rest of the list.
+  QDate widest(2020, 1, 28);
+  for (QDate day = widest; day.year() == 2020; day = day.addMonths(1)) {
+    if (widthOn(day) > widthOn(widest)) widest = day;
+  }
   qreal width = 0;
-  for (QDate day(2020, 1, 1); day.year() == 2020; day = day.addDays(1)) {
-    const QString text = shortMonthDateText(dateValueOf(day.startOfDay()), locale);
-    width = std::max({width, metrics.horizontalAdvance(text), metrics.boundingRect(text).width()});
+  for (int day = 1; day <= widest.daysInMonth(); ++day) {
+    width = std::max(width, widthOn(QDate(2020, widest.month(), day)));
   }
   return static_cast<int>(std::ceil(width)) + 1;
 }

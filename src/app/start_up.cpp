@@ -8,6 +8,8 @@
 #include "state/settings.h"
 #include "state/source_list_file.h"
 
+#include <QStringList>
+
 #include <utility>
 
 namespace quorvin {
@@ -55,9 +57,10 @@ void StartUp::runSteps(const StartUpConditions& conditions) {
   if (!state_.WebServer.isEmpty() && !state_.ArchiveFile.isEmpty()) view_.setWebUpdateEnabled(true);
   completeLocalFolder(state_, [&] { return programFolderOf(conditions); });
   loadSourceLists(state_);
-  removeLeftovers(state_.LocalFolder);
-  removeEarlierLeftovers(state_.LocalFolder + state_.LocFile);
-  removeEarlierLeftovers(state_.LocalFolder + state_.OffLineFile);
+  view_.whenPainted([folder = state_.LocalFolder, lists = QStringList{state_.LocFile, state_.OffLineFile}] {
+    removeLeftovers(folder);
+    for (const QString& list : lists) removeEarlierLeftovers(folder + list);
+  });
   if (dataFileIsOnlyInArchive()) {
     extractDataFile_(state_.LocalFolder + state_.ArchiveFile, state_.LocalFolder);
   }

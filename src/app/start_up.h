@@ -36,6 +36,9 @@ class StartUpView {
   virtual void setWebUpdateEnabled(bool enabled) = 0;
   /// Lets the pending window events run once.
   virtual void processEvents() = 0;
+  /// Calls `action` from the event loop when the window has been painted for the first time, or, where nobody
+  /// can see it, a little later: for what the user need not wait for.
+  virtual void whenPainted(std::function<void()> action) = 0;
 };
 
 /// Unpacks every entry of the archive at `archivePath` into `targetFolder` (which ends in a separator), with
@@ -69,6 +72,7 @@ class StartUp {
   /// source lists, and has the main data file unpacked when only its archive is there. A fault on the way is
   /// shown as "Statup error: NUMBER DESCRIPTION" and ends start-up; what was done before it stays, and the
   /// program goes on with that and with a local data folder. What could not be read is not overwritten later.
+  /// What killed programs left in the data folder is removed once the window is there.
   /// Starts no search, no indexing and no connection.
   void Form_Load(const StartUpConditions& conditions);
 

@@ -9,8 +9,11 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <stdexcept>
+#include <utility>
+#include <vector>
 
 namespace quorvin {
 
@@ -42,7 +45,9 @@ class LoggingView : public StartUpView {
     log_ += enabled ? QStringLiteral("WebUpdate on") : QStringLiteral("WebUpdate off");
   }
   void processEvents() override { log_ += QStringLiteral("events"); }
+  void whenPainted(std::function<void()> action) override { afterPainting.push_back(std::move(action)); }
 
+  std::vector<std::function<void()>> afterPainting;
   /// The place that the window has before start-up.
   std::map<PlacementKey, float> twips = {{PlacementKey::Top, 1500},
                                          {PlacementKey::Left, 3000},
@@ -100,6 +105,10 @@ class StartUpTest : public testing::Test {
   }
 
   void start() { startOf(state_); }
+  /// The window is on the screen.
+  void paint() {
+    for (const auto& action : std::exchange(view_.afterPainting, {})) action();
+  }
   void startOf(ProgramState& state) {
     StartUp(state, store_, boxes_, view_, [this](const QString& archivePath, const QString& targetFolder) {
       extraction_.extractArchive(archivePath, targetFolder);

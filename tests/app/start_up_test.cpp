@@ -86,6 +86,10 @@ TEST_F(StartUpTest, WhatKilledProgramsLeftInTheDataFolderIsRemoved) {
   }
   saved(QStringLiteral("LocalFolder"), data_.path());
   start();
+  // Nobody has to wait for that before the window is there.
+  EXPECT_TRUE(data_.has(left));
+  EXPECT_TRUE(data_.has(QStringLiteral("Locations.txt.bXcQwz")));
+  paint();
   EXPECT_FALSE(data_.has(left));
   EXPECT_FALSE(data_.has(QStringLiteral("Locations.txt.bXcQwz")));
   EXPECT_FALSE(data_.has(QStringLiteral("OfflineLocations.txt.aBCdef")));

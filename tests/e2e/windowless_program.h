@@ -10,6 +10,7 @@
 #include <QLocale>
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <stdexcept>
 
@@ -24,6 +25,7 @@ class PlacedWindow : public StartUpView, public ShutdownView {
   void showListingName(const QString&) override {}
   void setWebUpdateEnabled(bool) override {}
   void processEvents() override {}
+  void whenPainted(std::function<void()> action) override { action(); }
   bool isMinimized() const override { return false; }
   QString maximizedFrom() const override { return {}; }
   void unloadOtherWindows() override {}

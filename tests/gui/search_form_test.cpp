@@ -1,6 +1,8 @@
 // The main window before a run: its controls, menus, keys and what it shows.
 #include "app/search_form_controls.h"
 #include "gui/search_form_fixture.h"
+#include "support/eventually.h"
+#include "support/timer_tick.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -55,6 +57,46 @@ TEST_F(MainWindow, TabGoesFromTheSearchTextToTheHits) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
   }
+}
+
+/// Writes down when a widget is painted.
+class PaintLog : public QObject {
+ public:
+  PaintLog(QWidget& widget, QStringList& log) : log_(log) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) log_ += QStringLiteral("painted");
+    return false;
+  }
+
+ private:
+  QStringList& log_;
+};
+
+TEST_F(MainWindow, WhatCanWaitIsDoneOnceTheWindowIsPainted) {
+  SearchForm window(state_, messages_, shell_, QLocale::c());
+  QStringList log;
+  PaintLog paintings(*window.centralWidget(), log);
+  window.frame().whenPainted([&] { log += QStringLiteral("done"); });
+  QCoreApplication::processEvents();
+  EXPECT_EQ(log, QStringList());
+  window.show();
+  EXPECT_EVENTUALLY(log.contains(QStringLiteral("done")));
+  EXPECT_EQ(log.first(), QStringLiteral("painted"));
+  EXPECT_EQ(log.count(QStringLiteral("done")), 1);
+
+  bool isDone = false;
+  window.frame().whenPainted([&] { isDone = true; });
+  EXPECT_FALSE(isDone) << "only from the event loop";
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(isDone);
+}
+
+TEST_F(MainWindow, WhatCanWaitDoesNotWaitForeverForAWindowThatNobodySees) {
+  SearchForm window(state_, messages_, shell_, QLocale::c());
+  bool isDone = false;
+  window.frame().whenPainted([&] { isDone = true; });
+  tick(timerOf(window, QStringLiteral("untilSeen")));
+  EXPECT_TRUE(eventually([&] { return isDone; }));
 }
 
 TEST_F(MainWindow, ControlFGoesToTheSearchTextAndSelectsIt) {
