@@ -3,10 +3,13 @@
 #include "faults/runtime_fault.h"
 #include "files/file_reader.h"
 #include "search/segment/segment_builder.h"
+#include "search/segments_ahead.h"
 
 #include <algorithm>
+#include <exception>
 #include <memory>
 #include <optional>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -24,16 +27,32 @@ class EntrySearch {
   /// segment that is still being built, `builder` reads the values of the hits.
   void search(const std::shared_ptr<const Segment>& segment, std::uint32_t first, std::uint32_t last,
               SegmentBuilder* builder = nullptr) {
-    while (first < last && !outcome_.stopped) {
-      const std::int64_t toYield = kEntriesBetweenYields - counts_.searched % kEntriesBetweenYields;
-      const auto count = static_cast<std::uint32_t>(std::min<std::int64_t>(toYield, last - first));
-      searchStep(segment, first, first + count, builder);
-      first += count;
-      searched_ += count;
-      counts_.searched += count;
-      if (count == toYield && request_.yield(counts_.searched)) outcome_.stopped = true;
-    }
+    inSteps(first, last,
+            [&](std::uint32_t from, std::uint32_t to) { searchStep(segment, from, to, builder); });
   }
+
+  /// Takes what was found in `segment` ahead, as if it was searched now.
+  void take(const std::shared_ptr<const Segment>& segment, const SegmentFinds& finds) {
+    auto count = finds.counts.begin();
+    auto hit = finds.hits.begin();
+    inSteps(0, finds.searched, [&](std::uint32_t, std::uint32_t to) {
+      if (count != finds.counts.end()) {
+        counts_.hits += *count++;
+        return;
+      }
+      const auto end = std::partition_point(hit, finds.hits.end(),
+                                            [to](const FoundEntry& found) { return found.entry < to; });
+      found_.assign(hit, end);
+      hit = end;
+      if (!found_.empty()) report(segment);
+    });
+    if (finds.fault && !outcome_.stopped) std::rethrow_exception(finds.fault);
+  }
+
+  /// Only the number of hits is wanted.
+  bool isCountedOnly() const { return request_.hits == nullptr; }
+  const SearchQuery& query() const { return request_.query; }
+  std::int64_t searchedByRun() const { return counts_.searched; }
 
   void endSegment(const std::shared_ptr<const Segment>& segment, const std::shared_ptr<const Segment>& kept) {
     if (request_.hits != nullptr) request_.hits->endSegment(segment, kept);
@@ -44,6 +63,21 @@ class EntrySearch {
   bool stopped() const { return outcome_.stopped; }
 
  private:
+  /// Calls `step` for the entries `first` to `last` - 1, as many at a time as there are to the next yield.
+  template <typename Step>
+  void inSteps(std::uint32_t first, std::uint32_t last, Step step) {
+    while (first < last && !outcome_.stopped) {
+      const std::uint32_t end = SegmentsAhead::endOfStep(first, last, counts_.searched - first);
+      step(first, end);
+      searched_ += end - first;
+      counts_.searched += end - first;
+      first = end;
+      if (counts_.searched % kEntriesBetweenYields == 0 && request_.yield(counts_.searched)) {
+        outcome_.stopped = true;
+      }
+    }
+  }
+
   void searchStep(const std::shared_ptr<const Segment>& segment, std::uint32_t first, std::uint32_t last,
                   SegmentBuilder* builder) {
     if (request_.hits == nullptr && builder == nullptr && segment->arrays().unreadable.empty()) {
@@ -219,12 +253,42 @@ bool wasWritten(const FileIdentity& before, const FileIdentity& now) {
          (before.size != now.size || before.modified != now.modified);
 }
 
+/// More gain less each, and what they find ahead is in memory.
+constexpr int kMostHelpers = 3;
+
+int otherProcessors() {
+  return std::max(static_cast<int>(std::thread::hardware_concurrency()) - 1, 0);
+}
+
+/// How many threads search the segments beside this one.
+int helpersFor(const SegmentStore::Segments& segments, const ScanLimits& limits) {
+  std::int64_t entries = 0;
+  for (const auto& segment : segments) entries += segment->entryCount();
+  if (entries < limits.searchedAhead) return 0;
+  const int most = limits.helpers ? *limits.helpers : std::min(otherProcessors(), kMostHelpers);
+  return std::min(most, static_cast<int>(segments.size()) - 1);
+}
+
 /// Searches segments that are known. False where one was damaged; what was searched before it counts.
-bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search) {
+bool searchSegments(const SegmentStore::Segments& segments, EntrySearch& search, const ScanLimits& limits) {
+  // Lines whose values cannot be read are counted one by one.
+  const auto hasUnreadable = [](const auto& segment) { return !segment->arrays().unreadable.empty(); };
+  const bool countsOnly = search.isCountedOnly() && std::ranges::none_of(segments, hasUnreadable);
+  std::optional<SegmentsAhead> ahead;
+  if (const int helpers = helpersFor(segments, limits); helpers > 0) {
+    ahead.emplace(segments, search.query(),
+                  SegmentsAhead::Options{helpers, countsOnly, search.searchedByRun()});
+  }
   try {
-    for (const auto& segment : segments) {
-      search.search(segment, 0, segment->entryCount());
-      segment->searched();
+    for (std::size_t i = 0; i < segments.size() && !search.stopped(); ++i) {
+      const auto& segment = segments[i];
+      const auto finds = ahead ? ahead->take(i) : std::nullopt;
+      if (finds) {
+        search.take(segment, *finds);
+      } else {
+        search.search(segment, 0, segment->entryCount());
+        segment->searched();
+      }
       search.endSegment(segment, segment);
     }
   } catch (const DamagedSegment&) {
@@ -256,7 +320,7 @@ void scanListingFile(const QString& path, SegmentStore* store, const ScanRequest
   const std::optional<SegmentKey> key = segmentKeyOf(path, request.locale);
   if (store != nullptr && key) {
     const SegmentStore::Segments segments = store->find(*key);
-    const bool areWhole = searchSegments(segments, search);
+    const bool areWhole = searchSegments(segments, search, limits);
     outcome.changedMeanwhile = wereChanged(segments);
     if (!segments.empty() && areWhole) return;
     if (!segments.empty()) store->forget(key->listing);

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace quorvin {
 
@@ -62,6 +63,12 @@ struct ScanLimits {
   /// Listing bytes in one segment that is not kept, and in one that is.
   std::size_t passingSegment = std::size_t{1} << 18;
   std::size_t keptSegment = std::size_t{64} << 20;
+  /// A listing of so many entries whose segments are known is searched by several threads: on smaller ones
+  /// they would be hardly longer at work than they take to start.
+  std::int64_t searchedAhead = 5'000'000;
+  /// So many threads beside the caller's; nothing for as many as the machine has other processors, up to
+  /// three.
+  std::optional<int> helpers = {};
 };
 
 /// Scans the listing that `open` opens. `counts` is raised by the entries searched and the hits; hits go to

@@ -18,27 +18,30 @@ ByteCheck::ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint
     : bytes_(bytes),
       sums_(sums),
       fetch_(std::move(fetch)),
-      good_((bytes.size() + kBlockSize - 1) / kBlockSize, 0) {
+      good_((bytes.size() + kBlockSize - 1) / kBlockSize) {
   if (sums_.size() != good_.size()) throw DamagedSegment();
 }
 
 void ByteCheck::forget() {
-  std::ranges::fill(good_, false);
+  for (std::atomic<std::uint8_t>& block : good_) block = 0;
   goodBlocks_ = 0;
 }
 
-/// Fetches and checks the block `first`, which is not good yet, and some of those after it up to `last`.
+/// Fetches and checks the block `first`, which was not good yet, and some of those after it up to `last`.
 void ByteCheck::checkBlocks(std::size_t first, std::size_t last) const {
   // So many that they are still in the processor's cache when they are checked.
   constexpr std::size_t kMostAtOnce = 8;
   if (last >= good_.size()) throw DamagedSegment();
-  std::size_t end = first + 1;
-  while (end <= last && end - first < kMostAtOnce && !good_[end]) ++end;
+  const std::scoped_lock lock(mutex_);
+  std::size_t end = first;
+  while (end <= last && end - first < kMostAtOnce && !isGood(end)) ++end;
+  // Another thread has done it meanwhile.
+  if (end == first) return;
   fetchBlocks(first, end - first);
   for (std::size_t block = first; block < end; ++block) {
     const std::size_t begin = block * kBlockSize;
     requireBlock(block, bytes_.subspan(begin, std::min(kBlockSize, bytes_.size() - begin)));
-    good_[block] = true;
+    good_[block].store(1, std::memory_order_release);
     ++goodBlocks_;
   }
 }

@@ -4,10 +4,12 @@
 #include "faults/runtime_fault.h"
 
 #include <algorithm>
+#include <atomic>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <mutex>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -21,7 +23,8 @@ class DamagedSegment : public RuntimeFault {
 };
 
 /// Fetches a stretch of a kept file into memory and checks it, block by block, each block when it is first
-/// asked for. From then on it stays what it was when it was checked, whatever becomes of the file.
+/// asked for. From then on it stays what it was when it was checked, whatever becomes of the file. Several
+/// threads may ask at once.
 class ByteCheck {
  public:
   static constexpr std::size_t kBlockSize = std::size_t{1} << 14;
@@ -42,12 +45,12 @@ class ByteCheck {
     if (size == 0) return;
     const std::size_t last = (offset + size - 1) / kBlockSize;
     for (std::size_t block = offset / kBlockSize; block <= last; ++block) {
-      if (!good_[block]) checkBlocks(block, last);
+      if (!isGood(block)) checkBlocks(block, last);
     }
   }
 
   /// Forgets what has been fetched: it is fetched again when it is asked for. Elements that were given out
-  /// are no longer valid.
+  /// are no longer valid, so nobody else may be asking.
   void forget();
 
   /// How many bytes have been fetched.
@@ -60,16 +63,19 @@ class ByteCheck {
   bool foundDamage() const { return foundDamage_; }
 
  private:
+  bool isGood(std::size_t block) const { return good_[block].load(std::memory_order_acquire) != 0; }
   void checkBlocks(std::size_t first, std::size_t last) const;
   void fetchBlocks(std::size_t first, std::size_t count) const;
 
   std::span<const std::byte> bytes_;
   std::span<const std::uint64_t> sums_;
   Fetch fetch_;
+  /// Held while blocks are fetched and checked.
+  mutable std::mutex mutex_;
   /// True for each block that is there and good; asking does not change what the bytes are.
-  mutable std::vector<std::uint8_t> good_;
-  mutable std::size_t goodBlocks_ = 0;
-  mutable bool foundDamage_ = false;
+  mutable std::vector<std::atomic<std::uint8_t>> good_;
+  mutable std::atomic<std::size_t> goodBlocks_ = 0;
+  mutable std::atomic<bool> foundDamage_ = false;
 };
 
 /// An array that somebody else owns. Elements of one that comes out of a kept file are given out only through

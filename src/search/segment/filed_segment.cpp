@@ -86,8 +86,8 @@ PassingSegment::PassingSegment(const QString& path, const SegmentRecord& record,
     : MappedFile(path, static_cast<std::int64_t>(record.offset), record.size),
       FiledSegment(record, MappedFile::bytes(), std::move(sums)),
       buffers_(std::move(buffers)),
-      entries_(path, static_cast<std::int64_t>(record.offset), check(), buffers_->entries),
-      folders_(path, static_cast<std::int64_t>(record.offset), check(), buffers_->folders) {
+      entries_(path, static_cast<std::int64_t>(record.offset), check(), *buffers_),
+      folders_(path, static_cast<std::int64_t>(record.offset), check(), *buffers_) {
   arrays_.entries.passing = &entries_;
   arrays_.folders.passing = &folders_;
 }

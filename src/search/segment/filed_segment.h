@@ -111,16 +111,11 @@ class KeptSegment : private SparseMemory, public FiledSegment {
   mutable std::optional<MappedBytes> mapped_;
 };
 
-/// What segments that are searched only once share: their texts pass through it.
-struct PassingBuffers {
-  PassingBuffer entries;
-  PassingBuffer folders;
-};
-
 /// For a single search: the arrays lie in a mapped file, but the texts are read piece by piece.
 class PassingSegment : private MappedFile, public FiledSegment {
  public:
-  /// `buffers` are shared, since nobody knows which of the segments of a file lives longest. Throws
+  /// The texts pass through `buffers`, which are shared, since nobody knows which of the segments of a file
+  /// lives longest. Throws
   /// RuntimeFault when the file cannot be mapped, and DamagedSegment as FiledSegment does.
   PassingSegment(const QString& path, const SegmentRecord& record, std::vector<std::uint64_t> sums,
                  std::shared_ptr<PassingBuffers> buffers);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace quorvin {
 
@@ -21,31 +22,45 @@ static_assert(PassingBytes::kLongestPiece + 2 * kBlock <= kBlocksAhead * kBlock)
 
 }  // namespace
 
+PassingBuffers::Buffer PassingBuffers::take(std::size_t size) {
+  const std::scoped_lock lock(mutex_);
+  if (unused_.empty()) return std::make_unique_for_overwrite<std::byte[]>(size);
+  Buffer buffer = std::move(unused_.back());
+  unused_.pop_back();
+  return buffer;
+}
+
+void PassingBuffers::giveBack(Buffer buffer) {
+  if (!buffer) return;
+  const std::scoped_lock lock(mutex_);
+  unused_.push_back(std::move(buffer));
+}
+
 PassingBytes::PassingBytes(const QString& path, std::int64_t offset, const ByteCheck& check,
-                           PassingBuffer& buffer)
-    : path_(path), offset_(offset), check_(check), buffer_(buffer) {}
+                           PassingBuffers& buffers)
+    : path_(path), offset_(offset), check_(check), buffers_(buffers) {}
 
 std::optional<std::string_view> PassingBytes::take(std::size_t begin, std::size_t size) {
   const std::size_t end = begin + size;
   piecesInARow_ = goesOn(begin) ? piecesInARow_ + 1 : 0;
   pieceEnd_ = end;
   if (piecesInARow_ < kPiecesUntilPassing || size > kLongestPiece || end > check_.size()) return std::nullopt;
-  claimBuffer();
+  if (!buffer_) buffer_ = buffers_.take(kBufferSize);
   if (begin < begin_ || end > end_) {
     keepFrom(begin);
     readBlocks();
   }
-  return std::string_view(reinterpret_cast<const char*>(buffer_.bytes_.get()) + (begin - begin_), size);
+  return std::string_view(reinterpret_cast<const char*>(buffer_.get()) + (begin - begin_), size);
+}
+
+void PassingBytes::rest() {
+  file_.reset();
+  buffers_.giveBack(std::move(buffer_));
+  begin_ = end_ = 0;
 }
 
 bool PassingBytes::goesOn(std::size_t begin) const {
   return begin <= pieceEnd_ && pieceEnd_ - begin < kBlock;
-}
-
-void PassingBytes::claimBuffer() {
-  if (!buffer_.bytes_) buffer_.bytes_ = std::make_unique_for_overwrite<std::byte[]>(kBufferSize);
-  if (buffer_.user_ != this) begin_ = end_ = 0;
-  buffer_.user_ = this;
 }
 
 /// Moves what the buffer holds from `begin` on to its front. Where that is nothing, the buffer is to start
@@ -55,13 +70,13 @@ void PassingBytes::keepFrom(std::size_t begin) {
     begin_ = end_ = begin / kBlock * kBlock;
     return;
   }
-  std::memmove(buffer_.bytes_.get(), buffer_.bytes_.get() + (begin - begin_), end_ - begin);
+  std::memmove(buffer_.get(), buffer_.get() + (begin - begin_), end_ - begin);
   begin_ = begin;
 }
 
 void PassingBytes::readBlocks() {
   const std::size_t size = std::min(kBlocksAhead * kBlock, check_.size() - end_);
-  const std::span<std::byte> room(buffer_.bytes_.get() + (end_ - begin_), size);
+  const std::span<std::byte> room(buffer_.get() + (end_ - begin_), size);
   try {
     if (!file_) file_.emplace(path_);
     file_->read(offset_ + static_cast<std::int64_t>(end_), room);

@@ -7,20 +7,26 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace quorvin {
 
-class PassingBytes;
+/// Memory through which bytes pass, lent to those that are being read, by any thread: what one has given back
+/// the next one takes.
+class PassingBuffers {
+ public:
+  using Buffer = std::unique_ptr<std::byte[]>;
 
-/// Memory through which bytes pass. Several PassingBytes may share one; each use replaces what the others had
-/// in it.
-class PassingBuffer {
+  /// A buffer that is not in use, or a new one of `size` bytes, which is the same at each call.
+  Buffer take(std::size_t size);
+  void giveBack(Buffer buffer);
+
  private:
-  friend class PassingBytes;
-  std::unique_ptr<std::byte[]> bytes_;
-  const PassingBytes* user_ = nullptr;
+  std::mutex mutex_;
+  std::vector<Buffer> unused_;
 };
 
 /// Reads a stretch of a mapped file through a small buffer and checks each block on its way. For a single
@@ -28,8 +34,8 @@ class PassingBuffer {
 class PassingBytes {
  public:
   /// The stretch starts at `offset` in the file at `path`, which is opened when bytes are first read. `check`
-  /// has the sums of its blocks; it and `buffer` must outlive the object.
-  PassingBytes(const QString& path, std::int64_t offset, const ByteCheck& check, PassingBuffer& buffer);
+  /// has the sums of its blocks; it and `buffers` must outlive the object.
+  PassingBytes(const QString& path, std::int64_t offset, const ByteCheck& check, PassingBuffers& buffers);
 
   /// The longest piece that take() returns.
   static constexpr std::size_t kLongestPiece = std::size_t{1} << 16;
@@ -40,19 +46,20 @@ class PassingBytes {
   /// look at then. Throws DamagedSegment, also when the file cannot be read.
   std::optional<std::string_view> take(std::size_t begin, std::size_t size);
 
-  /// Closes the file until bytes are read again.
-  void rest() { file_.reset(); }
+  /// Closes the file and gives the buffer back until bytes are read again.
+  void rest();
 
  private:
   bool goesOn(std::size_t begin) const;
-  void claimBuffer();
   void keepFrom(std::size_t begin);
   void readBlocks();
 
   QString path_;
   std::int64_t offset_;
   const ByteCheck& check_;
-  PassingBuffer& buffer_;
+  PassingBuffers& buffers_;
+  /// None before it is needed.
+  PassingBuffers::Buffer buffer_;
   std::optional<RandomAccessFile> file_;
   /// The part of the stretch that is in the buffer; its end is a block's end.
   std::size_t begin_ = 0;

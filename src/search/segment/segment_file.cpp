@@ -262,8 +262,8 @@ namespace {
 using Segments = std::vector<std::shared_ptr<const Segment>>;
 
 /// Both throw RuntimeFault, and std::bad_alloc, where the segments cannot be opened.
-Segments passingSegments(const QString& path, Directory& directory) {
-  const auto buffers = std::make_shared<PassingBuffers>();
+Segments passingSegments(const QString& path, Directory& directory,
+                         const std::shared_ptr<PassingBuffers>& buffers) {
   Segments segments;
   for (std::size_t i = 0; i < directory.segments.size(); ++i) {
     segments.push_back(
@@ -298,12 +298,15 @@ Segments keptSegments(const std::shared_ptr<const RandomAccessFile>& file, Direc
 }  // namespace
 
 std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,
-                                                            SegmentUse use) {
+                                                            SegmentUse use,
+                                                            std::shared_ptr<PassingBuffers> buffers) {
   try {
     const auto file = std::make_shared<const RandomAccessFile>(path);
     std::optional<Directory> directory = directoryOf(*file);
     if (!directory || directory->key != key) return {};
-    return use == SegmentUse::Once ? passingSegments(path, *directory) : keptSegments(file, *directory);
+    if (use == SegmentUse::Repeated) return keptSegments(file, *directory);
+    if (!buffers) buffers = std::make_shared<PassingBuffers>();
+    return passingSegments(path, *directory, buffers);
   } catch (const RuntimeFault&) {
     return {};
   } catch (const std::bad_alloc&) {

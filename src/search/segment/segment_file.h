@@ -65,9 +65,11 @@ class SegmentFileWriter {
 /// The segments of the file at `path` if it is whole and belongs to `key`; else none. Of a large file only
 /// the directory is read now; each block of the segments is read and checked when it is first used
 /// (DamagedSegment). They stay as they are when the file is replaced or removed. When it is cut or written
-/// to, blocks that have not been read yet are damaged, for SegmentUse::Repeated. Never throws.
-std::vector<std::shared_ptr<const Segment>> openSegmentFile(const QString& path, const SegmentKey& key,
-                                                            SegmentUse use);
+/// to, blocks that have not been read yet are damaged, for SegmentUse::Repeated. Their texts pass through
+/// `buffers`, for SegmentUse::Once; where it is null, through some of their own. Never throws.
+std::vector<std::shared_ptr<const Segment>> openSegmentFile(
+    const QString& path, const SegmentKey& key, SegmentUse use,
+    std::shared_ptr<PassingBuffers> buffers = nullptr);
 
 /// How many entries the segments of the file at `path` have, if it is whole and belongs to `key`. Reads its
 /// directory alone. Never throws.

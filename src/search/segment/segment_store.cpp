@@ -94,7 +94,8 @@ SegmentStore::Segments SegmentStore::find(const SegmentKey& key) {
     remove(known);
   }
   if (options_.cacheFolder.isEmpty()) return {};
-  Segments segments = openSegmentFile(segmentFilePath(options_.cacheFolder, key.listing), key, options_.use);
+  Segments segments =
+      openSegmentFile(segmentFilePath(options_.cacheFolder, key.listing), key, options_.use, buffers_);
   if (!segments.empty()) keep({key, segments});
   return segments;
 }

@@ -107,6 +107,8 @@ class SegmentStore {
   void makeRoom();
 
   Options options_;
+  /// For the segments of all listings: most of what a search of many small ones took was new memory for each.
+  std::shared_ptr<PassingBuffers> buffers_ = std::make_shared<PassingBuffers>();
   bool hasTidied_ = false;
   /// The one used last comes first.
   std::list<Kept> kept_;

@@ -28,7 +28,7 @@ class PassingBytesTest : public ::testing::Test {
                       QByteArray::fromStdString(std::string(kOffset, '#') + stretch));
   }
 
-  PassingBytes stretch() { return {path_, kOffset, check_, buffer_}; }
+  PassingBytes stretch() { return {path_, kOffset, check_, buffers_}; }
 
   /// Takes all bytes in pieces of `piece` bytes and returns how many of them passed through the buffer.
   std::size_t takeAll(PassingBytes& passing, std::size_t piece) {
@@ -48,7 +48,7 @@ class PassingBytesTest : public ::testing::Test {
   std::string bytes_ = randomBytes();
   std::vector<std::uint64_t> sums_ = checksumsOf(std::as_bytes(std::span(bytes_)));
   ByteCheck check_ = ByteCheck(std::as_bytes(std::span(bytes_)), sums_);
-  PassingBuffer buffer_;
+  PassingBuffers buffers_;
 
  private:
   static std::string randomBytes() {
@@ -113,7 +113,7 @@ TEST_F(PassingBytesTest, WhatAScanLooksAtBehindAPieceCanBeRead) {
   std::memcpy(behind, last.data() + last.size(), kScanPadding);
 }
 
-TEST_F(PassingBytesTest, TwoStretchesShareABuffer) {
+TEST_F(PassingBytesTest, TwoStretchesDoNotDisturbEachOther) {
   PassingBytes one = stretch();
   PassingBytes other = stretch();
   for (std::size_t at = 0; at < 2 * kPassedBlock; at += 1000) {
@@ -135,6 +135,15 @@ TEST_F(PassingBytesTest, GoesOnAfterARest) {
     EXPECT_EQ(passing.take(at, kPassedBlock).value_or(""), std::string_view(bytes_).substr(at, kPassedBlock));
     passing.rest();
   }
+}
+
+TEST_F(PassingBytesTest, ABufferThatWasGivenBackIsTakenByTheNext) {
+  PassingBuffers::Buffer one = buffers_.take(100);
+  PassingBuffers::Buffer other = buffers_.take(100);
+  const std::byte* const first = one.get();
+  EXPECT_NE(other.get(), first);
+  buffers_.giveBack(std::move(one));
+  EXPECT_EQ(buffers_.take(100).get(), first);
 }
 
 TEST_F(PassingBytesTest, DamagedBlockIsNoticed) {
