@@ -126,6 +126,7 @@ class Run {
   }
 
   int exec() {
+    form_.frame().whenPainted(&giveWindowsTheirIcon);
     takeAlongData(settings_, settingsSetOf(commandLine_), usualProgramPlace(), messages_);
     StartUp(state_, settings_, messages_, form_.frame(),
             [this](const QString& archivePath, const QString& targetFolder) {

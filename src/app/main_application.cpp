@@ -80,6 +80,7 @@ class Box : public QMessageBox {
                     englishWithin(QGuiApplication::layoutDirection(),
                                   QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))),
                     buttons, QApplication::activeWindow()) {
+    giveWindowsTheirIcon();
     // Messages name files, and a file's name may look like markup.
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -236,6 +237,10 @@ void EnglishCaptions::drawControl(ControlElement element, const QStyleOption* op
   QProxyStyle::drawControl(element, &shown, painter, widget);
 }
 
+void giveWindowsTheirIcon() {
+  if (QGuiApplication::windowIcon().isNull()) QGuiApplication::setWindowIcon(QIcon(new ApplicationIcon));
+}
+
 void endWithSentence() {
   std::set_terminate(&endNow);
 }
@@ -250,7 +255,6 @@ Application::Application(int& argc, char** argv, MessageBoxes& messages)
   if (needsFrames) setStyle(new SeenFrames);
   if (isRightToLeft()) setStyle(needsFrames ? new EnglishCaptions(new SeenFrames) : new EnglishCaptions);
   setPalette(withReadableTexts(palette()));
-  setWindowIcon(QIcon(new ApplicationIcon));
   // Wayland's desktops take the icon from there.
   setDesktopFileName(QStringLiteral("quorvin"));
   // The session goes on only when everybody has answered, so the handler has to be through by then.

@@ -47,6 +47,10 @@ class EnglishCaptions : public QProxyStyle {
                    const QWidget* widget) const override;
 };
 
+/// Gives the program's windows their icon. Drawing it in every size and handing it to the window system takes
+/// time that the main window need not wait for; messages come with it in any case.
+void giveWindowsTheirIcon();
+
 /// For main(), first of all: a fault that nobody can catch or show, most of all where there is no memory for
 /// that, ends the program with a sentence on standard error; without memory with the exit status 2, else as
 /// abort() does. What was not saved is in the recovery copy.

@@ -50,7 +50,8 @@ NetworkPageTransfer::~NetworkPageTransfer() {
 void NetworkPageTransfer::start(const QUrl& address, Done done) {
   stop();
   done_ = std::move(done);
-  reply_ = network_.get(requestFor(address, limits_.silence));
+  if (!network_) network_.emplace();
+  reply_ = network_->get(requestFor(address, limits_.silence));
   reply_->setReadBufferSize(kHttpReadBuffer);
   connect(reply_, &QNetworkReply::metaDataChanged, this, &NetworkPageTransfer::headersArrived);
   connect(reply_, &QNetworkReply::readyRead, this, &NetworkPageTransfer::dataArrived);

@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 class QNetworkReply;
 
@@ -70,7 +71,8 @@ class NetworkPageTransfer : public QObject, public PageTransfer {
   void deliver(const TransferResult& result);
 
   PageTransferLimits limits_;
-  QNetworkAccessManager network_;
+  /// Made for the first page: it looks for plug-ins, which no start of the program is to wait for.
+  std::optional<QNetworkAccessManager> network_;
   QTimer deadline_;
   /// The manager's; null while nothing is being fetched.
   QNetworkReply* reply_ = nullptr;

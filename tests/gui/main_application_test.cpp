@@ -281,6 +281,7 @@ void endTheSession() {
 }
 
 TEST(MainApplication, ItsWindowsHaveAnIconInEverySize) {
+  giveWindowsTheirIcon();
   const QIcon icon = QGuiApplication::windowIcon();
   for (const int side : {16, 24, 32, 48, 128, 256}) {
     const QImage picture = icon.pixmap(QSize(side, side), 1.0).toImage();

@@ -18,6 +18,7 @@ struct SeenBox {
   QString text;
   Qt::TextFormat format = Qt::AutoText;
   QMessageBox::StandardButtons buttons;
+  bool hasIcon = false;
 };
 
 /// Looks at the message box that is up and presses `button` in it.
@@ -25,7 +26,8 @@ void answerWith(QMessageBox::StandardButton button, SeenBox& seen) {
   QTimer::singleShot(0, [button, &seen] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box) return;
-    seen = {box->windowTitle(), box->text(), box->textFormat(), box->standardButtons()};
+    seen = {box->windowTitle(), box->text(), box->textFormat(), box->standardButtons(),
+            !box->windowIcon().isNull()};
     QTest::mouseClick(box->button(button), Qt::LeftButton);
   });
 }
@@ -38,6 +40,14 @@ TEST(WidgetMessageBoxes, InformShowsTheTextWithTheTitleAndOk) {
   EXPECT_EQ(seen.text, QStringLiteral("Listing file not found: <b>.txt"));
   EXPECT_EQ(seen.format, Qt::PlainText);
   EXPECT_EQ(seen.buttons, QMessageBox::Ok);
+}
+
+TEST(WidgetMessageBoxes, TheyHaveTheIconEvenBeforeTheMainWindowHas) {
+  QGuiApplication::setWindowIcon({});
+  SeenBox seen;
+  answerWith(QMessageBox::Ok, seen);
+  WidgetMessageBoxes().inform(QStringLiteral("Early"));
+  EXPECT_TRUE(seen.hasIcon);
 }
 
 TEST(WidgetMessageBoxes, WithoutAnybodyToAnswerTheyAreLinesOnStandardError) {
