@@ -69,6 +69,13 @@ def ended_well(process, status, good=(0,)):
         sys.exit(f"this failed with status {process.returncode}: {shlex.join(process.args)}")
 
 
+def write_settings(config, data):
+    """Settings below `config` by which the program's data is in the folder `data`, wherever the program is."""
+    settings = config / "quorvin" / "settings.ini"
+    settings.parent.mkdir(parents=True)
+    settings.write_text(f"[Ketta%20Quorvin/Settings]\nLocalFolder={data}/\n")
+
+
 def end_of_block(file, at):
     """Where the first block of entries from `at` on ends, or the file does."""
     mark = b"\r\n\r\nVolume:"
