@@ -3,9 +3,11 @@
 
 set -Eeuo pipefail
 
-# Debian packages. To build the program and to open its window:
-BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev libzip-dev libzstd-dev zlib1g-dev pkgconf)
-WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland fonts-dejavu-core)
+# Debian packages. To make the translations part of the programs, and to bring them up to date:
+TRANSLATION_PACKAGES=(qt6-l10n-tools)
+# To build the program and to open its window:
+BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli11-dev libhwy-dev libxxhash-dev libzip-dev libzstd-dev zlib1g-dev pkgconf "${TRANSLATION_PACKAGES[@]}")
+WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland qt6-translations-l10n fonts-dejavu-core)
 # To build and run the tests, and to check format and code:
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14
   at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold)

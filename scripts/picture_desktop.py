@@ -7,6 +7,7 @@ import subprocess
 import sys
 import time
 from pathlib import Path
+from xml.etree import ElementTree
 
 TOP = Path(__file__).resolve().parent.parent
 PICTURES = TOP / "docs/screenshots"
@@ -67,6 +68,15 @@ LOOKS = {
     "ja": ({"LC_ALL": "ja_JP.UTF-8"}, [], 1),
     "steps": ({}, [], 1),
 }
+
+
+def translations(language):
+    """What the program's texts are in a language, by the English ones; empty where it has no translation."""
+    path = TOP / f"translations/{language}.ts"
+    if not path.exists():
+        return {}
+    messages = ElementTree.parse(path).getroot().iter("message")
+    return {message.findtext("source"): message.findtext("translation") for message in messages}
 
 
 def until(what, condition):
@@ -255,6 +265,7 @@ class Program:
         if colours := {"dark": DARK, "contrast": CONTRAST}.get(look):
             (HOME / ".config/kdeglobals").write_text(colours)
         self.screen = screen
+        self.texts = translations(environment.get("LC_ALL", "en")[:2])
         self.suffix = "" if look in ("light", "steps") else "-" + look
         self.process = subprocess.Popen([home.program, *arguments], env=screen.environment | home.environment | environment,
                                         cwd=HOME, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -262,6 +273,17 @@ class Program:
         screen.tool("windowmove", self.main, 60 * self.scale, 60 * self.scale)
         screen.tool("windowsize", self.main, width * self.scale, height * self.scale)
         time.sleep(0.5)
+
+    def said(self, text):
+        """In the language of the look."""
+        return self.texts.get(text, text)
+
+    def letter(self, caption):
+        return re.search("&(.)", self.said(caption))[1].lower()
+
+    def item(self, menu, item):
+        """The keys for an item of the menu bar."""
+        return [f"alt+{self.letter(menu)}", self.letter(item)]
 
     def end(self):
         self.process.send_signal(signal.SIGTERM)
@@ -295,4 +317,4 @@ class Program:
         time.sleep(0.2)
 
     def rescan(self):
-        self.screen.press("alt+f", "Down", "Down", "Return")
+        self.screen.press(f"alt+{self.letter('&File')}", "Down", "Down", "Return")

@@ -2,6 +2,7 @@
 
 #include "files/file_lookup.h"
 #include "state/program_state.h"
+#include "texts/texts.h"
 
 #include <QDir>
 
@@ -95,7 +96,7 @@ Errand errandOf(const QString& text) {
 }
 
 QString usageText() {
-  return QStringLiteral(
+  return Texts::tr(
       "Usage: quorvin [LISTING]\n"
       "       quorvin --search TEXT | --folder FOLDER | --rescan | --manual\n"
       "Opens the window in which listings are searched. A LISTING has settings and folders of its own.\n"

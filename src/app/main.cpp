@@ -19,6 +19,8 @@
 #include "state/program_state.h"
 #include "state/recovery_copy.h"
 #include "state/view_settings.h"
+#include "texts/languages.h"
+#include "texts/texts.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -45,6 +47,13 @@ int write(const QString& text) {
   return std::fflush(stdout) == 0 ? 0 : 2;
 }
 
+int refuse(const QString& sentence) {
+  const QString advice = Texts::tr("Try: %1").arg(QStringLiteral("quorvin --help"));
+  std::fprintf(stderr, "quorvin: %s\n%s\n", sentence.toLocal8Bit().constData(),
+               advice.toLocal8Bit().constData());
+  return 2;
+}
+
 /// Nothing where the window is wanted.
 std::optional<int> answerToOption(const CommandLine& line) {
   switch (line.wish) {
@@ -53,13 +62,9 @@ std::optional<int> answerToOption(const CommandLine& line) {
     case CommandLine::Wish::ShowHelp:
       return write(usageText());
     case CommandLine::Wish::RefuseOption:
-      std::fprintf(stderr, "quorvin: unknown option %s\nTry: quorvin --help\n",
-                   line.text.toLocal8Bit().constData());
-      return 2;
+      return refuse(Texts::tr("unknown option %1").arg(line.text));
     case CommandLine::Wish::MissValue:
-      std::fprintf(stderr, "quorvin: the option %s needs a value\nTry: quorvin --help\n",
-                   line.text.toLocal8Bit().constData());
-      return 2;
+      return refuse(Texts::tr("the option %1 needs a value").arg(line.text));
     case CommandLine::Wish::OpenWindow:
       break;
   }
@@ -72,7 +77,12 @@ std::optional<int> answerWithoutScreen(int argc, char** argv) {
   QStringList arguments;
   for (int index = 1; index < argc; ++index) arguments.append(QString::fromLocal8Bit(argv[index]));
   const CommandLine line = readCommandLine(arguments);
-  return line.wish == CommandLine::Wish::RefuseOption ? std::nullopt : answerToOption(line);
+  const bool needsScreen =
+      line.wish == CommandLine::Wish::RefuseOption || line.wish == CommandLine::Wish::OpenWindow;
+  if (needsScreen) return std::nullopt;
+  const QCoreApplication application(argc, argv);
+  const SpokenLanguage language(usersLanguage());
+  return answerToOption(line);
 }
 
 /// The same for starts that are to share a window: those with one set of settings on one screen.
@@ -119,7 +129,7 @@ class Run {
       form_.comeForward(later.activationToken);
       // One that is there has this window only where it is this window's own.
       const bool isMissing = !later.commandLine.isEmpty() && later.commandLine != commandLine_;
-      if (isMissing) messages_.inform(QString::fromUtf16(kListingNotFound));
+      if (isMissing) messages_.inform(Texts::tr(kListingNotFound));
       form_.runErrand(errandOf(later.errand));
     });
     return true;
@@ -234,6 +244,7 @@ int main(int argc, char** argv) {
   const QString token = activationToken();
   WidgetMessageBoxes messages;
   Application application(argc, argv, messages);
+  const SpokenLanguage language(usersLanguage());
   QCoreApplication::setApplicationName(QStringLiteral("quorvin"));
   QCoreApplication::setApplicationVersion(versionNumbers());
 

@@ -4,6 +4,7 @@
 #include "app/version.h"
 #include "hits/hit_list_delegate.h"
 #include "platform/text_direction.h"
+#include "texts/texts.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -48,11 +49,11 @@ void nameIcon(const QMessageBox& box) {
   if (!icon) return;
   switch (box.icon()) {
     case QMessageBox::Question:
-      return icon->setAccessibleName(QStringLiteral("Question"));
+      return icon->setAccessibleName(Texts::tr("Question"));
     case QMessageBox::Warning:
-      return icon->setAccessibleName(QStringLiteral("Warning"));
+      return icon->setAccessibleName(Texts::tr("Warning"));
     default:
-      return icon->setAccessibleName(QStringLiteral("Information"));
+      return icon->setAccessibleName(Texts::tr("Information"));
   }
 }
 
@@ -275,7 +276,7 @@ void Application::setLeaveHandler(std::function<void()> leave) {
 bool Application::notify(QObject* receiver, QEvent* event) {
   const bool isGoing = isWindowGoing(receiver, *event);
   bool result = false;
-  reportFaults(messages_, QStringLiteral("handling an event of the window system"),
+  reportFaults(messages_, Texts::tr("handling an event of the window system"),
                [&] { result = QApplication::notify(receiver, event); });
   // The style keeps what it has drawn under the name of that window's colours, which nobody asks for again.
   if (isGoing) QPixmapCache::clear();

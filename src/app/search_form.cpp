@@ -4,6 +4,7 @@
 #include "app/status_texts.h"
 #include "app/version.h"
 #include "app/window_place.h"
+#include "texts/texts.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -96,8 +97,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       [this](const HitRow& hit) { return rows_.words().explanation(hit.folder, hit.name); });
   sources_.emplace(
       state_, messages_, *this, controls_, menus_, [this] { rescan(); }, [this] { sourcesChanged(); });
-  jobs_.setNotify(
-      [&shell](const QString& text) { shell.notify(QStringLiteral("The rescan has ended"), text); });
+  jobs_.setNotify([&shell](const QString& text) { shell.notify(Texts::tr("The rescan has ended"), text); });
   jobs_.peers().SndQTime().setQuit([this] { leave(); });
   controls_.SearchStr->setFocus();
   sourcesChanged();
@@ -142,24 +142,23 @@ void SearchForm::connectMenus() {
       sourcesChanged();
     });
   };
-  handle(menus_.AddLocal, QStringLiteral("editing the local folders"), [this] { windows_.AddLocal_Click(); });
-  handle(menus_.EditOffline, QStringLiteral("editing the offline lists"),
+  handle(menus_.AddLocal, Texts::tr("editing the local folders"), [this] { windows_.AddLocal_Click(); });
+  handle(menus_.EditOffline, Texts::tr("editing the offline lists"),
          [this] { windows_.EditOffline_Click(); });
-  handle(menus_.ReScan, QStringLiteral("refreshing the local lists"), [this] { jobs_.startRefresh(); });
-  handle(menus_.ListingHistory, QStringLiteral("showing the listing history"),
+  handle(menus_.ReScan, Texts::tr("refreshing the local lists"), [this] { jobs_.startRefresh(); });
+  handle(menus_.ListingHistory, Texts::tr("showing the listing history"),
          [this] { windows_.ListingHistory_Click(); });
-  handle(menus_.ExportHits, QStringLiteral("exporting hits"), [this] { export_.ExportHits_Click(); });
-  handle(hitActions_.itemMenu().ExportSelected, QStringLiteral("exporting hits"),
+  handle(menus_.ExportHits, Texts::tr("exporting hits"), [this] { export_.ExportHits_Click(); });
+  handle(hitActions_.itemMenu().ExportSelected, Texts::tr("exporting hits"),
          [this] { export_.ExportSelected_Click(); });
-  handle(menus_.OptionsMenu, QStringLiteral("editing the options"), [this] { windows_.OptionsMenu_Click(); });
-  handle(menus_.ShareLists, QStringLiteral("sharing lists"),
+  handle(menus_.OptionsMenu, Texts::tr("editing the options"), [this] { windows_.OptionsMenu_Click(); });
+  handle(menus_.ShareLists, Texts::tr("sharing lists"),
          [this] { jobs_.ShareLists_Click(menus_.ShareLists->isChecked()); });
-  handle(menus_.GetLists, QStringLiteral("getting lists from a peer"), [this] { jobs_.GetLists_Click(); });
+  handle(menus_.GetLists, Texts::tr("getting lists from a peer"), [this] { jobs_.GetLists_Click(); });
   connect(&jobs_.peers(), &PeerExchange::offlineSourcesAdded, this, &SearchForm::sourcesChanged);
-  handle(menus_.HlpGen, QStringLiteral("opening the help"), [this] { windows_.HlpGen_Click(); });
-  handle(menus_.RelInfo, QStringLiteral("opening the help"), [this] { windows_.RelInfo_Click(); });
-  handle(menus_.AboutMenu, QStringLiteral("showing the about window"),
-         [this] { windows_.AboutMenu_Click(); });
+  handle(menus_.HlpGen, Texts::tr("opening the help"), [this] { windows_.HlpGen_Click(); });
+  handle(menus_.RelInfo, Texts::tr("opening the help"), [this] { windows_.RelInfo_Click(); });
+  handle(menus_.AboutMenu, Texts::tr("showing the about window"), [this] { windows_.AboutMenu_Click(); });
   connect(menus_.MenuQuit, &QAction::triggered, this, &SearchForm::close);
 }
 
@@ -172,14 +171,14 @@ void SearchForm::sourcesChanged() {
 void SearchForm::showEmptyText() {
   if (rows_.order().isFiltered() && rows_.order().knownRows() > 0) {
     controls_.HitList->setEmptyText(
-        QStringLiteral("No hit has these words.\n\nEsc closes the filter and shows all hits."));
+        Texts::tr("No hit has these words.\n\nEsc closes the filter and shows all hits."));
     return;
   }
   if (state_.hasSources()) {
     controls_.HitList->setEmptyText(search_.emptyText());
     return;
   }
-  controls_.HitList->setEmptyText(QStringLiteral("There is nothing to search yet."));
+  controls_.HitList->setEmptyText(Texts::tr("There is nothing to search yet."));
 }
 
 bool SearchForm::eventFilter(QObject* watched, QEvent* event) {
@@ -245,7 +244,7 @@ void SearchForm::closeUnasked() {
 /// False where the program could not save everything: then the window stays, with all that it has.
 bool SearchForm::Form_Unload() {
   bool isThrough = !unloadHandler_;
-  reportFaults(messages_, QStringLiteral("saving. The program stays open; close it again to leave"), [&] {
+  reportFaults(messages_, Texts::tr("saving. The program stays open; close it again to leave"), [&] {
     if (unloadHandler_) unloadHandler_();
     isThrough = true;
   });

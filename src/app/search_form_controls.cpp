@@ -1,6 +1,7 @@
 #include "app/search_form_controls.h"
 
 #include "app/search_form_view.h"
+#include "texts/texts.h"
 
 #include <QGuiApplication>
 #include <QKeySequence>
@@ -41,16 +42,16 @@ QLabel* makeValue(QWidget* parent, const QString& name, const QString& text, con
 SearchTextEdit* makeSearchStr(QWidget* parent) {
   auto* edit = new SearchTextEdit(parent);
   edit->setObjectName(QStringLiteral("SearchStr"));
-  edit->setAccessibleName(QStringLiteral("Search text"));
-  edit->setPlaceholderText(QStringLiteral("Words from the name or folder, for example: rock live"));
+  edit->setAccessibleName(Texts::tr("Search text"));
+  edit->setPlaceholderText(Texts::tr("Words from the name or folder, for example: rock live"));
   return edit;
 }
 
 QLineEdit* makeDesMatch(QWidget* parent) {
-  const QString meaning = QStringLiteral("Entries that contain more than this share of the words are shown");
+  const QString meaning = Texts::tr("Entries that contain more than this share of the words are shown");
   auto* edit = new QLineEdit(QString::fromUtf16(kInitialMatch), parent);
   edit->setObjectName(QStringLiteral("DesMatch"));
-  edit->setAccessibleName(QStringLiteral("Desired match in percent"));
+  edit->setAccessibleName(Texts::tr("Desired match in percent"));
   edit->setAccessibleDescription(meaning);
   edit->setToolTip(meaning);
   return edit;
@@ -73,13 +74,13 @@ QMenu* addMenu(QMenuBar* bar, const QString& name, const QString& caption) {
 void addSearchItems(SearchFormMenus& menus) {
   menus.ViewMenu->addSeparator();
   menus.SearchWhileTyping =
-      addItem(menus.ViewMenu, QStringLiteral("SearchWhileTyping"), QStringLiteral("Search While &Typing"));
+      addItem(menus.ViewMenu, QStringLiteral("SearchWhileTyping"), Texts::tr("Search While &Typing"));
   menus.SearchWhileTyping->setCheckable(true);
   menus.KeepSearchHistory =
-      addItem(menus.ViewMenu, QStringLiteral("KeepSearchHistory"), QStringLiteral("&Keep Search History"));
+      addItem(menus.ViewMenu, QStringLiteral("KeepSearchHistory"), Texts::tr("&Keep Search History"));
   menus.KeepSearchHistory->setCheckable(true);
   menus.ClearSearchHistory =
-      addItem(menus.ViewMenu, QStringLiteral("ClearSearchHistory"), QStringLiteral("Clear Search &History"));
+      addItem(menus.ViewMenu, QStringLiteral("ClearSearchHistory"), Texts::tr("Clear Search &History"));
 }
 
 }  // namespace
@@ -88,42 +89,41 @@ SearchFormControls makeControls(QWidget* parent, QAbstractItemModel& rows) {
   SearchFormControls made{};
   made.MenuLine = new QFrame(parent);
   made.MenuLine->setObjectName(QStringLiteral("MenuLine"));
-  made.MenuLine->setAccessibleName(QStringLiteral("Line below the menu"));
+  made.MenuLine->setAccessibleName(Texts::tr("Line below the menu"));
   made.MenuLine->setFrameStyle(QFrame::HLine | QFrame::Sunken);
 
   // In tab order.
   made.SearchStr = makeSearchStr(parent);
   made.DesMatch = makeDesMatch(parent);
-  made.Find = makeButton(parent, QStringLiteral("Find"), QStringLiteral("Find"));
+  made.Find = makeButton(parent, QStringLiteral("Find"), Texts::tr("Find"));
   made.Find->setDefault(true);
-  made.WebUpdate = makeButton(parent, QStringLiteral("WebUpdate"), QStringLiteral("Web Update?"));
+  made.WebUpdate = makeButton(parent, QStringLiteral("WebUpdate"), Texts::tr("Web Update?"));
   made.WebUpdate->setEnabled(false);
   made.HitList = new HitListView(parent);
   made.HitList->setModel(&rows);
   made.HitList->setObjectName(QStringLiteral("HitList"));
-  made.HitList->setAccessibleName(QStringLiteral("Hits"));
+  made.HitList->setAccessibleName(Texts::tr("Hits"));
   made.FilterStr = new QLineEdit(parent);
   made.FilterStr->setObjectName(QStringLiteral("FilterStr"));
-  made.FilterStr->setAccessibleName(QStringLiteral("Filter"));
+  made.FilterStr->setAccessibleName(Texts::tr("Filter"));
   made.FilterStr->setAccessibleDescription(
-      QStringLiteral("Only hits with all of these words in the name or folder are shown"));
-  made.FilterStr->setPlaceholderText(QStringLiteral("Words that the name or folder must have"));
+      Texts::tr("Only hits with all of these words in the name or folder are shown"));
+  made.FilterStr->setPlaceholderText(Texts::tr("Words that the name or folder must have"));
 
-  made.searchLabel = makeCaption(parent, QStringLiteral("&Search for:"), made.SearchStr);
-  made.matchLabel = makeCaption(parent, QStringLiteral("&Match %:"), made.DesMatch);
+  made.searchLabel = makeCaption(parent, Texts::tr("&Search for:"), made.SearchStr);
+  made.matchLabel = makeCaption(parent, Texts::tr("&Match %:"), made.DesMatch);
   made.lblFound = makeValue(parent, QStringLiteral("lblFound"), QStringLiteral("0"),
-                            QStringLiteral("Number of entries found"));
+                            Texts::tr("Number of entries found"));
   made.lblSearched = makeValue(parent, QStringLiteral("lblSearched"), QStringLiteral("0"),
-                               QStringLiteral("Number of entries searched"));
+                               Texts::tr("Number of entries searched"));
   // Screen readers read a caption before what it belongs to, a bare number otherwise.
-  made.foundLabel = makeCaption(parent, QStringLiteral("Found:"), made.lblFound);
-  made.searchedLabel = makeCaption(parent, QStringLiteral("Searched:"), made.lblSearched);
-  made.lblVer = makeValue(parent, QStringLiteral("lblVer"), QString(), QStringLiteral("Program version"));
+  made.foundLabel = makeCaption(parent, Texts::tr("Found:"), made.lblFound);
+  made.searchedLabel = makeCaption(parent, Texts::tr("Searched:"), made.lblSearched);
+  made.lblVer = makeValue(parent, QStringLiteral("lblVer"), QString(), Texts::tr("Program version"));
   made.lblVer->setAlignment(mirrored(Qt::AlignRight) | Qt::AlignVCenter);
   made.lblVer->setForegroundRole(QPalette::PlaceholderText);
-  made.filterLabel = makeCaption(parent, QStringLiteral("Fi&lter:"), made.FilterStr);
-  made.lblShown =
-      makeValue(parent, QStringLiteral("lblShown"), QString(), QStringLiteral("Number of hits shown"));
+  made.filterLabel = makeCaption(parent, Texts::tr("Fi&lter:"), made.FilterStr);
+  made.lblShown = makeValue(parent, QStringLiteral("lblShown"), QString(), Texts::tr("Number of hits shown"));
   for (QWidget* widget : {static_cast<QWidget*>(made.filterLabel), static_cast<QWidget*>(made.FilterStr),
                           static_cast<QWidget*>(made.lblShown)}) {
     widget->hide();
@@ -139,39 +139,37 @@ QAction* addItem(QMenu* menu, const QString& name, const QString& caption) {
 
 SearchFormMenus makeMenus(QMenuBar* bar) {
   SearchFormMenus made{};
-  bar->setAccessibleName(QStringLiteral("Main menu"));
-  made.FileMenu = addMenu(bar, QStringLiteral("FileMenu"), QStringLiteral("&File"));
-  made.AddLocal = addItem(made.FileMenu, QStringLiteral("AddLocal"),
-                          QStringLiteral("&Add/Edit Local Folder To Search List"));
+  bar->setAccessibleName(Texts::tr("Main menu"));
+  made.FileMenu = addMenu(bar, QStringLiteral("FileMenu"), Texts::tr("&File"));
+  made.AddLocal =
+      addItem(made.FileMenu, QStringLiteral("AddLocal"), Texts::tr("&Add/Edit Local Folder To Search List"));
   made.EditOffline =
-      addItem(made.FileMenu, QStringLiteral("EditOffline"), QStringLiteral("Add/Edit Offline List files"));
-  made.ReScan =
-      addItem(made.FileMenu, QStringLiteral("ReScan"), QStringLiteral("Rescan Local Search Folders"));
+      addItem(made.FileMenu, QStringLiteral("EditOffline"), Texts::tr("Add/Edit Offline List files"));
+  made.ReScan = addItem(made.FileMenu, QStringLiteral("ReScan"), Texts::tr("Rescan Local Search Folders"));
   made.ListingHistory =
-      addItem(made.FileMenu, QStringLiteral("ListingHistory"), QStringLiteral("Listing &History..."));
-  made.ExportHits = addItem(made.FileMenu, QStringLiteral("ExportHits"), QStringLiteral("&Export Hits..."));
-  made.OptionsMenu = addItem(made.FileMenu, QStringLiteral("OptionsMenu"), QStringLiteral("&Options"));
-  made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), QStringLiteral("&Quit"));
+      addItem(made.FileMenu, QStringLiteral("ListingHistory"), Texts::tr("Listing &History..."));
+  made.ExportHits = addItem(made.FileMenu, QStringLiteral("ExportHits"), Texts::tr("&Export Hits..."));
+  made.OptionsMenu = addItem(made.FileMenu, QStringLiteral("OptionsMenu"), Texts::tr("&Options"));
+  made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), Texts::tr("&Quit"));
   // Spelled out: without a desktop environment the standard key for quitting is bound to nothing.
   made.MenuQuit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
   // From every window: while the program works, Progress may be the one that has the keys.
   made.MenuQuit->setShortcutContext(Qt::ApplicationShortcut);
 
-  made.ViewMenu = addMenu(bar, QStringLiteral("ViewMenu"), QStringLiteral("&View"));
+  made.ViewMenu = addMenu(bar, QStringLiteral("ViewMenu"), Texts::tr("&View"));
   addViewItems(made);
-  made.HitsMenu = addMenu(bar, QStringLiteral("HitsMenu"), QStringLiteral("H&its"));
+  made.HitsMenu = addMenu(bar, QStringLiteral("HitsMenu"), Texts::tr("H&its"));
   addSearchItems(made);
 
-  made.PeersMenu = addMenu(bar, QStringLiteral("PeersMenu"), QStringLiteral("&Peers"));
-  made.ShareLists = addItem(made.PeersMenu, QStringLiteral("ShareLists"), QStringLiteral("&Share My Lists"));
+  made.PeersMenu = addMenu(bar, QStringLiteral("PeersMenu"), Texts::tr("&Peers"));
+  made.ShareLists = addItem(made.PeersMenu, QStringLiteral("ShareLists"), Texts::tr("&Share My Lists"));
   made.ShareLists->setCheckable(true);
-  made.GetLists =
-      addItem(made.PeersMenu, QStringLiteral("GetLists"), QStringLiteral("&Get Lists From Peer..."));
+  made.GetLists = addItem(made.PeersMenu, QStringLiteral("GetLists"), Texts::tr("&Get Lists From Peer..."));
 
-  made.HlpMnu = addMenu(bar, QStringLiteral("HlpMnu"), QStringLiteral("&Help"));
-  made.HlpGen = addItem(made.HlpMnu, QStringLiteral("HlpGen"), QStringLiteral("Program &Usage"));
-  made.RelInfo = addItem(made.HlpMnu, QStringLiteral("RelInfo"), QStringLiteral("&Release Information"));
-  made.AboutMenu = addItem(made.HlpMnu, QStringLiteral("AboutMenu"), QStringLiteral("&About"));
+  made.HlpMnu = addMenu(bar, QStringLiteral("HlpMnu"), Texts::tr("&Help"));
+  made.HlpGen = addItem(made.HlpMnu, QStringLiteral("HlpGen"), Texts::tr("Program &Usage"));
+  made.RelInfo = addItem(made.HlpMnu, QStringLiteral("RelInfo"), Texts::tr("&Release Information"));
+  made.AboutMenu = addItem(made.HlpMnu, QStringLiteral("AboutMenu"), Texts::tr("&About"));
   return made;
 }
 

@@ -3,6 +3,7 @@
 #include "app/status_texts.h"
 #include "hits/hit_list_model.h"
 #include "hits/shown_rows.h"
+#include "texts/texts.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -44,7 +45,7 @@ void SearchFormCopy::copy(HitCopy::LineOf lineOf) {
   const std::int64_t count = selectedRowCount(selection);
   if (count == 0) return;
   if (count > mostRows_) {
-    return parts_.messages.inform(QStringLiteral("%1 hits are selected. At most %2 can be copied at once.")
+    return parts_.messages.inform(Texts::tr("%1 hits are selected. At most %2 can be copied at once.")
                                       .arg(parts_.locale.toString(count), parts_.locale.toString(mostRows_)));
   }
   missing_ = 0;
@@ -84,11 +85,11 @@ void SearchFormCopy::end(CopyEnd end, const QString& text) {
       return tellCopied();
     case CopyEnd::Stopped:
       return parts_.status.setNote(
-          QStringLiteral("Copying was stopped. The clipboard holds what it held before."));
+          Texts::tr("Copying was stopped. The clipboard holds what it held before."));
     case CopyEnd::HitsGone:
       return parts_.status.setNote(
-          QStringLiteral("Copying was given up, since a new search has replaced the hits. The clipboard "
-                         "holds what it held before."));
+          Texts::tr("Copying was given up, since a new search has replaced the hits. The clipboard "
+                    "holds what it held before."));
   }
 }
 
@@ -97,7 +98,7 @@ void SearchFormCopy::tellCopied() {
   if (isTold_) told += copiedText(copy_.all(), parts_.locale);
   if (missing_ > 0) {
     told += notFoundText(missing_, copy_.all(), parts_.locale);
-    told += QStringLiteral("For these, the path in the catalogue was copied.");
+    told += Texts::tr("For these, the path in the catalogue was copied.");
   }
   const QString text = told.join(u' ');
   // Where the line has told of it so far, a message would come in the middle of something else.

@@ -1,6 +1,7 @@
 // What a start asks of the main window.
 #include "app/fault_report.h"
 #include "app/search_form.h"
+#include "texts/texts.h"
 
 #include <QAction>
 #include <QApplication>
@@ -10,7 +11,7 @@ namespace quorvin {
 
 void SearchForm::runErrand(const Errand& errand) {
   if (QApplication::activeModalWidget() || jobs_.work().isClosing()) return;
-  reportFaults(messages_, QStringLiteral("doing what the program was started for"), [&] {
+  reportFaults(messages_, Texts::tr("doing what the program was started for"), [&] {
     switch (errand.kind) {
       case Errand::Kind::Search:
         return searchFor(errand.subject);

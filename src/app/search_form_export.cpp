@@ -1,6 +1,7 @@
 #include "app/search_form_export.h"
 
 #include "app/fault_report.h"
+#include "texts/texts.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -14,8 +15,8 @@ namespace {
 constexpr qint64 kMillisecondsUnseen = 250;
 
 QStringList forms() {
-  return {QStringLiteral("Table (*.csv)"), QStringLiteral("Page with its own search box (*.html)"),
-          QStringLiteral("Listing that can be searched (*.txt)")};
+  return {Texts::tr("Table (*.csv)"), Texts::tr("Page with its own search box (*.html)"),
+          Texts::tr("Listing that can be searched (*.txt)")};
 }
 
 }  // namespace
@@ -39,12 +40,12 @@ bool SearchFormExport::stop() {
 void SearchFormExport::exportRows(ListRows which) {
   const bool isAny = which == ListRows::All ? parts_.list.model()->rowCount() > 0
                                             : parts_.list.selectionModel()->hasSelection();
-  if (!isAny) return parts_.messages.inform(QStringLiteral("There are no hits to export."));
+  if (!isAny) return parts_.messages.inform(Texts::tr("There are no hits to export."));
   timesCleared_ = parts_.table.timesCleared();
   const QString refusal = parts_.work.refusalOf(JobKind::Export);
   if (!refusal.isEmpty()) return parts_.messages.inform(refusal);
   const std::optional<QString> path =
-      parts_.picker.saveFile({QStringLiteral("Export Hits"), QStringLiteral("hits"), folder_, forms()});
+      parts_.picker.saveFile({Texts::tr("Export Hits"), QStringLiteral("hits"), folder_, forms()});
   if (!path || !mayWriteTo(*path)) return;
   folder_ = QFileInfo(*path).path();
   const std::optional<ExportFormat> format = exportFormatOf(*path);
@@ -58,14 +59,13 @@ void SearchFormExport::exportRows(ListRows which) {
 bool SearchFormExport::mayWriteTo(const QString& path) const {
   if (!exportFormatOf(path)) {
     parts_.messages.inform(
-        QStringLiteral("The ending of the name says what is written: .csv, .html or .txt. %1 has none of "
-                       "these.")
+        Texts::tr("The ending of the name says what is written: .csv, .html or .txt. %1 has none of "
+                  "these.")
             .arg(path));
     return false;
   }
   if (!parts_.state.isOwnFile(path) && !parts_.state.isListing(path)) return true;
-  parts_.messages.inform(
-      QStringLiteral("%1 belongs to what is searched. Please choose another name.").arg(path));
+  parts_.messages.inform(Texts::tr("%1 belongs to what is searched. Please choose another name.").arg(path));
   return false;
 }
 
@@ -76,8 +76,8 @@ void SearchFormExport::write(Job& job, const QString& path, ExportFormat format,
   sinceStart_.start();
   bool isWhole = false;
   const QString title = job.display().title();
-  reportFaults(parts_.messages, QStringLiteral("exporting hits to %1").arg(path), [&] {
-    job.display().setTitle(QStringLiteral("Export Hits"));
+  reportFaults(parts_.messages, Texts::tr("exporting hits to %1").arg(path), [&] {
+    job.display().setTitle(Texts::tr("Export Hits"));
     job.display().setStatus(path);
     isWhole = writeRows(job, path, format, which);
     if (!isWhole) tellUnfinished(job);
@@ -88,8 +88,7 @@ void SearchFormExport::write(Job& job, const QString& path, ExportFormat format,
   job.display().setTitle(title);
   job.end();
   if (!isWhole || parts_.work.isClosing()) return;
-  parts_.status.setNote(
-      QStringLiteral("%1 hits were written to %2.").arg(parts_.locale.toString(all_), path));
+  parts_.status.setNote(Texts::tr("%1 hits were written to %2.").arg(parts_.locale.toString(all_), path));
 }
 
 /// Whether the file is whole.
@@ -115,7 +114,7 @@ bool SearchFormExport::goOn(Job& job, std::int64_t written) {
   if (isShown_ && job.display().isDue()) {
     job.display().setBar(static_cast<std::int32_t>(written * kFullBar / all_));
     job.display().setDetail(
-        QStringLiteral("%1 of %2 hits").arg(parts_.locale.toString(written), parts_.locale.toString(all_)));
+        Texts::tr("%1 of %2 hits").arg(parts_.locale.toString(written), parts_.locale.toString(all_)));
   }
   return mayGoOn(job);
 }
@@ -138,11 +137,11 @@ void SearchFormExport::tellUnfinished(const Job& job) const {
   if (job.isClosing()) return;
   // Who has stopped it knows; who has started a search may not.
   if (isCancelled(job)) {
-    return parts_.status.setNote(QStringLiteral("The export was stopped. Nothing was written."));
+    return parts_.status.setNote(Texts::tr("The export was stopped. Nothing was written."));
   }
   parts_.messages.inform(
-      QStringLiteral("The export was given up, since a new search has replaced the hits. Nothing was "
-                     "written."));
+      Texts::tr("The export was given up, since a new search has replaced the hits. Nothing was "
+                "written."));
 }
 
 }  // namespace quorvin

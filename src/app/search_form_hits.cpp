@@ -7,6 +7,7 @@
 #include "hits/hit_paths.h"
 #include "hits/hit_properties.h"
 #include "hits/shown_rows.h"
+#include "texts/texts.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -38,27 +39,26 @@ ItemMenu makeItemMenu(QWidget* parent) {
   ItemMenu made{};
   made.menu = new QMenu(QStringLiteral("PopUP"), parent);
   made.menu->setObjectName(QStringLiteral("ItemMenu"));
-  made.menu->setAccessibleName(QStringLiteral("Hit"));
-  made.CtLaunch = addItem(made.menu, QStringLiteral("CtLaunch"), QStringLiteral("O&pen"));
-  made.CTOpFolder =
-      addItem(made.menu, QStringLiteral("CTOpFolder"), QStringLiteral("Open Containing &Folder"));
-  made.ShowPreview = addItem(made.menu, QStringLiteral("ShowPreview"), QStringLiteral("Preview Image"));
-  made.CTQueue = addItem(made.menu, QStringLiteral("CTQueue"), QStringLiteral("Enqueue (Winamp)"));
+  made.menu->setAccessibleName(Texts::tr("Hit"));
+  made.CtLaunch = addItem(made.menu, QStringLiteral("CtLaunch"), Texts::tr("O&pen"));
+  made.CTOpFolder = addItem(made.menu, QStringLiteral("CTOpFolder"), Texts::tr("Open Containing &Folder"));
+  made.ShowPreview = addItem(made.menu, QStringLiteral("ShowPreview"), Texts::tr("Preview Image"));
+  made.CTQueue = addItem(made.menu, QStringLiteral("CTQueue"), Texts::tr("Enqueue (Winamp)"));
   made.menu->setDefaultAction(made.CtLaunch);
 
   made.menu->addSeparator();
-  made.CopyRows = addItemWithKeys(made.menu, QStringLiteral("CopyRows"), QStringLiteral("&Copy"),
+  made.CopyRows = addItemWithKeys(made.menu, QStringLiteral("CopyRows"), Texts::tr("&Copy"),
                                   QKeySequence(Qt::CTRL | Qt::Key_C));
-  made.CopyNames = addItemWithKeys(made.menu, QStringLiteral("CopyNames"), QStringLiteral("Copy &Names"),
+  made.CopyNames = addItemWithKeys(made.menu, QStringLiteral("CopyNames"), Texts::tr("Copy &Names"),
                                    QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_C));
-  made.CopyPaths = addItemWithKeys(made.menu, QStringLiteral("CopyPaths"), QStringLiteral("Copy Full P&ath"),
+  made.CopyPaths = addItemWithKeys(made.menu, QStringLiteral("CopyPaths"), Texts::tr("Copy Full P&ath"),
                                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
   made.ExportSelected =
-      addItem(made.menu, QStringLiteral("ExportSelected"), QStringLiteral("&Export Selected..."));
+      addItem(made.menu, QStringLiteral("ExportSelected"), Texts::tr("&Export Selected..."));
   made.menu->addSeparator();
-  made.WhichDisk = addItem(made.menu, QStringLiteral("WhichDisk"), QStringLiteral("&Which Disk?"));
-  made.HitProperties = addItemWithKeys(made.menu, QStringLiteral("HitProperties"),
-                                       QStringLiteral("P&roperties"), QKeySequence(Qt::ALT | Qt::Key_Return));
+  made.WhichDisk = addItem(made.menu, QStringLiteral("WhichDisk"), Texts::tr("&Which Disk?"));
+  made.HitProperties = addItemWithKeys(made.menu, QStringLiteral("HitProperties"), Texts::tr("P&roperties"),
+                                       QKeySequence(Qt::ALT | Qt::Key_Return));
   return made;
 }
 
@@ -88,8 +88,8 @@ SearchFormHits::SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitTabl
 }
 
 void SearchFormHits::fillHitsMenu(QMenu& menu) {
-  QAction* open = addItem(&menu, QStringLiteral("OpenHits"), QStringLiteral("&Open"));
-  QAction* showInFolder = addItem(&menu, QStringLiteral("ShowInFolder"), QStringLiteral("Show in &Folder"));
+  QAction* open = addItem(&menu, QStringLiteral("OpenHits"), Texts::tr("&Open"));
+  QAction* showInFolder = addItem(&menu, QStringLiteral("ShowInFolder"), Texts::tr("Show in &Folder"));
   connect(open, &QAction::triggered, this, &SearchFormHits::OpenHits_Click);
   connect(showInFolder, &QAction::triggered, this, &SearchFormHits::ShowInFolder_Click);
   menu.addAction(menu_.WhichDisk);
@@ -165,7 +165,7 @@ bool SearchFormHits::isDragged(const QMouseEvent& move) {
 
 void SearchFormHits::HitList_Drag() {
   if (selectedRowCount(*list_.selectionModel()) > kMostRowsToDrag) {
-    Q_EMIT noted(QStringLiteral("At most %1 hits can be dragged at once. Nothing was dragged.")
+    Q_EMIT noted(Texts::tr("At most %1 hits can be dragged at once. Nothing was dragged.")
                      .arg(locale_.toString(static_cast<qlonglong>(kMostRowsToDrag))));
     return;
   }
@@ -186,8 +186,8 @@ void SearchFormHits::ShowPreview_Click() {
   if (!hit) return;
   const HitPath path = actions_.resolve(*hit);
   if (path.isEmpty()) return;
-  if (!openPreview_) return messages_.inform(QStringLiteral("The picture preview is not available."));
-  reportFaults(messages_, QStringLiteral("showing \"%1\"").arg(path.fullPath()),
+  if (!openPreview_) return messages_.inform(Texts::tr("The picture preview is not available."));
+  reportFaults(messages_, Texts::tr("showing \"%1\"").arg(path.fullPath()),
                [&] { openPreview_(path.folder, path.name); });
 }
 
@@ -207,10 +207,13 @@ void SearchFormHits::ShowInFolder_Click() {
 
 bool SearchFormHits::mayOpen(std::int64_t count) const {
   if (count <= kHitsOpenedUnasked) return true;
-  const QString selected = QStringLiteral("%1 hits are selected. ").arg(locale_.toString(count));
-  if (count <= kMostHitsToOpen) return messages_.askYesNo(selected + QStringLiteral("Open all of them?"));
-  messages_.inform(
-      selected + QStringLiteral("At most %1 can be opened at once.").arg(locale_.toString(kMostHitsToOpen)));
+  const int plural = Texts::plural(count);
+  if (count <= kMostHitsToOpen) {
+    return messages_.askYesNo(
+        Texts::tr("%1 hits are selected. Open all of them?", nullptr, plural).arg(locale_.toString(count)));
+  }
+  messages_.inform(Texts::tr("%1 hits are selected. At most %2 can be opened at once.", nullptr, plural)
+                       .arg(locale_.toString(count), locale_.toString(kMostHitsToOpen)));
   return false;
 }
 

@@ -1,6 +1,7 @@
 #include "app/search_form_controls.h"
 #include "hits/hit_list_delegate.h"
 #include "search/hit_table.h"
+#include "texts/texts.h"
 
 #include <QDate>
 #include <QFontMetrics>
@@ -186,7 +187,7 @@ void placeControls(const SearchFormControls& controls) {
   second.skip(distances.besideCaption);
   second.put(controls.DesMatch, editWidth(controls.DesMatch, QStringLiteral("0000")));
   second.skip(distances.besideCaption);
-  second.put(controls.Find, widthFor(controls.Find, {QStringLiteral("Find"), QStringLiteral("Stop")}));
+  second.put(controls.Find, widthFor(controls.Find, {Texts::tr("Find"), Texts::tr("Stop")}));
   // With large letters, or on a small screen, there is not room for all in one row.
   const int right = controls.HitList->screen()->availableGeometry().width() - distances.margin;
   const auto keepTogether = [&](const QWidget* one, int other) {

@@ -2,6 +2,7 @@
 
 #include "app/fault_report.h"
 #include "app/status_texts.h"
+#include "texts/texts.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -34,7 +35,7 @@ void SearchFormDisplay::setDesMatch(const QString& text) {
 
 void SearchFormDisplay::runStarted(const SearchQuery& query) {
   query_ = &query;
-  controls_.Find->setText(QStringLiteral("Stop"));
+  controls_.Find->setText(Texts::tr("Stop"));
   controls_.HitList->setEmptyText({});
   status_.runStarted();
   show();
@@ -42,7 +43,7 @@ void SearchFormDisplay::runStarted(const SearchQuery& query) {
 }
 
 void SearchFormDisplay::runEnded() {
-  controls_.Find->setText(QStringLiteral("Find"));
+  controls_.Find->setText(Texts::tr("Find"));
   show();
   rows_.setGrowing(false);
 }
@@ -179,7 +180,7 @@ void SearchFormRun::runAll(Manner manner) {
 void SearchFormRun::runOnce(Manner manner) {
   manner_ = manner;
   const QString text = parts_.controls.SearchStr->text();
-  const QString doing = QStringLiteral("searching for \"%1\"").arg(text);
+  const QString doing = Texts::tr("searching for \"%1\"").arg(text);
   if (manner == Manner::Typed) {
     reportFaults(parts_.messages, doing, [&] { runQuietly(text); });
     return;
@@ -194,7 +195,7 @@ void SearchFormRun::runQuietly(const QString& text) {
     run_.searchQuietly(text, parts_.controls.DesMatch->text());
   } catch (const RuntimeFault& fault) {
     const bool areTooMany = fault.faultNumber() == FaultNumber::SubscriptOutOfRange;
-    parts_.status.setNote(areTooMany ? QStringLiteral("not searched: more than %1 words").arg(kMostWords)
+    parts_.status.setNote(areTooMany ? Texts::tr("not searched: more than %1 words").arg(kMostWords)
                                      : fault.description());
   }
 }

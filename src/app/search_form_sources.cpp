@@ -2,6 +2,7 @@
 
 #include "app/fault_report.h"
 #include "state/source_entries.h"
+#include "texts/texts.h"
 
 #include <QAbstractItemModel>
 #include <QDir>
@@ -15,8 +16,21 @@ namespace quorvin {
 
 namespace {
 
-QString counted(qsizetype count, const char* one, const char* many) {
-  return QLocale().toString(count) + u' ' + QString::fromLatin1(count == 1 ? one : many);
+QString foldersAdded(int count) {
+  return (count == 1 ? Texts::tr("%1 folder was added.")
+                     : Texts::tr("%1 folders were added.", nullptr, Texts::plural(count)))
+      .arg(QLocale().toString(count));
+}
+
+QString listingsAdded(int count) {
+  return (count == 1 ? Texts::tr("%1 listing was added.")
+                     : Texts::tr("%1 listings were added.", nullptr, Texts::plural(count)))
+      .arg(QLocale().toString(count));
+}
+
+/// A caption without the mark of its letter.
+QString plainCaption(QString caption) {
+  return caption.remove(u'&');
 }
 
 void join(QString& text, const QString& more) {
@@ -36,25 +50,25 @@ SearchFormSources::SearchFormSources(ProgramState& state, MessageBoxes& messages
       searchText_(*controls.SearchStr),
       rescan_(std::move(rescan)),
       changed_(std::move(changed)),
-      folders_(makeOffer(QStringLiteral("OfferFolders"), QStringLiteral("&Catalogue folders of your own"),
+      folders_(makeOffer(QStringLiteral("OfferFolders"), Texts::tr("&Catalogue folders of your own"),
                          *menus.AddLocal)),
-      listings_(makeOffer(QStringLiteral("OfferListings"), QStringLiteral("Search &listings that you have"),
+      listings_(makeOffer(QStringLiteral("OfferListings"), Texts::tr("Search &listings that you have"),
                           *menus.EditOffline)) {
   list_.viewport()->installEventFilter(this);
   connect(list_.model(), &QAbstractItemModel::rowsInserted, this, &SearchFormSources::showOffers);
   connect(list_.model(), &QAbstractItemModel::modelReset, this, &SearchFormSources::showOffers);
   auto* drops = new SourceDrops(window, [this](const DroppedSources& dropped) {
-    reportFaults(messages_, QStringLiteral("adding what was dropped"), [&] { take(dropped); });
+    reportFaults(messages_, Texts::tr("adding what was dropped"), [&] { take(dropped); });
   });
   drops->watch(*controls.SearchStr);
   drops->watch(*controls.DesMatch);
 }
 
 QCommandLinkButton* SearchFormSources::makeOffer(const QString& name, const QString& caption, QAction& item) {
-  const QString menuItem = QStringLiteral("File, ") + QString(item.text()).remove(u'&');
+  const QString menuItem = Texts::tr("File, %1").arg(plainCaption(item.text()));
   auto* offer = new QCommandLinkButton(caption, menuItem, list_.viewport());
   offer->setObjectName(name);
-  offer->setAccessibleName(QString(caption).remove(u'&'));
+  offer->setAccessibleName(plainCaption(caption));
   offer->setAccessibleDescription(menuItem);
   // Enter, too.
   offer->setAutoDefault(true);
@@ -109,7 +123,7 @@ std::optional<QString> SearchFormSources::listedFolderInSources(const QString& f
 QString SearchFormSources::listedFolderOf(const QString& path) {
   const QString real = QDir(path).canonicalPath();
   if (real.isEmpty() || !QDir(real).isReadable()) {
-    messages_.inform(path + QStringLiteral(" is no folder that can be read."));
+    messages_.inform(Texts::tr("%1 is no folder that can be read.").arg(path));
     return {};
   }
   const QString given = withTrailingSeparator(QDir::cleanPath(path), nativePathStyle());
@@ -117,9 +131,10 @@ QString SearchFormSources::listedFolderOf(const QString& path) {
   for (const QString& way : {given, folder}) {
     if (const auto listed = listedFolderInSources(way)) return *listed;
   }
-  const QString question = folder + QStringLiteral(
-                                        " is not catalogued yet.\r\n\r\n"
-                                        "Add it to the local search folders, and rescan them?");
+  const QString question = Texts::tr(
+                               "%1 is not catalogued yet.\r\n\r\n"
+                               "Add it to the local search folders, and rescan them?")
+                               .arg(folder);
   if (!messages_.askYesNo(question)) return {};
   QString told;
   if (takeFolders({folder}, told) == 0) {
@@ -137,11 +152,11 @@ void SearchFormSources::take(const DroppedSources& dropped) {
   const int listings = takeListings(dropped.files, told);
   if (folders + listings > 0) changed_();
   QString added;
-  if (folders > 0) join(added, counted(folders, "folder was added.", "folders were added."));
-  if (listings > 0) join(added, counted(listings, "listing was added.", "listings were added."));
+  if (folders > 0) join(added, foldersAdded(folders));
+  if (listings > 0) join(added, listingsAdded(listings));
   join(added, told);
   if (folders == 0) return messages_.inform(added);
-  const QString question = added + QStringLiteral("\r\n\r\nRescan Local Search Locations?");
+  const QString question = added + QStringLiteral("\r\n\r\n") + Texts::tr("Rescan Local Search Locations?");
   if (messages_.askYesNo(question)) rescan_();
 }
 

@@ -1,6 +1,7 @@
 #include "app/search_form_status.h"
 
 #include "app/status_texts.h"
+#include "texts/texts.h"
 
 #include <QStatusBar>
 
@@ -10,7 +11,7 @@ SearchFormStatus::SearchFormStatus(QMainWindow& window, const QLocale& locale)
     : locale_(locale), label_(new MiddleElidedLabel) {
   QStatusBar* bar = window.statusBar();
   bar->setObjectName(QStringLiteral("StatusLine"));
-  bar->setAccessibleName(QStringLiteral("Status"));
+  bar->setAccessibleName(Texts::tr("Status"));
   bar->setSizeGripEnabled(false);
   label_->setObjectName(QStringLiteral("StatusText"));
   label_->setTextFormat(Qt::PlainText);

@@ -1,6 +1,7 @@
 #include "app/search_form_text.h"
 
 #include "state/search_history.h"
+#include "texts/texts.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -24,8 +25,8 @@ constexpr int kMostEdits = 1000;
 SearchTextEdit::SearchTextEdit(QWidget* parent)
     : QLineEdit(parent), button_(new QToolButton(this)), menu_(new QMenu(this)) {
   button_->setObjectName(QStringLiteral("SearchHistoryButton"));
-  button_->setAccessibleName(QStringLiteral("Earlier searches"));
-  button_->setToolTip(QStringLiteral("Earlier searches (Down)"));
+  button_->setAccessibleName(Texts::tr("Earlier searches"));
+  button_->setToolTip(Texts::tr("Earlier searches (Down)"));
   button_->setArrowType(Qt::DownArrow);
   button_->setAutoRaise(true);
   button_->setCursor(Qt::ArrowCursor);
@@ -33,7 +34,7 @@ SearchTextEdit::SearchTextEdit(QWidget* parent)
   button_->setFocusPolicy(Qt::NoFocus);
   button_->hide();
   menu_->setObjectName(QStringLiteral("SearchHistory"));
-  menu_->setAccessibleName(QStringLiteral("Earlier searches"));
+  menu_->setAccessibleName(Texts::tr("Earlier searches"));
   connect(button_, &QToolButton::clicked, this, &SearchTextEdit::showHistory);
   connect(this, &QLineEdit::textEdited, this, &SearchTextEdit::forgetOldEdits);
   connect(this, &QLineEdit::textChanged, this, &SearchTextEdit::describeCompletion);
@@ -61,7 +62,7 @@ QString SearchTextEdit::completion() const {
 
 void SearchTextEdit::describeCompletion() {
   const QString rest = completion();
-  setAccessibleDescription(rest.isEmpty() ? QString() : QStringLiteral("Right adds \"%1\"").arg(rest));
+  setAccessibleDescription(rest.isEmpty() ? QString() : Texts::tr("Right adds \"%1\"").arg(rest));
 }
 
 void SearchTextEdit::forgetOldEdits() {

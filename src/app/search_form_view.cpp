@@ -3,6 +3,7 @@
 #include "app/status_texts.h"
 #include "platform/text_direction.h"
 #include "state/search_history.h"
+#include "texts/texts.h"
 
 #include <QActionGroup>
 #include <QKeySequence>
@@ -22,39 +23,48 @@ QAction* addCheckItem(QMenu* menu, const QString& name, const QString& caption,
 }
 
 /// Captions of the columns, each with a letter of its own in the View menu.
-constexpr std::array<const char16_t*, kHitColumnCount> kColumnCaptions = {u"&Match", u"&Volume", u"Fol&der",
-                                                                          u"&Name",  u"&Size",   u"D&ate"};
+struct ColumnCaption {
+  const char* name;
+  const char* text;
+};
+constexpr std::array<ColumnCaption, kHitColumnCount> kColumnCaptions = {
+    {{"Match", QT_TRANSLATE_NOOP("Texts", "&Match")},
+     {"Volume", QT_TRANSLATE_NOOP("Texts", "&Volume")},
+     {"Folder", QT_TRANSLATE_NOOP("Texts", "Fol&der")},
+     {"Name", QT_TRANSLATE_NOOP("Texts", "&Name")},
+     {"Size", QT_TRANSLATE_NOOP("Texts", "&Size")},
+     {"Date", QT_TRANSLATE_NOOP("Texts", "D&ate")}}};
 
-QString sortCaption(const QString& column) {
-  return QStringLiteral("Sort by ") + column;
+QString sortCaption(std::size_t column) {
+  return Texts::tr("Sort by %1").arg(Texts::tr(kColumnCaptions[column].text));
 }
 
 }  // namespace
 
 void addViewItems(SearchFormMenus& made) {
-  made.FilterHits = addCheckItem(made.ViewMenu, QStringLiteral("FilterHits"), QStringLiteral("&Filter Hits"),
+  made.FilterHits = addCheckItem(made.ViewMenu, QStringLiteral("FilterHits"), Texts::tr("&Filter Hits"),
                                  QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
   made.ViewMenu->addSeparator();
-  made.FoundOrder = addCheckItem(made.ViewMenu, QStringLiteral("FoundOrder"), QStringLiteral("F&ound Order"),
+  made.FoundOrder = addCheckItem(made.ViewMenu, QStringLiteral("FoundOrder"), Texts::tr("F&ound Order"),
                                  QKeySequence(Qt::CTRL | Qt::Key_0));
   auto* orders = new QActionGroup(made.ViewMenu);
   orders->addAction(made.FoundOrder);
-  made.ColumnsMenu = new QMenu(QStringLiteral("&Columns"), made.ViewMenu);
+  made.ColumnsMenu = new QMenu(Texts::tr("&Columns"), made.ViewMenu);
   for (std::size_t column = 0; column < kColumnCaptions.size(); ++column) {
-    const QString caption = QString::fromUtf16(kColumnCaptions[column]);
-    const QString name = QString(caption).remove(u'&');
-    made.SortBy[column] = addCheckItem(made.ViewMenu, QStringLiteral("SortBy") + name, sortCaption(caption),
+    const QString name = QString::fromLatin1(kColumnCaptions[column].name);
+    made.SortBy[column] = addCheckItem(made.ViewMenu, QStringLiteral("SortBy") + name, sortCaption(column),
                                        QKeySequence(Qt::CTRL | (Qt::Key_1 + static_cast<int>(column))));
     orders->addAction(made.SortBy[column]);
-    made.ShowColumn[column] = addCheckItem(made.ColumnsMenu, QStringLiteral("Show") + name, caption);
+    made.ShowColumn[column] = addCheckItem(made.ColumnsMenu, QStringLiteral("Show") + name,
+                                           Texts::tr(kColumnCaptions[column].text));
   }
   made.ViewMenu->addSeparator();
   made.ViewMenu->addMenu(made.ColumnsMenu);
   made.ColumnsMenu->setObjectName(QStringLiteral("ColumnsMenu"));
-  made.ColumnsMenu->setAccessibleName(QStringLiteral("Columns"));
+  made.ColumnsMenu->setAccessibleName(Texts::tr("Columns"));
   made.ColumnsMenu->menuAction()->setObjectName(QStringLiteral("ColumnsMenu"));
   made.ColumnsMenu->addSeparator();
-  made.ResetColumns = made.ColumnsMenu->addAction(QStringLiteral("&Reset Columns"));
+  made.ResetColumns = made.ColumnsMenu->addAction(Texts::tr("&Reset Columns"));
   made.ResetColumns->setObjectName(QStringLiteral("ResetColumns"));
 }
 
@@ -168,9 +178,8 @@ void SearchFormView::showOrder() {
   menus_.FoundOrder->setChecked(!order.column);
   for (std::size_t column = 0; column < menus_.SortBy.size(); ++column) {
     const bool isPresent = order.column == static_cast<HitColumn>(column);
-    const QString direction =
-        order.isDescending ? QStringLiteral("%1 (descending)") : QStringLiteral("%1 (ascending)");
-    const QString caption = sortCaption(QString::fromUtf16(kColumnCaptions[column]));
+    const QString direction = order.isDescending ? Texts::tr("%1 (descending)") : Texts::tr("%1 (ascending)");
+    const QString caption = sortCaption(column);
     menus_.SortBy[column]->setChecked(isPresent);
     menus_.SortBy[column]->setText(isPresent ? direction.arg(caption) : caption);
   }

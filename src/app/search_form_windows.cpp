@@ -5,6 +5,7 @@
 #include "help/help_files.h"
 #include "platform/standard_folders.h"
 #include "search/entry_count.h"
+#include "texts/texts.h"
 
 #include <QScopeGuard>
 #include <QSysInfo>
@@ -29,7 +30,7 @@ ProductFacts productFacts() {
           version.minorNumber,
           version.revision,
           applicationDescription(),
-          QSysInfo::prettyProductName() + QStringLiteral(", with Qt ") + QString::fromLatin1(qVersion())};
+          Texts::tr("%1, with Qt %2").arg(QSysInfo::prettyProductName(), QString::fromLatin1(qVersion()))};
 }
 
 /// So many that drives which do not answer leave some for the others.
@@ -37,7 +38,7 @@ constexpr int kLookers = 8;
 
 PreviewFaultReport previewReport(MessageBoxes& messages) {
   return [&messages](const QString& path, const RuntimeFault& fault) {
-    messages.inform(faultReport(fault, QStringLiteral("loading the picture %1").arg(path)));
+    messages.inform(faultReport(fault, Texts::tr("loading the picture %1").arg(path)));
   };
 }
 

@@ -9,6 +9,7 @@
 #include "platform/one_window.h"
 #include "platform/standard_folders.h"
 #include "preview/res_win.h"
+#include "texts/texts.h"
 #include "update/web_update.h"
 
 #include <QApplication>
@@ -67,10 +68,9 @@ void SearchFormWork::startRefresh() {
 /// A request that is left over is not taken back by a rescan, which would make short listings with it.
 bool SearchFormWork::isMeantToRun(const Job& job) {
   if (!job.isAbortRequested() || job.isClosing()) return true;
-  if (!messages_.askYesNo(
-          QStringLiteral("The request to stop an earlier rescan is still in force. With it, most "
-                         "folders would be left out of the listings.\r\n\r\nForget the "
-                         "request, and rescan everything?"))) {
+  if (!messages_.askYesNo(Texts::tr("The request to stop an earlier rescan is still in force. With it, most "
+                                    "folders would be left out of the listings.\r\n\r\nForget the "
+                                    "request, and rescan everything?"))) {
     return false;
   }
   job.dropStopRequest();
@@ -83,7 +83,7 @@ void SearchFormWork::refresh(Job& job) {
   menus_.ReScan->setEnabled(false);
   progress_->setBusyPointer(true);
   const auto start = std::chrono::steady_clock::now();
-  reportFaults(messages_, QStringLiteral("refreshing the local lists"),
+  reportFaults(messages_, Texts::tr("refreshing the local lists"),
                [&] { outcome = refreshLocalLists(state_, job, messages_, locale_, versionCaption()); });
   job.end();
   progress_->setBusyPointer(false);
@@ -107,7 +107,7 @@ void SearchFormWork::restore(Job& job, const QString& listing, int number) {
   try {
     ListingHistory(state_.LocalFolder, [&job] { job.letEventsRun(); }).restore(listing, number);
   } catch (const std::exception& fault) {
-    messages_.inform(faultReport(fault, QStringLiteral("restoring the listing %1").arg(listing)));
+    messages_.inform(faultReport(fault, Texts::tr("restoring the listing %1").arg(listing)));
   }
   progress_->setBusyPointer(false);
   // There is no next source to end before.
@@ -138,22 +138,21 @@ void SearchFormWork::showOutcome(const RefreshOutcome& outcome) {
 void SearchFormWork::WebUpdate_Click() {
   startOrTell(JobKind::Update, [this](Job& job) {
     const auto enable = [this](bool enabled) { controls_.WebUpdate->setEnabled(enabled); };
-    reportFaults(messages_, QStringLiteral("updating from the web"), [&] {
+    reportFaults(messages_, Texts::tr("updating from the web"), [&] {
       WebUpdate(state_, job, messages_, web_, locale_, enable, ownPlaces()).WebUpdate_Click();
     });
     if (controls_.WebUpdate->isEnabled()) return;
-    controls_.WebUpdate->setToolTip(QStringLiteral(
-        "The update was cancelled. It can be started again when the program is started again."));
+    controls_.WebUpdate->setToolTip(
+        Texts::tr("The update was cancelled. It can be started again when the program is started again."));
   });
 }
 
 void SearchFormWork::setWebUpdateEnabled(bool enabled) {
   controls_.WebUpdate->setEnabled(enabled);
   controls_.WebUpdate->setToolTip(
-      enabled
-          ? QString()
-          : QStringLiteral("To use the web update, fill in the web server and the archive in File, Options, "
-                           "and start the program again."));
+      enabled ? QString()
+              : Texts::tr("To use the web update, fill in the web server and the archive in File, Options, "
+                          "and start the program again."));
 }
 
 void SearchFormWork::extractDataFile(const QString& archivePath, const QString& targetFolder) {
@@ -206,8 +205,8 @@ void SearchFormWork::ShareLists_Click(bool share) {
 void SearchFormWork::GetLists_Click() {
   bool confirmed = false;
   const QString peer =
-      QInputDialog::getText(&owner_, QStringLiteral("Get Lists From Peer"),
-                            QStringLiteral("&Peer (host or host:port):"), QLineEdit::Normal, {}, &confirmed);
+      QInputDialog::getText(&owner_, Texts::tr("Get Lists From Peer"),
+                            Texts::tr("&Peer (host or host:port):"), QLineEdit::Normal, {}, &confirmed);
   if (confirmed && !peer.trimmed().isEmpty()) peers_.getLists(peer);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/fault_report.h"
 #include "state/source_list_file.h"
+#include "texts/texts.h"
 
 #include <QScopeGuard>
 
@@ -40,16 +41,16 @@ bool Shutdown::saveWhatCanBeSaved() {
     reportFaults(boxes_, doing, [&] { isThisSaved = saveIt(); });
     isSaved = isSaved && isThisSaved;
   };
-  tryTo(QStringLiteral("saving the settings"), [this] {
+  tryTo(Texts::tr("saving the settings"), [this] {
     writeSettings(store_, state_, locale_);
     return true;
   });
-  tryTo(QStringLiteral("saving the window's place"), [this] {
+  tryTo(Texts::tr("saving the window's place"), [this] {
     saveWindowPlace();
     return true;
   });
-  tryTo(QStringLiteral("saving the online sources"), [this] { return saveOnlineSources(state_, boxes_); });
-  tryTo(QStringLiteral("saving the offline sources"), [this] { return saveOfflineSources(state_, boxes_); });
+  tryTo(Texts::tr("saving the online sources"), [this] { return saveOnlineSources(state_, boxes_); });
+  tryTo(Texts::tr("saving the offline sources"), [this] { return saveOfflineSources(state_, boxes_); });
   return isSaved;
 }
 

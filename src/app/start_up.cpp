@@ -7,6 +7,7 @@
 #include "index/dir_io.h"
 #include "state/settings.h"
 #include "state/source_list_file.h"
+#include "texts/texts.h"
 
 #include <QStringList>
 
@@ -34,8 +35,7 @@ void StartUp::Form_Load(const StartUpConditions& conditions) {
   try {
     runSteps(conditions);
   } catch (const RuntimeFault& fault) {
-    boxes_.inform(QStringLiteral("Statup error: ") + QString::number(fault.number()) + u' ' +
-                  fault.description());
+    boxes_.inform(Texts::tr("Statup error: %1 %2").arg(QString::number(fault.number()), fault.description()));
   }
   noteSettingsAtStart(store_, state_, conditions.locale, [&] { return programFolderOf(conditions); });
 }
@@ -71,7 +71,7 @@ void StartUp::takeCommandLine(const QString& commandLine, PathStyle style) {
   state_.TextFile = commandLine;
   if (!ordinaryFileExists(commandLine)) {
     state_.missingListing = commandLine;
-    boxes_.inform(QString::fromUtf16(kListingNotFound));
+    boxes_.inform(Texts::tr(kListingNotFound));
     return;
   }
   view_.showListingName(commandLine);

@@ -16,8 +16,8 @@
 namespace quorvin {
 
 /// The message for a file on the command line that is not there.
-inline constexpr char16_t kListingNotFound[] =
-    u"Could not find file specified on command line. Using default file.";
+inline constexpr char kListingNotFound[] =
+    QT_TRANSLATE_NOOP("Texts", "Could not find file specified on command line. Using default file.");
 
 /// What start-up does with the main window. It is the edge to the window system: start-up has to hold without
 /// a screen, too, where it is killed and started again by the thousand.

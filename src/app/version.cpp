@@ -1,5 +1,7 @@
 #include "app/version.h"
 
+#include "texts/texts.h"
+
 #include <QFileInfo>
 
 namespace quorvin {
@@ -18,7 +20,7 @@ QString versionCaption() {
 
 QString versionText() {
   const ProgramVersion version = programVersion();
-  return QStringLiteral("Version %1.%2.%3")
+  return Texts::tr("Version %1.%2.%3")
       .arg(version.majorNumber)
       .arg(version.minorNumber)
       .arg(version.revision);
@@ -33,7 +35,7 @@ QString windowTitle(const QString& path) {
 }
 
 QString applicationDescription() {
-  return QStringLiteral(QUORVIN_DESCRIPTION);
+  return Texts::tr("Text file / folder list searching utility");
 }
 
 }  // namespace quorvin

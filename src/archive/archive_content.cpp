@@ -1,6 +1,7 @@
 #include "archive/archive_reader.h"
 #include "faults/runtime_fault.h"
 #include "files/file_reader.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <array>
@@ -34,24 +35,24 @@ struct ArchiveContent::Inflating {
 ArchiveContent::ArchiveContent(const ArchiveReader& archive, const ArchiveEntry& entry)
     : file_(*archive.file_), entry_(entry) {
   if (entry.isDeflated) inflating_ = std::make_unique<Inflating>();
-  if (inflating_ && !inflating_->isReady) fail(u"its content cannot be unpacked");
+  if (inflating_ && !inflating_->isReady) fail(QT_TRANSLATE_NOOP("Texts", "its content cannot be unpacked"));
 }
 
 ArchiveContent::~ArchiveContent() = default;
 
-void ArchiveContent::fail(const char16_t* what) const {
-  throw ArchiveError(ArchiveErrorCode::DamagedEntry,
-                     QStringLiteral("\"%1\" in the archive is damaged: %2.")
-                         .arg(shownEntryName(entry_.name), QString::fromUtf16(what)));
+void ArchiveContent::fail(const char* what) const {
+  throw ArchiveError(
+      ArchiveErrorCode::DamagedEntry,
+      Texts::tr("\"%1\" in the archive is damaged: %2.").arg(shownEntryName(entry_.name), Texts::tr(what)));
 }
 
 std::size_t ArchiveContent::read(std::span<char> buffer) {
   const std::size_t count = inflating_ ? readInflated(buffer) : readPacked(buffer);
   count_ += count;
   checksum_ = addToChecksum(checksum_, buffer.first(count));
-  if (count_ > entry_.size) fail(u"it is longer than it should be");
-  if (count == 0 && count_ < entry_.size) fail(u"it is shorter than it should be");
-  if (count == 0 && checksum_ != entry_.checksum) fail(u"its checksum is wrong");
+  if (count_ > entry_.size) fail(QT_TRANSLATE_NOOP("Texts", "it is longer than it should be"));
+  if (count == 0 && count_ < entry_.size) fail(QT_TRANSLATE_NOOP("Texts", "it is shorter than it should be"));
+  if (count == 0 && checksum_ != entry_.checksum) fail(QT_TRANSLATE_NOOP("Texts", "its checksum is wrong"));
   return count;
 }
 
@@ -62,7 +63,7 @@ std::size_t ArchiveContent::readPacked(std::span<char> buffer) {
     file_.read(entry_.place + static_cast<std::int64_t>(packedCount_),
                std::as_writable_bytes(buffer.first(count)));
   } catch (const RuntimeFault&) {
-    fail(u"it cannot be read");
+    fail(QT_TRANSLATE_NOOP("Texts", "it cannot be read"));
   }
   packedCount_ += count;
   return count;
@@ -79,7 +80,7 @@ std::size_t ArchiveContent::readInflated(std::span<char> buffer) {
     }
     const int status = inflate(&it.stream, Z_NO_FLUSH);
     it.isAtEnd = status == Z_STREAM_END;
-    if (status != Z_OK && !it.isAtEnd) fail(u"its content cannot be unpacked");
+    if (status != Z_OK && !it.isAtEnd) fail(QT_TRANSLATE_NOOP("Texts", "its content cannot be unpacked"));
   }
   return buffer.size() - it.stream.avail_out;
 }

@@ -1,5 +1,7 @@
 #include "archive/archive_plan.h"
 
+#include "texts/texts.h"
+
 #include <QFile>
 #include <QHash>
 #include <QLocale>
@@ -25,7 +27,7 @@ constexpr qsizetype kMostNameBytes = 255;
 constexpr std::uint64_t kBytesAroundEntry = 30 + 46;
 
 [[noreturn]] void refuse(ArchiveErrorCode code, const QString& text) {
-  throw ArchiveError(code, text + QStringLiteral(" Nothing was unpacked."));
+  throw ArchiveError(code, text + u' ' + Texts::tr("Nothing was unpacked."));
 }
 
 [[noreturn]] void refuseEntry(ArchiveErrorCode code, const QString& text, const QString& name) {
@@ -49,21 +51,21 @@ bool hasDrive(QStringView name) {
 
 [[noreturn]] void refuseName(const QString& name, const QString& why) {
   refuse(ArchiveErrorCode::BadName,
-         QStringLiteral("The archive has an entry whose name %1: \"%2\".").arg(why, shownEntryName(name)));
+         Texts::tr("The archive has an entry whose name %1: \"%2\".").arg(why, shownEntryName(name)));
 }
 
 void checkWhole(const QString& name, QStringView separated) {
-  if (name.isEmpty()) refuseName(name, QStringLiteral("is empty"));
+  if (name.isEmpty()) refuseName(name, Texts::tr("is empty"));
   if (std::any_of(name.begin(), name.end(), isControl)) {
-    refuseName(name, QStringLiteral("holds control characters"));
+    refuseName(name, Texts::tr("holds control characters"));
   }
-  if (separated.startsWith(u'/')) refuseName(name, QStringLiteral("is an absolute path"));
+  if (separated.startsWith(u'/')) refuseName(name, Texts::tr("is an absolute path"));
 }
 
 void checkPart(const QString& name, const QString& part) {
-  if (part == QStringLiteral("..")) refuseName(name, QStringLiteral("leads out of the folder"));
-  if (hasDrive(part)) refuseName(name, QStringLiteral("has a drive"));
-  if (QFile::encodeName(part).size() > kMostNameBytes) refuseName(name, QStringLiteral("is too long"));
+  if (part == QStringLiteral("..")) refuseName(name, Texts::tr("leads out of the folder"));
+  if (hasDrive(part)) refuseName(name, Texts::tr("has a drive"));
+  if (QFile::encodeName(part).size() > kMostNameBytes) refuseName(name, Texts::tr("is too long"));
 }
 
 // The place that the entry name `name` stands for. Both "/" and "\" separate names, since programs differ;
@@ -82,7 +84,7 @@ ArchivePlace archivePlaceOf(const QString& name) {
   }
   if (place.path.size() > kMostArchiveFolders + 1) {
     refuse(ArchiveErrorCode::TooDeep,
-           QStringLiteral("The archive has an entry that is more than %1 folders deep: \"%2\".")
+           Texts::tr("The archive has an entry that is more than %1 folders deep: \"%2\".")
                .arg(kMostArchiveFolders)
                .arg(shownEntryName(name)));
   }
@@ -92,27 +94,26 @@ ArchivePlace archivePlaceOf(const QString& name) {
 void checkKind(const ArchiveEntry& entry, ArchivePlace& place) {
   const std::uint32_t type = entry.mode & kTypeBits;
   if (type == kLink) {
-    refuseEntry(ArchiveErrorCode::NotAFile, QStringLiteral("The archive holds a link: \"%1\"."), entry.name);
+    refuseEntry(ArchiveErrorCode::NotAFile, Texts::tr("The archive holds a link: \"%1\"."), entry.name);
   }
   if (type != 0 && type != kRegularFile && type != kPipe && type != kFolder) {
-    refuseEntry(ArchiveErrorCode::NotAFile, QStringLiteral("The archive holds a device or a socket: \"%1\"."),
+    refuseEntry(ArchiveErrorCode::NotAFile, Texts::tr("The archive holds a device or a socket: \"%1\"."),
                 entry.name);
   }
   place.isFolder = place.isFolder || type == kFolder;
   if (place.isFolder && entry.size > 0) {
-    refuseEntry(ArchiveErrorCode::NotAFile,
-                QStringLiteral("The archive holds a folder with content: \"%1\"."), entry.name);
+    refuseEntry(ArchiveErrorCode::NotAFile, Texts::tr("The archive holds a folder with content: \"%1\"."),
+                entry.name);
   }
 }
 
 void checkPacking(const ArchiveEntry& entry) {
   if (entry.isEncrypted) {
-    refuseEntry(ArchiveErrorCode::Encrypted, QStringLiteral("\"%1\" in the archive is encrypted."),
-                entry.name);
+    refuseEntry(ArchiveErrorCode::Encrypted, Texts::tr("\"%1\" in the archive is encrypted."), entry.name);
   }
   if (!entry.hasKnownMethod) {
     refuseEntry(ArchiveErrorCode::UnknownMethod,
-                QStringLiteral("\"%1\" in the archive is packed in a way that this program does not know."),
+                Texts::tr("\"%1\" in the archive is packed in a way that this program does not know."),
                 entry.name);
   }
 }
@@ -159,11 +160,11 @@ class TakenPlaces {
     part = before.key().part;
     if (before->isFolder != use.isFolder) {
       refuseEntry(ArchiveErrorCode::DuplicateName,
-                  QStringLiteral("In the archive a file and a folder have the same name: \"%1\"."), name);
+                  Texts::tr("In the archive a file and a folder have the same name: \"%1\"."), name);
     }
     if (before->isNamed && use.isNamed) {
       refuseEntry(ArchiveErrorCode::DuplicateName,
-                  QStringLiteral("The archive holds two entries of the same name: \"%1\"."), name);
+                  Texts::tr("The archive holds two entries of the same name: \"%1\"."), name);
     }
     before->isNamed = before->isNamed || use.isNamed;
     return before->number;
@@ -173,7 +174,7 @@ class TakenPlaces {
     use.number = static_cast<quint64>(uses_.size()) + 1;
     if (use.number > most_) {
       refuse(ArchiveErrorCode::TooManyEntries,
-             QStringLiteral("The archive holds more than %1 files and folders.").arg(most_));
+             Texts::tr("The archive holds more than %1 files and folders.").arg(most_));
     }
     uses_.insert({folder, part}, use);
     return use.number;
@@ -192,7 +193,7 @@ class Totals {
   void add(const ArchiveEntry& entry) {
     if (entry.size > limits_.bytes - unpacked_) {
       refuse(ArchiveErrorCode::TooLarge,
-             QStringLiteral("The archive would unpack to more than %1.")
+             Texts::tr("The archive would unpack to more than %1.")
                  .arg(QLocale::c().formattedDataSize(static_cast<qint64>(limits_.bytes), 1)));
     }
     unpacked_ += entry.size;
@@ -204,7 +205,7 @@ class Totals {
  private:
   [[noreturn]] static void overlap() {
     refuse(ArchiveErrorCode::Overlapping,
-           QStringLiteral("The entries of the archive overlap; it was made to do harm."));
+           Texts::tr("The entries of the archive overlap; it was made to do harm."));
   }
 
   std::uint64_t archiveLength_;
@@ -223,7 +224,7 @@ ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits,
   const std::uint64_t count = archive.entryCount();
   if (count > limits.entries) {
     refuse(ArchiveErrorCode::TooManyEntries,
-           QStringLiteral("The archive holds more than %1 entries.").arg(limits.entries));
+           Texts::tr("The archive holds more than %1 entries.").arg(limits.entries));
   }
   for (std::uint64_t index = 0; index < count; ++index) {
     const ArchiveEntry entry = archive.entry(index);
@@ -233,7 +234,7 @@ ArchivePlan planOf(const ArchiveReader& archive, const ArchiveLimits& limits,
     totals.add(entry);
     taken.take(place, entry.name);
     if (place.path.isEmpty() && !place.isFolder) {
-      refuseEntry(ArchiveErrorCode::BadName, QStringLiteral("The archive has a file without a name: \"%1\"."),
+      refuseEntry(ArchiveErrorCode::BadName, Texts::tr("The archive has a file without a name: \"%1\"."),
                   entry.name);
     }
     if (isProtected && !place.isFolder && isProtected(place.path)) {

@@ -4,6 +4,7 @@
 #include "archive/zip_record.h"
 #include "faults/runtime_fault.h"
 #include "files/file_reader.h"
+#include "texts/texts.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -51,7 +52,7 @@ struct Refusal {
 
 [[noreturn]] void contradicts() {
   throw Refusal{ArchiveErrorCode::Contradictory,
-                QStringLiteral("The archive \"%1\" is damaged: its parts contradict each other.")};
+                Texts::tr("The archive \"%1\" is damaged: its parts contradict each other.")};
 }
 
 std::uint32_t addToChecksum(std::uint32_t checksum, QByteArrayView bytes) {
@@ -154,7 +155,7 @@ class DirectoryReading {
       Described described = next();
       if (names_.contains(described.name)) {
         throw Refusal{ArchiveErrorCode::DuplicateName,
-                      QStringLiteral("The archive \"%1\" holds two entries of the same name.")};
+                      Texts::tr("The archive \"%1\" holds two entries of the same name.")};
       }
       names_.insert(described.name);
       checkHeader(described);
@@ -242,16 +243,16 @@ std::vector<ArchiveEntry> entriesIn(const RandomAccessFile& file, std::int64_t l
   const std::optional<EndRecord> end = endRecordOf(file, length);
   if (!end) {
     throw Refusal{ArchiveErrorCode::NotAnArchive,
-                  QStringLiteral("\"%1\" is no zip archive, or its end is missing.")};
+                  Texts::tr("\"%1\" is no zip archive, or its end is missing.")};
   }
   if (end->entries > mostEntries) {
-    throw Refusal{ArchiveErrorCode::TooManyEntries, QStringLiteral("The archive \"%1\" holds more than ") +
-                                                        QString::number(mostEntries) +
-                                                        QStringLiteral(" entries.")};
+    throw Refusal{ArchiveErrorCode::TooManyEntries,
+                  Texts::tr("The archive \"%1\" holds more than %2 entries.")
+                      .replace(QStringLiteral("%2"), QString::number(mostEntries))};
   }
   if (end->isOfSeveralFiles) {
     throw Refusal{ArchiveErrorCode::NotAnArchive,
-                  QStringLiteral("\"%1\" is only a part of an archive of several files.")};
+                  Texts::tr("\"%1\" is only a part of an archive of several files.")};
   }
   try {
     return DirectoryReading(file, *end, pause).entries();
@@ -300,12 +301,12 @@ std::vector<ArchiveEntry> entriesOf(const RandomAccessFile& file, std::int64_t& 
 }
 
 ArchiveError openingError(const QString& path, const Refusal& refusal) {
-  return {refusal.code, refusal.text.arg(shownEntryName(QFileInfo(path).fileName())) +
-                            QStringLiteral(" Nothing was unpacked.")};
+  return {refusal.code, refusal.text.arg(shownEntryName(QFileInfo(path).fileName())) + u' ' +
+                            Texts::tr("Nothing was unpacked.")};
 }
 
 Refusal cannotBeRead() {
-  return {ArchiveErrorCode::CannotRead, QStringLiteral("The archive \"%1\" cannot be read.")};
+  return {ArchiveErrorCode::CannotRead, Texts::tr("The archive \"%1\" cannot be read.")};
 }
 
 }  // namespace

@@ -121,7 +121,7 @@ class ArchiveContent {
 
   std::size_t readPacked(std::span<char> buffer);
   std::size_t readInflated(std::span<char> buffer);
-  [[noreturn]] void fail(const char16_t* what) const;
+  [[noreturn]] void fail(const char* what) const;
 
   const RandomAccessFile& file_;
   ArchiveEntry entry_;

@@ -1,6 +1,7 @@
 #include "archive/archive_unpacking.h"
 
 #include "files/folder_writer.h"
+#include "texts/texts.h"
 
 #include <span>
 #include <string_view>
@@ -76,9 +77,12 @@ class Unpacking {
 };
 
 QString afterFailure(int filesInPlace) {
-  if (filesInPlace == 0) return QStringLiteral(" Nothing was unpacked.");
-  if (filesInPlace == 1) return QStringLiteral(" One file before it was unpacked, nothing else was changed.");
-  return QStringLiteral(" The %1 files before it were unpacked, nothing else was changed.").arg(filesInPlace);
+  if (filesInPlace == 0) return u' ' + Texts::tr("Nothing was unpacked.");
+  if (filesInPlace == 1)
+    return u' ' + Texts::tr("One file before it was unpacked, nothing else was changed.");
+  return u' ' +
+         Texts::tr("The %1 files before it were unpacked, nothing else was changed.", nullptr, filesInPlace)
+             .arg(filesInPlace);
 }
 
 UnpackingOutcome unpackEntries(const ArchiveReader& archive, const ArchivePlan& plan,

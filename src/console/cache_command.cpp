@@ -6,6 +6,7 @@
 #include "files/file_lookup.h"
 #include "platform/standard_folders.h"
 #include "search/segment/segment_store.h"
+#include "texts/texts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -73,7 +74,7 @@ int listCache(const CacheRequest& request) {
     std::fwrite(row.data(), 1, row.size(), stdout);
   }
   if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return 0;
-  printError(QStringLiteral("the list could not be written to standard output"));
+  printError(Texts::tr("the list could not be written to standard output"));
   return 2;
 }
 
@@ -81,7 +82,7 @@ int clearCache(const CacheRequest& request) {
   int status = 0;
   for (const CacheFile& file : cacheFiles(request)) {
     if (QFile::remove(file.path)) continue;
-    printError(file.path + QStringLiteral(" could not be removed"));
+    printError(Texts::tr("%1 could not be removed").arg(file.path));
     status = 2;
   }
   return status;

@@ -1,5 +1,6 @@
 // What quorvin-cli says of its commands. The help, the manual page and the shells' completions are all made
-// of this, and so is what the command line takes: an option that is not described here does not exist.
+// of this, and so is what the command line takes: an option that is not described here does not exist. What
+// is to be read is in English here; said() gives it in the language that is spoken.
 #pragma once
 
 #include <string>
@@ -14,7 +15,7 @@ struct OptionText {
   /// What its value is called; empty for a switch.
   std::string_view value;
   /// So short that help has it in one line.
-  std::string_view text;
+  const char* text;
   /// The values that there are, with blanks between; empty for others.
   std::string_view choices = {};
 };
@@ -24,7 +25,7 @@ enum class ArgumentKind { None, Files, Folders, OwnFolders };
 
 struct ExampleText {
   std::string_view line;
-  std::string_view text;
+  const char* text;
 };
 
 struct CommandText {
@@ -34,12 +35,15 @@ struct CommandText {
   std::string_view arguments;
   ArgumentKind argumentKind;
   /// One sentence without its full stop, for the list of commands.
-  std::string_view summary;
+  const char* summary;
   std::vector<OptionText> options;
   std::vector<ExampleText> examples;
   /// Paragraphs for the manual page.
-  std::vector<std::string_view> details;
+  std::vector<const char*> details;
 };
+
+/// A text of these in the language that is spoken, as UTF-8.
+std::string said(const char* text);
 
 /// All commands, in the order in which they are shown.
 const std::vector<CommandText>& commandTexts();
@@ -52,11 +56,11 @@ const CommandText& commandText(std::string_view name);
 
 /// Further paragraphs of the manual page, in its own order.
 struct SectionText {
-  std::string_view title;
+  const char* title;
   struct Item {
     /// Empty for a plain paragraph.
     std::string_view term;
-    std::string_view text;
+    const char* text;
   };
   std::vector<Item> items;
 };

@@ -160,7 +160,7 @@ std::string zshOption(const OptionText& option) {
   }
   std::string options;
   for (const std::string_view name : names) {
-    options += " \\\n        " + inQuotes(std::string(name) + '[' + zshText(option.text) + ']' + value);
+    options += " \\\n        " + inQuotes(std::string(name) + '[' + zshText(said(option.text)) + ']' + value);
   }
   return options;
 }
@@ -184,8 +184,7 @@ std::string zshCommands(std::string_view of) {
   for (const CommandText& command : commandTexts()) {
     const bool isIn = of.empty() ? !isWithin(command) : command.name.starts_with(std::string(of) + ' ');
     if (!isIn) continue;
-    lines +=
-        " \\\n        " + inQuotes(std::string(lastWord(command.name)) + ':' + std::string(command.summary));
+    lines += " \\\n        " + inQuotes(std::string(lastWord(command.name)) + ':' + said(command.summary));
   }
   return lines;
 }
@@ -238,7 +237,7 @@ std::string fishOption(const OptionText& option, const std::string& condition) {
   }
   if (!option.value.empty()) line += option.value == "FILE" ? " -r -F" : " -x";
   if (!option.choices.empty()) line += " -a " + inQuotes(option.choices);
-  return line + " -d " + inQuotes(option.text) + '\n';
+  return line + " -d " + inQuotes(said(option.text)) + '\n';
 }
 
 /// True while this command is being typed.
@@ -278,7 +277,7 @@ std::string fishCompletion() {
     const std::string condition =
         blank == std::string_view::npos ? none : fishCondition(commandText(command.name.substr(0, blank)));
     script += "complete -c quorvin-cli" + condition + " -a " + std::string(lastWord(command.name)) + " -d " +
-              inQuotes(command.summary) + '\n';
+              inQuotes(said(command.summary)) + '\n';
   }
   for (const CommandText& command : commandTexts()) {
     for (const OptionText& option : command.options) script += fishOption(option, fishCondition(command));

@@ -12,6 +12,7 @@
 #include "search/search_run.h"
 #include "search/segment/segment_store.h"
 #include "state/settings.h"
+#include "texts/texts.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -44,18 +45,18 @@ bool hasTooManyWords(const QString& searchText) {
 
 QString complaintAboutMatch(const QString& match) {
   if (match.endsWith(u'%') && isNumber(match.chopped(1))) {
-    return QStringLiteral(
+    return Texts::tr(
         "the value of --match comes without \"%\". Hits must match more than it: --match 99 finds what has "
         "all the words");
   }
-  return QStringLiteral("the value of --match is a percentage from 1 to 100, not \"%1\"").arg(match);
+  return Texts::tr("the value of --match is a percentage from 1 to 100, not \"%1\"").arg(match);
 }
 
 /// What is wrong with the request, as a sentence; empty when nothing is.
 QString complaintAbout(const FindRequest& request) {
-  if (request.searchText.isEmpty()) return QStringLiteral("the search text is empty");
+  if (request.searchText.isEmpty()) return Texts::tr("the search text is empty");
   if (hasTooManyWords(request.searchText)) {
-    return QStringLiteral("the search text has more than %1 words").arg(kMostWords);
+    return Texts::tr("the search text has more than %1 words").arg(kMostWords);
   }
   if (!isNumber(request.desiredMatch)) return complaintAboutMatch(request.desiredMatch);
   return {};
@@ -92,7 +93,7 @@ class SearchProgress : public RunDisplay {
   void hitsArrived() override {}
   void processEvents() override {
     if (!line_.isDue()) return;
-    line_.show(QStringLiteral("%1 found, %2 searched")
+    line_.show(Texts::tr("%1 found, %2 searched")
                    .arg(locale_.toString(qlonglong{found_}), locale_.toString(qlonglong{searched_})));
   }
 
@@ -139,7 +140,7 @@ class Finding {
       if (request_.listings.empty()) {
         loadUserSources(state_, locale_, messages_);
         if (!state_.hasSources()) {
-          printError(QStringLiteral(
+          printError(Texts::tr(
               "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
               "window"));
           return 2;
@@ -194,14 +195,15 @@ class Finding {
     const std::int64_t damaged = writer_.writeRows(table_, sort.takeRows());
     if (damaged == 0) return;
     hasFailed_ = true;
-    printError(
-        QStringLiteral("%1 hits could not be read from the search cache. Please try again").arg(damaged));
+    printError(Texts::tr("%1 hits could not be read from the search cache. Please try again", nullptr,
+                         Texts::plural(damaged))
+                   .arg(damaged));
   }
 
   void finishOutput() {
     writer_.flush();
     isWritten_ = writer_.good() && std::fflush(stdout) == 0;
-    if (!isWritten_) printError(QStringLiteral("the hits could not all be written to standard output"));
+    if (!isWritten_) printError(Texts::tr("the hits could not all be written to standard output"));
   }
 
   /// The number of hits, or of those that were wanted.
@@ -212,18 +214,18 @@ class Finding {
 
   void report() {
     if (writer_.leftOut() > 0) {
-      printError(QStringLiteral("%1 hits were left out, since they are from no folder of your own or their "
-                                "files are not there")
+      printError(Texts::tr("%1 hits were left out, since they are from no folder of your own or their "
+                           "files are not there",
+                           nullptr, Texts::plural(writer_.leftOut()))
                      .arg(writer_.leftOut()));
     }
     const bool wantsMoreThanAll = leadingNumber(request_.desiredMatch) >= 100;
     if (wantsMoreThanAll) {
-      printError(QStringLiteral("nothing matches more than 100%; --match 99 finds what has all the words"));
+      printError(Texts::tr("nothing matches more than 100%; --match 99 finds what has all the words"));
     }
     explainMissing();
     if (request_.isQuiet) return;
-    std::fprintf(stderr, "%lld found, %lld searched\n", static_cast<long long>(shownHits()),
-                 static_cast<long long>(run_->searchedCount()));
+    printErrorLog(Texts::tr("%1 found, %2 searched").arg(shownHits()).arg(run_->searchedCount()));
   }
 
   /// A word that was meant to be found counts as a listing when it comes as an argument of its own.
@@ -233,7 +235,7 @@ class Finding {
       const bool isWord = !listing.contains(u'/') && !listing.contains(u'.') && !QFileInfo::exists(listing);
       if (!isWord || listing == QStringLiteral("-")) continue;
       printError(
-          QStringLiteral("words to find come in one argument: \"%1 %2\"").arg(request_.searchText, listing));
+          Texts::tr("words to find come in one argument: \"%1 %2\"").arg(request_.searchText, listing));
       return;
     }
   }

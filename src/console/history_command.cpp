@@ -7,6 +7,7 @@
 #include "history/listing_history.h"
 #include "platform/text_encoding.h"
 #include "state/settings.h"
+#include "texts/texts.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -58,16 +59,16 @@ class HistoryCommand {
     if (!request_.listing.isEmpty()) {
       const QString listing = listingNamed(request_.listing, history_, state_);
       if (listing.isEmpty()) {
-        printError(QStringLiteral("there is no earlier version of %1").arg(request_.listing));
+        printError(Texts::tr("there is no earlier version of %1").arg(request_.listing));
         return request_.restores ? 2 : 1;
       }
       if (request_.restores) return restore(listing);
       listings = {listing};
     } else if (request_.restores) {
-      printError(QStringLiteral("name the listing that is to be restored"));
+      printError(Texts::tr("name the listing that is to be restored"));
       return 2;
     }
-    FileWriter output(STDOUT_FILENO, QStringLiteral("standard output"));
+    FileWriter output(STDOUT_FILENO, Texts::tr("standard output"));
     for (const QString& listing : listings) print(output, listing);
     output.flush();
     return listings.isEmpty() ? 1 : 0;
@@ -93,7 +94,7 @@ class HistoryCommand {
     if (number == 0) {
       const std::optional<ListingVersion> newest = history_.newestComplete(listing);
       if (!newest) {
-        printError(QStringLiteral("there is no complete earlier version of %1").arg(listing));
+        printError(Texts::tr("there is no complete earlier version of %1").arg(listing));
         return 2;
       }
       number = newest->number;
@@ -101,7 +102,7 @@ class HistoryCommand {
     history_.restore(listing, number);
     const std::optional<ListingVersion> present = history_.present(listing);
     if (present) {
-      printErrorLog(QStringLiteral("%1 is version %2 again, with %3 entries")
+      printErrorLog(Texts::tr("%1 is version %2 again, with %3 entries")
                         .arg(listing, QString::number(number), QString::number(present->entries)));
     }
     return 0;

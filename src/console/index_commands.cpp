@@ -11,6 +11,7 @@
 #include "platform/stop_signal.h"
 #include "platform/text_encoding.h"
 #include "state/settings.h"
+#include "texts/texts.h"
 #include "work/work_display.h"
 
 #include <QDir>
@@ -88,7 +89,7 @@ class Indexing {
   void run() {
     checkFolder();
     if (isStandardOutput()) {
-      FileWriter writer(STDOUT_FILENO, QStringLiteral("standard output"));
+      FileWriter writer(STDOUT_FILENO, Texts::tr("standard output"));
       writeListing(writer);
       writer.flush();
     } else {
@@ -190,10 +191,9 @@ bool keepNamed(ProgramState& state, const QStringList& names) {
   for (const QString& name : names) {
     rows.push_back(rowNamed(state, name));
     if (rows.back() != 0) continue;
-    printError(
-        QStringLiteral("there is no folder of your own with the description \"%1\"; quorvin-cli sources "
-                       "shows them")
-            .arg(name));
+    printError(Texts::tr("there is no folder of your own with the description \"%1\"; quorvin-cli sources "
+                         "shows them")
+                   .arg(name));
     return false;
   }
   std::ranges::sort(rows);
@@ -215,7 +215,7 @@ bool printOutcome(const RefreshOutcome& outcome) {
   if (outcome.areChangesKnown) line.add("added", outcome.changes.added).add("gone", outcome.changes.gone);
   line.add("leftOut", outcome.leftOut).add("stopped", outcome.isStopped);
   if (std::fputs(line.text().c_str(), stdout) >= 0 && std::fflush(stdout) == 0) return true;
-  printError(QStringLiteral("the outcome could not be written to standard output"));
+  printError(Texts::tr("the outcome could not be written to standard output"));
   return false;
 }
 

@@ -3,6 +3,8 @@
 #include "console/error_lines.h"
 #include "console/text_pages.h"
 #include "files/file_reader.h"
+#include "texts/languages.h"
+#include "texts/texts.h"
 
 #include <CLI/CLI.hpp>
 #include <QCalendar>
@@ -139,13 +141,17 @@ void CommandLine::addOptions(CLI::App& parser, const std::vector<OptionText>& op
 int print(std::string_view text) {
   const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
   if (isWritten && std::fflush(stdout) == 0) return 0;
-  printError(QStringLiteral("the text could not be written to standard output"));
+  printError(Texts::tr("the text could not be written to standard output"));
   return 2;
+}
+
+QByteArray lineOf(const QString& sentence) {
+  return "quorvin-cli: " + sentence.toLocal8Bit() + '\n';
 }
 
 int refuse(const QString& sentence) {
   printError(sentence);
-  std::fprintf(stderr, "Try: quorvin-cli --help\n");
+  printErrorLog(Texts::tr("Try: %1").arg(QStringLiteral("quorvin-cli --help")));
   return 2;
 }
 
@@ -160,7 +166,7 @@ int CommandLine::run(int argc, char** argv) {
       const std::string completion = completionFor(shell->toStdString());
       if (!completion.empty()) return print(completion);
       throw Mistake{
-          QStringLiteral("there is no completion for \"%1\"; the shells are bash, zsh and fish").arg(*shell)};
+          Texts::tr("there is no completion for \"%1\"; the shells are bash, zsh and fish").arg(*shell)};
     }
     const QString extra = leftOver();
     if (!extra.isEmpty()) throw Mistake{extra};
@@ -169,11 +175,11 @@ int CommandLine::run(int argc, char** argv) {
     return print(named() ? helpOf(*named()) : helpOfProgram());
   } catch (const CLI::ArgumentMismatch& error) {
     // The parser's words start with the option's name.
-    return refuse(textOf(std::string(error.what())).section(u':', 0, 0) + QStringLiteral(" needs a value"));
+    return refuse(Texts::tr("%1 needs a value").arg(textOf(std::string(error.what())).section(u':', 0, 0)));
   } catch (const CLI::RequiredError&) {
     return refuse(whatIsMissing());
   } catch (const CLI::ParseError&) {
-    return refuse(QStringLiteral("the options could not be understood"));
+    return refuse(Texts::tr("the options could not be understood"));
   } catch (const Mistake& mistake) {
     return refuse(mistake.sentence);
   }
@@ -190,34 +196,34 @@ const CommandText* CommandLine::named() const {
 
 QString CommandLine::whatIsMissing() const {
   const std::string_view name = named()->name;
-  if (name == "find") return QStringLiteral("find needs the words to find, in one argument");
-  if (name == "index") return QStringLiteral("index needs the folder to list");
-  if (name == "sources add") return QStringLiteral("sources add needs a folder or a listing");
-  return textOf(name) + QStringLiteral(" needs the description or the path of a source");
+  if (name == "find") return Texts::tr("find needs the words to find, in one argument");
+  if (name == "index") return Texts::tr("index needs the folder to list");
+  if (name == "sources add") return Texts::tr("sources add needs a folder or a listing");
+  return Texts::tr("%1 needs the description or the path of a source").arg(textOf(name));
 }
 
 /// A sentence about the first argument that has no meaning; empty when all have one.
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = app_.remaining();
-  const QString commands =
-      QStringLiteral("the commands are find, index, refresh, sources, history and cache");
+  const QString commands = Texts::tr("the commands are find, index, refresh, sources, history and cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
-    if (first.startsWith(u'-')) return QStringLiteral("there is no option \"%1\"").arg(first);
-    return QStringLiteral("there is no command \"%1\"; ").arg(first) + commands;
+    if (first.startsWith(u'-')) return Texts::tr("there is no option \"%1\"").arg(first);
+    return Texts::tr("there is no command \"%1\"").arg(first) + QStringLiteral("; ") + commands;
   }
-  if (!named()) return QStringLiteral("there is no command; ") + commands;
+  if (!named()) return Texts::tr("there is no command") + QStringLiteral("; ") + commands;
   for (const CommandText& command : commandTexts()) {
     const std::vector<std::string> ofCommand = parsers_.at(command.name)->remaining();
     if (ofCommand.empty()) continue;
     const QString name = textOf(command.name);
     const QString first = textOf(ofCommand.front());
     if (!first.startsWith(u'-')) {
-      return QStringLiteral("%1 does not know what to do with \"%2\"").arg(name, first);
+      return Texts::tr("%1 does not know what to do with \"%2\"").arg(name, first);
     }
-    const QString hint =
-        command.name == "find" ? QStringLiteral("; words that start with a dash go behind --") : QString();
-    return QStringLiteral("%1 has no option \"%2\"").arg(name, first) + hint;
+    const QString hint = command.name == "find"
+                             ? QStringLiteral("; ") + Texts::tr("words that start with a dash go behind --")
+                             : QString();
+    return Texts::tr("%1 has no option \"%2\"").arg(name, first) + hint;
   }
   return {};
 }
@@ -243,7 +249,7 @@ RowFormat formatNamed(const QString& name) {
   if (lower == QStringLiteral("tsv")) return RowFormat::Tsv;
   if (lower == QStringLiteral("csv")) return RowFormat::Csv;
   if (lower == QStringLiteral("json")) return RowFormat::Json;
-  throw Mistake{QStringLiteral("there is no format \"%1\"; the formats are tsv, csv and json").arg(name)};
+  throw Mistake{Texts::tr("there is no format \"%1\"; the formats are tsv, csv and json").arg(name)};
 }
 
 std::vector<HitField> fieldsNamed(const QString& names) {
@@ -254,7 +260,7 @@ std::vector<HitField> fieldsNamed(const QString& names) {
       fields.push_back(*field);
       continue;
     }
-    throw Mistake{QStringLiteral("there is no field \"%1\"; the fields are %2")
+    throw Mistake{Texts::tr("there is no field \"%1\"; the fields are %2")
                       .arg(name, hitFieldNames().join(QStringLiteral(", ")))};
   }
   return fields;
@@ -264,7 +270,7 @@ std::int64_t limitOf(const QString& text) {
   bool isNumber = false;
   const qlonglong limit = text.toLongLong(&isNumber);
   if (isNumber && limit >= 0) return limit;
-  throw Mistake{QStringLiteral("the value of --limit is a number of hits, not \"%1\"").arg(text)};
+  throw Mistake{Texts::tr("the value of --limit is a number of hits, not \"%1\"").arg(text)};
 }
 
 HitColumn columnNamed(const QString& name) {
@@ -275,7 +281,7 @@ HitColumn columnNamed(const QString& name) {
   const auto found = columns.find(name.toLower());
   if (found != columns.end()) return found->second;
   throw Mistake{
-      QStringLiteral("hits cannot be sorted by \"%1\", only by match, volume, folder, name, size or modified")
+      Texts::tr("hits cannot be sorted by \"%1\", only by match, volume, folder, name, size or modified")
           .arg(name)};
 }
 
@@ -284,7 +290,7 @@ ColourUse colourUseNamed(const QString& name) {
   if (lower == QStringLiteral("auto")) return ColourUse::Auto;
   if (lower == QStringLiteral("always")) return ColourUse::Always;
   if (lower == QStringLiteral("never")) return ColourUse::Never;
-  throw Mistake{QStringLiteral("the value of --color is auto, always or never, not \"%1\"").arg(name)};
+  throw Mistake{Texts::tr("the value of --color is auto, always or never, not \"%1\"").arg(name)};
 }
 
 int CommandLine::runFindCommand(const Given& given) {
@@ -300,7 +306,7 @@ int CommandLine::runFindCommand(const Given& given) {
   if (const auto sort = given.text("--sort")) request.order.column = columnNamed(*sort);
   request.order.isDescending = given.has("--reverse");
   if (request.order.isDescending && !request.order.column) {
-    throw Mistake{QStringLiteral("--reverse goes with --sort")};
+    throw Mistake{Texts::tr("--reverse goes with --sort")};
   }
   request.colours = colourUseNamed(given.text("--color").value_or(QStringLiteral("auto")));
   request.countOnly = given.has("--count");
@@ -323,15 +329,15 @@ int CommandLine::runIndexCommand(const Given& given) {
 int CommandLine::runHistoryCommand(const Given& given) {
   HistoryRequest request{given.texts().value(0), given.has("--restore"), 0, given.has("--json")};
   if (given.texts().size() > 1) {
-    throw Mistake{QStringLiteral("history does not know what to do with \"%1\"").arg(given.texts()[1])};
+    throw Mistake{Texts::tr("history does not know what to do with \"%1\"").arg(given.texts()[1])};
   }
   const std::optional<QString> number = given.text("--number");
   if (!number) return runHistory(request);
-  if (!request.restores) throw Mistake{QStringLiteral("--number goes with --restore")};
+  if (!request.restores) throw Mistake{Texts::tr("--number goes with --restore")};
   bool isNumber = false;
   request.number = number->toInt(&isNumber);
   if (isNumber && request.number >= 1) return runHistory(request);
-  throw Mistake{QStringLiteral("\"%1\" is no number of a version").arg(*number)};
+  throw Mistake{Texts::tr("\"%1\" is no number of a version").arg(*number)};
 }
 
 int CommandLine::runSourcesCommand(SourcesRequest::Action action, const Given& given) {
@@ -344,13 +350,13 @@ int CommandLine::runSourcesCommand(SourcesRequest::Action action, const Given& g
   if (action == SourcesRequest::Action::Add) {
     request.description = given.text("--name").value_or(QString());
     const bool isForMany = !request.description.isEmpty() && request.names.size() > 1;
-    if (isForMany) throw Mistake{QStringLiteral("--name is for one source at a time")};
+    if (isForMany) throw Mistake{Texts::tr("--name is for one source at a time")};
   }
   if (action == SourcesRequest::Action::Move) {
-    if (request.names.size() != 2) throw Mistake{QStringLiteral("sources move needs a source and its place")};
+    if (request.names.size() != 2) throw Mistake{Texts::tr("sources move needs a source and its place")};
     bool isNumber = false;
     request.place = request.names.takeLast().toInt(&isNumber);
-    if (!isNumber) throw Mistake{QStringLiteral("the place of sources move is a number from 1")};
+    if (!isNumber) throw Mistake{Texts::tr("the place of sources move is a number from 1")};
   }
   return runSources(request);
 }
@@ -358,16 +364,21 @@ int CommandLine::runSourcesCommand(SourcesRequest::Action action, const Given& g
 }  // namespace
 
 int main(int argc, char** argv) {
-  explainCutMapping(
-      "quorvin-cli: a file of the search cache was cut while it was searched. Please try again.\n");
+  // Made before: where there is no memory, or a file is cut, no text can be looked up.
+  QByteArray noMemory("quorvin-cli: there is not enough memory\n");
   try {
     const QCoreApplication application(argc, argv);
+    const SpokenLanguage language(usersLanguage());
+    noMemory = lineOf(Texts::tr("there is not enough memory"));
+    const QByteArray cutMapping =
+        lineOf(Texts::tr("a file of the search cache was cut while it was searched. Please try again."));
+    explainCutMapping(cutMapping.constData());
     // The toolkit makes its calendar when it is first asked for a month, and crashes if there is no memory
     // for that: better here, where no file has been touched.
     static_cast<void>(QCalendar());
     return CommandLine().run(argc, argv);
   } catch (const std::bad_alloc&) {
-    std::fputs("quorvin-cli: there is not enough memory\n", stderr);
+    std::fputs(noMemory.constData(), stderr);
     return 2;
   }
 }

@@ -9,6 +9,7 @@
 #include "state/settings.h"
 #include "state/source_entries.h"
 #include "state/source_list_file.h"
+#include "texts/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -84,8 +85,8 @@ class SourcesCommand {
       std::fwrite(row.data(), 1, row.size(), stdout);
     }
     const bool isWritten = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
-    if (!isWritten) printError(QStringLiteral("the list could not be written to standard output"));
-    if (!request_.isQuiet) printErrorLog(QStringLiteral("The data folder is ") + state_.LocalFolder);
+    if (!isWritten) printError(Texts::tr("the list could not be written to standard output"));
+    if (!request_.isQuiet) printErrorLog(Texts::tr("The data folder is %1").arg(state_.LocalFolder));
     return isWritten ? 0 : 2;
   }
 
@@ -150,7 +151,7 @@ class SourcesCommand {
   QString addOne(const QString& path) {
     const bool isFolder = QFileInfo(path).isDir();
     if (!isFolder && !fileExists(path)) {
-      return path + QStringLiteral(" is neither a folder nor a listing file");
+      return Texts::tr("%1 is neither a folder nor a listing file").arg(path);
     }
     std::vector<SourceEntry>& list = isFolder ? edited_.folders : edited_.offline;
     const QString refusal =
@@ -189,7 +190,7 @@ class SourcesCommand {
     std::vector<SourceEntry>& list = *place.list;
     const auto count = static_cast<int>(list.size());
     if (request_.place < 1 || request_.place > count) {
-      return QStringLiteral("the list has places 1 to %1").arg(count);
+      return Texts::tr("the list has places 1 to %1").arg(count);
     }
     SourceEntry entry = std::move(list[place.row]);
     list.erase(list.begin() + static_cast<std::ptrdiff_t>(place.row));
@@ -211,9 +212,9 @@ class SourcesCommand {
     }
     if (found == 1) return {};
     if (found == 0) {
-      return QStringLiteral("there is no source \"%1\"; quorvin-cli sources shows them").arg(name);
+      return Texts::tr("there is no source \"%1\"; quorvin-cli sources shows them").arg(name);
     }
-    return QStringLiteral("%1 sources are called \"%2\"; please name the path of one").arg(found).arg(name);
+    return Texts::tr("%1 sources are called \"%2\"; please name the path of one").arg(found).arg(name);
   }
 
   bool save(const EditedSources& before) {
@@ -228,7 +229,7 @@ class SourcesCommand {
     if (edited_.offline != before.offline && !saveOfflineSources(state_, messages_)) return false;
     const bool hasNewFolder = edited_.folders.size() > before.folders.size();
     if (hasNewFolder && !request_.isQuiet) {
-      printErrorLog(QStringLiteral("quorvin-cli refresh makes the listing"));
+      printErrorLog(Texts::tr("quorvin-cli refresh makes the listing"));
     }
     return true;
   }

@@ -33,7 +33,7 @@ std::string termOf(const OptionText& option) {
 
 std::string usageOf(const CommandText& command) {
   std::string usage = "quorvin-cli " + std::string(command.name);
-  if (!command.options.empty()) usage += " [options]";
+  if (!command.options.empty()) usage += " [" + said(QT_TRANSLATE_NOOP("Texts", "options")) + ']';
   if (!command.arguments.empty()) usage += ' ' + std::string(command.arguments);
   return usage;
 }
@@ -69,21 +69,26 @@ void addItem(std::string& page, std::string_view term, std::string_view text) {
 }
 
 void addOptions(std::string& page, const std::vector<OptionText>& options) {
-  for (const OptionText& option : options) addItem(page, termOf(option), std::string(option.text) + '.');
+  for (const OptionText& option : options) addItem(page, termOf(option), said(option.text) + '.');
 }
 
 void addCommand(std::string& page, const CommandText& command) {
   page += ".SS \"" + troff(usageOf(command)) + "\"\n";
-  page += troff(command.summary) + ".\n";
-  for (const std::string_view paragraph : command.details) page += ".PP\n" + troff(paragraph) + '\n';
+  page += troff(said(command.summary)) + ".\n";
+  for (const char* paragraph : command.details) page += ".PP\n" + troff(said(paragraph)) + '\n';
   addOptions(page, command.options);
 }
 
+/// The head of a section.
+std::string head(const char* title) {
+  return ".SH " + said(title) + '\n';
+}
+
 void addExamples(std::string& page) {
-  page += ".SH EXAMPLES\n";
+  page += head(QT_TRANSLATE_NOOP("Texts", "EXAMPLES"));
   for (const CommandText& command : commandTexts()) {
     for (const ExampleText& example : command.examples) {
-      addItem(page, example.line, std::string(example.text) + '.');
+      addItem(page, example.line, said(example.text) + '.');
     }
   }
 }
@@ -91,50 +96,62 @@ void addExamples(std::string& page) {
 }  // namespace
 
 std::string helpOfProgram() {
-  std::string text =
-      "quorvin-cli [option] COMMAND ...\n"
-      "Quorvin Utility in the terminal: search and make catalogues of disks.\n\nCommands:\n";
+  std::string text = said(QT_TRANSLATE_NOOP("Texts", "quorvin-cli [option] COMMAND ...")) + '\n';
+  text += said(
+      QT_TRANSLATE_NOOP("Texts", "Quorvin Utility in the terminal: search and make catalogues of disks."));
+  text += "\n\n" + said(QT_TRANSLATE_NOOP("Texts", "Commands:")) + '\n';
   for (const CommandText& command : commandTexts())
-    addLine(text, command.name, command.summary, kProgramColumn);
-  text += "\nOptions:\n";
+    addLine(text, command.name, said(command.summary), kProgramColumn);
+  text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Options:")) + '\n';
   for (const OptionText& option : programOptions())
-    addLine(text, termOf(option), option.text, kProgramColumn);
-  return text + "\nquorvin-cli COMMAND --help says more of each; man quorvin-cli says all.\n";
+    addLine(text, termOf(option), said(option.text), kProgramColumn);
+  text += '\n' +
+          said(QT_TRANSLATE_NOOP("Texts",
+                                 "quorvin-cli COMMAND --help says more of each; man quorvin-cli says all.")) +
+          '\n';
+  return text;
 }
 
 std::string helpOf(const CommandText& command) {
-  std::string text = usageOf(command) + '\n' + std::string(command.summary) + ".\n\n";
-  for (const OptionText& option : command.options) addLine(text, termOf(option), option.text, kCommandColumn);
-  if (!command.examples.empty()) text += "\nExamples:\n";
+  std::string text = usageOf(command) + '\n' + said(command.summary) + ".\n\n";
+  for (const OptionText& option : command.options)
+    addLine(text, termOf(option), said(option.text), kCommandColumn);
+  if (!command.examples.empty()) text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Examples:")) + '\n';
   for (const ExampleText& example : command.examples) text += "  " + std::string(example.line) + '\n';
   return text;
 }
 
 std::string manualPage(std::string_view version) {
-  std::string page =
-      ".\\\" Made by: quorvin-cli --man\n.TH QUORVIN\\-CLI 1 \"\" \"Quorvin Utility " + std::string(version) +
-      "\" \"User commands\"\n.SH NAME\nquorvin\\-cli \\- search and make listings of disks, drives "
-      "and shares\n.SH SYNOPSIS\n.nf\n";
-  for (const CommandText& command : commandTexts()) addRequest(page, "B", usageOf(command));
+  std::string page = ".\\\" Made by: quorvin-cli --man\n.TH QUORVIN\\-CLI 1 \"\" \"Quorvin Utility " +
+                     std::string(version) + "\" \"" + said(QT_TRANSLATE_NOOP("Texts", "User commands")) +
+                     "\"\n";
+  page += head(QT_TRANSLATE_NOOP("Texts", "NAME")) + "quorvin\\-cli \\- ";
   page +=
-      ".fi\n.SH DESCRIPTION\nFinds files in listings, the catalogues of disks and folders, and makes such "
-      "listings.\nIt uses the same settings and folders as the window,\n.BR quorvin (1).\n";
-  page += ".SH OPTIONS\n";
+      troff(said(QT_TRANSLATE_NOOP("Texts", "search and make listings of disks, drives and shares"))) + '\n';
+  page += head(QT_TRANSLATE_NOOP("Texts", "SYNOPSIS")) + ".nf\n";
+  for (const CommandText& command : commandTexts()) addRequest(page, "B", usageOf(command));
+  page += ".fi\n" + head(QT_TRANSLATE_NOOP("Texts", "DESCRIPTION"));
+  page += troff(said(QT_TRANSLATE_NOOP(
+              "Texts",
+              "Finds files in listings, the catalogues of disks and folders, and makes such listings."))) +
+          '\n';
+  page += troff(said(QT_TRANSLATE_NOOP("Texts", "It uses the same settings and folders as the window,")));
+  page += "\n.BR quorvin (1).\n" + head(QT_TRANSLATE_NOOP("Texts", "OPTIONS"));
   addOptions(page, programOptions());
-  page += ".SH COMMANDS\n";
+  page += head(QT_TRANSLATE_NOOP("Texts", "COMMANDS"));
   for (const CommandText& command : commandTexts()) addCommand(page, command);
   for (const SectionText& section : manualSections()) {
-    page += ".SH " + std::string(section.title) + '\n';
+    page += head(section.title);
     for (const SectionText::Item& item : section.items) {
       if (item.term.empty()) {
-        page += troff(item.text) + '\n';
+        page += troff(said(item.text)) + '\n';
       } else {
-        addItem(page, item.term, item.text);
+        addItem(page, item.term, said(item.text));
       }
     }
   }
   addExamples(page);
-  return page + ".SH SEE ALSO\n.BR quorvin (1)\n";
+  return page + head(QT_TRANSLATE_NOOP("Texts", "SEE ALSO")) + ".BR quorvin (1)\n";
 }
 
 }  // namespace quorvin

@@ -1,6 +1,7 @@
 #include "editors/file_picker.h"
 
 #include "platform/screen_room.h"
+#include "texts/texts.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -94,7 +95,7 @@ std::optional<QString> DialogFilePicker::pickFolder(const FileQuestion& question
 }
 
 QStringList DialogFilePicker::pickFolders(const FileQuestion& question) {
-  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Choose Folders to Catalogue"));
+  QFileDialog dialog(QApplication::activeWindow(), Texts::tr("Choose Folders to Catalogue"));
   dialog.setOption(QFileDialog::DontUseNativeDialog, question.isForSeveral);
   askForFolderIn(dialog, question);
   // The toolkit's own dialog has these views, and says of a folder only that it is to be one.

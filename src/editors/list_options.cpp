@@ -1,5 +1,7 @@
 #include "editors/list_options.h"
 
+#include "texts/texts.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
@@ -24,7 +26,7 @@ void goTo(QLineEdit* edit) {
 
 ListOptions::ListOptions(const OptionsEditing& editing, QWidget* owner) : QDialog(owner), editing_(editing) {
   setObjectName(QStringLiteral("ListOptions"));
-  setWindowTitle(QStringLiteral("Options"));
+  setWindowTitle(Texts::tr("Options"));
   layOut();
   connectControls();
   Form_Load();
@@ -44,23 +46,23 @@ void ListOptions::Form_Load() {
 void ListOptions::layOut() {
   auto* rows = new QGridLayout;
   controls_.LocalDataFolder =
-      addRow(rows, QStringLiteral("LocalDataFolder"), QStringLiteral("Local Data Folder:"));
-  controls_.GetLocalFolder = addBrowseButton(rows, QStringLiteral("GetLocalFolder"),
-                                             QStringLiteral("Browse for the local data folder"));
-  controls_.LocalFile = addRow(rows, QStringLiteral("LocalFile"), QStringLiteral("List File:"));
+      addRow(rows, QStringLiteral("LocalDataFolder"), Texts::tr("Local Data Folder:"));
+  controls_.GetLocalFolder =
+      addBrowseButton(rows, QStringLiteral("GetLocalFolder"), Texts::tr("Browse for the local data folder"));
+  controls_.LocalFile = addRow(rows, QStringLiteral("LocalFile"), Texts::tr("List File:"));
   controls_.GetListName =
-      addBrowseButton(rows, QStringLiteral("GetListName"), QStringLiteral("Browse for the list file"));
-  controls_.RemoteFile = addRow(rows, QStringLiteral("RemoteFile"), QStringLiteral("Update Archive Name:"));
-  controls_.Server = addRow(rows, QStringLiteral("Server"), QStringLiteral("Update Server:"));
-  controls_.JoinD = addRow(rows, QStringLiteral("JoinD"), QStringLiteral("First Run Date:"));
-  controls_.Nic = addRow(rows, QStringLiteral("Nic"), QStringLiteral("Nickname:"));
+      addBrowseButton(rows, QStringLiteral("GetListName"), Texts::tr("Browse for the list file"));
+  controls_.RemoteFile = addRow(rows, QStringLiteral("RemoteFile"), Texts::tr("Update Archive Name:"));
+  controls_.Server = addRow(rows, QStringLiteral("Server"), Texts::tr("Update Server:"));
+  controls_.JoinD = addRow(rows, QStringLiteral("JoinD"), Texts::tr("First Run Date:"));
+  controls_.Nic = addRow(rows, QStringLiteral("Nic"), Texts::tr("Nickname:"));
   rows->setColumnStretch(1, 1);
   controls_.LocalDataFolder->setMinimumWidth(std::min(fontMetrics().averageCharWidth() * kBoxCharacters,
                                                       screen()->availableGeometry().width() * 2 / 5));
 
-  controls_.OKButton = makeButton(QStringLiteral("OKButton"), QStringLiteral("OK"));
+  controls_.OKButton = makeButton(QStringLiteral("OKButton"), Texts::tr("OK"));
   controls_.OKButton->setDefault(true);
-  controls_.CancelButton = makeButton(QStringLiteral("CancelButton"), QStringLiteral("Cancel"));
+  controls_.CancelButton = makeButton(QStringLiteral("CancelButton"), Texts::tr("Cancel"));
   auto* waysOut = new QHBoxLayout;
   waysOut->addStretch();
   waysOut->addWidget(controls_.OKButton);
@@ -152,7 +154,7 @@ void ListOptions::GetListName_Click() {
 }
 
 void ListOptions::GetLocalFolder_Click() {
-  const FileQuestion question{QStringLiteral("Local Data Folder"), controls_.LocalDataFolder->text(),
+  const FileQuestion question{Texts::tr("Local Data Folder"), controls_.LocalDataFolder->text(),
                               QStringLiteral(".txt")};
   const std::optional<PickedFile> picked =
       askForFolder(editing_.picker, question, editing_.conditions.pathStyle);

@@ -1,6 +1,7 @@
 #include "editors/local_loc.h"
 
 #include "platform/screen_room.h"
+#include "texts/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,7 +16,7 @@ namespace quorvin {
 namespace {
 
 QString quoteReplaced() {
-  return QStringLiteral("A list of sources cannot keep a double quote, so ' takes its place.");
+  return Texts::tr("A list of sources cannot keep a double quote, so ' takes its place.");
 }
 
 }  // namespace
@@ -30,7 +31,7 @@ LocalLoc::LocalLoc(const SourceEditing& editing, const QString& LocMode, QWidget
           [count = editing.countEntries](const SourcePlaces& places) { return lookAtSource(places, count); },
           nullptr) {
   setObjectName(QStringLiteral("LocalLoc"));
-  setWindowTitle(QStringLiteral("Local File Search Locations"));
+  setWindowTitle(Texts::tr("Local File Search Locations"));
   controls_.Online->setModel(&entries_);
   laidOutFor_ = placeLocalLocControls(controls_);
   mirrorLocalLocControls(controls_, laidOutFor_.width());
@@ -47,15 +48,16 @@ void LocalLoc::Form_Load() {
 }
 
 void LocalLoc::arrangeForOffline() {
-  setWindowTitle(QStringLiteral("Offline Search List files"));
+  setWindowTitle(Texts::tr("Offline Search List files"));
   controls_.OK->hide();
   controls_.OK->setEnabled(false);
   controls_.SaveOffLine->show();
   controls_.Desc->setText(QStringLiteral("Offline"));
   mirrorLocalLocControls(controls_, laidOutFor_.width());
-  setPathCaption(controls_, QStringLiteral("Path to List file"));
-  controls_.AddSources->setText(QStringLiteral("Add &Files..."));
-  controls_.AddSources->setToolTip(QStringLiteral("Pick listing files, which are in the list at once"));
+  setPathCaption(controls_, Texts::tr("Path to List file"));
+  controls_.AddSources->setText(Texts::tr("Add &Files..."));
+  controls_.AddSources->resize(controls_.AddSources->sizeHint().width(), controls_.AddSources->height());
+  controls_.AddSources->setToolTip(Texts::tr("Pick listing files, which are in the list at once"));
   widenPathOverDescription(controls_);
   mirrorLocalLocControls(controls_, laidOutFor_.width());
   LocMode_ = QString::fromUtf16(kOfflineMode);
@@ -231,8 +233,8 @@ void LocalLoc::GetListName_Click() {
   // The next Enter is to add what was picked, not to pick again.
   controls_.LocAdd->setFocus();
   const bool isOffline = LocMode_ == kOfflineMode;
-  setNotice(controls_, isOffline ? QStringLiteral("Not in the list yet: Add puts the file there.")
-                                 : QStringLiteral("Not in the list yet: Add puts the folder there."));
+  setNotice(controls_, isOffline ? Texts::tr("Not in the list yet: Add puts the file there.")
+                                 : Texts::tr("Not in the list yet: Add puts the folder there."));
 }
 
 /// A folder's name says more than the description that is given, and each folder needs one of its own.
@@ -250,8 +252,7 @@ void LocalLoc::showNotice() {
 
 /// None when the user has cancelled.
 QStringList LocalLoc::pickedSources(const QString& initialFolder, bool isForSeveral) {
-  const FileQuestion question{QStringLiteral("All Files"), initialFolder, QStringLiteral(".txt"),
-                              isForSeveral};
+  const FileQuestion question{Texts::tr("All Files"), initialFolder, QStringLiteral(".txt"), isForSeveral};
   if (LocMode_ == kOfflineMode) return askForFiles(editing_.picker, question);
   QStringList paths;
   for (const PickedFile& folder : askForFolders(editing_.picker, question, editing_.pathStyle)) {
@@ -281,7 +282,7 @@ void LocalLoc::AddSources_Click() {
 
 void LocalLoc::OK_Click() {
   if (!store(editing_.state.OnlineSources, editing_.state.OnlineSourceCount)) return;
-  if (editing_.messages.askYesNo(QStringLiteral("Rescan Local Search Locations?"))) {
+  if (editing_.messages.askYesNo(Texts::tr("Rescan Local Search Locations?"))) {
     // The main window can be used during the refresh.
     hide();
     editing_.refreshLocalLists();
@@ -309,9 +310,9 @@ void LocalLoc::takeDropped(const DroppedSources& dropped) {
   const bool isOffline = LocMode_ == kOfflineMode;
   const QStringList& wanted = isOffline ? dropped.files : dropped.folders;
   if (!wanted.isEmpty()) return appendAll(wanted);
-  editing_.messages.inform(
-      isOffline ? QStringLiteral("Folders are added in File, Add/Edit Local Folder To Search List.")
-                : QStringLiteral("Listing files are added in File, Add/Edit Offline List files."));
+  editing_.messages.inform(isOffline
+                               ? Texts::tr("Folders are added in File, Add/Edit Local Folder To Search List.")
+                               : Texts::tr("Listing files are added in File, Add/Edit Offline List files."));
 }
 
 bool LocalLoc::store(SourceTable& table, int& count) {

@@ -3,6 +3,7 @@
 #include "editors/source_list_model.h"
 #include "platform/screen_room.h"
 #include "platform/text_direction.h"
+#include "texts/texts.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -174,7 +175,7 @@ QLineEdit* makeEdit(QWidget* parent, const QString& name, const QString& text) {
 }
 
 QPushButton* makeBrowseButton(QWidget* parent) {
-  const QString meaning = QStringLiteral("Browse for a File Location Path");
+  const QString meaning = Texts::tr("Browse for a File Location Path");
   QPushButton* button = makeButton(parent, QStringLiteral("GetListName"), QStringLiteral("..."));
   button->setToolTip(meaning);
   button->setAccessibleName(meaning);
@@ -185,7 +186,7 @@ QPushButton* makeBrowseButton(QWidget* parent) {
 
 SourceListView::SourceListView(QWidget* parent) : QTreeView(parent) {
   setObjectName(QStringLiteral("Online"));
-  setAccessibleName(QStringLiteral("Search locations"));
+  setAccessibleName(Texts::tr("Search locations"));
   setRootIsDecorated(false);
   setUniformRowHeights(true);
   setItemDelegate(new SourceRows(this));
@@ -246,31 +247,31 @@ LocalLocControls makeLocalLocControls(QWidget* parent) {
   LocalLocControls made{};
   // In tab order.
   made.Online = new SourceListView(parent);
-  made.MvUp = makeButton(parent, QStringLiteral("MvUp"), QStringLiteral("Move Selected Up"));
-  made.MvDn = makeButton(parent, QStringLiteral("MvDn"), QStringLiteral("Move Selected Down"));
-  made.LocDel = makeButton(parent, QStringLiteral("LocDel"), QStringLiteral("Delete Selected"));
+  made.MvUp = makeButton(parent, QStringLiteral("MvUp"), Texts::tr("Move Selected Up"));
+  made.MvDn = makeButton(parent, QStringLiteral("MvDn"), Texts::tr("Move Selected Down"));
+  made.LocDel = makeButton(parent, QStringLiteral("LocDel"), Texts::tr("Delete Selected"));
   made.Desc = makeEdit(parent, QStringLiteral("Desc"), QStringLiteral("Online"));
   made.LocalDataFolder = makeEdit(parent, QStringLiteral("LocalDataFolder"), {});
   made.GetListName = makeBrowseButton(parent);
-  made.LocAdd = makeButton(parent, QStringLiteral("LocAdd"), QStringLiteral("Add"));
+  made.LocAdd = makeButton(parent, QStringLiteral("LocAdd"), Texts::tr("Add"));
   made.LocAdd->setDefault(true);
-  made.AddSources = makeButton(parent, QStringLiteral("AddSources"), QStringLiteral("Add Fol&ders..."));
-  made.AddSources->setToolTip(QStringLiteral("Pick folders, which are in the list at once"));
+  made.AddSources = makeButton(parent, QStringLiteral("AddSources"), Texts::tr("Add Fol&ders..."));
+  made.AddSources->setToolTip(Texts::tr("Pick folders, which are in the list at once"));
   made.Notice = makeLabel(parent, QStringLiteral("Notice"), nullptr);
   made.Notice->hide();
-  made.OK = makeButton(parent, QStringLiteral("OK"), QStringLiteral("Save"));
-  made.SaveOffLine = makeButton(parent, QStringLiteral("SaveOffLine"), QStringLiteral("Save"));
+  made.OK = makeButton(parent, QStringLiteral("OK"), Texts::tr("Save"));
+  made.SaveOffLine = makeButton(parent, QStringLiteral("SaveOffLine"), Texts::tr("Save"));
   made.SaveOffLine->hide();
-  made.Cancel = makeButton(parent, QStringLiteral("Cancel"), QStringLiteral("Cancel"));
+  made.Cancel = makeButton(parent, QStringLiteral("Cancel"), Texts::tr("Cancel"));
 
   made.Label1 = makeLabel(parent, QStringLiteral("Label1"), made.Desc);
-  made.Label1->setText(QStringLiteral("Description"));
-  made.Desc->setAccessibleName(QStringLiteral("Description"));
+  made.Label1->setText(Texts::tr("Description"));
+  made.Desc->setAccessibleName(Texts::tr("Description"));
   made.Label2 = makeLabel(parent, QStringLiteral("Label2"), made.LocalDataFolder);
-  setPathCaption(made, QStringLiteral("Path"));
+  setPathCaption(made, Texts::tr("Path"));
 
-  made.Undo = makeAction(parent, QStringLiteral("Undo"), QStringLiteral("&Undo"), {Qt::CTRL | Qt::Key_Z});
-  made.Redo = makeAction(parent, QStringLiteral("Redo"), QStringLiteral("&Redo"),
+  made.Undo = makeAction(parent, QStringLiteral("Undo"), Texts::tr("&Undo"), {Qt::CTRL | Qt::Key_Z});
+  made.Redo = makeAction(parent, QStringLiteral("Redo"), Texts::tr("&Redo"),
                          {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
   made.Online->addActions({made.Undo, made.Redo});
   made.Online->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -346,8 +347,7 @@ QSize placeLocalLocControls(const LocalLocControls& controls) {
   y += boxHeight + distances.besideLabel;
   controls.Notice->setGeometry(left, y, sideLeft + sideWidth - left, labelHeight);
 
-  // The quick way to add many at the left. The ways out, at the right; both buttons to save have the same
-  // place, one of them is shown.
+  // The quick way to add many at the left, the ways out at the right; both buttons to save have one place.
   y += labelHeight + distances.between;
   const int wayOutWidth = widestOf({controls.OK, controls.SaveOffLine, controls.Cancel});
   const int cancelLeft = sideLeft + sideWidth - wayOutWidth;

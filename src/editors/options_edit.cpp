@@ -1,6 +1,7 @@
 #include "editors/options_edit.h"
 
 #include "dates/general_date.h"
+#include "texts/texts.h"
 
 #include <exception>
 #include <optional>
@@ -13,7 +14,7 @@ OptionsOutcome storeInOrder(const OptionTexts& texts, ProgramState& state, Messa
                             const OptionsConditions& conditions) {
   const std::optional<DateValue> joinDate = readGeneralDate(texts.JoinD, conditions.locale);
   if (!joinDate) {
-    messages.inform(QStringLiteral("The Join Date / Time format can not be understood, check the format."));
+    messages.inform(Texts::tr("The Join Date / Time format can not be understood, check the format."));
     return OptionsOutcome::DateRefused;
   }
   state.JoinDate = *joinDate;
@@ -21,8 +22,7 @@ OptionsOutcome storeInOrder(const OptionTexts& texts, ProgramState& state, Messa
   const QString folder = texts.LocalDataFolder.isEmpty() ? conditions.programFolder() : texts.LocalDataFolder;
   state.LocalFolder = withTrailingSeparator(folder, conditions.pathStyle);
   if (!conditions.isValidFolder(state.LocalFolder)) {
-    messages.inform(
-        QStringLiteral("The Local Data Folder path is invalid.\r\n\r\nPlease Pick a valid path!"));
+    messages.inform(Texts::tr("The Local Data Folder path is invalid.\r\n\r\nPlease Pick a valid path!"));
     return OptionsOutcome::FolderRefused;
   }
   state.TextFile = texts.LocalFile;

@@ -1,5 +1,7 @@
 #include "editors/source_list_model.h"
 
+#include "texts/texts.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -110,7 +112,7 @@ QVariant SourceListModel::data(const QModelIndex& index, int role) const {
 
 QVariant SourceListModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return section == kDescriptionColumn ? QStringLiteral("Description") : QStringLiteral("Path");
+  return section == kDescriptionColumn ? Texts::tr("Description") : Texts::tr("Path");
 }
 
 }  // namespace quorvin

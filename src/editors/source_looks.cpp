@@ -1,6 +1,7 @@
 #include "editors/source_looks.h"
 
 #include "files/file_lookup.h"
+#include "texts/texts.h"
 
 #include <QFileInfo>
 #include <QFutureWatcher>
@@ -23,16 +24,17 @@ constexpr std::size_t kLookers = 4;
 constexpr qint64 kDaysCounted = 60;
 
 QString entriesText(std::int64_t entries, const QLocale& locale) {
-  if (entries == 1) return QStringLiteral("1 entry");
-  return QStringLiteral("%1 entries").arg(locale.toString(qlonglong{entries}));
+  if (entries == 1) return Texts::tr("1 entry");
+  return Texts::tr("%1 entries", nullptr, Texts::plural(entries)).arg(locale.toString(qlonglong{entries}));
 }
 
 QString ageText(QDate listed, QDate today, const QLocale& locale) {
   const qint64 days = listed.daysTo(today);
-  if (days <= 0) return QStringLiteral("today");
-  if (days == 1) return QStringLiteral("yesterday");
-  if (days <= kDaysCounted) return QStringLiteral("%1 days old").arg(locale.toString(days));
-  return QStringLiteral("of %1").arg(locale.toString(listed, QLocale::ShortFormat));
+  if (days <= 0) return Texts::tr("today");
+  if (days == 1) return Texts::tr("yesterday");
+  if (days <= kDaysCounted)
+    return Texts::tr("%1 days old", nullptr, Texts::plural(days)).arg(locale.toString(days));
+  return Texts::tr("of %1").arg(locale.toString(listed, QLocale::ShortFormat));
 }
 
 QString momentText(const QDateTime& moment, const QLocale& locale) {
@@ -40,11 +42,18 @@ QString momentText(const QDateTime& moment, const QLocale& locale) {
                                       locale.toString(moment.time(), QLocale::ShortFormat));
 }
 
-QString listingSentence(const SourceFacts& facts, const QString& subject, const QLocale& locale) {
+QString fileSentence(const SourceFacts& facts, const QLocale& locale) {
   const QString moment = momentText(facts.listed, locale);
-  if (!facts.entries) return QStringLiteral("%1 was last changed on %2.").arg(subject, moment);
-  return QStringLiteral("%1 has %2 and was last changed on %3.")
-      .arg(subject, entriesText(*facts.entries, locale), moment);
+  if (!facts.entries) return Texts::tr("The file was last changed on %1.").arg(moment);
+  return Texts::tr("The file has %1 and was last changed on %2.")
+      .arg(entriesText(*facts.entries, locale), moment);
+}
+
+QString listingSentence(const SourceFacts& facts, const QLocale& locale) {
+  const QString moment = momentText(facts.listed, locale);
+  if (!facts.entries) return Texts::tr("Its listing was last changed on %1.").arg(moment);
+  return Texts::tr("Its listing has %1 and was last changed on %2.")
+      .arg(entriesText(*facts.entries, locale), moment);
 }
 
 }  // namespace
@@ -63,9 +72,9 @@ SourceFacts lookAtSource(const SourcePlaces& places, const CountEntries& countEn
 QString factsInBrief(const SourceFacts& facts, const SourcePlaces& places, const QLocale& locale,
                      QDate today) {
   QStringList words;
-  if (!facts.isThere) words.append(QStringLiteral("not there"));
+  if (!facts.isThere) words.append(Texts::tr("not there"));
   if (!facts.isListed) {
-    if (facts.isThere) words.append(QStringLiteral("not listed yet"));
+    if (facts.isThere) words.append(Texts::tr("not listed yet"));
     return words.join(QStringLiteral(", "));
   }
   if (!places.isFolder() && !facts.isThere) return words.first();
@@ -76,13 +85,12 @@ QString factsInBrief(const SourceFacts& facts, const SourcePlaces& places, const
 
 QString factsInFull(const SourceFacts& facts, const SourcePlaces& places, const QLocale& locale) {
   if (!places.isFolder()) {
-    return facts.isThere ? listingSentence(facts, QStringLiteral("The file"), locale)
-                         : QStringLiteral("The file is not there.");
+    return facts.isThere ? fileSentence(facts, locale) : Texts::tr("The file is not there.");
   }
   const QString folder =
-      facts.isThere ? QStringLiteral("The folder is there.") : QStringLiteral("The folder is not there.");
-  const QString listing = facts.isListed ? listingSentence(facts, QStringLiteral("Its listing"), locale)
-                                         : QStringLiteral("It has no listing yet; a rescan makes it.");
+      facts.isThere ? Texts::tr("The folder is there.") : Texts::tr("The folder is not there.");
+  const QString listing = facts.isListed ? listingSentence(facts, locale)
+                                         : Texts::tr("It has no listing yet; a rescan makes it.");
   return folder + u'\n' + listing;
 }
 

@@ -1,5 +1,7 @@
 #include "faults/runtime_fault.h"
 
+#include "texts/texts.h"
+
 #include <cerrno>
 
 namespace quorvin {
@@ -7,33 +9,33 @@ namespace quorvin {
 QString describe(FaultNumber number) {
   switch (number) {
     case FaultNumber::InvalidProcedureCall:
-      return QStringLiteral("Invalid procedure call or argument");
+      return Texts::tr("Invalid procedure call or argument");
     case FaultNumber::Overflow:
-      return QStringLiteral("Overflow");
+      return Texts::tr("Overflow");
     case FaultNumber::SubscriptOutOfRange:
-      return QStringLiteral("Subscript out of range");
+      return Texts::tr("Subscript out of range");
     case FaultNumber::DivisionByZero:
-      return QStringLiteral("Division by zero");
+      return Texts::tr("Division by zero");
     case FaultNumber::TypeMismatch:
-      return QStringLiteral("Type mismatch");
+      return Texts::tr("Type mismatch");
     case FaultNumber::BadFileName:
-      return QStringLiteral("Bad file name or number");
+      return Texts::tr("Bad file name or number");
     case FaultNumber::FileNotFound:
-      return QStringLiteral("File not found");
+      return Texts::tr("File not found");
     case FaultNumber::DeviceError:
-      return QStringLiteral("Device I/O error");
+      return Texts::tr("Device I/O error");
     case FaultNumber::DiskFull:
-      return QStringLiteral("Disk full");
+      return Texts::tr("Disk full");
     case FaultNumber::InputPastEnd:
-      return QStringLiteral("Input past end of file");
+      return Texts::tr("Input past end of file");
     case FaultNumber::PermissionDenied:
-      return QStringLiteral("Permission denied");
+      return Texts::tr("Permission denied");
     case FaultNumber::PathFileAccess:
-      return QStringLiteral("Path/File access error");
+      return Texts::tr("Path/File access error");
     case FaultNumber::PathNotFound:
-      return QStringLiteral("Path not found");
+      return Texts::tr("Path not found");
   }
-  return QStringLiteral("Unknown fault");
+  return Texts::tr("Unknown fault");
 }
 
 RuntimeFault::RuntimeFault(FaultNumber number) : RuntimeFault(number, describe(number)) {}
@@ -42,7 +44,7 @@ RuntimeFault::RuntimeFault(FaultNumber number, const QString& description)
     : std::runtime_error(description.toStdString()), number_(number), description_(description) {}
 
 QString RuntimeFault::text() const {
-  return QStringLiteral("Run-time error '%1': ").arg(number()) + description_;
+  return Texts::tr("Run-time error '%1': %2").arg(QString::number(number()), description_);
 }
 
 namespace {

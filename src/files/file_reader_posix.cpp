@@ -1,6 +1,7 @@
 #include "faults/runtime_fault.h"
 #include "files/descriptor.h"
 #include "files/file_reader.h"
+#include "texts/texts.h"
 
 #include <array>
 #include <cerrno>
@@ -61,7 +62,7 @@ std::size_t SequentialFile::read(std::span<char> buffer) {
   position_ += static_cast<std::int64_t>(filled);
   if (filled == 0 && position_ < size_) {
     throw RuntimeFault(FaultNumber::InputPastEnd, describe(FaultNumber::InputPastEnd) + QStringLiteral(": ") +
-                                                      path_ + QStringLiteral(" was cut while it was read"));
+                                                      Texts::tr("%1 was cut while it was read").arg(path_));
   }
   return filled;
 }

@@ -1,5 +1,6 @@
 #include "faults/runtime_fault.h"
 #include "files/stream_reader.h"
+#include "texts/texts.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -38,7 +39,7 @@ StreamReader::StreamReader(Descriptor stream, QString name, EndRequested endRequ
     : stream_(std::move(stream)), name_(std::move(name)), endRequested_(std::move(endRequested)) {}
 
 StreamReader StreamReader::standardInput(EndRequested endRequested) {
-  const QString name = QStringLiteral("standard input");
+  const QString name = Texts::tr("standard input");
   Descriptor copy(::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0));
   if (!copy.isOpen()) throw faultOfSystemError(errno, name);
   return {std::move(copy), name, std::move(endRequested)};

@@ -1,5 +1,7 @@
 #include "help/frm_browser.h"
 
+#include "texts/texts.h"
+
 #include <QAction>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -12,7 +14,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr char16_t kCaption[] = u"Quorvin Utility Help";
+constexpr char kCaption[] = QT_TRANSLATE_NOOP("Texts", "Quorvin Utility Help");
 constexpr char16_t kHomePage[] = u"genhelp.htm";
 constexpr char16_t kSearchPage[] = u"index.htm";
 
@@ -21,8 +23,8 @@ constexpr int kTimerMilliseconds = 100;
 
 /// What the menu calls the page.
 QString titleOf(const QString& address) {
-  if (address.endsWith(QStringLiteral("relinfo.htm"))) return QStringLiteral("Release Information");
-  if (address.endsWith(QString::fromUtf16(kHomePage))) return QStringLiteral("Program Usage");
+  if (address.endsWith(QStringLiteral("relinfo.htm"))) return Texts::tr("Release Information");
+  if (address.endsWith(QString::fromUtf16(kHomePage))) return Texts::tr("Program Usage");
   return address;
 }
 
@@ -41,7 +43,7 @@ frmBrowser::frmBrowser(const QString& helpFolder, PageTransfer& transfer, QWidge
       loader_(helpFolder, transfer, pageDisplay()),
       controls_(makeBrowserControls(this, loader_.files())) {
   setObjectName(QStringLiteral("frmBrowser"));
-  setWindowTitle(QString::fromUtf16(kCaption));
+  setWindowTitle(Texts::tr(kCaption));
   timTimer_.setObjectName(QStringLiteral("timTimer"));
   timTimer_.setInterval(kTimerMilliseconds);
   controls_.inner->installEventFilter(this);
@@ -112,8 +114,8 @@ void frmBrowser::tellWaitingPage() {
   const bool waits = StartingAddress != controls_.cboAddress->currentText();
   controls_.OpenNow->setVisible(waits);
   if (!waits) return controls_.lblStatus->clear();
-  controls_.lblStatus->setText(titleOf(StartingAddress) +
-                               QStringLiteral(" opens after this window is closed."));
+  controls_.lblStatus->setText(
+      Texts::tr("%1 opens after this window is closed.").arg(titleOf(StartingAddress)));
 }
 
 void frmBrowser::openWaitingPage() {
@@ -197,10 +199,10 @@ void frmBrowser::tbToolBar_ButtonClick(BrowserButton button) {
       loader_.reload();
       break;
     case BrowserButton::Home:
-      loader_.open(loader_.files().folder() + QString::fromUtf16(kHomePage));
+      loader_.open(loader_.files().addressOf(QString::fromUtf16(kHomePage)));
       break;
     case BrowserButton::Search:
-      loader_.open(loader_.files().folder() + QString::fromUtf16(kSearchPage));
+      loader_.open(loader_.files().addressOf(QString::fromUtf16(kSearchPage)));
       controls_.findBar->open();
       break;
     case BrowserButton::Stop:
@@ -234,7 +236,7 @@ void frmBrowser::showBusy() {
   const bool busy = loader_.isBusy();
   const bool shown = controls_.loadBar->isVisibleTo(this);
   if (busy) {
-    controls_.lblStatus->setText(QStringLiteral("Loading %1 (Esc stops)").arg(loader_.loadingAddress()));
+    controls_.lblStatus->setText(Texts::tr("Loading %1 (Esc stops)").arg(loader_.loadingAddress()));
     controls_.brwWebBrowser->viewport()->setCursor(Qt::BusyCursor);
   } else if (shown) {
     controls_.lblStatus->clear();

@@ -1,5 +1,7 @@
 #include "help/frm_browser_controls.h"
 
+#include "texts/texts.h"
+
 #include <QAbstractItemView>
 #include <QFile>
 #include <QHBoxLayout>
@@ -42,8 +44,10 @@ void addDrawing(QIcon& icon, QIcon::Mode mode, const QByteArray& drawing) {
 }
 
 struct ButtonLook {
-  QString key;
+  /// What it is called among the controls.
+  QString name;
   QString caption;
+  QString meaning;
   QString keys;
   QList<QKeySequence> shortcuts;
 };
@@ -58,36 +62,37 @@ QList<QKeySequence> keysFor(std::initializer_list<const char*> texts) {
 ButtonLook lookOf(BrowserButton button) {
   switch (button) {
     case BrowserButton::Back:
-      return {QStringLiteral("Back"), QStringLiteral("Back"), QStringLiteral("Alt+Left"),
+      return {QStringLiteral("Back"), Texts::tr("Back"), Texts::tr("Back"), QStringLiteral("Alt+Left"),
               keysFor({"Alt+Left", "Back"})};
     case BrowserButton::Forward:
-      return {QStringLiteral("Forward"), QStringLiteral("Forward"), QStringLiteral("Alt+Right"),
-              keysFor({"Alt+Right", "Forward"})};
+      return {QStringLiteral("Forward"), Texts::tr("Forward"), Texts::tr("Forward"),
+              QStringLiteral("Alt+Right"), keysFor({"Alt+Right", "Forward"})};
     case BrowserButton::Refresh:
-      return {QStringLiteral("Refresh"), QStringLiteral("Refresh"), QStringLiteral("F5"),
+      return {QStringLiteral("Refresh"), Texts::tr("Refresh"), Texts::tr("Refresh"), QStringLiteral("F5"),
               keysFor({"F5", "Ctrl+R"})};
     case BrowserButton::Home:
-      return {QStringLiteral("Home"), QStringLiteral("Home: program usage"), QStringLiteral("Alt+Home"),
-              keysFor({"Alt+Home"})};
+      return {QStringLiteral("Home"), Texts::tr("Home"), Texts::tr("Home: program usage"),
+              QStringLiteral("Alt+Home"), keysFor({"Alt+Home"})};
     case BrowserButton::Search:
-      return {QStringLiteral("Search"), QStringLiteral("Search the index of the help"),
+      return {QStringLiteral("Search"), Texts::tr("Search"), Texts::tr("Search the index of the help"),
               QStringLiteral("Ctrl+Shift+F"), keysFor({"Ctrl+Shift+F"})};
     case BrowserButton::Stop:
       // Its key is the window's: Esc also closes the row for finding.
-      return {QStringLiteral("Stop"), QStringLiteral("Stop loading"), QStringLiteral("Esc"), {}};
+      return {
+          QStringLiteral("Stop"), Texts::tr("Stop"), Texts::tr("Stop loading"), QStringLiteral("Esc"), {}};
   }
   return {};
 }
 
 QAction* addToolbarButton(QToolBar* bar, BrowserButton button) {
   const ButtonLook look = lookOf(button);
-  QAction* action = bar->addAction(look.key);
-  action->setObjectName(look.key);
+  QAction* action = bar->addAction(look.caption);
+  action->setObjectName(look.name);
   action->setShortcuts(look.shortcuts);
-  action->setToolTip(QStringLiteral("%1 (%2)").arg(look.caption, look.keys));
+  action->setToolTip(QStringLiteral("%1 (%2)").arg(look.meaning, look.keys));
   QWidget* widget = bar->widgetForAction(action);
-  widget->setObjectName(look.key);
-  widget->setAccessibleName(look.key);
+  widget->setObjectName(look.name);
+  widget->setAccessibleName(look.caption);
   widget->setFocusPolicy(Qt::TabFocus);
   return action;
 }
@@ -95,13 +100,13 @@ QAction* addToolbarButton(QToolBar* bar, BrowserButton button) {
 /// The button that holds the others in a narrow window has neither a caption nor a name.
 void nameExtension(const QToolBar& bar) {
   auto* extension = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
-  if (extension) extension->setAccessibleName(QStringLiteral("More buttons"));
+  if (extension) extension->setAccessibleName(Texts::tr("More buttons"));
 }
 
 void makeToolbar(QWidget* window, BrowserControls& made) {
   made.tbToolBar = new QToolBar(window);
   made.tbToolBar->setObjectName(QStringLiteral("tbToolBar"));
-  made.tbToolBar->setAccessibleName(QStringLiteral("Help toolbar"));
+  made.tbToolBar->setAccessibleName(Texts::tr("Help toolbar"));
   nameExtension(*made.tbToolBar);
   for (int button = 0; button < kBrowserButtons; ++button) {
     made.buttons[static_cast<std::size_t>(button)] =
@@ -114,16 +119,16 @@ void makeAddressRow(QWidget* window, BrowserControls& made) {
   made.picAddress->setObjectName(QStringLiteral("picAddress"));
   made.cboAddress = new QComboBox(made.picAddress);
   made.cboAddress->setObjectName(QStringLiteral("cboAddress"));
-  made.cboAddress->setAccessibleName(QStringLiteral("Address"));
+  made.cboAddress->setAccessibleName(Texts::tr("Address"));
   made.cboAddress->setEditable(true);
-  made.cboAddress->lineEdit()->setAccessibleName(QStringLiteral("Address"));
-  made.cboAddress->view()->setAccessibleName(QStringLiteral("Visited addresses"));
+  made.cboAddress->lineEdit()->setAccessibleName(Texts::tr("Address"));
+  made.cboAddress->view()->setAccessibleName(Texts::tr("Visited addresses"));
   made.cboAddress->setInsertPolicy(QComboBox::NoInsert);
   made.cboAddress->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   made.cboAddress->setCompleter(nullptr);
   // Leaving the box would otherwise choose the entry that equals what was typed there.
   QObject::disconnect(made.cboAddress->lineEdit(), &QLineEdit::editingFinished, made.cboAddress, nullptr);
-  made.lblAddress = new QLabel(QStringLiteral("&Address:"), made.picAddress);
+  made.lblAddress = new QLabel(Texts::tr("&Address:"), made.picAddress);
   made.lblAddress->setObjectName(QStringLiteral("lblAddress"));
   made.lblAddress->setBuddy(made.cboAddress);
 }
@@ -150,12 +155,12 @@ void makeStatusRow(QWidget* window, BrowserControls& made) {
   made.lblStatus->setTextFormat(Qt::PlainText);
   // A long address must not widen the window.
   made.lblStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  made.OpenNow = makeLink(made.statusRow, QStringLiteral("OpenNow"), QStringLiteral("&Open it now"));
+  made.OpenNow = makeLink(made.statusRow, QStringLiteral("OpenNow"), Texts::tr("&Open it now"));
   made.OpenNow->setFixedHeight(window->fontMetrics().height() + 4);
   made.OpenNow->hide();
   made.loadBar = new QProgressBar(made.statusRow);
   made.loadBar->setObjectName(QStringLiteral("loadBar"));
-  made.loadBar->setAccessibleName(QStringLiteral("Loading"));
+  made.loadBar->setAccessibleName(Texts::tr("Loading"));
   made.loadBar->setTextVisible(false);
   made.loadBar->setRange(0, 0);
   made.loadBar->setFixedSize(window->fontMetrics().averageCharWidth() * 16, window->fontMetrics().height());
@@ -194,9 +199,9 @@ BrowserControls makeBrowserControls(QWidget* window, const HelpFiles& files) {
   made.inner = new QWidget(window);
   made.brwWebBrowser = new HelpView(files, made.inner);
   made.brwWebBrowser->setObjectName(QStringLiteral("brwWebBrowser"));
-  made.brwWebBrowser->setAccessibleName(QStringLiteral("Page"));
-  made.brwWebBrowser->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the page down"));
-  made.brwWebBrowser->horizontalScrollBar()->setAccessibleName(QStringLiteral("Scroll the page sideways"));
+  made.brwWebBrowser->setAccessibleName(Texts::tr("Page"));
+  made.brwWebBrowser->verticalScrollBar()->setAccessibleName(Texts::tr("Scroll the page down"));
+  made.brwWebBrowser->horizontalScrollBar()->setAccessibleName(Texts::tr("Scroll the page sideways"));
   made.findBar = new FindBar(*made.brwWebBrowser, window);
   makeStatusRow(window, made);
 

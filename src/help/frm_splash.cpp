@@ -1,6 +1,7 @@
 #include "help/frm_splash.h"
 
 #include "platform/screen_room.h"
+#include "texts/texts.h"
 
 #include <QFontMetrics>
 #include <QGridLayout>
@@ -17,7 +18,8 @@ namespace quorvin {
 namespace {
 
 constexpr char16_t kPlatforms[] = u"Windows 9x, NT, 2000, XP, Vista";
-constexpr char16_t kLicence[] = u"Free software under the GNU General Public License, version 2 or later";
+constexpr char kLicence[] =
+    QT_TRANSLATE_NOOP("Texts", "Free software under the GNU General Public License, version 2 or later");
 
 /// How much larger than other texts the product's name is written.
 constexpr double kNameScale = 1.8;
@@ -44,7 +46,7 @@ constexpr int kLogoLines = 8;
 
 frmSplash::frmSplash(const ProductFacts& facts, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmSplash"));
-  setWindowTitle(QStringLiteral("About ") + facts.productName);
+  setWindowTitle(Texts::tr("About %1").arg(facts.productName));
   setModal(true);
   lblProductName_ = addLabel(QStringLiteral("lblProductName"));
   lblProductName_->setFont(enlarged(font(), kNameScale));
@@ -52,13 +54,13 @@ frmSplash::frmSplash(const ProductFacts& facts, QWidget* parent) : QDialog(paren
   AppDesc_ = addLabel(QStringLiteral("AppDesc"));
   lblPlatform_ = withText(addLabel(QStringLiteral("lblPlatform")), QString::fromUtf16(kPlatforms));
   lblSystem_ = addLabel(QStringLiteral("lblSystem"));
-  lblLicence_ = withText(addLabel(QStringLiteral("lblLicence")), QString::fromUtf16(kLicence));
+  lblLicence_ = withText(addLabel(QStringLiteral("lblLicence")), Texts::tr(kLicence));
 
   imgLogo_ = new LogoPicture(this);
   imgLogo_->setObjectName(QStringLiteral("imgLogo"));
-  imgLogo_->setAccessibleName(QStringLiteral("Logo: a lens over a list"));
+  imgLogo_->setAccessibleName(Texts::tr("Logo: a lens over a list"));
 
-  Command1_ = new QPushButton(QStringLiteral("&Close"), this);
+  Command1_ = new QPushButton(Texts::tr("&Close"), this);
   Command1_->setObjectName(QStringLiteral("Command1"));
   Command1_->setDefault(true);
   Command1_->setFocus();
@@ -101,10 +103,10 @@ void frmSplash::layOut() {
 
 void frmSplash::Form_Load(const ProductFacts& facts) {
   lblVersion_->setText(
-      QStringLiteral("Version %1.%2.%3").arg(facts.majorVersion).arg(facts.minorVersion).arg(facts.revision));
+      Texts::tr("Version %1.%2.%3").arg(facts.majorVersion).arg(facts.minorVersion).arg(facts.revision));
   lblProductName_->setText(facts.productName);
   AppDesc_->setText(facts.description);
-  if (!facts.system.isEmpty()) lblSystem_->setText(QStringLiteral("Runs on ") + facts.system);
+  if (!facts.system.isEmpty()) lblSystem_->setText(Texts::tr("Runs on %1").arg(facts.system));
   lblSystem_->setVisible(!facts.system.isEmpty());
   wrapWideLabels();
 }

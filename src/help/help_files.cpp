@@ -3,6 +3,7 @@
 #include "faults/runtime_fault.h"
 #include "files/file_reader.h"
 #include "files/path_style.h"
+#include "texts/texts.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -58,6 +59,11 @@ bool HelpFiles::isInside(const QString& path) const {
   return !canonicalFolder.isEmpty() && path.startsWith(withTrailingSeparator(canonicalFolder, kUnixPaths));
 }
 
+QString HelpFiles::addressOf(const QString& page) const {
+  const QString translated = folder_ + Texts::language() + QDir::separator() + page;
+  return QFileInfo(translated.section(u'#', 0, 0)).isFile() ? translated : folder_ + page;
+}
+
 HelpFile HelpFiles::read(const QUrl& url, HelpFileKind kind) const {
   const bool isLocal = url.isLocalFile() && url.host().isEmpty();
   const QString path = isLocal ? QDir::cleanPath(url.toLocalFile()) : QString();
@@ -85,7 +91,7 @@ QString helpFolder() {
 }
 
 QString helpPageAddress(const QString& pageName) {
-  return helpFolder() + pageName;
+  return HelpFiles(helpFolder()).addressOf(pageName);
 }
 
 }  // namespace quorvin

@@ -36,6 +36,10 @@ class HelpFiles {
   /// With a separator at its end.
   const QString& folder() const { return folder_; }
 
+  /// The address of one of the help's pages, such as "genhelp.htm" or "manual/hits.htm#menu": that of its
+  /// translation where it has one into the language that is spoken, in a folder named after the language.
+  QString addressOf(const QString& page) const;
+
   /// The file that `url` names (its fragment and query do not count). One whose name is not that of a file of
   /// this kind is refused. Never throws.
   HelpFile read(const QUrl& url, HelpFileKind kind) const;
@@ -54,7 +58,7 @@ QString helpFolder();
 /// "genhelp.htm"; `executableFolder` when neither does.
 QString chooseHelpFolder(const QString& executableFolder);
 
-/// The address of a help page such as "genhelp.htm": the help folder followed by that name.
+/// HelpFiles::addressOf() of the help folder.
 QString helpPageAddress(const QString& pageName);
 
 }  // namespace quorvin

@@ -1,5 +1,7 @@
 #include "help/help_view.h"
 
+#include "texts/texts.h"
+
 #include <QBuffer>
 #include <QEvent>
 #include <QFontMetrics>
@@ -197,25 +199,25 @@ FindBar::FindBar(QTextBrowser& page, QWidget* parent)
     : QWidget(parent), page_(page), text_(new QLineEdit(this)), outcome_(new QLabel(this)) {
   setObjectName(QStringLiteral("FindBar"));
   text_->setObjectName(QStringLiteral("FindText"));
-  text_->setAccessibleName(QStringLiteral("Find on this page"));
+  text_->setAccessibleName(Texts::tr("Find on this page"));
   text_->setClearButtonEnabled(true);
   if (auto* clear = text_->findChild<QToolButton*>()) clear->setAccessibleName(QStringLiteral("Clear"));
   text_->setMinimumWidth(fontMetrics().averageCharWidth() * kTextCharacters);
   text_->installEventFilter(this);
   outcome_->setObjectName(QStringLiteral("FindOutcome"));
-  auto* label = new QLabel(QStringLiteral("Find on this &page:"), this);
+  auto* label = new QLabel(Texts::tr("Find on this &page:"), this);
   label->setBuddy(text_);
 
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(4, 2, 4, 2);
   row->addWidget(label);
   row->addWidget(text_);
-  QToolButton* previous = addButton(QStringLiteral("P&revious"), QStringLiteral("Previous match (Shift+F3)"));
-  QToolButton* next = addButton(QStringLiteral("&Next"), QStringLiteral("Next match (F3)"));
+  QToolButton* previous = addButton(Texts::tr("P&revious"), Texts::tr("Previous match (Shift+F3)"));
+  QToolButton* next = addButton(Texts::tr("&Next"), Texts::tr("Next match (F3)"));
   row->addWidget(previous);
   row->addWidget(next);
   row->addWidget(outcome_, 1);
-  QToolButton* close = addButton(QStringLiteral("Close"), QStringLiteral("Close the find bar (Esc)"));
+  QToolButton* close = addButton(Texts::tr("Close"), Texts::tr("Close the find bar (Esc)"));
   row->addWidget(close);
 
   connect(text_, &QLineEdit::textEdited, this, &FindBar::findFromHere);
@@ -268,12 +270,12 @@ void FindBar::find(bool backwards) {
   const QTextCursor before = page_.textCursor();
   page_.moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
   if (page_.find(text_->text(), direction(backwards))) {
-    outcome_->setText(backwards ? QStringLiteral("Continued from the bottom")
-                                : QStringLiteral("Continued from the top"));
+    outcome_->setText(backwards ? Texts::tr("Continued from the bottom")
+                                : Texts::tr("Continued from the top"));
     return;
   }
   page_.setTextCursor(before);
-  outcome_->setText(QStringLiteral("Not on this page"));
+  outcome_->setText(Texts::tr("Not on this page"));
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {

@@ -1,5 +1,7 @@
 #include "help/page_loader.h"
 
+#include "texts/texts.h"
+
 #include <utility>
 
 namespace quorvin {
@@ -13,9 +15,9 @@ Page fetchedPage(const QUrl& asked, const TransferResult& result) {
     return decodedPage(address, result.body, result.contentType);
   }
   return messagePage(
-      asked, QStringLiteral("The page could not be fetched"),
-      result.failure +
-          QStringLiteral(" Check the address and your connection, then choose Refresh (F5) to try again."));
+      asked, Texts::tr("The page could not be fetched"),
+      result.failure + u' ' +
+          Texts::tr("Check the address and your connection, then choose Refresh (F5) to try again."));
 }
 
 }  // namespace
@@ -92,16 +94,15 @@ Page PageLoader::helpPage(const QUrl& address) const {
     case HelpFileState::Read:
       return decodedPage(address, file.bytes, "text/html; charset=utf-8");
     case HelpFileState::Missing:
-      return messagePage(
-          address, QStringLiteral("This help page is missing"),
-          QStringLiteral("The help pages come with the program and are kept in its folder. If they "
-                         "have been moved or removed, install the program again."));
+      return messagePage(address, Texts::tr("This help page is missing"),
+                         Texts::tr("The help pages come with the program and are kept in its folder. If they "
+                                   "have been moved or removed, install the program again."));
     case HelpFileState::Refused:
       break;
   }
-  return messagePage(address, QStringLiteral("This address cannot be opened here"),
-                     QStringLiteral("This window shows the program's help pages and plain web pages "
-                                    "(http and https). It opens no other files."));
+  return messagePage(address, Texts::tr("This address cannot be opened here"),
+                     Texts::tr("This window shows the program's help pages and plain web pages "
+                               "(http and https). It opens no other files."));
 }
 
 void PageLoader::show(const Page& page, Move move, int position) {

@@ -2,6 +2,7 @@
 
 #include "help/page.h"
 #include "platform/http_request.h"
+#include "texts/texts.h"
 
 #include <QLocale>
 #include <QNetworkReply>
@@ -21,14 +22,14 @@ QNetworkRequest requestFor(const QUrl& address, std::chrono::milliseconds silenc
 QString statusText(const QNetworkReply& reply) {
   const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   const QString reason = reply.attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString();
-  return QStringLiteral("The server answered: %1 %2").arg(status).arg(reason).trimmed() + u'.';
+  return Texts::tr("The server answered: %1 %2").arg(status).arg(reason).trimmed() + u'.';
 }
 
 QString failureOf(const QNetworkReply& reply) {
   const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   if (status >= 400) return statusText(reply);
   if (reply.error() == QNetworkReply::OperationCanceledError) {
-    return QStringLiteral("The server stopped sending data.");
+    return Texts::tr("The server stopped sending data.");
   }
   if (reply.error() != QNetworkReply::NoError) return reply.errorString() + u'.';
   return status == 200 ? QString() : statusText(reply);
@@ -39,8 +40,7 @@ QString failureOf(const QNetworkReply& reply) {
 NetworkPageTransfer::NetworkPageTransfer(PageTransferLimits limits, QObject* parent)
     : QObject(parent), limits_(limits) {
   deadline_.setSingleShot(true);
-  connect(&deadline_, &QTimer::timeout, this,
-          [this] { fail(QStringLiteral("The page took too long to load.")); });
+  connect(&deadline_, &QTimer::timeout, this, [this] { fail(Texts::tr("The page took too long to load.")); });
 }
 
 NetworkPageTransfer::~NetworkPageTransfer() {
@@ -78,15 +78,14 @@ void NetworkPageTransfer::headersArrived() {
   if (!failureOf(*reply_).isEmpty()) return;
   const QByteArray type = reply_->rawHeader("Content-Type");
   if (pageKind(type) != PageKind::Unknown) return;
-  const QString named =
-      type.isEmpty() ? QStringLiteral("data of an unknown type") : QString::fromLatin1(type);
-  fail(QStringLiteral("The server sent %1; only text pages can be shown here.").arg(named));
+  const QString named = type.isEmpty() ? Texts::tr("data of an unknown type") : QString::fromLatin1(type);
+  fail(Texts::tr("The server sent %1; only text pages can be shown here.").arg(named));
 }
 
 void NetworkPageTransfer::dataArrived() {
   body_ += reply_->readAll();
   if (body_.size() <= limits_.bytes) return;
-  fail(QStringLiteral("The page is larger than %1.").arg(QLocale::c().formattedDataSize(limits_.bytes, 0)));
+  fail(Texts::tr("The page is larger than %1.").arg(QLocale::c().formattedDataSize(limits_.bytes, 0)));
 }
 
 void NetworkPageTransfer::finished() {

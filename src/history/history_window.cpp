@@ -2,6 +2,7 @@
 
 #include "platform/screen_room.h"
 #include "platform/text_direction.h"
+#include "texts/texts.h"
 
 #include <QAbstractItemView>
 #include <QDateTime>
@@ -26,9 +27,9 @@ constexpr int kReadableRole = Qt::UserRole + 1;
 QTreeWidget* makeVersions() {
   auto* versions = new QTreeWidget;
   versions->setObjectName(QStringLiteral("Versions"));
-  versions->setAccessibleName(QStringLiteral("Earlier versions"));
-  versions->setHeaderLabels({QStringLiteral("Date"), QStringLiteral("Entries"), QStringLiteral("Size"),
-                             QStringLiteral("Complete")});
+  versions->setAccessibleName(Texts::tr("Earlier versions"));
+  versions->setHeaderLabels(
+      {Texts::tr("Date"), Texts::tr("Entries"), Texts::tr("Size"), Texts::tr("Complete")});
   // As what is below them.
   versions->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
   versions->headerItem()->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
@@ -44,12 +45,12 @@ QTreeWidget* makeVersions() {
 }
 
 QString completeness(const ListingVersion& version) {
-  if (!version.isReadable) return QStringLiteral("damaged");
-  return version.isComplete ? QStringLiteral("yes") : QStringLiteral("no");
+  if (!version.isReadable) return Texts::tr("damaged");
+  return version.isComplete ? Texts::tr("yes") : Texts::tr("no");
 }
 
 QString cannotBeRead(const QString& fault) {
-  return QStringLiteral("The listing history cannot be read: ") + fault;
+  return Texts::tr("The listing history cannot be read: %1").arg(fault);
 }
 
 QString dateOf(const ListingVersion& version, const QLocale& locale) {
@@ -68,21 +69,21 @@ HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& local
       present_(new QLabel),
       versions_(makeVersions()) {
   setObjectName(QStringLiteral("ListingHistory"));
-  setWindowTitle(QStringLiteral("Listing History"));
+  setWindowTitle(Texts::tr("Listing History"));
   listing_->setObjectName(QStringLiteral("Listing"));
-  listing_->setAccessibleName(QStringLiteral("Listing"));
-  listing_->view()->setAccessibleName(QStringLiteral("Listings that have earlier versions"));
+  listing_->setAccessibleName(Texts::tr("Listing"));
+  listing_->view()->setAccessibleName(Texts::tr("Listings that have earlier versions"));
   present_->setObjectName(QStringLiteral("Present"));
   present_->setTextFormat(Qt::PlainText);
   present_->setWordWrap(true);
-  auto* caption = new QLabel(QStringLiteral("&Listing:"));
+  auto* caption = new QLabel(Texts::tr("&Listing:"));
   caption->setBuddy(listing_);
 
   auto* buttons = new QDialogButtonBox;
-  restoreButton_ = buttons->addButton(QStringLiteral("&Restore"), QDialogButtonBox::ActionRole);
+  restoreButton_ = buttons->addButton(Texts::tr("&Restore"), QDialogButtonBox::ActionRole);
   restoreButton_->setObjectName(QStringLiteral("Restore"));
   restoreButton_->setAutoDefault(false);
-  QPushButton* close = buttons->addButton(QStringLiteral("&Close"), QDialogButtonBox::RejectRole);
+  QPushButton* close = buttons->addButton(Texts::tr("&Close"), QDialogButtonBox::RejectRole);
   close->setObjectName(QStringLiteral("close"));
   close->setDefault(true);
 
@@ -154,20 +155,21 @@ void HistoryWindow::listVersions(const QString& listing) {
 void HistoryWindow::showPresent(const QString& listing) {
   if (listing.isEmpty()) {
     present_->setText(
-        QStringLiteral("There are no earlier versions yet. One is kept whenever a rescan or an "
-                       "update replaces a listing by another."));
+        Texts::tr("There are no earlier versions yet. One is kept whenever a rescan or an "
+                  "update replaces a listing by another."));
     return;
   }
   const std::optional<ListingVersion> present = history_.present(listing);
-  present_->setText(present ? QStringLiteral("Now: ") + textOf(*present)
-                            : QStringLiteral("The listing itself is not there now."));
+  present_->setText(present ? Texts::tr("Now: %1").arg(textOf(*present))
+                            : Texts::tr("The listing itself is not there now."));
 }
 
 QString HistoryWindow::textOf(const ListingVersion& version) const {
-  return QStringLiteral("%1, %2 entries, %3, %4")
+  const int plural = Texts::plural(static_cast<std::int64_t>(version.entries));
+  return (version.isComplete ? Texts::tr("%1, %2 entries, %3, complete", nullptr, plural)
+                             : Texts::tr("%1, %2 entries, %3, incomplete", nullptr, plural))
       .arg(dateOf(version, locale_), locale_.toString(static_cast<qulonglong>(version.entries)),
-           locale_.formattedDataSize(static_cast<qint64>(version.size)),
-           version.isComplete ? QStringLiteral("complete") : QStringLiteral("incomplete"));
+           locale_.formattedDataSize(static_cast<qint64>(version.size)));
 }
 
 /// 0 when nothing that could be restored is selected.

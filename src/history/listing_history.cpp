@@ -5,6 +5,7 @@
 #include "files/file_identity.h"
 #include "files/file_lock.h"
 #include "files/folder_reader.h"
+#include "texts/texts.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -142,7 +143,7 @@ std::unique_ptr<ListingBytes> open(const std::vector<Stored>& versions, std::siz
   if (!version.head.base) return openVersion(version.path, nullptr);
   const std::optional<std::size_t> base = baseOf(versions, index);
   if (base) return openVersion(version.path, open(versions, *base));
-  throw DamagedVersion(version.path + QStringLiteral(" differs from a version that is missing"));
+  throw DamagedVersion(Texts::tr("%1 differs from a version that is missing").arg(version.path));
 }
 
 /// Writes a version anew, as what differs from another one. It stays as it is where that would not be
@@ -295,7 +296,7 @@ KeptListing ListingHistory::keep(const QString& listing, const QString& replacem
   } catch (const RuntimeFault& fault) {
     kept.fault = fault.description();
   } catch (const std::exception&) {
-    kept.fault = QStringLiteral("There is not enough memory");
+    kept.fault = Texts::tr("There is not enough memory");
   }
   return kept;
 }
@@ -345,7 +346,7 @@ void ListingHistory::restore(const QString& listing, int number) {
   const std::optional<FolderLock> lock = FolderLock::take(dataFolder_);
   if (!lock) {
     throw RuntimeFault(FaultNumber::PathFileAccess,
-                       QStringLiteral("The listing cannot be restored now: a refresh is running."));
+                       Texts::tr("The listing cannot be restored now: a refresh is running."));
   }
   const std::unique_ptr<ListingBytes> version = text(listing, number);
   const std::optional<VersionHead> head = readVersionHead(versionPath(listing, number));

@@ -2,6 +2,7 @@
 
 #include "files/file_reader.h"
 #include "search/format/listing_line.h"
+#include "texts/texts.h"
 
 #include <QtEndian>
 
@@ -36,14 +37,15 @@ constexpr std::uint32_t kIsDifference = 1;
 constexpr std::uint32_t kIsIncomplete = 2;
 
 [[noreturn]] void failDamaged(const QString& path) {
-  throw DamagedVersion(path + QStringLiteral(" is damaged"));
+  throw DamagedVersion(Texts::tr("%1 is damaged").arg(path));
 }
 
 std::size_t checked(std::size_t result) {
   if (ZSTD_isError(result) == 0) return result;
   if (ZSTD_getErrorCode(result) == ZSTD_error_memory_allocation) throw std::bad_alloc();
-  throw RuntimeFault(FaultNumber::PathFileAccess, QStringLiteral("The listing could not be packed: ") +
-                                                      QString::fromUtf8(ZSTD_getErrorName(result)));
+  throw RuntimeFault(
+      FaultNumber::PathFileAccess,
+      Texts::tr("The listing could not be packed: %1").arg(QString::fromUtf8(ZSTD_getErrorName(result))));
 }
 
 /// As many bytes as there are, up to the buffer's size.
@@ -371,8 +373,8 @@ void writeVersion(FileWriter& writer, const VersionHead& head, ListingBytes& tex
     if (pause) pause();
   }
   if (packedBytes == head.text.size && sum.value() == head.text.checksum) return;
-  throw RuntimeFault(FaultNumber::DeviceError, describe(FaultNumber::DeviceError) +
-                                                   QStringLiteral(": the listing changed while it was read"));
+  throw RuntimeFault(FaultNumber::DeviceError, describe(FaultNumber::DeviceError) + QStringLiteral(": ") +
+                                                   Texts::tr("the listing changed while it was read"));
 }
 
 }  // namespace quorvin

@@ -4,6 +4,7 @@
 #include "files/path_style.h"
 #include "platform/text_encoding.h"
 #include "state/settings.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <array>
@@ -17,16 +18,19 @@ constexpr qsizetype kExtensionLength = 4;
 constexpr std::array<QStringView, 5> kPictureExtensions = {u".wmf", u".emf", u".bmp", u".jpg", u".gif"};
 constexpr std::array<QStringView, 2> kAudioExtensions = {u".mp3", u".wav"};
 
-constexpr char16_t kNoPlayer[] =
-    u"No audio player was found. Install one of Audacious, VLC, Strawberry, Clementine, DeaDBeeF or "
-    u"Rhythmbox, or set EnqueueCommand in the settings to the command of your player.";
-constexpr char16_t kPlayerNotStarted[] =
-    u"The audio player could not be started. Please check the command in the setting EnqueueCommand.";
+constexpr char kNoPlayer[] = QT_TRANSLATE_NOOP(
+    "Texts",
+    "No audio player was found. Install one of Audacious, VLC, Strawberry, Clementine, DeaDBeeF or "
+    "Rhythmbox, or set EnqueueCommand in the settings to the command of your player.");
+constexpr char kPlayerNotStarted[] = QT_TRANSLATE_NOOP(
+    "Texts",
+    "The audio player could not be started. Please check the command in the setting EnqueueCommand.");
 
 QString badFileNameText(const HitPath& path) {
-  return QStringLiteral("Bad file name Launching: ") + path.fullPath() +
-         QStringLiteral("\r\nThe file may have been renamed, deleted or moved.") +
-         QStringLiteral(" Try rescanning the file lists.");
+  return Texts::tr(
+             "Bad file name Launching: %1\r\n"
+             "The file may have been renamed, deleted or moved. Try rescanning the file lists.")
+      .arg(path.fullPath());
 }
 
 }  // namespace
@@ -118,15 +122,15 @@ void HitActions::enqueueFile(const HitPath& path) const {
     case EnqueueOutcome::HandedOver:
       return;
     case EnqueueOutcome::NoPlayer:
-      return messages_.inform(QString::fromUtf16(kNoPlayer));
+      return messages_.inform(Texts::tr(kNoPlayer));
     case EnqueueOutcome::NotStarted:
-      return messages_.inform(QString::fromUtf16(kPlayerNotStarted));
+      return messages_.inform(Texts::tr(kPlayerNotStarted));
   }
 }
 
 void HitActions::tellFault(const RuntimeFault& fault, const HitPath& path) const {
   if (fault.faultNumber() == FaultNumber::BadFileName) return messages_.inform(badFileNameText(path));
-  messages_.inform(QStringLiteral("Launch Error: ") + QString::number(fault.number()) + fault.description());
+  messages_.inform(Texts::tr("Launch Error: %1%2").arg(QString::number(fault.number()), fault.description()));
 }
 
 QString enqueueCommand(const SettingsStore& settings, const ProgramState& state) {

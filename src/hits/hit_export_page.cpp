@@ -1,5 +1,6 @@
 #include "hits/hit_export.h"
 #include "platform/text_encoding.h"
+#include "texts/texts.h"
 
 #include <QFile>
 
@@ -13,12 +14,35 @@ namespace {
 
 /// Where the hits go in the page.
 constexpr char kHitsMark[] = "<!--HITS-->";
+/// What the page says, where it has {{text}}.
+constexpr std::array kPageTexts = {
+    QT_TRANSLATE_NOOP("Texts", "en"),
+    QT_TRANSLATE_NOOP("Texts", "Hits"),
+    QT_TRANSLATE_NOOP("Texts", "Search in these hits:"),
+    QT_TRANSLATE_NOOP("Texts", "%1 of %2 shown"),
+    QT_TRANSLATE_NOOP("Texts", "Match"),
+    QT_TRANSLATE_NOOP("Texts", "Volume"),
+    QT_TRANSLATE_NOOP("Texts", "Folder"),
+    QT_TRANSLATE_NOOP("Texts", "Name"),
+    QT_TRANSLATE_NOOP("Texts", "Size"),
+    QT_TRANSLATE_NOOP("Texts", "Date"),
+    QT_TRANSLATE_NOOP("Texts", "From the listing of an online source"),
+    QT_TRANSLATE_NOOP("Texts", "From the main data file"),
+    QT_TRANSLATE_NOOP("Texts", "From an offline listing"),
+    QT_TRANSLATE_NOOP("Texts", "No hit holds all of these words."),
+    QT_TRANSLATE_NOOP("Texts", "This page shows its hits with a script of its own; please allow it to run."),
+};
 /// The page reads this many at once.
 constexpr int kHitsInABlock = 1000;
 
 std::string pageTemplate() {
   QFile file(QStringLiteral(":/quorvin/hits/hit_page.html"));
-  return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QString page = QString::fromUtf8(file.readAll());
+  for (const char* text : kPageTexts) {
+    page.replace(QStringLiteral("{{%1}}").arg(QLatin1String(text)), Texts::tr(text).toHtmlEscaped());
+  }
+  return page.toStdString();
 }
 
 /// Appends a text of JSON. Nothing in it can be taken for a tag or the end of the script around it, and every

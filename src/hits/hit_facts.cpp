@@ -8,6 +8,7 @@
 #include "platform/text_encoding.h"
 #include "search/format/listing_line.h"
 #include "search/format/listing_text.h"
+#include "texts/texts.h"
 
 #include <QFileInfo>
 
@@ -22,18 +23,14 @@ namespace {
 
 constexpr std::size_t kChunk = std::size_t{1} << 18;
 
-QString fromLatin(const char* text) {
-  return QString::fromLatin1(text);
-}
-
 QString sourceText(SourceKind kind) {
   switch (kind) {
     case SourceKind::Online:
-      return fromLatin("Folder of your own");
+      return Texts::tr("Folder of your own");
     case SourceKind::MainDataFile:
-      return fromLatin("Main data file");
+      return Texts::tr("Main data file");
     case SourceKind::Offline:
-      return fromLatin("Offline listing");
+      return Texts::tr("Offline listing");
   }
   return {};
 }
@@ -41,7 +38,7 @@ QString sourceText(SourceKind kind) {
 QString pathText(const KnownHit& hit) {
   if (!hit.file.isEmpty()) return hit.file.fullPath();
   if (!hit.expectedPath.isEmpty()) return hit.expectedPath;
-  return fromLatin("Not known: only folders of your own can be reached");
+  return Texts::tr("Not known: only folders of your own can be reached");
 }
 
 /// The bytes of a line as UTF-8.
@@ -56,43 +53,46 @@ std::string utf8Of(std::string_view line) {
 std::vector<HitFact> factsOf(const KnownHit& hit, const QLocale& locale) {
   const HitRow& row = hit.row;
   const auto shown = [&](HitColumn column) { return hitText(row, column, locale); };
-  const QString isThere = fromLatin(hit.file.isEmpty() ? "Not found on a connected drive" : "Is there");
+  const QString isThere =
+      hit.file.isEmpty() ? Texts::tr("Not found on a connected drive") : Texts::tr("Is there");
   return {
-      {fromLatin("Match"), fromLatin("Match"), shown(HitColumn::Match)},
-      {fromLatin("Words"), fromLatin("Words found"),
-       hit.words.isEmpty() ? fromLatin("1 of 1 word") : hit.words},
-      {fromLatin("Volume"), fromLatin("Volume"), row.volume},
-      {fromLatin("Folder"), fromLatin("Folder"), row.folder},
-      {fromLatin("Name"), fromLatin("Name"), row.name},
-      {fromLatin("Size"), fromLatin("Size"), shown(HitColumn::Size)},
-      {fromLatin("Bytes"), fromLatin("Size in bytes"), locale.toString(row.size)},
-      {fromLatin("Date"), fromLatin("Date"), shown(HitColumn::Date)},
-      {fromLatin("Moment"), fromLatin("Date and time"), generalDateText(row.date, locale)},
-      {fromLatin("Source"), fromLatin("Source"), sourceText(row.kind)},
-      {fromLatin("Listing"), fromLatin("Listing"), hit.listing},
-      {fromLatin("Path"), fromLatin("File"), pathText(hit)},
-      {fromLatin("State"), fromLatin("State"), isThere},
+      {QStringLiteral("Match"), Texts::tr("Match"), shown(HitColumn::Match)},
+      {QStringLiteral("Words"), Texts::tr("Words found"),
+       hit.words.isEmpty() ? Texts::tr("1 of 1 word") : hit.words},
+      {QStringLiteral("Volume"), Texts::tr("Volume"), row.volume},
+      {QStringLiteral("Folder"), Texts::tr("Folder"), row.folder},
+      {QStringLiteral("Name"), Texts::tr("Name"), row.name},
+      {QStringLiteral("Size"), Texts::tr("Size"), shown(HitColumn::Size)},
+      {QStringLiteral("Bytes"), Texts::tr("Size in bytes"), locale.toString(row.size)},
+      {QStringLiteral("Date"), Texts::tr("Date"), shown(HitColumn::Date)},
+      {QStringLiteral("Moment"), Texts::tr("Date and time"), generalDateText(row.date, locale)},
+      {QStringLiteral("Source"), Texts::tr("Source"), sourceText(row.kind)},
+      {QStringLiteral("Listing"), Texts::tr("Listing"), hit.listing},
+      {QStringLiteral("Path"), Texts::tr("File"), pathText(hit)},
+      {QStringLiteral("State"), Texts::tr("State"), isThere},
   };
 }
 
 QString whichDiskText(const KnownHit& hit) {
   const HitRow& row = hit.row;
-  if (!hit.file.isEmpty()) return fromLatin("The file is on a connected drive:\r\n") + hit.file.fullPath();
-  const QString where = fromLatin("\r\n\r\nIn the catalogue: ") + row.folder + row.name +
-                        fromLatin("\r\nListing: ") + hit.listing;
+  if (!hit.file.isEmpty())
+    return Texts::tr("The file is on a connected drive:") + QStringLiteral("\r\n") + hit.file.fullPath();
+  const QString where = QStringLiteral("\r\n\r\n") +
+                        Texts::tr("In the catalogue: %1").arg(row.folder + row.name) +
+                        QStringLiteral("\r\n") + Texts::tr("Listing: %1").arg(hit.listing);
   if (hit.sourceFolder.isEmpty()) {
-    return fromLatin("The file is on the volume \"%1\". Insert that disk to get at it.").arg(row.volume) +
+    return Texts::tr("The file is on the volume \"%1\". Insert that disk to get at it.").arg(row.volume) +
            where;
   }
-  const QString catalogued = fromLatin("\r\nCatalogued from: ") + hit.sourceFolder;
+  const QString catalogued = QStringLiteral("\r\n") + Texts::tr("Catalogued from: %1").arg(hit.sourceFolder);
   if (QFileInfo(hit.sourceFolder).isDir()) {
-    return fromLatin(
+    return Texts::tr(
                "The folder of \"%1\" is connected, but the file is not there any more. It may have been "
                "renamed, moved or deleted.")
                .arg(row.volume) +
            where + catalogued;
   }
-  return fromLatin(
+  return Texts::tr(
              "The file is on the volume \"%1\", which is not connected. Insert or connect it to get at "
              "the file.")
              .arg(row.volume) +

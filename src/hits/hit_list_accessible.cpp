@@ -1,4 +1,5 @@
 #include "hits/hit_list.h"
+#include "texts/texts.h"
 
 #include <QAccessible>
 #include <QAccessibleInterface>
@@ -87,9 +88,8 @@ QString orderOf(const HitListView& view) {
   const int column = header.sortIndicatorSection();
   if (!view.model() || column < 0 || column >= view.model()->columnCount()) return {};
   const QString title = view.model()->headerData(column, Qt::Horizontal).toString();
-  return header.sortIndicatorOrder() == Qt::AscendingOrder
-             ? QStringLiteral("Sorted by %1, ascending").arg(title)
-             : QStringLiteral("Sorted by %1, descending").arg(title);
+  return header.sortIndicatorOrder() == Qt::AscendingOrder ? Texts::tr("Sorted by %1, ascending").arg(title)
+                                                           : Texts::tr("Sorted by %1, descending").arg(title);
 }
 
 /// The list: its rows, which get their interfaces when they are asked for, and the buttons in an empty one.

@@ -1,5 +1,7 @@
 #include "hits/hit_list_model.h"
 
+#include "texts/texts.h"
+
 #include <QColor>
 
 #include <array>
@@ -9,8 +11,10 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::array<const char16_t*, kHitColumnCount> kColumnTitles = {u"Match", u"Volume", u"Folder",
-                                                                        u"Name",  u"Size",   u"Date"};
+constexpr std::array<const char*, kHitColumnCount> kColumnTitles = {
+    QT_TRANSLATE_NOOP("Texts", "Match"),  QT_TRANSLATE_NOOP("Texts", "Volume"),
+    QT_TRANSLATE_NOOP("Texts", "Folder"), QT_TRANSLATE_NOOP("Texts", "Name"),
+    QT_TRANSLATE_NOOP("Texts", "Size"),   QT_TRANSLATE_NOOP("Texts", "Date")};
 
 /// Numbers that are compared down the column are aligned to the right.
 Qt::Alignment columnAlignment(int column) {
@@ -24,11 +28,11 @@ Qt::Alignment columnAlignment(int column) {
 QString sourceKindText(SourceKind kind) {
   switch (kind) {
     case SourceKind::Online:
-      return QStringLiteral("From the listing of an online source");
+      return Texts::tr("From the listing of an online source");
     case SourceKind::MainDataFile:
-      return QStringLiteral("From the main data file");
+      return Texts::tr("From the main data file");
     case SourceKind::Offline:
-      return QStringLiteral("From an offline listing");
+      return Texts::tr("From an offline listing");
   }
   return {};
 }
@@ -107,7 +111,7 @@ QVariant HitListModel::headerData(int section, Qt::Orientation orientation, int 
   if (orientation != Qt::Horizontal || section < 0 || section >= kHitColumnCount) return {};
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromUtf16(kColumnTitles[static_cast<std::size_t>(section)]);
+      return Texts::tr(kColumnTitles[static_cast<std::size_t>(section)]);
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(columnAlignment(section));
     default:

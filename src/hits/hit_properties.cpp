@@ -1,6 +1,7 @@
 #include "hits/hit_properties.h"
 
 #include "platform/screen_room.h"
+#include "texts/texts.h"
 
 #include <QClipboard>
 #include <QElapsedTimer>
@@ -17,7 +18,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr QLatin1String kLineLabel("Line in the listing");
+constexpr char kLineLabel[] = QT_TRANSLATE_NOOP("Texts", "Line in the listing");
 constexpr int kValueCharacters = 64;
 /// As long as events may be held up.
 constexpr qint64 kMillisecondsOfReading = 8;
@@ -29,8 +30,8 @@ QScrollArea* makeScrolling(QFormLayout* rows) {
   inner->setLayout(rows);
   auto* area = new QScrollArea;
   area->setObjectName(QStringLiteral("Values"));
-  area->setAccessibleName(QStringLiteral("Values"));
-  area->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the values"));
+  area->setAccessibleName(Texts::tr("Values"));
+  area->verticalScrollBar()->setAccessibleName(Texts::tr("Scroll the values"));
   area->setWidget(inner);
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
@@ -43,7 +44,7 @@ QScrollArea* makeScrolling(QFormLayout* rows) {
 /// may be what tells a path from others.
 int widthOfValues(const std::vector<HitFact>& facts, const QFontMetrics& metrics, int most) {
   int values = metrics.averageCharWidth() * kValueCharacters;
-  int labels = metrics.horizontalAdvance(QString(kLineLabel));
+  int labels = metrics.horizontalAdvance(Texts::tr(kLineLabel));
   for (const HitFact& fact : facts) {
     values = std::max(values, metrics.horizontalAdvance(fact.value) + metrics.height());
     labels = std::max(labels, metrics.horizontalAdvance(fact.label));
@@ -57,7 +58,7 @@ int widthOfValues(const std::vector<HitFact>& facts, const QFontMetrics& metrics
 HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget* parent)
     : QDialog(parent), locale_(locale), finder_(hit.listing, hit.row) {
   setObjectName(QStringLiteral("HitProperties"));
-  setWindowTitle(QStringLiteral("Properties of ") + hit.row.name);
+  setWindowTitle(Texts::tr("Properties of %1").arg(hit.row.name));
 
   const QSize most = largestInside(*screen());
   const std::vector<HitFact> facts = factsOf(hit, locale);
@@ -67,13 +68,13 @@ HitProperties::HitProperties(const KnownHit& hit, const QLocale& locale, QWidget
   for (const HitFact& fact : facts) {
     addRow(rows, fact);
     if (fact.name != u"Listing") continue;
-    line_ = addRow(rows, {QStringLiteral("Line"), kLineLabel, QStringLiteral("Being looked for...")});
+    line_ = addRow(rows, {QStringLiteral("Line"), Texts::tr(kLineLabel), Texts::tr("Being looked for...")});
   }
 
-  auto* copy = new QPushButton(QStringLiteral("C&opy All"), this);
+  auto* copy = new QPushButton(Texts::tr("C&opy All"), this);
   copy->setObjectName(QStringLiteral("CopyAll"));
   copy->setAutoDefault(false);
-  auto* close = new QPushButton(QStringLiteral("&Close"), this);
+  auto* close = new QPushButton(Texts::tr("&Close"), this);
   close->setObjectName(QStringLiteral("CloseButton"));
   close->setDefault(true);
   connect(copy, &QPushButton::clicked, this, &HitProperties::Copy_Click);
@@ -134,7 +135,7 @@ void HitProperties::readOn() {
 
 void HitProperties::showLine() {
   const std::optional<std::int64_t> line = finder_.line();
-  line_->setText(line ? locale_.toString(*line) : QStringLiteral("Not in the listing any more"));
+  line_->setText(line ? locale_.toString(*line) : Texts::tr("Not in the listing any more"));
   line_->setToolTip(line_->text());
 }
 

@@ -1,5 +1,7 @@
 #include "hits/row_order.h"
 
+#include "texts/texts.h"
+
 #include <QScopeGuard>
 #include <QTimerEvent>
 
@@ -27,7 +29,7 @@ QString orderNote(const HitOrder& order, std::int64_t hits, const QLocale& local
   const bool isText = order.column == HitColumn::Volume || order.column == HitColumn::Folder ||
                       order.column == HitColumn::Name;
   if (!isText || textOrder(hits, mostInLocaleOrder) == TextOrder::Locale) return {};
-  return QStringLiteral("More than %1 hits: sorted by their text in lower case")
+  return Texts::tr("More than %1 hits: sorted by their text in lower case")
       .arg(locale.toString(mostInLocaleOrder));
 }
 

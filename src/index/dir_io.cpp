@@ -3,6 +3,7 @@
 #include "files/file_lookup.h"
 #include "platform/text_encoding.h"
 #include "search/format/listing_line.h"
+#include "texts/texts.h"
 
 #include <QScopeGuard>
 
@@ -31,6 +32,18 @@ constexpr std::string_view kNeverListed = "pagefile.sys";
 
 bool fitsEveryName(const QString& pattern) {
   return pattern == QStringLiteral("*.*") || pattern == QStringLiteral("*");
+}
+
+QString tooManyText(FullTable kind, std::size_t leftOut) {
+  const int plural = Texts::plural(static_cast<std::int64_t>(leftOut));
+  if (kind == FullTable::Files) {
+    return (leftOut == 1 ? Texts::tr("holds too many files; %1 name was left out")
+                         : Texts::tr("holds too many files; %1 names were left out", nullptr, plural))
+        .arg(leftOut);
+  }
+  return (leftOut == 1 ? Texts::tr("holds too many sub-folders; %1 name was left out")
+                       : Texts::tr("holds too many sub-folders; %1 names were left out", nullptr, plural))
+      .arg(leftOut);
 }
 
 }  // namespace
@@ -108,7 +121,7 @@ WalkPlan DirIO::plan() const {
 // The path above all names is the user's own, and no pass over names has looked at it.
 void DirIO::noteHostileTop(const std::string& listed) {
   if (lineText(listed) != listed) {
-    faults_.note({}, QStringLiteral(" Contains unsuported characters represented by the ?"));
+    faults_.note({}, u' ' + Texts::tr("Contains unsuported characters represented by the ?"));
   }
   faults_.noteMark({}, markInFolder(listed));
 }
@@ -127,7 +140,7 @@ void DirIO::walkOn() {
 void DirIO::walkSubFolder(std::string_view name) {
   const std::size_t withSeparator = name.size() + 1;
   if (listedPath_.size() + withSeparator > kLongestListedFolder) {
-    faults_.note(name, QStringLiteral(" was left out: its path is too long for a listing"));
+    faults_.note(name, u' ' + Texts::tr("was left out: its path is too long for a listing"));
     return;
   }
   Level& level = addLevel();
@@ -265,7 +278,7 @@ bool DirIO::writeFile(std::string_view name, NameTraits traits) {
   if (file.size > kLargestListedSize) {
     faults_.note(
         name,
-        QStringLiteral(" is too large for a listing; its size was written as %1").arg(kLargestListedSize));
+        u' ' + Texts::tr("is too large for a listing; its size was written as %1").arg(kLargestListedSize));
   }
   line_.clear();
   entryLines_.append(line_, file);
@@ -306,7 +319,7 @@ bool FolderNames::read(NameTable& subFolders, const NameChoice& choice) {
     if (step == Step::Skipped || found.bytes.empty()) break;
     if (!take(subFolders, found)) return false;
   }
-  return report(subFoldersLeftOut_, QStringLiteral("sub-folders"), subFolders.size());
+  return report(subFoldersLeftOut_, FullTable::SubFolders, subFolders.size());
 }
 
 bool FolderNames::take(NameTable& subFolders, const FolderName& found) {
@@ -335,7 +348,7 @@ bool FolderNames::takeLink(NameTable& subFolders, std::string_view name, NameUse
 
 // Only what is a file goes on into the listing.
 void FolderNames::takeQuestioned(const FolderName& found, NameUse use) {
-  faults_.note(found.bytes, QStringLiteral(" Contains unsuported characters represented by the ?"));
+  faults_.note(found.bytes, u' ' + Texts::tr("Contains unsuported characters represented by the ?"));
   NameStatus target{found.kind, 0, 0};
   if (use.lookUpAtOnce && folders_.lookUp(found.bytes.data(), target) != 0) return;
   if (target.kind == NameKind::File && choice_.lists(found.bytes)) {
@@ -356,17 +369,15 @@ void FolderNames::takeFile(std::string_view name, NameTraits traits) {
 }
 
 bool FolderNames::checkFileCount() {
-  return report(filesLeftOut_, QStringLiteral("files"), files_.size());
+  return report(filesLeftOut_, FullTable::Files, files_.size());
 }
 
 // False when the folder is to be left at once.
-bool FolderNames::report(const LeftOut& leftOut, const QString& kind, std::size_t room) {
+bool FolderNames::report(const LeftOut& leftOut, FullTable kind, std::size_t room) {
   const std::size_t count = leftOut.count;
   if (count == 0) return true;
   if (faults_.reportFull(leftOut.first, kind, count, room + count) == Step::LeaveFolder) return false;
-  const QString names =
-      count == 1 ? QStringLiteral("1 name was") : QStringLiteral("%1 names were").arg(count);
-  faults_.note({}, QStringLiteral(" holds too many %1; %2 left out").arg(kind, names));
+  faults_.note({}, u' ' + tooManyText(kind, count));
   return true;
 }
 

@@ -156,7 +156,7 @@ class FolderNames {
   bool takeLink(NameTable& subFolders, std::string_view name, NameUse use);
   void takeQuestioned(const FolderName& found, NameUse use);
   void takeFile(std::string_view name, std::uint8_t traits);
-  bool report(const LeftOut& leftOut, const QString& kind, std::size_t room);
+  bool report(const LeftOut& leftOut, FullTable kind, std::size_t room);
 
   FolderReader& folders_;
   WalkFaults& faults_;

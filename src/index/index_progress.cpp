@@ -1,5 +1,7 @@
 #include "index/index_progress.h"
 
+#include "texts/texts.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -12,10 +14,6 @@ namespace {
 constexpr double kBytesOfOne = 111;
 /// A source that has grown is not done before it says so.
 constexpr double kMostBeforeTheEnd = 0.99;
-
-QString counted(std::int64_t count, const QString& one, const QLocale& locale) {
-  return count == 1 ? QStringLiteral("1 ") + one : locale.toString(count) + u' ' + one + u's';
-}
 
 }  // namespace
 
@@ -75,7 +73,7 @@ void IndexProgress::letEventsRun(const IndexCounts& counts) {
 void IndexProgress::show() {
   WorkDisplay& display = job_.display();
   if (std::exchange(isFolderNew_, false)) {
-    display.setStatus(QStringLiteral("Indexing: ") + QString::fromStdString(folder_));
+    display.setStatus(Texts::tr("Indexing: %1").arg(QString::fromStdString(folder_)));
   }
   display.setDetail(countsText());
   if (const std::optional<int> percent = share_.percent()) {
@@ -86,8 +84,12 @@ void IndexProgress::show() {
 }
 
 QString IndexProgress::countsText() const {
-  return counted(counts_.files, QStringLiteral("file"), locale_) + QStringLiteral(" in ") +
-         counted(counts_.folders, QStringLiteral("folder"), locale_);
+  const QString files = (counts_.files == 1 ? Texts::tr("%1 file")
+                                            : Texts::tr("%1 files", nullptr, Texts::plural(counts_.files)))
+                            .arg(locale_.toString(static_cast<qlonglong>(counts_.files)));
+  return (counts_.folders == 1 ? Texts::tr("%1 in %2 folder", "files")
+                               : Texts::tr("%1 in %2 folders", "files", Texts::plural(counts_.folders)))
+      .arg(files, locale_.toString(static_cast<qlonglong>(counts_.folders)));
 }
 
 }  // namespace quorvin

@@ -8,6 +8,7 @@
 #include "index/dir_io.h"
 #include "index/walk_faults.h"
 #include "platform/text_encoding.h"
+#include "texts/texts.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -82,7 +83,8 @@ class Refresh {
     outcome_ = &outcome;
     for (int row = 1; row <= state_.OnlineSourceCount; ++row) {
       progress_.job().display().setTitle(
-          QStringLiteral(" Updating online file lists... %1 of %2").arg(row).arg(state_.OnlineSourceCount));
+          //: Keep the three dots and the blank behind them.
+          u' ' + Texts::tr("Updating online file lists... %1 of %2").arg(row).arg(state_.OnlineSourceCount));
       progress_.beginSource(row);
       const Ending ending = refreshSource(sourceIn(row));
       outcome.isStopped = ending == Ending::Stopped;
@@ -112,9 +114,8 @@ class Refresh {
     const QString temporary = temporaryOf(source.listing);
     for (const QString& file : {temporary, source.listing}) {
       if (!state_.isOwnFile(file)) continue;
-      note(QStringLiteral(
-               "The listing of %1 was not made, since it would overwrite %2; please give it another "
-               "description")
+      note(Texts::tr("The listing of %1 was not made, since it would overwrite %2; please give it another "
+                     "description")
                .arg(source.description, file));
       return Ending::Kept;
     }
@@ -139,7 +140,7 @@ class Refresh {
 
   Ending keptAsItIs(const Source& source) {
     ++outcome_->missing;
-    note(QStringLiteral("%1 not found; the listing of %2 was kept").arg(source.path, source.description));
+    note(Texts::tr("%1 not found; the listing of %2 was kept").arg(source.path, source.description));
     return Ending::Kept;
   }
 
@@ -168,10 +169,10 @@ class Refresh {
     addToOutcome(walked, changes);
     madeFrom_.insert(source.listing, source.path);
     if (!sameListingFrom.isEmpty()) {
-      note(QStringLiteral(
-               "The listing of %1 from %2 was replaced by that from %3, which has the same description; "
-               "please give one of them another description")
-               .arg(source.description, sameListingFrom, source.path));
+      note(
+          Texts::tr("The listing of %1 from %2 was replaced by that from %3, which has the same description; "
+                    "please give one of them another description")
+              .arg(source.description, sameListingFrom, source.path));
     }
     noteEarlier(source, walked, kept);
     return Ending::Made;
@@ -203,17 +204,16 @@ class Refresh {
   // What the new listing lacks that the earlier one has, and how to have that one back.
   void noteEarlier(const Source& source, const WalkResult& walked, const KeptListing& kept) {
     if (!kept.fault.isEmpty()) {
-      note(QStringLiteral("The earlier listing of %1 could not be kept in the listing history: %2")
+      note(Texts::tr("The earlier listing of %1 could not be kept in the listing history: %2")
                .arg(source.description, kept.fault));
     }
     if (!walked.isWhole) {
-      note(QStringLiteral("The listing of %1 is incomplete, since the rescan was stopped")
-               .arg(source.description) +
-           earlierOf(source));
+      note(
+          Texts::tr("The listing of %1 is incomplete, since the rescan was stopped").arg(source.description) +
+          earlierOf(source));
     } else if (walked.files == 0 && kept.entries > 0) {
-      note(QStringLiteral(
-               "%1 holds no files any more; if its drive is not connected, connect it and rescan. The "
-               "listing of %2 is empty now")
+      note(Texts::tr("%1 holds no files any more; if its drive is not connected, connect it and rescan. The "
+                     "listing of %2 is empty now")
                .arg(source.path, source.description) +
            earlierOf(source));
     }
@@ -227,9 +227,11 @@ class Refresh {
       // So that whoever looks for an earlier version learns why there is none.
     }
     if (!earlier) return {};
-    return QStringLiteral("; File, Listing History brings back the one of %1 with %2 entries")
-        .arg(locale_.toString(QDateTime::fromMSecsSinceEpoch(earlier->made), QLocale::ShortFormat),
-             locale_.toString(static_cast<qulonglong>(earlier->entries)));
+    return QStringLiteral("; ") +
+           Texts::tr("File, Listing History brings back the one of %1 with %2 entries", nullptr,
+                     Texts::plural(static_cast<std::int64_t>(earlier->entries)))
+               .arg(locale_.toString(QDateTime::fromMSecsSinceEpoch(earlier->made), QLocale::ShortFormat),
+                    locale_.toString(static_cast<qulonglong>(earlier->entries)));
   }
 
   /// The listing's name in the data folder. That may be another one by now; its history is not this one's.
@@ -259,7 +261,7 @@ RefreshOutcome refreshLocalLists(ProgramState& state, Job& job, MessageBoxes& me
   RefreshOutcome outcome;
   const std::optional<FolderLock> lock = FolderLock::take(state.LocalFolder);
   if (!lock) {
-    outcome.fault = QStringLiteral("The local lists cannot be refreshed now: another refresh is running.");
+    outcome.fault = Texts::tr("The local lists cannot be refreshed now: another refresh is running.");
     return outcome;
   }
   WorkDisplay& display = job.display();
@@ -268,7 +270,7 @@ RefreshOutcome refreshLocalLists(ProgramState& state, Job& job, MessageBoxes& me
   try {
     Refresh(state, job, messages, locale).run(outcome);
   } catch (const RuntimeFault& fault) {
-    outcome.fault = QStringLiteral("Error Refreshing Local Lists:") + fault.description();
+    outcome.fault = Texts::tr("Error Refreshing Local Lists:%1").arg(fault.description());
     job.hide();
     return outcome;
   }

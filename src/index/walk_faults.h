@@ -25,6 +25,9 @@ enum class Step { Done, Skipped, LeaveFolder };
 /// listing without it must not pass for a whole one.
 void throwIfExhausted(int errorNumber, const QString& path);
 
+/// Which table of a folder is full.
+enum class FullTable { Files, SubFolders };
+
 /// Decides by the fault's number: a name that is not found (53) or not accessible (75) is logged and the walk
 /// goes on; anything else is asked about with Abort, Retry and Ignore.
 class WalkFaults {
@@ -57,7 +60,7 @@ class WalkFaults {
 
   /// Asks about a table that is full, until the user does not want to retry it any more: `leftOut` names that
   /// begin with `first`, out of `all` of this `kind`, have no room in it.
-  Step reportFull(std::string_view first, const QString& kind, std::size_t leftOut, std::size_t all);
+  Step reportFull(std::string_view first, FullTable kind, std::size_t leftOut, std::size_t all);
 
   /// While the files' sizes and dates are read, a file that is not found is not logged: it has its line.
   void setFilePass(bool inFilePass) { inFilePass_ = inFilePass; }

@@ -38,7 +38,7 @@ QByteArray cleanText(QByteArrayView text, std::int64_t longest) {
 
 QImage imageOf(const MetafileBytes& rows, std::uint32_t width, std::uint32_t height) {
   QImage image(static_cast<int>(width), static_cast<int>(height), QImage::Format_RGB32);
-  if (image.isNull()) throw MetafileFault("there is not enough memory for it");
+  if (image.isNull()) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "there is not enough memory for it"));
   const std::size_t rowSize = std::size_t{4} * width;
   for (int y = 0; y < image.height(); ++y) {
     std::memcpy(image.scanLine(y), rows.all().data() + static_cast<std::size_t>(y) * rowSize, rowSize);
@@ -78,7 +78,8 @@ QByteArray metafileRefusal(QByteArrayView why) {
 
 MetafilePicture pictureOfMetafileAnswer(QByteArrayView answer) {
   const MetafileBytes bytes(answer);
-  constexpr auto kNoAnswer = "the program that draws metafiles has not answered as it should";
+  constexpr auto kNoAnswer =
+      QT_TRANSLATE_NOOP("Texts", "the program that draws metafiles has not answered as it should");
   if (answer.size() < kMetafileHeaderSize || bytes.u32(0) != kMark || bytes.u32(4) != kVersion) {
     throw MetafileFault(kNoAnswer);
   }

@@ -31,7 +31,7 @@ bool isWindowsMetafile(QByteArrayView bytes);
 
 /// The question: the bytes of a metafile, at most this many. Larger ones are refused, with this reason.
 inline constexpr std::int64_t kLargestMetafile = 64LL * 1024 * 1024;
-inline constexpr const char* kMetafileTooLarge = "it is larger than 64 MB";
+inline constexpr const char* kMetafileTooLarge = QT_TRANSLATE_NOOP("Texts", "it is larger than 64 MB");
 
 /// A metafile as an image. `ownSize` is the size that the file asks for, in hundredths of a millimetre.
 /// `leftOut` is what of the drawing is not in the image, as words that continue "Drawn without:" ("flood

@@ -33,7 +33,9 @@ std::int64_t headerSize(const MetafileBytes& dib) {
     const std::uint16_t depth = dib.u16(10);
     return size + (depth <= 8 ? (3LL << depth) : 0);
   }
-  if (size < kUsualHeaderSize) throw MetafileFault("a bitmap in it has an unknown header");
+  if (size < kUsualHeaderSize) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "a bitmap in it has an unknown header"));
+  }
   const std::uint16_t depth = dib.u16(14);
   const std::int64_t masks = size == kUsualHeaderSize && dib.u32(16) == kMasks ? 12 : 0;
   std::int64_t colours = dib.u32(32);
@@ -50,8 +52,10 @@ std::int64_t signedRows(const MetafileBytes& dib) {
 void checkSize(const MetafileBytes& dib) {
   const std::int64_t width = hasOldHeader(dib) ? dib.u16(4) : dib.i32(4);
   const std::int64_t height = std::abs(signedRows(dib));
-  if (width <= 0 || height <= 0) throw MetafileFault("a bitmap in it is empty");
-  if (width > kMostPixels / height) throw MetafileFault("a bitmap in it is too large");
+  if (width <= 0 || height <= 0) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "a bitmap in it is empty"));
+  if (width > kMostPixels / height) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "a bitmap in it is too large"));
+  }
 }
 
 void append32(QByteArray& bytes, std::int64_t value) {
@@ -64,7 +68,9 @@ void append32(QByteArray& bytes, std::int64_t value) {
 QImage imageOfDib(const MetafileBytes& header, const MetafileBytes& bits) {
   checkSize(header);
   const std::uint32_t compression = hasOldHeader(header) ? 0 : header.u32(16);
-  if (compression == kJpeg || compression == kPng) throw MetafileOmission("JPEG and PNG pictures in it");
+  if (compression == kJpeg || compression == kPng) {
+    throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "JPEG and PNG pictures in it"));
+  }
   const std::int64_t size = std::min<std::int64_t>(headerSize(header), header.size());
   QByteArray file("BM");
   append32(file, kFileHeaderSize + size + bits.size());
@@ -76,7 +82,7 @@ QImage imageOfDib(const MetafileBytes& header, const MetafileBytes& bits) {
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer, "bmp");
   const QImage image = readBitmap(reader);
-  if (image.isNull()) throw MetafileFault("a bitmap in it cannot be read");
+  if (image.isNull()) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "a bitmap in it cannot be read"));
   return image;
 }
 
@@ -98,11 +104,11 @@ QImage bitsOfDib(const MetafileBytes& header, const MetafileBytes& bits) {
   checkSize(header);
   const bool isOld = hasOldHeader(header);
   const bool isPlain = isOld ? header.u16(10) == 1 : header.u16(14) == 1 && header.u32(16) == 0;
-  if (!isPlain) throw MetafileFault("a bitmap in it is not monochrome");
+  if (!isPlain) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "a bitmap in it is not monochrome"));
   const int width = isOld ? header.u16(4) : header.i32(4);
   const std::int64_t rows = signedRows(header);
   QImage image(width, static_cast<int>(std::abs(rows)), QImage::Format_Mono);
-  if (image.isNull()) throw MetafileFault("there is not enough memory for it");
+  if (image.isNull()) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "there is not enough memory for it"));
   // Rows are padded to four bytes in both.
   const std::int64_t rowSize = image.bytesPerLine();
   for (int row = 0; row < image.height(); ++row) {

@@ -25,14 +25,14 @@ constexpr std::uint32_t kMostObjects = 0x10000;
 QTransform transformAt(const MetafileBytes& record, std::int64_t at) {
   const QTransform transform(record.f32(at), record.f32(at + 4), record.f32(at + 8), record.f32(at + 12),
                              record.f32(at + 16), record.f32(at + 20));
-  if (!isUsable(transform)) throw MetafileFault("its scale makes no sense");
+  if (!isUsable(transform)) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "its scale makes no sense"));
   return transform;
 }
 
 /// `extent` times the first and third of four numbers, divided by the second and fourth.
 QSizeF scaled(const QSizeF& extent, const MetafileBytes& record) {
   const auto ratio = [&](std::int64_t at) {
-    if (record.i32(at + 4) == 0) throw MetafileFault("its scale makes no sense");
+    if (record.i32(at + 4) == 0) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "its scale makes no sense"));
     return double(record.i32(at)) / record.i32(at + 4);
   };
   return {extent.width() * ratio(8), extent.height() * ratio(16)};
@@ -99,7 +99,9 @@ MetafilePen extendedPenOf(const MetafileBytes& record) {
 
 struct EmfPlayer::Header {
   explicit Header(const MetafileBytes& record) {
-    if (record.size() < kLeastHeader) throw MetafileFault("its header is too short");
+    if (record.size() < kLeastHeader) {
+      throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "its header is too short"));
+    }
     const QSizeF device = nonZero({double(record.i32(72)), double(record.i32(76))}, {1024, 768});
     const QSizeF millimetres = nonZero({double(record.i32(80)), double(record.i32(84))}, {270, 203});
     unitsPerMillimetre = {device.width() / millimetres.width(), device.height() / millimetres.height()};
@@ -143,7 +145,7 @@ MetafilePicture EmfPlayer::play() {
   for (std::int64_t at = 0;;) {
     const std::uint32_t type = file_.u32(at);
     const std::uint32_t size = file_.u32(at + 4);
-    if (size < kLeastRecord) throw MetafileFault("it is damaged or cut short");
+    if (size < kLeastRecord) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it is damaged or cut short"));
     const MetafileBytes record = file_.slice(at, size);
     if (type == kEndOfFile) return canvas_.finish(ownSize_);
     try {
@@ -152,7 +154,7 @@ MetafilePicture EmfPlayer::play() {
       canvas_.leaveOut(omission.what());
     } catch (const MetafileFault&) {
       // One record that makes no sense does not spoil the others.
-      canvas_.leaveOut("damaged parts");
+      canvas_.leaveOut(QT_TRANSLATE_NOOP("Texts", "damaged parts"));
     }
     at += size;
   }
@@ -170,15 +172,15 @@ bool EmfPlayer::noteOmission(std::uint32_t type, const MetafileBytes& record) {
   constexpr std::uint32_t kMirrored = 1;
   switch (type) {
     case FloodFill:
-      throw MetafileOmission("flood fills");
+      throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "flood fills"));
     case Comment:
-      if (needsExtendedRecords(record)) throw MetafileOmission("EMF+ drawings");
+      if (needsExtendedRecords(record)) throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "EMF+ drawings"));
       return true;
     case OpenGl:
     case OpenGlBounded:
-      throw MetafileOmission("OpenGL drawings");
+      throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "OpenGL drawings"));
     case SetLayout:
-      if ((record.u32(8) & kMirrored) != 0) throw MetafileOmission("mirroring");
+      if ((record.u32(8) & kMirrored) != 0) throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "mirroring"));
       return true;
     default:
       return false;
@@ -297,7 +299,9 @@ bool EmfPlayer::playObject(std::uint32_t type, const MetafileBytes& record) {
 }
 
 void EmfPlayer::store(std::uint32_t number, MetafileObject object) {
-  if (number == 0 || number >= kMostObjects) throw MetafileFault("it has too many objects");
+  if (number == 0 || number >= kMostObjects) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it has too many objects"));
+  }
   if (number >= objects_.size()) objects_.resize(number + 1);
   objects_[number] = std::move(object);
 }

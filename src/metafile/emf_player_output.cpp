@@ -93,7 +93,9 @@ class Mask {
 /// MetafileOmission for all others, which are hardly ever used with a mask.
 bool copies(std::uint32_t operation) {
   enum { LeaveAsItIs = 0xAA, Copy = 0xCC };
-  if (operation != Copy && operation != LeaveAsItIs) throw MetafileOmission("bitmaps mixed through masks");
+  if (operation != Copy && operation != LeaveAsItIs) {
+    throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "bitmaps mixed through masks"));
+  }
   return operation == Copy;
 }
 
@@ -143,7 +145,9 @@ bool EmfPlayer::playBitmap(std::uint32_t type, const MetafileBytes& record) {
 
 void EmfPlayer::noteColoursOfPalettes(const MetafileBytes& record, std::int64_t use) {
   constexpr std::uint32_t kColoursOfPalette = 1;
-  if (record.u32(use) == kColoursOfPalette) canvas_.leaveOut("colours of palettes");
+  if (record.u32(use) == kColoursOfPalette) {
+    canvas_.leaveOut(QT_TRANSLATE_NOOP("Texts", "colours of palettes"));
+  }
 }
 
 void EmfPlayer::drawBitmap(const MetafileBytes& record, std::int64_t offsets, const QRectF& target,

@@ -34,7 +34,9 @@ QPoint deviceUnitAt(const MetafileBytes& data, std::int64_t at) {
 QRegion regionOf(const MetafileBytes& data) {
   constexpr std::uint32_t kMostRectangles = 100'000;
   const std::uint32_t count = data.u32(8);
-  if (count > kMostRectangles) throw MetafileFault("a region in it has too many parts");
+  if (count > kMostRectangles) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "a region in it has too many parts"));
+  }
   QRegion region;
   for (std::uint32_t index = 0; index < count; ++index) {
     const std::int64_t at = data.u32(0) + std::int64_t{16} * index;
@@ -51,7 +53,7 @@ QSize frameSizeAt(const MetafileBytes& record, std::int64_t at) {
 
 MetafileBrush brushIn(const MetafileObject& object) {
   if (const auto* brush = std::get_if<MetafileBrush>(&object)) return *brush;
-  throw MetafileFault("it uses an object that it has not made");
+  throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it uses an object that it has not made"));
 }
 
 }  // namespace
@@ -109,7 +111,9 @@ void EmfPlayer::angleArc(const MetafileBytes& record) {
   const double radius = record.u32(16);
   const double start = record.f32(20);
   const double sweep = record.f32(24);
-  if (!std::isfinite(start) || !std::isfinite(sweep)) throw MetafileFault("an arc in it makes no sense");
+  if (!std::isfinite(start) || !std::isfinite(sweep)) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "an arc in it makes no sense"));
+  }
   const QRectF box(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
   QPainterPath arc;
   arc.arcMoveTo(box, start);

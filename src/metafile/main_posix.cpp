@@ -66,7 +66,7 @@ QByteArray answerTo(std::FILE* input) {
   } catch (const MetafileFault& fault) {
     return metafileRefusal(fault.what());
   } catch (const std::bad_alloc&) {
-    return metafileRefusal("it needs too much memory");
+    return metafileRefusal(QT_TRANSLATE_NOOP("Texts", "it needs too much memory"));
   }
 }
 

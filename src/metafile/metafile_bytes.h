@@ -34,7 +34,7 @@ class MetafileBytes {
   /// throw.
   MetafileBytes slice(std::int64_t offset, std::int64_t length) const {
     if (offset < 0 || length < 0 || offset > bytes_.size() || length > bytes_.size() - offset) {
-      throw MetafileFault("it is damaged or cut short");
+      throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it is damaged or cut short"));
     }
     return MetafileBytes(bytes_.sliced(offset, length));
   }

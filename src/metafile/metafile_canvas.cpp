@@ -95,7 +95,9 @@ double angleOf(const QPointF& point, const QRectF& box) {
 }  // namespace
 
 MetafileSheet sheetFor(const QSizeF& ownSize) {
-  if (!(ownSize.width() > 0 && ownSize.height() > 0)) throw MetafileFault("it has no size");
+  if (!(ownSize.width() > 0 && ownSize.height() > 0)) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it has no size"));
+  }
   const QSizeF natural = ownSize / kHundredthMillimetresPerPixel;
   const double longSide = std::max(natural.width(), natural.height());
   const double scale = std::clamp(longSide, kLeastLongSide, kMostLongSide) / longSide;
@@ -107,7 +109,7 @@ MetafileSheet sheetFor(const QSizeF& ownSize) {
 
 MetafileCanvas::MetafileCanvas(const MetafileSheet& sheet, const QTransform& deviceToImage)
     : image_(sheet.pixels, QImage::Format_RGB32), deviceToImage_(deviceToImage), scale_(sheet.scale) {
-  if (image_.isNull()) throw MetafileFault("there is not enough memory for it");
+  if (image_.isNull()) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "there is not enough memory for it"));
   image_.fill(Qt::white);
   painter_.begin(&image_);
 }
@@ -123,7 +125,9 @@ MetafilePicture MetafileCanvas::finish(const QSize& ownSize) {
 }
 
 void MetafileCanvas::save() {
-  if (saved_.size() >= kDeepestSave) throw MetafileFault("it saves its state too often");
+  if (saved_.size() >= kDeepestSave) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it saves its state too often"));
+  }
   saved_.push_back(state);
 }
 
@@ -144,7 +148,7 @@ void MetafileCanvas::select(const MetafileObject& object) {
 
 QTransform MetafileCanvas::toImage() const {
   const QTransform transform = state.mapping.toDevice() * deviceToImage_;
-  if (!isUsable(transform)) throw MetafileFault("its scale makes no sense");
+  if (!isUsable(transform)) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "its scale makes no sense"));
   return transform;
 }
 
@@ -302,7 +306,9 @@ void MetafileCanvas::clipToPath(MetafileClip mode) {
 
 void MetafileCanvas::widenPath() {
   if (state.pen.isNull()) return;
-  if (path_.elementCount() > kMostElementsToWiden) return leaveOut("very long outlines");
+  if (path_.elementCount() > kMostElementsToWiden) {
+    return leaveOut(QT_TRANSLATE_NOOP("Texts", "very long outlines"));
+  }
   path_ = QPainterPathStroker(penInImage()).createStroke(path_);
   path_.setFillRule(Qt::WindingFill);
 }
@@ -341,7 +347,7 @@ void MetafileCanvas::combineClip(const std::optional<QRegion>& image, MetafileCl
       state.clip = before - *image;
       return;
     default:
-      throw MetafileFault("it cuts its drawing in an unknown way");
+      throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it cuts its drawing in an unknown way"));
   }
 }
 

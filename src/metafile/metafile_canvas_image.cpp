@@ -20,7 +20,7 @@ constexpr std::uint32_t kPatternInvert = 0x005A0049;
 constexpr std::uint32_t kWhiteness = 0x00FF0062;
 constexpr std::uint32_t kNothing = 0x00AA0029;
 
-constexpr auto kRareOperations = "rare raster operations";
+constexpr auto kRareOperations = QT_TRANSLATE_NOOP("Texts", "rare raster operations");
 
 /// Nothing for operations that are rare with a picture.
 std::optional<QPainter::CompositionMode> sourceComposition(std::uint32_t operation) {
@@ -144,12 +144,12 @@ void MetafileCanvas::drawImage(const QRectF& target, const QImage& image, const 
 
 void MetafileCanvas::drawImage(const std::array<QPointF, 3>& corners, const QImage& image,
                                const QRectF& source) {
-  if (!source.isValid()) throw MetafileFault("a bitmap in it has no size");
+  if (!source.isValid()) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "a bitmap in it has no size"));
   const QPointF across = (corners[1] - corners[0]) / source.width();
   const QPointF down = (corners[2] - corners[0]) / source.height();
   const QTransform toUnits(across.x(), across.y(), down.x(), down.y(), corners[0].x(), corners[0].y());
   const QTransform toPixels = toUnits * toImage();
-  if (!isUsable(toPixels)) throw MetafileFault("its scale makes no sense");
+  if (!isUsable(toPixels)) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "its scale makes no sense"));
   beginPainting();
   painter_.setTransform(toPixels);
   painter_.drawImage(QRectF(QPointF(), source.size()), image, source);

@@ -172,9 +172,10 @@ void MetafileCanvas::drawText(const MetafileText& text) {
   const QRawFont glyphFont = QRawFont::fromFont(font);
   const bool isOwnFont = isInstalled(glyphFont, state.font.family);
   const bool hasGlyphs = !text.glyphs.isEmpty() && isOwnFont;
-  if (!text.glyphs.isEmpty() && !isOwnFont) leaveOut("text by glyph numbers");
-  if (!text.text.isEmpty() && state.font.charset == kSymbols && !isOwnFont)
-    leaveOut("letters of symbol fonts");
+  if (!text.glyphs.isEmpty() && !isOwnFont) leaveOut(QT_TRANSLATE_NOOP("Texts", "text by glyph numbers"));
+  if (!text.text.isEmpty() && state.font.charset == kSymbols && !isOwnFont) {
+    leaveOut(QT_TRANSLATE_NOOP("Texts", "letters of symbol fonts"));
+  }
   const QList<QPointF> places =
       hasGlyphs ? placesOfGlyphs(text, glyphFont, pixelsPerUnit) : QList<QPointF>{QPointF()};
   const double width = hasGlyphs ? places.last().x() : widthOf(text, metrics, pixelsPerUnit);

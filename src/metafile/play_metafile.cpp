@@ -9,7 +9,7 @@ namespace quorvin {
 MetafilePicture playMetafile(QByteArrayView bytes) {
   if (isEnhancedMetafile(bytes)) return EmfPlayer(MetafileBytes(bytes)).play();
   if (isWindowsMetafile(bytes)) return WmfPlayer(MetafileBytes(bytes)).play();
-  throw MetafileFault("it is not a metafile");
+  throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it is not a metafile"));
 }
 
 }  // namespace quorvin

@@ -31,7 +31,7 @@ template <typename Use>
 void forEachRecord(const MetafileBytes& records, Use&& use) {
   for (std::int64_t at = 0;;) {
     const std::int64_t size = records.u32(at) * 2LL;
-    if (size < kLeastRecord) throw MetafileFault("it is damaged or cut short");
+    if (size < kLeastRecord) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it is damaged or cut short"));
     const MetafileBytes record = records.slice(at, size);
     const std::uint16_t function = record.u16(4);
     if (function == kEnd || !use(function, WmfParameters(record.from(kLeastRecord)))) return;
@@ -63,7 +63,7 @@ WmfPlace placeOf(const MetafileBytes& file, const MetafileBytes& records) {
     return {box, file.u16(14) == 0 ? kUsualUnitsPerInch : file.u16(14)};
   }
   const std::optional<QRectF> window = firstWindow(records);
-  if (!window) throw MetafileFault("it does not say how large it is");
+  if (!window) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it does not say how large it is"));
   return {*window, kUsualUnitsPerInch};
 }
 
@@ -133,7 +133,7 @@ MetafilePicture WmfPlayer::play() {
       canvas_->leaveOut(omission.what());
     } catch (const MetafileFault&) {
       // One record that makes no sense does not spoil the others.
-      canvas_->leaveOut("damaged parts");
+      canvas_->leaveOut(QT_TRANSLATE_NOOP("Texts", "damaged parts"));
     }
     return true;
   });
@@ -152,9 +152,11 @@ bool WmfPlayer::noteOmission(std::uint16_t function, const WmfParameters& parame
   switch (function) {
     case FloodFill:
     case ExtendedFloodFill:
-      throw MetafileOmission("flood fills");
+      throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "flood fills"));
     case SetLayout:
-      if ((parameters.u16(0) & kMirrored) != 0) throw MetafileOmission("mirroring");
+      if ((parameters.u16(0) & kMirrored) != 0) {
+        throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "mirroring"));
+      }
       return true;
     default:
       return false;
@@ -177,7 +179,7 @@ bool WmfPlayer::playWindow(std::uint16_t function, const WmfParameters& paramete
     case ScaleExtent: {
       const QSizeF through = {double(parameters.i16(4)), double(parameters.i16(0))};
       if (through.width() == 0 || through.height() == 0) {
-        throw MetafileFault("its scale makes no sense");
+        throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "its scale makes no sense"));
       }
       mapping.windowExtent = {mapping.windowExtent.width() * parameters.i16(6) / through.width(),
                               mapping.windowExtent.height() * parameters.i16(2) / through.height()};
@@ -259,7 +261,7 @@ bool WmfPlayer::playObject(std::uint16_t function, const WmfParameters& paramete
       return true;
     case Pattern:
       store(MetafilePlaceholder{});
-      throw MetafileOmission("patterns in the form of a device");
+      throw MetafileOmission(QT_TRANSLATE_NOOP("Texts", "patterns in the form of a device"));
     default:
       return false;
   }
@@ -276,7 +278,9 @@ void WmfPlayer::store(MetafileObject object) {
 }
 
 const MetafileObject& WmfPlayer::object(std::uint16_t number) const {
-  if (number >= objects_.size()) throw MetafileFault("it uses an object that it has not made");
+  if (number >= objects_.size()) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it uses an object that it has not made"));
+  }
   return objects_[number];
 }
 

@@ -149,7 +149,7 @@ bool WmfPlayer::playBitmap(std::uint16_t function, const WmfParameters& paramete
   // A copy without a bitmap is as short as its numbers: it fills.
   constexpr qsizetype kBareCopy = 18;
   constexpr qsizetype kBareStretch = 22;
-  constexpr auto kDeviceBitmaps = "bitmaps in the form of a device";
+  constexpr auto kDeviceBitmaps = QT_TRANSLATE_NOOP("Texts", "bitmaps in the form of a device");
   switch (function) {
     case PatternFill:
       canvas_->fill(parameters.sizeAndPlace(4), parameters.u32(0));
@@ -178,13 +178,17 @@ bool WmfPlayer::playBitmap(std::uint16_t function, const WmfParameters& paramete
       return true;
     case SetDib: {
       const QSizeF size = parameters.extent(10);
-      if (parameters.u16(0) == kPaletteColours) canvas_->leaveOut("colours of palettes");
+      if (parameters.u16(0) == kPaletteColours) {
+        canvas_->leaveOut(QT_TRANSLATE_NOOP("Texts", "colours of palettes"));
+      }
       drawStored(parameters.from(18), {parameters.point(14), size}, {parameters.point(6), size},
                  kCopyOperation);
       return true;
     }
     case StretchDib:
-      if (parameters.u16(4) == kPaletteColours) canvas_->leaveOut("colours of palettes");
+      if (parameters.u16(4) == kPaletteColours) {
+        canvas_->leaveOut(QT_TRANSLATE_NOOP("Texts", "colours of palettes"));
+      }
       drawStored(parameters.from(22), parameters.sizeAndPlace(14), parameters.sizeAndPlace(6),
                  parameters.u32(0));
       return true;
@@ -227,7 +231,7 @@ void WmfPlayer::extTextOut(const WmfParameters& parameters) {
       parameters.point(0), canvas_->state.font.textOf(parameters.slice(at, count).all()), {}, {}, {}};
   // Hardly any file has them, and whether the numbers have one byte or two is not said.
   if ((options & kGlyphNumbers) != 0) {
-    canvas_->leaveOut("text by glyph numbers");
+    canvas_->leaveOut(QT_TRANSLATE_NOOP("Texts", "text by glyph numbers"));
     text.text.clear();
   }
   if ((options & kOpaque) != 0) text.opaque = QRectF(parameters.point16(8), parameters.point16(12));

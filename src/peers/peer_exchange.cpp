@@ -1,6 +1,7 @@
 #include "peers/peer_exchange.h"
 
 #include "peers/messages/peer_message.h"
+#include "texts/texts.h"
 
 #include <utility>
 
@@ -24,8 +25,7 @@ PeerExchange::PeerExchange(ProgramState& state, Work& work, MessageBoxes& messag
 void PeerExchange::getLists(const QString& peer) {
   const HostAndPort address = readHostAndPort(peer);
   if (address.host.isEmpty()) {
-    messages_.inform(
-        QStringLiteral("\"%1\" is not the name or address of a computer.").arg(shownPeerText(peer)));
+    messages_.inform(Texts::tr("\"%1\" is not the name or address of a computer.").arg(shownPeerText(peer)));
   } else if (std::optional<Job> getting = work_.start(JobKind::Getting); !getting) {
     const QString refusal = work_.refusalOf(JobKind::Getting);
     if (!refusal.isEmpty()) messages_.inform(refusal);

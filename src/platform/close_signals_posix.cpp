@@ -1,5 +1,6 @@
 #include "faults/runtime_fault.h"
 #include "platform/close_signals.h"
+#include "texts/texts.h"
 
 #include <QString>
 
@@ -25,7 +26,7 @@ extern "C" void wakeEventLoop(int) {
 
 CloseSignals::CloseSignals(std::function<void()> close) : close_(std::move(close)) {
   if (::pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
-    throw faultOfSystemError(errno, QStringLiteral("a pipe for signals"));
+    throw faultOfSystemError(errno, Texts::tr("a pipe for signals"));
   }
   wakingEnd = pipe_[1];
   notifier_.emplace(pipe_[0], QSocketNotifier::Read);

@@ -1,6 +1,7 @@
 #include "preview/image_preview.h"
 
 #include "preview/in_background.h"
+#include "texts/texts.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -23,19 +24,19 @@ constexpr int kMillisecondsUnseen = 500;
 
 ImgPreLoading::ImgPreLoading(const QString& path, QWidget* parent) : QProgressDialog(parent) {
   setObjectName(QStringLiteral("ImgPreLoading"));
-  setWindowTitle(QStringLiteral("Image Preview"));
+  setWindowTitle(Texts::tr("Image Preview"));
   setAttribute(Qt::WA_ShowWithoutActivating);
   auto* text = new QLabel;
   text->setObjectName(QStringLiteral("Status"));
   text->setTextFormat(Qt::PlainText);
   setLabel(text);
-  setLabelText(QStringLiteral("Loading %1...").arg(QFileInfo(path).fileName()));
+  setLabelText(Texts::tr("Loading %1...").arg(QFileInfo(path).fileName()));
   auto* bar = new QProgressBar;
   bar->setObjectName(QStringLiteral("bar"));
-  bar->setAccessibleName(QStringLiteral("Progress"));
+  bar->setAccessibleName(Texts::tr("Progress"));
   bar->setTextVisible(false);
   setBar(bar);
-  auto* cancel = new QPushButton(QStringLiteral("Cancel"));
+  auto* cancel = new QPushButton(Texts::tr("Cancel"));
   cancel->setObjectName(QStringLiteral("CancelButton"));
   // Taking the toolkit's own button away first removes its Esc as well; with two of them, Esc does nothing.
   setCancelButton(nullptr);

@@ -3,6 +3,7 @@
 #include "platform/screen_room.h"
 #include "preview/in_background.h"
 #include "preview/picture_fit.h"
+#include "texts/texts.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -26,6 +27,14 @@ constexpr int kNoteMargin = 4;
 int pixelsOf(float twips) {
   // The rule leaves no height to a picture that is far wider than high; a line of it can still be seen.
   return std::max(1, static_cast<int>(std::lround(twips / kTwipsPerPixel)));
+}
+
+/// `drawnWithout` is in English, as the program that draws metafiles has sent it.
+QString textOfMissing(const QString& drawnWithout) {
+  if (drawnWithout.isEmpty()) return {};
+  QStringList parts = drawnWithout.split(QStringLiteral(", "));
+  for (QString& part : parts) part = Texts::tr(part.toUtf8().constData());
+  return Texts::tr("Drawn without: %1.").arg(parts.join(QStringLiteral(", ")));
 }
 
 }  // namespace
@@ -128,11 +137,11 @@ ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
       PicName_(new QLabel(this)),
       animation_(pool) {
   setObjectName(QStringLiteral("ImgPre"));
-  setWindowTitle(QStringLiteral("Image Preview"));
+  setWindowTitle(Texts::tr("Image Preview"));
   PicBox_->setObjectName(QStringLiteral("PicBox"));
-  PicBox_->setAccessibleName(QStringLiteral("Picture frame"));
+  PicBox_->setAccessibleName(Texts::tr("Picture frame"));
   Pic_->setObjectName(QStringLiteral("Pic"));
-  Pic_->setAccessibleName(QStringLiteral("Picture"));
+  Pic_->setAccessibleName(Texts::tr("Picture"));
   Pic_->setGeometry(0, 0, 1, 1);
   Note_->setObjectName(QStringLiteral("Note"));
   Note_->setTextFormat(Qt::PlainText);
@@ -152,12 +161,11 @@ ImgPre::ImgPre(QThreadPool& pool, QWidget* parent)
 void ImgPre::setPicture(const LoadedPicture& picture, const QString& path) {
   pictureSize_ = picture.size;
   Pic_->setImage(picture.frame.image);
-  Pic_->setAccessibleName(QStringLiteral("Picture ") + QFileInfo(path).fileName());
+  Pic_->setAccessibleName(Texts::tr("Picture %1").arg(QFileInfo(path).fileName()));
   Pic_->setToolTip(path.toHtmlEscaped());
   fileName_ = QFileInfo(path).fileName();
-  const QString without = picture.drawnWithout;
-  Note_->setText(without.isEmpty() ? QString() : QStringLiteral("Drawn without: %1.").arg(without));
-  Note_->setVisible(!without.isEmpty());
+  Note_->setText(textOfMissing(picture.drawnWithout));
+  Note_->setVisible(!picture.drawnWithout.isEmpty());
   Pic_->setAccessibleDescription(Note_->text());
   animation_.start(picture.decoder, picture.frame.milliseconds);
   Form_Resize();

@@ -4,6 +4,7 @@
 #include "metafile/boundary.h"
 #include "platform/bitmap_reading.h"
 #include "preview/picture_icon.h"
+#include "texts/texts.h"
 
 #include <QtEndian>
 
@@ -124,8 +125,7 @@ bool lacksPixels(QByteArrayView start, const QSize& size, qint64 fileSize) {
 }
 
 [[noreturn]] void refusePicture(const QString& name, const QString& why) {
-  throw RuntimeFault(FaultNumber::InvalidProcedureCall,
-                     QStringLiteral("%1 cannot be shown: %2.").arg(name, why));
+  throw RuntimeFault(FaultNumber::InvalidProcedureCall, Texts::tr("%1 cannot be shown: %2.").arg(name, why));
 }
 
 /// The limit that counts is ours, which gives a reason. Theirs is one for all threads, each of which may be
@@ -157,10 +157,10 @@ PictureDecoder::PictureDecoder(std::unique_ptr<PictureFile> file, PictureFormat 
   rewind();
   size_ = reader_->size();
   size_.setHeight(bitmapRows(size_.height()));
-  if (size_.isEmpty()) refuse(QStringLiteral("it is damaged, or of a kind that is not supported"));
+  if (size_.isEmpty()) refuse(Texts::tr("it is damaged, or of a kind that is not supported"));
   refuseTooLarge(size_);
   if (format == PictureFormat::Bitmap && lacksPixels(file_->part(0, kFormatBytes), size_, file_->size())) {
-    refuse(QStringLiteral("it is damaged or cut short"));
+    refuse(Texts::tr("it is damaged or cut short"));
   }
   // Only this reader saves work that way.
   if (format == PictureFormat::Jpeg && keptSize(size_) != size_) reader_->setScaledSize(keptSize(size_));
@@ -175,7 +175,7 @@ void PictureDecoder::refuse(const QString& why) const {
 
 void PictureDecoder::refuseTooLarge(const QSize& size) const {
   if (size.isEmpty() || qint64{size.width()} * size.height() <= kMostPixels) return;
-  refuse(QStringLiteral("with %1 by %2 pixels it is larger than 256 megapixels")
+  refuse(Texts::tr("with %1 by %2 pixels it is larger than 256 megapixels")
              .arg(size.width())
              .arg(size.height()));
 }
@@ -216,7 +216,7 @@ void PictureDecoder::mend(QImage& image) const {
 
 PictureFrame PictureDecoder::first() {
   const std::optional<PictureFrame> frame = read();
-  if (!frame) refuse(QStringLiteral("it is damaged or cut short"));
+  if (!frame) refuse(Texts::tr("it is damaged or cut short"));
   return *frame;
 }
 
@@ -235,19 +235,19 @@ namespace {
 
 LoadedPicture loadMetafile(PictureFile& file, const QString& path, const MetafileChild& child,
                            const std::stop_source& stop) {
-  if (file.size() > kLargestMetafile) refusePicture(path, QString::fromLatin1(kMetafileTooLarge));
+  if (file.size() > kLargestMetafile) refusePicture(path, Texts::tr(kMetafileTooLarge));
   try {
     const MetafilePicture picture = drawInChild(child, file.readAll(), stop.get_token());
     return {picture.ownSize, {picture.image, 0}, {}, picture.leftOut};
   } catch (const MetafileFault& fault) {
-    refusePicture(path, QString::fromLatin1(fault.what()));
+    refusePicture(path, Texts::tr(fault.what()));
   }
 }
 
 LoadedPicture loadAny(const QString& path, const MetafileChild& child, const std::stop_source& stop) {
   auto file = std::make_unique<PictureFile>(path, stop);
   const std::optional<PictureFormat> format = pictureFormatOf(file->part(0, kFormatBytes));
-  if (!format) refusePicture(path, QStringLiteral("it is not a bitmap, icon, metafile, JPEG or GIF picture"));
+  if (!format) refusePicture(path, Texts::tr("it is not a bitmap, icon, metafile, JPEG or GIF picture"));
   if (isMetafile(*format)) return loadMetafile(*file, path, child, stop);
   auto decoder = std::make_shared<PictureDecoder>(std::move(file), *format, path);
   PictureFrame frame = decoder->first();
@@ -260,7 +260,7 @@ LoadedPicture loadPicture(const QString& path, const MetafileChild& child, const
   try {
     return loadAny(path, child, stop);
   } catch (const std::bad_alloc&) {
-    refusePicture(path, QStringLiteral("there is not enough memory for it"));
+    refusePicture(path, Texts::tr("there is not enough memory for it"));
   }
 }
 

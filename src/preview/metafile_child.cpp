@@ -39,8 +39,10 @@ QByteArray answerOf(ChildProcess& process, std::chrono::milliseconds patience, c
   clock.start();
   QByteArray answer;
   while (process->state() != QProcess::NotRunning) {
-    if (stop.stop_requested()) throw MetafileFault("its loading was cancelled");
-    if (clock.hasExpired(patience.count())) throw MetafileFault("drawing it takes too long");
+    if (stop.stop_requested()) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "its loading was cancelled"));
+    if (clock.hasExpired(patience.count())) {
+      throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "drawing it takes too long"));
+    }
     process->waitForReadyRead(kMillisecondsBetweenLooks);
     answer += process->readAllStandardOutput();
     if (answer.size() > kLongestMetafileAnswer) break;
@@ -60,13 +62,16 @@ MetafileChild usualMetafileChild() {
 MetafilePicture drawInChild(const MetafileChild& child, const QByteArray& metafile,
                             const std::stop_token& stop) {
   ChildProcess process(child.program);
-  if (!process->waitForStarted()) throw MetafileFault("the program that draws metafiles cannot be started");
+  if (!process->waitForStarted()) {
+    throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "the program that draws metafiles cannot be started"));
+  }
   process->write(metafile);
   process->closeWriteChannel();
   const QByteArray answer = answerOf(process, child.patience, stop);
   const bool hasEndedWell = process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
   if (!hasEndedWell && answer.isEmpty()) {
-    throw MetafileFault("it is damaged, or drawing it needs too much memory or time");
+    throw MetafileFault(
+        QT_TRANSLATE_NOOP("Texts", "it is damaged, or drawing it needs too much memory or time"));
   }
   return pictureOfMetafileAnswer(answer);
 }

@@ -1,6 +1,7 @@
 #include "preview/res_win.h"
 
 #include "platform/screen_room.h"
+#include "texts/texts.h"
 
 #include <QDialogButtonBox>
 #include <QPlainTextEdit>
@@ -18,15 +19,15 @@ constexpr int kHeightInLines = 26;
 QPlainTextEdit* makeText() {
   auto* text = new QPlainTextEdit;
   text->setObjectName(QStringLiteral("ResultText"));
-  text->setAccessibleName(QStringLiteral("Results"));
+  text->setAccessibleName(Texts::tr("Results"));
   text->setReadOnly(true);
   // A read-only text can be walked through and copied with the keyboard, too.
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   // Each line says at its end what happened, after a path of any length.
   text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   text->setTabChangesFocus(true);
-  text->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the results down"));
-  text->horizontalScrollBar()->setAccessibleName(QStringLiteral("Scroll the results sideways"));
+  text->verticalScrollBar()->setAccessibleName(Texts::tr("Scroll the results down"));
+  text->horizontalScrollBar()->setAccessibleName(Texts::tr("Scroll the results sideways"));
   return text;
 }
 
@@ -34,9 +35,9 @@ QPlainTextEdit* makeText() {
 
 ResWin::ResWin(QWidget* parent) : QDialog(parent), text_(makeText()) {
   setObjectName(QStringLiteral("ResWin"));
-  setWindowTitle(QStringLiteral("Results"));
+  setWindowTitle(Texts::tr("Results"));
   auto* buttons = new QDialogButtonBox;
-  QPushButton* close = buttons->addButton(QStringLiteral("&Close"), QDialogButtonBox::RejectRole);
+  QPushButton* close = buttons->addButton(Texts::tr("&Close"), QDialogButtonBox::RejectRole);
   close->setObjectName(QStringLiteral("close"));
   close->setDefault(true);
   connect(close, &QPushButton::clicked, this, &ResWin::close_Click);

@@ -3,6 +3,7 @@
 #include "dates/general_number.h"
 #include "search/match/search_query.h"
 #include "search/segment/segment.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 
@@ -59,7 +60,7 @@ HitRow HitTable::row(std::int64_t row) const {
     readRow(row, result);
   } catch (const DamagedSegment&) {
     // What can be read of it stays. The next search finds the damage noted and reads the listing again.
-    result.name = QStringLiteral("(damaged in the search cache; press Find again)");
+    result.name = Texts::tr("(damaged in the search cache; press Find again)");
   }
   return result;
 }

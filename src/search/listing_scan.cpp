@@ -4,6 +4,7 @@
 #include "files/file_reader.h"
 #include "search/segment/segment_builder.h"
 #include "search/segments_ahead.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <exception>
@@ -208,9 +209,9 @@ class BuildingScan {
 
   [[noreturn]] void throwLineTooLong() {
     endSegment();
-    throw RuntimeFault(FaultNumber::Overflow, QStringLiteral("Line %1 is longer than %2 bytes")
-                                                  .arg(builder_.lineCount() + 1)
-                                                  .arg(limits_.longestLine));
+    throw RuntimeFault(
+        FaultNumber::Overflow,
+        Texts::tr("Line %1 is longer than %2 bytes").arg(builder_.lineCount() + 1).arg(limits_.longestLine));
   }
 
   void endSegment() {

@@ -5,6 +5,7 @@
 #include "files/file_lookup.h"
 #include "files/path_style.h"
 #include "platform/text_encoding.h"
+#include "texts/texts.h"
 
 #include <QScopeGuard>
 
@@ -38,7 +39,9 @@ QString namesOf(const QStringList& listings) {
   const auto named = std::min(listings.size(), static_cast<qsizetype>(kMostListingsNamed));
   QString names = listings.first(named).join(QStringLiteral("\r\n"));
   if (listings.size() > named) {
-    names += QStringLiteral("\r\nand %1 more listings").arg(listings.size() - named);
+    names += QStringLiteral("\r\n") +
+             Texts::tr("and %1 more listings", nullptr, Texts::plural(listings.size() - named))
+                 .arg(listings.size() - named);
   }
   return names;
 }
@@ -165,7 +168,7 @@ void SearchRun::reportMissing(const QString& path) {
   ++failedListings_;
   ++report_.missing;
   if (!tellsMissing_) return;
-  tellsMissing_ = parts_.messages.informOneOfMany(QStringLiteral("Listing file not found: ") + path);
+  tellsMissing_ = parts_.messages.informOneOfMany(Texts::tr("Listing file not found: %1").arg(path));
 }
 
 ScanRequest SearchRun::request() {
@@ -196,8 +199,8 @@ void SearchRun::scan(const QString& path, SourceKind kind, const std::function<v
     if (!outcome.stopped) ++report_.searchedToTheEnd;
   } catch (const RuntimeFault& fault) {
     ++failedListings_;
-    inform(QStringLiteral("The listing %1 could not be searched to its end.\r\nRun-time error '%2': "
-                          "%3\r\nThe hits found in it so far are kept.")
+    inform(Texts::tr("The listing %1 could not be searched to its end.\r\nRun-time error '%2': "
+                     "%3\r\nThe hits found in it so far are kept.")
                .arg(path)
                .arg(fault.number())
                .arg(fault.description()));
@@ -243,36 +246,39 @@ void SearchRun::inform(const QString& text) {
 
 void SearchRun::reportUnreadable() {
   if (unreadable_.empty() || isEnding()) return;
-  QString message = QStringLiteral(
+  QString message = Texts::tr(
       "The size or date of some hits could not be read. They are shown with the size and date of the hit "
       "before them.");
   const std::size_t named = std::min(unreadable_.size(), kMostListingsNamed);
   for (std::size_t i = 0; i < named; ++i) {
     const auto& [path, outcome] = unreadable_[i];
-    message += QStringLiteral("\r\n%1: %2 line(s), the first is line %3")
-                   .arg(path)
-                   .arg(outcome.unreadableHits)
-                   .arg(outcome.firstUnreadableLine);
+    message += QStringLiteral("\r\n") + Texts::tr("%1: %2 line(s), the first is line %3", nullptr,
+                                                  Texts::plural(outcome.unreadableHits))
+                                            .arg(path)
+                                            .arg(outcome.unreadableHits)
+                                            .arg(outcome.firstUnreadableLine);
   }
   if (unreadable_.size() > named) {
-    message += QStringLiteral("\r\nand in %1 more listings").arg(unreadable_.size() - named);
+    message += QStringLiteral("\r\n") +
+               Texts::tr("and in %1 more listings", nullptr,
+                         Texts::plural(static_cast<std::int64_t>(unreadable_.size() - named)))
+                   .arg(unreadable_.size() - named);
   }
   inform(message);
 }
 
 void SearchRun::reportChanged() {
   if (changed_.isEmpty() || isEnding()) return;
-  inform(QStringLiteral("These listings were written to while they were searched. Hits in them may come from "
-                        "the old or the new content; press Find again for the new one.\r\n") +
-         namesOf(changed_));
+  inform(Texts::tr("These listings were written to while they were searched. Hits in them may come from "
+                   "the old or the new content; press Find again for the new one.") +
+         QStringLiteral("\r\n") + namesOf(changed_));
 }
 
 void SearchRun::reportNoText() {
   if (noText_.isEmpty() || isEnding()) return;
-  inform(
-      QStringLiteral("These listings are not plain text, so little or nothing is found in them. If one was "
-                     "saved as UTF-16 (\"Unicode\") without a byte order mark, save it as UTF-8.\r\n") +
-      namesOf(noText_));
+  inform(Texts::tr("These listings are not plain text, so little or nothing is found in them. If one was "
+                   "saved as UTF-16 (\"Unicode\") without a byte order mark, save it as UTF-8.") +
+         QStringLiteral("\r\n") + namesOf(noText_));
 }
 
 }  // namespace quorvin

@@ -1,6 +1,7 @@
 #include "search/word_places.h"
 
 #include "platform/text_encoding.h"
+#include "texts/texts.h"
 
 #include <QStringList>
 
@@ -52,11 +53,11 @@ int WordPlaces::found(QStringView folder, QStringView name) const {
 
 QString WordPlaces::explanation(QStringView folder, QStringView name) const {
   if (wordCount_ < 2) return {};
-  const QString count = QStringLiteral("%1 of %2 words").arg(found(folder, name)).arg(wordCount_);
+  const QString count = Texts::tr("%1 of %2 words").arg(found(folder, name)).arg(wordCount_);
   QStringList missingWords;
   for (const Word& word : missing(folder, name)) missingWords += word.text;
   if (missingWords.isEmpty()) return count;
-  return count + QStringLiteral("; missing: ") + missingWords.join(QStringLiteral(", "));
+  return Texts::tr("%1; missing: %2").arg(count, missingWords.join(QStringLiteral(", ")));
 }
 
 }  // namespace quorvin

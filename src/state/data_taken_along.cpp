@@ -6,6 +6,7 @@
 #include "files/file_reader.h"
 #include "state/protected_files.h"
 #include "state/settings.h"
+#include "texts/texts.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -149,31 +150,33 @@ class DataMove {
 };
 
 QString whereItWas(const ProgramPlace& place) {
-  return QStringLiteral(
+  return Texts::tr(
              "Your lists were kept in %1, beside the program, where a new build or an update may remove "
              "them.")
       .arg(place.executableFolder);
 }
 
 QString takenText(const ProgramPlace& place) {
-  return whereItWas(place) + QStringLiteral(
-                                 "\r\n\r\nThey have been copied to %1, and are used there from now on. The "
-                                 "old files are no longer "
-                                 "needed.")
-                                 .arg(place.dataFolder);
+  return whereItWas(place) + QStringLiteral("\r\n\r\n") +
+         Texts::tr(
+             "They have been copied to %1, and are used there from now on. The "
+             "old files are no longer "
+             "needed.")
+             .arg(place.dataFolder);
 }
 
 QString clashText(const ProgramPlace& place, const QString& name) {
-  return whereItWas(place) + QStringLiteral(
-                                 "\r\n\r\nThey could not be copied to %1, which holds another file of the "
-                                 "name %2. Put together by "
-                                 "hand what you want to keep, and choose its folder under File, Options.")
-                                 .arg(place.dataFolder, name);
+  return whereItWas(place) + QStringLiteral("\r\n\r\n") +
+         Texts::tr(
+             "They could not be copied to %1, which holds another file of the "
+             "name %2. Put together by "
+             "hand what you want to keep, and choose its folder under File, Options.")
+             .arg(place.dataFolder, name);
 }
 
 QString faultText(const ProgramPlace& place, const RuntimeFault& fault) {
-  return whereItWas(place) + QStringLiteral("\r\n\r\nThey could not be copied to %1: %2")
-                                 .arg(place.dataFolder, fault.description());
+  return whereItWas(place) + QStringLiteral("\r\n\r\n") +
+         Texts::tr("They could not be copied to %1: %2").arg(place.dataFolder, fault.description());
 }
 
 QString stored(const SettingsStore& store, const QString& application, const QString& key) {

@@ -4,6 +4,7 @@
 #include "files/file_reader.h"
 #include "state/settings.h"
 #include "state/source_list_file.h"
+#include "texts/texts.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -80,15 +81,15 @@ Difference differenceOf(const QByteArray& copy, const ProgramState& state, const
 
 QString question(const Difference& difference, const QString& time) {
   QString text =
-      QStringLiteral("An earlier run ended without saving these changes, the last of them on %1:\r\n")
-          .arg(time);
+      Texts::tr("An earlier run ended without saving these changes, the last of them on %1:").arg(time) +
+      QStringLiteral("\r\n");
   const auto addCount = [&](const QString& what, const std::optional<Records>& records) {
     if (records) text += QStringLiteral("\r\n%1: %2").arg(what).arg(records->size());
   };
-  addCount(QStringLiteral("Local folders in the search list"), difference.online);
-  addCount(QStringLiteral("Offline list files"), difference.offline);
+  addCount(Texts::tr("Local folders in the search list"), difference.online);
+  addCount(Texts::tr("Offline list files"), difference.offline);
   for (const auto& [key, value] : difference.settings) text += QStringLiteral("\r\n%1: %2").arg(key, value);
-  return text + QStringLiteral("\r\n\r\nDo you want to have them back? No removes them.");
+  return text + QStringLiteral("\r\n\r\n") + Texts::tr("Do you want to have them back? No removes them.");
 }
 
 void takeOver(const Difference& difference, ProgramState& state, const QLocale& locale) {

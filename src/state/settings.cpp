@@ -9,6 +9,7 @@
 #include "state/data_taken_along.h"
 #include "state/source_list_file.h"
 #include "state/text_line_reader.h"
+#include "texts/texts.h"
 
 #include <QDateTime>
 
@@ -36,9 +37,8 @@ std::array<PlacementName, 4> placementNames() {
            {PlacementKey::Height, QStringLiteral("Height")}}};
 }
 
-RuntimeFault unreadable(const QString& kind, const QString& text) {
-  return {FaultNumber::TypeMismatch,
-          describe(FaultNumber::TypeMismatch) + QStringLiteral(": \"%1\" is not a %2").arg(text, kind)};
+RuntimeFault unreadable(const QString& why) {
+  return {FaultNumber::TypeMismatch, describe(FaultNumber::TypeMismatch) + QStringLiteral(": ") + why};
 }
 
 bool beginsWithNumber(QStringView text) {
@@ -76,7 +76,7 @@ QString placementText(float twips) {
 }
 
 float placementValue(const QString& text) {
-  if (!beginsWithNumber(text)) throw unreadable(QStringLiteral("number"), text);
+  if (!beginsWithNumber(text)) throw unreadable(Texts::tr("\"%1\" is not a number").arg(text));
   const double value = leadingNumber(text);
   if (std::abs(value) <= std::numeric_limits<float>::max()) return static_cast<float>(value);
   throw RuntimeFault(FaultNumber::Overflow, describe(FaultNumber::Overflow) + QStringLiteral(": ") + text);
@@ -103,7 +103,7 @@ void readSettings(const SettingsStore& store, ProgramState& state, DateValue now
 
   const QString joined = readSetting(store, state, QStringLiteral("JoinDate"), generalDateText(now, locale));
   const std::optional<DateValue> joinDate = readGeneralDate(joined, locale);
-  if (!joinDate) throw unreadable(QStringLiteral("date"), joined);
+  if (!joinDate) throw unreadable(Texts::tr("\"%1\" is not a date").arg(joined));
   state.JoinDate = *joinDate;
   state.settingsRead += QStringLiteral("JoinDate");
 

@@ -1,5 +1,7 @@
 #include "state/source_entries.h"
 
+#include "texts/texts.h"
+
 #include <QDir>
 #include <QSet>
 
@@ -46,7 +48,7 @@ QString freeDescription(const QString& folder, const std::vector<SourceEntry>& e
 
 /// The sentence that says why the entry is not added; empty when it is.
 QString addEntry(const SourceEntry& entry, std::vector<SourceEntry>& entries) {
-  if (isAmong(entries, entry.path)) return QStringLiteral("%1 is in the list already.").arg(entry.path);
+  if (isAmong(entries, entry.path)) return Texts::tr("%1 is in the list already.").arg(entry.path);
   if (const auto refusal = whyNotAdded(entry)) return entry.path + QStringLiteral(": ") + *refusal;
   entries.push_back(entry);
   return {};
@@ -62,15 +64,15 @@ void addLine(QString& lines, const QString& line) {
 
 std::optional<QString> whyNotAdded(const SourceEntry& entry) {
   if (entry.path.size() < kShortestPath) {
-    return QStringLiteral("The Path must be at lease 3 characters long. (ex: C:\\)");
+    return Texts::tr("The Path must be at lease 3 characters long. (ex: C:\\)");
   }
   const QString& description = entry.description;
   if (description.isEmpty() ||
       !std::all_of(description.begin(), description.end(), isAllowedInDescriptions)) {
-    return QStringLiteral("Description must not be left blank or contain the characters /?\\:|*");
+    return Texts::tr("Description must not be left blank or contain the characters /?\\:|*");
   }
   if (entry.path.contains(u'"')) {
-    return QStringLiteral(
+    return Texts::tr(
         "The Path must not contain a double quote, since a list of sources cannot keep one. Please give "
         "the folder another name, or use a link to it.");
   }
@@ -82,11 +84,11 @@ QString descriptionNotice(const std::vector<SourceEntry>& entries, const Program
   for (const SourceEntry& entry : entries) {
     const QString listing = state.onlineListingPath(entry.description);
     if (state.isOwnFile(listing)) {
-      return QStringLiteral("\"%1\" is a file of the program; it needs another description.")
+      return Texts::tr("\"%1\" is a file of the program; it needs another description.")
           .arg(entry.description);
     }
     if (listings.contains(listing)) {
-      return QStringLiteral("\"%1\" is there twice; both would share one listing.").arg(entry.description);
+      return Texts::tr("\"%1\" is there twice; both would share one listing.").arg(entry.description);
     }
     listings.insert(listing);
   }
@@ -113,7 +115,7 @@ std::vector<SourceEntry> entriesOf(const SourceTable& table, int count) {
 std::optional<QString> storeEntries(const std::vector<SourceEntry>& entries, SourceTable& table, int& count) {
   // Looked at before the first row is touched, so that a list is never stored in part.
   if (entries.size() > static_cast<std::size_t>(SourceTable::kLastRow)) {
-    return QStringLiteral(
+    return Texts::tr(
                "A list can hold %1 entries at most, and this one has %2.\r\n\r\n"
                "Nothing has been saved. Please delete entries and save again.")
         .arg(SourceTable::kLastRow)

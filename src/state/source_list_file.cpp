@@ -11,6 +11,7 @@
 #include "platform/text_encoding.h"
 #include "state/settings.h"
 #include "state/text_line_reader.h"
+#include "texts/texts.h"
 
 #include <QByteArray>
 #include <QFileInfo>
@@ -118,8 +119,8 @@ void SourceListFields::skipSeparator() {
 
 RuntimeFault tooManyRecords(const QString& path) {
   return {FaultNumber::SubscriptOutOfRange,
-          describe(FaultNumber::SubscriptOutOfRange) + QStringLiteral(": ") + path +
-              QStringLiteral(" holds more than %1 records").arg(SourceTable::kLastRow)};
+          describe(FaultNumber::SubscriptOutOfRange) + QStringLiteral(": ") +
+              Texts::tr("%1 holds more than %2 records").arg(path, QString::number(SourceTable::kLastRow))};
 }
 
 QByteArray recordsText(const SourceTable& table, int count) {
@@ -214,17 +215,17 @@ QString whyUnknown(const List& list) {
   if (!ordinaryFileExists(list.path) || isSavedAlready(list)) return {};
   const auto sentence = [&](const QString& reason) { return reason.arg(list.path); };
   if (!list.read.isComplete) {
-    return sentence(QStringLiteral("The list %1 was not read completely when the program started."));
+    return sentence(Texts::tr("The list %1 was not read completely when the program started."));
   }
   if (!isSameFile(list.path, list.read.path)) {
     return sentence(
-        QStringLiteral("The list %1 was not read, since its folder became the data folder only later."));
+        Texts::tr("The list %1 was not read, since its folder became the data folder only later."));
   }
   if (list.read.digest.isEmpty()) {
-    return sentence(QStringLiteral("The list %1 was not there when the program started."));
+    return sentence(Texts::tr("The list %1 was not there when the program started."));
   }
   if (digestOfFile(list.path) == list.read.digest) return {};
-  return sentence(QStringLiteral("The list %1 has been changed by another program."));
+  return sentence(Texts::tr("The list %1 has been changed by another program."));
 }
 
 /// Whether the user has nothing to save in the place of a list that is not the one that was read.
@@ -235,7 +236,7 @@ bool hasNothingToSave(const List& list) {
 }
 
 QString whyShifted(const List& list) {
-  return QStringLiteral(
+  return Texts::tr(
              "The list %1 looks damaged: it has the path \"%2\" where a description should be. A double "
              "quote in a description or a path does that.")
       .arg(list.path, list.read.shiftedPath);
@@ -253,9 +254,8 @@ QString nameForCopy(const QString& path) {
 void keepCopy(const List& list, const QString& why, MessageBoxes& messages) {
   const QString copy = nameForCopy(list.path);
   replaceFile(copy, contentOfFile(list.path));
-  messages.inform(
-      why +
-      QStringLiteral("\r\nIt is kept as %1, and the list as it is now is saved in its place.").arg(copy));
+  messages.inform(why + QStringLiteral("\r\n") +
+                  Texts::tr("It is kept as %1, and the list as it is now is saved in its place.").arg(copy));
 }
 
 /// The folders for a list whose name has separators, as that of a listing without a dot in its name has.
@@ -317,7 +317,7 @@ void saveAgain(const List& list, MessageBoxes& messages) {
   } else if (isShifted && isChanged(list.read, list.table, list.count)) {
     keepCopy(list, whyShifted(list), messages);
   } else if (isShifted) {
-    return messages.inform(whyShifted(list) + QStringLiteral("\r\nIt was left as it is."));
+    return messages.inform(whyShifted(list) + QStringLiteral("\r\n") + Texts::tr("It was left as it is."));
   }
   replace(list);
 }
@@ -325,8 +325,8 @@ void saveAgain(const List& list, MessageBoxes& messages) {
 bool save(const ProgramState& state, const QString& name, const List& list, MessageBoxes& messages) {
   if (!isValidDataFolder(state.LocalFolder)) {
     messages.inform(
-        QStringLiteral("The Local Data Folder path is invalid.\r\n\r\n"
-                       "Unable to save the online sources list."));
+        Texts::tr("The Local Data Folder path is invalid.\r\n\r\n"
+                  "Unable to save the online sources list."));
     return false;
   }
   // Two programs may be closed at the same moment, as at the end of a session.

@@ -1,6 +1,7 @@
 #include "state/source_table.h"
 
 #include "faults/runtime_fault.h"
+#include "texts/texts.h"
 
 namespace quorvin {
 
@@ -26,8 +27,8 @@ void SourceTable::checkSubscripts(int row, int column) {
   const bool columnFits = column >= 0 && column <= kPath;
   if (rowFits && columnFits) return;
   throw RuntimeFault(FaultNumber::SubscriptOutOfRange,
-                     describe(FaultNumber::SubscriptOutOfRange) +
-                         QStringLiteral(": row %1, column %2 of a source table").arg(row).arg(column));
+                     describe(FaultNumber::SubscriptOutOfRange) + QStringLiteral(": ") +
+                         Texts::tr("row %1, column %2 of a source table").arg(row).arg(column));
 }
 
 }  // namespace quorvin

@@ -1,6 +1,7 @@
 #include "update/http_transfer.h"
 
 #include "platform/http_request.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <utility>
@@ -70,7 +71,7 @@ HttpNetworkTransfer::HttpNetworkTransfer(HttpLimits limits, std::unique_ptr<QNet
     : limits_(limits), network_(std::move(network)) {
   headerDeadline_.setSingleShot(true);
   connect(&headerDeadline_, &QTimer::timeout, this,
-          [this] { fail(FaultNumber::DeviceError, QStringLiteral("the server did not answer in time")); });
+          [this] { fail(FaultNumber::DeviceError, Texts::tr("the server did not answer in time")); });
   silence_.setSingleShot(true);
   silence_.setInterval(limits.silence);
   connect(&silence_, &QTimer::timeout, this, &HttpNetworkTransfer::silent);
@@ -112,10 +113,10 @@ QByteArray HttpNetworkTransfer::chunk(qsizetype size) {
   const QByteArray bytes = reply_->read(size);
   received_ += bytes.size();
   if (!reply_->isFinished()) silence_.start();
-  if (received_ > limits_.bytes) fail(FaultNumber::Overflow, QStringLiteral("the document is too large"));
+  if (received_ > limits_.bytes) fail(FaultNumber::Overflow, Texts::tr("the document is too large"));
   const bool isEnd = bytes.isEmpty() && !failure_;
   if (isEnd && received_ < announcedLength(*reply_).value_or(0)) {
-    fail(FaultNumber::InputPastEnd, QStringLiteral("the document ended too early"));
+    fail(FaultNumber::InputPastEnd, Texts::tr("the document ended too early"));
   }
   throwIfFailed();
   return bytes;
@@ -138,13 +139,13 @@ void HttpNetworkTransfer::headersArrived() {
     hasHeaders_ = true;
     return;
   }
-  fail(faultOfStatus(status), QStringLiteral("the server answered %1").arg(status));
+  fail(faultOfStatus(status), Texts::tr("the server answered %1").arg(status));
 }
 
 /// A server that has sent all that may lie unread is waiting for the reader.
 void HttpNetworkTransfer::silent() {
   if (reply_->bytesAvailable() >= kHttpReadBuffer) return silence_.start();
-  fail(FaultNumber::DeviceError, QStringLiteral("the server fell silent"));
+  fail(FaultNumber::DeviceError, Texts::tr("the server fell silent"));
 }
 
 void HttpNetworkTransfer::finished() {
@@ -155,7 +156,7 @@ void HttpNetworkTransfer::finished() {
     const bool isRefusal = status >= 400;
     fail(isRefusal ? faultOfStatus(status) : faultOfError(reply_->error()), reply_->errorString());
   } else if (!hasHeaders_) {
-    fail(faultOfStatus(status), QStringLiteral("the server answered %1").arg(status));
+    fail(faultOfStatus(status), Texts::tr("the server answered %1").arg(status));
   }
 }
 

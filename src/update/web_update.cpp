@@ -6,6 +6,7 @@
 #include "files/file_lookup.h"
 #include "files/file_writer.h"
 #include "history/listing_history.h"
+#include "texts/texts.h"
 #include "update/web_update_server.h"
 
 #include <QFile>
@@ -45,14 +46,16 @@ void setModified(const QString& path, const QDateTime& moment) {
 
 QString leftOutText(const QStringList& names) {
   constexpr qsizetype kMostShown = 10;
-  QString text = QStringLiteral(
+  QString text = Texts::tr(
       "These files of the archive were left out, since they would have replaced your source lists, your "
       "settings, your listing history, or the program itself:");
   for (const QString& name : names.first(std::min(names.size(), kMostShown))) {
     text += QStringLiteral("\r\n") + shownEntryName(name);
   }
   const qsizetype more = names.size() - kMostShown;
-  if (more > 0) text += QStringLiteral("\r\nand %1 more").arg(QLocale().toString(more));
+  if (more > 0)
+    text += QStringLiteral("\r\n") +
+            Texts::tr("and %1 more", nullptr, Texts::plural(more)).arg(QLocale().toString(more));
   return text;
 }
 
@@ -62,7 +65,7 @@ UnpackingOutcome unpackDataFile(Job& job, const QString& archivePath, const QStr
                                 UnpackingOptions options = {}) {
   options.isProtected = [&files](const QStringList& path) { return files.has(path); };
   const UnpackingResult result = unpackArchive(job, archivePath, targetFolder, options);
-  if (!result.error.isEmpty()) boxes.inform(QStringLiteral("Archive Error: ") + result.error);
+  if (!result.error.isEmpty()) boxes.inform(Texts::tr("Archive Error: %1").arg(result.error));
   if (!result.leftOut.isEmpty() && !job.isClosing()) boxes.inform(leftOutText(result.leftOut));
   return result.outcome;
 }
@@ -70,8 +73,8 @@ UnpackingOutcome unpackDataFile(Job& job, const QString& archivePath, const QStr
 /// What there is to report of a listing that the update replaces; empty when all is well.
 QString sentenceOf(const QString& name, const KeptListing& kept) {
   if (kept.fault.isEmpty()) return {};
-  return QStringLiteral("The earlier %1 could not be kept in the listing history: %2\r\n")
-      .arg(name, kept.fault);
+  return Texts::tr("The earlier %1 could not be kept in the listing history: %2").arg(name, kept.fault) +
+         QStringLiteral("\r\n");
 }
 
 }  // namespace
@@ -95,7 +98,7 @@ void WebUpdate::WebUpdate_Click() {
     web_.cancel();
     job_.leaveStanding();
     if (!job_.isClosing()) {
-      boxes_.inform(QString::number(fault.number()) + QStringLiteral(": Could not get an update."));
+      boxes_.inform(Texts::tr("%1: Could not get an update.").arg(fault.number()));
     }
   }
   enableCommand_(true);
@@ -115,7 +118,7 @@ WebUpdate::Step WebUpdate::run() {
 void WebUpdate::unpackReceived() {
   if (ordinaryFileExists(archivePath())) return unpack();
   if (job_.isClosing()) return;
-  boxes_.inform(QStringLiteral("The update was downloaded, but %1 cannot be found now. Nothing was unpacked.")
+  boxes_.inform(Texts::tr("The update was downloaded, but %1 cannot be found now. Nothing was unpacked.")
                     .arg(archivePath()));
 }
 
@@ -130,12 +133,12 @@ WebUpdate::Step WebUpdate::check() {
     web_.cancel();
   }
   if (minutesBetween(localDate(), serverDate) <= kSameMinutes) {
-    boxes_.inform(QStringLiteral("Your data file is up to date."));
+    boxes_.inform(Texts::tr("Your data file is up to date."));
     return Step::Done;
   }
   const bool isWanted =
-      boxes_.askYesNo(QStringLiteral("An updated data file is avaliable at ") + address_.toDisplayString() +
-                      QStringLiteral(" do you want to download the update?"));
+      boxes_.askYesNo(Texts::tr("An updated data file is avaliable at %1 do you want to download the update?")
+                          .arg(address_.toDisplayString()));
   return isWanted && !job_.isClosing() ? Step::GoOn : Step::Done;
 }
 
@@ -159,7 +162,7 @@ WebUpdate::Step WebUpdate::download() {
   job_.dropStopRequest();
   job_.show();
   display_.setBarMaximum(remoteSize_);
-  display_.setStatus(QStringLiteral("Starting download of update."));
+  display_.setStatus(Texts::tr("Starting download of update."));
   web_.execute(address_);
   while (web_.stillExecuting()) {
     job_.waitForEvents();
@@ -226,10 +229,10 @@ WebUpdate::Step WebUpdate::cancelDownload() {
 }
 
 void WebUpdate::unpack() {
-  display_.setStatus(QStringLiteral("Retrieved compressed data update!"));
+  display_.setStatus(Texts::tr("Retrieved compressed data update!"));
   display_.setBarMaximum(kFullBar);
   display_.setBar(0);
-  display_.setStatus(QStringLiteral("Decompressing..."));
+  display_.setStatus(Texts::tr("Decompressing..."));
   QString notKept;
   ListingHistory history(localFolder_, [this] { job_.letEventsRun(); });
   const auto keepListing = [&](const QString& name, const QString& made) {
@@ -253,13 +256,13 @@ void extractDataFile(Job& job, const QString& archivePath, const QString& target
   const auto afterwards = qScopeGuard([&job] { job.dropStopRequest(); });
   job.show();
   WorkDisplay& display = job.display();
-  display.setStatus(QStringLiteral("Decompressing Compressed Data File."));
+  display.setStatus(Texts::tr("Decompressing Compressed Data File."));
   display.setBarMaximum(kFullBar);
   display.setBar(0);
   if (unpackDataFile(job, archivePath, targetFolder, boxes, files) != UnpackingOutcome::Failed) return;
   throw RuntimeFault(FaultNumber::PathFileAccess, describe(FaultNumber::PathFileAccess) +
-                                                      QStringLiteral(": ") + archivePath +
-                                                      QStringLiteral(" could not be unpacked"));
+                                                      QStringLiteral(": ") +
+                                                      Texts::tr("%1 could not be unpacked").arg(archivePath));
 }
 
 }  // namespace quorvin

@@ -1,5 +1,7 @@
 #include "work/job_table.h"
 
+#include "texts/texts.h"
+
 #include <array>
 #include <cstddef>
 
@@ -37,21 +39,21 @@ constexpr std::array<Row, kJobKinds> kTable = {{
 QString sentenceOf(JobKind running) {
   switch (running) {
     case JobKind::Search:
-      return QStringLiteral("A search is running.");
+      return Texts::tr("A search is running.");
     case JobKind::Refresh:
-      return QStringLiteral("The local folders are being rescanned.");
+      return Texts::tr("The local folders are being rescanned.");
     case JobKind::Update:
-      return QStringLiteral("A web update is running.");
+      return Texts::tr("A web update is running.");
     case JobKind::Extraction:
-      return QStringLiteral("The main data file is being unpacked.");
+      return Texts::tr("The main data file is being unpacked.");
     case JobKind::Packing:
-      return QStringLiteral("Your lists are being packed for sharing.");
+      return Texts::tr("Your lists are being packed for sharing.");
     case JobKind::Getting:
-      return QStringLiteral("Lists are being received from a peer.");
+      return Texts::tr("Lists are being received from a peer.");
     case JobKind::Unpacking:
-      return QStringLiteral("Lists that came from a peer are being unpacked.");
+      return Texts::tr("Lists that came from a peer are being unpacked.");
     case JobKind::Export:
-      return QStringLiteral("Hits are being exported.");
+      return Texts::tr("Hits are being exported.");
     case JobKind::Closing:
       break;
   }
@@ -61,21 +63,21 @@ QString sentenceOf(JobKind running) {
 QString subjectOf(JobKind wanted) {
   switch (wanted) {
     case JobKind::Search:
-      return QStringLiteral("A search");
+      return Texts::tr("A search");
     case JobKind::Refresh:
-      return QStringLiteral("The rescan");
+      return Texts::tr("The rescan");
     case JobKind::Update:
-      return QStringLiteral("The web update");
+      return Texts::tr("The web update");
     case JobKind::Extraction:
-      return QStringLiteral("Unpacking the main data file");
+      return Texts::tr("Unpacking the main data file");
     case JobKind::Packing:
-      return QStringLiteral("Packing your lists");
+      return Texts::tr("Packing your lists");
     case JobKind::Getting:
-      return QStringLiteral("Getting lists");
+      return Texts::tr("Getting lists");
     case JobKind::Unpacking:
-      return QStringLiteral("Unpacking received lists");
+      return Texts::tr("Unpacking received lists");
     case JobKind::Export:
-      return QStringLiteral("The export");
+      return Texts::tr("The export");
     case JobKind::Closing:
       break;
   }
@@ -91,10 +93,10 @@ Answer answerWhile(JobKind running, JobKind wanted) {
 QString refusalText(JobKind running, JobKind wanted) {
   if (running == JobKind::Closing || wanted == JobKind::Closing) return {};
   if (running == JobKind::Getting && wanted == JobKind::Getting) {
-    return QStringLiteral("Lists are already being received.");
+    return Texts::tr("Lists are already being received.");
   }
-  return sentenceOf(running) + u' ' + subjectOf(wanted) +
-         QStringLiteral(" can be started when that has ended.");
+  return sentenceOf(running) + u' ' +
+         Texts::tr("%1 can be started when that has ended.").arg(subjectOf(wanted));
 }
 
 }  // namespace quorvin

@@ -2,6 +2,7 @@
 
 #include "platform/screen_room.h"
 #include "platform/text_direction.h"
+#include "texts/texts.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -26,7 +27,7 @@ constexpr qint64 kMillisecondsBetweenShowings = 16;
 QProgressBar* makeBar() {
   auto* bar = new QProgressBar;
   bar->setObjectName(QStringLiteral("bar"));
-  bar->setAccessibleName(QStringLiteral("Progress"));
+  bar->setAccessibleName(Texts::tr("Progress"));
   bar->setRange(0, kFullBar);
   bar->setValue(0);
   return bar;
@@ -74,9 +75,9 @@ Progress::Progress(ProgramState& state, QWidget* parent)
       status_(new MiddleElidedLabel),
       detail_(new QLabel),
       bar_(makeBar()),
-      cancelButton_(new QPushButton(QStringLiteral("Cancel"))) {
+      cancelButton_(new QPushButton(Texts::tr("Cancel"))) {
   setObjectName(QStringLiteral("Progress"));
-  setWindowTitle(QStringLiteral("Progress"));
+  setWindowTitle(Texts::tr("Progress"));
   status_->setObjectName(QStringLiteral("Status"));
   status_->setTextFormat(Qt::PlainText);
   detail_->setObjectName(QStringLiteral("Detail"));
@@ -105,7 +106,7 @@ void Progress::setDetail(const QString& text) {
 }
 
 void Progress::showDetail() {
-  const QString stopping = QStringLiteral("Stopping...");
+  const QString stopping = Texts::tr("Stopping...");
   QString shown = detailText_;
   if (isCancelled_) shown = detailText_.isEmpty() ? stopping : stopping + u' ' + detailText_;
   detail_->setText(englishWithin(layoutDirection(), shown));

@@ -2,6 +2,7 @@
 
 #include "faults/runtime_fault.h"
 #include "peers/messages/peer_message.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 
@@ -20,8 +21,9 @@ RuntimeFault noSense(const QString& what) {
 }
 
 RuntimeFault noLists() {
-  return {FaultNumber::InvalidProcedureCall,
-          describe(FaultNumber::InvalidProcedureCall) + QStringLiteral(": the answer names no lists")};
+  return {FaultNumber::InvalidProcedureCall, describe(FaultNumber::InvalidProcedureCall) +
+                                                 QStringLiteral(": ") +
+                                                 Texts::tr("the answer names no lists")};
 }
 
 }  // namespace
@@ -52,7 +54,7 @@ bool AnswerStream::takeOpening() {
   const qsizetype lists = buffer_.indexOf(kListsStart);
   reportIdentity(lists < 0 ? QByteArrayView(buffer_) : QByteArrayView(buffer_).first(lists));
   if (lists < 0 && buffer_.size() > kLongestPeerMessage) {
-    throw noSense(QStringLiteral("The answer is not that of a list exchange"));
+    throw noSense(Texts::tr("The answer is not that of a list exchange"));
   }
   if (lists < 0) return false;
   buffer_.remove(0, lists + QByteArrayView(kListsStart).size());
@@ -75,11 +77,11 @@ bool AnswerStream::takeName() {
   if (mayBecomeAnnouncement(buffer_)) return false;
   const qsizetype end = buffer_.indexOf(kLineEnd);
   if (end < 0 && buffer_.size() > kLongestPeerMessage) {
-    throw noSense(QStringLiteral("The name of a list has no end"));
+    throw noSense(Texts::tr("The name of a list has no end"));
   }
   if (end < 0) return false;
   nameBytes_ += end + kLineEnd.size();
-  if (nameBytes_ > kMostNameBytes) throw noSense(QStringLiteral("The names of the lists have no end"));
+  if (nameBytes_ > kMostNameBytes) throw noSense(Texts::tr("The names of the lists have no end"));
   const QByteArray name = buffer_.first(end);
   buffer_.remove(0, end + kLineEnd.size());
   ++namedLists_;

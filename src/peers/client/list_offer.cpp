@@ -6,6 +6,7 @@
 #include "files/path_style.h"
 #include "peers/messages/peer_message.h"
 #include "peers/messages/peer_names.h"
+#include "texts/texts.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -21,7 +22,9 @@ namespace {
 const QLatin1String kNewLine("\r\n");
 
 QString countOfLists(std::size_t count) {
-  return count == 1 ? QStringLiteral("1 list") : QStringLiteral("%1 lists").arg(count);
+  return count == 1
+             ? Texts::tr("1 list")
+             : Texts::tr("%1 lists", nullptr, Texts::plural(static_cast<std::int64_t>(count))).arg(count);
 }
 
 QString folderOfFirst(const PeerOutcome& outcome) {
@@ -29,7 +32,7 @@ QString folderOfFirst(const PeerOutcome& outcome) {
 }
 
 void showThatNothingCame(const PeerOutcome& outcome, MessageBoxes& messages) {
-  QString text = QStringLiteral("No lists came from %1.").arg(shownPeerText(outcome.peer));
+  QString text = Texts::tr("No lists came from %1.").arg(shownPeerText(outcome.peer));
   if (!outcome.problems.isEmpty()) text += kNewLine + kNewLine + shownProblems(outcome.problems);
   messages.inform(text);
 }
@@ -65,35 +68,43 @@ std::int64_t listingsInArchive(const QString& archivePath, const Job& job) {
   return 0;
 }
 
+QString archivesHold(bool isOne, std::int64_t listings) {
+  const int plural = Texts::plural(listings);
+  if (isOne && listings == 1) return Texts::tr("The archive holds 1 listing.");
+  if (isOne) return Texts::tr("The archive holds %1 listings.", nullptr, plural).arg(listings);
+  if (listings == 1) return Texts::tr("The archives hold 1 listing.");
+  return Texts::tr("The archives hold %1 listings.", nullptr, plural).arg(listings);
+}
+
 /// What the user gets for a Yes, where it is not what the names of the lists promise.
 QString contentOf(const PeerOutcome& outcome, int room) {
   const std::int64_t listings = outcome.listings.value_or(static_cast<std::int64_t>(outcome.received.size()));
   if (listings == static_cast<std::int64_t>(outcome.received.size()) && listings <= room) return {};
-  const QString archives = outcome.received.size() == 1 ? QStringLiteral("The archive holds ")
-                                                        : QStringLiteral("The archives hold ");
-  QString text = archives + (listings == 1 ? QStringLiteral("1 listing.")
-                                           : QStringLiteral("%1 listings.").arg(listings));
+  QString text = archivesHold(outcome.received.size() == 1, listings);
   if (listings > room) {
-    text += room == 1 ? QStringLiteral(" There is room for 1 more offline source.")
-                      : QStringLiteral(" There is room for %1 more offline sources.").arg(room);
+    text +=
+        u' ' + (room == 1 ? Texts::tr("There is room for 1 more offline source.")
+                          : Texts::tr("There is room for %1 more offline sources.", nullptr, room).arg(room));
   }
   return text + kNewLine + kNewLine;
 }
 
 QString question(const PeerOutcome& outcome, int room) {
-  QString text = QStringLiteral("%1 came from %2 into the folder")
+  QString text = Texts::tr("%1 came from %2 into the folder")
                      .arg(countOfLists(outcome.received.size()), shownPeerText(outcome.peer)) +
                  kNewLine + folderOfFirst(outcome) + kNewLine + kNewLine;
   if (!outcome.problems.isEmpty()) text += shownProblems(outcome.problems) + kNewLine + kNewLine;
   return text + contentOf(outcome, room) +
-         QStringLiteral(
-             "Add the received lists to the offline sources, so that the next search includes them?");
+         Texts::tr("Add the received lists to the offline sources, so that the next search includes them?");
 }
 
 QString leftOut(std::size_t count) {
-  const QString were = count == 1 ? QStringLiteral("was") : QStringLiteral("were");
-  return QStringLiteral("%1 %2 left out, since unpacking was cancelled. The archives stay in the folder.")
-      .arg(countOfLists(count), were);
+  if (count == 1) {
+    return Texts::tr("1 list was left out, since unpacking was cancelled. The archives stay in the folder.");
+  }
+  return Texts::tr("%1 lists were left out, since unpacking was cancelled. The archives stay in the folder.",
+                   nullptr, Texts::plural(static_cast<std::int64_t>(count)))
+      .arg(count);
 }
 
 /// Adds the lists of one conversation.
@@ -139,7 +150,7 @@ class ListAdder {
   void addListings(const ReceivedList& list, const QString& folder) {
     const QStringList listings = listingsIn(folder);
     if (listings.isEmpty()) {
-      problems_ += QStringLiteral("The archive of \"%1\" holds no listing.").arg(shownPeerText(list.name));
+      problems_ += Texts::tr("The archive of \"%1\" holds no listing.").arg(shownPeerText(list.name));
     }
     for (const QString& path : listings) {
       addSource(listings.size() == 1 ? list.name : QFileInfo(path).completeBaseName(), path);
@@ -160,10 +171,10 @@ class ListAdder {
   void addSource(const QString& name, const QString& path) {
     // The file of the sources has no way to write a quote.
     if (path.contains(u'"')) {
-      problems_ += QStringLiteral("%1 has a name that no source can have.").arg(shownPeerText(path));
+      problems_ += Texts::tr("%1 has a name that no source can have.").arg(shownPeerText(path));
       return;
     }
-    QString description = shownPeerText(name) + QStringLiteral(" from ") + peer_;
+    QString description = Texts::tr("%1 from %2").arg(shownPeerText(name), peer_);
     description.replace(u'"', u'\'');
     const int row = rowFor(description);
     if (row > SourceTable::kLastRow) return noteFull();
@@ -184,7 +195,7 @@ class ListAdder {
   }
 
   void noteFull() {
-    const QString text = QStringLiteral(
+    const QString text = Texts::tr(
                              "There is no room for more than %1 offline sources. The received lists stay "
                              "unpacked beside its archives.")
                              .arg(SourceTable::kLastRow);
@@ -204,7 +215,7 @@ class ListAdder {
 UnpackArchive unpackingIn(Job& job) {
   return [&job](const QString& archivePath, const QString& targetFolder) {
     WorkDisplay& display = job.display();
-    display.setStatus(QStringLiteral("Unpacking ") + QFileInfo(archivePath).fileName());
+    display.setStatus(Texts::tr("Unpacking %1").arg(QFileInfo(archivePath).fileName()));
     display.setBarMaximum(kFullBar);
     const UnpackingResult result = unpackArchive(job, archivePath, targetFolder);
     if (result.outcome == UnpackingOutcome::Failed) {

@@ -5,6 +5,7 @@
 #include "peers/messages/peer_message.h"
 #include "peers/messages/peer_names.h"
 #include "platform/text_encoding.h"
+#include "texts/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -110,9 +111,8 @@ bool ListReceiver::ask(const QByteArray& name) {
   } catch (const RuntimeFault& fault) {
     if (!std::exchange(queueIsFull_, true)) {
       problems_ +=
-          faultSentence(fault) + QStringLiteral(
-                                     " One run of the program can ask for about 1000 lists. Start it "
-                                     "again to get the others.");
+          faultSentence(fault) + u' ' +
+          Texts::tr("One run of the program can ask for about 1000 lists. Start it again to get the others.");
     }
     return false;
   }
@@ -131,8 +131,7 @@ void ListReceiver::archiveBytes(QByteArrayView bytes) {
   if (!archive_) archive_ = std::make_unique<ReceivedArchive>(folder_, safeFileName(name_));
   if (archive_->size() + bytes.size() > mostBytes_) {
     archive_.reset();
-    throw RuntimeFault(FaultNumber::Overflow,
-                       QStringLiteral("The archive of %1 has no end").arg(shownName()));
+    throw RuntimeFault(FaultNumber::Overflow, Texts::tr("The archive of %1 has no end").arg(shownName()));
   }
   archive_->write(bytes);
   figures_.bytes = archive_->size();
@@ -144,12 +143,11 @@ void ListReceiver::archiveWhole() {
 }
 
 void ListReceiver::archiveMissing() {
-  problems_ += QStringLiteral("The peer sent no archive of %1.").arg(shownName());
+  problems_ += Texts::tr("The peer sent no archive of %1.").arg(shownName());
 }
 
 void ListReceiver::archiveCut(std::int64_t length) {
-  problems_ +=
-      QStringLiteral("The archive of %1 did not arrive complete, and was not kept.").arg(shownName());
+  problems_ += Texts::tr("The archive of %1 did not arrive complete, and was not kept.").arg(shownName());
   auto archive = std::exchange(archive_, nullptr);
   if (!archive || length >= archive->size()) return;
   cut_ = std::move(archive);

@@ -3,6 +3,7 @@
 #include "faults/runtime_fault.h"
 #include "files/path_style.h"
 #include "peers/messages/peer_message.h"
+#include "texts/texts.h"
 
 #include <QHostAddress>
 #include <QNetworkProxy>
@@ -118,7 +119,7 @@ void PeerClient::connectionFailed() {
   if (!isRunning() || IPClient_.state() == QAbstractSocket::ConnectedState) return;
   if (IPClient_.error() == QAbstractSocket::RemoteHostClosedError) return;
   if (stream_->hasLists()) return;
-  finish(sentence(QStringLiteral("The peer could not be reached: ") + IPClient_.errorString()));
+  finish(sentence(Texts::tr("The peer could not be reached: %1").arg(IPClient_.errorString())));
 }
 
 void PeerClient::connectionClosed() {
@@ -134,8 +135,8 @@ void PeerClient::endStream() {
   if (!succeeds([this] { stream_->end(); })) return;
   if (receiver_->hasRest()) return startRest();
   if (stream_->isComplete()) return finish();
-  finish(isClosed_ ? QStringLiteral("The peer ended the connection before everything had arrived.")
-                   : QStringLiteral("The peer has stopped sending before everything had arrived."));
+  finish(isClosed_ ? Texts::tr("The peer ended the connection before everything had arrived.")
+                   : Texts::tr("The peer has stopped sending before everything had arrived."));
 }
 
 /// What follows a broken archive in its file is fed again, piece by piece, since it may be long.
@@ -181,8 +182,8 @@ void PeerClient::stalled() {
 void PeerClient::silent() {
   const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(limits_.silence).count();
   finish(IPClient_.state() == QAbstractSocket::ConnectedState
-             ? QStringLiteral("The peer has not sent anything for %1 seconds.").arg(seconds)
-             : QStringLiteral("The peer could not be reached within %1 seconds.").arg(seconds));
+             ? Texts::tr("The peer has not sent anything for %1 seconds.").arg(seconds)
+             : Texts::tr("The peer could not be reached within %1 seconds.").arg(seconds));
 }
 
 void PeerClient::restartTimers() {

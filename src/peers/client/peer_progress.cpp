@@ -1,6 +1,7 @@
 #include "peers/client/peer_progress.h"
 
 #include "platform/text_direction.h"
+#include "texts/texts.h"
 
 #include <QCloseEvent>
 #include <QProgressBar>
@@ -22,7 +23,7 @@ Label* makeLabel(const QString& name) {
 /// Nobody knows how much is still to come.
 QProgressBar* makeMovingBar() {
   auto* bar = new QProgressBar;
-  bar->setAccessibleName(QStringLiteral("Progress"));
+  bar->setAccessibleName(Texts::tr("Progress"));
   bar->setRange(0, 0);
   return bar;
 }
@@ -35,29 +36,31 @@ PeerProgress::PeerProgress(const QLocale& locale, QWidget* parent)
       peer_(makeLabel<MiddleElidedLabel>(QStringLiteral("Peer"))),
       list_(makeLabel<MiddleElidedLabel>(QStringLiteral("List"))),
       bytes_(makeLabel<QLabel>(QStringLiteral("Bytes"))),
-      cancelButton_(new QPushButton(QStringLiteral("Cancel"))) {
+      cancelButton_(new QPushButton(Texts::tr("Cancel"))) {
   setObjectName(QStringLiteral("PeerProgress"));
-  setWindowTitle(QStringLiteral("Getting Lists"));
+  setWindowTitle(Texts::tr("Getting Lists"));
   connect(cancelButton_, &QPushButton::clicked, this, &PeerProgress::cancelled);
   layOutProgress(*this, {peer_, list_, makeMovingBar()}, *bytes_, *cancelButton_, kWidthInCharacters);
 }
 
 void PeerProgress::begin(const QString& peer) {
-  peer_->setText(QStringLiteral("Peer: ") + peer);
-  list_->setText(QStringLiteral("Connecting..."));
+  peer_->setText(Texts::tr("Peer: %1").arg(peer));
+  list_->setText(Texts::tr("Connecting..."));
   bytes_->clear();
   show();
 }
 
 void PeerProgress::showFigures(const PeerFigures& figures) {
   if (figures.listNumber == 0) {
-    list_->setText(QStringLiteral("Asking for the lists..."));
+    list_->setText(Texts::tr("Asking for the lists..."));
     return;
   }
-  list_->setText(QStringLiteral("List %1 of %2: ").arg(figures.listNumber).arg(figures.listCount) +
-                 figures.list);
-  bytes_->setText(
-      englishWithin(layoutDirection(), locale_.toString(figures.bytes) + QStringLiteral(" bytes")));
+  list_->setText(
+      Texts::tr("List %1 of %2: %3")
+          .arg(QString::number(figures.listNumber), QString::number(figures.listCount), figures.list));
+  bytes_->setText(englishWithin(
+      layoutDirection(),
+      Texts::tr("%1 bytes", nullptr, Texts::plural(figures.bytes)).arg(locale_.toString(figures.bytes))));
 }
 
 void PeerProgress::reject() {

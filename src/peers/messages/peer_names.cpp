@@ -2,6 +2,7 @@
 
 #include "faults/runtime_fault.h"
 #include "peers/messages/peer_message.h"
+#include "texts/texts.h"
 
 #include <QFileInfo>
 #include <QHostAddress>
@@ -101,8 +102,8 @@ QString faultSentence(const RuntimeFault& fault) {
 QString shownProblems(const QStringList& problems) {
   QStringList shown = problems.first(qMin(problems.size(), kMostShownProblems));
   const qsizetype more = problems.size() - shown.size();
-  if (more == 1) shown += QStringLiteral("There was 1 more problem.");
-  if (more > 1) shown += QStringLiteral("There were %1 more problems.").arg(more);
+  if (more == 1) shown += Texts::tr("There was 1 more problem.");
+  if (more > 1) shown += Texts::tr("There were %1 more problems.", nullptr, Texts::plural(more)).arg(more);
   return shown.join(QStringLiteral("\r\n"));
 }
 

@@ -5,6 +5,7 @@
 #include "files/file_identity.h"
 #include "files/file_lookup.h"
 #include "peers/messages/peer_names.h"
+#include "texts/texts.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -50,15 +51,16 @@ ListSharing::ListSharing(const ProgramState& state, Work& work, MessageBoxes& me
 bool ListSharing::start(std::uint16_t port, const QHostAddress& address) {
   if (isSharing()) return true;
   if (!server_.start(port, address)) {
-    messages_.inform(
-        sentence(QStringLiteral("Your lists are not shared: port %1 could not be opened.\r\n\r\n%2")
-                     .arg(port)
-                     .arg(server_.errorText())));
+    messages_.inform(sentence(Texts::tr("Your lists are not shared: port %1 could not be opened.\r\n\r\n%2")
+                                  .arg(port)
+                                  .arg(server_.errorText())));
     return false;
   }
   const bool waits = work_.answerTo(JobKind::Packing) == Answer::Waits;
   if (waits) {
-    show(addressText() + QStringLiteral("\r\n\r\nThey are packed when the running work has ended."), {});
+    show(addressText() + QStringLiteral("\r\n\r\n") +
+             Texts::tr("They are packed when the running work has ended."),
+         {});
   }
   packAll(!waits);
   return isSharing();
@@ -78,7 +80,7 @@ void ListSharing::packAll(bool showsAddress) {
     job.end();
     if (!isSharing()) return;
     if (showsAddress) return show(addressText(), problems);
-    if (!problems.isEmpty()) show(QStringLiteral("Your lists are shared."), problems);
+    if (!problems.isEmpty()) show(Texts::tr("Your lists are shared."), problems);
   });
 }
 
@@ -134,7 +136,7 @@ QString ListSharing::packListingOf(int row, const Job& job) {
   const QString archive = archivePathOf(state_, row);
   const bool isMainArchive = archive == state_.LocalFolder + state_.ArchiveFile;
   if (isMainArchive || !mayBeReplacedByPacking(archive)) {
-    return QStringLiteral("%1 was not made by sharing. It was kept, and peers get it as it is.").arg(archive);
+    return Texts::tr("%1 was not made by sharing. It was kept, and peers get it as it is.").arg(archive);
   }
   QElapsedTimer sinceEvents;
   sinceEvents.start();
@@ -155,16 +157,17 @@ bool ListSharing::mustStop() const {
 void ListSharing::show(const QString& first, const QStringList& problems) {
   if (work_.isClosing()) return;
   if (problems.isEmpty()) return messages_.inform(first);
-  messages_.inform(first + QStringLiteral("\r\n\r\nNot all could be packed:\r\n") + shownProblems(problems));
+  messages_.inform(first + QStringLiteral("\r\n\r\n") + Texts::tr("Not all could be packed:") +
+                   QStringLiteral("\r\n") + shownProblems(problems));
 }
 
 QString ListSharing::addressText() const {
   QStringList addresses = ownNetworkAddresses();
   if (addresses.isEmpty()) addresses += QStringLiteral("localhost");
-  const QString which =
-      addresses.size() == 1 ? QStringLiteral("this address") : QStringLiteral("these addresses");
-  return QStringLiteral("Your lists are shared on port %1 of %2: %3")
-      .arg(QString::number(server_.port()), which, addresses.join(QStringLiteral(", ")));
+  const QString sentence = addresses.size() == 1
+                               ? Texts::tr("Your lists are shared on port %1 of this address: %2")
+                               : Texts::tr("Your lists are shared on port %1 of these addresses: %2");
+  return sentence.arg(QString::number(server_.port()), addresses.join(QStringLiteral(", ")));
 }
 
 }  // namespace quorvin

@@ -1,5 +1,7 @@
 #include "search/segment/checked_span.h"
 
+#include "texts/texts.h"
+
 #include <algorithm>
 #include <utility>
 // On this processor family the library has faster ways to the same sums, and a header that picks one.
@@ -12,7 +14,7 @@
 namespace quorvin {
 
 DamagedSegment::DamagedSegment()
-    : RuntimeFault(FaultNumber::DeviceError, QStringLiteral("A file of the search cache is damaged")) {}
+    : RuntimeFault(FaultNumber::DeviceError, Texts::tr("A file of the search cache is damaged")) {}
 
 ByteCheck::ByteCheck(std::span<const std::byte> bytes, std::span<const std::uint64_t> sums, Fetch fetch)
     : bytes_(bytes),
