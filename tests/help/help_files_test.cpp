@@ -2,6 +2,7 @@
 
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
+#include "texts/languages.h"
 
 #include <gtest/gtest.h>
 
@@ -41,6 +42,14 @@ TEST_F(HelpFilesTest, APageInASubFolderIsRead) {
   folder_.writeFile(QStringLiteral("help/manual/a.htm"), "a");
   EXPECT_EQ(readPage(inHelp("manual/a.htm")).bytes, "a");
   EXPECT_EQ(readPage(inHelp("manual/../genhelp.htm")).bytes, "usage");
+}
+
+TEST_F(HelpFilesTest, APageIsThatOfTheLanguageWhereThereIsOne) {
+  folder_.writeFile(QStringLiteral("help/de/manual/hits.htm"), "Treffer");
+  EXPECT_EQ(files_.addressOf(QStringLiteral("manual/hits.htm#menu")), inHelp("manual/hits.htm#menu"));
+  const SpokenLanguage german(QStringLiteral("de"));
+  EXPECT_EQ(files_.addressOf(QStringLiteral("manual/hits.htm#menu")), inHelp("de/manual/hits.htm#menu"));
+  EXPECT_EQ(files_.addressOf(QStringLiteral("genhelp.htm")), inHelp("genhelp.htm"));
 }
 
 TEST_F(HelpFilesTest, AMissingPageIsMissing) {

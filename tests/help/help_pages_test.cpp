@@ -3,6 +3,7 @@
 #include "help/frm_browser.h"
 #include "help/manual_pages.h"
 #include "support/qt_printing.h"
+#include "texts/languages.h"
 
 #include <QApplication>
 #include <QImage>
@@ -15,6 +16,10 @@ namespace {
 
 QStringList linksOf(const QString& page) {
   return allMatches(manualText(page), QStringLiteral("<a href=\"([^\"]*)\""));
+}
+
+bool isTranslated(const QString& page) {
+  return translatedLanguages().contains(page.section(u'/', 0, 0));
 }
 
 QString placePattern(const QString& place) {
@@ -39,6 +44,25 @@ TEST_F(HelpPages, TheNamedPagesAreThere) {
   EXPECT_TRUE(manualPages().contains(QStringLiteral("genhelp.htm")));
   EXPECT_TRUE(manualPages().contains(QStringLiteral("relinfo.htm")));
   EXPECT_TRUE(manualPages().contains(QStringLiteral("index.htm")));
+}
+
+TEST_F(HelpPages, EveryLanguageHasEveryPageWithTheSamePlaces) {
+  for (const QString& language : translatedLanguages()) {
+    for (const QString& page : manualPages()) {
+      if (isTranslated(page)) continue;
+      const QString translated = language + u'/' + page;
+      ASSERT_TRUE(manualPages().contains(translated)) << translated.toStdString();
+      EXPECT_TRUE(manualText(translated).contains(QStringLiteral("<html lang=\"%1\">").arg(language)))
+          << translated.toStdString();
+      // What is in an index, and under which letter, is the language's own.
+      if (page == QStringLiteral("index.htm")) continue;
+      for (const QString& kind : {QStringLiteral("(id=\"[^\"]*\")"), QStringLiteral("(<tr>)"),
+                                  QStringLiteral("(<li>)"), QStringLiteral("<pre>(.*?)</pre>")}) {
+        EXPECT_EQ(allMatches(manualText(translated), kind), allMatches(manualText(page), kind))
+            << translated.toStdString();
+      }
+    }
+  }
 }
 
 TEST_F(HelpPages, EveryLinkLeadsToAPlaceThatIsThere) {
@@ -125,12 +149,15 @@ TEST_F(HelpPages, EveryPictureFileIsUsed) {
 }
 
 TEST_F(HelpPages, EveryPageIsReachedFromTheGeneralHelpAndStandsInTheIndex) {
-  const QStringList fromIndex = linksOf(QStringLiteral("index.htm"));
-  const QStringList fromUsage = linksOf(QStringLiteral("genhelp.htm"));
-  for (const QString& page : manualPages()) {
-    if (!page.startsWith(QStringLiteral("manual/"))) continue;
-    EXPECT_TRUE(fromUsage.contains(page)) << page.toStdString();
-    EXPECT_TRUE(fromIndex.contains(page)) << page.toStdString();
+  for (const QString& folder : QStringList{QString()} + translatedLanguages()) {
+    const QString start = folder.isEmpty() ? QString() : folder + u'/';
+    const QStringList fromIndex = linksOf(start + QStringLiteral("index.htm"));
+    const QStringList fromUsage = linksOf(start + QStringLiteral("genhelp.htm"));
+    for (const QString& page : manualPages()) {
+      if (!page.startsWith(QStringLiteral("manual/"))) continue;
+      EXPECT_TRUE(fromUsage.contains(page)) << start.toStdString() << page.toStdString();
+      EXPECT_TRUE(fromIndex.contains(page)) << start.toStdString() << page.toStdString();
+    }
   }
 }
 
