@@ -8,7 +8,15 @@ set(QUORVIN_LIBEXEC libexec/quorvin)
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME window)
 install(TARGETS quorvin RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS quorvin-metafile quorvin-search-provider RUNTIME DESTINATION ${QUORVIN_LIBEXEC})
-install(FILES packaging/man/quorvin.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# English, and translated.
+function(quorvin_install_manual_page page)
+  install(FILES packaging/man/${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  foreach(language de es fr)
+    install(FILES packaging/man/${language}/${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}/man1)
+  endforeach()
+endfunction()
+
+quorvin_install_manual_page(quorvin.1)
 install(FILES packaging/desktop/quorvin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/desktop/quorvin.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo RENAME org.quorvin.utility.metainfo.xml)
@@ -43,7 +51,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/org.quorvin.utility.SearchProvider.ser
 
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME console)
 install(TARGETS quorvin-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES packaging/man/quorvin-cli.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+quorvin_install_manual_page(quorvin-cli.1)
 install(FILES packaging/completions/quorvin-cli.bash
   DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME quorvin-cli)
 install(FILES packaging/completions/_quorvin-cli DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)

@@ -54,6 +54,49 @@ TEST_F(HelpTexts, TheInstalledPageAndCompletionsAreThoseThatTheProgramMakes) {
   EXPECT_EQ(run({u"--completion"_qs, u"zsh"_qs}).output.toStdString(), completionFor("zsh"));
 }
 
+/// The same in the other languages.
+class TranslatedHelpTexts : public HelpTexts, public testing::WithParamInterface<const char*> {
+ protected:
+  TranslatedHelpTexts() {
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.remove(u"LC_ALL"_qs);
+    environment.insert(u"LC_CTYPE"_qs, u"C.UTF-8"_qs);
+    environment.insert(u"LC_MESSAGES"_qs, language_);
+    environment.insert(u"LANGUAGE"_qs, language_);
+    process.setProcessEnvironment(environment);
+  }
+  const QString language_ = QString::fromLatin1(GetParam());
+};
+
+TEST_P(TranslatedHelpTexts, EachHelpFitsAScreen) {
+  const std::string help = run({u"--help"_qs}).output.toStdString();
+  expectFits(help);
+  EXPECT_NE(help, helpOfProgram());
+  for (const CommandText& command : commandTexts()) {
+    const QStringList words =
+        QString::fromLatin1(command.name.data(), static_cast<qsizetype>(command.name.size())).split(u' ');
+    expectFits(run(words + QStringList{u"--help"_qs}).output.toStdString());
+  }
+}
+
+TEST_P(TranslatedHelpTexts, TheInstalledPageIsTheOneThatTheProgramMakes) {
+  // When this fails: LC_MESSAGES=de LANGUAGE=de quorvin-cli --man > packaging/man/de/quorvin-cli.1, and so
+  // on.
+  const std::string made = run({u"--man"_qs}).output.toStdString();
+  EXPECT_EQ(packaged(u"man/"_qs + language_ + u"/quorvin-cli.1"_qs).toStdString(), made);
+  EXPECT_THAT(made, testing::HasSubstr("\n.B \\-\\-fields LIST\n"));
+}
+
+TEST_P(TranslatedHelpTexts, MistakesAreExplained) {
+  const test::Ended ended = run({u"fnd"_qs});
+  EXPECT_EQ(ended.status, 2);
+  EXPECT_TRUE(ended.errors.startsWith(u"quorvin-cli: "_qs)) << ended.errors.toStdString();
+  EXPECT_FALSE(ended.errors.contains(u"there is no command"_qs)) << ended.errors.toStdString();
+  EXPECT_TRUE(ended.errors.contains(u"fnd"_qs)) << ended.errors.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, TranslatedHelpTexts, testing::Values("de", "es", "fr"));
+
 TEST_F(HelpTexts, TheManualPageHasEveryOptionAndSection) {
   const std::string page = manualPage("1.2");
   for (const char* section : {"NAME", "SYNOPSIS", "DESCRIPTION", "OPTIONS", "COMMANDS", "FIELDS",

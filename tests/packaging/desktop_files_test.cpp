@@ -63,6 +63,21 @@ TEST(DesktopEntry, TheProgramIsOfferedForListingsAndForTexts) {
   EXPECT_EQ(entryOf(entry, u"Desktop Action Manual"_qs, u"Exec"_qs), u"quorvin --manual"_qs);
 }
 
+TEST(DesktopEntry, WhatItSaysIsTranslated) {
+  const QString entry = kPackaging + u"desktop/quorvin.desktop"_qs;
+  const QString menu = kPackaging + u"service-menus/quorvin-search-folder.desktop"_qs;
+  for (const QString& language : {u"de"_qs, u"es"_qs, u"fr"_qs}) {
+    const QString ending = u'[' + language + u']';
+    for (const char* key : {"GenericName", "Comment", "Keywords"}) {
+      EXPECT_NE(entryOf(entry, u"Desktop Entry"_qs, QString::fromLatin1(key) + ending), QString()) << key;
+    }
+    for (const char* group : {"Desktop Action Rescan", "Desktop Action Manual"}) {
+      EXPECT_NE(entryOf(entry, QString::fromLatin1(group), u"Name"_qs + ending), QString()) << group;
+    }
+    EXPECT_NE(entryOf(menu, u"Desktop Action SearchWithQuorvin"_qs, u"Name"_qs + ending), QString());
+  }
+}
+
 /// File managers put the path in the place of a "%f" that stands alone, as one argument, whatever is in it.
 /// Within quotation marks it would be a part of a text, and names with such marks would end that.
 TEST(ServiceMenu, TheFolderIsOneArgument) {

@@ -28,7 +28,10 @@ TEST(Metadata, TheVersionIsTheSameEverywhere) {
   EXPECT_EQ(firstOf(u"packaging/desktop/quorvin.metainfo.xml"_qs, u"<release version=\"([0-9.]+)\""_qs),
             version);
   EXPECT_EQ(firstOf(u"packaging/rpm/quorvin.spec"_qs, u"^Version: +([0-9.]+)"_qs), version);
-  EXPECT_EQ(firstOf(u"packaging/man/quorvin.1"_qs, u"Quorvin Utility ([0-9.]+)"_qs), version);
+  for (const QString& language : {u""_qs, u"de/"_qs, u"es/"_qs, u"fr/"_qs}) {
+    EXPECT_EQ(firstOf(u"packaging/man/"_qs + language + u"quorvin.1"_qs, u"Quorvin Utility ([0-9.]+)"_qs),
+              version);
+  }
 }
 
 TEST(Metadata, TheDesktopAndTheBusKnowTheProgramByTheSameNames) {
