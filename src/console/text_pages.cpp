@@ -1,5 +1,7 @@
 #include "console/text_pages.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 
 namespace quorvin {
