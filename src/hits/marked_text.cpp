@@ -68,7 +68,11 @@ MarkedText partsOf(const MarkedText& line, const Kept& kept) {
 /// Whether each character is to the right of the one before, and mostly as wide as it is alone.
 bool runsToTheRight(const QString& text) {
   constexpr char16_t kFirstOfOtherDirections = 0x0590;
-  return std::ranges::all_of(text, [](QChar sign) { return sign.unicode() < kFirstOfOtherDirections; });
+  return std::ranges::all_of(text, [](QChar sign) {
+    // Accents that follow their letter, and soft hyphens, have a width only when they are alone.
+    const bool standsAlone = !sign.isMark() && sign.category() != QChar::Other_Format;
+    return sign.unicode() < kFirstOfOtherDirections && standsAlone;
+  });
 }
 
 /// The largest length that fits; those before it fit too.

@@ -42,6 +42,13 @@ TEST_F(MarkedTexts, WhatFitsStaysAsItIs) {
   EXPECT_EQ(cutToWidth({}, font_, 10), MarkedText());
 }
 
+TEST_F(MarkedTexts, ThatFitOnlyTogetherStayAsTheyAre) {
+  for (const QString& letter : {u"a\u00AD"_qs, u"e\u0301"_qs}) {
+    const MarkedText line{letter.repeated(20), {}};
+    EXPECT_EQ(cutToWidth(line, font_, widthOf(line, font_)), line) << letter.toStdString();
+  }
+}
+
 TEST_F(MarkedTexts, AreCutWhereTheWordsOfOtherCellsAre) {
   const QFontMetricsF metrics(font_);
   const QString text = u"Northern Harbour Lights, live at Wembley (1986), the second evening.mp3"_qs;
