@@ -91,8 +91,7 @@ void Desktop::type(const QString& text) const {
 }
 
 void Desktop::click(QPoint place, const QString& heldKey) const {
-  QStringList does = {QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
-                      QString::number(place.y())};
+  QStringList does = {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())};
   if (!heldKey.isEmpty()) does += {QStringLiteral("keydown"), heldKey};
   does += {QStringLiteral("click"), QStringLiteral("1")};
   if (!heldKey.isEmpty()) does += {QStringLiteral("keyup"), heldKey};
@@ -101,8 +100,7 @@ void Desktop::click(QPoint place, const QString& heldKey) const {
 
 void Desktop::drag(QPoint from, QPoint to) const {
   const auto moveTo = [this](QPoint place) {
-    control({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
-             QString::number(place.y())});
+    control({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())});
   };
   moveTo(from);
   control({QStringLiteral("mousedown"), QStringLiteral("1")});

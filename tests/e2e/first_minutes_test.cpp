@@ -87,7 +87,7 @@ class FirstMinutes : public testing::Test {
     })) << "no "
         << name << " in " << title.toStdString();
     const QPoint middle = place.center();
-    QStringList does = {QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(middle.x()),
+    QStringList does = {QStringLiteral("mousemove"), QString::number(middle.x()),
                         QString::number(middle.y())};
     if (!heldKey.isEmpty()) does += {QStringLiteral("keydown"), heldKey};
     does += {QStringLiteral("click"), QStringLiteral("1")};

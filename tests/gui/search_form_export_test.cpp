@@ -246,7 +246,7 @@ TEST_F(ExportedHits, ClosingTheWindowEndsTheExportAndNothingIsWritten) {
 }
 
 TEST_F(ExportedHits, CancelInTheProgressWindowEndsTheExportAndNothingElse) {
-  showHits(400'000);
+  showHits(100'000);
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, &watch, [this] {
     if (!form().progress().isVisible()) return;
