@@ -1,8 +1,8 @@
 #include "app/main_application.h"
 
 #include "app/fault_report.h"
+#include "app/readable_style.h"
 #include "app/version.h"
-#include "hits/hit_list_delegate.h"
 #include "platform/text_direction.h"
 #include "texts/texts.h"
 
@@ -18,13 +18,9 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPixmapCache>
-#include <QStringList>
-#include <QStyleOptionButton>
-#include <QStyleOptionMenuItem>
 #include <QSvgRenderer>
 #include <QWidget>
 
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -60,14 +56,6 @@ void nameIcon(const QMessageBox& box) {
 /// For parts of controls as the style has drawn them, each for its size. The usual 10 MB, which what is known
 /// of the parts doubles, fill up as windows are resized, with what is hardly seen again.
 constexpr int kDrawnPartsKilobytes = 1024;
-
-/// Whether a dialog or another window of its own goes from the screen; menus and tooltips are none.
-bool isWindowGoing(QObject* receiver, const QEvent& event) {
-  if (event.type() != QEvent::Hide) return false;
-  const auto* widget = qobject_cast<QWidget*>(receiver);
-  if (!widget || !widget->isWindow()) return false;
-  return widget->windowType() == Qt::Dialog || widget->windowType() == Qt::Window;
-}
 
 void writeLine(const QString& text) {
   std::fprintf(stderr, "quorvin: %s\n", text.simplified().toLocal8Bit().constData());
@@ -122,10 +110,6 @@ QMessageBox::StandardButton show(QMessageBox::Icon icon, const QString& text,
   std::abort();
 }
 
-QString captionWithin(Qt::LayoutDirection around, const QString& caption) {
-  return caption.isRightToLeft() ? caption : englishWithin(around, caption);
-}
-
 /// The program's icon in every size that desktops ask for, each drawn for itself, so that none is blurred,
 /// and only when it is asked for: some desktops have an icon of their own for the program.
 class ApplicationIcon : public QIconEngine {
@@ -150,93 +134,7 @@ class ApplicationIcon : public QIconEngine {
   QIconEngine* clone() const override { return new ApplicationIcon; }
 };
 
-/// `share` is that of `one`, from 0 to 1.
-QColor between(const QColor& one, const QColor& other, double share) {
-  const auto mixed = [share](int of, int with) {
-    return static_cast<int>(std::lround(share * of + (1 - share) * with));
-  };
-  return {mixed(one.red(), other.red()), mixed(one.green(), other.green()), mixed(one.blue(), other.blue())};
-}
-
-/// Desktops of high contrast have been met with black on black.
-void makeUnusableTextsSeen(QPalette& palette) {
-  constexpr double kSeen = 2;
-  for (const auto& [text, background] :
-       {std::pair(QPalette::WindowText, QPalette::Window), std::pair(QPalette::Text, QPalette::Base),
-        std::pair(QPalette::ButtonText, QPalette::Button)}) {
-    const QColor behind = palette.color(QPalette::Disabled, background);
-    const QColor unusable = palette.color(QPalette::Disabled, text);
-    if (shadeAgainst(unusable, behind, kSeen) == unusable) continue;
-    palette.setColor(QPalette::Disabled, text, between(palette.color(QPalette::Active, text), behind, 0.5));
-  }
-}
-
-bool isFrame(QStyle::PrimitiveElement element) {
-  return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_PanelMenu ||
-         element == QStyle::PE_Frame || element == QStyle::PE_PanelButtonCommand;
-}
-
-constexpr int kDarkestWithMenuFrames = 128;
-
-/// Whether the window is so dark that no darker frame can be seen on it.
-bool losesFrame(QStyle::PrimitiveElement element, const QPalette& palette) {
-  constexpr int kDarkestWithFrames = 20;
-  const int darkest = element == QStyle::PE_PanelMenu ? kDarkestWithMenuFrames : kDarkestWithFrames;
-  return palette.color(QPalette::Window).lightness() < darkest;
-}
-
-/// What Enter presses, and what has the keys, has a frame in the selection's colour.
-bool standsOut(const QStyleOption& option) {
-  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
-  return option.state.testFlag(QStyle::State_HasFocus) ||
-         (button && button->features.testFlag(QStyleOptionButton::DefaultButton));
-}
-
 }  // namespace
-
-void SeenFrames::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                               const QWidget* widget) const {
-  QProxyStyle::drawPrimitive(element, option, painter, widget);
-  if (!isFrame(element) || standsOut(*option) || !losesFrame(element, option->palette)) return;
-  painter->save();
-  painter->setBrush(Qt::NoBrush);
-  painter->setPen(
-      between(option->palette.color(QPalette::WindowText), option->palette.color(QPalette::Window), 0.5));
-  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-  painter->restore();
-}
-
-QPalette withReadableTexts(QPalette palette) {
-  makeUnusableTextsSeen(palette);
-  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-    const QColor text = palette.color(group, QPalette::Text);
-    const QColor base = palette.color(group, QPalette::Base);
-    palette.setColor(group, QPalette::PlaceholderText, between(text, base, 0.7));
-    const QColor selectedText = palette.color(group, QPalette::HighlightedText);
-    palette.setColor(group, QPalette::Highlight,
-                     shadeAgainst(palette.color(group, QPalette::Highlight), selectedText));
-  }
-  return palette;
-}
-
-void EnglishCaptions::drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette,
-                                   bool enabled, const QString& text, QPalette::ColorRole role) const {
-  QProxyStyle::drawItemText(painter, place, flags, palette, enabled,
-                            captionWithin(painter->layoutDirection(), text), role);
-}
-
-/// Styles draw the texts of menu items by themselves.
-void EnglishCaptions::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                                  const QWidget* widget) const {
-  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-  if (element != CE_MenuItem || !item) return QProxyStyle::drawControl(element, option, painter, widget);
-  // The caption, and the keys behind a tab.
-  QStringList parts = item->text.split(u'\t');
-  for (QString& part : parts) part = captionWithin(item->direction, part);
-  QStyleOptionMenuItem shown(*item);
-  shown.text = parts.join(u'\t');
-  QProxyStyle::drawControl(element, &shown, painter, widget);
-}
 
 void giveWindowsTheirIcon() {
   if (QGuiApplication::windowIcon().isNull()) QGuiApplication::setWindowIcon(QIcon(new ApplicationIcon));
@@ -250,12 +148,7 @@ Application::Application(int& argc, char** argv, MessageBoxes& messages)
     : QApplication(argc, argv), messages_(messages) {
   QAccessible::installFactory(&makeWindowAccessible);
   QPixmapCache::setCacheLimit(kDrawnPartsKilobytes);
-  // Other styles find colours of their own for frames.
-  const bool needsFrames =
-      style()->name() == u"fusion" && palette().color(QPalette::Window).lightness() < kDarkestWithMenuFrames;
-  if (needsFrames) setStyle(new SeenFrames);
-  if (isRightToLeft()) setStyle(needsFrames ? new EnglishCaptions(new SeenFrames) : new EnglishCaptions);
-  setPalette(withReadableTexts(palette()));
+  setStyle(new ReadableStyle);
   // Wayland's desktops take the icon from there.
   setDesktopFileName(QStringLiteral("quorvin"));
   // The session goes on only when everybody has answered, so the handler has to be through by then.
@@ -274,12 +167,9 @@ void Application::setLeaveHandler(std::function<void()> leave) {
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
-  const bool isGoing = isWindowGoing(receiver, *event);
   bool result = false;
   reportFaults(messages_, Texts::tr("handling an event of the window system"),
                [&] { result = QApplication::notify(receiver, event); });
-  // The style keeps what it has drawn under the name of that window's colours, which nobody asks for again.
-  if (isGoing) QPixmapCache::clear();
   return result;
 }
 

@@ -5,47 +5,11 @@
 #include "platform/message_box.h"
 
 #include <QApplication>
-#include <QPalette>
-#include <QProxyStyle>
 
 #include <functional>
 #include <optional>
 
 namespace quorvin {
-
-/// `palette` with a colour for quiet texts (PlaceholderText) that lies between text and background and can be
-/// read on Base and on Window. Desktops give one of too little contrast, or, with dark palettes, none. What
-/// is selected has a background on which its text can be read, of the hue that the desktop has chosen. Texts
-/// of what cannot be used are fainter than others, but can be seen.
-QPalette withReadableTexts(QPalette palette);
-
-/// Draws frames that the toolkit's own style draws in a darker shade of the windows, so that nobody sees
-/// them: those of menus with dark palettes, and on black windows, for high contrast, also those of boxes,
-/// buttons and lists.
-class SeenFrames : public QProxyStyle {
-  Q_OBJECT
-
- public:
-  using QProxyStyle::QProxyStyle;
-
-  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override;
-};
-
-/// Draws English captions on desktops that are read from right to left: without it the full stops and
-/// question marks at their ends would be drawn at their starts ("?Web Update"). The captions themselves stay
-/// as they are; texts in other scripts are drawn as ever.
-class EnglishCaptions : public QProxyStyle {
-  Q_OBJECT
-
- public:
-  using QProxyStyle::QProxyStyle;
-
-  void drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette, bool enabled,
-                    const QString& text, QPalette::ColorRole role) const override;
-  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                   const QWidget* widget) const override;
-};
 
 /// Gives the program's windows their icon. Drawing it in every size and handing it to the window system takes
 /// time that the main window need not wait for; messages come with it in any case.
