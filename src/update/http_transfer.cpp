@@ -87,7 +87,8 @@ void HttpNetworkTransfer::execute(const QUrl& address) {
   reply_->setReadBufferSize(kHttpReadBuffer);
   connect(reply_, &QNetworkReply::metaDataChanged, this, &HttpNetworkTransfer::headersArrived);
   connect(reply_, &QNetworkReply::finished, this, &HttpNetworkTransfer::finished);
-  connect(reply_, &QNetworkReply::readyRead, &silence_, qOverload<>(&QTimer::start));
+  // By way of this object: what still comes from a reply that was dropped must not start the timer.
+  connect(reply_, &QNetworkReply::readyRead, this, [this] { silence_.start(); });
   headerDeadline_.start(limits_.headers);
   silence_.start();
 }

@@ -56,6 +56,23 @@ class NetworkThatTakesAnyAnswerForWhole : public QNetworkAccessManager {
   qsizetype size_;
 };
 
+/// More of it has arrived by the time at which it is ended.
+class ReplyWithMoreOnTheWay : public QNetworkReply {
+ public:
+  explicit ReplyWithMoreOnTheWay(QObject* parent) : QNetworkReply(parent) {}
+  void abort() override { Q_EMIT readyRead(); }
+
+ protected:
+  qint64 readData(char*, qint64) override { return 0; }
+};
+
+class NetworkWithMoreOnTheWay : public QNetworkAccessManager {
+ protected:
+  QNetworkReply* createRequest(Operation, const QNetworkRequest&, QIODevice*) override {
+    return new ReplyWithMoreOnTheWay(this);
+  }
+};
+
 QByteArray bodyOf(qsizetype size) {
   QByteArray body;
   while (body.size() < size) body += QByteArray::number(body.size()) + ' ';
@@ -143,6 +160,18 @@ TEST_F(HttpNetworkTransferTest, CancelClosesTheConnection) {
   transfer.cancel();
   EXPECT_TRUE(eventually([&] { return server_->closedConnections == 1; }));
   EXPECT_EQ(transfer.header(u"Content-Length:"_qs), QString());
+}
+
+TEST_F(HttpNetworkTransferTest, WhatArrivesAfterCancelIsNoSilenceLater) {
+  HttpLimits limits;
+  limits.silence = std::chrono::milliseconds(1);
+  HttpNetworkTransfer transfer(limits, std::make_unique<NetworkWithMoreOnTheWay>());
+  transfer.execute(QUrl(u"http://host.invalid/main.zip"_qs));
+  transfer.cancel();
+  bool isLater = false;
+  QTimer::singleShot(100, &transfer, [&] { isLater = true; });
+  ASSERT_TRUE(eventually([&] { return isLater; }));
+  EXPECT_EQ(transfer.header(u"Content-Length"_qs), QString()) << "nothing has failed";
 }
 
 TEST_F(HttpNetworkTransferTest, FollowsARedirect) {
