@@ -2911,14 +2911,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>RÜCKGABEWERT</translation>
     </message>
     <message>
-        <source>find: there were hits. Others: all was done.</source>
-        <translation>find: es gab Treffer. Andere: alles wurde getan.</translation>
-    </message>
-    <message>
-        <source>find: there were none. history: there is no earlier version.</source>
-        <translation>find: es gab keine. history: es gibt keine frühere Fassung.</translation>
-    </message>
-    <message>
         <source>Something went wrong, or the command line was not understood; a sentence on standard error says what. What could be done was done. index and refresh: also when a folder holds more names than a listing takes.</source>
         <translation>Etwas ging schief, oder die Befehlszeile wurde nicht verstanden; ein Satz auf der Standardfehlerausgabe sagt, was. Was möglich war, wurde getan. index und refresh: auch, wenn ein Ordner mehr Namen enthält, als eine Liste aufnimmt.</translation>
     </message>
@@ -3071,10 +3063,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>%1 needs the description or the path of a source</source>
         <translation>%1 braucht die Beschreibung oder den Pfad einer Quelle</translation>
-    </message>
-    <message>
-        <source>the commands are find, index, refresh, sources, history and cache</source>
-        <translation>die Befehle sind find, index, refresh, sources, history und cache</translation>
     </message>
     <message>
         <source>there is no option &quot;%1&quot;</source>
@@ -3283,6 +3271,140 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>very long outlines</source>
         <translation>sehr lange Umrisse</translation>
+    </message>
+    <message>
+        <source>There are more than %1 files</source>
+        <translation>Es gibt mehr als %1 Dateien</translation>
+    </message>
+    <message>
+        <source>find and copies: there were hits. Others: all was done.</source>
+        <translation>find und copies: es gab Treffer. Andere: alles wurde getan.</translation>
+    </message>
+    <message>
+        <source>find and copies: there were none. history: there is no earlier version.</source>
+        <translation>find und copies: es gab keine. history: es gibt keine frühere Fassung.</translation>
+    </message>
+    <message>
+        <source>the rows could not all be written to standard output</source>
+        <translation>die Zeilen konnten nicht alle auf die Standardausgabe geschrieben werden</translation>
+    </message>
+    <message>
+        <source>comparing names and sizes</source>
+        <translation>Namen und Größen werden verglichen</translation>
+    </message>
+    <message>
+        <source>Files on one volume only: %1, of %2 altogether</source>
+        <translation>Dateien auf nur einem Datenträger: %1, zusammen %2</translation>
+    </message>
+    <message>
+        <source>Files with copies: %1. Copies beyond the first: %2, of %3 altogether</source>
+        <translation>Dateien mit Kopien: %1. Kopien außer der ersten: %2, zusammen %3</translation>
+    </message>
+    <message>
+        <source>Left out, since their exact size is not known: %1</source>
+        <translation>Ausgelassen, da ihre genaue Größe nicht bekannt ist: %1</translation>
+    </message>
+    <message>
+        <source>Files that are on one volume only, instead of copies</source>
+        <translation>Dateien auf nur einem Datenträger statt Kopien</translation>
+    </message>
+    <message>
+        <source>Write only how much it is, for each volume</source>
+        <translation>Nur schreiben, wie viel es ist, je Datenträger</translation>
+    </message>
+    <message>
+        <source>The same for each folder</source>
+        <translation>Dasselbe je Ordner</translation>
+    </message>
+    <message>
+        <source>Files must match WORDS by more than this percentage; 50</source>
+        <translation>Dateien müssen über diesem Prozentsatz liegen; 50</translation>
+    </message>
+    <message>
+        <source>Files of no bytes too</source>
+        <translation>Auch leere Dateien</translation>
+    </message>
+    <message>
+        <source>text (default), tsv, csv or json</source>
+        <translation>text (Vorgabe), tsv, csv oder json</translation>
+    </message>
+    <message>
+        <source>Start tsv and csv with the titles of the columns</source>
+        <translation>tsv und csv mit den Spaltentiteln beginnen</translation>
+    </message>
+    <message>
+        <source>Write no more than N of them</source>
+        <translation>Höchstens N davon schreiben</translation>
+    </message>
+    <message>
+        <source>What takes up most space</source>
+        <translation>Was am meisten Platz belegt</translation>
+    </message>
+    <message>
+        <source>How much each disk has that no other one has</source>
+        <translation>Was jeder Datenträger als einziger hat</translation>
+    </message>
+    <message>
+        <source>Photos without a backup</source>
+        <translation>Fotos ohne Sicherung</translation>
+    </message>
+    <message>
+        <source>Of these two listings</source>
+        <translation>Von diesen beiden Listen</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
+        <translation>Gleich sind Dateien mit demselben Namen, bis auf Groß- und Kleinschreibung, und derselben Größe auf das Byte; in sie hinein sieht niemand. Die Gruppen, die am meisten Platz verschwenden, kommen zuerst, jede mit einer Zeile für jeden Ort. Ordner, die als Ganzes gleich sind, mit allem darin, sind eine Gruppe, und ihre Dateien werden nicht noch einmal aufgeführt. Ihre eigenen Namen dürfen verschieden sein.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. With --single a file is shown if no other volume has it, even where its own volume has it twice. Which files are the same is always decided among all listings: with WORDS, groups are shown of which a search for these words finds one file. Without a LISTING, the user&apos;s own sources are looked through.</source>
+        <translation>Ein Datenträger ist, was eine Liste so nennt; zwei Listen haben nie denselben. Mit --single wird eine Datei gezeigt, wenn kein anderer Datenträger sie hat, auch wenn ihr eigener sie zweimal hat. Welche Dateien gleich sind, entscheidet sich immer unter allen Listen: Mit WORDS werden Gruppen gezeigt, von denen eine Suche nach diesen Wörtern eine Datei findet. Ohne LISTING werden die eigenen Quellen des Benutzers durchgesehen.</translation>
+    </message>
+    <message>
+        <source>Left out are files without a size of their own in the listing, which are counted at the end, and empty ones unless --empty is given. Listings hold the first 65 characters of a name; longer names that differ only behind them count as the same. A size that a listing has rounded cannot be told from one that is exact.</source>
+        <translation>Ausgelassen werden Dateien ohne eigene Größe in der Liste, die am Ende gezählt werden, und leere, außer mit --empty. Listen enthalten die ersten 65 Zeichen eines Namens; längere Namen, die sich erst dahinter unterscheiden, gelten als gleich. Eine Größe, die eine Liste gerundet hat, ist von einer genauen nicht zu unterscheiden.</translation>
+    </message>
+    <message>
+        <source>Tsv and csv have a row for each place, json an object for each group; a group&apos;s name is that of its first file or folder. The last line on standard error has the sum. --limit counts groups, files or sums, whichever are written.</source>
+        <translation>Tsv und csv haben eine Zeile für jeden Ort, json ein Objekt für jede Gruppe; der Name einer Gruppe ist der ihrer ersten Datei oder ihres ersten Ordners. Die letzte Zeile auf der Standardfehlerausgabe hat die Summe. --limit zählt Gruppen, Dateien oder Summen, je nachdem, was geschrieben wird.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies of %2: %3</source>
+        <translation>
+            <numerusform>%1 Kopie von %2: %3</numerusform>
+            <numerusform>%1 Kopien von %2: %3</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 equal folders of %2 with %3 files: %4</source>
+        <translation>
+            <numerusform>%1 gleicher Ordner von %2 mit %3 Dateien: %4</numerusform>
+            <numerusform>%1 gleiche Ordner von %2 mit %3 Dateien: %4</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, index, refresh, sources, history and cache</source>
+        <translation>die Befehle sind find, copies, index, refresh, sources, history und cache</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are text, tsv, csv and json</source>
+        <translation>es gibt kein Format „%1“; die Formate sind text, tsv, csv und json</translation>
+    </message>
+    <message>
+        <source>there are sums for volumes or for folders, not for both at once</source>
+        <translation>Summen gibt es für Datenträger oder für Ordner, nicht für beide zugleich</translation>
+    </message>
+    <message>
+        <source>%1 searched</source>
+        <translation>%1 durchsucht</translation>
+    </message>
+    <message>
+        <source>Find copies of files, and what is on one volume only</source>
+        <translation>Kopien finden, und was nur auf einem Datenträger ist</translation>
+    </message>
+    <message>
+        <source>%1 was changed while it was read. Please try again</source>
+        <translation>%1 wurde geändert, während es gelesen wurde. Bitte versuchen Sie es noch einmal</translation>
     </message>
 </context>
 <context>

@@ -1254,14 +1254,6 @@ Forget the request, and rescan everything?</source>
         <translation>ESTADO DE SALIDA</translation>
     </message>
     <message>
-        <source>find: there were hits. Others: all was done.</source>
-        <translation>find: hubo resultados. Las demás: se hizo todo.</translation>
-    </message>
-    <message>
-        <source>find: there were none. history: there is no earlier version.</source>
-        <translation>find: no los hubo. history: no hay ninguna versión anterior.</translation>
-    </message>
-    <message>
         <source>Something went wrong, or the command line was not understood; a sentence on standard error says what. What could be done was done. index and refresh: also when a folder holds more names than a listing takes.</source>
         <translation>Algo fue mal, o no se entendió la línea de órdenes; una frase en la salida de errores dice qué. Se hizo lo que se pudo hacer. index y refresh: también cuando una carpeta contiene más nombres de los que admite una lista.</translation>
     </message>
@@ -1414,10 +1406,6 @@ Forget the request, and rescan everything?</source>
     <message>
         <source>%1 needs the description or the path of a source</source>
         <translation>%1 necesita la descripción o la ruta de una fuente</translation>
-    </message>
-    <message>
-        <source>the commands are find, index, refresh, sources, history and cache</source>
-        <translation>las órdenes son find, index, refresh, sources, history y cache</translation>
     </message>
     <message>
         <source>there is no option &quot;%1&quot;</source>
@@ -3283,6 +3271,140 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>very long outlines</source>
         <translation>contornos muy largos</translation>
+    </message>
+    <message>
+        <source>There are more than %1 files</source>
+        <translation>Hay más de %1 archivos</translation>
+    </message>
+    <message>
+        <source>find and copies: there were hits. Others: all was done.</source>
+        <translation>find y copies: hubo resultados. Las demás: se hizo todo.</translation>
+    </message>
+    <message>
+        <source>find and copies: there were none. history: there is no earlier version.</source>
+        <translation>find y copies: no hubo ninguno. history: no hay ninguna versión anterior.</translation>
+    </message>
+    <message>
+        <source>the rows could not all be written to standard output</source>
+        <translation>no se pudieron escribir todas las filas en la salida estándar</translation>
+    </message>
+    <message>
+        <source>comparing names and sizes</source>
+        <translation>comparando nombres y tamaños</translation>
+    </message>
+    <message>
+        <source>Files on one volume only: %1, of %2 altogether</source>
+        <translation>Archivos en un solo volumen: %1, de %2 en total</translation>
+    </message>
+    <message>
+        <source>Files with copies: %1. Copies beyond the first: %2, of %3 altogether</source>
+        <translation>Archivos con copias: %1. Copias además de la primera: %2, de %3 en total</translation>
+    </message>
+    <message>
+        <source>Left out, since their exact size is not known: %1</source>
+        <translation>Omitidos, porque no se conoce su tamaño exacto: %1</translation>
+    </message>
+    <message>
+        <source>Files that are on one volume only, instead of copies</source>
+        <translation>Archivos que están en un solo volumen, en vez de copias</translation>
+    </message>
+    <message>
+        <source>Write only how much it is, for each volume</source>
+        <translation>Escribir solo cuánto es, por volumen</translation>
+    </message>
+    <message>
+        <source>The same for each folder</source>
+        <translation>Lo mismo por carpeta</translation>
+    </message>
+    <message>
+        <source>Files must match WORDS by more than this percentage; 50</source>
+        <translation>Los archivos deben superar este porcentaje; 50</translation>
+    </message>
+    <message>
+        <source>Files of no bytes too</source>
+        <translation>También los archivos vacíos</translation>
+    </message>
+    <message>
+        <source>text (default), tsv, csv or json</source>
+        <translation>text (predeterminado), tsv, csv o json</translation>
+    </message>
+    <message>
+        <source>Start tsv and csv with the titles of the columns</source>
+        <translation>Empezar tsv y csv con los títulos de las columnas</translation>
+    </message>
+    <message>
+        <source>Write no more than N of them</source>
+        <translation>No escribir más de N</translation>
+    </message>
+    <message>
+        <source>What takes up most space</source>
+        <translation>Lo que más espacio ocupa</translation>
+    </message>
+    <message>
+        <source>How much each disk has that no other one has</source>
+        <translation>Cuánto tiene cada disco que ningún otro tiene</translation>
+    </message>
+    <message>
+        <source>Photos without a backup</source>
+        <translation>Fotos sin copia de seguridad</translation>
+    </message>
+    <message>
+        <source>Of these two listings</source>
+        <translation>De estas dos listas</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
+        <translation>Son iguales los archivos que tienen el mismo nombre, en mayúsculas o minúsculas, y el mismo tamaño hasta el último byte; nadie mira dentro de ellos. Los grupos que más espacio desperdician van primero, cada uno con una línea por lugar. Las carpetas que son iguales enteras, con todo lo que contienen, forman un grupo, y sus archivos no se vuelven a enumerar. Sus propios nombres pueden ser distintos.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. With --single a file is shown if no other volume has it, even where its own volume has it twice. Which files are the same is always decided among all listings: with WORDS, groups are shown of which a search for these words finds one file. Without a LISTING, the user&apos;s own sources are looked through.</source>
+        <translation>Un volumen es lo que una lista llama así; dos listas nunca comparten uno. Con --single se muestra un archivo si ningún otro volumen lo tiene, aunque el suyo lo tenga dos veces. Qué archivos son iguales se decide siempre entre todas las listas: con WORDS se muestran los grupos de los que una búsqueda de esas palabras encuentra un archivo. Sin LISTING se miran las fuentes propias del usuario.</translation>
+    </message>
+    <message>
+        <source>Left out are files without a size of their own in the listing, which are counted at the end, and empty ones unless --empty is given. Listings hold the first 65 characters of a name; longer names that differ only behind them count as the same. A size that a listing has rounded cannot be told from one that is exact.</source>
+        <translation>Se omiten los archivos sin tamaño propio en la lista, que se cuentan al final, y los vacíos si no se da --empty. Las listas contienen los primeros 65 caracteres de un nombre; los nombres más largos que solo difieren después cuentan como iguales. Un tamaño que una lista ha redondeado no se distingue de uno exacto.</translation>
+    </message>
+    <message>
+        <source>Tsv and csv have a row for each place, json an object for each group; a group&apos;s name is that of its first file or folder. The last line on standard error has the sum. --limit counts groups, files or sums, whichever are written.</source>
+        <translation>Tsv y csv tienen una fila por lugar, json un objeto por grupo; el nombre de un grupo es el de su primer archivo o de su primera carpeta. La última línea de la salida de errores tiene la suma. --limit cuenta grupos, archivos o sumas, según lo que se escriba.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies of %2: %3</source>
+        <translation>
+            <numerusform>%1 copia de %2: %3</numerusform>
+            <numerusform>%1 copias de %2: %3</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 equal folders of %2 with %3 files: %4</source>
+        <translation>
+            <numerusform>%1 carpeta igual de %2 con %3 archivos: %4</numerusform>
+            <numerusform>%1 carpetas iguales de %2 con %3 archivos: %4</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, index, refresh, sources, history and cache</source>
+        <translation>las órdenes son find, copies, index, refresh, sources, history y cache</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are text, tsv, csv and json</source>
+        <translation>no hay ningún formato «%1»; los formatos son text, tsv, csv y json</translation>
+    </message>
+    <message>
+        <source>there are sums for volumes or for folders, not for both at once</source>
+        <translation>hay sumas por volumen o por carpeta, no por ambos a la vez</translation>
+    </message>
+    <message>
+        <source>%1 searched</source>
+        <translation>%1 examinadas</translation>
+    </message>
+    <message>
+        <source>Find copies of files, and what is on one volume only</source>
+        <translation>Buscar copias, y lo que está en un solo volumen</translation>
+    </message>
+    <message>
+        <source>%1 was changed while it was read. Please try again</source>
+        <translation>%1 se cambió mientras se leía. Inténtelo de nuevo</translation>
     </message>
 </context>
 <context>

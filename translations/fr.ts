@@ -1254,14 +1254,6 @@ Oublier la demande et tout relire&#xa0;?</translation>
         <translation>CODE DE RETOUR</translation>
     </message>
     <message>
-        <source>find: there were hits. Others: all was done.</source>
-        <translation>find&#xa0;: il y avait des résultats. Autres&#xa0;: tout a été fait.</translation>
-    </message>
-    <message>
-        <source>find: there were none. history: there is no earlier version.</source>
-        <translation>find&#xa0;: il n’y en avait pas. history&#xa0;: il n’y a pas de version antérieure.</translation>
-    </message>
-    <message>
         <source>Something went wrong, or the command line was not understood; a sentence on standard error says what. What could be done was done. index and refresh: also when a folder holds more names than a listing takes.</source>
         <translation>Quelque chose s’est mal passé, ou la ligne de commande n’a pas été comprise&#xa0;; une phrase sur la sortie d’erreur dit quoi. Ce qui pouvait être fait l’a été. index et refresh&#xa0;: aussi quand un dossier contient plus de noms qu’une liste n’en accepte.</translation>
     </message>
@@ -1414,10 +1406,6 @@ Oublier la demande et tout relire&#xa0;?</translation>
     <message>
         <source>%1 needs the description or the path of a source</source>
         <translation>%1 a besoin de la description ou du chemin d’une source</translation>
-    </message>
-    <message>
-        <source>the commands are find, index, refresh, sources, history and cache</source>
-        <translation>les commandes sont find, index, refresh, sources, history et cache</translation>
     </message>
     <message>
         <source>there is no option &quot;%1&quot;</source>
@@ -3283,6 +3271,140 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>very long outlines</source>
         <translation>contours très longs</translation>
+    </message>
+    <message>
+        <source>There are more than %1 files</source>
+        <translation>Il y a plus de %1 fichiers</translation>
+    </message>
+    <message>
+        <source>find and copies: there were hits. Others: all was done.</source>
+        <translation>find et copies&#xa0;: il y avait des résultats. Autres&#xa0;: tout a été fait.</translation>
+    </message>
+    <message>
+        <source>find and copies: there were none. history: there is no earlier version.</source>
+        <translation>find et copies&#xa0;: il n’y en avait pas. history&#xa0;: il n’y a pas de version antérieure.</translation>
+    </message>
+    <message>
+        <source>the rows could not all be written to standard output</source>
+        <translation>les lignes n’ont pas toutes pu être écrites sur la sortie standard</translation>
+    </message>
+    <message>
+        <source>comparing names and sizes</source>
+        <translation>comparaison des noms et des tailles</translation>
+    </message>
+    <message>
+        <source>Files on one volume only: %1, of %2 altogether</source>
+        <translation>Fichiers sur un seul volume&#xa0;: %1, de %2 en tout</translation>
+    </message>
+    <message>
+        <source>Files with copies: %1. Copies beyond the first: %2, of %3 altogether</source>
+        <translation>Fichiers avec des copies&#xa0;: %1. Copies en plus de la première&#xa0;: %2, de %3 en tout</translation>
+    </message>
+    <message>
+        <source>Left out, since their exact size is not known: %1</source>
+        <translation>Laissés de côté, car leur taille exacte n’est pas connue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Files that are on one volume only, instead of copies</source>
+        <translation>Les fichiers d’un seul volume au lieu des copies</translation>
+    </message>
+    <message>
+        <source>Write only how much it is, for each volume</source>
+        <translation>N’écrire que la quantité, pour chaque volume</translation>
+    </message>
+    <message>
+        <source>The same for each folder</source>
+        <translation>De même pour chaque dossier</translation>
+    </message>
+    <message>
+        <source>Files must match WORDS by more than this percentage; 50</source>
+        <translation>Les fichiers doivent dépasser ce pourcentage&#xa0;; 50</translation>
+    </message>
+    <message>
+        <source>Files of no bytes too</source>
+        <translation>Aussi les fichiers vides</translation>
+    </message>
+    <message>
+        <source>text (default), tsv, csv or json</source>
+        <translation>text (par défaut), tsv, csv ou json</translation>
+    </message>
+    <message>
+        <source>Start tsv and csv with the titles of the columns</source>
+        <translation>Commencer tsv et csv par les titres des colonnes</translation>
+    </message>
+    <message>
+        <source>Write no more than N of them</source>
+        <translation>N’en écrire pas plus de N</translation>
+    </message>
+    <message>
+        <source>What takes up most space</source>
+        <translation>Ce qui prend le plus de place</translation>
+    </message>
+    <message>
+        <source>How much each disk has that no other one has</source>
+        <translation>Ce que chaque disque est seul à avoir</translation>
+    </message>
+    <message>
+        <source>Photos without a backup</source>
+        <translation>Les photos sans sauvegarde</translation>
+    </message>
+    <message>
+        <source>Of these two listings</source>
+        <translation>De ces deux listes</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
+        <translation>Sont les mêmes les fichiers qui ont le même nom, majuscules ou non, et la même taille à l’octet près&#xa0;; personne ne regarde dedans. Les groupes qui gaspillent le plus de place viennent en premier, chacun avec une ligne par endroit. Les dossiers égaux en entier, avec tout leur contenu, forment un groupe, et leurs fichiers ne sont pas énumérés de nouveau. Leurs propres noms peuvent différer.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. With --single a file is shown if no other volume has it, even where its own volume has it twice. Which files are the same is always decided among all listings: with WORDS, groups are shown of which a search for these words finds one file. Without a LISTING, the user&apos;s own sources are looked through.</source>
+        <translation>Un volume est ce qu’une liste nomme ainsi&#xa0;; deux listes n’en partagent jamais un. Avec --single, un fichier est montré si aucun autre volume ne l’a, même si le sien l’a deux fois. Quels fichiers sont les mêmes se décide toujours parmi toutes les listes&#xa0;: avec WORDS sont montrés les groupes dont une recherche de ces mots trouve un fichier. Sans LISTING, les sources propres de l’utilisateur sont parcourues.</translation>
+    </message>
+    <message>
+        <source>Left out are files without a size of their own in the listing, which are counted at the end, and empty ones unless --empty is given. Listings hold the first 65 characters of a name; longer names that differ only behind them count as the same. A size that a listing has rounded cannot be told from one that is exact.</source>
+        <translation>Sont laissés de côté les fichiers sans taille propre dans la liste, qui sont comptés à la fin, et les fichiers vides, sauf avec --empty. Les listes contiennent les 65 premiers caractères d’un nom&#xa0;; les noms plus longs qui ne diffèrent qu’ensuite comptent comme les mêmes. Une taille qu’une liste a arrondie ne se distingue pas d’une taille exacte.</translation>
+    </message>
+    <message>
+        <source>Tsv and csv have a row for each place, json an object for each group; a group&apos;s name is that of its first file or folder. The last line on standard error has the sum. --limit counts groups, files or sums, whichever are written.</source>
+        <translation>Tsv et csv ont une ligne pour chaque endroit, json un objet pour chaque groupe&#xa0;; le nom d’un groupe est celui de son premier fichier ou dossier. La dernière ligne sur la sortie d’erreur contient la somme. --limit compte les groupes, les fichiers ou les sommes, selon ce qui est écrit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 copies of %2: %3</source>
+        <translation>
+            <numerusform>%1 copie de %2&#xa0;: %3</numerusform>
+            <numerusform>%1 copies de %2&#xa0;: %3</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 equal folders of %2 with %3 files: %4</source>
+        <translation>
+            <numerusform>%1 dossier égal de %2 avec %3 fichiers&#xa0;: %4</numerusform>
+            <numerusform>%1 dossiers égaux de %2 avec %3 fichiers&#xa0;: %4</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, index, refresh, sources, history and cache</source>
+        <translation>les commandes sont find, copies, index, refresh, sources, history et cache</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are text, tsv, csv and json</source>
+        <translation>il n’y a pas de format «&#xa0;%1&#xa0;»&#xa0;; les formats sont text, tsv, csv et json</translation>
+    </message>
+    <message>
+        <source>there are sums for volumes or for folders, not for both at once</source>
+        <translation>il y a des sommes par volume ou par dossier, pas par les deux à la fois</translation>
+    </message>
+    <message>
+        <source>%1 searched</source>
+        <translation>%1 parcourues</translation>
+    </message>
+    <message>
+        <source>Find copies of files, and what is on one volume only</source>
+        <translation>Trouver les copies, et ce qui n’est que sur un volume</translation>
+    </message>
+    <message>
+        <source>%1 was changed while it was read. Please try again</source>
+        <translation>%1 a été modifié pendant sa lecture. Veuillez réessayer</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,7 @@ _quorvin_cli() {
   for word in "${COMP_WORDS[@]:1:COMP_CWORD - 1}"; do
     case "$command $word" in
       " find") command="find" ;;
+      " copies") command="copies" ;;
       " index") command="index" ;;
       " refresh") command="refresh" ;;
       " sources") command="sources" ;;
@@ -42,7 +43,7 @@ _quorvin_cli() {
       case "$prev" in
         --completion) _quorvin_words "bash zsh fish"; return ;;
       esac
-      _quorvin_words "find index refresh sources history cache --version --completion --man --help"
+      _quorvin_words "find copies index refresh sources history cache --version --completion --man --help"
       ;;
     "find")
       case "$prev" in
@@ -55,6 +56,18 @@ _quorvin_cli() {
       esac
       if [[ $cur == -* ]]; then
         _quorvin_words "--match --format --fields --header --no-header -0 --null --limit --sort --reverse --color --count -q --quiet --no-cache --help"
+        return
+      fi
+      _quorvin_files -f
+      ;;
+    "copies")
+      case "$prev" in
+        --match) _quorvin_words ""; return ;;
+        --format) _quorvin_words "text tsv csv json"; return ;;
+        --limit) _quorvin_words ""; return ;;
+      esac
+      if [[ $cur == -* ]]; then
+        _quorvin_words "--single --by-volume --by-folder --match --empty --format --header -0 --null --limit -q --quiet --no-cache --help"
         return
       fi
       _quorvin_files -f

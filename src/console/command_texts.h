@@ -45,6 +45,9 @@ struct CommandText {
 /// A text of these in the language that is spoken, as UTF-8.
 std::string said(const char* text);
 
+/// "copies", which says much.
+CommandText copiesText();
+
 /// All commands, in the order in which they are shown.
 const std::vector<CommandText>& commandTexts();
 

@@ -1,7 +1,8 @@
-// The commands of the console companion: "find", "cache", "index", "refresh", "sources" and "history". Each
-// gives the exit status of the program.
+// The commands of the console companion: "find", "copies", "cache", "index", "refresh", "sources" and
+// "history". Each gives the exit status of the program.
 #pragma once
 
+#include "console/copy_rows.h"
 #include "console/hit_rows.h"
 #include "search/hit_sort.h"
 
@@ -46,6 +47,36 @@ struct FindRequest {
 /// error. The exit status: 0 with hits, 1 without, 2 when anything could not be done or there is nothing to
 /// search, stopStatus() when a signal ended it; the rows that were complete by then are written.
 int runFind(const FindRequest& request);
+
+/// What the command line asked of "copies".
+struct CopiesRequest {
+  enum class SumBy { Nothing, Volume, Folder };
+
+  /// Only files that a search of this finds are meant; empty for all.
+  QString searchText;
+  /// As in FindRequest.
+  QString desiredMatch = QStringLiteral("50");
+  CopyFormat format = CopyFormat::Text;
+  /// What is on one volume only, instead of what is there more than once.
+  bool singleOnly = false;
+  /// Sums take the place of files.
+  SumBy sumBy = SumBy::Nothing;
+  /// Files of no bytes as well.
+  bool withEmpty = false;
+  bool hasHeader = false;
+  bool endsWithNul = false;
+  /// How many files, groups or sums are written at most; nothing for all.
+  std::optional<std::int64_t> limit = {};
+  /// Neither progress nor the last lines are written.
+  bool isQuiet = false;
+  bool useCache = true;
+  /// As in FindRequest.
+  std::vector<QString> listings = {};
+};
+
+/// Writes what is there more than once, or on one volume only, to standard output, and the sum of it to
+/// standard error. The exit status is that of runFind(), where files or groups are its hits.
+int runCopies(const CopiesRequest& request);
 
 /// What the command line asked of "cache".
 struct CacheRequest {

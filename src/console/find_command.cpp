@@ -2,10 +2,9 @@
 #include "console/commands.h"
 #include "console/error_lines.h"
 #include "console/hit_writer.h"
-#include "console/progress_line.h"
+#include "console/search_parts.h"
 #include "dates/general_number.h"
 #include "faults/runtime_fault.h"
-#include "files/stream_reader.h"
 #include "platform/stop_signal.h"
 #include "platform/text_encoding.h"
 #include "search/match/search_query.h"
@@ -16,11 +15,9 @@
 
 #include <QFileInfo>
 #include <QLocale>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <optional>
 #include <unistd.h>
 
@@ -28,81 +25,11 @@ namespace quorvin {
 
 namespace {
 
-bool isNumber(const QString& text) {
-  static const QRegularExpression number(
-      QRegularExpression::anchoredPattern(QStringLiteral("[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)")));
-  return number.match(text).hasMatch();
-}
-
-bool hasTooManyWords(const QString& searchText) {
-  try {
-    splitSearchText(searchText);
-  } catch (const RuntimeFault&) {
-    return true;
-  }
-  return false;
-}
-
-QString complaintAboutMatch(const QString& match) {
-  if (match.endsWith(u'%') && isNumber(match.chopped(1))) {
-    return Texts::tr(
-        "the value of --match comes without \"%\". Hits must match more than it: --match 99 finds what has "
-        "all the words");
-  }
-  return Texts::tr("the value of --match is a percentage from 1 to 100, not \"%1\"").arg(match);
-}
-
 /// What is wrong with the request, as a sentence; empty when nothing is.
 QString complaintAbout(const FindRequest& request) {
   if (request.searchText.isEmpty()) return Texts::tr("the search text is empty");
-  if (hasTooManyWords(request.searchText)) {
-    return Texts::tr("the search text has more than %1 words").arg(kMostWords);
-  }
-  if (!isNumber(request.desiredMatch)) return complaintAboutMatch(request.desiredMatch);
-  return {};
+  return complaintAboutSearch(request.searchText, request.desiredMatch);
 }
-
-/// Standard input and pipes among the listings. They are opened when their turn comes.
-ListingReader streamAt(const QString& path) {
-  const bool isInput = path == QStringLiteral("-");
-  if (!isInput && !isStream(path)) return {};
-  // Shared, since functions are copied.
-  auto stream = std::make_shared<std::unique_ptr<StreamReader>>();
-  return [isInput, path, stream](std::span<char> buffer) {
-    if (!*stream) {
-      *stream = std::make_unique<StreamReader>(isInput ? StreamReader::standardInput(stopSignalled)
-                                                       : StreamReader(path, stopSignalled));
-    }
-    return (*stream)->read(buffer);
-  };
-}
-
-/// How far a search has come.
-class SearchProgress : public RunDisplay {
- public:
-  explicit SearchProgress(bool isWanted) : line_(isWanted) {}
-
-  ProgressLine& line() { return line_; }
-
-  void setDesMatch(const QString&) override {}
-  void runStarted(const SearchQuery&) override {}
-  void runEnded() override { line_.clear(); }
-  void showFound(std::int64_t count) override { found_ = count; }
-  void showSearched(std::int64_t count) override { searched_ = count; }
-  void clearHits() override {}
-  void hitsArrived() override {}
-  void processEvents() override {
-    if (!line_.isDue()) return;
-    line_.show(Texts::tr("%1 found, %2 searched")
-                   .arg(locale_.toString(qlonglong{found_}), locale_.toString(qlonglong{searched_})));
-  }
-
- private:
-  ProgressLine line_;
-  QLocale locale_;
-  std::int64_t found_ = 0;
-  std::int64_t searched_ = 0;
-};
 
 /// Whether the user wants colours where they can be seen.
 bool isColourWelcome() {
@@ -126,7 +53,7 @@ class Finding {
  public:
   explicit Finding(const FindRequest& request)
       : request_(request),
-        progress_(!request.isQuiet),
+        progress_(!request.isQuiet, SearchProgress::Shows::FoundAndSearched),
         options_(rowOptions(request)),
         rows_(options_, locale_, SearchQuery(simpleLowerCase(request.searchText), 1), state_),
         writer_(stdout, rows_, writerOptions()) {
@@ -175,7 +102,7 @@ class Finding {
     parts.segments = segments_ ? &*segments_ : nullptr;
     parts.display = progress_.line().isOnTerminal() ? &progress_ : nullptr;
     parts.endRequested = stopSignalled;
-    parts.streamAt = streamAt;
+    parts.streamAt = listingStreamAt;
     return parts;
   }
 

@@ -1,6 +1,7 @@
 #include "console/command_texts.h"
 #include "console/commands.h"
 #include "console/error_lines.h"
+#include "console/requests.h"
 #include "console/text_pages.h"
 #include "files/file_reader.h"
 #include "texts/languages.h"
@@ -11,7 +12,6 @@
 #include <QCoreApplication>
 
 #include <cstdio>
-#include <functional>
 #include <map>
 #include <new>
 #include <optional>
@@ -21,48 +21,6 @@
 namespace {
 
 using namespace quorvin;
-
-QString textOf(const std::string& argument) {
-  return QString::fromLocal8Bit(argument.c_str());
-}
-
-QString textOf(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// What was given for the options of a command, by their long names.
-class Given {
- public:
-  std::string& value(std::string_view name) { return values_[std::string(name)]; }
-  bool& flag(std::string_view name) { return flags_[std::string(name)]; }
-
-  bool has(const std::string& name) const { return flags_.contains(name) && flags_.at(name); }
-  /// Nothing where the option was not given.
-  std::optional<QString> text(const std::string& name) const {
-    return given_(name) ? std::optional(textOf(values_.at(name))) : std::nullopt;
-  }
-  void askParser(std::function<bool(const std::string&)> given) { given_ = std::move(given); }
-
-  /// What follows the options.
-  std::string needed;
-  std::vector<std::string> others;
-
-  QStringList texts() const {
-    QStringList texts;
-    for (const std::string& argument : others) texts += textOf(argument);
-    return texts;
-  }
-
- private:
-  std::map<std::string, std::string> values_;
-  std::map<std::string, bool> flags_;
-  std::function<bool(const std::string&)> given_;
-};
-
-/// A mistake in the command line, as a sentence.
-struct Mistake {
-  QString sentence;
-};
 
 std::string longName(const OptionText& option) {
   return std::string(option.names.substr(option.names.find("--")));
@@ -82,7 +40,6 @@ class CommandLine {
   void addOptions(CLI::App& parser, const std::vector<OptionText>& options, Given& given);
   const CommandText* named() const;
   int runNamed(const CommandText& command);
-  int runFindCommand(const Given& given);
   int runIndexCommand(const Given& given);
   int runHistoryCommand(const Given& given);
   int runSourcesCommand(SourcesRequest::Action action, const Given& given);
@@ -205,7 +162,8 @@ QString CommandLine::whatIsMissing() const {
 /// A sentence about the first argument that has no meaning; empty when all have one.
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = app_.remaining();
-  const QString commands = Texts::tr("the commands are find, index, refresh, sources, history and cache");
+  const QString commands =
+      Texts::tr("the commands are find, copies, index, refresh, sources, history and cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
     if (first.startsWith(u'-')) return Texts::tr("there is no option \"%1\"").arg(first);
@@ -232,7 +190,8 @@ int CommandLine::runNamed(const CommandText& command) {
   using Action = SourcesRequest::Action;
   const Given& given = given_.at(command.name);
   const std::string_view name = command.name;
-  if (name == "find") return runFindCommand(given);
+  if (name == "find") return runFind(findRequestOf(given));
+  if (name == "copies") return runCopies(copiesRequestOf(given));
   if (name == "index") return runIndexCommand(given);
   if (name == "refresh") return runRefresh({given.texts(), given.has("--quiet"), given.has("--json")});
   if (name == "sources") return runSourcesCommand(Action::List, given);
@@ -242,78 +201,6 @@ int CommandLine::runNamed(const CommandText& command) {
   if (name == "history") return runHistoryCommand(given);
   const CacheRequest request{given.has("--unused"), given.has("--json")};
   return given.has("--clear") ? clearCache(request) : listCache(request);
-}
-
-RowFormat formatNamed(const QString& name) {
-  const QString lower = name.toLower();
-  if (lower == QStringLiteral("tsv")) return RowFormat::Tsv;
-  if (lower == QStringLiteral("csv")) return RowFormat::Csv;
-  if (lower == QStringLiteral("json")) return RowFormat::Json;
-  throw Mistake{Texts::tr("there is no format \"%1\"; the formats are tsv, csv and json").arg(name)};
-}
-
-std::vector<HitField> fieldsNamed(const QString& names) {
-  std::vector<HitField> fields;
-  for (const QString& name : names.split(u',')) {
-    const std::optional<HitField> field = hitFieldNamed(name);
-    if (field) {
-      fields.push_back(*field);
-      continue;
-    }
-    throw Mistake{Texts::tr("there is no field \"%1\"; the fields are %2")
-                      .arg(name, hitFieldNames().join(QStringLiteral(", ")))};
-  }
-  return fields;
-}
-
-std::int64_t limitOf(const QString& text) {
-  bool isNumber = false;
-  const qlonglong limit = text.toLongLong(&isNumber);
-  if (isNumber && limit >= 0) return limit;
-  throw Mistake{Texts::tr("the value of --limit is a number of hits, not \"%1\"").arg(text)};
-}
-
-HitColumn columnNamed(const QString& name) {
-  static const std::map<QString, HitColumn> columns = {
-      {QStringLiteral("match"), HitColumn::Match},   {QStringLiteral("volume"), HitColumn::Volume},
-      {QStringLiteral("folder"), HitColumn::Folder}, {QStringLiteral("name"), HitColumn::Name},
-      {QStringLiteral("size"), HitColumn::Size},     {QStringLiteral("modified"), HitColumn::Date}};
-  const auto found = columns.find(name.toLower());
-  if (found != columns.end()) return found->second;
-  throw Mistake{
-      Texts::tr("hits cannot be sorted by \"%1\", only by match, volume, folder, name, size or modified")
-          .arg(name)};
-}
-
-ColourUse colourUseNamed(const QString& name) {
-  const QString lower = name.toLower();
-  if (lower == QStringLiteral("auto")) return ColourUse::Auto;
-  if (lower == QStringLiteral("always")) return ColourUse::Always;
-  if (lower == QStringLiteral("never")) return ColourUse::Never;
-  throw Mistake{Texts::tr("the value of --color is auto, always or never, not \"%1\"").arg(name)};
-}
-
-int CommandLine::runFindCommand(const Given& given) {
-  FindRequest request;
-  request.searchText = textOf(given.needed);
-  request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
-  request.format = formatNamed(given.text("--format").value_or(QStringLiteral("tsv")));
-  if (const auto fields = given.text("--fields")) request.fields = fieldsNamed(*fields);
-  const bool isHeaderUsual = request.format == RowFormat::Csv && !request.fields.empty();
-  request.hasHeader = !given.has("--no-header") && (isHeaderUsual || given.has("--header"));
-  request.endsWithNul = given.has("--null");
-  if (const auto limit = given.text("--limit")) request.limit = limitOf(*limit);
-  if (const auto sort = given.text("--sort")) request.order.column = columnNamed(*sort);
-  request.order.isDescending = given.has("--reverse");
-  if (request.order.isDescending && !request.order.column) {
-    throw Mistake{Texts::tr("--reverse goes with --sort")};
-  }
-  request.colours = colourUseNamed(given.text("--color").value_or(QStringLiteral("auto")));
-  request.countOnly = given.has("--count");
-  request.isQuiet = given.has("--quiet");
-  request.useCache = !given.has("--no-cache");
-  for (const QString& listing : given.texts()) request.listings.push_back(listing);
-  return runFind(request);
 }
 
 int CommandLine::runIndexCommand(const Given& given) {

@@ -1,6 +1,5 @@
 #include "search/search_run.h"
 
-#include "dates/general_number.h"
 #include "faults/runtime_fault.h"
 #include "files/file_lookup.h"
 #include "files/path_style.h"
@@ -29,10 +28,6 @@ QString text(const char16_t* literal) {
 /// A hidden file is a listing like others: a description may begin with a dot.
 bool isListing(const QString& path) {
   return ordinaryFileExists(path) || fileExists(path);
-}
-
-std::int16_t correctedMatch(const QString& desMatch) {
-  return roundToInt16(std::clamp(leadingNumber(desMatch), 1.0, 100.0));
 }
 
 QString namesOf(const QStringList& listings) {
@@ -245,7 +240,7 @@ void SearchRun::inform(const QString& text) {
 }
 
 void SearchRun::reportUnreadable() {
-  if (unreadable_.empty() || isEnding()) return;
+  if (unreadable_.empty() || isEnding() || !parts_.tellsUnreadable) return;
   QString message = Texts::tr(
       "The size or date of some hits could not be read. They are shown with the size and date of the hit "
       "before them.");

@@ -55,6 +55,8 @@ struct RunParts {
   /// Whether the run is of no use any more, since the program is closing or another search is wanted: it then
   /// ends at its next yield, without further sources or messages.
   std::function<bool()> endRequested = [] { return false; };
+  /// Whether a message says which hits have a size or date that could not be read.
+  bool tellsUnreadable = true;
   /// Gives the way to read a listing that was named and is no file, such as a pipe; nothing for files and for
   /// what is not there. Without it all listings are files.
   std::function<ListingReader(const QString& path)> streamAt = {};

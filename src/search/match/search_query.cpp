@@ -27,6 +27,10 @@ std::int16_t matchPercentage(int found, int wordCount) {
   return roundToInt16(static_cast<double>(found) / wordCount * 100);
 }
 
+std::int16_t correctedMatch(const QString& desMatch) {
+  return roundToInt16(std::clamp(leadingNumber(desMatch), 1.0, 100.0));
+}
+
 QString matchText(std::int16_t match) {
   return QStringLiteral("%1%").arg(match, 3, 10, QLatin1Char('0'));
 }

@@ -23,6 +23,9 @@ std::vector<QString> splitSearchText(QStringView searchText);
 /// wordCount >= 1): the percentage, halves rounded to the even neighbour.
 std::int16_t matchPercentage(int found, int wordCount);
 
+/// The desired match that a text stands for: the number at its start, rounded, and from 1 to 100.
+std::int16_t correctedMatch(const QString& desMatch);
+
 /// The text of a match in the hit list: three digits and "%" ("067%").
 QString matchText(std::int16_t match);
 

@@ -1,0 +1,122 @@
+#include "console/requests.h"
+
+#include "texts/texts.h"
+
+namespace quorvin {
+
+namespace {
+
+RowFormat formatNamed(const QString& name) {
+  const QString lower = name.toLower();
+  if (lower == QStringLiteral("tsv")) return RowFormat::Tsv;
+  if (lower == QStringLiteral("csv")) return RowFormat::Csv;
+  if (lower == QStringLiteral("json")) return RowFormat::Json;
+  throw Mistake{Texts::tr("there is no format \"%1\"; the formats are tsv, csv and json").arg(name)};
+}
+
+std::vector<HitField> fieldsNamed(const QString& names) {
+  std::vector<HitField> fields;
+  for (const QString& name : names.split(u',')) {
+    const std::optional<HitField> field = hitFieldNamed(name);
+    if (field) {
+      fields.push_back(*field);
+      continue;
+    }
+    throw Mistake{Texts::tr("there is no field \"%1\"; the fields are %2")
+                      .arg(name, hitFieldNames().join(QStringLiteral(", ")))};
+  }
+  return fields;
+}
+
+std::int64_t limitOf(const QString& text) {
+  bool isNumber = false;
+  const qlonglong limit = text.toLongLong(&isNumber);
+  if (isNumber && limit >= 0) return limit;
+  throw Mistake{Texts::tr("the value of --limit is a number of hits, not \"%1\"").arg(text)};
+}
+
+HitColumn columnNamed(const QString& name) {
+  static const std::map<QString, HitColumn> columns = {
+      {QStringLiteral("match"), HitColumn::Match},   {QStringLiteral("volume"), HitColumn::Volume},
+      {QStringLiteral("folder"), HitColumn::Folder}, {QStringLiteral("name"), HitColumn::Name},
+      {QStringLiteral("size"), HitColumn::Size},     {QStringLiteral("modified"), HitColumn::Date}};
+  const auto found = columns.find(name.toLower());
+  if (found != columns.end()) return found->second;
+  throw Mistake{
+      Texts::tr("hits cannot be sorted by \"%1\", only by match, volume, folder, name, size or modified")
+          .arg(name)};
+}
+
+ColourUse colourUseNamed(const QString& name) {
+  const QString lower = name.toLower();
+  if (lower == QStringLiteral("auto")) return ColourUse::Auto;
+  if (lower == QStringLiteral("always")) return ColourUse::Always;
+  if (lower == QStringLiteral("never")) return ColourUse::Never;
+  throw Mistake{Texts::tr("the value of --color is auto, always or never, not \"%1\"").arg(name)};
+}
+
+CopyFormat copyFormatNamed(const QString& name) {
+  const QString lower = name.toLower();
+  if (lower == QStringLiteral("text")) return CopyFormat::Text;
+  if (lower == QStringLiteral("tsv")) return CopyFormat::Tsv;
+  if (lower == QStringLiteral("csv")) return CopyFormat::Csv;
+  if (lower == QStringLiteral("json")) return CopyFormat::Json;
+  throw Mistake{Texts::tr("there is no format \"%1\"; the formats are text, tsv, csv and json").arg(name)};
+}
+
+}  // namespace
+
+QString textOf(const std::string& argument) {
+  return QString::fromLocal8Bit(argument.c_str());
+}
+
+QString textOf(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+FindRequest findRequestOf(const Given& given) {
+  FindRequest request;
+  request.searchText = textOf(given.needed);
+  request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
+  request.format = formatNamed(given.text("--format").value_or(QStringLiteral("tsv")));
+  if (const auto fields = given.text("--fields")) request.fields = fieldsNamed(*fields);
+  const bool isHeaderUsual = request.format == RowFormat::Csv && !request.fields.empty();
+  request.hasHeader = !given.has("--no-header") && (isHeaderUsual || given.has("--header"));
+  request.endsWithNul = given.has("--null");
+  if (const auto limit = given.text("--limit")) request.limit = limitOf(*limit);
+  if (const auto sort = given.text("--sort")) request.order.column = columnNamed(*sort);
+  request.order.isDescending = given.has("--reverse");
+  if (request.order.isDescending && !request.order.column) {
+    throw Mistake{Texts::tr("--reverse goes with --sort")};
+  }
+  request.colours = colourUseNamed(given.text("--color").value_or(QStringLiteral("auto")));
+  request.countOnly = given.has("--count");
+  request.isQuiet = given.has("--quiet");
+  request.useCache = !given.has("--no-cache");
+  for (const QString& listing : given.texts()) request.listings.push_back(listing);
+  return request;
+}
+
+CopiesRequest copiesRequestOf(const Given& given) {
+  CopiesRequest request;
+  QStringList arguments = given.texts();
+  if (!arguments.isEmpty()) request.searchText = arguments.takeFirst();
+  for (const QString& listing : arguments) request.listings.push_back(listing);
+  request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
+  request.format = copyFormatNamed(given.text("--format").value_or(QStringLiteral("text")));
+  request.singleOnly = given.has("--single");
+  if (given.has("--by-volume") && given.has("--by-folder")) {
+    throw Mistake{Texts::tr("there are sums for volumes or for folders, not for both at once")};
+  }
+  if (given.has("--by-volume")) request.sumBy = CopiesRequest::SumBy::Volume;
+  if (given.has("--by-folder")) request.sumBy = CopiesRequest::SumBy::Folder;
+  request.withEmpty = given.has("--empty");
+  request.hasHeader = given.has("--header");
+  request.endsWithNul = given.has("--null");
+  if (const auto limit = given.text("--limit")) request.limit = limitOf(*limit);
+  request.isQuiet = given.has("--quiet");
+  request.useCache = !given.has("--no-cache");
+  return request;
+}
+
+}  // namespace quorvin
