@@ -84,7 +84,8 @@ WalkResult DirIO::walk(QString& folderPath, const QString& filePattern, const Li
   if (isEmpty || folderPath.size() <= style_.drivePrefixLength) return result_;
 
   const NameChoice choice(filePattern, (flags & kFoldersOnly) == 0);
-  job_ = {folderPath, choice, outputs, "Volume:    " + lineText(bytesOf(volumeText)), flags};
+  job_ = {folderPath, choice, outputs, {}, flags};
+  appendVolumeLine(job_.volumeLine, lineText(bytesOf(volumeText)));
   const auto unwinding = qScopeGuard([this] { leaveAll(); });
   listTop();
   while (depth_ > 0) walkOn();
@@ -230,16 +231,16 @@ int DirIO::enter(std::string_view name) {
 void DirIO::writeHead() {
   write({});
   write(job_.volumeLine);
-  line_ = "Directory: ";
-  line_ += listedPath_;
+  line_.clear();
+  appendDirectoryLine(line_, listedPath_);
   write(line_);
   write({});
 }
 
 void DirIO::writeSubFolders(const NameTable& subFolders) {
   for (std::size_t row = 0; row < subFolders.size(); ++row) {
-    line_ = "<DIR> ";
-    line_ += subFolders.name(row);
+    line_.clear();
+    appendSubFolderLine(line_, subFolders.name(row));
     write(line_);
   }
   if (subFolders.size() > 0) write({});

@@ -169,10 +169,6 @@ class FolderNames {
 /// Events are processed at every so many files of a folder.
 inline constexpr std::size_t kFilesBetweenEvents = 50;
 
-/// A folder whose path in the listing, with the backslash at its end, has more bytes is left out: readers
-/// refuse lines of 1 MiB and more.
-inline constexpr std::size_t kLongestListedFolder = 1'000'000;
-
 /// What came of a walk.
 struct WalkResult {
   /// The folder itself could be opened.

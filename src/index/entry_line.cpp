@@ -163,7 +163,11 @@ void ListedDates::addParts(Parts& parts, PatternField field, const std::vector<s
 
 void ListedDates::append(std::string& line, std::int64_t seconds) {
   const std::int64_t instant = std::clamp(seconds, -kFarAway, kFarAway);
-  const std::int64_t local = instant + offsetAt(instant);
+  appendWallClock(line, instant + offsetAt(instant));
+}
+
+void ListedDates::appendWallClock(std::string& line, std::int64_t seconds) {
+  const std::int64_t local = std::clamp(seconds, -2 * kFarAway, 2 * kFarAway);
   const std::int64_t days = wholeDays(local);
   const auto second = static_cast<int>(local - days * kSecondsPerDay);
   if (days < 0 || days >= kDays) {
@@ -209,14 +213,27 @@ int ListedDates::offsetAt(std::int64_t seconds) {
 EntryLines::EntryLines(const QLocale& locale) : groupSign_(groupSignOf(locale)), dates_(locale) {}
 
 void EntryLines::append(std::string& line, const ListedFile& file) {
-  appendName(line, file.name);
-  appendSize(line, file.size);
-  line += " bytes ";
+  appendNameAndSize(line, file);
   if (file.modified) {
     dates_.append(line, *file.modified);
   } else {
     dates_.appendZero(line);
   }
+}
+
+void EntryLines::appendWithWallClock(std::string& line, const ListedFile& file) {
+  appendNameAndSize(line, file);
+  if (file.modified) {
+    dates_.appendWallClock(line, *file.modified);
+  } else {
+    dates_.appendZero(line);
+  }
+}
+
+void EntryLines::appendNameAndSize(std::string& line, const ListedFile& file) const {
+  appendName(line, file.name);
+  appendSize(line, file.size);
+  line += " bytes ";
 }
 
 void EntryLines::appendName(std::string& line, std::string_view name) const {

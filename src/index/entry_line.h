@@ -1,4 +1,4 @@
-// The entry line of a file. The whole layout: docs/formats/listing.md.
+// The lines of a listing. The whole layout: docs/formats/listing.md.
 #pragma once
 
 #include "dates/general_date.h"
@@ -39,6 +39,8 @@ class ListedDates {
 
   /// Appends the wall-clock date and time of `seconds` since the start of 1970, UTC.
   void append(std::string& line, std::int64_t seconds);
+  /// Appends the date and time of a wall clock, in seconds since it showed the start of 1970.
+  void appendWallClock(std::string& line, std::int64_t seconds);
   /// Appends the zero date.
   void appendZero(std::string& line) const { line += zeroDate_; }
 
@@ -72,6 +74,25 @@ class ListedDates {
   std::vector<std::int32_t> offsets_;
 };
 
+/// Append the line that gives a block its volume, its folder (a listed path with a backslash at its end), or
+/// one of its sub-folders, without an end. Texts are as listedText() and lineText() give them.
+inline void appendVolumeLine(std::string& line, std::string_view label) {
+  line += "Volume:    ";
+  line += label;
+}
+inline void appendDirectoryLine(std::string& line, std::string_view folder) {
+  line += "Directory: ";
+  line += folder;
+}
+inline void appendSubFolderLine(std::string& line, std::string_view name) {
+  line += "<DIR> ";
+  line += name;
+}
+
+/// A folder whose path in the listing, with the backslash at its end, has more bytes is left out: readers
+/// refuse lines of 1 MiB and more.
+inline constexpr std::size_t kLongestListedFolder = 1'000'000;
+
 /// Writes entry lines in the numbers and dates of one locale.
 class EntryLines {
  public:
@@ -79,8 +100,11 @@ class EntryLines {
 
   /// Appends the line, without an end.
   void append(std::string& line, const ListedFile& file);
+  /// The same for a file whose `modified` is that of a wall clock, whatever its zone.
+  void appendWithWallClock(std::string& line, const ListedFile& file);
 
  private:
+  void appendNameAndSize(std::string& line, const ListedFile& file) const;
   void appendName(std::string& line, std::string_view name) const;
   void appendSize(std::string& line, std::int64_t size) const;
 
