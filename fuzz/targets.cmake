@@ -4,6 +4,7 @@ set(QUORVIN_FUZZ_TARGETS
   archive
   date
   history_version
+  list_import
   made_archive
   made_metafile
   metafile
@@ -42,6 +43,8 @@ set(QUORVIN_FUZZED_LIBRARIES
   quorvin_work
   quorvin_search
   quorvin_history
+  quorvin_index
+  quorvin_catalogue
   quorvin_archive
   quorvin_update
   quorvin_peers

@@ -10,7 +10,8 @@ BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libcli1
 WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland qt6-translations-l10n fonts-dejavu-core)
 # To build and run the tests, and to check format and code:
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14
-  at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold)
+  at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold
+  tree rsync unzip)
 TIDY_PACKAGES=(clang-tidy-14)
 # To check licences and what desktops read:
 METADATA_PACKAGES=(appstream desktop-file-utils reuse)

@@ -3383,10 +3383,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         </translation>
     </message>
     <message>
-        <source>the commands are find, copies, index, refresh, sources, history and cache</source>
-        <translation>die Befehle sind find, copies, index, refresh, sources, history und cache</translation>
-    </message>
-    <message>
         <source>there is no format &quot;%1&quot;; the formats are text, tsv, csv and json</source>
         <translation>es gibt kein Format „%1“; die Formate sind text, tsv, csv und json</translation>
     </message>
@@ -3405,6 +3401,182 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>%1 was changed while it was read. Please try again</source>
         <translation>%1 wurde geändert, während es gelesen wurde. Bitte versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>the pattern may hold \n or \0 only at its end, and no other escapes than \t</source>
+        <translation>das Muster darf \n oder \0 nur am Ende enthalten und sonst nur \t</translation>
+    </message>
+    <message>
+        <source>the pattern ends within a directive</source>
+        <translation>das Muster endet mitten in einer Anweisung</translation>
+    </message>
+    <message>
+        <source>the pattern holds no path: %p, %P, or %h and %f</source>
+        <translation>das Muster enthält keinen Pfad: %p, %P oder %h und %f</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; says nothing of a column; an example is path=1,size=3,date=Modified</source>
+        <translation>„%1“ sagt nichts über eine Spalte; ein Beispiel ist path=1,size=3,date=Modified</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are %2</source>
+        <translation>es gibt kein Format „%1“; die Formate sind %2</translation>
+    </message>
+    <message>
+        <source>the value of --dates is dmy or mdy, not &quot;%1&quot;</source>
+        <translation>der Wert von --dates ist dmy oder mdy, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>the value of --made is a day such as 2004-01-15, not &quot;%1&quot;</source>
+        <translation>der Wert von --made ist ein Tag wie 2004-01-15, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>there is no encoding &quot;%1&quot;; the encodings are %2</source>
+        <translation>es gibt keine Kodierung „%1“; die Kodierungen sind %2</translation>
+    </message>
+    <message>
+        <source>a list from standard input needs --label, the name of its volume</source>
+        <translation>eine Liste von der Standardeingabe braucht --label, den Namen ihres Datenträgers</translation>
+    </message>
+    <message>
+        <source>%1 is there already; nothing was imported of %2</source>
+        <translation>%1 ist schon da; von %2 wurde nichts importiert</translation>
+    </message>
+    <message>
+        <source>%1: %2 lines</source>
+        <translation>%1: %2 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 is no list of a known format; --format says which of these it has: %2</source>
+        <translation>%1 ist keine Liste in einem bekannten Format; --format sagt, welches von diesen es ist: %2</translation>
+    </message>
+    <message>
+        <source>%1 names no file and no folder; no listing was made</source>
+        <translation>%1 nennt keine Datei und keinen Ordner; es wurde keine Liste erstellt</translation>
+    </message>
+    <message>
+        <source>%1: read as %2; %3 has %4 files, %5 folders</source>
+        <translation>%1: gelesen als %2; %3 hat %4 Dateien, %5 Ordner</translation>
+    </message>
+    <message>
+        <source>files without an exact size: %1</source>
+        <translation>Dateien ohne genaue Größe: %1</translation>
+    </message>
+    <message>
+        <source>files without a date: %1</source>
+        <translation>Dateien ohne Datum: %1</translation>
+    </message>
+    <message>
+        <source>dates in which day and month may have changed places, left out (see --dates): %1</source>
+        <translation>Daten, in denen Tag und Monat vertauscht sein können, ausgelassen (siehe --dates): %1</translation>
+    </message>
+    <message>
+        <source>names that came again, of which the last one counts: %1</source>
+        <translation>Namen, die noch einmal kamen und von denen der letzte zählt: %1</translation>
+    </message>
+    <message>
+        <source>names that a listing cannot hold, left out: %1</source>
+        <translation>Namen, die eine Liste nicht enthalten kann, ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>lines whose bytes are no UTF-8 (see --encoding): %1</source>
+        <translation>Zeilen, deren Bytes kein UTF-8 sind (siehe --encoding): %1</translation>
+    </message>
+    <message>
+        <source>lines that were not understood: %1</source>
+        <translation>nicht verstandene Zeilen: %1</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>import needs --output, the folder for the listings</source>
+        <translation>import braucht --output, den Ordner für die neuen Listen</translation>
+    </message>
+    <message>
+        <source>--label is for one list at a time</source>
+        <translation>--label gilt für eine einzige Liste</translation>
+    </message>
+    <message>
+        <source>Make listings of lists that other programs wrote</source>
+        <translation>Listen anderer Programme übernehmen</translation>
+    </message>
+    <message>
+        <source>The folder for the listings</source>
+        <translation>Der Ordner für die neuen Listen</translation>
+    </message>
+    <message>
+        <source>The lists&apos; format; default: as recognised</source>
+        <translation>Das Format der Listen; sonst wie erkannt</translation>
+    </message>
+    <message>
+        <source>The volume&apos;s name; default: the file&apos;s name</source>
+        <translation>Der Name des Datenträgers; sonst der der Datei</translation>
+    </message>
+    <message>
+        <source>Where paths start that do not start with a slash</source>
+        <translation>Wo Pfade anfangen, die ohne Schrägstrich beginnen</translation>
+    </message>
+    <message>
+        <source>The pattern of find -printf</source>
+        <translation>Das Muster von find -printf</translation>
+    </message>
+    <message>
+        <source>The columns of a table: path=1,size=3,date=Changed</source>
+        <translation>Spalten einer Tabelle: path=1,size=3,date=Changed</translation>
+    </message>
+    <message>
+        <source>The sizes of du are bytes (du -ab)</source>
+        <translation>Die Größen von du sind Bytes (du -ab)</translation>
+    </message>
+    <message>
+        <source>Dates like 3/4/04: dmy (3 April) or mdy (4 March)</source>
+        <translation>Daten wie 3/4/04: dmy (3. April), mdy (4. März)</translation>
+    </message>
+    <message>
+        <source>When the list was made, for dates without a year</source>
+        <translation>Wann die Liste entstand, für Daten ohne Jahr</translation>
+    </message>
+    <message>
+        <source>utf-8 (default), windows-1252, cp437, cp850, cp852</source>
+        <translation>utf-8 (sonst), windows-1252, cp437, cp850, cp852</translation>
+    </message>
+    <message>
+        <source>Replace listings that are there</source>
+        <translation>Vorhandene Listen ersetzen</translation>
+    </message>
+    <message>
+        <source>Report only what could not be read</source>
+        <translation>Nur melden, was nicht gelesen werden konnte</translation>
+    </message>
+    <message>
+        <source>Import what ls -lR wrote of a CD</source>
+        <translation>Importieren, was ls -lR von einer CD schrieb</translation>
+    </message>
+    <message>
+        <source>List what is in an archive</source>
+        <translation>Auflisten, was in einem Archiv ist</translation>
+    </message>
+    <message>
+        <source>A list in a form of your own</source>
+        <translation>Eine Liste in eigener Form</translation>
+    </message>
+    <message>
+        <source>Writes a listing for each FILE into the folder of --output, under the file&apos;s name and with the ending .txt. The format is recognised from the first lines and reported on standard error. Lines that were not understood are counted there, and the first of them shown; the exit status is 2 then. A FILE may be a pipe; - is standard input.</source>
+        <translation>Schreibt für jede FILE eine Liste dieses Programms in den Ordner von --output, unter dem Namen der Datei und mit der Endung .txt. Das Format wird an den ersten Zeilen erkannt und auf stderr gemeldet. Nicht verstandene Zeilen werden dort gezählt und die ersten davon gezeigt; der Rückgabewert ist dann 2. Eine FILE darf eine Pipe sein; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>What a list does not tell exactly is left out: rounded sizes, sizes in blocks, dates without a year unless --made is given, and dates that may be of two days unless --dates is given or other dates of the list decide. Such files have the size -1 or the zero date.</source>
+        <translation>Was eine Liste nicht genau sagt, wird ausgelassen: gerundete Größen, Größen in Blöcken, Daten ohne Jahr, wenn --made fehlt, und Daten, die zwei Tage meinen können, wenn weder --dates noch andere Daten der Liste entscheiden. Solche Dateien haben die Größe -1 oder das Nulldatum.</translation>
+    </message>
+    <message>
+        <source>import needs the lists to import</source>
+        <translation>import braucht die Listen, die zu importieren sind</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
+        <translation>die Befehle sind find, copies, index, import, refresh, sources, history und cache</translation>
     </message>
 </context>
 <context>

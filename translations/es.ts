@@ -3383,10 +3383,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         </translation>
     </message>
     <message>
-        <source>the commands are find, copies, index, refresh, sources, history and cache</source>
-        <translation>las órdenes son find, copies, index, refresh, sources, history y cache</translation>
-    </message>
-    <message>
         <source>there is no format &quot;%1&quot;; the formats are text, tsv, csv and json</source>
         <translation>no hay ningún formato «%1»; los formatos son text, tsv, csv y json</translation>
     </message>
@@ -3405,6 +3401,182 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>%1 was changed while it was read. Please try again</source>
         <translation>%1 se cambió mientras se leía. Inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>the pattern may hold \n or \0 only at its end, and no other escapes than \t</source>
+        <translation>el patrón solo puede contener \n o \0 al final, y ningún otro escape que \t</translation>
+    </message>
+    <message>
+        <source>the pattern ends within a directive</source>
+        <translation>el patrón termina dentro de una directiva</translation>
+    </message>
+    <message>
+        <source>the pattern holds no path: %p, %P, or %h and %f</source>
+        <translation>el patrón no contiene ninguna ruta: %p, %P, o %h y %f</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; says nothing of a column; an example is path=1,size=3,date=Modified</source>
+        <translation>«%1» no dice nada de una columna; un ejemplo es path=1,size=3,date=Modified</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are %2</source>
+        <translation>no existe el formato «%1»; los formatos son %2</translation>
+    </message>
+    <message>
+        <source>the value of --dates is dmy or mdy, not &quot;%1&quot;</source>
+        <translation>el valor de --dates es dmy o mdy, no «%1»</translation>
+    </message>
+    <message>
+        <source>the value of --made is a day such as 2004-01-15, not &quot;%1&quot;</source>
+        <translation>el valor de --made es un día como 2004-01-15, no «%1»</translation>
+    </message>
+    <message>
+        <source>there is no encoding &quot;%1&quot;; the encodings are %2</source>
+        <translation>no existe la codificación «%1»; las codificaciones son %2</translation>
+    </message>
+    <message>
+        <source>a list from standard input needs --label, the name of its volume</source>
+        <translation>una lista de la entrada estándar necesita --label, el nombre de su volumen</translation>
+    </message>
+    <message>
+        <source>%1 is there already; nothing was imported of %2</source>
+        <translation>%1 ya existe; no se importó nada de %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 lines</source>
+        <translation>%1: %2 líneas</translation>
+    </message>
+    <message>
+        <source>%1 is no list of a known format; --format says which of these it has: %2</source>
+        <translation>%1 no es una lista de un formato conocido; --format dice cuál de estos tiene: %2</translation>
+    </message>
+    <message>
+        <source>%1 names no file and no folder; no listing was made</source>
+        <translation>%1 no nombra ningún archivo ni carpeta; no se creó ninguna lista</translation>
+    </message>
+    <message>
+        <source>%1: read as %2; %3 has %4 files, %5 folders</source>
+        <translation>%1: leído como %2; %3 tiene %4 archivos, %5 carpetas</translation>
+    </message>
+    <message>
+        <source>files without an exact size: %1</source>
+        <translation>archivos sin tamaño exacto: %1</translation>
+    </message>
+    <message>
+        <source>files without a date: %1</source>
+        <translation>archivos sin fecha: %1</translation>
+    </message>
+    <message>
+        <source>dates in which day and month may have changed places, left out (see --dates): %1</source>
+        <translation>fechas en las que día y mes pueden estar cambiados, omitidas (véase --dates): %1</translation>
+    </message>
+    <message>
+        <source>names that came again, of which the last one counts: %1</source>
+        <translation>nombres que aparecieron de nuevo, de los que cuenta el último: %1</translation>
+    </message>
+    <message>
+        <source>names that a listing cannot hold, left out: %1</source>
+        <translation>nombres que una lista no puede contener, omitidos: %1</translation>
+    </message>
+    <message>
+        <source>lines whose bytes are no UTF-8 (see --encoding): %1</source>
+        <translation>líneas cuyos bytes no son UTF-8 (véase --encoding): %1</translation>
+    </message>
+    <message>
+        <source>lines that were not understood: %1</source>
+        <translation>líneas que no se entendieron: %1</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>import needs --output, the folder for the listings</source>
+        <translation>import necesita --output, la carpeta para las listas nuevas</translation>
+    </message>
+    <message>
+        <source>--label is for one list at a time</source>
+        <translation>--label es para una sola lista</translation>
+    </message>
+    <message>
+        <source>Make listings of lists that other programs wrote</source>
+        <translation>Importar listas de otros programas</translation>
+    </message>
+    <message>
+        <source>The folder for the listings</source>
+        <translation>La carpeta para las listas nuevas</translation>
+    </message>
+    <message>
+        <source>The lists&apos; format; default: as recognised</source>
+        <translation>El formato de las listas; si no, el reconocido</translation>
+    </message>
+    <message>
+        <source>The volume&apos;s name; default: the file&apos;s name</source>
+        <translation>El nombre del volumen; si no, el del archivo</translation>
+    </message>
+    <message>
+        <source>Where paths start that do not start with a slash</source>
+        <translation>Dónde empiezan las rutas sin barra inicial</translation>
+    </message>
+    <message>
+        <source>The pattern of find -printf</source>
+        <translation>El patrón de find -printf</translation>
+    </message>
+    <message>
+        <source>The columns of a table: path=1,size=3,date=Changed</source>
+        <translation>Columnas de una tabla: path=1,size=3,date=Changed</translation>
+    </message>
+    <message>
+        <source>The sizes of du are bytes (du -ab)</source>
+        <translation>Los tamaños de du son bytes (du -ab)</translation>
+    </message>
+    <message>
+        <source>Dates like 3/4/04: dmy (3 April) or mdy (4 March)</source>
+        <translation>Fechas como 3/4/04: dmy (3 de abril) o mdy</translation>
+    </message>
+    <message>
+        <source>When the list was made, for dates without a year</source>
+        <translation>Cuándo se hizo la lista, para fechas sin año</translation>
+    </message>
+    <message>
+        <source>utf-8 (default), windows-1252, cp437, cp850, cp852</source>
+        <translation>utf-8 (usual), windows-1252, cp437, cp850, cp852</translation>
+    </message>
+    <message>
+        <source>Replace listings that are there</source>
+        <translation>Sustituir las listas que existan</translation>
+    </message>
+    <message>
+        <source>Report only what could not be read</source>
+        <translation>Informar solo de lo que no se pudo leer</translation>
+    </message>
+    <message>
+        <source>Import what ls -lR wrote of a CD</source>
+        <translation>Importar lo que ls -lR escribió de un CD</translation>
+    </message>
+    <message>
+        <source>List what is in an archive</source>
+        <translation>Listar lo que hay en un archivo comprimido</translation>
+    </message>
+    <message>
+        <source>A list in a form of your own</source>
+        <translation>Una lista con formato propio</translation>
+    </message>
+    <message>
+        <source>Writes a listing for each FILE into the folder of --output, under the file&apos;s name and with the ending .txt. The format is recognised from the first lines and reported on standard error. Lines that were not understood are counted there, and the first of them shown; the exit status is 2 then. A FILE may be a pipe; - is standard input.</source>
+        <translation>Escribe una lista de este programa por cada FILE en la carpeta de --output, con el nombre del archivo y la terminación .txt. El formato se reconoce por las primeras líneas y se indica en stderr. Las líneas que no se entendieron se cuentan allí y se muestran las primeras; el estado de salida es entonces 2. Un FILE puede ser una tubería; - es la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>What a list does not tell exactly is left out: rounded sizes, sizes in blocks, dates without a year unless --made is given, and dates that may be of two days unless --dates is given or other dates of the list decide. Such files have the size -1 or the zero date.</source>
+        <translation>Lo que una lista no dice con exactitud se omite: tamaños redondeados, tamaños en bloques, fechas sin año si falta --made, y fechas que pueden ser de dos días si no lo deciden --dates u otras fechas de la lista. Esos archivos tienen el tamaño -1 o la fecha cero.</translation>
+    </message>
+    <message>
+        <source>import needs the lists to import</source>
+        <translation>import necesita las listas que importar</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
+        <translation>las órdenes son find, copies, index, import, refresh, sources, history y cache</translation>
     </message>
 </context>
 <context>

@@ -3383,10 +3383,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         </translation>
     </message>
     <message>
-        <source>the commands are find, copies, index, refresh, sources, history and cache</source>
-        <translation>les commandes sont find, copies, index, refresh, sources, history et cache</translation>
-    </message>
-    <message>
         <source>there is no format &quot;%1&quot;; the formats are text, tsv, csv and json</source>
         <translation>il n’y a pas de format «&#xa0;%1&#xa0;»&#xa0;; les formats sont text, tsv, csv et json</translation>
     </message>
@@ -3405,6 +3401,182 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>%1 was changed while it was read. Please try again</source>
         <translation>%1 a été modifié pendant sa lecture. Veuillez réessayer</translation>
+    </message>
+    <message>
+        <source>the pattern may hold \n or \0 only at its end, and no other escapes than \t</source>
+        <translation>le motif ne peut contenir \n ou \0 qu’à la fin, et aucun autre échappement que \t</translation>
+    </message>
+    <message>
+        <source>the pattern ends within a directive</source>
+        <translation>le motif se termine au milieu d’une directive</translation>
+    </message>
+    <message>
+        <source>the pattern holds no path: %p, %P, or %h and %f</source>
+        <translation>le motif ne contient aucun chemin : %p, %P, ou %h et %f</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; says nothing of a column; an example is path=1,size=3,date=Modified</source>
+        <translation>« %1 » ne dit rien d’une colonne ; un exemple est path=1,size=3,date=Modified</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are %2</source>
+        <translation>il n’y a pas de format « %1 » ; les formats sont %2</translation>
+    </message>
+    <message>
+        <source>the value of --dates is dmy or mdy, not &quot;%1&quot;</source>
+        <translation>la valeur de --dates est dmy ou mdy, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>the value of --made is a day such as 2004-01-15, not &quot;%1&quot;</source>
+        <translation>la valeur de --made est un jour comme 2004-01-15, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>there is no encoding &quot;%1&quot;; the encodings are %2</source>
+        <translation>il n’y a pas de codage « %1 » ; les codages sont %2</translation>
+    </message>
+    <message>
+        <source>a list from standard input needs --label, the name of its volume</source>
+        <translation>une liste de l’entrée standard a besoin de --label, le nom de son volume</translation>
+    </message>
+    <message>
+        <source>%1 is there already; nothing was imported of %2</source>
+        <translation>%1 existe déjà ; rien n’a été importé de %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 lines</source>
+        <translation>%1 : %2 lignes</translation>
+    </message>
+    <message>
+        <source>%1 is no list of a known format; --format says which of these it has: %2</source>
+        <translation>%1 n’est pas une liste d’un format connu ; --format dit lequel de ceux-ci elle a : %2</translation>
+    </message>
+    <message>
+        <source>%1 names no file and no folder; no listing was made</source>
+        <translation>%1 ne nomme ni fichier ni dossier ; aucune liste n’a été créée</translation>
+    </message>
+    <message>
+        <source>%1: read as %2; %3 has %4 files, %5 folders</source>
+        <translation>%1 : lu comme %2 ; %3 a %4 fichiers, %5 dossiers</translation>
+    </message>
+    <message>
+        <source>files without an exact size: %1</source>
+        <translation>fichiers sans taille exacte : %1</translation>
+    </message>
+    <message>
+        <source>files without a date: %1</source>
+        <translation>fichiers sans date : %1</translation>
+    </message>
+    <message>
+        <source>dates in which day and month may have changed places, left out (see --dates): %1</source>
+        <translation>dates où jour et mois peuvent être inversés, omises (voir --dates) : %1</translation>
+    </message>
+    <message>
+        <source>names that came again, of which the last one counts: %1</source>
+        <translation>noms revenus, dont le dernier compte : %1</translation>
+    </message>
+    <message>
+        <source>names that a listing cannot hold, left out: %1</source>
+        <translation>noms qu’une liste ne peut contenir, omis : %1</translation>
+    </message>
+    <message>
+        <source>lines whose bytes are no UTF-8 (see --encoding): %1</source>
+        <translation>lignes dont les octets ne sont pas de l’UTF-8 (voir --encoding) : %1</translation>
+    </message>
+    <message>
+        <source>lines that were not understood: %1</source>
+        <translation>lignes non comprises : %1</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>import needs --output, the folder for the listings</source>
+        <translation>import a besoin de --output, le dossier des nouvelles listes</translation>
+    </message>
+    <message>
+        <source>--label is for one list at a time</source>
+        <translation>--label est pour une seule liste à la fois</translation>
+    </message>
+    <message>
+        <source>Make listings of lists that other programs wrote</source>
+        <translation>Importer les listes d’autres programmes</translation>
+    </message>
+    <message>
+        <source>The folder for the listings</source>
+        <translation>Le dossier des nouvelles listes</translation>
+    </message>
+    <message>
+        <source>The lists&apos; format; default: as recognised</source>
+        <translation>Le format des listes ; sinon celui reconnu</translation>
+    </message>
+    <message>
+        <source>The volume&apos;s name; default: the file&apos;s name</source>
+        <translation>Le nom du volume ; sinon celui du fichier</translation>
+    </message>
+    <message>
+        <source>Where paths start that do not start with a slash</source>
+        <translation>Où commencent les chemins sans barre initiale</translation>
+    </message>
+    <message>
+        <source>The pattern of find -printf</source>
+        <translation>Le motif de find -printf</translation>
+    </message>
+    <message>
+        <source>The columns of a table: path=1,size=3,date=Changed</source>
+        <translation>Colonnes d’un tableau : path=1,size=3,date=Changed</translation>
+    </message>
+    <message>
+        <source>The sizes of du are bytes (du -ab)</source>
+        <translation>Les tailles de du sont des octets (du -ab)</translation>
+    </message>
+    <message>
+        <source>Dates like 3/4/04: dmy (3 April) or mdy (4 March)</source>
+        <translation>Dates comme 3/4/04 : dmy (3 avril) ou mdy (4 mars)</translation>
+    </message>
+    <message>
+        <source>When the list was made, for dates without a year</source>
+        <translation>Quand la liste fut faite, pour dates sans année</translation>
+    </message>
+    <message>
+        <source>utf-8 (default), windows-1252, cp437, cp850, cp852</source>
+        <translation>utf-8 (défaut), windows-1252, cp437, cp850, cp852</translation>
+    </message>
+    <message>
+        <source>Replace listings that are there</source>
+        <translation>Remplacer les listes existantes</translation>
+    </message>
+    <message>
+        <source>Report only what could not be read</source>
+        <translation>Ne signaler que ce qui n’a pu être lu</translation>
+    </message>
+    <message>
+        <source>Import what ls -lR wrote of a CD</source>
+        <translation>Importer ce que ls -lR a écrit d’un CD</translation>
+    </message>
+    <message>
+        <source>List what is in an archive</source>
+        <translation>Lister le contenu d’une archive</translation>
+    </message>
+    <message>
+        <source>A list in a form of your own</source>
+        <translation>Une liste dans un format à soi</translation>
+    </message>
+    <message>
+        <source>Writes a listing for each FILE into the folder of --output, under the file&apos;s name and with the ending .txt. The format is recognised from the first lines and reported on standard error. Lines that were not understood are counted there, and the first of them shown; the exit status is 2 then. A FILE may be a pipe; - is standard input.</source>
+        <translation>Écrit pour chaque FILE une liste de ce programme dans le dossier de --output, sous le nom du fichier et avec la terminaison .txt. Le format est reconnu aux premières lignes et indiqué sur stderr. Les lignes non comprises y sont comptées et les premières montrées ; le code de retour est alors 2. Un FILE peut être un tube ; - est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>What a list does not tell exactly is left out: rounded sizes, sizes in blocks, dates without a year unless --made is given, and dates that may be of two days unless --dates is given or other dates of the list decide. Such files have the size -1 or the zero date.</source>
+        <translation>Ce qu’une liste ne dit pas exactement est omis : tailles arrondies, tailles en blocs, dates sans année à moins que --made soit donné, et dates pouvant désigner deux jours à moins que --dates ou d’autres dates de la liste ne décident. Ces fichiers ont la taille -1 ou la date zéro.</translation>
+    </message>
+    <message>
+        <source>import needs the lists to import</source>
+        <translation>import a besoin des listes à importer</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
+        <translation>les commandes sont find, copies, index, import, refresh, sources, history et cache</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,7 @@ _quorvin_cli() {
       " find") command="find" ;;
       " copies") command="copies" ;;
       " index") command="index" ;;
+      " import") command="import" ;;
       " refresh") command="refresh" ;;
       " sources") command="sources" ;;
       "sources add") command="sources add" ;;
@@ -43,7 +44,7 @@ _quorvin_cli() {
       case "$prev" in
         --completion) _quorvin_words "bash zsh fish"; return ;;
       esac
-      _quorvin_words "find copies index refresh sources history cache --version --completion --man --help"
+      _quorvin_words "find copies index import refresh sources history cache --version --completion --man --help"
       ;;
     "find")
       case "$prev" in
@@ -82,6 +83,24 @@ _quorvin_cli() {
         return
       fi
       _quorvin_files -d
+      ;;
+    "import")
+      case "$prev" in
+        --output) _quorvin_words ""; return ;;
+        --format) _quorvin_words "ls ls-quoted ls-escaped find-ls find-printf du tree dir unzip tar rsync rclone paths csv checksums bagit"; return ;;
+        --label) _quorvin_words ""; return ;;
+        --folder) _quorvin_words ""; return ;;
+        --pattern) _quorvin_words ""; return ;;
+        --columns) _quorvin_list "path= folder= name= size= date= type="; return ;;
+        --dates) _quorvin_words "dmy mdy"; return ;;
+        --made) _quorvin_words ""; return ;;
+        --encoding) _quorvin_words "utf-8 windows-1252 cp437 cp850 cp852"; return ;;
+      esac
+      if [[ $cur == -* ]]; then
+        _quorvin_words "--output --format --label --folder --pattern --columns --bytes --dates --made --encoding --replace -q --quiet --help"
+        return
+      fi
+      _quorvin_files -f
       ;;
     "refresh")
       if [[ $cur == -* ]]; then

@@ -211,7 +211,7 @@ CommandText cacheText() {
 
 const std::vector<CommandText>& commandTexts() {
   static const std::vector<CommandText> texts{
-      findText(),       copiesText(),        indexText(),       refreshText(), sourcesText(),
+      findText(),       copiesText(),        indexText(),       importText(),  refreshText(), sourcesText(),
       sourcesAddText(), sourcesRemoveText(), sourcesMoveText(), historyText(), cacheText()};
   return texts;
 }

@@ -51,6 +51,9 @@ CommandText copiesText();
 /// All commands, in the order in which they are shown.
 const std::vector<CommandText>& commandTexts();
 
+/// One of them that is described in a file of its own.
+CommandText importText();
+
 /// The options of the program itself.
 const std::vector<OptionText>& programOptions();
 

@@ -1,5 +1,5 @@
-// The commands of the console companion: "find", "copies", "cache", "index", "refresh", "sources" and
-// "history". Each gives the exit status of the program.
+// The commands of the console companion: "find", "copies", "cache", "index", "import", "refresh", "sources"
+// and "history". Each gives the exit status of the program.
 #pragma once
 
 #include "console/copy_rows.h"
@@ -112,6 +112,31 @@ struct IndexRequest {
 /// cannot be read, the listing cannot be written, or names were left out of it since their folder holds too
 /// many, stopStatus() after a signal.
 int runIndex(const IndexRequest& request);
+
+/// What the command line asked of "import", each option as it was given; empty where it was not.
+struct ImportCommand {
+  /// Lists to read, "-" for standard input.
+  QStringList lists;
+  /// The folder for the listings.
+  QString output;
+  QString format;
+  QString label;
+  QString folder;
+  QString pattern;
+  QString columns;
+  QString dates;
+  QString made;
+  QString encoding;
+  bool areSizesBytes = false;
+  bool replaces = false;
+  bool isQuiet = false;
+};
+
+/// Makes a listing of each list. What was read, and what could not be, is reported on standard error. A
+/// listing that is there stays unless it is to be replaced, and whatever goes wrong in between. The exit
+/// status: 0; 2 when a list could not be read, lines of it were not understood, or names were left out;
+/// stopStatus() after a signal, which leaves the listings that were complete.
+int runImport(const ImportCommand& command);
 
 /// What the command line asked of "refresh".
 struct RefreshRequest {

@@ -41,6 +41,7 @@ class CommandLine {
   const CommandText* named() const;
   int runNamed(const CommandText& command);
   int runIndexCommand(const Given& given);
+  int runImportCommand(const Given& given);
   int runHistoryCommand(const Given& given);
   int runSourcesCommand(SourcesRequest::Action action, const Given& given);
   QString whatIsMissing() const;
@@ -155,6 +156,7 @@ QString CommandLine::whatIsMissing() const {
   const std::string_view name = named()->name;
   if (name == "find") return Texts::tr("find needs the words to find, in one argument");
   if (name == "index") return Texts::tr("index needs the folder to list");
+  if (name == "import") return Texts::tr("import needs the lists to import");
   if (name == "sources add") return Texts::tr("sources add needs a folder or a listing");
   return Texts::tr("%1 needs the description or the path of a source").arg(textOf(name));
 }
@@ -163,7 +165,7 @@ QString CommandLine::whatIsMissing() const {
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = app_.remaining();
   const QString commands =
-      Texts::tr("the commands are find, copies, index, refresh, sources, history and cache");
+      Texts::tr("the commands are find, copies, index, import, refresh, sources, history and cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
     if (first.startsWith(u'-')) return Texts::tr("there is no option \"%1\"").arg(first);
@@ -193,6 +195,7 @@ int CommandLine::runNamed(const CommandText& command) {
   if (name == "find") return runFind(findRequestOf(given));
   if (name == "copies") return runCopies(copiesRequestOf(given));
   if (name == "index") return runIndexCommand(given);
+  if (name == "import") return runImportCommand(given);
   if (name == "refresh") return runRefresh({given.texts(), given.has("--quiet"), given.has("--json")});
   if (name == "sources") return runSourcesCommand(Action::List, given);
   if (name == "sources add") return runSourcesCommand(Action::Add, given);
@@ -211,6 +214,14 @@ int CommandLine::runIndexCommand(const Given& given) {
   request.foldersOnly = given.has("--folders-only");
   request.isQuiet = given.has("--quiet");
   return runIndex(request);
+}
+
+int CommandLine::runImportCommand(const Given& given) {
+  const auto text = [&given](const char* option) { return given.text(option).value_or(QString()); };
+  return runImport({QStringList{textOf(given.needed)} + given.texts(), text("--output"), text("--format"),
+                    text("--label"), text("--folder"), text("--pattern"), text("--columns"), text("--dates"),
+                    text("--made"), text("--encoding"), given.has("--bytes"), given.has("--replace"),
+                    given.has("--quiet")});
 }
 
 int CommandLine::runHistoryCommand(const Given& given) {

@@ -1,0 +1,31 @@
+// The formats of lists that can be imported, and telling which of them a list has.
+#pragma once
+
+#include "catalogue/list_entry.h"
+#include "catalogue/list_readers.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace quorvin {
+
+struct ListFormat {
+  /// What the user calls it: "ls".
+  std::string_view name;
+  /// False where only the user can say that a list is of this format.
+  bool isRecognised;
+  std::unique_ptr<ListReader> (*makeReader)(const ListOptions& options);
+};
+
+/// All formats. Where two of them read a list equally well, it is of the first one.
+const std::vector<ListFormat>& listFormats();
+
+/// Null where there is none of this name.
+const ListFormat* listFormatNamed(std::string_view name);
+
+/// The format of the list that starts with `lines`: the one whose reader understands most of them. Null where
+/// no reader is sure of at least half of the lines that it does not pass over.
+const ListFormat* recognisedFormat(const std::vector<std::string_view>& lines, const ListOptions& options);
+
+}  // namespace quorvin

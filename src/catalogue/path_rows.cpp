@@ -1,0 +1,231 @@
+// The lists that have a whole path in each line: those of du, rclone and unzip, checksums, and paths alone.
+#include "catalogue/list_dates.h"
+#include "catalogue/list_readers.h"
+#include "catalogue/list_text.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+void takeSlash(ListEntry& entry) {
+  if (entry.path.ends_with('/')) entry.kind = EntryKind::Folder;
+}
+
+/// "4<tab>./path", with --time "4<tab>2004-01-15 10:20<tab>./path". A folder comes behind what is in it.
+class DuReader : public ListReader {
+ public:
+  explicit DuReader(ListOptions options) : options_(std::move(options)) {}
+
+  LineSays read(std::string_view line, ListEntry& entry) override {
+    const std::size_t tab = line.find('\t');
+    if (tab == std::string_view::npos || !looksLikeSize(line.substr(0, tab))) return LineSays::NotUnderstood;
+    entry.size = options_.areSizesBytes ? exactSize(line.substr(0, tab)) : std::nullopt;
+    line.remove_prefix(tab + 1);
+    entry.modified = {};
+    std::string_view rest = line;
+    if (const auto date = takeIsoDate(rest); date && takeText(rest, "\t")) {
+      entry.modified = *date;
+      line = rest;
+    }
+    if (line.empty()) return LineSays::NotUnderstood;
+    entry.path = line;
+    const bool isAbove = parentOfLast_ == entry.path;
+    entry.kind = isAbove ? EntryKind::Folder : EntryKind::Unknown;
+    parentOfLast_ =
+        entry.path.substr(0, entry.path.rfind('/') == std::string::npos ? 0 : entry.path.rfind('/'));
+    return LineSays::Entry;
+  }
+
+ private:
+  ListOptions options_;
+  std::string parentOfLast_;
+};
+
+/// "     5 2004-01-15 10:20:30.000000000 path".
+class RcloneReader : public ListReader {
+ public:
+  LineSays read(std::string_view line, ListEntry& entry) override {
+    takeBlanks(line);
+    const bool isUnknown = takeText(line, "-");
+    const std::optional<std::int64_t> size = takeNumber(line);
+    if (!size || !takeText(line, " ")) return LineSays::NotUnderstood;
+    const std::string_view before = line;
+    const std::optional<ListDate> date = takeIsoDate(line);
+    const bool hasFraction =
+        date && before.substr(0, before.size() - line.size()).find('.') != std::string_view::npos;
+    if (!hasFraction || !takeText(line, " ") || line.empty()) return LineSays::NotUnderstood;
+    entry = {std::string(line), EntryKind::File, isUnknown ? std::nullopt : size, *date};
+    return LineSays::Entry;
+  }
+};
+
+/// A head, a line of dashes, "    5  2004-01-15 10:20   path" (-v: with method, packed size and checksum in
+/// between), and another line of dashes.
+class UnzipReader : public ListReader {
+ public:
+  LineSays read(std::string_view line, ListEntry& entry) override {
+    if (line.starts_with("Archive: ")) {
+      isInside_ = false;
+      hasHead_ = true;
+      return LineSays::NoEntry;
+    }
+    if (line.starts_with("--------")) {
+      isInside_ = !isInside_;
+      return LineSays::NoEntry;
+    }
+    // The archive's comment, the columns' titles, or the sum.
+    if (!isInside_) return hasHead_ || line.empty() ? LineSays::NoEntry : otherwise(line);
+    return readRow(line, entry);
+  }
+
+ private:
+  LineSays otherwise(std::string_view line) {
+    takeBlanks(line);
+    hasHead_ = line.starts_with("Length");
+    return hasHead_ ? LineSays::NoEntry : LineSays::NotUnderstood;
+  }
+
+  static LineSays readRow(std::string_view line, ListEntry& entry) {
+    takeBlanks(line);
+    const std::optional<std::int64_t> size = takeNumber(line);
+    if (!size || takeBlanks(line) == 0) return LineSays::NotUnderstood;
+    bool isLong = false;
+    std::optional<ListDate> date = takeNumericDate(line);
+    for (int words = 0; !date && words < 3; ++words) {
+      isLong = true;
+      if (!takeWord(line)) return LineSays::NotUnderstood;
+      takeBlanks(line);
+      date = takeNumericDate(line);
+    }
+    if (!date) return LineSays::NotUnderstood;
+    if (isLong && (takeBlanks(line) == 0 || !takeWord(line))) return LineSays::NotUnderstood;
+    if (!takeText(line, isLong ? "  " : "   ") || line.empty()) return LineSays::NotUnderstood;
+    entry = {std::string(line), EntryKind::File, size, *date};
+    takeSlash(entry);
+    return LineSays::Entry;
+  }
+
+  bool hasHead_ = false;
+  bool isInside_ = false;
+};
+
+bool isChecksum(std::string_view text) {
+  static constexpr std::array<std::size_t, 6> kLengths{32, 40, 56, 64, 96, 128};
+  return std::ranges::find(kLengths, text.size()) != kLengths.end() &&
+         text.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos;
+}
+
+/// "CHECKSUM  path", "CHECKSUM *path", with a backslash before where the path has escapes, or "MD5 (path) =
+/// CHECKSUM".
+class ChecksumsReader : public ListReader {
+ public:
+  LineSays read(std::string_view line, ListEntry& entry) override {
+    if (line.empty() || line.starts_with(';') || line.starts_with('#')) return LineSays::NoEntry;
+    const bool hasEscapes = takeText(line, "\\");
+    std::optional<std::string_view> path = pathIn(line);
+    if (!path) path = pathInBrackets(line);
+    if (!path || path->empty()) return LineSays::NotUnderstood;
+    const std::optional<std::string> plain = hasEscapes ? withoutEscapes(*path) : std::string(*path);
+    if (!plain) return LineSays::NotUnderstood;
+    entry = {*plain, EntryKind::File};
+    return LineSays::Entry;
+  }
+
+ private:
+  static std::optional<std::string_view> pathIn(std::string_view line) {
+    const std::size_t blank = line.find(' ');
+    if (blank == std::string_view::npos || !isChecksum(line.substr(0, blank))) return std::nullopt;
+    line.remove_prefix(blank + 1);
+    if (!takeText(line, " ") && !takeText(line, "*")) return std::nullopt;
+    return line;
+  }
+
+  static std::optional<std::string_view> pathInBrackets(std::string_view line) {
+    const std::size_t open = line.find(" (");
+    const std::size_t close = line.rfind(") = ");
+    if (open == std::string_view::npos || close == std::string_view::npos || close < open + 2)
+      return std::nullopt;
+    if (!isChecksum(line.substr(close + 4))) return std::nullopt;
+    return line.substr(open + 2, close - open - 2);
+  }
+};
+
+/// "CHECKSUM data/path", with any blanks between, and "%0A", "%0D" and "%25" in paths.
+class BagItReader : public ListReader {
+ public:
+  LineSays read(std::string_view line, ListEntry& entry) override {
+    if (line.empty()) return LineSays::NoEntry;
+    const std::optional<std::string_view> checksum = takeWord(line);
+    if (!checksum || !isChecksum(*checksum) || takeBlanks(line) == 0) return LineSays::NotUnderstood;
+    takeText(line, "*");
+    takeText(line, "./");
+    if (!line.starts_with("data/")) return LineSays::NotUnderstood;
+    entry = {plain(line), EntryKind::File};
+    return LineSays::Entry;
+  }
+
+ private:
+  static std::string plain(std::string_view text) {
+    std::string path;
+    while (!text.empty()) {
+      char sign = text.front();
+      std::size_t length = 3;
+      if (text.starts_with("%0A") || text.starts_with("%0a")) {
+        sign = '\n';
+      } else if (text.starts_with("%0D") || text.starts_with("%0d")) {
+        sign = '\r';
+      } else if (text.starts_with("%25")) {
+        sign = '%';
+      } else {
+        length = 1;
+      }
+      path += sign;
+      text.remove_prefix(length);
+    }
+    return path;
+  }
+};
+
+/// A path in each line, as find, locate and plocate write them.
+class PathsReader : public ListReader {
+ public:
+  LineSays read(std::string_view line, ListEntry& entry) override {
+    if (line.empty()) return LineSays::NoEntry;
+    entry = {std::string(line), EntryKind::Unknown};
+    takeSlash(entry);
+    const bool isPath = line.starts_with('/') || line.starts_with("./") || line == ".";
+    return isPath ? LineSays::Entry : LineSays::DoubtfulEntry;
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<ListReader> makeDuReader(const ListOptions& options) {
+  return std::make_unique<DuReader>(options);
+}
+
+std::unique_ptr<ListReader> makeRcloneReader(const ListOptions&) {
+  return std::make_unique<RcloneReader>();
+}
+
+std::unique_ptr<ListReader> makeUnzipReader(const ListOptions&) {
+  return std::make_unique<UnzipReader>();
+}
+
+std::unique_ptr<ListReader> makeChecksumsReader(const ListOptions&) {
+  return std::make_unique<ChecksumsReader>();
+}
+
+std::unique_ptr<ListReader> makeBagItReader(const ListOptions&) {
+  return std::make_unique<BagItReader>();
+}
+
+std::unique_ptr<ListReader> makePathsReader(const ListOptions&) {
+  return std::make_unique<PathsReader>();
+}
+
+}  // namespace quorvin
