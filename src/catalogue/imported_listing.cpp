@@ -47,7 +47,7 @@ void ImportedListing::add(const SortedEntry& entry) {
 void ImportedListing::startFolder(std::string_view folder) {
   isStarted_ = true;
   folder_ = folder;
-  listedFolder_ = "\\";
+  listedFolder_.assign(1, '\\');
   canBeListed_ = true;
   isGoneInto_ = false;
   while (!folder.empty()) {

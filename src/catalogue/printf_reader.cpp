@@ -97,7 +97,7 @@ class PrintfReader : public ListReader {
     if (row.path.empty() && row.name.empty()) {
       // %P of the folder that find was started with.
       if (!row.hasPath) return LineSays::NotUnderstood;
-      row.path = ".";
+      row.path.assign(1, '.');
     }
     if (!row.name.empty()) row.path = row.folder.empty() ? row.name : row.folder + '/' + row.name;
     if (row.type != '\0' && std::string_view("fdl").find(row.type) == std::string_view::npos) {
