@@ -9,7 +9,6 @@
 #include "platform/text_encoding.h"
 #include "search/search_run.h"
 #include "search/segment/segment_store.h"
-#include "state/settings.h"
 #include "texts/texts.h"
 
 #include <QLocale>
@@ -72,15 +71,7 @@ class LookingForCopies {
 
   int run() {
     try {
-      if (request_.listings.empty()) {
-        loadUserSources(state_, locale_, messages_);
-        if (!state_.hasSources()) {
-          printError(Texts::tr(
-              "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
-              "window"));
-          return 2;
-        }
-      }
+      if (request_.listings.empty() && !loadSourcesToSearch(state_, locale_, messages_)) return 2;
       watchStopSignal();
       readListings();
       if (!stopSignalled() && find()) write();

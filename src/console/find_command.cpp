@@ -10,7 +10,6 @@
 #include "search/match/search_query.h"
 #include "search/search_run.h"
 #include "search/segment/segment_store.h"
-#include "state/settings.h"
 #include "texts/texts.h"
 
 #include <QFileInfo>
@@ -64,15 +63,7 @@ class Finding {
   int run() {
     if (request_.hasHeader && !request_.countOnly) writer_.writeHead();
     try {
-      if (request_.listings.empty()) {
-        loadUserSources(state_, locale_, messages_);
-        if (!state_.hasSources()) {
-          printError(Texts::tr(
-              "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
-              "window"));
-          return 2;
-        }
-      }
+      if (request_.listings.empty() && !loadSourcesToSearch(state_, locale_, messages_)) return 2;
       watchStopSignal();
       search();
       if (request_.order.column) writeSorted();

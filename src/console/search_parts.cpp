@@ -1,9 +1,11 @@
 #include "console/search_parts.h"
 
+#include "console/error_lines.h"
 #include "faults/runtime_fault.h"
 #include "files/stream_reader.h"
 #include "platform/stop_signal.h"
 #include "search/match/search_query.h"
+#include "state/settings.h"
 #include "texts/texts.h"
 
 #include <QRegularExpression>
@@ -45,6 +47,15 @@ QString complaintAboutSearch(const QString& searchText, const QString& desiredMa
     return Texts::tr("the search text has more than %1 words").arg(kMostWords);
   }
   return isNumber(desiredMatch) ? QString() : complaintAboutMatch(desiredMatch);
+}
+
+bool loadSourcesToSearch(ProgramState& state, const QLocale& locale, MessageBoxes& messages) {
+  loadUserSources(state, locale, messages);
+  if (state.hasSources()) return true;
+  printError(Texts::tr(
+      "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
+      "window"));
+  return false;
 }
 
 ListingReader listingStreamAt(const QString& path) {

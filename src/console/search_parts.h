@@ -14,6 +14,9 @@ namespace quorvin {
 /// What is wrong with the words and the match percentage to search for, as a sentence; empty when nothing is.
 QString complaintAboutSearch(const QString& searchText, const QString& desiredMatch);
 
+/// Loads the user's own sources as loadUserSources() does. False where there are none, which is reported.
+bool loadSourcesToSearch(ProgramState& state, const QLocale& locale, MessageBoxes& messages);
+
 /// For RunParts::streamAt: standard input, which is "-", and pipes. They are opened when their turn comes.
 ListingReader listingStreamAt(const QString& path);
 
