@@ -53,6 +53,19 @@ TEST(ByteOrderMark, OnlyTheFirstIsLeftOut) {
   EXPECT_EQ(utf16Twice.hits[0].name, u"\uFEFFsong"_qs);
 }
 
+TEST(ByteOrderMark, HalfOfAPairIsAReplacementCharacter) {
+  const QByteArray listing("\xFE\xFF\0s\xDD\x64\0o\xD8\x3C\0n\0g\0\n\0s\0o\xD8\x3C", 22);
+  for (std::size_t chunk = 1; chunk <= 22; ++chunk) {
+    ScanLimits limits;
+    limits.chunkSize = chunk;
+    const auto result = test::scanOf(listing, u"s"_qs, 50, limits);
+    ASSERT_EQ(result.hits.size(), 2U) << "chunks of " << chunk;
+    EXPECT_EQ(result.hits[0].name, u"s\uFFFDo\uFFFDng"_qs);
+    EXPECT_EQ(result.hits[1].name, u"so"_qs) << "the other half may have been cut off";
+    EXPECT_EQ(result.hits, test::referenceScan(listing, u"s"_qs, 50, QLocale::c()).hits);
+  }
+}
+
 TEST(ByteOrderMark, AloneIsAnEmptyListing) {
   for (const QByteArray& mark : {kUtf8Mark, QByteArray("\xFF\xFE"), QByteArray("\xFE\xFF")}) {
     EXPECT_EQ(test::scanOf(mark, u"a"_qs, 50).searched, 0);

@@ -33,6 +33,22 @@ QString trimmedOfBlanks(QString text) {
   return text;
 }
 
+/// In UTF-8. Half a pair of code units becomes a replacement character; at the very end, where the other half
+/// may have been cut off, it is left out.
+QByteArray utf8Of(const QString& text) {
+  QByteArray bytes;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (!text[i].isSurrogate()) {
+      bytes += QString(text[i]).toUtf8();
+    } else if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+      bytes += text.sliced(i++, 2).toUtf8();
+    } else if (text[i].isLowSurrogate() || i + 1 < text.size()) {
+      bytes += "\xEF\xBF\xBD";
+    }
+  }
+  return bytes;
+}
+
 /// UTF-8 or whatever bytes there are, without a byte order mark at the start.
 QByteArray plainTextOf(const QByteArray& listing) {
   const QByteArray mark = listing.first(std::min(listing.size(), qsizetype{2}));
@@ -44,7 +60,7 @@ QByteArray plainTextOf(const QByteArray& listing) {
       const auto two = static_cast<unsigned char>(listing[i + 1]);
       text += QChar(static_cast<char16_t>(isLittle ? one | two << 8 : two | one << 8));
     }
-    return text.toUtf8();
+    return utf8Of(text);
   }
   return listing.startsWith("\xEF\xBB\xBF") ? listing.sliced(3) : listing;
 }
