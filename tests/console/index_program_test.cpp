@@ -1,6 +1,7 @@
 // "quorvin-cli index" as a user runs it.
 #include "console/console_program.h"
 #include "files/path_style.h"
+#include "support/many_files.h"
 #include "support/plain_walker.h"
 #include "support/qt_printing.h"
 
@@ -146,10 +147,7 @@ TEST_F(IndexProgram, ControlCharactersOfNamesDoNotReachTheTerminal) {
 }
 
 TEST_F(IndexProgram, TooManyFilesAreIgnoredAndToldAndEndWith2) {
-  const QByteArray many = folder.makeFolder(u"Many"_qs).toUtf8();
-  for (int i = 0; i < 31'003; ++i) {
-    ASSERT_EQ(::mknod((many + QByteArray::number(i)).constData(), S_IFREG | 0600, 0), 0);
-  }
+  test::makeManyFiles(folder.makeFolder(u"Many"_qs).toUtf8(), 31'003);
   const test::Ended ended = run({u"index"_qs, u"Many"_qs});
   EXPECT_EQ(ended.status, 2);
   EXPECT_EQ(ended.output.count(" bytes "), 31'001);

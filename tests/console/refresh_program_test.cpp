@@ -2,13 +2,13 @@
 #include "console/console_program.h"
 #include "files/file_lock.h"
 #include "platform/ini_settings_store.h"
+#include "support/many_files.h"
 #include "support/qt_printing.h"
 
 #include <QFile>
 
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/stat.h>
 
 namespace quorvin {
 namespace {
@@ -99,10 +99,7 @@ TEST_F(RefreshProgram, AnotherRefreshOfTheSameFolderEndsItWith2) {
 }
 
 TEST_F(RefreshProgram, NamesWithoutAPlaceInTheListingEndItWith2) {
-  const QByteArray many = folder.makeFolder(u"Many"_qs).toUtf8();
-  for (int i = 0; i < 31'002; ++i) {
-    ASSERT_EQ(::mknod((many + QByteArray::number(i)).constData(), S_IFREG | 0600, 0), 0);
-  }
+  test::makeManyFiles(folder.makeFolder(u"Many"_qs).toUtf8(), 31'002);
   putSources("\"Many\",\"" + pathOf("Many/") + "\"\r\n");
   const test::Ended ended = run({u"refresh"_qs});
   EXPECT_EQ(ended.status, 2);

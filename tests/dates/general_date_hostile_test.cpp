@@ -85,7 +85,8 @@ TEST_P(HostileDate, EveryShortTextIsReadOrRefused) {
   std::size_t combinations = 1;
   for (qsizetype length = 1; length <= test::sweep(5, 4); ++length) {
     combinations *= kSigns.size();
-    for (std::size_t number = 0; number < combinations; ++number) {
+    const std::size_t step = length < 4 ? 1 : test::sweep<std::size_t>(1, 5);
+    for (std::size_t number = 0; number < combinations; number += step) {
       QString text;
       for (std::size_t rest = number; text.size() < length; rest /= kSigns.size()) {
         text += QChar(kSigns[rest % kSigns.size()]);

@@ -3,10 +3,12 @@
 #include "help/frm_browser.h"
 #include "help/manual_pages.h"
 #include "support/qt_printing.h"
+#include "support/sweep.h"
 #include "texts/languages.h"
 
 #include <QApplication>
 #include <QImage>
+#include <QSet>
 #include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -84,16 +86,21 @@ TEST_F(HelpPages, EveryLinkLeadsToAPlaceThatIsThere) {
   EXPECT_GT(links, 100);
 }
 
+// The same link from the same folder leads to the same page; it is followed from each page where everything
+// is tried.
 TEST_F(HelpPages, EveryLinkOpensItsPageWhenItIsFollowed) {
+  QSet<QString> followed;
   window_.showHelp(pagesFolder() + QStringLiteral("genhelp.htm"));
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
   for (const QString& page : manualPages()) {
     const QUrl base = QUrl::fromLocalFile(pagesFolder() + page);
     for (const QString& link : linksOf(page)) {
+      const QString target = base.resolved(QUrl(link)).toLocalFile();
+      if (!test::triesEverything() && followed.contains(target)) continue;
+      followed.insert(target);
       window_.controls().cboAddress->setEditText(pagesFolder() + page);
       QTest::keyClick(window_.controls().cboAddress, Qt::Key_Return);
       Q_EMIT window_.controls().brwWebBrowser->anchorClicked(QUrl(link));
-      const QString target = base.resolved(QUrl(link)).toLocalFile();
       const QString title =
           allMatches(manualText(target.mid(pagesFolder().size())), QStringLiteral("<h1>(.*?)</h1>")).value(0);
       const QString shown = window_.controls().brwWebBrowser->toPlainText();

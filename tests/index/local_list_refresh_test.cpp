@@ -1,8 +1,7 @@
 #include "faults/runtime_fault.h"
 #include "files/file_lock.h"
 #include "index/refresh_fixture.h"
-
-#include <sys/stat.h>
+#include "support/many_files.h"
 
 namespace quorvin {
 namespace {
@@ -287,10 +286,7 @@ TEST_F(LocalListRefresh, AListingThatTwoSourcesShareIsLogged) {
 
 TEST_F(LocalListRefresh, SaysHowManyNamesHadNoPlaceInTheListings) {
   addSource(u"Music"_qs, u"song.mp3"_qs);
-  const QByteArray many = folders.makeFolder(u"Many"_qs).toUtf8();
-  for (int i = 0; i < 31'003; ++i) {
-    ASSERT_EQ(::mknod((many + QByteArray::number(i)).constData(), S_IFREG | 0600, 0), 0);
-  }
+  test::makeManyFiles(folders.makeFolder(u"Many"_qs).toUtf8(), 31'003);
   addSourceAt(u"Many"_qs, folders.pathOf(u"Many/"_qs));
   messages.faultAnswers = {FaultAnswer::Ignore};
   refresh();
