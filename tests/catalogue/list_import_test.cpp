@@ -46,6 +46,15 @@ TEST_F(ListImports, PathsStartWhereTheRequestSays) {
   EXPECT_EQ(report.counts.files, 3);
 }
 
+TEST_F(ListImports, NoPathLeadsAboveTheTop) {
+  ImportRequest request;
+  request.format = listFormatNamed("paths");
+  const std::string listing = import("../../etc/x\na/../../../y\n", request);
+  EXPECT_THAT(listing, testing::StartsWith("\r\nVolume:    \r\nDirectory: \\\r\n\r\n<DIR> etc\r\n\r\ny "));
+  EXPECT_THAT(listing, testing::HasSubstr("\r\nDirectory: \\etc\\\r\n\r\nx "));
+  EXPECT_EQ(report.counts.files, 2);
+}
+
 TEST_F(ListImports, LinesThatWereNotUnderstoodAreCountedAndTheFirstOnesKept) {
   std::string list;
   for (int i = 0; i < 10; ++i) list += "5 2004-01-15 10:20:30.000000000 x" + std::to_string(i) + "\nnoise\n";
