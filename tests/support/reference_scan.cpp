@@ -42,7 +42,7 @@ QByteArray utf8Of(const QString& text) {
       bytes += QString(text[i]).toUtf8();
     } else if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
       bytes += text.sliced(i++, 2).toUtf8();
-    } else if (text[i].isLowSurrogate() || i + 1 < text.size()) {
+    } else if (i + 1 < text.size()) {
       bytes += "\xEF\xBF\xBD";
     }
   }
