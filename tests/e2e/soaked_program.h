@@ -91,6 +91,7 @@ class SoakedProgram {
   void answer(const QStringList& keys) const;
   void waitUntilAtRest() const;
   bool isMessageShown() const;
+  void openAbout();
   /// The window that has the keys, and its text where it is a message.
   QString messageShown() const;
 

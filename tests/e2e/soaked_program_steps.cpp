@@ -260,15 +260,30 @@ void SoakedProgram::wander(Dice& dice) {
   press({QStringLiteral("ctrl+f"), QStringLiteral("shift+Tab")});
   for (int left = 5; left > 0; --left) press({dice.pick(kKeys)});
   waitUntilAtRest();
-  // Copying paths names files that are gone since they were listed.
-  if (isMessageShown()) answer({QStringLiteral("Return")});
   desktop_.resize(program_->mainWindow(), 800 + dice.below(400), 400 + dice.below(500));
   desktop_.move(program_->mainWindow(), dice.below(100), 30 + dice.below(60));
-  press({QStringLiteral("alt+h"), QStringLiteral("a")});
-  program_->waitForWindow(QStringLiteral("About Quorvin Utility"));
+  openAbout();
   press({QStringLiteral("Escape")});
   program_->waitForMainWindow();
   waitUntilAtRest();
+}
+
+/// Copying paths may have named files that are gone since they were listed. That message may still be on its
+/// way to the screen when the program is at rest, and then it gets the keys.
+void SoakedProgram::openAbout() {
+  const QString about = QStringLiteral("About Quorvin Utility");
+  const QStringList keys{QStringLiteral("alt+h"), QStringLiteral("a")};
+  press(keys);
+  waitUntil(
+      QStringLiteral("for the about window or a message"),
+      [&] { return isMessageShown() || desktop_.titleOf(desktop_.activeWindow()) == about; },
+      [this] { return messageShown(); });
+  if (isMessageShown()) {
+    answer({QStringLiteral("Return")});
+    program_->waitForMainWindow();
+    press(keys);
+  }
+  program_->waitForWindow(about);
 }
 
 void SoakedProgram::updateFromWeb(Dice& dice) {
