@@ -3447,8 +3447,8 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>%1: %2 Zeilen</translation>
     </message>
     <message>
-        <source>%1 is no list of a known format; --format says which of these it has: %2</source>
-        <translation>%1 ist keine Liste in einem bekannten Format; --format sagt, welches von diesen es ist: %2</translation>
+        <source>%1 is no list of a known format; %2 says which of these it has: %3</source>
+        <translation>%1 ist keine Liste in einem bekannten Format; %2 sagt, welches von diesen es ist: %3</translation>
     </message>
     <message>
         <source>%1 names no file and no folder; no listing was made</source>
@@ -3467,8 +3467,8 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Dateien ohne Datum: %1</translation>
     </message>
     <message>
-        <source>dates in which day and month may have changed places, left out (see --dates): %1</source>
-        <translation>Daten, in denen Tag und Monat vertauscht sein können, ausgelassen (siehe --dates): %1</translation>
+        <source>dates in which day and month may have changed places, left out (see %1): %2</source>
+        <translation>Daten, in denen Tag und Monat vertauscht sein können, ausgelassen (siehe %1): %2</translation>
     </message>
     <message>
         <source>names that came again, of which the last one counts: %1</source>
@@ -3479,8 +3479,8 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Namen, die eine Liste nicht enthalten kann, ausgelassen: %1</translation>
     </message>
     <message>
-        <source>lines whose bytes are no UTF-8 (see --encoding): %1</source>
-        <translation>Zeilen, deren Bytes kein UTF-8 sind (siehe --encoding): %1</translation>
+        <source>lines whose bytes are no UTF-8 (see %1): %2</source>
+        <translation>Zeilen, deren Bytes kein UTF-8 sind (siehe %1): %2</translation>
     </message>
     <message>
         <source>lines that were not understood: %1</source>

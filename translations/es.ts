@@ -3447,8 +3447,8 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>%1: %2 líneas</translation>
     </message>
     <message>
-        <source>%1 is no list of a known format; --format says which of these it has: %2</source>
-        <translation>%1 no es una lista de un formato conocido; --format dice cuál de estos tiene: %2</translation>
+        <source>%1 is no list of a known format; %2 says which of these it has: %3</source>
+        <translation>%1 no es una lista de un formato conocido; %2 dice cuál de estos tiene: %3</translation>
     </message>
     <message>
         <source>%1 names no file and no folder; no listing was made</source>
@@ -3467,8 +3467,8 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>archivos sin fecha: %1</translation>
     </message>
     <message>
-        <source>dates in which day and month may have changed places, left out (see --dates): %1</source>
-        <translation>fechas en las que día y mes pueden estar cambiados, omitidas (véase --dates): %1</translation>
+        <source>dates in which day and month may have changed places, left out (see %1): %2</source>
+        <translation>fechas en las que día y mes pueden estar cambiados, omitidas (véase %1): %2</translation>
     </message>
     <message>
         <source>names that came again, of which the last one counts: %1</source>
@@ -3479,8 +3479,8 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>nombres que una lista no puede contener, omitidos: %1</translation>
     </message>
     <message>
-        <source>lines whose bytes are no UTF-8 (see --encoding): %1</source>
-        <translation>líneas cuyos bytes no son UTF-8 (véase --encoding): %1</translation>
+        <source>lines whose bytes are no UTF-8 (see %1): %2</source>
+        <translation>líneas cuyos bytes no son UTF-8 (véase %1): %2</translation>
     </message>
     <message>
         <source>lines that were not understood: %1</source>

@@ -3447,8 +3447,8 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>%1 : %2 lignes</translation>
     </message>
     <message>
-        <source>%1 is no list of a known format; --format says which of these it has: %2</source>
-        <translation>%1 n’est pas une liste d’un format connu ; --format dit lequel de ceux-ci elle a : %2</translation>
+        <source>%1 is no list of a known format; %2 says which of these it has: %3</source>
+        <translation>%1 n’est pas une liste d’un format connu ; %2 dit lequel de ceux-ci elle a : %3</translation>
     </message>
     <message>
         <source>%1 names no file and no folder; no listing was made</source>
@@ -3467,8 +3467,8 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>fichiers sans date : %1</translation>
     </message>
     <message>
-        <source>dates in which day and month may have changed places, left out (see --dates): %1</source>
-        <translation>dates où jour et mois peuvent être inversés, omises (voir --dates) : %1</translation>
+        <source>dates in which day and month may have changed places, left out (see %1): %2</source>
+        <translation>dates où jour et mois peuvent être inversés, omises (voir %1) : %2</translation>
     </message>
     <message>
         <source>names that came again, of which the last one counts: %1</source>
@@ -3479,8 +3479,8 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>noms qu’une liste ne peut contenir, omis : %1</translation>
     </message>
     <message>
-        <source>lines whose bytes are no UTF-8 (see --encoding): %1</source>
-        <translation>lignes dont les octets ne sont pas de l’UTF-8 (voir --encoding) : %1</translation>
+        <source>lines whose bytes are no UTF-8 (see %1): %2</source>
+        <translation>lignes dont les octets ne sont pas de l’UTF-8 (voir %1) : %2</translation>
     </message>
     <message>
         <source>lines that were not understood: %1</source>

@@ -1,21 +1,14 @@
 // "import": the command that turns lists of other programs into listings.
 #include "catalogue/list_dates.h"
-#include "catalogue/list_import.h"
+#include "catalogue/list_importer.h"
 #include "console/commands.h"
 #include "console/error_lines.h"
 #include "console/progress_line.h"
 #include "faults/runtime_fault.h"
-#include "files/file_aside.h"
-#include "files/file_reader.h"
-#include "files/stream_reader.h"
 #include "platform/stop_signal.h"
 #include "texts/texts.h"
 
 #include <QDate>
-#include <QFileInfo>
-#include <QLocale>
-
-#include <memory>
 
 namespace quorvin {
 
@@ -23,14 +16,6 @@ namespace {
 
 RuntimeFault refusal(const QString& sentence) {
   return RuntimeFault(FaultNumber::InvalidProcedureCall, sentence);
-}
-
-QString formatNames() {
-  QStringList names;
-  for (const ListFormat& format : listFormats()) {
-    names += QString::fromLatin1(format.name.data(), static_cast<qsizetype>(format.name.size()));
-  }
-  return names.join(QStringLiteral(", "));
 }
 
 const ListFormat* formatOf(const ImportCommand& command) {
@@ -41,7 +26,7 @@ const ListFormat* formatOf(const ImportCommand& command) {
   const ListFormat* format = listFormatNamed(name);
   if (format) return format;
   throw refusal(
-      Texts::tr("there is no format \"%1\"; the formats are %2").arg(command.format, formatNames()));
+      Texts::tr("there is no format \"%1\"; the formats are %2").arg(command.format, listFormatNames()));
 }
 
 std::optional<DayMonthOrder> orderOfDates(const QString& text) {
@@ -78,37 +63,25 @@ ImportRequest requestOf(const ImportCommand& command) {
   return request;
 }
 
-/// The bytes of a file, or of what can be read only once.
-class ListBytes {
- public:
-  explicit ListBytes(const QString& path) {
-    if (path == QStringLiteral("-")) {
-      stream_ = std::make_unique<StreamReader>(StreamReader::standardInput(stopSignalled));
-    } else if (isStream(path)) {
-      stream_ = std::make_unique<StreamReader>(path, stopSignalled);
-    } else {
-      file_ = std::make_unique<SequentialFile>(path);
-    }
-  }
+ImportChoices choicesOf(const ImportCommand& command) {
+  return {requestOf(command), command.output, command.label, command.replaces};
+}
 
-  ListLines::Read read() {
-    return [this](std::span<char> buffer) { return stream_ ? stream_->read(buffer) : file_->read(buffer); };
-  }
+ImportControls optionNames() {
+  return {QStringLiteral("--format"), QStringLiteral("--dates"), QStringLiteral("--encoding")};
+}
 
- private:
-  std::unique_ptr<StreamReader> stream_;
-  std::unique_ptr<SequentialFile> file_;
-};
-
-QString countOf(std::int64_t count) {
-  return QLocale().toString(qlonglong{count});
+void printIndented(const QString& indent, const QStringList& lines) {
+  for (const QString& line : lines) printErrorLog(indent + line + QStringLiteral("\r\n"));
 }
 
 /// The import of all lists that a command names.
 class Importing {
  public:
   explicit Importing(const ImportCommand& command)
-      : command_(command), request_(requestOf(command)), line_(!command.isQuiet) {}
+      : command_(command),
+        importer_(choicesOf(command), optionNames(), stopSignalled),
+        line_(!command.isQuiet) {}
 
   /// The exit status.
   int run() {
@@ -124,7 +97,7 @@ class Importing {
   /// False where not all of the list is in the listing.
   bool importOne(const QString& list) {
     try {
-      return importList(list, placeOf(list));
+      return importList(list);
     } catch (const RuntimeFault& fault) {
       line_.clear();
       printError(fault.description());
@@ -132,86 +105,31 @@ class Importing {
     }
   }
 
-  QString nameOf(const QString& list) const {
-    if (!command_.label.isEmpty()) return command_.label;
-    if (list == QStringLiteral("-")) {
+  bool importList(const QString& list) {
+    if (list == QStringLiteral("-") && command_.label.isEmpty()) {
       throw refusal(Texts::tr("a list from standard input needs --label, the name of its volume"));
     }
-    return QFileInfo(list).completeBaseName();
-  }
-
-  /// A listing of that name that is there stays, unless it may be replaced.
-  QString placeOf(const QString& list) const {
-    QString name = nameOf(list);
-    name.replace(u'/', u'_');
-    const QFileInfo place(command_.output + u'/' + name + QStringLiteral(".txt"));
-    if (!place.exists()) return place.filePath();
-    const bool isTheList = place.canonicalFilePath() == QFileInfo(list).canonicalFilePath();
-    if (isTheList || !command_.replaces) {
-      throw refusal(Texts::tr("%1 is there already; nothing was imported of %2").arg(place.filePath(), list));
-    }
-    return place.filePath();
-  }
-
-  bool importList(const QString& list, const QString& place) {
-    ImportRequest request = request_;
-    request.label = nameOf(list);
-    ListBytes bytes(list);
-    removeLeftovers(QFileInfo(place).absolutePath());
-    FileAside file(place);
-    const ImportReport report =
-        quorvin::importList(bytes.read(), request, QLocale(), place, file.writer(), [&](std::int64_t lines) {
-          if (line_.isDue()) line_.show(Texts::tr("%1: %2 lines").arg(list, countOf(lines)));
-          return !stopSignalled();
-        });
+    const ImportedList made = importer_.import(list, [&](std::int64_t lines) {
+      if (line_.isDue()) line_.show(importProgressText(list, lines));
+    });
     line_.clear();
-    if (report.isStopped || stopSignalled()) return false;
-    if (!report.format) {
-      throw refusal(Texts::tr("%1 is no list of a known format; --format says which of these it has: %2")
-                        .arg(list, formatNames()));
-    }
-    if (report.counts.files == 0 && report.counts.folders == 0) {
-      throw refusal(Texts::tr("%1 names no file and no folder; no listing was made").arg(list));
-    }
-    file.commit();
-    printReport(list, place, report);
-    return report.notUnderstood == 0 && report.counts.leftOut == 0;
+    if (made.report.isStopped) return false;
+    printReport(list, made);
+    return made.isWhole();
   }
 
-  static QString formatText(const ImportReport& report) {
-    const QString name =
-        QString::fromLatin1(report.format->name.data(), static_cast<qsizetype>(report.format->name.size()));
-    return report.decided.isEmpty() ? name : name + QStringLiteral(" (") + report.decided + u')';
-  }
-
-  void note(const QString& text, std::int64_t count) const {
-    if (count > 0) printErrorLog(QStringLiteral("  ") + text.arg(countOf(count)) + QStringLiteral("\r\n"));
-  }
-
-  void printReport(const QString& list, const QString& place, const ImportReport& report) const {
-    const ImportCounts& counts = report.counts;
+  void printReport(const QString& list, const ImportedList& made) const {
+    const QString indent = QStringLiteral("  ");
     if (!command_.isQuiet) {
-      printErrorLog(
-          Texts::tr("%1: read as %2; %3 has %4 files, %5 folders")
-              .arg(list, formatText(report), place, countOf(counts.files), countOf(counts.folders)) +
-          QStringLiteral("\r\n"));
-      note(Texts::tr("files without an exact size: %1"), counts.withoutSize);
-      note(Texts::tr("files without a date: %1"), counts.withoutDate);
+      printErrorLog(importSummary(list, made.place, made.report) + QStringLiteral("\r\n"));
+      printIndented(indent, importRemarks(made.report));
     }
-    note(Texts::tr("dates in which day and month may have changed places, left out (see --dates): %1"),
-         counts.undecidedDates);
-    note(Texts::tr("names that came again, of which the last one counts: %1"), counts.repeated);
-    note(Texts::tr("names that a listing cannot hold, left out: %1"), counts.leftOut);
-    note(Texts::tr("lines whose bytes are no UTF-8 (see --encoding): %1"), report.noText);
-    note(Texts::tr("lines that were not understood: %1"), report.notUnderstood);
-    for (const ImportReport::Line& line : report.firstNotUnderstood) {
-      printErrorLog(QStringLiteral("    ") + Texts::tr("line %1: %2").arg(countOf(line.number), line.text) +
-                    QStringLiteral("\r\n"));
-    }
+    printIndented(indent, importLosses(made.report, optionNames()));
+    printIndented(indent + indent, linesNotUnderstood(made.report));
   }
 
   const ImportCommand& command_;
-  const ImportRequest request_;
+  const ListImporter importer_;
   ProgressLine line_;
 };
 

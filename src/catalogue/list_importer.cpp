@@ -1,0 +1,93 @@
+#include "catalogue/list_importer.h"
+
+#include "faults/runtime_fault.h"
+#include "files/file_aside.h"
+#include "files/file_reader.h"
+#include "files/stream_reader.h"
+#include "texts/texts.h"
+
+#include <QFileInfo>
+
+#include <memory>
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+RuntimeFault refusal(const QString& sentence) {
+  return RuntimeFault(FaultNumber::InvalidProcedureCall, sentence);
+}
+
+/// The bytes of a file, or of what can be read only once.
+class ListBytes {
+ public:
+  ListBytes(const QString& path, const ListImporter::StopRequested& stopRequested) {
+    if (path == QStringLiteral("-")) {
+      stream_ = std::make_unique<StreamReader>(StreamReader::standardInput(stopRequested));
+    } else if (isStream(path)) {
+      stream_ = std::make_unique<StreamReader>(path, stopRequested);
+    } else {
+      file_ = std::make_unique<SequentialFile>(path);
+    }
+  }
+
+  ListLines::Read read() {
+    return [this](std::span<char> buffer) { return stream_ ? stream_->read(buffer) : file_->read(buffer); };
+  }
+
+ private:
+  std::unique_ptr<StreamReader> stream_;
+  std::unique_ptr<SequentialFile> file_;
+};
+
+}  // namespace
+
+ListImporter::ListImporter(ImportChoices choices, ImportControls controls, StopRequested stopRequested)
+    : choices_(std::move(choices)),
+      controls_(std::move(controls)),
+      stopRequested_(std::move(stopRequested)) {}
+
+QString ListImporter::nameOf(const QString& list) const {
+  return choices_.label.isEmpty() ? QFileInfo(list).completeBaseName() : choices_.label;
+}
+
+QString ListImporter::placeOf(const QString& list) const {
+  QString name = nameOf(list);
+  name.replace(u'/', u'_');
+  const QFileInfo place(choices_.output + u'/' + name + QStringLiteral(".txt"));
+  if (!place.exists()) return place.filePath();
+  const bool isTheList = place.canonicalFilePath() == QFileInfo(list).canonicalFilePath();
+  if (isTheList || !choices_.replaces) {
+    throw refusal(Texts::tr("%1 is there already; nothing was imported of %2").arg(place.filePath(), list));
+  }
+  return place.filePath();
+}
+
+ImportedList ListImporter::import(const QString& list, const LinesRead& linesRead) const {
+  ImportedList made{placeOf(list), {}};
+  ImportRequest request = choices_.request;
+  request.label = nameOf(list);
+  ListBytes bytes(list, stopRequested_);
+  removeLeftovers(QFileInfo(made.place).absolutePath());
+  FileAside file(made.place);
+  made.report =
+      importList(bytes.read(), request, QLocale(), made.place, file.writer(), [&](std::int64_t lines) {
+        linesRead(lines);
+        return !stopRequested_();
+      });
+  // A stream that was given up looks as if it had ended.
+  if (stopRequested_()) made.report.isStopped = true;
+  if (made.report.isStopped) return made;
+  if (!made.report.format) {
+    throw refusal(Texts::tr("%1 is no list of a known format; %2 says which of these it has: %3")
+                      .arg(list, controls_.format, listFormatNames()));
+  }
+  if (made.report.counts.files == 0 && made.report.counts.folders == 0) {
+    throw refusal(Texts::tr("%1 names no file and no folder; no listing was made").arg(list));
+  }
+  file.commit();
+  return made;
+}
+
+}  // namespace quorvin
