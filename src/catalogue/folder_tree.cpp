@@ -142,6 +142,11 @@ std::string_view FolderTree::name(std::uint32_t folder) const {
   return textOfName(names_[folders_[folder].name]);
 }
 
+std::string_view FolderTree::title(std::uint32_t folder) const {
+  const std::string_view own = name(folder);
+  return own.empty() ? std::string_view(volumes_[volumeOf(folder)].name) : own;
+}
+
 std::string FolderTree::path(std::uint32_t folder) const {
   std::vector<std::string_view> names;
   for (; parent(folder) != kNone; folder = parent(folder)) names.push_back(name(folder));

@@ -76,6 +76,8 @@ class FolderTree {
   std::uint32_t volumeOf(std::uint32_t folder) const { return folders_[folder].volume; }
   /// The last part of its path, as listed; empty for that of a volume itself.
   std::string_view name(std::uint32_t folder) const;
+  /// What people call it: a whole volume has the volume's name.
+  std::string_view title(std::uint32_t folder) const;
   /// Equal for folders whose names are the same in lower case.
   std::uint32_t nameInLowerCase(std::uint32_t folder) const { return names_[folders_[folder].name].lower; }
   /// As listed, with a backslash at its end unless it is empty.

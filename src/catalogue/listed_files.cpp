@@ -93,7 +93,8 @@ ListedFiles::ListedFiles(Options options)
   if (options_.words != nullptr) search_ = std::make_unique<SegmentSearch>(*options_.words);
 }
 
-void ListedFiles::startListing(SourceKind, const QString& path) {
+void ListedFiles::startListing(SourceKind kind, const QString& path) {
+  if (options_.listingStarts) options_.listingStarts(kind, path);
   endListing();
   listings_.push_back(path);
   firstSegments_.push_back(segments_.size());

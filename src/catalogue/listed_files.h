@@ -55,6 +55,8 @@ class ListedFiles : public HitSink {
     /// Gives what is kept of a listing, nothing where that is not known. With it, what has to be read whole,
     /// such as small listings, is let go at the end of its listing and opened again when it is needed.
     std::function<SegmentStore::Segments(const QString& listing)> segmentsOf = {};
+    /// Told of each listing when it starts.
+    std::function<void(SourceKind kind, const QString& path)> listingStarts = {};
   };
 
   /// Entries under one folder, up to the next block's.

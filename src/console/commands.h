@@ -2,6 +2,7 @@
 // and "history". Each gives the exit status of the program.
 #pragma once
 
+#include "catalogue/copy_finder.h"
 #include "console/copy_rows.h"
 #include "console/hit_rows.h"
 #include "search/hit_sort.h"
@@ -49,27 +50,14 @@ struct FindRequest {
 int runFind(const FindRequest& request);
 
 /// What the command line asked of "copies".
-struct CopiesRequest {
-  enum class SumBy { Nothing, Volume, Folder };
-
-  /// Only files that a search of this finds are meant; empty for all.
-  QString searchText;
-  /// As in FindRequest.
-  QString desiredMatch = QStringLiteral("50");
+struct CopiesRequest : CopyWish {
   CopyFormat format = CopyFormat::Text;
-  /// What is on one volume only, instead of what is there more than once.
-  bool singleOnly = false;
-  /// Sums take the place of files.
-  SumBy sumBy = SumBy::Nothing;
-  /// Files of no bytes as well.
-  bool withEmpty = false;
   bool hasHeader = false;
   bool endsWithNul = false;
   /// How many files, groups or sums are written at most; nothing for all.
   std::optional<std::int64_t> limit = {};
   /// Neither progress nor the last lines are written.
   bool isQuiet = false;
-  bool useCache = true;
   /// As in FindRequest.
   std::vector<QString> listings = {};
 };

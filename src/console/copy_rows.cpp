@@ -168,7 +168,7 @@ void CopyRows::addGroup(std::string& text, const Copies::Group& group,
 
 void CopyRows::addSet(std::string& text, const EqualFolders::Set& set, std::int64_t number) {
   const auto copies = static_cast<std::int64_t>(set.folders.size());
-  const std::string name = nameOf(set.folders.front());
+  const std::string_view name = tree_.title(set.folders.front());
   if (isText()) {
     std::string shown;
     addShown(shown, name);
@@ -192,7 +192,7 @@ void CopyRows::addSet(std::string& text, const EqualFolders::Set& set, std::int6
   for (const std::uint32_t folder : set.folders) {
     Row row(*this, text);
     row.add("group", number).add("kind", "folder").add("copies", copies).add("size", set.holds.bytes);
-    row.add("name", nameOf(folder)).addPlace(folder).end();
+    row.add("name", tree_.title(folder)).addPlace(folder).end();
   }
 }
 
@@ -260,13 +260,6 @@ void CopyRows::addFolderSum(std::string& text, std::uint32_t folder, const FileS
   }
   Row row(*this, text);
   row.add("files", sum.files).add("size", sum.bytes).addPlace(folder).end();
-}
-
-/// A whole volume has the volume's name.
-std::string CopyRows::nameOf(std::uint32_t folder) const {
-  const bool isVolume = tree_.parent(folder) == FolderTree::kNone;
-  if (isVolume || tree_.name(folder).empty()) return tree_.volumes()[tree_.volumeOf(folder)].name;
-  return std::string(tree_.name(folder));
 }
 
 std::string_view CopyRows::listingOf(std::uint32_t volume) const {

@@ -56,7 +56,6 @@ class CopyRows {
   void addJsonPlaces(std::string& text, const std::vector<std::uint32_t>& folders) const;
   void addPlaceLine(std::string& text, std::uint32_t folder);
   void addShown(std::string& text, std::string_view value) const { cells_.add(text, value); }
-  std::string nameOf(std::uint32_t folder) const;
   std::string_view listingOf(std::uint32_t volume) const;
   const std::string& labelOf(std::uint32_t volume);
   std::int64_t volumesOf(const std::vector<std::uint32_t>& folders) const;

@@ -1,0 +1,111 @@
+#include "catalogue/copy_finder.h"
+
+#include "platform/text_encoding.h"
+#include "search/match/search_query.h"
+#include "search/segment/segment_store.h"
+#include "texts/texts.h"
+
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+/// Names are read again after the search. Until then nothing has to stay in memory.
+SegmentStore::Options storeOptions() {
+  SegmentStore::Options options = SegmentStore::defaultOptions(SegmentUse::Repeated);
+  options.memoryBudget = 0;
+  return options;
+}
+
+}  // namespace
+
+CopyFinder::CopyFinder(const CopyWish& wish, Parts parts)
+    : wish_(wish), parts_(std::move(parts)), which_{wish.withEmpty} {
+  if (!wish_.searchText.isEmpty()) {
+    words_.emplace(simpleLowerCase(wish_.searchText), correctedMatch(wish_.desiredMatch));
+  }
+  ListedFiles::Options options{words_ ? &*words_ : nullptr};
+  options.listingStarts = parts_.listingStarts;
+  if (wish_.useCache) {
+    segments_.emplace(storeOptions());
+    options.segmentsOf = [this](const QString& listing) { return segmentsOf(listing); };
+  }
+  files_.emplace(std::move(options));
+  copies_.emplace(*files_);
+  equalFolders_.emplace(*copies_);
+  run_.emplace(runParts());
+}
+
+RunParts CopyFinder::runParts() {
+  RunParts parts{parts_.state, parts_.messages, parts_.locale};
+  parts.hits = &*files_;
+  parts.segments = segments_ ? &*segments_ : nullptr;
+  parts.display = parts_.display;
+  parts.endRequested = parts_.endRequested;
+  // They are counted by ourselves.
+  parts.tellsUnreadable = false;
+  parts.streamAt = parts_.streamAt;
+  return parts;
+}
+
+SegmentStore::Segments CopyFinder::segmentsOf(const QString& listing) {
+  const std::optional<SegmentKey> key = segmentKeyOf(listing, parts_.locale);
+  return key ? segments_->find(*key) : SegmentStore::Segments();
+}
+
+bool CopyFinder::find(const std::vector<QString>& listings) {
+  readListings(listings);
+  return !parts_.endRequested() && compare();
+}
+
+void CopyFinder::readListings(const std::vector<QString>& listings) {
+  const QString everything = QString::fromUtf16(ListedFiles::kEveryEntry);
+  const QString anyMatch = QStringLiteral("1");
+  if (listings.empty()) {
+    run_->Find_Click(everything, anyMatch);
+  } else {
+    run_->searchListings(everything, anyMatch, listings);
+  }
+}
+
+bool CopyFinder::isEnded() const {
+  parts_.comparing();
+  return parts_.endRequested();
+}
+
+bool CopyFinder::compare() {
+  const StopAsked stop = [this] { return isEnded(); };
+  if (!copies_->find(stop)) return false;
+  if (wish_.singleOnly) {
+    inFolders_ = singleFilesInFolders(*copies_, which_, stop);
+  } else if (wish_.sumBy != CopyWish::SumBy::Nothing) {
+    inFolders_ = copiesInFolders(*copies_, which_);
+  } else if (!equalFolders_->find(stop)) {
+    // Only the list of copies says which folders are equal.
+    return false;
+  }
+  return !parts_.endRequested();
+}
+
+QStringList CopyFinder::sumLines() const {
+  const auto number = [this](std::int64_t value) { return parts_.locale.toString(qlonglong{value}); };
+  const auto size = [this](std::int64_t bytes) {
+    return parts_.locale.formattedDataSize(bytes, 2, QLocale::DataSizeTraditionalFormat);
+  };
+  QStringList lines;
+  if (wish_.singleOnly) {
+    const FileSum single = sumOf(inFolders_);
+    lines += Texts::tr("Files on one volume only: %1, of %2 altogether")
+                 .arg(number(single.files), size(single.bytes));
+  } else {
+    const CopyTotals totals = copyTotals(*copies_, which_);
+    lines += Texts::tr("Files with copies: %1. Copies beyond the first: %2, of %3 altogether")
+                 .arg(number(totals.files), number(totals.beyondFirst.files), size(totals.beyondFirst.bytes));
+  }
+  if (files_->withoutSize() == 0) return lines;
+  lines += Texts::tr("Left out, since their exact size is not known: %1").arg(number(files_->withoutSize()));
+  return lines;
+}
+
+}  // namespace quorvin
