@@ -3578,6 +3578,128 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
         <translation>die Befehle sind find, copies, index, import, refresh, sources, history und cache</translation>
     </message>
+    <message>
+        <source>looking for copies</source>
+        <translation>Suchen nach Kopien</translation>
+    </message>
+    <message>
+        <source>&amp;Copies...</source>
+        <translation>&amp;Kopien...</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Kopien</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Wasted</source>
+        <translation>Verschwendet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (equal folders, %2 files)</source>
+        <translation>
+            <numerusform>%1 (gleiche Ordner, %2 Datei)</numerusform>
+            <numerusform>%1 (gleiche Ordner, %2 Dateien)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What wastes space</source>
+        <translation>Was Platz verschwendet</translation>
+    </message>
+    <message>
+        <source>What wastes space, by volume</source>
+        <translation>Was Platz verschwendet, nach Datenträgern</translation>
+    </message>
+    <message>
+        <source>What wastes space, by folder</source>
+        <translation>Was Platz verschwendet, nach Ordnern</translation>
+    </message>
+    <message>
+        <source>On one volume only</source>
+        <translation>Nur auf einem Datenträger</translation>
+    </message>
+    <message>
+        <source>On one volume only, by volume</source>
+        <translation>Nur auf einem Datenträger, nach Datenträgern</translation>
+    </message>
+    <message>
+        <source>On one volume only, by folder</source>
+        <translation>Nur auf einem Datenträger, nach Ordnern</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>S&amp;uchen</translation>
+    </message>
+    <message>
+        <source>&amp;Empty files, too</source>
+        <translation>Auch &amp;leere Dateien</translation>
+    </message>
+    <message>
+        <source>Files that have the same name and the same size to the byte, in all listings together. Nothing is deleted or changed.</source>
+        <translation>Dateien mit gleichem Namen und auf das Byte gleicher Größe, in allen Listen zusammen. Nichts wird gelöscht oder geändert.</translation>
+    </message>
+    <message>
+        <source>Words that limit what is shown</source>
+        <translation>Wörter, die beschränken, was angezeigt wird</translation>
+    </message>
+    <message>
+        <source>What is shown</source>
+        <translation>Was angezeigt wird</translation>
+    </message>
+    <message>
+        <source>What can be shown</source>
+        <translation>Was angezeigt werden kann</translation>
+    </message>
+    <message>
+        <source>Only files with these words; empty for all</source>
+        <translation>Nur Dateien mit diesen Wörtern; leer für alle</translation>
+    </message>
+    <message>
+        <source>Only what a search for these words finds is shown. What has a copy is still looked up everywhere.</source>
+        <translation>Angezeigt wird nur, was eine Suche nach diesen Wörtern findet. Was eine Kopie hat, wird trotzdem überall nachgesehen.</translation>
+    </message>
+    <message>
+        <source>&amp;Words:</source>
+        <translation>&amp;Wörter:</translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation>&amp;Anzeigen:</translation>
+    </message>
+    <message>
+        <source>Stopped. Only all listings together tell what has copies.</source>
+        <translation>Angehalten. Nur alle Listen zusammen sagen, was Kopien hat.</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>Comparing names and sizes</source>
+        <translation>Namen und Größen werden verglichen</translation>
+    </message>
+    <message>
+        <source>Only the %1 largest of %2 rows are shown.</source>
+        <translation>Nur die %1 größten von %2 Zeilen werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>and one more message</source>
+        <translation>und eine weitere Meldung</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more messages</source>
+        <translation>
+            <numerusform>und %1 weitere Meldung</numerusform>
+            <numerusform>und %1 weitere Meldungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is not there now, or its listing does not say where.</source>
+        <translation>%1 ist jetzt nicht da, oder die Liste sagt nicht, wo.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -3578,6 +3578,128 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
         <translation>las órdenes son find, copies, index, import, refresh, sources, history y cache</translation>
     </message>
+    <message>
+        <source>looking for copies</source>
+        <translation>búsqueda de copias</translation>
+    </message>
+    <message>
+        <source>&amp;Copies...</source>
+        <translation>&amp;Copias...</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Wasted</source>
+        <translation>Desperdiciado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (equal folders, %2 files)</source>
+        <translation>
+            <numerusform>%1 (carpetas iguales, %2 archivo)</numerusform>
+            <numerusform>%1 (carpetas iguales, %2 archivos)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What wastes space</source>
+        <translation>Lo que desperdicia espacio</translation>
+    </message>
+    <message>
+        <source>What wastes space, by volume</source>
+        <translation>Lo que desperdicia espacio, por volumen</translation>
+    </message>
+    <message>
+        <source>What wastes space, by folder</source>
+        <translation>Lo que desperdicia espacio, por carpeta</translation>
+    </message>
+    <message>
+        <source>On one volume only</source>
+        <translation>En un solo volumen</translation>
+    </message>
+    <message>
+        <source>On one volume only, by volume</source>
+        <translation>En un solo volumen, por volumen</translation>
+    </message>
+    <message>
+        <source>On one volume only, by folder</source>
+        <translation>En un solo volumen, por carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Buscar</translation>
+    </message>
+    <message>
+        <source>&amp;Empty files, too</source>
+        <translation>También archivos &amp;vacíos</translation>
+    </message>
+    <message>
+        <source>Files that have the same name and the same size to the byte, in all listings together. Nothing is deleted or changed.</source>
+        <translation>Archivos con el mismo nombre y el mismo tamaño, byte por byte, en todas las listas juntas. No se borra ni se cambia nada.</translation>
+    </message>
+    <message>
+        <source>Words that limit what is shown</source>
+        <translation>Palabras que limitan lo que se muestra</translation>
+    </message>
+    <message>
+        <source>What is shown</source>
+        <translation>Lo que se muestra</translation>
+    </message>
+    <message>
+        <source>What can be shown</source>
+        <translation>Lo que se puede mostrar</translation>
+    </message>
+    <message>
+        <source>Only files with these words; empty for all</source>
+        <translation>Solo archivos con estas palabras; vacío para todos</translation>
+    </message>
+    <message>
+        <source>Only what a search for these words finds is shown. What has a copy is still looked up everywhere.</source>
+        <translation>Solo se muestra lo que encuentra una búsqueda de estas palabras. Las copias se buscan igualmente en todas partes.</translation>
+    </message>
+    <message>
+        <source>&amp;Words:</source>
+        <translation>&amp;Palabras:</translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation>&amp;Mostrar:</translation>
+    </message>
+    <message>
+        <source>Stopped. Only all listings together tell what has copies.</source>
+        <translation>Detenido. Solo todas las listas juntas dicen qué tiene copias.</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>Comparing names and sizes</source>
+        <translation>Comparando nombres y tamaños</translation>
+    </message>
+    <message>
+        <source>Only the %1 largest of %2 rows are shown.</source>
+        <translation>Solo se muestran las %1 filas mayores de %2.</translation>
+    </message>
+    <message>
+        <source>and one more message</source>
+        <translation>y un mensaje más</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more messages</source>
+        <translation>
+            <numerusform>y %1 mensaje más</numerusform>
+            <numerusform>y %1 mensajes más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is not there now, or its listing does not say where.</source>
+        <translation>%1 no está ahora, o su lista no dice dónde.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -3578,6 +3578,128 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
         <translation>les commandes sont find, copies, index, import, refresh, sources, history et cache</translation>
     </message>
+    <message>
+        <source>looking for copies</source>
+        <translation>recherche de copies</translation>
+    </message>
+    <message>
+        <source>&amp;Copies...</source>
+        <translation>&amp;Copies...</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Wasted</source>
+        <translation>Gaspillé</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (equal folders, %2 files)</source>
+        <translation>
+            <numerusform>%1 (dossiers identiques, %2 fichier)</numerusform>
+            <numerusform>%1 (dossiers identiques, %2 fichiers)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What wastes space</source>
+        <translation>Ce qui gaspille de la place</translation>
+    </message>
+    <message>
+        <source>What wastes space, by volume</source>
+        <translation>Ce qui gaspille de la place, par volume</translation>
+    </message>
+    <message>
+        <source>What wastes space, by folder</source>
+        <translation>Ce qui gaspille de la place, par dossier</translation>
+    </message>
+    <message>
+        <source>On one volume only</source>
+        <translation>Sur un seul volume</translation>
+    </message>
+    <message>
+        <source>On one volume only, by volume</source>
+        <translation>Sur un seul volume, par volume</translation>
+    </message>
+    <message>
+        <source>On one volume only, by folder</source>
+        <translation>Sur un seul volume, par dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Chercher</translation>
+    </message>
+    <message>
+        <source>&amp;Empty files, too</source>
+        <translation>Fichiers &amp;vides aussi</translation>
+    </message>
+    <message>
+        <source>Files that have the same name and the same size to the byte, in all listings together. Nothing is deleted or changed.</source>
+        <translation>Fichiers de même nom et de même taille à l’octet près, dans toutes les listes ensemble. Rien n’est supprimé ni modifié.</translation>
+    </message>
+    <message>
+        <source>Words that limit what is shown</source>
+        <translation>Mots qui limitent ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>What is shown</source>
+        <translation>Ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>What can be shown</source>
+        <translation>Ce qui peut être affiché</translation>
+    </message>
+    <message>
+        <source>Only files with these words; empty for all</source>
+        <translation>Seulement les fichiers avec ces mots&#xa0;; vide pour tous</translation>
+    </message>
+    <message>
+        <source>Only what a search for these words finds is shown. What has a copy is still looked up everywhere.</source>
+        <translation>N’est affiché que ce que trouve une recherche de ces mots. Les copies sont tout de même cherchées partout.</translation>
+    </message>
+    <message>
+        <source>&amp;Words:</source>
+        <translation>&amp;Mots&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation>&amp;Afficher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Stopped. Only all listings together tell what has copies.</source>
+        <translation>Arrêté. Seules toutes les listes ensemble disent ce qui a des copies.</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>A&amp;rrêter</translation>
+    </message>
+    <message>
+        <source>Comparing names and sizes</source>
+        <translation>Comparaison des noms et des tailles</translation>
+    </message>
+    <message>
+        <source>Only the %1 largest of %2 rows are shown.</source>
+        <translation>Seules les %1 plus grandes lignes sur %2 sont affichées.</translation>
+    </message>
+    <message>
+        <source>and one more message</source>
+        <translation>et un message de plus</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %1 more messages</source>
+        <translation>
+            <numerusform>et %1 message de plus</numerusform>
+            <numerusform>et %1 messages de plus</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is not there now, or its listing does not say where.</source>
+        <translation>%1 n’est pas là en ce moment, ou sa liste ne dit pas où.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

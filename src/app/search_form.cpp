@@ -75,8 +75,9 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       search_(
           {state, runMessages_, hits_, segments, display_, status_, controls_, menus_, jobs_.work(), locale}),
       windows_(state, messages, menus_,
-               {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_)}, *this,
-               locale, picker),
+               {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_),
+                [this](const HitRow& file) { return hitActions_.showInFolder(file); }},
+               *this, locale, picker),
       export_(
           {state, runMessages_, jobs_.work(), windows_.picker(), hits_, *controls_.HitList, status_, locale}),
       frame_(*this, controls_, display_, jobs_, windows_) {
@@ -148,6 +149,7 @@ void SearchForm::connectMenus() {
   handle(menus_.ReScan, Texts::tr("refreshing the local lists"), [this] { jobs_.startRefresh(); });
   handle(menus_.ListingHistory, Texts::tr("showing the listing history"),
          [this] { windows_.ListingHistory_Click(); });
+  handle(menus_.Copies, Texts::tr("looking for copies"), [this] { windows_.Copies_Click(); });
   handle(menus_.ExportHits, Texts::tr("exporting hits"), [this] { export_.ExportHits_Click(); });
   handle(hitActions_.itemMenu().ExportSelected, Texts::tr("exporting hits"),
          [this] { export_.ExportSelected_Click(); });
@@ -391,6 +393,7 @@ void SearchFormFrame::unloadOtherWindows() {
   windows_.unloadPreview();
   windows_.unloadBrowser();
   windows_.unloadHistory();
+  windows_.unloadCopies();
   jobs_.unload();
 }
 

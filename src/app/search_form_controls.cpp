@@ -148,6 +148,7 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
   made.ReScan = addItem(made.FileMenu, QStringLiteral("ReScan"), Texts::tr("Rescan Local Search Folders"));
   made.ListingHistory =
       addItem(made.FileMenu, QStringLiteral("ListingHistory"), Texts::tr("Listing &History..."));
+  made.Copies = addItem(made.FileMenu, QStringLiteral("Copies"), Texts::tr("&Copies..."));
   made.ExportHits = addItem(made.FileMenu, QStringLiteral("ExportHits"), Texts::tr("&Export Hits..."));
   made.OptionsMenu = addItem(made.FileMenu, QStringLiteral("OptionsMenu"), Texts::tr("&Options"));
   made.MenuQuit = addItem(made.FileMenu, QStringLiteral("MenuQuit"), Texts::tr("&Quit"));

@@ -53,6 +53,7 @@ struct SearchFormMenus {
   QAction* EditOffline;
   QAction* ReScan;
   QAction* ListingHistory;
+  QAction* Copies;
   QAction* ExportHits;
   QAction* OptionsMenu;
   QAction* MenuQuit;

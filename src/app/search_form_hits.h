@@ -64,6 +64,9 @@ class SearchFormHits : public QObject {
   /// What says which words of the search a hit holds; see KnownHit.
   void setExplanation(std::function<QString(const HitRow&)> explain) { explain_ = std::move(explain); }
 
+  /// Shows a file in its folder, as HitActions::openFolder() does; false where it is not found.
+  bool showInFolder(const HitRow& file) const { return actions_.openFolder(file) != LaunchOutcome::NotFound; }
+
   const ItemMenu& itemMenu() const { return menu_; }
 
   bool eventFilter(QObject* watched, QEvent* event) override;

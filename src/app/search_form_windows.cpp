@@ -54,6 +54,7 @@ SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages
                      std::move(requests.refreshLocalLists)},
       optionsEditing_{state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)},
       restoreListing_(std::move(requests.restoreListing)),
+      showFile_(std::move(requests.showFile)),
       locale_(locale),
       preview_(&owner, usualMetafileChild(), previewReport(messages)) {
   sourceEditing_.lookers = &lookers_.pool();
@@ -104,6 +105,12 @@ void SearchFormWindows::ListingHistory_Click() {
   window.exec();
 }
 
+void SearchFormWindows::Copies_Click() {
+  CopiesWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_}, &owner_);
+  copies_ = &window;
+  window.exec();
+}
+
 void SearchFormWindows::AboutMenu_Click() {
   frmSplash splash(productFacts(), &owner_);
   splash_ = &splash;
@@ -137,6 +144,10 @@ void SearchFormWindows::unloadSources() {
 
 void SearchFormWindows::unloadHistory() {
   if (history_) history_->reject();
+}
+
+void SearchFormWindows::unloadCopies() {
+  if (copies_) copies_->reject();
 }
 
 void SearchFormWindows::unloadBrowser() {

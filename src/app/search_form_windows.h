@@ -3,6 +3,7 @@
 
 #include "app/search_form_controls.h"
 #include "app/search_form_help.h"
+#include "catalogue/copies_window.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
 #include "files/drive_threads.h"
@@ -30,6 +31,8 @@ struct WindowRequests {
   /// What the source editor runs when the user wants a rescan (see SourceEditing).
   std::function<void()> refreshLocalLists;
   HistoryWindow::Restore restoreListing;
+  /// Shows a file in its folder; see CopiesWindowParts.
+  std::function<bool(const HitRow& file)> showFile;
 };
 
 /// Opens the editors, the options, the about window and the help browser, each above the main window, and
@@ -51,6 +54,8 @@ class SearchFormWindows {
   void EditOffline_Click();
   /// Shows the earlier versions of the listings.
   void ListingHistory_Click();
+  /// Shows which files are there more than once, and which on one volume only.
+  void Copies_Click();
   void OptionsMenu_Click();
   void AboutMenu_Click();
   void HlpGen_Click();
@@ -73,6 +78,7 @@ class SearchFormWindows {
   void unloadPreview() { preview_.unload(); }
   void unloadBrowser();
   void unloadHistory();
+  void unloadCopies();
 
  private:
   void showSources(LocalLoc& dialog);
@@ -85,11 +91,13 @@ class SearchFormWindows {
   SourceEditing sourceEditing_;
   OptionsEditing optionsEditing_;
   HistoryWindow::Restore restoreListing_;
+  std::function<bool(const HitRow& file)> showFile_;
   QLocale locale_;
   QString LocMode_;
   QPointer<LocalLoc> sources_;
   QPointer<ListOptions> options_;
   QPointer<HistoryWindow> history_;
+  QPointer<CopiesWindow> copies_;
   QPointer<frmSplash> splash_;
   ImagePreview preview_;
   NetworkPageTransfer transfer_;

@@ -6,6 +6,8 @@
 #include "state/settings.h"
 #include "texts/texts.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -110,7 +112,15 @@ LaunchOutcome HitActions::launch(const HitRow& hit) const {
 }
 
 LaunchOutcome HitActions::openFolder(const HitRow& hit) const {
+  if (hit.name.isEmpty()) return openFolderItself(hit);
   return act(hit, [this](const HitPath& path) { shell_.openFolder(path.folder, path.name); });
+}
+
+LaunchOutcome HitActions::openFolderItself(const HitRow& hit) const {
+  const QString folder = expectedPath(hit);
+  if (folder.isEmpty() || !QFileInfo(folder).isDir()) return LaunchOutcome::NotFound;
+  shell_.openFolder(folder, QString());
+  return LaunchOutcome::Opened;
 }
 
 void HitActions::enqueue(const HitRow& hit) const {

@@ -60,7 +60,7 @@ class HitActions {
 
   /// Opens the file.
   LaunchOutcome launch(const HitRow& hit) const;
-  /// Shows the folder of the file.
+  /// Shows the folder of the file; without a name, the folder itself.
   LaunchOutcome openFolder(const HitRow& hit) const;
   /// Appends the file to the queue of an audio player.
   void enqueue(const HitRow& hit) const;
@@ -68,6 +68,7 @@ class HitActions {
  private:
   template <typename Action>
   LaunchOutcome act(const HitRow& hit, Action&& action) const;
+  LaunchOutcome openFolderItself(const HitRow& hit) const;
   HitPath find(const HitRow& hit, const FileLookUp& lookUp, HitPath& asFarAsKnown) const;
   void tellFault(const RuntimeFault& fault, const HitPath& path) const;
   void enqueueFile(const HitPath& path) const;

@@ -48,6 +48,7 @@ TEST_F(AccessibleMainWindow, SearchForm) {
                      "MenuItem EditOffline: Add/Edit Offline List files (hidden)\n"
                      "MenuItem ReScan: Rescan Local Search Folders (hidden)\n"
                      "MenuItem ListingHistory: Listing History... (hidden)\n"
+                     "MenuItem Copies: Copies... (hidden)\n"
                      "MenuItem ExportHits: Export Hits... (hidden)\n"
                      "MenuItem OptionsMenu: Options (hidden)\n"
                      "MenuItem MenuQuit: Quit (hidden)\n"

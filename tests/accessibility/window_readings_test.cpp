@@ -118,6 +118,30 @@ TEST_F(AccessibleWindows, LocalLocForOfflineLists) {
                                         "StaticText Label2: Path to List file"));
 }
 
+TEST_F(AccessibleWindows, Copies) {
+  expectReadingsOfDialog(
+      [this] { form().menus().Copies->trigger(); }, QStringLiteral("CopiesWindow"), QStringLiteral("Copies"),
+      QStringLiteral("StaticText : Words:\n"
+                     "EditableText Words: Words that limit what is shown\n"
+                     "StaticText : Show:\n"
+                     "ComboBox What: Show:\n"
+                     "List : What can be shown (hidden)\n"
+                     "ListItem : What wastes space\n"
+                     "ListItem : What wastes space, by volume\n"
+                     "ListItem : What wastes space, by folder\n"
+                     "ListItem : On one volume only\n"
+                     "ListItem : On one volume only, by volume\n"
+                     "ListItem : On one volume only, by folder\n"
+                     "StaticText : Match %:\n"
+                     "EditableText Match: Desired match in percent\n"
+                     "CheckBox Empty: Empty files, too\n"
+                     "Tree Rows: Copies\n"
+                     "StaticText Status: Files that have the same name and the same size to the byte, in all "
+                     "listings together. Nothing is deleted or changed.\n"
+                     "Button Find: Find\n"
+                     "Button close: Close"));
+}
+
 TEST_F(AccessibleWindows, ListingHistory) {
   ListingHistory history(folder_.path());
   folder_.writeFile(QStringLiteral("disk.txt"), listingOf("DISK", 2, "tune"));

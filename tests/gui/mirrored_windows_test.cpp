@@ -1,5 +1,6 @@
 // The windows where people write from right to left.
 #include "app/main_application.h"
+#include "catalogue/copies_window.h"
 #include "editors/dialog_driving.h"
 #include "editors/local_loc.h"
 #include "editors/recording_file_picker.h"
@@ -67,6 +68,22 @@ TEST_F(MirroredWindows, SizesOfEarlierVersionsStayInFrontOfTheirUnits) {
   ASSERT_EQ(versions->topLevelItemCount(), 1);
   const QString size = versions->topLevelItem(0)->text(2);
   EXPECT_TRUE(size.startsWith(QChar(u'\u2066')) && size.endsWith(QChar(u'\u2069'))) << size.toStdString();
+}
+
+TEST_F(MirroredWindows, SizesOfCopiesStayInFrontOfTheirUnits) {
+  addOfflineSource(QStringLiteral("cd1.txt"), listingOf("CD 1", 2, "song"));
+  addOfflineSource(QStringLiteral("cd2.txt"), listingOf("CD 2", 2, "song"));
+  form();
+  EXPECT_TRUE(duringModal<CopiesWindow>(
+      [this] { form().menus().Copies->trigger(); },
+      [](CopiesWindow& window) {
+        const auto* rows = window.findChild<QTreeView*>(QStringLiteral("Rows"));
+        click(window.findChild<QPushButton*>(QStringLiteral("Find")));
+        ASSERT_EVENTUALLY(rows->model()->rowCount() == 1);
+        const QString size = rows->model()->index(0, 2).data().toString();
+        EXPECT_TRUE(size.startsWith(QChar(u'\u2066')) && size.endsWith(QChar(u'\u2069')))
+            << size.toStdString();
+      }));
 }
 
 /// A picture of the editor's list with this path in its only row.

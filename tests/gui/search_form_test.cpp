@@ -125,6 +125,7 @@ TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
                                                  "EditOffline=Add/Edit Offline List files\n"
                                                  "ReScan=Rescan Local Search Folders\n"
                                                  "ListingHistory=Listing &History...\n"
+                                                 "Copies=&Copies...\n"
                                                  "ExportHits=&Export Hits...\n"
                                                  "OptionsMenu=&Options\n"
                                                  "MenuQuit=&Quit\n"

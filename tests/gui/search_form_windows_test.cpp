@@ -62,6 +62,7 @@ class OpenedWindows : public testing::Test {
                                 log_.append(QStringLiteral("refresh"));
                                 if (duringRefresh_) duringRefresh_();
                               },
+                              {},
                               {}},
                              main_,
                              QLocale(QLocale::English, QLocale::UnitedStates),

@@ -2,6 +2,7 @@
 // language: it fits the screen, nothing of it is outside, no caption is cut, and each letter of a caption
 // leads to one control.
 #include "app/main_application.h"
+#include "catalogue/copies_window.h"
 #include "editors/dialog_driving.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
@@ -300,6 +301,23 @@ TEST_P(WindowsFit, TheHistoryDoes) {
     const QModelIndex cell = versions->model()->index(0, column);
     EXPECT_GE(versions->columnWidth(column), versions->sizeHintForIndex(cell).width()) << column;
   }
+}
+
+TEST_P(WindowsFit, CopiesDoWithAndWithoutResults) {
+  addOfflineSource(QStringLiteral("disk.txt"), listingOf("DISK", 30, "song"));
+  addMissingOnlineSource(QStringLiteral("A drive that is in a drawer"));
+  form();
+  EXPECT_TRUE(duringModal<CopiesWindow>([this] { form().menus().Copies->trigger(); },
+                                        [](CopiesWindow& window) {
+                                          QTest::qWait(0);
+                                          expectFits(window);
+                                          auto* rows = window.findChild<QTreeView*>(QStringLiteral("Rows"));
+                                          click(window.findChild<QPushButton*>(QStringLiteral("Find")));
+                                          expectFits(window);
+                                          EXPECT_EVENTUALLY(rows->model()->rowCount() > 0);
+                                          QTest::qWait(0);
+                                          expectFits(window);
+                                        }));
 }
 
 TEST_P(WindowsFit, TheDialogsForFilesDo) {

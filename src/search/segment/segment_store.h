@@ -21,8 +21,8 @@ namespace quorvin {
 /// path is made absolute.
 std::optional<SegmentKey> segmentKeyOf(const QString& listing, const QLocale& locale);
 
-/// Keeps segments. User-interface thread only. A store that fails to keep something is no fault: the listing
-/// is read again the next time.
+/// Keeps segments. All calls come from one thread, which may be any. A store that fails to keep something is
+/// no fault: the listing is read again the next time.
 class SegmentStore {
  public:
   using Segments = std::vector<std::shared_ptr<const Segment>>;

@@ -1,0 +1,186 @@
+#include "catalogue/copies_job.h"
+
+#include "faults/runtime_fault.h"
+#include "platform/text_encoding.h"
+#include "texts/texts.h"
+
+#include <QMutexLocker>
+#include <QScopeGuard>
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+/// What is said of more listings than that is not kept.
+constexpr qsizetype kMostMessages = 100;
+
+bool isLarger(const CopiesJob::Row& row, const CopiesJob::Row& other) {
+  return row.size > other.size;
+}
+
+}  // namespace
+
+/// Keeps what is said. Nobody is asked anything while listings are read.
+class CopiesJob::Messages : public MessageBoxes {
+ public:
+  const QStringList& texts() const { return texts_; }
+
+  void inform(const QString& text) override {
+    if (texts_.size() < kMostMessages) texts_ += text;
+  }
+  bool askYesNo(const QString&) override { return false; }
+  FaultAnswer askAbortRetryIgnore(const QString&) override { return FaultAnswer::Abort; }
+
+ private:
+  QStringList texts_;
+};
+
+/// Notes how far the run has come.
+class CopiesJob::Display : public RunDisplay {
+ public:
+  explicit Display(std::atomic<std::int64_t>& searched) : searched_(searched) {}
+
+  void setDesMatch(const QString&) override {}
+  void runStarted(const SearchQuery&) override {}
+  void runEnded() override {}
+  void showFound(std::int64_t) override {}
+  void showSearched(std::int64_t count) override { searched_ = count; }
+  void clearHits() override {}
+  void hitsArrived() override {}
+  void processEvents() override {}
+
+ private:
+  std::atomic<std::int64_t>& searched_;
+};
+
+ProgramState sourcesOf(const ProgramState& state) {
+  ProgramState sources;
+  sources.LocalFolder = state.LocalFolder;
+  sources.TextFile = state.TextFile;
+  sources.OnlineSources = state.OnlineSources;
+  sources.OnlineSourceCount = state.OnlineSourceCount;
+  sources.OfflineSources = state.OfflineSources;
+  sources.OfflineSourceCount = state.OfflineSourceCount;
+  return sources;
+}
+
+CopiesJob::CopiesJob(ProgramState sources, CopyWish wish, QLocale locale, std::size_t mostRows)
+    : sources_(std::move(sources)),
+      wish_(std::move(wish)),
+      locale_(std::move(locale)),
+      mostRows_(mostRows),
+      messages_(std::make_unique<Messages>()),
+      display_(std::make_unique<Display>(searched_)) {}
+
+CopiesJob::~CopiesJob() = default;
+
+const QStringList& CopiesJob::messages() const {
+  return messages_->texts();
+}
+
+CopiesJob::Progress CopiesJob::progress() const {
+  const QMutexLocker lock(&mutex_);
+  return {listing_, searched_, isComparing_};
+}
+
+CopyFinder::Parts CopiesJob::parts() {
+  CopyFinder::Parts parts{sources_, *messages_, locale_};
+  parts.display = display_.get();
+  parts.endRequested = [this] { return isStopped(); };
+  parts.comparing = [this] { isComparing_ = true; };
+  parts.listingStarts = [this](SourceKind kind, const QString& path) { listingStarts(kind, path); };
+  return parts;
+}
+
+void CopiesJob::listingStarts(SourceKind kind, const QString& path) {
+  kinds_.push_back(kind);
+  const QMutexLocker lock(&mutex_);
+  listing_ = path;
+}
+
+void CopiesJob::run() {
+  const auto ending = qScopeGuard([this] { hasEnded_ = true; });
+  try {
+    finder_ = std::make_unique<CopyFinder>(wish_, parts());
+    if (!finder_->find()) return;
+    makeRows();
+    sumLines_ = finder_->sumLines();
+    isComplete_ = !isStopped();
+  } catch (const RuntimeFault& fault) {
+    fault_ = fault.text();
+  } catch (const std::bad_alloc&) {
+    fault_ = Texts::tr("Run-time error: Out of memory");
+  }
+}
+
+void CopiesJob::makeRows() {
+  if (wish_.sumBy == CopyWish::SumBy::Volume) {
+    addVolumes();
+  } else if (wish_.sumBy == CopyWish::SumBy::Folder) {
+    addFolders();
+  } else if (wish_.singleOnly) {
+    addSingleFiles();
+  } else {
+    addCopies();
+  }
+}
+
+void CopiesJob::addCopies() {
+  const std::vector<CopyLine> lines = finder_->lines();
+  rowsAltogether_ = static_cast<std::int64_t>(lines.size());
+  rows_.reserve(std::min(lines.size(), mostRows_));
+  for (const CopyLine& line : lines) {
+    if (rows_.size() == mostRows_) return;
+    if (line.isFolders) {
+      const EqualFolders::Set& set = finder_->equalFolders().sets()[line.number];
+      rows_.push_back({RowKind::FolderSet, line.number, static_cast<std::int64_t>(set.folders.size()),
+                       set.holds.bytes, line.bytesBeyondFirst});
+    } else {
+      const Copies::Group& group = finder_->copies().groups()[line.number];
+      rows_.push_back({RowKind::Group, line.number, group.copies, group.size, line.bytesBeyondFirst});
+    }
+  }
+}
+
+/// The largest ones, those listed first before others of the same size.
+void CopiesJob::addSingleFiles() {
+  const auto keepLargest = [this] {
+    std::ranges::stable_sort(rows_, isLarger);
+    if (rows_.size() > mostRows_)
+      rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(mostRows_), rows_.end());
+  };
+  finder_->visitSingle(
+      [&](ListedFiles::Visited& file) {
+        ++rowsAltogether_;
+        rows_.push_back({RowKind::SingleFile, file.folder, 1, file.size, 0, textOfUtf8(file.name().listed)});
+        if (rows_.size() >= 2 * mostRows_) keepLargest();
+      },
+      [this] { return isStopped(); });
+  keepLargest();
+}
+
+void CopiesJob::addVolumes() {
+  const std::vector<FileSum> sums = sumsOfVolumes(finder_->folders(), finder_->inFolders());
+  const std::vector<std::uint32_t> volumes = largestFirst(sums);
+  rowsAltogether_ = static_cast<std::int64_t>(volumes.size());
+  for (const std::uint32_t volume : volumes) {
+    if (rows_.size() == mostRows_) return;
+    rows_.push_back({RowKind::VolumeSum, volume, sums[volume].files, sums[volume].bytes});
+  }
+}
+
+void CopiesJob::addFolders() {
+  const std::vector<FileSum>& sums = finder_->inFolders();
+  const std::vector<std::uint32_t> folders = largestFirst(sums);
+  rowsAltogether_ = static_cast<std::int64_t>(folders.size());
+  for (const std::uint32_t folder : folders) {
+    if (rows_.size() == mostRows_) return;
+    rows_.push_back({RowKind::FolderSum, folder, sums[folder].files, sums[folder].bytes});
+  }
+}
+
+}  // namespace quorvin

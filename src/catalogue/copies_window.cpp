@@ -1,0 +1,344 @@
+#include "catalogue/copies_window.h"
+
+#include "platform/screen_room.h"
+#include "platform/text_direction.h"
+#include "search/match/search_query.h"
+#include "texts/texts.h"
+
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace quorvin {
+
+namespace {
+
+using SumBy = CopyWish::SumBy;
+
+constexpr int kWidthInCharacters = 130;
+constexpr int kHeightInLines = 30;
+constexpr int kMatchCharacters = 5;
+constexpr int kWidestColumnCharacters = 40;
+constexpr int kLeastListLines = 3;
+/// Often enough for the eye.
+constexpr std::chrono::milliseconds kBetweenLooks{50};
+
+/// What can be shown, in the order of the box.
+struct Choice {
+  const char* caption;
+  bool singleOnly;
+  SumBy sumBy;
+};
+constexpr Choice kChoices[] = {
+    {QT_TRANSLATE_NOOP("Texts", "What wastes space"), false, SumBy::Nothing},
+    {QT_TRANSLATE_NOOP("Texts", "What wastes space, by volume"), false, SumBy::Volume},
+    {QT_TRANSLATE_NOOP("Texts", "What wastes space, by folder"), false, SumBy::Folder},
+    {QT_TRANSLATE_NOOP("Texts", "On one volume only"), true, SumBy::Nothing},
+    {QT_TRANSLATE_NOOP("Texts", "On one volume only, by volume"), true, SumBy::Volume},
+    {QT_TRANSLATE_NOOP("Texts", "On one volume only, by folder"), true, SumBy::Folder},
+};
+
+QString findCaption() {
+  return Texts::tr("&Find");
+}
+
+QString stopCaption() {
+  return Texts::tr("S&top");
+}
+
+/// As wide as its other caption needs, so that nothing moves when it changes.
+QPushButton* makeFind() {
+  auto* find = new QPushButton(stopCaption());
+  find->setMinimumWidth(find->sizeHint().width());
+  find->setText(findCaption());
+  return find;
+}
+
+QTreeView* makeList(QAbstractItemModel* rows) {
+  auto* list = new QTreeView;
+  list->setModel(rows);
+  list->setUniformRowHeights(true);
+  list->setAllColumnsShowFocus(true);
+  list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  list->setTabKeyNavigation(false);
+  list->setMinimumHeight(list->fontMetrics().lineSpacing() * kLeastListLines);
+  list->header()->setSectionsMovable(false);
+  list->header()->setSortIndicatorClearable(true);
+  list->header()->setSortIndicator(-1, Qt::AscendingOrder);
+  list->setSortingEnabled(true);
+  return list;
+}
+
+QLabel* captionOf(QWidget* control, const QString& text) {
+  auto* caption = new QLabel(text);
+  caption->setBuddy(control);
+  return caption;
+}
+
+bool isPlace(const QModelIndex& index) {
+  return !index.model()->hasChildren(index.siblingAtColumn(0));
+}
+
+}  // namespace
+
+CopiesWindow::CopiesWindow(CopiesWindowParts parts, QWidget* owner)
+    : QDialog(owner),
+      parts_(std::move(parts)),
+      rows_(parts_.locale),
+      words_(new QLineEdit),
+      what_(new QComboBox),
+      match_(new QLineEdit(CopyWish().desiredMatch)),
+      empty_(new QCheckBox(Texts::tr("&Empty files, too"))),
+      find_(makeFind()),
+      close_(new QPushButton(Texts::tr("&Close"))),
+      list_(makeList(&rows_)),
+      status_(new QLabel) {
+  setObjectName(QStringLiteral("CopiesWindow"));
+  setWindowTitle(Texts::tr("Copies"));
+  for (const Choice& choice : kChoices) what_->addItem(Texts::tr(choice.caption));
+  nameControls();
+  layOut();
+  connectControls();
+  status_->setText(
+      Texts::tr("Files that have the same name and the same size to the byte, in all listings together. "
+                "Nothing is deleted or changed."));
+  words_->setFocus();
+}
+
+CopiesWindow::~CopiesWindow() {
+  letGo();
+}
+
+void CopiesWindow::nameControls() {
+  const auto name = [](QWidget* control, const char* objectName, const QString& accessibleName) {
+    control->setObjectName(QString::fromLatin1(objectName));
+    control->setAccessibleName(accessibleName);
+  };
+  name(words_, "Words", Texts::tr("Words that limit what is shown"));
+  name(what_, "What", Texts::tr("What is shown"));
+  name(match_, "Match", Texts::tr("Desired match in percent"));
+  name(list_, "Rows", Texts::tr("Copies"));
+  empty_->setObjectName(QStringLiteral("Empty"));
+  find_->setObjectName(QStringLiteral("Find"));
+  close_->setObjectName(QStringLiteral("close"));
+  status_->setObjectName(QStringLiteral("Status"));
+  what_->view()->setAccessibleName(Texts::tr("What can be shown"));
+  words_->setPlaceholderText(Texts::tr("Only files with these words; empty for all"));
+  words_->setAccessibleDescription(Texts::tr(
+      "Only what a search for these words finds is shown. What has a copy is still looked up everywhere."));
+  match_->setAccessibleDescription(
+      Texts::tr("Entries that contain more than this share of the words are shown"));
+  match_->setToolTip(match_->accessibleDescription());
+}
+
+void CopiesWindow::layOut() {
+  status_->setTextFormat(Qt::PlainText);
+  status_->setWordWrap(true);
+  what_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  match_->setMaximumWidth(fontMetrics().averageCharWidth() * kMatchCharacters * 2);
+  close_->setAutoDefault(false);
+
+  auto* fields = new QGridLayout;
+  fields->addWidget(captionOf(words_, Texts::tr("&Words:")), 0, 0);
+  fields->addWidget(words_, 0, 1, 1, 3);
+  fields->addWidget(captionOf(what_, Texts::tr("&Show:")), 1, 0);
+  fields->addWidget(what_, 1, 1, 1, 3);
+  fields->addWidget(captionOf(match_, Texts::tr("&Match %:")), 2, 0);
+  fields->addWidget(match_, 2, 1);
+  fields->addWidget(empty_, 2, 2);
+  fields->setColumnStretch(3, 1);
+
+  auto* buttons = new QDialogButtonBox;
+  buttons->addButton(find_, QDialogButtonBox::ActionRole);
+  buttons->addButton(close_, QDialogButtonBox::RejectRole);
+  auto* all = new QVBoxLayout(this);
+  all->addLayout(fields);
+  all->addWidget(list_, 1);
+  all->addWidget(status_);
+  all->addWidget(buttons);
+  // Only now does the window know it, and makes it the default again when another button loses the focus.
+  find_->setDefault(true);
+  const QSize wanted(fontMetrics().averageCharWidth() * kWidthInCharacters,
+                     fontMetrics().lineSpacing() * kHeightInLines);
+  resize(wanted.boundedTo(largestInside(*screen())));
+}
+
+void CopiesWindow::connectControls() {
+  connect(find_, &QPushButton::clicked, this, &CopiesWindow::Find_Click);
+  connect(close_, &QPushButton::clicked, this, &CopiesWindow::reject);
+  connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+    // A group unfolds by itself.
+    if (isPlace(index)) open(index);
+  });
+  connect(&watch_, &QTimer::timeout, this, &CopiesWindow::look);
+  list_->installEventFilter(this);
+}
+
+void CopiesWindow::Find_Click() {
+  if (!job_) {
+    start();
+    return;
+  }
+  letGo();
+  status_->setText(Texts::tr("Stopped. Only all listings together tell what has copies."));
+}
+
+CopyWish CopiesWindow::wish() {
+  const Choice& choice = kChoices[what_->currentIndex()];
+  match_->setText(QString::number(correctedMatch(match_->text())));
+  CopyWish wish;
+  wish.searchText = words_->text();
+  wish.desiredMatch = match_->text();
+  wish.singleOnly = choice.singleOnly;
+  wish.sumBy = choice.sumBy;
+  wish.withEmpty = empty_->isChecked();
+  return wish;
+}
+
+void CopiesWindow::start() {
+  rows_.show(nullptr);
+  if (!parts_.state.hasSources()) {
+    status_->setText(Texts::tr("There is nothing to search yet."));
+    return;
+  }
+  job_ = std::make_shared<CopiesJob>(sourcesOf(parts_.state), wish(), parts_.locale, parts_.mostRows);
+  parts_.threads.start([job = job_] { job->run(); });
+  find_->setText(stopCaption());
+  showProgress();
+  watch_.start(kBetweenLooks);
+}
+
+/// The thread keeps the job until it has come to look.
+void CopiesWindow::letGo() {
+  watch_.stop();
+  if (job_) job_->stop();
+  job_.reset();
+  find_->setText(findCaption());
+}
+
+void CopiesWindow::look() {
+  if (job_->hasEnded()) {
+    showResult();
+  } else {
+    showProgress();
+  }
+}
+
+void CopiesWindow::showProgress() {
+  const CopiesJob::Progress progress = job_->progress();
+  if (progress.isComparing) {
+    status_->setText(Texts::tr("Comparing names and sizes"));
+    return;
+  }
+  const QString searched = Texts::tr("%1 searched").arg(parts_.locale.toString(qlonglong{progress.searched}));
+  const QString listing = QFileInfo(progress.listing).fileName();
+  status_->setText(listing.isEmpty() ? searched : listing + QStringLiteral(": ") + searched);
+}
+
+void CopiesWindow::showResult() {
+  const std::shared_ptr<const CopiesJob> job = job_;
+  letGo();
+  status_->setText(englishWithin(layoutDirection(), resultText(*job)));
+  if (!job->isComplete()) return;
+  list_->header()->setSortIndicator(-1, Qt::AscendingOrder);
+  rows_.show(job);
+  list_->setCurrentIndex(rows_.index(0, 0));
+  fitColumns();
+}
+
+QString CopiesWindow::resultText(const CopiesJob& job) const {
+  QStringList lines = job.sumLines();
+  if (!job.fault().isEmpty()) lines = QStringList{job.fault()};
+  const auto shown = static_cast<std::int64_t>(job.rows().size());
+  if (shown < job.rowsAltogether()) {
+    lines += Texts::tr("Only the %1 largest of %2 rows are shown.")
+                 .arg(parts_.locale.toString(qlonglong{shown}),
+                      parts_.locale.toString(qlonglong{job.rowsAltogether()}));
+  }
+  const QStringList& messages = job.messages();
+  if (!messages.isEmpty()) lines += messages.first();
+  if (messages.size() > 1) {
+    const qsizetype more = messages.size() - 1;
+    lines += more == 1 ? Texts::tr("and one more message")
+                       : Texts::tr("and %1 more messages", nullptr, Texts::plural(more)).arg(more);
+  }
+  return lines.join(u'\n').remove(u'\r');
+}
+
+/// Places are not seen yet, so their columns get room for a usual folder.
+void CopiesWindow::fitColumns() {
+  const int character = list_->fontMetrics().averageCharWidth();
+  const int widest = character * kWidestColumnCharacters;
+  for (int section = 0; section < rows_.columnCount(); ++section) {
+    const bool isFolder = rows_.columnAt(section) == CopiesModel::Column::Folder;
+    list_->resizeColumnToContents(section);
+    const int fitting = list_->columnWidth(section) + character;
+    list_->setColumnWidth(section, std::clamp(fitting, isFolder ? widest * 3 / 4 : 0, widest));
+  }
+}
+
+bool CopiesWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  return takeKey(static_cast<const QKeyEvent&>(*event)) || QDialog::eventFilter(watched, event);
+}
+
+/// Keys of the list. Enter must not go on to the default button, which would start all over.
+bool CopiesWindow::takeKey(const QKeyEvent& key) {
+  if (key.matches(QKeySequence::Copy)) {
+    copyRows();
+    return true;
+  }
+  const QModelIndex current = list_->currentIndex();
+  if ((key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) || !current.isValid()) return false;
+  const QModelIndex row = current.siblingAtColumn(0);
+  if (isPlace(row)) {
+    open(row);
+  } else {
+    list_->setExpanded(row, !list_->isExpanded(row));
+  }
+  return true;
+}
+
+void CopiesWindow::open(const QModelIndex& index) {
+  const std::optional<HitRow> file = rows_.fileOf(index);
+  if (!file || parts_.showFile(*file)) return;
+  status_->setText(
+      Texts::tr("%1 is not there now, or its listing does not say where.").arg(file->folder + file->name));
+}
+
+/// Tabs between the columns, a line for each row, in the order of the list.
+void CopiesWindow::copyRows() const {
+  QModelIndexList selected = list_->selectionModel()->selectedRows();
+  if (selected.isEmpty()) return;
+  const auto placeOf = [](const QModelIndex& index) {
+    return index.parent().isValid() ? std::pair(index.parent().row(), index.row())
+                                    : std::pair(index.row(), -1);
+  };
+  std::ranges::sort(selected, {}, placeOf);
+  QStringList lines;
+  for (const QModelIndex& row : selected) {
+    QStringList cells;
+    for (int column = 0; column < rows_.columnCount(); ++column) {
+      cells += row.siblingAtColumn(column).data().toString();
+    }
+    lines += cells.join(u'\t');
+  }
+  QGuiApplication::clipboard()->setText(lines.join(u'\n') + u'\n');
+}
+
+void CopiesWindow::done(int result) {
+  letGo();
+  QDialog::done(result);
+}
+
+}  // namespace quorvin
