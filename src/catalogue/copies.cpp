@@ -4,13 +4,10 @@
 #include "search/format/listing_line.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace quorvin {
 
 namespace {
-
-constexpr std::size_t kRoomForNames = std::size_t{1} << 20;
 
 /// Whether `listed` in lower case is `folded`.
 bool isSameInLowerCase(std::string_view listed, std::string_view folded) {
@@ -72,7 +69,7 @@ void Copies::decide(ListedFiles::Visited& file) {
   Group& group = groups_[number];
   if (group.copies == 0) {
     group.size = file.size;
-    group.name = keep(name.listed);
+    group.name = names_.keep(name.listed);
     group.volume = files_.folders().volumeOf(file.folder);
   }
   ++group.copies;
@@ -97,19 +94,6 @@ std::uint32_t Copies::groupLike(std::uint32_t group, ListedFiles::Visited& file,
     return added;
   }
   return group;
-}
-
-std::string_view Copies::keep(std::string_view name) {
-  if (name.size() > roomForNames_) {
-    roomForNames_ = std::max(kRoomForNames, name.size());
-    names_.push_back(std::make_unique_for_overwrite<char[]>(roomForNames_));
-    nextName_ = names_.back().get();
-  }
-  char* const kept = nextName_;
-  std::memcpy(kept, name.data(), name.size());
-  nextName_ += name.size();
-  roomForNames_ -= name.size();
-  return {kept, name.size()};
 }
 
 void Copies::collectPlaces() {

@@ -1,11 +1,11 @@
 // Files that are there more than once, and files that are there on one volume only.
 #pragma once
 
+#include "catalogue/kept_texts.h"
 #include "catalogue/listed_files.h"
 
 #include <cstdint>
 #include <limits>
-#include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -93,7 +93,6 @@ class Copies {
   bool decide(const StopAsked& stop);
   void decide(ListedFiles::Visited& file);
   std::uint32_t groupLike(std::uint32_t group, ListedFiles::Visited& file, std::string_view folded);
-  std::string_view keep(std::string_view name);
   void collectPlaces();
 
   ListedFiles& files_;
@@ -102,10 +101,8 @@ class Copies {
   std::vector<Group> groups_;
   /// For a group whose hash others have too: the next of them, ascending by group.
   std::vector<std::pair<std::uint32_t, std::uint32_t>> nextLike_;
-  /// The names of the groups, in pieces that stay where they are.
-  std::vector<std::unique_ptr<char[]>> names_;
-  char* nextName_ = nullptr;
-  std::size_t roomForNames_ = 0;
+  /// The names of the groups.
+  KeptTexts names_;
   /// The places of all groups, one group after another, and where each group's start.
   std::vector<std::uint32_t> places_;
   std::vector<std::uint32_t> placesStart_;
