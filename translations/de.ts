@@ -3277,14 +3277,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Es gibt mehr als %1 Dateien</translation>
     </message>
     <message>
-        <source>find and copies: there were hits. Others: all was done.</source>
-        <translation>find und copies: es gab Treffer. Andere: alles wurde getan.</translation>
-    </message>
-    <message>
-        <source>find and copies: there were none. history: there is no earlier version.</source>
-        <translation>find und copies: es gab keine. history: es gibt keine frühere Fassung.</translation>
-    </message>
-    <message>
         <source>the rows could not all be written to standard output</source>
         <translation>die Zeilen konnten nicht alle auf die Standardausgabe geschrieben werden</translation>
     </message>
@@ -3575,8 +3567,112 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>import braucht die Listen, die zu importieren sind</translation>
     </message>
     <message>
-        <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
-        <translation>die Befehle sind find, copies, index, import, refresh, sources, history und cache</translation>
+        <source>A listing was changed while it was read. Please try again</source>
+        <translation>Eine Liste wurde geändert, während sie gelesen wurde. Bitte noch einmal versuchen</translation>
+    </message>
+    <message>
+        <source>find and copies: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find und copies: es gab Treffer. compare: es gibt keinen Unterschied. Sonst: alles wurde getan.</translation>
+    </message>
+    <message>
+        <source>find and copies: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find und copies: es gab keine. compare: es gibt Unterschiede. history: es gibt keine frühere Version.</translation>
+    </message>
+    <message>
+        <source>one of the two is no listing, since it is not plain text</source>
+        <translation>eine der beiden ist keine Liste, da sie kein reiner Text ist</translation>
+    </message>
+    <message>
+        <source>comparing</source>
+        <translation>es wird verglichen</translation>
+    </message>
+    <message>
+        <source>Compared below %1 and %2, since they have no folder in common</source>
+        <translation>Verglichen unterhalb von %1 und %2, da sie keinen Ordner gemeinsam haben</translation>
+    </message>
+    <message>
+        <source>Added: %1. Removed: %2. Changed: %3. Moved: %4. The same: %5</source>
+        <translation>Hinzugekommen: %1. Weggefallen: %2. Geändert: %3. Verschoben: %4. Gleich: %5</translation>
+    </message>
+    <message>
+        <source>%1 (before: %2)</source>
+        <translation>%1 (vorher: %2)</translation>
+    </message>
+    <message>
+        <source>Say what differs between listings, versions and folders</source>
+        <translation>Unterschiede zwischen Listen, Versionen und Ordnern zeigen</translation>
+    </message>
+    <message>
+        <source>EARLIER is this version in the listing history</source>
+        <translation>EARLIER ist diese Version im Verlauf der Liste</translation>
+    </message>
+    <message>
+        <source>EARLIER is the version of that day, such as 2004-03-31</source>
+        <translation>EARLIER ist die Version dieses Tages, etwa 2004-03-31</translation>
+    </message>
+    <message>
+        <source>Write only how much it is, for each folder</source>
+        <translation>Nur schreiben, wie viel es ist, für jeden Ordner</translation>
+    </message>
+    <message>
+        <source>Write neither sums nor progress to standard error</source>
+        <translation>Weder Summen noch Fortschritt auf der Fehlerausgabe</translation>
+    </message>
+    <message>
+        <source>What the last rescan changed</source>
+        <translation>Was das letzte Einlesen geändert hat</translation>
+    </message>
+    <message>
+        <source>What has changed in the folder since then</source>
+        <translation>Was sich seitdem im Ordner geändert hat</translation>
+    </message>
+    <message>
+        <source>What has changed since March</source>
+        <translation>Was sich seit März geändert hat</translation>
+    </message>
+    <message>
+        <source>Whether a copy has everything</source>
+        <translation>Ob eine Kopie alles hat</translation>
+    </message>
+    <message>
+        <source>EARLIER and LATER are listings, or folders, which are listed as they are now. Without LATER the listing EARLIER is compared with its newest complete version in the listing history, or with the one that --number or --on names. A listing in the data folder may be called by its description.</source>
+        <translation>EARLIER und LATER sind Listen, oder Ordner, die so aufgelistet werden, wie sie jetzt sind. Ohne LATER wird die Liste EARLIER mit ihrer neuesten vollständigen Version im Verlauf verglichen, oder mit der, die --number oder --on nennt. Eine Liste im Datenordner kann mit ihrer Beschreibung genannt werden.</translation>
+    </message>
+    <message>
+        <source>Lines start with + for a file that was added, - for one that was removed, * for one that has another size or date, and &gt; for one that was moved, with the place where it was in the line below. A file is taken to be moved if one with the same name and size is gone elsewhere; if there are several, one with the same date is preferred. The name of a volume counts only where a listing has more than one, and if the two have no folder in common, they are compared below the folders that have all of their files.</source>
+        <translation>Zeilen beginnen mit + für eine Datei, die hinzugekommen ist, - für eine, die weggefallen ist, * für eine mit anderer Größe oder anderem Datum und &gt; für eine, die verschoben wurde; die Zeile darunter sagt, wo sie war. Eine Datei gilt als verschoben, wenn anderswo eine mit gleichem Namen und gleicher Größe weggefallen ist; sind es mehrere, so geht eine mit gleichem Datum vor. Der Name eines Datenträgers zählt nur, wenn eine Liste mehrere hat, und haben die beiden keinen Ordner gemeinsam, so werden sie unterhalb der Ordner verglichen, in denen alle ihre Dateien liegen.</translation>
+    </message>
+    <message>
+        <source>The exit status is 0 if there is no difference, 1 if there is one, and 2 if something went wrong. Listings hold the first 65 characters of a name, and dates to the second.</source>
+        <translation>Der Rückgabewert ist 0, wenn es keinen Unterschied gibt, 1, wenn es einen gibt, und 2, wenn etwas schiefging. Listen enthalten die ersten 65 Zeichen eines Namens und Daten auf die Sekunde genau.</translation>
+    </message>
+    <message>
+        <source>there is neither a listing nor a folder %1</source>
+        <translation>es gibt weder eine Liste noch einen Ordner %1</translation>
+    </message>
+    <message>
+        <source>no version of %1 that is kept is as old as %2</source>
+        <translation>keine aufbewahrte Version von %1 ist so alt wie %2</translation>
+    </message>
+    <message>
+        <source>compare needs a listing or a folder</source>
+        <translation>compare braucht eine Liste oder einen Ordner</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, index, import, refresh, sources, history and cache</source>
+        <translation>die Befehle sind find, copies, compare, index, import, refresh, sources, history und cache</translation>
+    </message>
+    <message>
+        <source>the value of --on is a day such as 2004-03-31, not &quot;%1&quot;</source>
+        <translation>der Wert von --on ist ein Tag wie 2004-03-31, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>compare does not know what to do with &quot;%1&quot;</source>
+        <translation>compare weiß nicht, was mit „%1“ zu tun ist</translation>
+    </message>
+    <message>
+        <source>--number and --on both say which version is meant</source>
+        <translation>--number und --on sagen beide, welche Version gemeint ist</translation>
     </message>
     <message>
         <source>looking for copies</source>

@@ -3277,14 +3277,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>Hay más de %1 archivos</translation>
     </message>
     <message>
-        <source>find and copies: there were hits. Others: all was done.</source>
-        <translation>find y copies: hubo resultados. Las demás: se hizo todo.</translation>
-    </message>
-    <message>
-        <source>find and copies: there were none. history: there is no earlier version.</source>
-        <translation>find y copies: no hubo ninguno. history: no hay ninguna versión anterior.</translation>
-    </message>
-    <message>
         <source>the rows could not all be written to standard output</source>
         <translation>no se pudieron escribir todas las filas en la salida estándar</translation>
     </message>
@@ -3575,8 +3567,112 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>import necesita las listas que importar</translation>
     </message>
     <message>
-        <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
-        <translation>las órdenes son find, copies, index, import, refresh, sources, history y cache</translation>
+        <source>A listing was changed while it was read. Please try again</source>
+        <translation>Una lista se modificó mientras se leía. Inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>find and copies: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find y copies: hubo resultados. compare: no hay diferencias. Otras: se hizo todo.</translation>
+    </message>
+    <message>
+        <source>find and copies: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find y copies: no los hubo. compare: hay diferencias. history: no hay ninguna versión anterior.</translation>
+    </message>
+    <message>
+        <source>one of the two is no listing, since it is not plain text</source>
+        <translation>una de las dos no es una lista, porque no es texto sin formato</translation>
+    </message>
+    <message>
+        <source>comparing</source>
+        <translation>comparando</translation>
+    </message>
+    <message>
+        <source>Compared below %1 and %2, since they have no folder in common</source>
+        <translation>Comparadas por debajo de %1 y %2, porque no tienen ninguna carpeta en común</translation>
+    </message>
+    <message>
+        <source>Added: %1. Removed: %2. Changed: %3. Moved: %4. The same: %5</source>
+        <translation>Añadidos: %1. Eliminados: %2. Modificados: %3. Movidos: %4. Iguales: %5</translation>
+    </message>
+    <message>
+        <source>%1 (before: %2)</source>
+        <translation>%1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>Say what differs between listings, versions and folders</source>
+        <translation>Mostrar las diferencias entre listas, versiones y carpetas</translation>
+    </message>
+    <message>
+        <source>EARLIER is this version in the listing history</source>
+        <translation>EARLIER es esta versión del historial de listas</translation>
+    </message>
+    <message>
+        <source>EARLIER is the version of that day, such as 2004-03-31</source>
+        <translation>EARLIER es la versión de ese día, por ejemplo 2004-03-31</translation>
+    </message>
+    <message>
+        <source>Write only how much it is, for each folder</source>
+        <translation>Escribir solo cuánto es, para cada carpeta</translation>
+    </message>
+    <message>
+        <source>Write neither sums nor progress to standard error</source>
+        <translation>No escribir sumas ni progreso en la salida de errores</translation>
+    </message>
+    <message>
+        <source>What the last rescan changed</source>
+        <translation>Lo que cambió el último examen</translation>
+    </message>
+    <message>
+        <source>What has changed in the folder since then</source>
+        <translation>Lo que ha cambiado desde entonces en la carpeta</translation>
+    </message>
+    <message>
+        <source>What has changed since March</source>
+        <translation>Lo que ha cambiado desde marzo</translation>
+    </message>
+    <message>
+        <source>Whether a copy has everything</source>
+        <translation>Si una copia lo tiene todo</translation>
+    </message>
+    <message>
+        <source>EARLIER and LATER are listings, or folders, which are listed as they are now. Without LATER the listing EARLIER is compared with its newest complete version in the listing history, or with the one that --number or --on names. A listing in the data folder may be called by its description.</source>
+        <translation>EARLIER y LATER son listas, o carpetas, que se listan como están ahora. Sin LATER, la lista EARLIER se compara con su versión completa más reciente del historial, o con la que indican --number o --on. Una lista de la carpeta de datos puede nombrarse por su descripción.</translation>
+    </message>
+    <message>
+        <source>Lines start with + for a file that was added, - for one that was removed, * for one that has another size or date, and &gt; for one that was moved, with the place where it was in the line below. A file is taken to be moved if one with the same name and size is gone elsewhere; if there are several, one with the same date is preferred. The name of a volume counts only where a listing has more than one, and if the two have no folder in common, they are compared below the folders that have all of their files.</source>
+        <translation>Las líneas empiezan por + si el archivo se añadió, por - si se eliminó, por * si tiene otro tamaño u otra fecha y por &gt; si se movió; la línea siguiente dice dónde estaba. Un archivo se considera movido si en otro lugar falta uno del mismo nombre y tamaño; si hay varios, se prefiere uno con la misma fecha. El nombre de un volumen solo cuenta si una lista tiene más de uno, y si las dos no tienen ninguna carpeta en común, se comparan por debajo de las carpetas que contienen todos sus archivos.</translation>
+    </message>
+    <message>
+        <source>The exit status is 0 if there is no difference, 1 if there is one, and 2 if something went wrong. Listings hold the first 65 characters of a name, and dates to the second.</source>
+        <translation>El estado de salida es 0 si no hay diferencias, 1 si las hay y 2 si algo salió mal. Las listas contienen los primeros 65 caracteres de un nombre, y las fechas con precisión de segundos.</translation>
+    </message>
+    <message>
+        <source>there is neither a listing nor a folder %1</source>
+        <translation>no hay ninguna lista ni carpeta %1</translation>
+    </message>
+    <message>
+        <source>no version of %1 that is kept is as old as %2</source>
+        <translation>ninguna versión guardada de %1 es tan antigua como %2</translation>
+    </message>
+    <message>
+        <source>compare needs a listing or a folder</source>
+        <translation>compare necesita una lista o una carpeta</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, index, import, refresh, sources, history and cache</source>
+        <translation>las órdenes son find, copies, compare, index, import, refresh, sources, history y cache</translation>
+    </message>
+    <message>
+        <source>the value of --on is a day such as 2004-03-31, not &quot;%1&quot;</source>
+        <translation>el valor de --on es un día como 2004-03-31, no «%1»</translation>
+    </message>
+    <message>
+        <source>compare does not know what to do with &quot;%1&quot;</source>
+        <translation>compare no sabe qué hacer con «%1»</translation>
+    </message>
+    <message>
+        <source>--number and --on both say which version is meant</source>
+        <translation>--number y --on dicen ambas qué versión se quiere</translation>
     </message>
     <message>
         <source>looking for copies</source>

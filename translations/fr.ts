@@ -3277,14 +3277,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>Il y a plus de %1 fichiers</translation>
     </message>
     <message>
-        <source>find and copies: there were hits. Others: all was done.</source>
-        <translation>find et copies&#xa0;: il y avait des résultats. Autres&#xa0;: tout a été fait.</translation>
-    </message>
-    <message>
-        <source>find and copies: there were none. history: there is no earlier version.</source>
-        <translation>find et copies&#xa0;: il n’y en avait pas. history&#xa0;: il n’y a pas de version antérieure.</translation>
-    </message>
-    <message>
         <source>the rows could not all be written to standard output</source>
         <translation>les lignes n’ont pas toutes pu être écrites sur la sortie standard</translation>
     </message>
@@ -3575,8 +3567,112 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>import a besoin des listes à importer</translation>
     </message>
     <message>
-        <source>the commands are find, copies, index, import, refresh, sources, history and cache</source>
-        <translation>les commandes sont find, copies, index, import, refresh, sources, history et cache</translation>
+        <source>A listing was changed while it was read. Please try again</source>
+        <translation>Une liste a été modifiée pendant sa lecture. Veuillez réessayer</translation>
+    </message>
+    <message>
+        <source>find and copies: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find et copies : il y avait des résultats. compare : aucune différence. Autres : tout a été fait.</translation>
+    </message>
+    <message>
+        <source>find and copies: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find et copies : il n&apos;y en avait pas. compare : il y a des différences. history : il n&apos;y a pas de version antérieure.</translation>
+    </message>
+    <message>
+        <source>one of the two is no listing, since it is not plain text</source>
+        <translation>l&apos;une des deux n&apos;est pas une liste, car ce n&apos;est pas du texte brut</translation>
+    </message>
+    <message>
+        <source>comparing</source>
+        <translation>comparaison</translation>
+    </message>
+    <message>
+        <source>Compared below %1 and %2, since they have no folder in common</source>
+        <translation>Comparaison au-dessous de %1 et de %2, car elles n&apos;ont aucun dossier en commun</translation>
+    </message>
+    <message>
+        <source>Added: %1. Removed: %2. Changed: %3. Moved: %4. The same: %5</source>
+        <translation>Ajoutés : %1. Supprimés : %2. Modifiés : %3. Déplacés : %4. Identiques : %5</translation>
+    </message>
+    <message>
+        <source>%1 (before: %2)</source>
+        <translation>%1 (avant : %2)</translation>
+    </message>
+    <message>
+        <source>Say what differs between listings, versions and folders</source>
+        <translation>Montrer ce qui diffère entre listes, versions et dossiers</translation>
+    </message>
+    <message>
+        <source>EARLIER is this version in the listing history</source>
+        <translation>EARLIER est cette version dans l&apos;historique des listes</translation>
+    </message>
+    <message>
+        <source>EARLIER is the version of that day, such as 2004-03-31</source>
+        <translation>EARLIER est la version de ce jour, par exemple 2004-03-31</translation>
+    </message>
+    <message>
+        <source>Write only how much it is, for each folder</source>
+        <translation>N&apos;écrire que les totaux, pour chaque dossier</translation>
+    </message>
+    <message>
+        <source>Write neither sums nor progress to standard error</source>
+        <translation>N&apos;écrire ni totaux ni progression sur la sortie d&apos;erreur</translation>
+    </message>
+    <message>
+        <source>What the last rescan changed</source>
+        <translation>Ce que la dernière actualisation a changé</translation>
+    </message>
+    <message>
+        <source>What has changed in the folder since then</source>
+        <translation>Ce qui a changé depuis dans le dossier</translation>
+    </message>
+    <message>
+        <source>What has changed since March</source>
+        <translation>Ce qui a changé depuis mars</translation>
+    </message>
+    <message>
+        <source>Whether a copy has everything</source>
+        <translation>Si une copie contient tout</translation>
+    </message>
+    <message>
+        <source>EARLIER and LATER are listings, or folders, which are listed as they are now. Without LATER the listing EARLIER is compared with its newest complete version in the listing history, or with the one that --number or --on names. A listing in the data folder may be called by its description.</source>
+        <translation>EARLIER et LATER sont des listes, ou des dossiers, qui sont listés tels qu&apos;ils sont maintenant. Sans LATER, la liste EARLIER est comparée à sa version complète la plus récente dans l&apos;historique, ou à celle que désigne --number ou --on. Une liste du dossier de données peut être désignée par sa description.</translation>
+    </message>
+    <message>
+        <source>Lines start with + for a file that was added, - for one that was removed, * for one that has another size or date, and &gt; for one that was moved, with the place where it was in the line below. A file is taken to be moved if one with the same name and size is gone elsewhere; if there are several, one with the same date is preferred. The name of a volume counts only where a listing has more than one, and if the two have no folder in common, they are compared below the folders that have all of their files.</source>
+        <translation>Les lignes commencent par + pour un fichier ajouté, - pour un fichier supprimé, * pour un fichier dont la taille ou la date a changé, et &gt; pour un fichier déplacé, la ligne suivante indiquant où il était. Un fichier est considéré comme déplacé si un autre de même nom et de même taille a disparu ailleurs ; s&apos;il y en a plusieurs, celui qui a la même date est préféré. Le nom d&apos;un volume ne compte que si une liste en a plusieurs, et si les deux n&apos;ont aucun dossier en commun, elles sont comparées au-dessous des dossiers qui contiennent tous leurs fichiers.</translation>
+    </message>
+    <message>
+        <source>The exit status is 0 if there is no difference, 1 if there is one, and 2 if something went wrong. Listings hold the first 65 characters of a name, and dates to the second.</source>
+        <translation>Le code de retour est 0 s&apos;il n&apos;y a pas de différence, 1 s&apos;il y en a une et 2 en cas de problème. Les listes contiennent les 65 premiers caractères d&apos;un nom, et les dates à la seconde près.</translation>
+    </message>
+    <message>
+        <source>there is neither a listing nor a folder %1</source>
+        <translation>il n&apos;y a ni liste ni dossier %1</translation>
+    </message>
+    <message>
+        <source>no version of %1 that is kept is as old as %2</source>
+        <translation>aucune version conservée de %1 n&apos;est aussi ancienne que %2</translation>
+    </message>
+    <message>
+        <source>compare needs a listing or a folder</source>
+        <translation>compare a besoin d&apos;une liste ou d&apos;un dossier</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, index, import, refresh, sources, history and cache</source>
+        <translation>les commandes sont find, copies, compare, index, import, refresh, sources, history et cache</translation>
+    </message>
+    <message>
+        <source>the value of --on is a day such as 2004-03-31, not &quot;%1&quot;</source>
+        <translation>la valeur de --on est un jour comme 2004-03-31, pas «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>compare does not know what to do with &quot;%1&quot;</source>
+        <translation>compare ne sait que faire de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>--number and --on both say which version is meant</source>
+        <translation>--number et --on disent tous deux quelle version est voulue</translation>
     </message>
     <message>
         <source>looking for copies</source>

@@ -28,6 +28,7 @@ _quorvin_cli() {
     case "$command $word" in
       " find") command="find" ;;
       " copies") command="copies" ;;
+      " compare") command="compare" ;;
       " index") command="index" ;;
       " import") command="import" ;;
       " refresh") command="refresh" ;;
@@ -44,7 +45,7 @@ _quorvin_cli() {
       case "$prev" in
         --completion) _quorvin_words "bash zsh fish"; return ;;
       esac
-      _quorvin_words "find copies index import refresh sources history cache --version --completion --man --help"
+      _quorvin_words "find copies compare index import refresh sources history cache --version --completion --man --help"
       ;;
     "find")
       case "$prev" in
@@ -69,6 +70,19 @@ _quorvin_cli() {
       esac
       if [[ $cur == -* ]]; then
         _quorvin_words "--single --by-volume --by-folder --match --empty --format --header -0 --null --limit -q --quiet --no-cache --help"
+        return
+      fi
+      _quorvin_files -f
+      ;;
+    "compare")
+      case "$prev" in
+        --number) _quorvin_words ""; return ;;
+        --on) _quorvin_words ""; return ;;
+        --format) _quorvin_words "text tsv csv json"; return ;;
+        --limit) _quorvin_words ""; return ;;
+      esac
+      if [[ $cur == -* ]]; then
+        _quorvin_words "--number --on --by-folder --format --header -0 --null --limit -q --quiet --help"
         return
       fi
       _quorvin_files -f

@@ -18,14 +18,12 @@ namespace {
 
 constexpr std::uint32_t kMostPlaces = UINT32_MAX - 1;
 
-std::uint64_t hashOf(std::string_view text, std::uint64_t seed) {
+std::uint64_t hashOf(std::string_view text, std::uint64_t seed = 0) {
   return XXH3_64bits_withSeed(text.data(), text.size(), seed);
 }
 
-/// Whether a folder ends in a backslash says nothing.
-std::string_view withoutLastSeparator(std::string_view folder) {
-  if (folder.ends_with('\\')) folder.remove_suffix(1);
-  return folder;
+std::uint64_t hashOf(std::uint64_t name, std::uint64_t folder) {
+  return XXH3_64bits_withSeed(&name, sizeof name, folder);
 }
 
 /// What the line of an entry says itself; nothing where that is carried from another line, or missing.
@@ -79,18 +77,16 @@ class ComparedListing::Marking : public EveryEntry {
  protected:
   void takeBlock(const Segment& segment, std::uint32_t block, std::uint32_t first,
                  std::uint32_t end) override {
-    const std::uint64_t volume = hashOf(segment.volumeOfBlock(block), 0);
-    if (volumes_.insert(volume).second) ++listing_.volumeCount_;
-    if (listing_.blocks_.empty() || listing_.blocks_.back().volume != volume) {
-      listing_.blocks_.push_back({place_, volume});
+    const std::uint32_t folder = listing_.folderOf(segment, block);
+    if (listing_.blocks_.empty() || listing_.blocks_.back().folder != folder) {
+      listing_.blocks_.push_back({folder, place_});
     }
-    const std::uint64_t folder = hashOf(withoutLastSeparator(segment.folderOfBlock(block)), 0);
     names_.start(segment.arrays().entries);
     for (std::uint32_t entry = first; entry < end; ++entry, ++place_) {
       const std::optional<EntryValues> values = ownValues(segment, entry);
       const std::int64_t size = values ? values->size : -1;
       const std::string_view name = fileNameIn(names_.at(entry).listed, size);
-      listing_.marks_.push_back({hashOf(name, folder), hashOf(values), place_});
+      listing_.marks_.push_back({hashOf(name), hashOf(values), place_});
       ++listing_.fileCount_;
       listing_.bytes_ = sumOfBytes(listing_.bytes_, std::max<std::int64_t>(size, 0));
     }
@@ -99,7 +95,6 @@ class ComparedListing::Marking : public EveryEntry {
  private:
   ComparedListing& listing_;
   ListedWalk names_;
-  std::unordered_set<std::uint64_t> volumes_;
 };
 
 class ComparedListing::Reading : public EveryEntry {
@@ -113,8 +108,7 @@ class ComparedListing::Reading : public EveryEntry {
     const std::uint32_t base = place_ - first;
     place_ += end - first;
     if (next_ == end_ || *next_ >= place_) return;
-    const std::uint32_t volume = listing_.folders_.addVolume(0, segment.volumeOfBlock(block));
-    const std::uint32_t folder = listing_.folders_.addFolder(volume, segment.folderOfBlock(block));
+    const std::uint32_t folder = listing_.folderOf(segment, block);
     names_.start(segment.arrays().entries);
     for (; next_ != end_ && *next_ < place_; ++next_) take(segment, *next_ - base, folder);
   }
@@ -166,13 +160,50 @@ bool ComparedListing::read(HitSink& sink, const StopAsked& stop) {
   return !outcome.stopped && !stop();
 }
 
-std::vector<FileMark> ComparedListing::takeMarks(bool volumeCounts) {
+std::uint32_t ComparedListing::folderOf(const Segment& segment, std::uint32_t block) {
+  return folders_.addFolder(folders_.addVolume(0, segment.volumeOfBlock(block)),
+                            segment.folderOfBlock(block));
+}
+
+std::vector<std::string> ComparedListing::pathsWithFiles() const {
+  std::vector<std::string> paths;
+  for (const ListedFiles::Block& block : blocks_) paths.push_back(folders_.path(block.folder));
+  return paths;
+}
+
+std::string ComparedListing::top() const {
+  if (blocks_.empty()) return {};
+  std::string top = folders_.path(blocks_.front().folder);
+  for (const std::string& path : pathsWithFiles()) {
+    const auto same = static_cast<std::size_t>(std::ranges::mismatch(top, path).in1 - top.begin());
+    if (same < top.size()) top.resize(top.substr(0, same).rfind('\\') + 1);
+  }
+  return top;
+}
+
+bool ComparedListing::sharesFolderWith(const ComparedListing& other) const {
+  std::unordered_set<std::string> paths;
+  for (std::string& path : other.pathsWithFiles()) paths.insert(std::move(path));
+  return std::ranges::any_of(pathsWithFiles(), [&](const std::string& path) { return paths.contains(path); });
+}
+
+std::string ComparedListing::pathOf(std::uint32_t folder) const {
+  std::string path = folders_.path(folder);
+  if (rule_.belowTop) path.erase(0, top_.size());
+  if (rule_.withVolume) path.insert(0, folders_.volumes()[folders_.volumeOf(folder)].name + '\n');
+  return path;
+}
+
+std::vector<FileMark> ComparedListing::takeMarks(const PathRule& rule) {
+  rule_ = rule;
+  top_ = rule.belowTop ? top() : std::string();
   std::vector<FileMark> marks = std::exchange(marks_, {});
-  auto block = blocks_.begin();
-  for (FileMark& mark : marks) {
-    if (!volumeCounts) break;
-    while (std::next(block) != blocks_.end() && std::next(block)->firstPlace <= mark.place) ++block;
-    mark.path ^= block->volume;
+  auto mark = marks.begin();
+  for (auto block = blocks_.begin(); block != blocks_.end(); ++block) {
+    const std::uint64_t folder = hashOf(pathOf(block->folder));
+    const bool isLast = std::next(block) == blocks_.end();
+    const std::uint32_t end = isLast ? UINT32_MAX : std::next(block)->firstPlace;
+    for (; mark != marks.end() && mark->place < end; ++mark) mark->path = hashOf(mark->path, folder);
   }
   std::ranges::sort(marks, {},
                     [](const FileMark& mark) { return std::tuple(mark.path, mark.values, mark.place); });

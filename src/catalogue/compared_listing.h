@@ -11,14 +11,23 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace quorvin {
 
+/// What of a file's place says that it is the same one.
+struct PathRule {
+  /// Its volume counts too.
+  bool withVolume = false;
+  /// Not the whole path, but what is below ComparedListing::top().
+  bool belowTop = false;
+};
+
 /// What is remembered of every file of a listing.
 struct FileMark {
-  /// The hash of its folder and name as listed, and of the volume where that counts.
+  /// The hash of its name as listed, and in takeMarks() of its place too.
   std::uint64_t path;
   /// The hash of its size and date.
   std::uint32_t values;
@@ -56,12 +65,19 @@ class ComparedListing {
   /// Of all files, and of the size that they have together.
   std::int64_t fileCount() const { return fileCount_; }
   std::int64_t bytes() const { return bytes_; }
-  std::size_t volumeCount() const { return volumeCount_; }
+  std::size_t volumeCount() const { return folders_.volumes().size(); }
   /// There are zero bytes near its start.
   bool isNoText() const { return isNoText_; }
 
+  /// The deepest folder that all files are in or below, with a backslash at its end.
+  std::string top() const;
+  /// Whether there are files in a folder of the same path in both.
+  bool sharesFolderWith(const ComparedListing& other) const;
+
   /// The marks, ascending by path, values and place. They are no longer kept here.
-  std::vector<FileMark> takeMarks(bool volumeCounts);
+  std::vector<FileMark> takeMarks(const PathRule& rule);
+  /// What a folder is known by, by the rule of takeMarks().
+  std::string pathOf(std::uint32_t folder) const;
 
   /// The second reading, of the files at `places`, which ascend. False where `stop` ended it. Throws as
   /// readMarks() does, and fault 57 when the listing is another one by now.
@@ -75,21 +91,19 @@ class ComparedListing {
  private:
   class Marking;
   class Reading;
-  /// Files under one volume and folder, up to the next block's.
-  struct Block {
-    std::uint32_t firstPlace;
-    std::uint64_t volume;
-  };
 
   bool read(HitSink& sink, const StopAsked& stop);
+  std::uint32_t folderOf(const Segment& segment, std::uint32_t block);
+  std::vector<std::string> pathsWithFiles() const;
 
   ListingOpener open_;
   QLocale locale_;
   std::vector<FileMark> marks_;
-  std::vector<Block> blocks_;
+  std::vector<ListedFiles::Block> blocks_;
+  PathRule rule_;
+  std::string top_;
   std::int64_t fileCount_ = 0;
   std::int64_t bytes_ = 0;
-  std::size_t volumeCount_ = 0;
   bool isNoText_ = false;
   std::vector<ComparedFile> files_;
   FolderTree folders_;

@@ -12,7 +12,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::uint32_t kNone = FileChange::kNone;
+constexpr std::uint32_t kNoFile = FileChange::kNone;
 
 /// The marks from the front of `marks` that have the same path as the first one; they are taken away.
 std::span<const FileMark> takeSamePath(std::span<const FileMark>& marks) {
@@ -36,8 +36,9 @@ QString lowerCaseOf(std::string_view name) {
 
 bool ListingComparison::run(const StopAsked& stop) {
   if (!before_.readMarks(stop) || !after_.readMarks(stop)) return false;
-  volumeCounts_ = before_.volumeCount() > 1 || after_.volumeCount() > 1;
-  pair(before_.takeMarks(volumeCounts_), after_.takeMarks(volumeCounts_));
+  rule_.withVolume = before_.volumeCount() > 1 || after_.volumeCount() > 1;
+  rule_.belowTop = !rule_.withVolume && !before_.sharesFolderWith(after_);
+  pair(before_.takeMarks(rule_), after_.takeMarks(rule_));
   if (stop() || !readDifferent(stop)) return false;
   judgePairs();
   findMoved();
@@ -80,7 +81,7 @@ void ListingComparison::pairSamePath(std::span<const FileMark> before, std::span
   std::ranges::sort(gone);
   std::ranges::sort(come);
   for (std::size_t i = 0; i < std::max(gone.size(), come.size()); ++i) {
-    differences_.push_back({i < gone.size() ? gone[i] : kNone, i < come.size() ? come[i] : kNone});
+    differences_.push_back({i < gone.size() ? gone[i] : kNoFile, i < come.size() ? come[i] : kNoFile});
   }
 }
 
@@ -88,8 +89,8 @@ bool ListingComparison::readDifferent(const StopAsked& stop) {
   std::vector<std::uint32_t> gone;
   std::vector<std::uint32_t> come;
   for (const Difference& difference : differences_) {
-    if (difference.before != kNone) gone.push_back(difference.before);
-    if (difference.after != kNone) come.push_back(difference.after);
+    if (difference.before != kNoFile) gone.push_back(difference.before);
+    if (difference.after != kNoFile) come.push_back(difference.after);
   }
   std::ranges::sort(gone);
   std::ranges::sort(come);
@@ -99,14 +100,14 @@ bool ListingComparison::readDifferent(const StopAsked& stop) {
 /// Two paths that only happen to have the same hash are two.
 void ListingComparison::judgePairs() {
   for (const Difference& difference : std::exchange(differences_, {})) {
-    const std::uint32_t before = difference.before == kNone ? kNone : before_.fileAt(difference.before);
-    const std::uint32_t after = difference.after == kNone ? kNone : after_.fileAt(difference.after);
-    if (before != kNone && after != kNone && haveSamePath(before, after)) {
+    const std::uint32_t before = difference.before == kNoFile ? kNoFile : before_.fileAt(difference.before);
+    const std::uint32_t after = difference.after == kNoFile ? kNoFile : after_.fileAt(difference.after);
+    if (before != kNoFile && after != kNoFile && haveSamePath(before, after)) {
       changes_.push_back({ChangeKind::Changed, before, after});
       continue;
     }
-    if (before != kNone) gone_.push_back(before);
-    if (after != kNone) come_.push_back(after);
+    if (before != kNoFile) gone_.push_back(before);
+    if (after != kNoFile) come_.push_back(after);
   }
   std::ranges::sort(gone_);
   std::ranges::sort(come_);
@@ -115,7 +116,7 @@ void ListingComparison::judgePairs() {
 bool ListingComparison::haveSamePath(std::uint32_t before, std::uint32_t after) const {
   const ComparedFile& one = before_.files()[before];
   const ComparedFile& other = after_.files()[after];
-  return one.name == other.name && before_.folders().path(one.folder) == after_.folders().path(other.folder);
+  return one.name == other.name && before_.pathOf(one.folder) == after_.pathOf(other.folder);
 }
 
 bool ListingComparison::areAlike(std::uint32_t before, std::uint32_t after) const {
@@ -209,48 +210,47 @@ class ListingComparison::Likeness {
 void ListingComparison::findMoved() {
   Likeness(*this).find();
   for (const std::uint32_t file : std::exchange(gone_, {})) {
-    changes_.push_back({ChangeKind::Removed, file, kNone});
+    changes_.push_back({ChangeKind::Removed, file, kNoFile});
   }
   for (const std::uint32_t file : std::exchange(come_, {})) {
-    changes_.push_back({ChangeKind::Added, kNone, file});
+    changes_.push_back({ChangeKind::Added, kNoFile, file});
   }
 }
 
 const ComparedFile& ListingComparison::shownFile(const FileChange& change) const {
-  return change.after != kNone ? after_.files()[change.after] : before_.files()[change.before];
+  return change.after != kNoFile ? after_.files()[change.after] : before_.files()[change.before];
 }
 
 const FolderTree& ListingComparison::shownTree(const FileChange& change) const {
-  return change.after != kNone ? after_.folders() : before_.folders();
+  return change.after != kNoFile ? after_.folders() : before_.folders();
 }
 
 void ListingComparison::sortChanges() {
   struct Folder {
-    std::string volume;
     std::string path;
-    const FolderTree* tree;
+    bool isAfter;
     std::uint32_t number;
-    auto key() const { return std::tie(volume, path); }
   };
   std::vector<Folder> folders;
-  for (const FolderTree* tree : {&before_.folders(), &after_.folders()}) {
-    for (std::uint32_t folder = 0; folder < tree->count(); ++folder) {
-      const std::string volume = volumeCounts_ ? tree->volumes()[tree->volumeOf(folder)].name : std::string();
-      folders.push_back({volume, tree->path(folder), tree, folder});
-    }
+  for (const FileChange& change : changes_) {
+    const bool isAfter = change.after != kNoFile;
+    const std::uint32_t folder = shownFile(change).folder;
+    const bool isAsBefore =
+        !folders.empty() && folders.back().isAfter == isAfter && folders.back().number == folder;
+    if (!isAsBefore) folders.push_back({(isAfter ? after_ : before_).pathOf(folder), isAfter, folder});
   }
-  std::ranges::sort(folders, {}, &Folder::key);
+  std::ranges::sort(folders, {}, &Folder::path);
   std::array<std::vector<std::uint32_t>, 2> ranks;
   ranks[0].resize(before_.folders().count());
   ranks[1].resize(after_.folders().count());
   std::uint32_t rank = 0;
   for (std::size_t i = 0; i < folders.size(); ++i) {
-    if (i > 0 && folders[i].key() != folders[i - 1].key()) ++rank;
-    ranks[folders[i].tree == &before_.folders() ? 0 : 1][folders[i].number] = rank;
+    if (i > 0 && folders[i].path != folders[i - 1].path) ++rank;
+    ranks[folders[i].isAfter ? 1 : 0][folders[i].number] = rank;
   }
   std::ranges::stable_sort(changes_, {}, [&](const FileChange& change) {
     const ComparedFile& file = shownFile(change);
-    return std::tuple(ranks[change.after != kNone ? 1 : 0][file.folder], file.name, change.kind);
+    return std::tuple(ranks[change.after != kNoFile ? 1 : 0][file.folder], file.name, change.kind);
   });
 }
 
@@ -259,7 +259,7 @@ void ListingComparison::sumUp() {
   for (const FileChange& change : changes_) {
     const auto sizeOf = [](const ComparedFile& file) { return std::max<std::int64_t>(file.size, 0); };
     sums_[static_cast<std::size_t>(change.kind)].add(sizeOf(shownFile(change)));
-    if (change.before == kNone) continue;
+    if (change.before == kNoFile) continue;
     --same_.files;
     same_.bytes -= sizeOf(before_.files()[change.before]);
   }

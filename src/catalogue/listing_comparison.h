@@ -24,7 +24,9 @@ struct FileChange {
 };
 
 /// Compares two listings. A file is known by its folder and its name as listed; its volume counts only where
-/// one of the listings has more than one, since a copy of a disk often has another name. It has *changed*
+/// one of the listings has more than one, since a copy of a disk often has another name. Where no folder of
+/// one listing is in the other, as with a disk that is mounted elsewhere, both are compared below the deepest
+/// folder that has all files of each. It has *changed*
 /// where its size or its date is another one. It was *moved* where a file with the same name in lower case,
 /// the same size and the same date is somewhere else, or with the same name and size if neither is left with
 /// its own date; an empty file needs the same date. Each file is moved to one place, and what is left over
@@ -46,6 +48,8 @@ class ListingComparison {
   /// Files of a kind. The bytes are those of the files as they are after, or as they were if they are gone.
   const FileSum& sum(ChangeKind kind) const { return sums_[static_cast<std::size_t>(kind)]; }
 
+  /// What says that a file is the same one.
+  const PathRule& rule() const { return rule_; }
   const ComparedListing& before() const { return before_; }
   const ComparedListing& after() const { return after_; }
   /// The file that a change is shown as: as it is after, or as it was if it is gone.
@@ -73,7 +77,7 @@ class ListingComparison {
 
   ComparedListing& before_;
   ComparedListing& after_;
-  bool volumeCounts_ = false;
+  PathRule rule_;
   std::vector<Difference> differences_;
   /// Numbers of files that nothing has been found for so far.
   std::vector<std::uint32_t> gone_;

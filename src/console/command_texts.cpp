@@ -211,8 +211,8 @@ CommandText cacheText() {
 
 const std::vector<CommandText>& commandTexts() {
   static const std::vector<CommandText> texts{
-      findText(),       copiesText(),        indexText(),       importText(),  refreshText(), sourcesText(),
-      sourcesAddText(), sourcesRemoveText(), sourcesMoveText(), historyText(), cacheText()};
+      findText(),    copiesText(),     compareText(),       indexText(),       importText(),  refreshText(),
+      sourcesText(), sourcesAddText(), sourcesRemoveText(), sourcesMoveText(), historyText(), cacheText()};
   return texts;
 }
 
@@ -261,9 +261,13 @@ const std::vector<SectionText>& manualSections() {
                                         "and those shown are of an earlier line. Where there are none at "
                                         "all, both keys are left out.")}}},
       {QT_TRANSLATE_NOOP("Texts", "EXIT STATUS"),
-       {{"0", QT_TRANSLATE_NOOP("Texts", "find and copies: there were hits. Others: all was done.")},
-        {"1", QT_TRANSLATE_NOOP("Texts",
-                                "find and copies: there were none. history: there is no earlier version.")},
+       {{"0",
+         QT_TRANSLATE_NOOP(
+             "Texts", "find and copies: there were hits. compare: nothing differs. Others: all was done.")},
+        {"1", QT_TRANSLATE_NOOP(
+                  "Texts",
+                  "find and copies: there were none. compare: something differs. history: there is no "
+                  "earlier version.")},
         {"2", QT_TRANSLATE_NOOP("Texts",
                                 "Something went wrong, or the command line was not understood; a sentence on "
                                 "standard error says "

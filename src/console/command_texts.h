@@ -45,6 +45,8 @@ struct CommandText {
 /// A text of these in the language that is spoken, as UTF-8.
 std::string said(const char* text);
 
+/// "compare", which says much.
+CommandText compareText();
 /// "copies", which says much.
 CommandText copiesText();
 

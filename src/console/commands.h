@@ -1,12 +1,14 @@
-// The commands of the console companion: "find", "copies", "cache", "index", "import", "refresh", "sources"
-// and "history". Each gives the exit status of the program.
+// The commands of the console companion: "find", "copies", "compare", "cache", "index", "import", "refresh",
+// "sources" and "history". Each gives the exit status of the program.
 #pragma once
 
 #include "catalogue/copy_finder.h"
-#include "console/copy_rows.h"
 #include "console/hit_rows.h"
+#include "console/table_row.h"
+#include "files/file_writer.h"
 #include "search/hit_sort.h"
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 
@@ -51,7 +53,7 @@ int runFind(const FindRequest& request);
 
 /// What the command line asked of "copies".
 struct CopiesRequest : CopyWish {
-  CopyFormat format = CopyFormat::Text;
+  TableFormat format = TableFormat::Text;
   bool hasHeader = false;
   bool endsWithNul = false;
   /// How many files, groups or sums are written at most; nothing for all.
@@ -65,6 +67,31 @@ struct CopiesRequest : CopyWish {
 /// Writes what is there more than once, or on one volume only, to standard output, and the sum of it to
 /// standard error. The exit status is that of runFind(), where files or groups are its hits.
 int runCopies(const CopiesRequest& request);
+
+/// What the command line asked of "compare".
+struct CompareRequest {
+  /// A listing, a folder, or what has a history in the data folder.
+  QString before;
+  /// A listing or a folder; empty for the listing as it is now, of which `before` is an earlier version.
+  QString after;
+  /// Which version `before` is, or the day whose version it is; neither for the newest complete one.
+  std::optional<int> version = {};
+  std::optional<QDate> day = {};
+  TableFormat format = TableFormat::Text;
+  /// Sums of folders take the place of files.
+  bool byFolder = false;
+  bool hasHeader = false;
+  bool endsWithNul = false;
+  /// How many files or folders are written at most; nothing for all.
+  std::optional<std::int64_t> limit = {};
+  /// Neither progress nor the last line is written.
+  bool isQuiet = false;
+};
+
+/// Writes what came, went, changed and was moved to standard output, and the sums to standard error. The exit
+/// status, as that of diff: 0 where nothing differs, 1 where something does, 2 when anything could not be
+/// done, stopStatus() when a signal ended it.
+int runCompare(const CompareRequest& request);
 
 /// What the command line asked of "cache".
 struct CacheRequest {
@@ -100,6 +127,9 @@ struct IndexRequest {
 /// cannot be read, the listing cannot be written, or names were left out of it since their folder holds too
 /// many, stopStatus() after a signal.
 int runIndex(const IndexRequest& request);
+
+/// The same with a writer in place of IndexRequest::output.
+int indexInto(FileWriter& writer, const IndexRequest& request);
 
 /// What the command line asked of "import", each option as it was given; empty where it was not.
 struct ImportCommand {

@@ -1,6 +1,5 @@
 #include "console/copy_rows.h"
 
-#include "console/json_text.h"
 #include "texts/texts.h"
 
 #include <QFileInfo>
@@ -11,10 +10,6 @@
 namespace quorvin {
 
 namespace {
-
-CellRule ruleOf(CopyFormat format) {
-  return format == CopyFormat::Csv ? CellRule::Quotes : CellRule::Blanks;
-}
 
 /// Appends `pattern` with texts in the places of %1, %2 and so on. Far quicker than QString::arg().
 void fill(std::string& text, std::string_view pattern, std::initializer_list<std::string_view> values) {
@@ -38,25 +33,15 @@ QString fileCountText(std::int64_t files, const QLocale& locale) {
 
 }  // namespace
 
-/// A row that is being made: cells, or members of an object.
-class CopyRows::Row {
+/// A row that may hold a place.
+class CopyRows::Row : public TableRow {
  public:
-  Row(const CopyRows& rows, std::string& text) : rows_(rows), text_(text) {
-    if (isJson()) text_ += '{';
-  }
+  Row(const CopyRows& rows, std::string& text)
+      : TableRow(rows.options_.format, rows.cells_, text), rows_(rows) {}
 
-  Row& add(std::string_view key, std::string_view value) {
-    startCell(key);
-    if (isJson()) {
-      addJsonString(text_, value);
-    } else {
-      rows_.addShown(text_, value);
-    }
-    return *this;
-  }
-  Row& add(std::string_view key, std::int64_t value) {
-    startCell(key);
-    addNumber(text_, value);
+  template <typename Value>
+  Row& add(std::string_view key, const Value& value) {
+    TableRow::add(key, value);
     return *this;
   }
   /// Volume, folder and listing.
@@ -65,26 +50,10 @@ class CopyRows::Row {
     add("volume", rows_.tree_.volumes()[volume].name).add("folder", rows_.tree_.path(folder));
     return add("listing", rows_.listingOf(volume));
   }
-  void startCell(std::string_view key) {
-    if (!isFirst_) text_ += rows_.options_.format == CopyFormat::Tsv ? '\t' : ',';
-    isFirst_ = false;
-    if (!isJson()) return;
-    addJsonString(text_, key);
-    text_ += ':';
-  }
-  void end() {
-    if (isJson()) text_ += '}';
-    text_ += rows_.options_.endsWithNul ? '\0' : '\n';
-  }
-  /// For an object in an array.
-  void endObject() { text_ += '}'; }
+  void end() { TableRow::end(rows_.options_.endsWithNul); }
 
  private:
-  bool isJson() const { return rows_.options_.format == CopyFormat::Json; }
-
   const CopyRows& rows_;
-  std::string& text_;
-  bool isFirst_ = true;
 };
 
 CopyRows::CopyRows(const Copies& copies, const EqualFolders& folders, const Options& options,
@@ -94,8 +63,8 @@ CopyRows::CopyRows(const Copies& copies, const EqualFolders& folders, const Opti
       tree_(copies.files().folders()),
       options_(options),
       locale_(locale),
-      cells_(ruleOf(options.format), options.isForTerminal) {
-  const bool hasNul = options.format == CopyFormat::Tsv || options.format == CopyFormat::Csv;
+      cells_(cellRuleOf(options.format), options.isForTerminal) {
+  const bool hasNul = options.format == TableFormat::Tsv || options.format == TableFormat::Csv;
   options_.endsWithNul = options.endsWithNul && hasNul;
   for (const QString& listing : copies.files().listings()) listings_.push_back(listing.toStdString());
   for (const FolderTree::Volume& volume : tree_.volumes()) ++volumeNames_[volume.name];
@@ -103,7 +72,7 @@ CopyRows::CopyRows(const Copies& copies, const EqualFolders& folders, const Opti
 }
 
 void CopyRows::addHead(std::string& text, CopyTable table) const {
-  if (isText() || options_.format == CopyFormat::Json) return;
+  if (isText() || options_.format == TableFormat::Json) return;
   std::vector<std::string_view> titles;
   switch (table) {
     case CopyTable::Copies:
@@ -151,7 +120,7 @@ void CopyRows::addGroup(std::string& text, const Copies::Group& group,
     return;
   }
   const std::int64_t copies = group.copies;
-  if (options_.format == CopyFormat::Json) {
+  if (options_.format == TableFormat::Json) {
     Row row(*this, text);
     row.add("kind", "file").add("name", group.name).add("size", group.size).add("copies", copies);
     row.add("volumes", volumesOf(folders)).add("beyondFirst", group.bytesBeyondFirst()).startCell("places");
@@ -180,7 +149,7 @@ void CopyRows::addSet(std::string& text, const EqualFolders::Set& set, std::int6
     addPlaces(text, set.folders);
     return;
   }
-  if (options_.format == CopyFormat::Json) {
+  if (options_.format == TableFormat::Json) {
     Row row(*this, text);
     row.add("kind", "folder").add("name", name).add("size", set.holds.bytes).add("files", set.holds.files);
     row.add("copies", copies).add("volumes", volumesOf(set.folders));

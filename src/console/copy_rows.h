@@ -2,7 +2,7 @@
 #pragma once
 
 #include "catalogue/copy_sums.h"
-#include "console/row_cells.h"
+#include "console/table_row.h"
 
 #include <QLocale>
 #include <QString>
@@ -15,18 +15,16 @@
 
 namespace quorvin {
 
-/// Text is for people: a line for what is the same, below it one for each place. In the other forms there is
-/// a row for each place, in JSON an object for all that is the same.
-enum class CopyFormat { Text, Tsv, Csv, Json };
-
 /// What a list of rows is about.
 enum class CopyTable { Copies, SingleFiles, Volumes, Folders };
 
-/// Makes rows of copies and their sums. All are appended to a text, UTF-8.
+/// Makes rows of copies and their sums. All are appended to a text, UTF-8. In text there is a line for what
+/// is the same, below it one for each place; in tsv and csv a row for each place, in JSON an object for all
+/// that is the same.
 class CopyRows {
  public:
   struct Options {
-    CopyFormat format = CopyFormat::Text;
+    TableFormat format = TableFormat::Text;
     /// Rows of tsv and csv end with NUL instead of a line feed.
     bool endsWithNul = false;
     bool isForTerminal = false;
@@ -48,7 +46,7 @@ class CopyRows {
  private:
   class Row;
 
-  bool isText() const { return options_.format == CopyFormat::Text; }
+  bool isText() const { return options_.format == TableFormat::Text; }
   void addGroup(std::string& text, const Copies::Group& group, const std::vector<std::uint32_t>& folders,
                 std::int64_t number);
   void addSet(std::string& text, const EqualFolders::Set& set, std::int64_t number);

@@ -1,5 +1,6 @@
 // "history": the earlier versions of listings.
 #include "console/commands.h"
+#include "console/compared_sources.h"
 #include "console/error_lines.h"
 #include "console/json_text.h"
 #include "faults/runtime_fault.h"
@@ -37,17 +38,6 @@ std::string jsonRowOf(const QString& listing, const ListingVersion& version) {
   return line.add("state", QString::fromLatin1(completeness(version))).text();
 }
 
-/// The listing that the user means: its description, its name, or its path. Empty when it has no history.
-QString listingNamed(const QString& text, const ListingHistory& history, const ProgramState& state) {
-  QString name = text;
-  if (name.startsWith(state.LocalFolder)) name.remove(0, state.LocalFolder.size());
-  const QStringList listings = history.listings();
-  for (const QString& wanted : {name, name + QStringLiteral(".txt")}) {
-    if (listings.contains(wanted)) return wanted;
-  }
-  return {};
-}
-
 class HistoryCommand {
  public:
   HistoryCommand(const HistoryRequest& request, const ProgramState& state)
@@ -57,7 +47,7 @@ class HistoryCommand {
   int run() {
     QStringList listings = history_.listings();
     if (!request_.listing.isEmpty()) {
-      const QString listing = listingNamed(request_.listing, history_, state_);
+      const QString listing = listingWithHistory(request_.listing, history_, state_);
       if (listing.isEmpty()) {
         printError(Texts::tr("there is no earlier version of %1").arg(request_.listing));
         return request_.restores ? 2 : 1;

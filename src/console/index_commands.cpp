@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <optional>
 #include <unistd.h>
 #include <utility>
@@ -97,6 +98,12 @@ class Indexing {
     }
   }
 
+  /// The same, but for where the listing goes.
+  void runInto(FileWriter& writer) {
+    checkFolder();
+    writeListing(writer);
+  }
+
   /// Takes the line of progress away and prints what there is to report of single names.
   void reportErrors() {
     job_->display().end();
@@ -151,13 +158,15 @@ class Indexing {
 
 }  // namespace
 
-int runIndex(const IndexRequest& request) {
+namespace {
+
+int runIndexing(const IndexRequest& request, const std::function<void(Indexing&)>& run) {
   watchStopSignal();
   Indexing indexing(request);
   bool failed = false;
   QString failure;
   try {
-    indexing.run();
+    run(indexing);
   } catch (const RuntimeFault& fault) {
     failed = true;
     failure = fault.description();
@@ -169,6 +178,16 @@ int runIndex(const IndexRequest& request) {
   }
   if (indexing.interrupted()) return stopStatus();
   return indexing.isComplete() ? 0 : 2;
+}
+
+}  // namespace
+
+int runIndex(const IndexRequest& request) {
+  return runIndexing(request, [](Indexing& indexing) { indexing.run(); });
+}
+
+int indexInto(FileWriter& writer, const IndexRequest& request) {
+  return runIndexing(request, [&](Indexing& indexing) { indexing.runInto(writer); });
 }
 
 namespace {

@@ -155,6 +155,7 @@ const CommandText* CommandLine::named() const {
 QString CommandLine::whatIsMissing() const {
   const std::string_view name = named()->name;
   if (name == "find") return Texts::tr("find needs the words to find, in one argument");
+  if (name == "compare") return Texts::tr("compare needs a listing or a folder");
   if (name == "index") return Texts::tr("index needs the folder to list");
   if (name == "import") return Texts::tr("import needs the lists to import");
   if (name == "sources add") return Texts::tr("sources add needs a folder or a listing");
@@ -165,7 +166,7 @@ QString CommandLine::whatIsMissing() const {
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = app_.remaining();
   const QString commands =
-      Texts::tr("the commands are find, copies, index, import, refresh, sources, history and cache");
+      Texts::tr("the commands are find, copies, compare, index, import, refresh, sources, history and cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
     if (first.startsWith(u'-')) return Texts::tr("there is no option \"%1\"").arg(first);
@@ -194,6 +195,7 @@ int CommandLine::runNamed(const CommandText& command) {
   const std::string_view name = command.name;
   if (name == "find") return runFind(findRequestOf(given));
   if (name == "copies") return runCopies(copiesRequestOf(given));
+  if (name == "compare") return runCompare(compareRequestOf(given));
   if (name == "index") return runIndexCommand(given);
   if (name == "import") return runImportCommand(given);
   if (name == "refresh") return runRefresh({given.texts(), given.has("--quiet"), given.has("--json")});

@@ -55,13 +55,26 @@ ColourUse colourUseNamed(const QString& name) {
   throw Mistake{Texts::tr("the value of --color is auto, always or never, not \"%1\"").arg(name)};
 }
 
-CopyFormat copyFormatNamed(const QString& name) {
+TableFormat tableFormatNamed(const QString& name) {
   const QString lower = name.toLower();
-  if (lower == QStringLiteral("text")) return CopyFormat::Text;
-  if (lower == QStringLiteral("tsv")) return CopyFormat::Tsv;
-  if (lower == QStringLiteral("csv")) return CopyFormat::Csv;
-  if (lower == QStringLiteral("json")) return CopyFormat::Json;
+  if (lower == QStringLiteral("text")) return TableFormat::Text;
+  if (lower == QStringLiteral("tsv")) return TableFormat::Tsv;
+  if (lower == QStringLiteral("csv")) return TableFormat::Csv;
+  if (lower == QStringLiteral("json")) return TableFormat::Json;
   throw Mistake{Texts::tr("there is no format \"%1\"; the formats are text, tsv, csv and json").arg(name)};
+}
+
+int versionOf(const QString& text) {
+  bool isNumber = false;
+  const int number = text.toInt(&isNumber);
+  if (isNumber && number >= 1) return number;
+  throw Mistake{Texts::tr("\"%1\" is no number of a version").arg(text)};
+}
+
+QDate dayOf(const QString& text) {
+  const QDate day = QDate::fromString(text, Qt::ISODate);
+  if (day.isValid()) return day;
+  throw Mistake{Texts::tr("the value of --on is a day such as 2004-03-31, not \"%1\"").arg(text)};
 }
 
 }  // namespace
@@ -103,7 +116,7 @@ CopiesRequest copiesRequestOf(const Given& given) {
   if (!arguments.isEmpty()) request.searchText = arguments.takeFirst();
   for (const QString& listing : arguments) request.listings.push_back(listing);
   request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
-  request.format = copyFormatNamed(given.text("--format").value_or(QStringLiteral("text")));
+  request.format = tableFormatNamed(given.text("--format").value_or(QStringLiteral("text")));
   request.singleOnly = given.has("--single");
   if (given.has("--by-volume") && given.has("--by-folder")) {
     throw Mistake{Texts::tr("there are sums for volumes or for folders, not for both at once")};
@@ -116,6 +129,28 @@ CopiesRequest copiesRequestOf(const Given& given) {
   if (const auto limit = given.text("--limit")) request.limit = limitOf(*limit);
   request.isQuiet = given.has("--quiet");
   request.useCache = !given.has("--no-cache");
+  return request;
+}
+
+CompareRequest compareRequestOf(const Given& given) {
+  CompareRequest request;
+  const QStringList arguments = given.texts();
+  request.before = textOf(given.needed);
+  request.after = arguments.value(0);
+  if (arguments.size() > 1) {
+    throw Mistake{Texts::tr("compare does not know what to do with \"%1\"").arg(arguments[1])};
+  }
+  if (const auto version = given.text("--number")) request.version = versionOf(*version);
+  if (const auto day = given.text("--on")) request.day = dayOf(*day);
+  if (request.version && request.day) {
+    throw Mistake{Texts::tr("--number and --on both say which version is meant")};
+  }
+  request.format = tableFormatNamed(given.text("--format").value_or(QStringLiteral("text")));
+  request.byFolder = given.has("--by-folder");
+  request.hasHeader = given.has("--header");
+  request.endsWithNul = given.has("--null");
+  if (const auto limit = given.text("--limit")) request.limit = limitOf(*limit);
+  request.isQuiet = given.has("--quiet");
   return request;
 }
 

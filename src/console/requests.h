@@ -56,5 +56,6 @@ struct Mistake {
 /// These throw Mistake.
 FindRequest findRequestOf(const Given& given);
 CopiesRequest copiesRequestOf(const Given& given);
+CompareRequest compareRequestOf(const Given& given);
 
 }  // namespace quorvin

@@ -1,5 +1,6 @@
 #include "catalogue/listing_comparison.h"
 
+#include "catalogue/opened_bytes.h"
 #include "catalogue/plain_comparison.h"
 #include "faults/runtime_fault.h"
 #include "support/fault_number.h"
@@ -8,7 +9,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <map>
 #include <random>
 
@@ -16,20 +16,10 @@ namespace quorvin {
 namespace {
 
 using test::listingOf;
+using test::openerOf;
 using test::PlainEntry;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-ListingOpener openerOf(const QByteArray& bytes) {
-  return [bytes] {
-    return [bytes, at = qsizetype{0}](std::span<char> buffer) mutable {
-      const qsizetype count = std::min(static_cast<qsizetype>(buffer.size()), bytes.size() - at);
-      std::memcpy(buffer.data(), bytes.constData() + at, static_cast<std::size_t>(count));
-      at += count;
-      return static_cast<std::size_t>(count);
-    };
-  };
-}
 
 /// The comparison of two listings.
 class Compared {
@@ -81,6 +71,12 @@ std::vector<std::string> changes(const std::vector<PlainEntry>& before,
   return Compared(before, after).changes();
 }
 
+/// The same of listings that have a folder in common.
+std::vector<std::string> changesBeside(std::vector<PlainEntry> before, std::vector<PlainEntry> after) {
+  for (std::vector<PlainEntry>* listing : {&before, &after}) listing->push_back({"CD", "\\", "in both"});
+  return changes(before, after);
+}
+
 TEST(ListingComparisons, SayWhatCameWentAndChanged) {
   const Compared compared(
       {{"CD", "\\a\\", "same"}, {"CD", "\\a\\", "larger", 10}, {"CD", "\\b\\", "gone", 7}},
@@ -103,23 +99,23 @@ TEST(ListingComparisons, AFileWithoutSizeAndDateChangesWhenItGetsThem) {
 }
 
 TEST(ListingComparisons, TheSameFileElsewhereWasMoved) {
-  EXPECT_THAT(changes({{"CD", "\\a\\", "x", 10}}, {{"CD", "\\b\\", "X", 10}}),
+  EXPECT_THAT(changesBeside({{"CD", "\\a\\", "x", 10}}, {{"CD", "\\b\\", "X", 10}}),
               ElementsAre("> \\b\\X < \\a\\x"));
-  EXPECT_THAT(changes({{"CD", "\\a\\", "x", 10, 15}}, {{"CD", "\\b\\", "x", 10, 16}}),
+  EXPECT_THAT(changesBeside({{"CD", "\\a\\", "x", 10, 15}}, {{"CD", "\\b\\", "x", 10, 16}}),
               ElementsAre("> \\b\\x < \\a\\x"))
       << "a copy may have another date";
-  EXPECT_THAT(changes({{"CD", "\\a\\", "x", 10}}, {{"CD", "\\b\\", "x", 11}}),
+  EXPECT_THAT(changesBeside({{"CD", "\\a\\", "x", 10}}, {{"CD", "\\b\\", "x", 11}}),
               ElementsAre("- \\a\\x", "+ \\b\\x"));
-  EXPECT_THAT(changes({{"CD", "\\a\\", "x", 10}}, {{"CD", "\\b\\", "y", 10}}),
+  EXPECT_THAT(changesBeside({{"CD", "\\a\\", "x", 10}}, {{"CD", "\\b\\", "y", 10}}),
               ElementsAre("- \\a\\x", "+ \\b\\y"));
 }
 
 TEST(ListingComparisons, AnEmptyFileIsMovedOnlyWithItsDate) {
-  EXPECT_THAT(changes({{"CD", "\\a\\", "x", 0, 15}}, {{"CD", "\\b\\", "x", 0, 15}}),
+  EXPECT_THAT(changesBeside({{"CD", "\\a\\", "x", 0, 15}}, {{"CD", "\\b\\", "x", 0, 15}}),
               ElementsAre("> \\b\\x < \\a\\x"));
-  EXPECT_THAT(changes({{"CD", "\\a\\", "x", 0, 15}}, {{"CD", "\\b\\", "x", 0, 16}}),
+  EXPECT_THAT(changesBeside({{"CD", "\\a\\", "x", 0, 15}}, {{"CD", "\\b\\", "x", 0, 16}}),
               ElementsAre("- \\a\\x", "+ \\b\\x"));
-  EXPECT_THAT(changes({{"CD", "\\a\\", "x", {}}}, {{"CD", "\\b\\", "x", {}}}),
+  EXPECT_THAT(changesBeside({{"CD", "\\a\\", "x", {}}}, {{"CD", "\\b\\", "x", {}}}),
               ElementsAre("- \\a\\x", "+ \\b\\x"));
 }
 
@@ -137,6 +133,16 @@ TEST(ListingComparisons, TheOnlyVolumeMayHaveAnotherName) {
   EXPECT_THAT(changes({{"CD", "\\a\\", "x", 10}, {"DVD", "\\a\\", "y"}},
                       {{"CD", "\\a\\", "z"}, {"DVD", "\\a\\", "x", 10}, {"DVD", "\\a\\", "y"}}),
               ElementsAre("+ CD\\a\\z", "> DVD\\a\\x < CD\\a\\x"));
+}
+
+TEST(ListingComparisons, ADiskMayBeMountedElsewhere) {
+  const Compared compared(
+      {{"CD", "\\mnt\\cd\\a\\", "x"}, {"CD", "\\mnt\\cd\\", "y"}},
+      {{"CD", "\\media\\", "y"}, {"CD", "\\media\\a\\", "x"}, {"CD", "\\media\\b\\", "z", 7}});
+  EXPECT_THAT(compared.changes(), ElementsAre("+ \\media\\b\\z"));
+  EXPECT_TRUE(compared.comparison.rule().belowTop);
+  EXPECT_EQ(compared.before.top(), "\\mnt\\cd\\");
+  EXPECT_EQ(compared.after.top(), "\\media\\");
 }
 
 TEST(ListingComparisons, NamesThatAListingHasTwiceAreCompared) {

@@ -35,7 +35,7 @@ TEST(CopiesRequestOf, HasTheDefaultsWithoutOptions) {
   const CopiesRequest request = copiesRequestOf(GivenOptions().given);
   EXPECT_EQ(request.searchText, QString());
   EXPECT_EQ(request.desiredMatch, u"50"_qs);
-  EXPECT_EQ(request.format, CopyFormat::Text);
+  EXPECT_EQ(request.format, TableFormat::Text);
   EXPECT_EQ(request.sumBy, CopiesRequest::SumBy::Nothing);
   EXPECT_FALSE(request.singleOnly || request.withEmpty || request.hasHeader || request.endsWithNul);
   EXPECT_FALSE(request.isQuiet || request.limit);
@@ -56,7 +56,7 @@ TEST(CopiesRequestOf, TakesWordsFirstAndListingsBehindThem) {
   EXPECT_EQ(request.searchText, u"harbour live"_qs);
   EXPECT_EQ(request.listings, (std::vector<QString>{u"a.txt"_qs, u"-"_qs}));
   EXPECT_EQ(request.desiredMatch, u"99"_qs);
-  EXPECT_EQ(request.format, CopyFormat::Json);
+  EXPECT_EQ(request.format, TableFormat::Json);
   EXPECT_EQ(request.sumBy, CopiesRequest::SumBy::Folder);
   EXPECT_TRUE(request.singleOnly && request.withEmpty && request.hasHeader && request.endsWithNul);
   EXPECT_EQ(request.limit, 7);

@@ -1,0 +1,64 @@
+// Differences of two listings as rows on a stream.
+#pragma once
+
+#include "catalogue/listing_comparison.h"
+#include "console/table_row.h"
+
+#include <QLocale>
+
+#include <string>
+
+namespace quorvin {
+
+/// Changes of the files that are right in one folder.
+struct FolderChanges {
+  const FolderTree* tree = nullptr;
+  /// The folder in which the files are, or were if they are gone.
+  std::uint32_t folder = 0;
+  std::array<FileSum, 4> sums{};
+};
+
+/// Makes rows of changes. All are appended to a text, UTF-8. In text a row starts with "+" for what was
+/// added,
+/// "-" for what was removed, "*" for what has changed and ">" for what was moved.
+class CompareRows {
+ public:
+  struct Options {
+    TableFormat format = TableFormat::Text;
+    /// Rows of tsv and csv end with NUL instead of a line feed.
+    bool endsWithNul = false;
+    bool isForTerminal = false;
+  };
+
+  /// `comparison` must outlive the object.
+  CompareRows(const ListingComparison& comparison, const Options& options, const QLocale& locale);
+
+  /// The titles of the columns, in tsv and csv.
+  void addHead(std::string& text, bool byFolder) const;
+  void addChange(std::string& text, const FileChange& change) const;
+  void addFolder(std::string& text, const FolderChanges& changes) const;
+
+  /// "3 files, 20.5 MB" in the language of the user.
+  QString sumText(const FileSum& sum) const;
+
+ private:
+  bool isText() const { return options_.format == TableFormat::Text; }
+  void addLine(std::string& text, const FileChange& change) const;
+  void addTexts(std::string& text, const FileChange& change) const;
+  void addPath(std::string& text, const FolderTree& tree, const ComparedFile& file) const;
+  void addVolume(std::string& text, const FolderTree& tree, std::uint32_t folder) const;
+  std::string factsOf(const ComparedFile& file) const;
+  QString sizeText(std::int64_t bytes) const;
+
+  const ListingComparison& comparison_;
+  Options options_;
+  QLocale locale_;
+  CellForm cells_;
+  /// Only where one of the listings has more than one volume does a line say which.
+  bool withVolume_;
+};
+
+/// The sums of each folder in which something has changed, in the order of the changes.
+std::vector<FolderChanges> changesOfFolders(const ListingComparison& comparison);
+
+}  // namespace quorvin
