@@ -128,8 +128,15 @@ struct IndexRequest {
 /// many, stopStatus() after a signal.
 int runIndex(const IndexRequest& request);
 
+struct IndexOutcome {
+  /// As runIndex() gives it.
+  int status = 0;
+  /// A fault ended it, which has been reported: what was written is not the listing.
+  bool hasFailed = false;
+};
+
 /// The same with a writer in place of IndexRequest::output.
-int indexInto(FileWriter& writer, const IndexRequest& request);
+IndexOutcome indexInto(FileWriter& writer, const IndexRequest& request);
 
 /// What the command line asked of "import", each option as it was given; empty where it was not.
 struct ImportCommand {

@@ -29,8 +29,9 @@ class Comparing {
     loadUserSources(state_, locale_, messages_);
     watchStopSignal();
     ComparedSources sources(request_, state_);
-    const int listed = sources.find();
+    const bool areListed = sources.find();
     if (stopSignalled()) return stopStatus();
+    if (!areListed) return 2;
     ComparedListing before(sources.before(), locale_);
     ComparedListing after(sources.after(), locale_);
     ListingComparison comparison(before, after);
@@ -46,7 +47,7 @@ class Comparing {
     write(rows, comparison);
     if (stopSignalled()) return stopStatus();
     report(rows, comparison);
-    if (listed != 0) return listed;
+    if (sources.status() != 0) return sources.status();
     return comparison.changes().empty() ? 0 : 1;
   }
 

@@ -46,7 +46,7 @@ ComparedSources::ComparedSources(const CompareRequest& request, const ProgramSta
 
 ComparedSources::~ComparedSources() = default;
 
-int ComparedSources::find() {
+bool ComparedSources::find() {
   if (asksForVersion()) {
     const QString listing = historyOf(request_.before);
     before_ = openerOfVersion(listing);
@@ -55,7 +55,7 @@ int ComparedSources::find() {
     before_ = openerOf(request_.before);
     after_ = openerOf(request_.after);
   }
-  return status_;
+  return areListed_;
 }
 
 bool ComparedSources::asksForVersion() const {
@@ -120,8 +120,10 @@ ListingOpener ComparedSources::openerOfFolder(const QString& path) {
   IndexRequest request;
   request.folder = path;
   request.isQuiet = request_.isQuiet;
-  status_ = std::max(status_, indexInto(listing.writer(), request));
-  listing.finish();
+  const IndexOutcome outcome = indexInto(listing.writer(), request);
+  status_ = std::max(status_, outcome.status);
+  areListed_ = areListed_ && !outcome.hasFailed;
+  if (!outcome.hasFailed) listing.finish();
   return openerOfFile(listing.path());
 }
 

@@ -27,9 +27,10 @@ class ComparedSources {
   ~ComparedSources();
 
   /// Finds both. Throws RuntimeFault with a sentence where there is no such listing, folder or version.
-  /// Otherwise the exit status of listing the folders, where that was not 0: 2 where they could not be listed
-  /// as a whole, which has been reported.
-  int find();
+  /// Otherwise false where a folder could not be listed, which has been reported.
+  bool find();
+  /// The exit status of listing the folders: 2 where names were left out, which has been reported.
+  int status() const { return status_; }
 
   const ListingOpener& before() const { return before_; }
   const ListingOpener& after() const { return after_; }
@@ -50,6 +51,7 @@ class ComparedSources {
   ListingOpener after_;
   std::vector<std::unique_ptr<FileAside>> listedFolders_;
   int status_ = 0;
+  bool areListed_ = true;
 };
 
 }  // namespace quorvin

@@ -160,7 +160,7 @@ class Indexing {
 
 namespace {
 
-int runIndexing(const IndexRequest& request, const std::function<void(Indexing&)>& run) {
+IndexOutcome runIndexing(const IndexRequest& request, const std::function<void(Indexing&)>& run) {
   watchStopSignal();
   Indexing indexing(request);
   bool failed = false;
@@ -174,19 +174,19 @@ int runIndexing(const IndexRequest& request, const std::function<void(Indexing&)
   indexing.reportErrors();
   if (failed) {
     printError(failure);
-    return 2;
+    return {2, true};
   }
-  if (indexing.interrupted()) return stopStatus();
-  return indexing.isComplete() ? 0 : 2;
+  if (indexing.interrupted()) return {stopStatus(), false};
+  return {indexing.isComplete() ? 0 : 2, false};
 }
 
 }  // namespace
 
 int runIndex(const IndexRequest& request) {
-  return runIndexing(request, [](Indexing& indexing) { indexing.run(); });
+  return runIndexing(request, [](Indexing& indexing) { indexing.run(); }).status;
 }
 
-int indexInto(FileWriter& writer, const IndexRequest& request) {
+IndexOutcome indexInto(FileWriter& writer, const IndexRequest& request) {
   return runIndexing(request, [&](Indexing& indexing) { indexing.runInto(writer); });
 }
 

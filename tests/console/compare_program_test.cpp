@@ -6,6 +6,9 @@
 
 #include <QDateTime>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace quorvin {
 namespace {
 
@@ -83,6 +86,21 @@ TEST_F(CompareProgram, AFolderIsListedAsItIsNow) {
   EXPECT_TRUE(ended.output.startsWith("{\"change\":\"added\",\"size\":1,")) << ended.output.toStdString();
   EXPECT_EQ(ended.output.count('\n'), 1);
   EXPECT_EQ(ended.status, 1);
+}
+
+/// Else everything would seem to be gone.
+TEST_F(CompareProgram, AFolderThatCannotBeListedIsNotCompared) {
+  for (int i = 0; i < 2000; ++i) folder.writeFile(u"Music/%1.mp3"_qs.arg(i), "");
+  process.setChildProcessModifier([] {
+    const rlimit small{100'000, RLIM_INFINITY};
+    std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+  });
+  const test::Ended ended = compare({u"old.txt"_qs, u"Music"_qs});
+  EXPECT_EQ(ended.output, "");
+  EXPECT_TRUE(ended.errors.startsWith(u"quorvin-cli: Disk full: "_qs)) << ended.errors.toStdString();
+  EXPECT_EQ(ended.errors.count(u'\n'), 1);
+  EXPECT_EQ(ended.status, 2);
 }
 
 TEST_F(CompareProgram, SaysWhereBothAreComparedBelowAnotherFolder) {
