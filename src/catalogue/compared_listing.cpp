@@ -206,7 +206,7 @@ std::vector<FileMark> ComparedListing::takeMarks(const PathRule& rule) {
     for (; mark != marks.end() && mark->place < end; ++mark) mark->path = hashOf(mark->path, folder);
   }
   std::ranges::sort(marks, {},
-                    [](const FileMark& mark) { return std::tuple(mark.path, mark.values, mark.place); });
+                    [](const FileMark& one) { return std::tuple(one.path, one.values, one.place); });
   return marks;
 }
 
