@@ -1,5 +1,6 @@
 #include "catalogue/copies_model.h"
 
+#include "catalogue/sum_texts.h"
 #include "platform/text_direction.h"
 #include "platform/text_encoding.h"
 #include "texts/texts.h"
@@ -228,7 +229,7 @@ QString CopiesModel::folderText(std::uint32_t folder) const {
 }
 
 QString CopiesModel::sizeText(std::int64_t bytes) const {
-  return locale_.formattedDataSize(bytes, 2, QLocale::DataSizeTraditionalFormat);
+  return quorvin::sizeText(bytes, locale_);
 }
 
 std::optional<HitRow> CopiesModel::fileOf(const QModelIndex& index) const {

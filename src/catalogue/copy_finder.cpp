@@ -1,5 +1,6 @@
 #include "catalogue/copy_finder.h"
 
+#include "catalogue/sum_texts.h"
 #include "platform/text_encoding.h"
 #include "search/match/search_query.h"
 #include "search/segment/segment_store.h"
@@ -90,9 +91,7 @@ bool CopyFinder::compare() {
 
 QStringList CopyFinder::sumLines() const {
   const auto number = [this](std::int64_t value) { return parts_.locale.toString(qlonglong{value}); };
-  const auto size = [this](std::int64_t bytes) {
-    return parts_.locale.formattedDataSize(bytes, 2, QLocale::DataSizeTraditionalFormat);
-  };
+  const auto size = [this](std::int64_t bytes) { return sizeText(bytes, parts_.locale); };
   QStringList lines;
   if (wish_.singleOnly) {
     const FileSum single = sumOf(inFolders_);

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
 #include <tuple>
 #include <utility>
 
@@ -225,6 +224,10 @@ const FolderTree& ListingComparison::shownTree(const FileChange& change) const {
   return change.after != kNoFile ? after_.folders() : before_.folders();
 }
 
+std::string ListingComparison::shownPath(const FileChange& change) const {
+  return (change.after != kNoFile ? after_ : before_).pathOf(shownFile(change).folder);
+}
+
 void ListingComparison::sortChanges() {
   struct Folder {
     std::string path;
@@ -237,7 +240,7 @@ void ListingComparison::sortChanges() {
     const std::uint32_t folder = shownFile(change).folder;
     const bool isAsBefore =
         !folders.empty() && folders.back().isAfter == isAfter && folders.back().number == folder;
-    if (!isAsBefore) folders.push_back({(isAfter ? after_ : before_).pathOf(folder), isAfter, folder});
+    if (!isAsBefore) folders.push_back({shownPath(change), isAfter, folder});
   }
   std::ranges::sort(folders, {}, &Folder::path);
   std::array<std::vector<std::uint32_t>, 2> ranks;

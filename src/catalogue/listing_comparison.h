@@ -56,6 +56,8 @@ class ListingComparison {
   const ComparedFile& shownFile(const FileChange& change) const;
   /// The tree that has its folder.
   const FolderTree& shownTree(const FileChange& change) const;
+  /// What its folder is known by in both listings, by rule().
+  std::string shownPath(const FileChange& change) const;
 
  private:
   /// A pair of places with the same path, or one with none.

@@ -1,5 +1,6 @@
 // "compare": what differs between two listings.
 #include "catalogue/listing_comparison.h"
+#include "catalogue/sum_texts.h"
 #include "console/commands.h"
 #include "console/compare_rows.h"
 #include "console/compared_sources.h"
@@ -46,7 +47,7 @@ class Comparing {
                            locale_);
     write(rows, comparison);
     if (stopSignalled()) return stopStatus();
-    report(rows, comparison);
+    report(comparison);
     if (sources.status() != 0) return sources.status();
     return comparison.changes().empty() ? 0 : 1;
   }
@@ -84,17 +85,17 @@ class Comparing {
     output.flush();
   }
 
-  void report(const CompareRows& rows, const ListingComparison& comparison) const {
+  void report(const ListingComparison& comparison) const {
     if (request_.isQuiet) return;
     if (comparison.rule().belowTop) {
       printErrorLog(Texts::tr("Compared below %1 and %2, since they have no folder in common")
                         .arg(QString::fromStdString(comparison.before().top()),
                              QString::fromStdString(comparison.after().top())));
     }
-    const auto sum = [&](ChangeKind kind) { return rows.sumText(comparison.sum(kind)); };
+    const auto sum = [&](ChangeKind kind) { return sumText(comparison.sum(kind), locale_); };
     printErrorLog(Texts::tr("Added: %1. Removed: %2. Changed: %3. Moved: %4. The same: %5")
                       .arg(sum(ChangeKind::Added), sum(ChangeKind::Removed), sum(ChangeKind::Changed),
-                           sum(ChangeKind::Moved), rows.sumText(comparison.same())));
+                           sum(ChangeKind::Moved), sumText(comparison.same(), locale_)));
   }
 
   const CompareRequest& request_;

@@ -1,9 +1,10 @@
 #include "console/compare_rows.h"
 
+#include "catalogue/sum_texts.h"
 #include "dates/general_date.h"
 #include "texts/texts.h"
 
-#include <QDateTime>
+#include <QStringList>
 
 #include <initializer_list>
 #include <string_view>
@@ -21,7 +22,10 @@ std::size_t numberOf(ChangeKind kind) {
 }
 
 std::string isoText(DateValue date) {
-  return dateTimeOf(date).toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")).toStdString();
+  const DayAndSecond moment = splitDateValue(date);
+  std::string text = isoDay(moment.day) + 'T';
+  addClock(text, moment.second);
+  return text;
 }
 
 void addSize(TableRow& row, std::string_view key, const ComparedFile* file) {
@@ -132,7 +136,7 @@ void CompareRows::addFolder(std::string& text, const FolderChanges& changes) con
     if (changes.sums[kind].files == 0) continue;
     text += ' ';
     text += kSigns[kind];
-    text += ' ' + sumText(changes.sums[kind]).toStdString() + ';';
+    text += ' ' + sumText(changes.sums[kind], locale_).toStdString() + ';';
   }
   text.back() = '\n';
 }
@@ -151,19 +155,9 @@ void CompareRows::addVolume(std::string& text, const FolderTree& tree, std::uint
 /// Size and date, as far as the listing has them.
 std::string CompareRows::factsOf(const ComparedFile& file) const {
   QStringList facts;
-  if (file.size >= 0) facts += sizeText(file.size);
+  if (file.size >= 0) facts += sizeText(file.size, locale_);
   if (file.modified) facts += generalDateText(*file.modified, locale_);
   return facts.join(QStringLiteral(", ")).toStdString();
-}
-
-QString CompareRows::sizeText(std::int64_t bytes) const {
-  return locale_.formattedDataSize(bytes, 2, QLocale::DataSizeTraditionalFormat);
-}
-
-QString CompareRows::sumText(const FileSum& sum) const {
-  const QString files =
-      sum.files == 1 ? Texts::tr("%1 file") : Texts::tr("%1 files", nullptr, Texts::plural(sum.files));
-  return files.arg(locale_.toString(qlonglong{sum.files})) + QStringLiteral(", ") + sizeText(sum.bytes);
 }
 
 std::vector<FolderChanges> changesOfFolders(const ListingComparison& comparison) {
@@ -171,10 +165,11 @@ std::vector<FolderChanges> changesOfFolders(const ListingComparison& comparison)
   std::string before;
   for (const FileChange& change : comparison.changes()) {
     const ComparedFile& file = comparison.shownFile(change);
-    const FolderTree& tree = comparison.shownTree(change);
     // The same folder may be in the trees of both listings.
-    const std::string path = tree.volumes()[tree.volumeOf(file.folder)].name + '\n' + tree.path(file.folder);
-    if (folders.empty() || path != before) folders.push_back({&tree, file.folder, {}});
+    const std::string path = comparison.shownPath(change);
+    if (folders.empty() || path != before) {
+      folders.push_back({&comparison.shownTree(change), file.folder, {}});
+    }
     before = path;
     folders.back().sums[numberOf(change.kind)].add(std::max<std::int64_t>(file.size, 0));
   }

@@ -38,9 +38,6 @@ class CompareRows {
   void addChange(std::string& text, const FileChange& change) const;
   void addFolder(std::string& text, const FolderChanges& changes) const;
 
-  /// "3 files, 20.5 MB" in the language of the user.
-  QString sumText(const FileSum& sum) const;
-
  private:
   bool isText() const { return options_.format == TableFormat::Text; }
   void addLine(std::string& text, const FileChange& change) const;
@@ -48,7 +45,6 @@ class CompareRows {
   void addPath(std::string& text, const FolderTree& tree, const ComparedFile& file) const;
   void addVolume(std::string& text, const FolderTree& tree, std::uint32_t folder) const;
   std::string factsOf(const ComparedFile& file) const;
-  QString sizeText(std::int64_t bytes) const;
 
   const ListingComparison& comparison_;
   Options options_;

@@ -1,5 +1,6 @@
 #include "console/copy_rows.h"
 
+#include "catalogue/sum_texts.h"
 #include "texts/texts.h"
 
 #include <QFileInfo>
@@ -24,11 +25,6 @@ void fill(std::string& text, std::string_view pattern, std::initializer_list<std
       text += pattern[i];
     }
   }
-}
-
-QString fileCountText(std::int64_t files, const QLocale& locale) {
-  return (files == 1 ? Texts::tr("%1 file") : Texts::tr("%1 files", nullptr, Texts::plural(files)))
-      .arg(locale.toString(qlonglong{files}));
 }
 
 }  // namespace
@@ -258,11 +254,11 @@ std::int64_t CopyRows::volumesOf(const std::vector<std::uint32_t>& folders) cons
 }
 
 std::string CopyRows::sizeText(std::int64_t bytes) const {
-  return locale_.formattedDataSize(bytes, 2, QLocale::DataSizeTraditionalFormat).toStdString();
+  return quorvin::sizeText(bytes, locale_).toStdString();
 }
 
 std::string CopyRows::sumText(const FileSum& sum) const {
-  return fileCountText(sum.files, locale_).toStdString() + ", " + sizeText(sum.bytes);
+  return quorvin::sumText(sum, locale_).toStdString();
 }
 
 }  // namespace quorvin

@@ -58,6 +58,22 @@ TEST_F(ComparisonRows, KeepTheirCellsWhateverTheNames) {
                          "\"name\":\"a, \\\"b\\\"\\u0009\\u001b[2J\"}\n"));
 }
 
+TEST(FoldersOfAComparison, AreOneWhateverTheVolumeIsCalled) {
+  const auto block = [](const QByteArray& volume, const QByteArray& names) {
+    QByteArray listing = blockHead(volume, "\\a\\");
+    for (const char name : names) listing += entryLine(QByteArray(1, name), "1");
+    return listing;
+  };
+  ComparedListing before(test::openerOf(block("CD", "ace")), QLocale::c());
+  ComparedListing after(test::openerOf(block("COPY", "bd")), QLocale::c());
+  ListingComparison comparison(before, after);
+  ASSERT_TRUE(comparison.run([] { return false; }));
+  const std::vector<FolderChanges> folders = changesOfFolders(comparison);
+  ASSERT_EQ(folders.size(), 1U);
+  EXPECT_EQ(folders[0].sums[0], (FileSum{2, 2})) << "added";
+  EXPECT_EQ(folders[0].sums[1], (FileSum{3, 3})) << "removed";
+}
+
 TEST_F(ComparisonRows, SumUpFoldersInTheOrderOfTheChanges) {
   const std::vector<FolderChanges> folders = changesOfFolders(comparison_);
   ASSERT_EQ(folders.size(), 2U);
