@@ -9,7 +9,9 @@
 #include <thread>
 #include <vector>
 
-#ifdef __GLIBC__
+// A sanitizer keeps freed memory in a store of its own.
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#define QUORVIN_HAS_STORES
 #include <cstdio>
 #include <malloc.h>
 #endif
@@ -18,7 +20,7 @@ namespace quorvin::test {
 
 namespace {
 
-#ifdef __GLIBC__
+#ifdef QUORVIN_HAS_STORES
 
 /// Of this process: how many stores of freed memory it has.
 int storeCount() {
