@@ -16,8 +16,6 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::uint32_t kMostPlaces = UINT32_MAX - 1;
-
 std::uint64_t hashOf(std::string_view text, std::uint64_t seed = 0) {
   return XXH3_64bits_withSeed(text.data(), text.size(), seed);
 }
@@ -46,9 +44,7 @@ class EveryEntry : public HitSink {
   bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override {
     const std::uint32_t first = hits.front().entry;
     const std::uint32_t end = hits.back().entry + 1;
-    if (end - first > kMostPlaces - place_) {
-      throw RuntimeFault(FaultNumber::Overflow, Texts::tr("There are more than %1 files").arg(kMostPlaces));
-    }
+    checkPlaces(place_, end - first);
     const std::span<const std::uint32_t> starts = segment->arrays().blockStarts.all();
     std::uint32_t block = blockAt(starts, first);
     for (std::uint32_t entry = first; entry < end; ++block) {

@@ -13,7 +13,6 @@ namespace quorvin {
 namespace {
 
 constexpr std::size_t kRecordsInPiece = std::size_t{1} << 11;
-constexpr std::uint32_t kMostPlaces = UINT32_MAX - 1;
 /// From this size on a size takes up the last column of the entry text.
 constexpr std::int64_t kSizeInText = 1'000'000'000;
 constexpr std::uint32_t kVisitsBetweenLooks = 4096;
@@ -81,6 +80,12 @@ void sortByHash(std::vector<FileRecord>& records) {
 
 }  // namespace
 
+void checkPlaces(std::uint32_t places, std::uint32_t more) {
+  constexpr std::uint32_t kMostPlaces = UINT32_MAX - 1;
+  if (more <= kMostPlaces - places) return;
+  throw RuntimeFault(FaultNumber::Overflow, Texts::tr("There are more than %1 files").arg(kMostPlaces));
+}
+
 std::string_view fileNameIn(std::string_view entryText, std::int64_t size) {
   if (size < kSizeInText || entryText.size() <= kNameColumns) return entryText;
   const std::string_view name = entryText.substr(0, bytesOfCharacters(entryText, kNameColumns));
@@ -128,9 +133,7 @@ std::span<const ListedFiles::Listed> ListedFiles::segmentsAt(std::size_t listing
 bool ListedFiles::addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) {
   const std::uint32_t first = hits.front().entry;
   const std::uint32_t last = hits.back().entry + 1;
-  if (last - first > kMostPlaces - places_) {
-    throw RuntimeFault(FaultNumber::Overflow, Texts::tr("There are more than %1 files").arg(kMostPlaces));
-  }
+  checkPlaces(places_, last - first);
   const std::uint32_t base = places_ - first;
   readBatch(*segment, base, first, last);
   // The same listing may come twice in a row, with the same segments.

@@ -37,6 +37,9 @@ struct FileRecord {
 /// column of that text, behind the name's own columns.
 std::string_view fileNameIn(std::string_view entryText, std::int64_t size);
 
+/// Throws RuntimeFault (Overflow) where `more` entries after those of `places` are more than can be numbered.
+void checkPlaces(std::uint32_t places, std::uint32_t more);
+
 /// The sink of a run over all listings that finds every entry: SearchRun with kEveryEntry for its text. The
 /// entries are numbered from 0 in the order in which they come; such a number is a *place*. For each file
 /// with a size of its own, a record of 12 bytes goes into one of 256 parts by its hash. Beside that, folders

@@ -27,7 +27,7 @@ double dateOf(const ComparedFile& file) {
   return file.modified.value_or(-std::numeric_limits<double>::infinity());
 }
 
-QString lowerCaseOf(std::string_view name) {
+QString foldedName(std::string_view name) {
   return simpleLowerCase(decodeSystemText(QByteArrayView(name.data(), static_cast<qsizetype>(name.size()))));
 }
 
@@ -121,7 +121,7 @@ bool ListingComparison::haveSamePath(std::uint32_t before, std::uint32_t after) 
 bool ListingComparison::areAlike(std::uint32_t before, std::uint32_t after) const {
   const ComparedFile& one = before_.files()[before];
   const ComparedFile& other = after_.files()[after];
-  return one.size == other.size && lowerCaseOf(one.name) == lowerCaseOf(other.name);
+  return one.size == other.size && foldedName(one.name) == foldedName(other.name);
 }
 
 /// Finds for each file that is gone one like it that has come.
