@@ -2,6 +2,8 @@
 
 #include <QtEndian>
 
+#include <random>
+
 namespace quorvin::test {
 namespace {
 
@@ -223,6 +225,13 @@ QByteArray deflated(const QByteArray& content) {
   constexpr qsizetype kBehind = 4;
   if (content.isEmpty()) return QByteArray("\x03\x00", 2);
   return qCompress(content).sliced(kBefore).chopped(kBehind);
+}
+
+QByteArray madeNoise(qsizetype size) {
+  std::mt19937 random(20041115);
+  QByteArray bytes(size, Qt::Uninitialized);
+  for (char& byte : bytes) byte = static_cast<char>(random());
+  return bytes;
 }
 
 std::uint32_t checksumOf(const QByteArray& content) {

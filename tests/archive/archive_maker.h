@@ -71,6 +71,9 @@ QByteArray nestedOverlapOf(int count, const QByteArray& kernel);
 /// A raw deflate stream.
 QByteArray deflated(const QByteArray& content);
 
+/// So many bytes that packing makes no smaller, the same in each run.
+QByteArray madeNoise(qsizetype size);
+
 std::uint32_t checksumOf(const QByteArray& content);
 
 }  // namespace quorvin::test

@@ -5,20 +5,11 @@
 #include "state/source_list_file.h"
 #include "update/scripted_web_server.h"
 
-#include <random>
-
 namespace quorvin::test {
 
 namespace {
 
 /// Bytes that no packing makes smaller.
-QByteArray noise(qsizetype size) {
-  std::mt19937 random(20041115);
-  QByteArray bytes(size, Qt::Uninitialized);
-  for (char& byte : bytes) byte = static_cast<char>(random());
-  return bytes;
-}
-
 class WindowWork : public SearchFormTest {
  protected:
   WindowWork() {
@@ -52,7 +43,7 @@ class WindowWork : public SearchFormTest {
 class WindowUpdate : public WindowWork {
  protected:
   WindowUpdate() {
-    const QByteArray archive = archiveOf("main.txt", noise(1 << 20));
+    const QByteArray archive = archiveOf("main.txt", madeNoise(1 << 20));
     server_.emplace(std::vector{sends(goodAnswer(archive))});
     state_.WebServer = server_->host();
     messages_.answers = {true};
@@ -83,7 +74,7 @@ TEST_F(WindowUpdate, ARescanMeanwhileIsRefusedAndProgressStaysUntilTheUpdateHasE
   EXPECT_TRUE(couldBeCancelled);
   EXPECT_FALSE(isListed());
   EXPECT_FALSE(progressIsShown());
-  EXPECT_EQ(folder_.readFile(QStringLiteral("main.txt")), noise(1 << 20));
+  EXPECT_EQ(folder_.readFile(QStringLiteral("main.txt")), madeNoise(1 << 20));
   EXPECT_TRUE(controls().WebUpdate->isEnabled());
   EXPECT_TRUE(form().menus().ReScan->isEnabled());
   form().menus().ReScan->trigger();

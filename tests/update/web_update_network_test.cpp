@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <random>
 
 namespace quorvin::test {
 namespace {
@@ -126,17 +125,10 @@ class WebUpdateNetwork : public testing::Test {
   std::optional<ScriptedWebServer> server_;
 };
 
-QByteArray noise(qsizetype size) {
-  std::mt19937 random(20041115);
-  QByteArray bytes(size, Qt::Uninitialized);
-  for (char& byte : bytes) byte = static_cast<char>(random());
-  return bytes;
-}
-
 const QByteArray kHtml = "<html><head><title>Sign in</title></head><body>Please sign in.</body></html>";
 
 TEST_F(WebUpdateNetwork, DownloadsAndUnpacks) {
-  const QByteArray content = noise(3 << 20);
+  const QByteArray content = madeNoise(3 << 20);
   update({sends(goodAnswer(archiveOf("main.txt", content)))});
   EXPECT_EQ(data_.readFile(u"main.txt"_qs), content);
   EXPECT_EQ(data_.readFile(u"main.zip"_qs), archiveOf("main.txt", content));
@@ -157,7 +149,7 @@ TEST_F(WebUpdateNetwork, AsksASecondTimeAndIsUpToDate) {
 }
 
 TEST_F(WebUpdateNetwork, OfAShortBodyFails) {
-  const QByteArray archive = archiveOf("main.txt", noise(100'000));
+  const QByteArray archive = archiveOf("main.txt", madeNoise(100'000));
   QByteArray cut = goodAnswer(archive);
   cut.chop(5000);
   update({sends(goodAnswer(archive)), sends(cut)});
@@ -165,7 +157,7 @@ TEST_F(WebUpdateNetwork, OfAShortBodyFails) {
 }
 
 TEST_F(WebUpdateNetwork, OfABodyWithoutLengthThatIsResetIsNotUnpacked) {
-  const QByteArray archive = archiveOf("main.txt", noise(100'000));
+  const QByteArray archive = archiveOf("main.txt", madeNoise(100'000));
   update({sends(goodAnswer(archive)), sendsAndResets(headersOf("") + archive.first(50'000))});
   expectNothingUnpacked();
   ASSERT_EQ(boxes_.informed.size(), 1U);
@@ -174,7 +166,7 @@ TEST_F(WebUpdateNetwork, OfABodyWithoutLengthThatIsResetIsNotUnpacked) {
 
 TEST_F(WebUpdateNetwork, OfBadChunksIsNotUnpacked) {
   losePatienceSoon();
-  const QByteArray archive = archiveOf("main.txt", noise(10'000));
+  const QByteArray archive = archiveOf("main.txt", madeNoise(10'000));
   const QByteArray chunked = headersOf("Transfer-Encoding: chunked\r\n");
   for (const QByteArray& body :
        {"1000\r\n" + archive.first(4096) + "\r\nzz\r\n" + archive.sliced(4096),
@@ -249,7 +241,7 @@ TEST_F(WebUpdateNetwork, OfHeadersThatDripFails) {
 }
 
 TEST_F(WebUpdateNetwork, LeavesProgressThatCanThenBeClosed) {
-  const QByteArray archive = archiveOf("main.txt", noise(100'000));
+  const QByteArray archive = archiveOf("main.txt", madeNoise(100'000));
   update({sends(goodAnswer(archive)), sends(goodAnswer(archive).chopped(5000))});
   expectFailure(62);
   EXPECT_TRUE(progress_.isVisible());
@@ -271,8 +263,8 @@ TEST_F(WebUpdateNetwork, IsCancelledWithinASecondWhileHeadersDrip) {
 }
 
 TEST_F(WebUpdateNetwork, IsCancelledWithinASecondWhileTheBodyStandsStill) {
-  const QByteArray begin = goodAnswer(noise(100'000)).first(50'000);
-  EXPECT_LT(updateCancelledAfter(200, {sends(goodAnswer(noise(100'000))), sendsAndWaits(begin)}), 1000);
+  const QByteArray begin = goodAnswer(madeNoise(100'000)).first(50'000);
+  EXPECT_LT(updateCancelledAfter(200, {sends(goodAnswer(madeNoise(100'000))), sendsAndWaits(begin)}), 1000);
   expectCancelled();
 }
 
@@ -285,7 +277,7 @@ TEST_F(WebUpdateNetwork, IsCancelledWithinASecondWhileTheBodyPoursIn) {
 }
 
 TEST_F(WebUpdateNetwork, ShowsItsProgress) {
-  const QByteArray archive = archiveOf("main.txt", noise(1 << 20));
+  const QByteArray archive = archiveOf("main.txt", madeNoise(1 << 20));
   auto* bar = progress_.findChild<QProgressBar*>(u"bar"_qs);
   std::vector<int> values;
   QObject::connect(bar, &QProgressBar::valueChanged, bar, [&](int value) { values.push_back(value); });

@@ -3,8 +3,6 @@
 #include "support/time_zone.h"
 #include "update/web_update_fixture.h"
 
-#include <random>
-
 namespace quorvin::test {
 namespace {
 
@@ -16,13 +14,6 @@ using testing::IsEmpty;
 const QString kUpToDate = QStringLiteral("Your data file is up to date.");
 
 /// Bytes that no packing makes smaller.
-QByteArray noise(qsizetype size) {
-  std::mt19937 random(20041115);
-  QByteArray bytes(size, Qt::Uninitialized);
-  for (char& byte : bytes) byte = static_cast<char>(random());
-  return bytes;
-}
-
 QByteArray storedArchive(const QByteArray& content) {
   MadeEntry entry;
   entry.name = "main.txt";
@@ -31,7 +22,7 @@ QByteArray storedArchive(const QByteArray& content) {
 }
 
 TEST_F(WebUpdateTest, GoesThroughAllStepsInOrder) {
-  const QByteArray archive = storedArchive(noise(2386));
+  const QByteArray archive = storedArchive(madeNoise(2386));
   ASSERT_EQ(archive.size(), 2500);
   serve(kDate, archive);
   boxes_.answers = {true};
@@ -48,7 +39,7 @@ TEST_F(WebUpdateTest, GoesThroughAllStepsInOrder) {
                                        u"progress unloaded"_qs, u"WebUpdate on"_qs}));
   EXPECT_THAT(web_.chunkSizes, Each(1024));
   EXPECT_EQ(data_.names(), QStringList({u"main.txt"_qs, u"main.zip"_qs}));
-  EXPECT_EQ(data_.readFile(u"main.txt"_qs), noise(2386));
+  EXPECT_EQ(data_.readFile(u"main.txt"_qs), madeNoise(2386));
   EXPECT_EQ(data_.readFile(u"main.zip"_qs), archive);
   EXPECT_THAT(boxes_.informed, IsEmpty());
   EXPECT_FALSE(view_.pointerIsBusy);
@@ -73,7 +64,7 @@ TEST_F(WebUpdateTest, ThatIsNotWantedEndsThere) {
 }
 
 TEST_F(WebUpdateTest, CountsAnOddLastChunkAsOneMore) {
-  serve(kDate, noise(2501));
+  serve(kDate, madeNoise(2501));
   boxes_.answers = {true};
   click();
   EXPECT_THAT(log_, Contains(u"bar 1478"_qs));
@@ -156,7 +147,7 @@ TEST_F(WebUpdateTest, ComparesInAZoneWestOfGreenwichWithoutDaylightTime) {
 }
 
 TEST_F(WebUpdateTest, WritesOverALongerArchiveWithoutCuttingIt) {
-  const QByteArray earlier = storedArchive(noise(5000));
+  const QByteArray earlier = storedArchive(madeNoise(5000));
   const QByteArray archive = storedArchive("new");
   haveArchive(earlier, utc(2001, 1, 1, 0, 0));
   serve(kDate, archive);
@@ -184,7 +175,7 @@ TEST_F(WebUpdateTest, ThatWasUnpackedWholeDatesFromItsArrival) {
 TEST_F(WebUpdateTest, OfAnEmptyArchiveNameIsReceivedButNotUnpacked) {
   state_.ArchiveFile.clear();
   data_.writeFile(u"keep.txt"_qs, "mine");
-  serve(kDate, storedArchive(noise(3000)));
+  serve(kDate, storedArchive(madeNoise(3000)));
   boxes_.answers = {true};
   click();
   EXPECT_THAT(log_, Contains(u"GET http://lists.example.org/"_qs).Times(2));
@@ -215,7 +206,7 @@ TEST_F(WebUpdateTest, OfNothingIsAnArchiveError) {
 }
 
 TEST_F(WebUpdateTest, LetsEventsRunWhileHeadersAndChunksAreAwaited) {
-  serve(kDate, storedArchive(noise(100)));
+  serve(kDate, storedArchive(madeNoise(100)));
   web_.answers[0].pollsUntilHeaders = 5;
   web_.answers[1].pollsUntilHeaders = 3;
   web_.answers[1].pollsUntilChunk = 4;
@@ -241,7 +232,7 @@ TEST_F(WebUpdateTest, TheArchiveIsOpenedOnceItsFirstBytesAreThere) {
 }
 
 TEST_F(WebUpdateTest, LetsEventsRunAfterEachChunk) {
-  serve(kDate, noise(10 * 1024));
+  serve(kDate, madeNoise(10 * 1024));
   boxes_.answers = {true};
   click();
   EXPECT_EQ(view_.eventPasses, 10);
