@@ -16,7 +16,7 @@ endif()
 
 function(quorvin_compile_together name)
   if(QUORVIN_UNITY)
-    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 20)
   endif()
 endfunction()
 

@@ -18,7 +18,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::size_t kBufferSize = std::size_t{1} << 16;
+constexpr std::size_t kRowsBufferSize = std::size_t{1} << 16;
 
 using SumBy = CopiesRequest::SumBy;
 
@@ -29,7 +29,7 @@ class RowOutput {
 
   /// To be called after each row. False where no more of them can be written.
   bool goesOn() {
-    if (text_.size() >= kBufferSize) flush();
+    if (text_.size() >= kRowsBufferSize) flush();
     return isGood_;
   }
   bool flush() {

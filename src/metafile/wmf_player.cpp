@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::int64_t kPlaceableSize = 22;
 constexpr std::int64_t kHeaderSize = 18;
-constexpr std::int64_t kLeastRecord = 6;
+constexpr std::int64_t kLeastWmfRecord = 6;
 constexpr double kHundredthMillimetresPerInch = 2540;
 /// Without a placeable header, a unit counts as a pixel of the usual screen.
 constexpr int kUsualUnitsPerInch = 96;
@@ -31,10 +31,10 @@ template <typename Use>
 void forEachRecord(const MetafileBytes& records, Use&& use) {
   for (std::int64_t at = 0;;) {
     const std::int64_t size = records.u32(at) * 2LL;
-    if (size < kLeastRecord) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it is damaged or cut short"));
+    if (size < kLeastWmfRecord) throw MetafileFault(QT_TRANSLATE_NOOP("Texts", "it is damaged or cut short"));
     const MetafileBytes record = records.slice(at, size);
     const std::uint16_t function = record.u16(4);
-    if (function == kEnd || !use(function, WmfParameters(record.from(kLeastRecord)))) return;
+    if (function == kEnd || !use(function, WmfParameters(record.from(kLeastWmfRecord)))) return;
     at += size;
   }
 }
@@ -67,7 +67,7 @@ WmfPlace placeOf(const MetafileBytes& file, const MetafileBytes& records) {
   return {*window, kUsualUnitsPerInch};
 }
 
-constexpr std::size_t kMostObjects = 0x10000;
+constexpr std::size_t kMostWmfObjects = 0x10000;
 
 MetafileFont fontOf(const WmfParameters& parameters) {
   MetafileFont font;
@@ -272,7 +272,7 @@ void WmfPlayer::store(MetafileObject object) {
   const auto place = std::ranges::find_if(objects_, isFree);
   if (place != objects_.end()) {
     *place = std::move(object);
-  } else if (objects_.size() < kMostObjects) {
+  } else if (objects_.size() < kMostWmfObjects) {
     objects_.push_back(std::move(object));
   }
 }

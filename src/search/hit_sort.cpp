@@ -1,5 +1,6 @@
 #include "search/hit_sort.h"
 
+#include "dates/general_date.h"
 #include "search/hit_sort_ways.h"
 
 #include <bit>
@@ -10,8 +11,6 @@
 namespace quorvin {
 
 namespace {
-
-constexpr double kSecondsPerDay = 86400;
 
 /// A number as a key: keys compare as the numbers do.
 std::uint64_t keyOf(std::int64_t number) {

@@ -5,7 +5,7 @@ namespace quorvin {
 
 namespace {
 
-const DateCase kAmerican[] = {
+const DateCase kAmericanDates[] = {
     // The general form.
     {"en_US", "1/15/2004 1:04:09 PM", "2004-01-15 13:04:09"},
     {"en_US", "1/15/2004", "2004-01-15 00:00:00"},
@@ -139,7 +139,7 @@ const DateCase kNoLanguage[] = {
 
 }  // namespace
 
-INSTANTIATE_TEST_SUITE_P(American, ReadGeneralDate, testing::ValuesIn(kAmerican), nameOfCase);
+INSTANTIATE_TEST_SUITE_P(American, ReadGeneralDate, testing::ValuesIn(kAmericanDates), nameOfCase);
 INSTANTIATE_TEST_SUITE_P(British, ReadGeneralDate, testing::ValuesIn(kBritish), nameOfCase);
 INSTANTIATE_TEST_SUITE_P(NoLanguage, ReadGeneralDate, testing::ValuesIn(kNoLanguage), nameOfCase);
 

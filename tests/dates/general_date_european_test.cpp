@@ -5,7 +5,7 @@ namespace quorvin {
 
 namespace {
 
-const DateCase kGerman[] = {
+const DateCase kGermanDates[] = {
     {"de_DE", "15.01.2004 13:04:09", "2004-01-15 13:04:09"},
     {"de_DE", "15.01.2004", "2004-01-15 00:00:00"},
     {"de_DE", "13:04:09", "1899-12-30 13:04:09"},
@@ -113,7 +113,7 @@ const DateCase kNeighbours[] = {
 
 }  // namespace
 
-INSTANTIATE_TEST_SUITE_P(German, ReadGeneralDate, testing::ValuesIn(kGerman), nameOfCase);
+INSTANTIATE_TEST_SUITE_P(German, ReadGeneralDate, testing::ValuesIn(kGermanDates), nameOfCase);
 INSTANTIATE_TEST_SUITE_P(French, ReadGeneralDate, testing::ValuesIn(kFrench), nameOfCase);
 INSTANTIATE_TEST_SUITE_P(Swedish, ReadGeneralDate, testing::ValuesIn(kSwedish), nameOfCase);
 INSTANTIATE_TEST_SUITE_P(Neighbours, ReadGeneralDate, testing::ValuesIn(kNeighbours), nameOfCase);

@@ -5,7 +5,7 @@ namespace quorvin {
 
 namespace {
 
-const DateCase kJapanese[] = {
+const DateCase kJapaneseDates[] = {
     {"ja_JP", "2004/01/15 13時04分09秒", "2004-01-15 13:04:09"},
     {"ja_JP", "2004/01/15 3時04分09秒", "2004-01-15 03:04:09"},
     {"ja_JP", "2004/01/15", "2004-01-15 00:00:00"},
@@ -44,6 +44,6 @@ const DateCase kJapanese[] = {
 
 }  // namespace
 
-INSTANTIATE_TEST_SUITE_P(Japanese, ReadGeneralDate, testing::ValuesIn(kJapanese), nameOfCase);
+INSTANTIATE_TEST_SUITE_P(Japanese, ReadGeneralDate, testing::ValuesIn(kJapaneseDates), nameOfCase);
 
 }  // namespace quorvin

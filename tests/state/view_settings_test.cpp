@@ -11,58 +11,58 @@
 namespace quorvin {
 namespace {
 
-const QString kApplication = QStringLiteral("Ketta Quorvin");
+const QString kViewApplication = QStringLiteral("Ketta Quorvin");
 
 std::tuple<QString, QString, QString> place(const QString& key) {
-  return {kApplication, QStringLiteral("View"), key};
+  return {kViewApplication, QStringLiteral("View"), key};
 }
 
 TEST(ViewSettings, AreTheDefaultsWhereNothingIsKept) {
   const MemorySettingsStore store;
-  EXPECT_EQ(readViewSettings(store, kApplication).columns, QString());
+  EXPECT_EQ(readViewSettings(store, kViewApplication).columns, QString());
 }
 
 TEST(ViewSettings, ComeBackAsTheyWereWritten) {
   MemorySettingsStore store;
   ViewSettings settings;
   settings.columns = QStringLiteral("Match 40");
-  writeViewSettings(store, kApplication, settings);
+  writeViewSettings(store, kViewApplication, settings);
   EXPECT_EQ(store.values[place(QStringLiteral("Columns"))], QStringLiteral("Match 40"));
-  EXPECT_EQ(readViewSettings(store, kApplication), settings);
+  EXPECT_EQ(readViewSettings(store, kViewApplication), settings);
   EXPECT_EQ(readViewSettings(store, QStringLiteral("/lists/other.txt")), ViewSettings());
 }
 
 TEST(ViewSettings, OfSearchesComeBackToo) {
   MemorySettingsStore store;
-  EXPECT_FALSE(readViewSettings(store, kApplication).searchWhileTyping);
-  EXPECT_TRUE(readViewSettings(store, kApplication).keepSearchHistory);
+  EXPECT_FALSE(readViewSettings(store, kViewApplication).searchWhileTyping);
+  EXPECT_TRUE(readViewSettings(store, kViewApplication).keepSearchHistory);
   ViewSettings settings;
   settings.searchWhileTyping = true;
   settings.keepSearchHistory = false;
   settings.searches = {QStringLiteral("rock live"), QStringLiteral("tune ")};
-  writeViewSettings(store, kApplication, settings);
+  writeViewSettings(store, kViewApplication, settings);
   EXPECT_EQ(store.values[place(QStringLiteral("SearchWhileTyping"))], QStringLiteral("1"));
   EXPECT_EQ(store.values[place(QStringLiteral("KeepSearchHistory"))], QStringLiteral("0"));
-  const auto texts = std::tuple{kApplication, QStringLiteral("Searches"), QStringLiteral("Texts")};
+  const auto texts = std::tuple{kViewApplication, QStringLiteral("Searches"), QStringLiteral("Texts")};
   EXPECT_EQ(store.values[texts], QStringLiteral("rock live\ntune "));
-  EXPECT_EQ(readViewSettings(store, kApplication), settings);
+  EXPECT_EQ(readViewSettings(store, kViewApplication), settings);
 }
 
 TEST(ViewSettings, ThatMakeNoSenseAreTheDefaults) {
   MemorySettingsStore store;
   store.values[place(QStringLiteral("SearchWhileTyping"))] = QStringLiteral("maybe");
   store.values[place(QStringLiteral("KeepSearchHistory"))] = QStringLiteral("");
-  EXPECT_EQ(readViewSettings(store, kApplication), ViewSettings());
+  EXPECT_EQ(readViewSettings(store, kViewApplication), ViewSettings());
 }
 
 TEST(ViewSettings, WritesOnlyWhatHasChanged) {
   MemorySettingsStore store;
-  writeViewSettings(store, kApplication, {});
+  writeViewSettings(store, kViewApplication, {});
   EXPECT_TRUE(store.writes.empty());
   store.values[place(QStringLiteral("Columns"))] = QStringLiteral("Match 40");
-  writeViewSettings(store, kApplication, readViewSettings(store, kApplication));
+  writeViewSettings(store, kViewApplication, readViewSettings(store, kViewApplication));
   EXPECT_TRUE(store.writes.empty());
-  writeViewSettings(store, kApplication, {});
+  writeViewSettings(store, kViewApplication, {});
   ASSERT_EQ(store.writes.size(), 1U);
   EXPECT_EQ(store.writes[0].key, QStringLiteral("Columns"));
   EXPECT_EQ(store.writes[0].value, QString());
@@ -73,7 +73,7 @@ TEST(ViewSettings, AreNotWrittenOverAStoreThatCannotBeRead) {
   store.refusesReads = true;
   ViewSettings settings;
   settings.columns = QStringLiteral("Match 40");
-  EXPECT_FAULT(writeViewSettings(store, kApplication, settings), 70);
+  EXPECT_FAULT(writeViewSettings(store, kViewApplication, settings), 70);
   EXPECT_TRUE(store.writes.empty());
 }
 

@@ -19,7 +19,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{1} << 16;
+constexpr std::size_t kReceivedPiece = std::size_t{1} << 16;
 constexpr int kMostTries = 10;
 const QString kEnding = QStringLiteral(".zip");
 
@@ -37,8 +37,8 @@ bool holdSameBytes(const QString& first, const QString& second) {
   if (QFileInfo(first).size() != QFileInfo(second).size()) return false;
   SequentialFile one(first);
   SequentialFile other(second);
-  std::vector<char> piece(kPiece);
-  std::vector<char> otherPiece(kPiece);
+  std::vector<char> piece(kReceivedPiece);
+  std::vector<char> otherPiece(kReceivedPiece);
   for (;;) {
     const std::size_t count = one.read(piece);
     if (count != other.read(otherPiece)) return false;

@@ -18,7 +18,7 @@ namespace quorvin {
 
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{64} << 10;
+constexpr std::size_t kSentPiece = std::size_t{64} << 10;
 
 /// The first source of that name whose archive exists, else the row after the last source.
 int rowOfArchive(QByteArrayView listName, const ProgramState& state) {
@@ -151,8 +151,8 @@ void PeerConnection::openArchive() {
 }
 
 void PeerConnection::sendArchivePiece() {
-  std::array<char, kPiece> piece{};
-  const auto most = static_cast<std::size_t>(std::min<std::int64_t>(kPiece, archiveBytesLeft_));
+  std::array<char, kSentPiece> piece{};
+  const auto most = static_cast<std::size_t>(std::min<std::int64_t>(kSentPiece, archiveBytesLeft_));
   const std::size_t count = most == 0 ? 0 : archive_->read({piece.data(), most});
   archiveBytesLeft_ -= static_cast<std::int64_t>(count);
   if (count == 0) {

@@ -12,7 +12,7 @@
 namespace quorvin {
 namespace {
 
-std::string textOf(const ListingText& text) {
+std::string wholeText(const ListingText& text) {
   return {text.begin(), text.size()};
 }
 
@@ -20,13 +20,13 @@ TEST(ListingText, ChunksComeOneByOne) {
   test::MemoryListing source("abcdefg");
   ListingText text(source, 3);
   ASSERT_TRUE(text.readChunk());
-  EXPECT_EQ(textOf(text), "abc");
+  EXPECT_EQ(wholeText(text), "abc");
   text.consume(3);
   ASSERT_TRUE(text.readChunk());
-  EXPECT_EQ(textOf(text), "def");
+  EXPECT_EQ(wholeText(text), "def");
   text.consume(3);
   ASSERT_TRUE(text.readChunk());
-  EXPECT_EQ(textOf(text), "g");
+  EXPECT_EQ(wholeText(text), "g");
   EXPECT_EQ(text.lastChunkSize(), 1U);
   text.consume(1);
   EXPECT_FALSE(text.readChunk());
@@ -40,12 +40,12 @@ TEST(ListingText, WhatIsNotConsumedStandsBeforeTheNextChunk) {
   text.readChunk();
   text.consume(1);
   text.readChunk();
-  EXPECT_EQ(textOf(text), "bcdef");
+  EXPECT_EQ(wholeText(text), "bcdef");
   text.readChunk();
-  EXPECT_EQ(textOf(text), "bcdefgh");
+  EXPECT_EQ(wholeText(text), "bcdefgh");
   EXPECT_EQ(text.lastChunkSize(), 2U);
   EXPECT_FALSE(text.readChunk());
-  EXPECT_EQ(textOf(text), "bcdefgh");
+  EXPECT_EQ(wholeText(text), "bcdefgh");
 }
 
 TEST(ListingText, EmptyListingHasNoChunk) {
@@ -63,7 +63,7 @@ TEST(ListingText, ConsumedBytesStayUntilTheNextChunk) {
   const std::string_view line(text.begin(), 5);
   text.consume(5);
   EXPECT_EQ(line, "line\n");
-  EXPECT_EQ(textOf(text), "rest");
+  EXPECT_EQ(wholeText(text), "rest");
 }
 
 TEST(ListingText, PaddingCanBeReadOnBothSides) {
