@@ -9,8 +9,8 @@
 namespace quorvin::test {
 
 /// Counts the processor's time of this process, all its threads together, in milliseconds. A limit in it
-/// holds on a busy machine as well, where one in time on the clock would not. What the checks of a sanitizer take
-/// is left out, roughly.
+/// holds on a busy machine as well, where one in time on the clock would not. What the checks of a sanitizer
+/// take is left out, roughly.
 class ProcessorClock {
  public:
   void start() { started_ = now(); }
