@@ -92,6 +92,7 @@ class SoakedProgram {
   void waitUntilAtRest() const;
   bool isMessageShown() const;
   void openAbout();
+  void closeAbout();
   /// The window that has the keys, and its text where it is a message.
   QString messageShown() const;
 

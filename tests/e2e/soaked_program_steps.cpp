@@ -263,8 +263,8 @@ void SoakedProgram::wander(Dice& dice) {
   desktop_.resize(program_->mainWindow(), 800 + dice.below(400), 400 + dice.below(500));
   desktop_.move(program_->mainWindow(), dice.below(100), 30 + dice.below(60));
   openAbout();
-  press({QStringLiteral("Escape")});
-  program_->waitForMainWindow();
+  waitUntilAtRest();
+  closeAbout();
   waitUntilAtRest();
 }
 
@@ -284,6 +284,18 @@ void SoakedProgram::openAbout() {
     press(keys);
   }
   program_->waitForWindow(about);
+}
+
+/// The same message may come over the about window, or when that has gone.
+void SoakedProgram::closeAbout() {
+  if (isMessageShown()) answer({QStringLiteral("Return")});
+  press({QStringLiteral("Escape")});
+  waitUntil(
+      QStringLiteral("for the main window or a message"),
+      [&] { return isMessageShown() || desktop_.activeWindow() == program_->mainWindow(); },
+      [this] { return messageShown(); });
+  if (isMessageShown()) answer({QStringLiteral("Return")});
+  program_->waitForMainWindow();
 }
 
 void SoakedProgram::updateFromWeb(Dice& dice) {
