@@ -3419,10 +3419,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>der Wert von --dates ist dmy oder mdy, nicht „%1“</translation>
     </message>
     <message>
-        <source>the value of --made is a day such as 2004-01-15, not &quot;%1&quot;</source>
-        <translation>der Wert von --made ist ein Tag wie 2004-01-15, nicht „%1“</translation>
-    </message>
-    <message>
         <source>there is no encoding &quot;%1&quot;; the encodings are %2</source>
         <translation>es gibt keine Kodierung „%1“; die Kodierungen sind %2</translation>
     </message>
@@ -3795,6 +3791,202 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>%1 is not there now, or its listing does not say where.</source>
         <translation>%1 ist jetzt nicht da, oder die Liste sagt nicht, wo.</translation>
+    </message>
+    <message>
+        <source>importing lists</source>
+        <translation>das Importieren von Listen</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren...</translation>
+    </message>
+    <message>
+        <source>names that hold a mark of listings, so that a search misreads their lines: %1</source>
+        <translation>Namen mit einer Markierung von Listen, deren Zeilen eine Suche darum falsch liest: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Made by</source>
+        <translation>Erstellt von</translation>
+    </message>
+    <message>
+        <source>Dates</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Kodierung</translation>
+    </message>
+    <message>
+        <source>Made on</source>
+        <translation>Erstellt am</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>Hin&amp;zufügen...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>du told b&amp;ytes</source>
+        <translation>du nannte B&amp;ytes</translation>
+    </message>
+    <message>
+        <source>Re&amp;place listings of the same name</source>
+        <translation>&amp;Gleichnamige Listen ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Search in the listings from now on</source>
+        <translation>In den Listen ab jetzt s&amp;uchen</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>As recognised</source>
+        <translation>Wie erkannt</translation>
+    </message>
+    <message>
+        <source>Day first</source>
+        <translation>Tag zuerst</translation>
+    </message>
+    <message>
+        <source>Month first</source>
+        <translation>Monat zuerst</translation>
+    </message>
+    <message>
+        <source>Lists that other programs wrote, of a CD or of an archive, become listings. The lists themselves stay as they are.</source>
+        <translation>Verzeichnisse, die andere Programme etwa von einer CD oder einem Archiv geschrieben haben, werden zu Listen. Sie selbst bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Lists to import</source>
+        <translation>Zu importierende Verzeichnisse</translation>
+    </message>
+    <message>
+        <source>The program that made the lists</source>
+        <translation>Das Programm, das die Verzeichnisse erstellt hat</translation>
+    </message>
+    <message>
+        <source>Pattern of find -printf, or columns of a table</source>
+        <translation>Muster von find -printf oder Spalten einer Tabelle</translation>
+    </message>
+    <message>
+        <source>Encoding of the lists</source>
+        <translation>Kodierung der Verzeichnisse</translation>
+    </message>
+    <message>
+        <source>Order of day and month</source>
+        <translation>Reihenfolge von Tag und Monat</translation>
+    </message>
+    <message>
+        <source>The day on which the lists were made</source>
+        <translation>Der Tag, an dem die Verzeichnisse erstellt wurden</translation>
+    </message>
+    <message>
+        <source>Where paths start that do not start with /</source>
+        <translation>Wo Pfade beginnen, die nicht mit / beginnen</translation>
+    </message>
+    <message>
+        <source>Name of the volume and of its listing</source>
+        <translation>Name des Datenträgers und seiner Liste</translation>
+    </message>
+    <message>
+        <source>Folder for the listings</source>
+        <translation>Ordner für die Listen</translation>
+    </message>
+    <message>
+        <source>Browse for a folder</source>
+        <translation>Einen Ordner suchen</translation>
+    </message>
+    <message>
+        <source>What has come of it</source>
+        <translation>Was daraus geworden ist</translation>
+    </message>
+    <message>
+        <source>Programs that make lists</source>
+        <translation>Programme, die Verzeichnisse erstellen</translation>
+    </message>
+    <message>
+        <source>Encodings</source>
+        <translation>Kodierungen</translation>
+    </message>
+    <message>
+        <source>Orders of day and month</source>
+        <translation>Reihenfolgen von Tag und Monat</translation>
+    </message>
+    <message>
+        <source>The pattern that find was given, such as %s %T@ %p\n, or which column of a table holds what, such as path=1,size=3</source>
+        <translation>Das Muster, das find erhielt, etwa %s %T@ %p\n, oder welche Spalte einer Tabelle was enthält, etwa path=1,size=3</translation>
+    </message>
+    <message>
+        <source>Whether 03/04/2004 is in March or in April; as recognised means that other dates of the list tell</source>
+        <translation>Ob 03/04/2004 im März oder im April liegt; wie erkannt heißt, dass andere Daten des Verzeichnisses es sagen</translation>
+    </message>
+    <message>
+        <source>A day such as 2004-01-15. ls leaves the year of recent dates out.</source>
+        <translation>Ein Tag wie 2004-01-15. ls lässt bei jüngeren Daten das Jahr weg.</translation>
+    </message>
+    <message>
+        <source>For paths that do not start with /, such as /media/cd</source>
+        <translation>Für Pfade, die nicht mit / beginnen, etwa /media/cd</translation>
+    </message>
+    <message>
+        <source>Empty for the name of the list. For one list at a time.</source>
+        <translation>Leer für den Namen des Verzeichnisses. Für nur ein Verzeichnis auf einmal.</translation>
+    </message>
+    <message>
+        <source>For the lists of du -ab. Without it the sizes of du are blocks, and left out.</source>
+        <translation>Für Verzeichnisse von du -ab. Ohne das sind die Größen von du Blöcke und werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>&amp;Made by:</source>
+        <translation>Erstellt &amp;von:</translation>
+    </message>
+    <message>
+        <source>Patter&amp;n:</source>
+        <translation>&amp;Muster:</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding:</source>
+        <translation>&amp;Kodierung:</translation>
+    </message>
+    <message>
+        <source>&amp;Dates:</source>
+        <translation>Da&amp;ten:</translation>
+    </message>
+    <message>
+        <source>Made &amp;on:</source>
+        <translation>Erstellt &amp;am:</translation>
+    </message>
+    <message>
+        <source>Pat&amp;hs in:</source>
+        <translation>&amp;Pfade in:</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation>Datent&amp;räger:</translation>
+    </message>
+    <message>
+        <source>&amp;Listings to:</source>
+        <translation>&amp;Listen nach:</translation>
+    </message>
+    <message>
+        <source>Stopped. The list that was being read has no listing.</source>
+        <translation>Angehalten. Das Verzeichnis, das gerade gelesen wurde, hat keine Liste.</translation>
+    </message>
+    <message>
+        <source>the value of %1 is a day such as 2004-01-15, not &quot;%2&quot;</source>
+        <translation>der Wert von %1 ist ein Tag wie 2004-01-15, nicht „%2“</translation>
     </message>
 </context>
 <context>

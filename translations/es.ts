@@ -3419,10 +3419,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>el valor de --dates es dmy o mdy, no «%1»</translation>
     </message>
     <message>
-        <source>the value of --made is a day such as 2004-01-15, not &quot;%1&quot;</source>
-        <translation>el valor de --made es un día como 2004-01-15, no «%1»</translation>
-    </message>
-    <message>
         <source>there is no encoding &quot;%1&quot;; the encodings are %2</source>
         <translation>no existe la codificación «%1»; las codificaciones son %2</translation>
     </message>
@@ -3795,6 +3791,202 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>%1 is not there now, or its listing does not say where.</source>
         <translation>%1 no está ahora, o su lista no dice dónde.</translation>
+    </message>
+    <message>
+        <source>importing lists</source>
+        <translation>la importación de listas</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importar...</translation>
+    </message>
+    <message>
+        <source>names that hold a mark of listings, so that a search misreads their lines: %1</source>
+        <translation>nombres con una marca de las listas, cuyas líneas una búsqueda lee mal: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>Made by</source>
+        <translation>Hecho por</translation>
+    </message>
+    <message>
+        <source>Dates</source>
+        <translation>Fechas</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Codificación</translation>
+    </message>
+    <message>
+        <source>Made on</source>
+        <translation>Hecho el</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Añadir...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>E&amp;xaminar...</translation>
+    </message>
+    <message>
+        <source>du told b&amp;ytes</source>
+        <translation>du en b&amp;ytes</translation>
+    </message>
+    <message>
+        <source>Re&amp;place listings of the same name</source>
+        <translation>&amp;Reemplazar listas del mismo nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Search in the listings from now on</source>
+        <translation>&amp;Buscar en las listas desde ahora</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>As recognised</source>
+        <translation>Según la lista</translation>
+    </message>
+    <message>
+        <source>Day first</source>
+        <translation>Primero el día</translation>
+    </message>
+    <message>
+        <source>Month first</source>
+        <translation>Primero el mes</translation>
+    </message>
+    <message>
+        <source>Lists that other programs wrote, of a CD or of an archive, become listings. The lists themselves stay as they are.</source>
+        <translation>Las listas que escribieron otros programas, de un CD o de un archivo comprimido, se convierten en listas del programa. Ellas mismas quedan como están.</translation>
+    </message>
+    <message>
+        <source>Lists to import</source>
+        <translation>Listas que se importan</translation>
+    </message>
+    <message>
+        <source>The program that made the lists</source>
+        <translation>El programa que hizo las listas</translation>
+    </message>
+    <message>
+        <source>Pattern of find -printf, or columns of a table</source>
+        <translation>Patrón de find -printf, o columnas de una tabla</translation>
+    </message>
+    <message>
+        <source>Encoding of the lists</source>
+        <translation>Codificación de las listas</translation>
+    </message>
+    <message>
+        <source>Order of day and month</source>
+        <translation>Orden del día y del mes</translation>
+    </message>
+    <message>
+        <source>The day on which the lists were made</source>
+        <translation>El día en que se hicieron las listas</translation>
+    </message>
+    <message>
+        <source>Where paths start that do not start with /</source>
+        <translation>Dónde empiezan las rutas que no empiezan con /</translation>
+    </message>
+    <message>
+        <source>Name of the volume and of its listing</source>
+        <translation>Nombre del volumen y de su lista</translation>
+    </message>
+    <message>
+        <source>Folder for the listings</source>
+        <translation>Carpeta de las listas</translation>
+    </message>
+    <message>
+        <source>Browse for a folder</source>
+        <translation>Examinar las carpetas</translation>
+    </message>
+    <message>
+        <source>What has come of it</source>
+        <translation>Lo que ha resultado</translation>
+    </message>
+    <message>
+        <source>Programs that make lists</source>
+        <translation>Programas que hacen listas</translation>
+    </message>
+    <message>
+        <source>Encodings</source>
+        <translation>Codificaciones</translation>
+    </message>
+    <message>
+        <source>Orders of day and month</source>
+        <translation>Órdenes del día y del mes</translation>
+    </message>
+    <message>
+        <source>The pattern that find was given, such as %s %T@ %p\n, or which column of a table holds what, such as path=1,size=3</source>
+        <translation>El patrón que recibió find, por ejemplo %s %T@ %p\n, o qué columna de una tabla contiene qué, por ejemplo path=1,size=3</translation>
+    </message>
+    <message>
+        <source>Whether 03/04/2004 is in March or in April; as recognised means that other dates of the list tell</source>
+        <translation>Si 03/04/2004 es en marzo o en abril; según la lista: otras fechas de la lista lo dicen</translation>
+    </message>
+    <message>
+        <source>A day such as 2004-01-15. ls leaves the year of recent dates out.</source>
+        <translation>Un día como 2004-01-15. ls omite el año de las fechas recientes.</translation>
+    </message>
+    <message>
+        <source>For paths that do not start with /, such as /media/cd</source>
+        <translation>Para las rutas que no empiezan con /, por ejemplo /media/cd</translation>
+    </message>
+    <message>
+        <source>Empty for the name of the list. For one list at a time.</source>
+        <translation>Vacío para el nombre de la lista. Para una sola lista a la vez.</translation>
+    </message>
+    <message>
+        <source>For the lists of du -ab. Without it the sizes of du are blocks, and left out.</source>
+        <translation>Para las listas de du -ab. Si no, los tamaños de du son bloques y se omiten.</translation>
+    </message>
+    <message>
+        <source>&amp;Made by:</source>
+        <translation>&amp;Hecho por:</translation>
+    </message>
+    <message>
+        <source>Patter&amp;n:</source>
+        <translation>&amp;Patrón:</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding:</source>
+        <translation>C&amp;odificación:</translation>
+    </message>
+    <message>
+        <source>&amp;Dates:</source>
+        <translation>&amp;Fechas:</translation>
+    </message>
+    <message>
+        <source>Made &amp;on:</source>
+        <translation>Hecho &amp;el:</translation>
+    </message>
+    <message>
+        <source>Pat&amp;hs in:</source>
+        <translation>Rutas e&amp;n:</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation>&amp;Volumen:</translation>
+    </message>
+    <message>
+        <source>&amp;Listings to:</source>
+        <translation>&amp;Listas en:</translation>
+    </message>
+    <message>
+        <source>Stopped. The list that was being read has no listing.</source>
+        <translation>Detenido. La lista que se estaba leyendo no se ha importado.</translation>
+    </message>
+    <message>
+        <source>the value of %1 is a day such as 2004-01-15, not &quot;%2&quot;</source>
+        <translation>el valor de %1 es un día como 2004-01-15, no «%2»</translation>
     </message>
 </context>
 <context>

@@ -3419,10 +3419,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>la valeur de --dates est dmy ou mdy, pas « %1 »</translation>
     </message>
     <message>
-        <source>the value of --made is a day such as 2004-01-15, not &quot;%1&quot;</source>
-        <translation>la valeur de --made est un jour comme 2004-01-15, pas « %1 »</translation>
-    </message>
-    <message>
         <source>there is no encoding &quot;%1&quot;; the encodings are %2</source>
         <translation>il n’y a pas de codage « %1 » ; les codages sont %2</translation>
     </message>
@@ -3795,6 +3791,202 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>%1 is not there now, or its listing does not say where.</source>
         <translation>%1 n’est pas là en ce moment, ou sa liste ne dit pas où.</translation>
+    </message>
+    <message>
+        <source>importing lists</source>
+        <translation>l’importation de listes</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importer...</translation>
+    </message>
+    <message>
+        <source>names that hold a mark of listings, so that a search misreads their lines: %1</source>
+        <translation>noms qui contiennent une marque des listes, dont une recherche lit mal les lignes : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importer</translation>
+    </message>
+    <message>
+        <source>Made by</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Dates</source>
+        <translation>Dates</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Encodage</translation>
+    </message>
+    <message>
+        <source>Made on</source>
+        <translation>Fait le</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Ajouter...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Re&amp;tirer</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>du told b&amp;ytes</source>
+        <translation>du en oct&amp;ets</translation>
+    </message>
+    <message>
+        <source>Re&amp;place listings of the same name</source>
+        <translation>Re&amp;mplacer les listes du même nom</translation>
+    </message>
+    <message>
+        <source>&amp;Search in the listings from now on</source>
+        <translation>C&amp;hercher désormais dans les listes</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>As recognised</source>
+        <translation>Selon la liste</translation>
+    </message>
+    <message>
+        <source>Day first</source>
+        <translation>Jour d’abord</translation>
+    </message>
+    <message>
+        <source>Month first</source>
+        <translation>Mois d’abord</translation>
+    </message>
+    <message>
+        <source>Lists that other programs wrote, of a CD or of an archive, become listings. The lists themselves stay as they are.</source>
+        <translation>Des listes écrites par d’autres programmes, d’un CD ou d’une archive, deviennent des listes du programme. Elles-mêmes restent telles quelles.</translation>
+    </message>
+    <message>
+        <source>Lists to import</source>
+        <translation>Listes à importer</translation>
+    </message>
+    <message>
+        <source>The program that made the lists</source>
+        <translation>Le programme qui a fait les listes</translation>
+    </message>
+    <message>
+        <source>Pattern of find -printf, or columns of a table</source>
+        <translation>Motif de find -printf, ou colonnes d’un tableau</translation>
+    </message>
+    <message>
+        <source>Encoding of the lists</source>
+        <translation>Encodage des listes</translation>
+    </message>
+    <message>
+        <source>Order of day and month</source>
+        <translation>Ordre du jour et du mois</translation>
+    </message>
+    <message>
+        <source>The day on which the lists were made</source>
+        <translation>Le jour où les listes ont été faites</translation>
+    </message>
+    <message>
+        <source>Where paths start that do not start with /</source>
+        <translation>Où commencent les chemins qui ne commencent pas par /</translation>
+    </message>
+    <message>
+        <source>Name of the volume and of its listing</source>
+        <translation>Nom du volume et de sa liste</translation>
+    </message>
+    <message>
+        <source>Folder for the listings</source>
+        <translation>Dossier des listes</translation>
+    </message>
+    <message>
+        <source>Browse for a folder</source>
+        <translation>Parcourir les dossiers</translation>
+    </message>
+    <message>
+        <source>What has come of it</source>
+        <translation>Ce qui en est résulté</translation>
+    </message>
+    <message>
+        <source>Programs that make lists</source>
+        <translation>Programmes qui font des listes</translation>
+    </message>
+    <message>
+        <source>Encodings</source>
+        <translation>Encodages</translation>
+    </message>
+    <message>
+        <source>Orders of day and month</source>
+        <translation>Ordres du jour et du mois</translation>
+    </message>
+    <message>
+        <source>The pattern that find was given, such as %s %T@ %p\n, or which column of a table holds what, such as path=1,size=3</source>
+        <translation>Le motif donné à find, par exemple %s %T@ %p\n, ou quelle colonne d’un tableau contient quoi, par exemple path=1,size=3</translation>
+    </message>
+    <message>
+        <source>Whether 03/04/2004 is in March or in April; as recognised means that other dates of the list tell</source>
+        <translation>Si 03/04/2004 est en mars ou en avril ; selon la liste : d’autres dates de la liste le disent</translation>
+    </message>
+    <message>
+        <source>A day such as 2004-01-15. ls leaves the year of recent dates out.</source>
+        <translation>Un jour comme 2004-01-15. ls omet l’année des dates récentes.</translation>
+    </message>
+    <message>
+        <source>For paths that do not start with /, such as /media/cd</source>
+        <translation>Pour les chemins qui ne commencent pas par /, par exemple /media/cd</translation>
+    </message>
+    <message>
+        <source>Empty for the name of the list. For one list at a time.</source>
+        <translation>Vide pour le nom de la liste. Pour une seule liste à la fois.</translation>
+    </message>
+    <message>
+        <source>For the lists of du -ab. Without it the sizes of du are blocks, and left out.</source>
+        <translation>Pour les listes de du -ab. Sinon, les tailles de du sont des blocs, et sont omises.</translation>
+    </message>
+    <message>
+        <source>&amp;Made by:</source>
+        <translation>Pro&amp;gramme :</translation>
+    </message>
+    <message>
+        <source>Patter&amp;n:</source>
+        <translation>M&amp;otif :</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding:</source>
+        <translation>E&amp;ncodage :</translation>
+    </message>
+    <message>
+        <source>&amp;Dates:</source>
+        <translation>&amp;Dates :</translation>
+    </message>
+    <message>
+        <source>Made &amp;on:</source>
+        <translation>Fait &amp;le :</translation>
+    </message>
+    <message>
+        <source>Pat&amp;hs in:</source>
+        <translation>&amp;Chemins dans :</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation>&amp;Volume :</translation>
+    </message>
+    <message>
+        <source>&amp;Listings to:</source>
+        <translation>Li&amp;stes vers :</translation>
+    </message>
+    <message>
+        <source>Stopped. The list that was being read has no listing.</source>
+        <translation>Arrêté. La liste en cours de lecture n’a pas été importée.</translation>
+    </message>
+    <message>
+        <source>the value of %1 is a day such as 2004-01-15, not &quot;%2&quot;</source>
+        <translation>la valeur de %1 est un jour comme 2004-01-15, pas « %2 »</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
           {state, runMessages_, hits_, segments, display_, status_, controls_, menus_, jobs_.work(), locale}),
       windows_(state, messages, menus_,
                {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_),
-                [this](const HitRow& file) { return hitActions_.showInFolder(file); }},
+                [this](const HitRow& file) { return hitActions_.showInFolder(file); },
+                [this](const QStringList& listings) { return sources_->addOfflineLists(listings); }},
                *this, locale, picker),
       export_(
           {state, runMessages_, jobs_.work(), windows_.picker(), hits_, *controls_.HitList, status_, locale}),
@@ -150,6 +151,7 @@ void SearchForm::connectMenus() {
   handle(menus_.ListingHistory, Texts::tr("showing the listing history"),
          [this] { windows_.ListingHistory_Click(); });
   handle(menus_.Copies, Texts::tr("looking for copies"), [this] { windows_.Copies_Click(); });
+  handle(menus_.Import, Texts::tr("importing lists"), [this] { windows_.Import_Click(); });
   handle(menus_.ExportHits, Texts::tr("exporting hits"), [this] { export_.ExportHits_Click(); });
   handle(hitActions_.itemMenu().ExportSelected, Texts::tr("exporting hits"),
          [this] { export_.ExportSelected_Click(); });
@@ -386,14 +388,11 @@ void SearchFormFrame::painted() {
 }
 
 void SearchFormFrame::unloadOtherWindows() {
-  windows_.unloadSplash();
-  windows_.unloadOptions();
-  windows_.unloadSources();
+  windows_.unloadDialogs();
   jobs_.progress().hide();
   windows_.unloadPreview();
   windows_.unloadBrowser();
-  windows_.unloadHistory();
-  windows_.unloadCopies();
+  windows_.unloadCatalogueWindows();
   jobs_.unload();
 }
 

@@ -160,6 +160,12 @@ void SearchFormSources::take(const DroppedSources& dropped) {
   if (messages_.askYesNo(question)) rescan_();
 }
 
+QString SearchFormSources::addOfflineLists(const QStringList& listings) {
+  QString told;
+  if (takeListings(listings, told) > 0) changed_();
+  return told;
+}
+
 /// How many were added.
 int SearchFormSources::takeFolders(const QStringList& folders, QString& told) {
   std::vector<SourceEntry> entries = entriesOf(state_.OnlineSources, state_.OnlineSourceCount);

@@ -34,6 +34,9 @@ class SearchFormSources : public QObject {
   /// the user agrees. Empty where it is in no listing then, and the user knows why.
   QString listedFolderOf(const QString& path);
 
+  /// Adds listings to the offline sources. What there is to say of those that were not; empty where all were.
+  QString addOfflineLists(const QStringList& listings);
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

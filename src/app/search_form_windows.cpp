@@ -55,6 +55,7 @@ SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages
       optionsEditing_{state, messages, picker ? *picker : systemPicker_, optionsConditions(locale)},
       restoreListing_(std::move(requests.restoreListing)),
       showFile_(std::move(requests.showFile)),
+      addListings_(std::move(requests.addListings)),
       locale_(locale),
       preview_(&owner, usualMetafileChild(), previewReport(messages)) {
   sourceEditing_.lookers = &lookers_.pool();
@@ -111,6 +112,20 @@ void SearchFormWindows::Copies_Click() {
   window.exec();
 }
 
+void SearchFormWindows::Import_Click() {
+  const auto pickLists = [this] { return picker().openFiles({}); };
+  const auto pickFolder = [this](const QString& folder) {
+    FileQuestion question;
+    question.initialFolder = folder;
+    return picker().pickFolder(question);
+  };
+  ImportWindowParts parts{lookers_.pool(), locale_,    sourceEditing_.state.LocalFolder,
+                          pickLists,       pickFolder, addListings_};
+  ImportWindow window(std::move(parts), &owner_);
+  import_ = &window;
+  window.exec();
+}
+
 void SearchFormWindows::AboutMenu_Click() {
   frmSplash splash(productFacts(), &owner_);
   splash_ = &splash;
@@ -130,10 +145,6 @@ void SearchFormWindows::showHelp(const QString& pageName) {
   browser_->showHelp(helpPageAddress(pageName));
 }
 
-void SearchFormWindows::unloadSplash() {
-  if (splash_) splash_->reject();
-}
-
 void SearchFormWindows::unloadOptions() {
   if (options_) options_->reject();
 }
@@ -142,12 +153,16 @@ void SearchFormWindows::unloadSources() {
   if (sources_) sources_->reject();
 }
 
-void SearchFormWindows::unloadHistory() {
-  if (history_) history_->reject();
+void SearchFormWindows::unloadDialogs() {
+  if (splash_) splash_->reject();
+  unloadOptions();
+  unloadSources();
 }
 
-void SearchFormWindows::unloadCopies() {
+void SearchFormWindows::unloadCatalogueWindows() {
+  if (history_) history_->reject();
   if (copies_) copies_->reject();
+  if (import_) import_->reject();
 }
 
 void SearchFormWindows::unloadBrowser() {

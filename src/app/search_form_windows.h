@@ -4,6 +4,7 @@
 #include "app/search_form_controls.h"
 #include "app/search_form_help.h"
 #include "catalogue/copies_window.h"
+#include "catalogue/import_window.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
 #include "files/drive_threads.h"
@@ -33,6 +34,8 @@ struct WindowRequests {
   HistoryWindow::Restore restoreListing;
   /// Shows a file in its folder; see CopiesWindowParts.
   std::function<bool(const HitRow& file)> showFile;
+  /// Adds listings to the offline sources; see ImportWindowParts.
+  std::function<QString(const QStringList& listings)> addListings;
 };
 
 /// Opens the editors, the options, the about window and the help browser, each above the main window, and
@@ -56,6 +59,8 @@ class SearchFormWindows {
   void ListingHistory_Click();
   /// Shows which files are there more than once, and which on one volume only.
   void Copies_Click();
+  /// Turns lists of other programs into listings.
+  void Import_Click();
   void OptionsMenu_Click();
   void AboutMenu_Click();
   void HlpGen_Click();
@@ -72,13 +77,14 @@ class SearchFormWindows {
 
   // Unloading, without saving; each does nothing where the window is not there. The call that opened a dialog
   // returns once the dialog's own events have ended.
-  void unloadSplash();
   void unloadOptions();
   void unloadSources();
   void unloadPreview() { preview_.unload(); }
   void unloadBrowser();
-  void unloadHistory();
-  void unloadCopies();
+  /// The about window, the options and the source editor, in this order.
+  void unloadDialogs();
+  /// The windows about listings: their history, copies, import.
+  void unloadCatalogueWindows();
 
  private:
   void showSources(LocalLoc& dialog);
@@ -92,12 +98,14 @@ class SearchFormWindows {
   OptionsEditing optionsEditing_;
   HistoryWindow::Restore restoreListing_;
   std::function<bool(const HitRow& file)> showFile_;
+  std::function<QString(const QStringList& listings)> addListings_;
   QLocale locale_;
   QString LocMode_;
   QPointer<LocalLoc> sources_;
   QPointer<ListOptions> options_;
   QPointer<HistoryWindow> history_;
   QPointer<CopiesWindow> copies_;
+  QPointer<ImportWindow> import_;
   QPointer<frmSplash> splash_;
   ImagePreview preview_;
   NetworkPageTransfer transfer_;

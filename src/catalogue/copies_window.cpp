@@ -1,5 +1,6 @@
 #include "catalogue/copies_window.h"
 
+#include "catalogue/job_controls.h"
 #include "platform/screen_room.h"
 #include "platform/text_direction.h"
 #include "search/match/search_query.h"
@@ -16,7 +17,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace quorvin {
@@ -30,8 +30,6 @@ constexpr int kHeightInLines = 30;
 constexpr int kMatchCharacters = 5;
 constexpr int kWidestColumnCharacters = 40;
 constexpr int kLeastListLines = 3;
-/// Often enough for the eye.
-constexpr std::chrono::milliseconds kBetweenLooks{50};
 
 /// What can be shown, in the order of the box.
 struct Choice {
@@ -52,18 +50,6 @@ QString findCaption() {
   return Texts::tr("&Find");
 }
 
-QString stopCaption() {
-  return Texts::tr("S&top");
-}
-
-/// As wide as its other caption needs, so that nothing moves when it changes.
-QPushButton* makeFind() {
-  auto* find = new QPushButton(stopCaption());
-  find->setMinimumWidth(find->sizeHint().width());
-  find->setText(findCaption());
-  return find;
-}
-
 QTreeView* makeList(QAbstractItemModel* rows) {
   auto* list = new QTreeView;
   list->setModel(rows);
@@ -77,12 +63,6 @@ QTreeView* makeList(QAbstractItemModel* rows) {
   list->header()->setSortIndicator(-1, Qt::AscendingOrder);
   list->setSortingEnabled(true);
   return list;
-}
-
-QLabel* captionOf(QWidget* control, const QString& text) {
-  auto* caption = new QLabel(text);
-  caption->setBuddy(control);
-  return caption;
 }
 
 bool isPlace(const QModelIndex& index) {
@@ -99,7 +79,7 @@ CopiesWindow::CopiesWindow(CopiesWindowParts parts, QWidget* owner)
       what_(new QComboBox),
       match_(new QLineEdit(CopyWish().desiredMatch)),
       empty_(new QCheckBox(Texts::tr("&Empty files, too"))),
-      find_(makeFind()),
+      find_(makeStartButton(findCaption())),
       close_(new QPushButton(Texts::tr("&Close"))),
       list_(makeList(&rows_)),
       status_(new QLabel) {

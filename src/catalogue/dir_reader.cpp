@@ -173,7 +173,7 @@ class DirReader : public ListReader {
 
 }  // namespace
 
-std::unique_ptr<ListReader> makeDirReader(const ListOptions&) {
+std::unique_ptr<ListReader> makeDirReader(const ListReadOptions&) {
   return std::make_unique<DirReader>();
 }
 

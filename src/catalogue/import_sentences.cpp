@@ -56,6 +56,8 @@ QStringList importLosses(const ImportReport& report, const ImportControls& contr
   }
   note(sentences, Texts::tr("names that came again, of which the last one counts: %1"), counts.repeated);
   note(sentences, Texts::tr("names that a listing cannot hold, left out: %1"), counts.leftOut);
+  note(sentences, Texts::tr("names that hold a mark of listings, so that a search misreads their lines: %1"),
+       counts.misread);
   if (report.noText > 0) {
     sentences += Texts::tr("lines whose bytes are no UTF-8 (see %1): %2")
                      .arg(controls.encoding, countOf(report.noText));

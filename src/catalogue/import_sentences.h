@@ -16,6 +16,7 @@ struct ImportControls {
   QString format;
   QString dates;
   QString encoding;
+  QString made;
 };
 
 /// Names of formats as one reads them: "ls, find-ls".

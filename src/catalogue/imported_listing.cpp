@@ -73,11 +73,13 @@ void ImportedListing::finishName() {
 }
 
 void ImportedListing::addFolder() {
-  const bool isText = (traitsOfName(name_) & kHoldsQuestion) == 0;
+  const NameTraits traits = traitsOfName(name_);
+  const bool isText = (traits & kHoldsQuestion) == 0;
   if (!canBeListed_ || !isText) {
     ++counts_.leftOut;
     return;
   }
+  if ((traits & kMayHoldMark) != 0 && !markInFolder(name_).empty()) ++counts_.misread;
   ++subFolders_;
   appendSubFolderLine(subFolderLines_, name_);
   subFolderLines_ += kLineEnd;
@@ -93,9 +95,13 @@ void ImportedListing::addFile() {
   if (date.kind != ListDate::Kind::None) file.modified = date.seconds;
   if (modified_.kind == ListDate::Kind::EitherOrder && !file.modified) ++counts_.undecidedDates;
   std::string listed;
-  if ((traitsOfName(name_) & kHoldsQuestion) != 0) {
+  const NameTraits traits = traitsOfName(name_);
+  if ((traits & kHoldsQuestion) != 0) {
     listed = listedText(name_);
     file = {listed, -1, std::nullopt};
+  }
+  if ((traits & kMayHoldMark) != 0 && !markInEntry(cutToColumns(file.name, kNameColumns)).empty()) {
+    ++counts_.misread;
   }
   ++files_;
   if (file.size < 0) ++counts_.withoutSize;

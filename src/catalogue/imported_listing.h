@@ -27,6 +27,8 @@ struct ImportCounts {
   std::int64_t repeated = 0;
   /// Names in folders that a listing cannot hold, and such folders themselves.
   std::int64_t leftOut = 0;
+  /// Names that hold a mark of the listing format, so that a search takes their lines for others.
+  std::int64_t misread = 0;
 };
 
 /// Writes blocks, a folder's before those within it, and in each of them its sub-folders and files in the

@@ -7,7 +7,7 @@ namespace quorvin {
 namespace {
 
 template <LsNames names>
-std::unique_ptr<ListReader> makeLs(const ListOptions& options) {
+std::unique_ptr<ListReader> makeLs(const ListReadOptions& options) {
   return makeLsReader(options, names);
 }
 
@@ -59,12 +59,17 @@ const std::vector<ListFormat>& listFormats() {
   return formats;
 }
 
+bool takesColumns(const ListFormat& format) {
+  return format.name == "find-printf" || format.name == "csv";
+}
+
 const ListFormat* listFormatNamed(std::string_view name) {
   const auto found = std::ranges::find(listFormats(), name, &ListFormat::name);
   return found == listFormats().end() ? nullptr : &*found;
 }
 
-const ListFormat* recognisedFormat(const std::vector<std::string_view>& lines, const ListOptions& options) {
+const ListFormat* recognisedFormat(const std::vector<std::string_view>& lines,
+                                   const ListReadOptions& options) {
   const ListFormat* best = nullptr;
   Score bestScore;
   for (const ListFormat& format : listFormats()) {

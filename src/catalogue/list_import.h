@@ -21,7 +21,7 @@ namespace quorvin {
 struct ImportRequest {
   /// Null: as recognised from the first lines.
   const ListFormat* format = nullptr;
-  ListOptions options = {};
+  ListReadOptions options = {};
   /// One for which isListEncoding() is true.
   std::string encoding = "utf-8";
   /// The volume's name.

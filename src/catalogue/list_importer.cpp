@@ -1,11 +1,14 @@
 #include "catalogue/list_importer.h"
 
+#include "catalogue/list_dates.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_reader.h"
 #include "files/stream_reader.h"
 #include "texts/texts.h"
 
+#include <QDate>
+#include <QDir>
 #include <QFileInfo>
 
 #include <memory>
@@ -43,6 +46,15 @@ class ListBytes {
 
 }  // namespace
 
+std::optional<std::int64_t> dayOfList(const QString& text, const ImportControls& controls) {
+  if (text.isEmpty()) return std::nullopt;
+  const QDate date = QDate::fromString(text, Qt::ISODate);
+  const auto day = wallClockDay(date.year(), date.month(), date.day());
+  if (date.isValid() && day) return day;
+  throw refusal(
+      Texts::tr("the value of %1 is a day such as 2004-01-15, not \"%2\"").arg(controls.made, text));
+}
+
 ListImporter::ListImporter(ImportChoices choices, ImportControls controls, StopRequested stopRequested)
     : choices_(std::move(choices)),
       controls_(std::move(controls)),
@@ -55,7 +67,7 @@ QString ListImporter::nameOf(const QString& list) const {
 QString ListImporter::placeOf(const QString& list) const {
   QString name = nameOf(list);
   name.replace(u'/', u'_');
-  const QFileInfo place(choices_.output + u'/' + name + QStringLiteral(".txt"));
+  const QFileInfo place(QDir(choices_.output).filePath(name + QStringLiteral(".txt")));
   if (!place.exists()) return place.filePath();
   const bool isTheList = place.canonicalFilePath() == QFileInfo(list).canonicalFilePath();
   if (isTheList || !choices_.replaces) {

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace quorvin {
 
@@ -23,13 +24,19 @@ struct ImportChoices {
   bool replaces = false;
 };
 
+/// The day that the user says a list was made on, such as "2004-01-15"; nothing for an empty text. Throws
+/// RuntimeFault (5) for another.
+std::optional<std::int64_t> dayOfList(const QString& text, const ImportControls& controls);
+
 struct ImportedList {
   /// Where the listing is.
   QString place;
   ImportReport report;
 
-  /// Whether everything that the list names is in the listing.
-  bool isWhole() const { return report.notUnderstood == 0 && report.counts.leftOut == 0; }
+  /// Whether everything that the list names is in the listing, where a search finds it.
+  bool isWhole() const {
+    return report.notUnderstood == 0 && report.counts.leftOut == 0 && report.counts.misread == 0;
+  }
 };
 
 /// Can be used in any thread, by one at a time.

@@ -142,8 +142,14 @@ struct ListLines::Source {
   bool isAtEnd = false;
 };
 
+std::vector<std::string_view> listEncodings() {
+  std::vector<std::string_view> names{"utf-8"};
+  for (const ByteEncoding& encoding : kByteEncodings) names.push_back(encoding.name);
+  return names;
+}
+
 bool isListEncoding(std::string_view name) {
-  return name == "utf-8" || byteEncodingNamed(name);
+  return std::ranges::count(listEncodings(), name) > 0;
 }
 
 ListLines::ListLines(Read read, std::string_view encoding)

@@ -13,7 +13,10 @@ namespace quorvin {
 /// A longer line is given in pieces of this length; no path is as long.
 inline constexpr std::size_t kLongestListLine = 1 << 20;
 
-/// Whether `name` is "utf-8" or one of "windows-1252", "cp437", "cp850" and "cp852".
+/// The names of the encodings that can be read, "utf-8" first.
+std::vector<std::string_view> listEncodings();
+
+/// Whether `name` is one of listEncodings().
 bool isListEncoding(std::string_view name);
 
 /// Reads a list through once. UTF-16 is known by its mark, and the mark of UTF-8 is left out. Lines end with

@@ -12,7 +12,7 @@
 namespace quorvin {
 
 /// What a list does not say of itself.
-struct ListOptions {
+struct ListReadOptions {
   /// The pattern that find -printf was given.
   std::string pattern = {};
   /// What the columns of a table are: "path=1,size=Length", by number or title; empty to go by the titles.
@@ -27,21 +27,21 @@ struct ListOptions {
 /// How ls writes names: as they are, in double quotes (-Q), or with escapes (-b).
 enum class LsNames : std::uint8_t { Plain, Quoted, Escaped };
 
-std::unique_ptr<ListReader> makeLsReader(const ListOptions& options, LsNames names);
-std::unique_ptr<ListReader> makeFindLsReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeTarReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeRsyncReader(const ListOptions& options);
+std::unique_ptr<ListReader> makeLsReader(const ListReadOptions& options, LsNames names);
+std::unique_ptr<ListReader> makeFindLsReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeTarReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeRsyncReader(const ListReadOptions& options);
 /// Throws RuntimeFault 5 for a pattern that names no path or cannot be read back.
-std::unique_ptr<ListReader> makePrintfReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeDuReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeTreeReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeUnzipReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeRcloneReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeChecksumsReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeBagItReader(const ListOptions& options);
-std::unique_ptr<ListReader> makePathsReader(const ListOptions& options);
-std::unique_ptr<ListReader> makeDirReader(const ListOptions& options);
+std::unique_ptr<ListReader> makePrintfReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeDuReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeTreeReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeUnzipReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeRcloneReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeChecksumsReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeBagItReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makePathsReader(const ListReadOptions& options);
+std::unique_ptr<ListReader> makeDirReader(const ListReadOptions& options);
 /// Throws RuntimeFault 5 where the columns that `options` name cannot be understood.
-std::unique_ptr<ListReader> makeTableReader(const ListOptions& options);
+std::unique_ptr<ListReader> makeTableReader(const ListReadOptions& options);
 
 }  // namespace quorvin

@@ -61,8 +61,8 @@ std::optional<ListDate> takeLongTimeNumber(std::string_view& text, std::optional
 /// Owners and groups may have any name, so the first date behind a size and at least so many words is looked
 /// for.
 template <typename TakeDate>
-bool takeSizeAndDate(std::string_view text, const ListOptions& options, int fewestWords, TakeDate&& takeDate,
-                     ModeRow& row) {
+bool takeSizeAndDate(std::string_view text, const ListReadOptions& options, int fewestWords,
+                     TakeDate&& takeDate, ModeRow& row) {
   constexpr int kMostWords = 12;
   std::string_view before;
   for (int words = 0; words < kMostWords; ++words) {
@@ -84,7 +84,7 @@ bool takeSizeAndDate(std::string_view text, const ListOptions& options, int fewe
   return false;
 }
 
-std::optional<ModeRow> readModeRow(std::string_view line, const ListOptions& options) {
+std::optional<ModeRow> readModeRow(std::string_view line, const ListReadOptions& options) {
   ModeRow row;
   takeBlanks(line);
   std::optional<std::string_view> word = takeWord(line);
@@ -122,7 +122,7 @@ std::string_view withoutTarget(const ModeRow& row) {
 /// "-rw-r--r-- 1 ann users 5 Jan 15  2004 name", below "FOLDER:" and "total 12".
 class LsReader : public ListReader {
  public:
-  LsReader(ListOptions options, LsNames names) : options_(std::move(options)), names_(names) {}
+  LsReader(ListReadOptions options, LsNames names) : options_(std::move(options)), names_(names) {}
 
   LineSays read(std::string_view line, ListEntry& entry) override {
     const bool mayBeHead = std::exchange(mayBeHead_, line.empty());
@@ -185,7 +185,7 @@ class LsReader : public ListReader {
     return isQuoted || name.find('\\') != std::string::npos;
   }
 
-  ListOptions options_;
+  ListReadOptions options_;
   LsNames names_;
   std::string folder_;
   /// False below a head that was not understood.
@@ -198,7 +198,7 @@ class LsReader : public ListReader {
 /// "  123  4 -rw-r--r-- 1 ann users 5 Jan 15  2004 ./path\ with\ escapes".
 class FindLsReader : public ListReader {
  public:
-  explicit FindLsReader(ListOptions options) : options_(std::move(options)) {}
+  explicit FindLsReader(ListReadOptions options) : options_(std::move(options)) {}
 
   LineSays read(std::string_view line, ListEntry& entry) override {
     const std::optional<ModeRow> row = readModeRow(line, options_);
@@ -211,13 +211,13 @@ class FindLsReader : public ListReader {
   }
 
  private:
-  ListOptions options_;
+  ListReadOptions options_;
 };
 
 /// "-rw-r--r-- ann/users 5 2004-01-15 10:20 path\nwith escapes".
 class TarReader : public ListReader {
  public:
-  explicit TarReader(ListOptions options) : options_(std::move(options)) {}
+  explicit TarReader(ListReadOptions options) : options_(std::move(options)) {}
 
   LineSays read(std::string_view line, ListEntry& entry) override {
     const std::optional<ModeRow> row = readModeRow(line, options_);
@@ -236,13 +236,13 @@ class TarReader : public ListReader {
   }
 
  private:
-  ListOptions options_;
+  ListReadOptions options_;
 };
 
 /// "-rw-r--r--          1,234 2004/01/15 10:20:30 path\#012with escapes".
 class RsyncReader : public ListReader {
  public:
-  explicit RsyncReader(ListOptions options) : options_(std::move(options)) {}
+  explicit RsyncReader(ListReadOptions options) : options_(std::move(options)) {}
 
   LineSays read(std::string_view line, ListEntry& entry) override {
     const std::optional<ModeRow> row = readModeRow(line, options_);
@@ -274,24 +274,24 @@ class RsyncReader : public ListReader {
     return plain;
   }
 
-  ListOptions options_;
+  ListReadOptions options_;
 };
 
 }  // namespace
 
-std::unique_ptr<ListReader> makeLsReader(const ListOptions& options, LsNames names) {
+std::unique_ptr<ListReader> makeLsReader(const ListReadOptions& options, LsNames names) {
   return std::make_unique<LsReader>(options, names);
 }
 
-std::unique_ptr<ListReader> makeFindLsReader(const ListOptions& options) {
+std::unique_ptr<ListReader> makeFindLsReader(const ListReadOptions& options) {
   return std::make_unique<FindLsReader>(options);
 }
 
-std::unique_ptr<ListReader> makeTarReader(const ListOptions& options) {
+std::unique_ptr<ListReader> makeTarReader(const ListReadOptions& options) {
   return std::make_unique<TarReader>(options);
 }
 
-std::unique_ptr<ListReader> makeRsyncReader(const ListOptions& options) {
+std::unique_ptr<ListReader> makeRsyncReader(const ListReadOptions& options) {
   return std::make_unique<RsyncReader>(options);
 }
 

@@ -18,7 +18,7 @@ void takeSlash(ListEntry& entry) {
 /// "4<tab>./path", with --time "4<tab>2004-01-15 10:20<tab>./path". A folder comes behind what is in it.
 class DuReader : public ListReader {
  public:
-  explicit DuReader(ListOptions options) : options_(std::move(options)) {}
+  explicit DuReader(ListReadOptions options) : options_(std::move(options)) {}
 
   LineSays read(std::string_view line, ListEntry& entry) override {
     const std::size_t tab = line.find('\t');
@@ -41,7 +41,7 @@ class DuReader : public ListReader {
   }
 
  private:
-  ListOptions options_;
+  ListReadOptions options_;
   std::string parentOfLast_;
 };
 
@@ -204,27 +204,27 @@ class PathsReader : public ListReader {
 
 }  // namespace
 
-std::unique_ptr<ListReader> makeDuReader(const ListOptions& options) {
+std::unique_ptr<ListReader> makeDuReader(const ListReadOptions& options) {
   return std::make_unique<DuReader>(options);
 }
 
-std::unique_ptr<ListReader> makeRcloneReader(const ListOptions&) {
+std::unique_ptr<ListReader> makeRcloneReader(const ListReadOptions&) {
   return std::make_unique<RcloneReader>();
 }
 
-std::unique_ptr<ListReader> makeUnzipReader(const ListOptions&) {
+std::unique_ptr<ListReader> makeUnzipReader(const ListReadOptions&) {
   return std::make_unique<UnzipReader>();
 }
 
-std::unique_ptr<ListReader> makeChecksumsReader(const ListOptions&) {
+std::unique_ptr<ListReader> makeChecksumsReader(const ListReadOptions&) {
   return std::make_unique<ChecksumsReader>();
 }
 
-std::unique_ptr<ListReader> makeBagItReader(const ListOptions&) {
+std::unique_ptr<ListReader> makeBagItReader(const ListReadOptions&) {
   return std::make_unique<BagItReader>();
 }
 
-std::unique_ptr<ListReader> makePathsReader(const ListOptions&) {
+std::unique_ptr<ListReader> makePathsReader(const ListReadOptions&) {
   return std::make_unique<PathsReader>();
 }
 

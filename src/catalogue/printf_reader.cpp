@@ -79,7 +79,8 @@ constexpr std::string_view kDateLetters = "YmdHMS";
 
 class PrintfReader : public ListReader {
  public:
-  explicit PrintfReader(const ListOptions& options) : options_(options), pieces_(piecesOf(options.pattern)) {
+  explicit PrintfReader(const ListReadOptions& options)
+      : options_(options), pieces_(piecesOf(options.pattern)) {
     int paths = 0;
     for (std::size_t i = 0; i < pieces_.size(); ++i) {
       if (!isPath(pieces_[i])) continue;
@@ -298,14 +299,14 @@ class PrintfReader : public ListReader {
     return ListDate{ListDate::Kind::WallClock, ((*number * 24 + hour) * 60 + minute) * 60 + second};
   }
 
-  ListOptions options_;
+  ListReadOptions options_;
   std::vector<Piece> pieces_;
   std::size_t lastPath_ = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<ListReader> makePrintfReader(const ListOptions& options) {
+std::unique_ptr<ListReader> makePrintfReader(const ListReadOptions& options) {
   return std::make_unique<PrintfReader>(options);
 }
 

@@ -50,7 +50,7 @@ std::string plainTitle(const std::string& title) {
 
 class TableReader : public ListReader {
  public:
-  explicit TableReader(const ListOptions& options) {
+  explicit TableReader(const ListReadOptions& options) {
     columns_.fill(kNone);
     if (options.columns.empty()) return;
     isChosen_ = true;
@@ -238,7 +238,7 @@ class TableReader : public ListReader {
 
 }  // namespace
 
-std::unique_ptr<ListReader> makeTableReader(const ListOptions& options) {
+std::unique_ptr<ListReader> makeTableReader(const ListReadOptions& options) {
   return std::make_unique<TableReader>(options);
 }
 

@@ -20,7 +20,7 @@ bool takeOneOf(std::string_view& text, const auto& wanted) {
 
 class TreeReader : public ListReader {
  public:
-  explicit TreeReader(ListOptions options) : options_(std::move(options)) {}
+  explicit TreeReader(ListReadOptions options) : options_(std::move(options)) {}
 
   LineSays read(std::string_view line, ListEntry& entry) override {
     if (line.empty()) return LineSays::NoEntry;
@@ -133,7 +133,7 @@ class TreeReader : public ListReader {
     return line.find(" director") != std::string_view::npos && line.front() >= '0' && line.front() <= '9';
   }
 
-  ListOptions options_;
+  ListReadOptions options_;
   bool hasTop_ = false;
   /// The paths from the top to the last one read.
   std::vector<std::string> above_;
@@ -141,7 +141,7 @@ class TreeReader : public ListReader {
 
 }  // namespace
 
-std::unique_ptr<ListReader> makeTreeReader(const ListOptions& options) {
+std::unique_ptr<ListReader> makeTreeReader(const ListReadOptions& options) {
   return std::make_unique<TreeReader>(options);
 }
 

@@ -8,8 +8,6 @@
 #include "platform/stop_signal.h"
 #include "texts/texts.h"
 
-#include <QDate>
-
 namespace quorvin {
 
 namespace {
@@ -36,27 +34,31 @@ std::optional<DayMonthOrder> orderOfDates(const QString& text) {
   throw refusal(Texts::tr("the value of --dates is dmy or mdy, not \"%1\"").arg(text));
 }
 
-std::optional<std::int64_t> dayMade(const QString& text) {
-  if (text.isEmpty()) return std::nullopt;
-  const QDate date = QDate::fromString(text, Qt::ISODate);
-  const auto day = wallClockDay(date.year(), date.month(), date.day());
-  if (date.isValid() && day) return day;
-  throw refusal(Texts::tr("the value of --made is a day such as 2004-01-15, not \"%1\"").arg(text));
+QString encodingNames() {
+  QStringList names;
+  for (const std::string_view name : listEncodings()) {
+    names += QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+  }
+  return names.join(QStringLiteral(", "));
 }
 
 std::string encodingOf(const QString& text) {
   if (text.isEmpty()) return "utf-8";
   const std::string name = text.toLower().toStdString();
   if (isListEncoding(name)) return name;
-  throw refusal(Texts::tr("there is no encoding \"%1\"; the encodings are %2")
-                    .arg(text, QStringLiteral("utf-8, windows-1252, cp437, cp850, cp852")));
+  throw refusal(Texts::tr("there is no encoding \"%1\"; the encodings are %2").arg(text, encodingNames()));
+}
+
+ImportControls optionNames() {
+  return {QStringLiteral("--format"), QStringLiteral("--dates"), QStringLiteral("--encoding"),
+          QStringLiteral("--made")};
 }
 
 ImportRequest requestOf(const ImportCommand& command) {
   ImportRequest request;
   request.format = formatOf(command);
-  request.options = {command.pattern.toStdString(), command.columns.toStdString(), dayMade(command.made),
-                     command.areSizesBytes};
+  request.options = {command.pattern.toStdString(), command.columns.toStdString(),
+                     dayOfList(command.made, optionNames()), command.areSizesBytes};
   request.encoding = encodingOf(command.encoding);
   request.folder = command.folder;
   request.order = orderOfDates(command.dates);
@@ -65,10 +67,6 @@ ImportRequest requestOf(const ImportCommand& command) {
 
 ImportChoices choicesOf(const ImportCommand& command) {
   return {requestOf(command), command.output, command.label, command.replaces};
-}
-
-ImportControls optionNames() {
-  return {QStringLiteral("--format"), QStringLiteral("--dates"), QStringLiteral("--encoding")};
 }
 
 void printIndented(const QString& indent, const QStringList& lines) {

@@ -97,6 +97,16 @@ TEST_F(ImportedListings, FoldersThatAListingCannotHoldAreLeftOutAndCounted) {
   EXPECT_EQ(counts.files, 1);
 }
 
+TEST_F(ImportedListings, NamesThatHoldAMarkAreCounted) {
+  made({{"", "", EntryKind::Folder},
+        {"", "Directory: x", EntryKind::Folder},
+        {"", "a <DIR> b", EntryKind::File, 1, {}},
+        {"", std::string(70, 'x') + "<DIR>", EntryKind::File, 1, {}},
+        {"", "plain", EntryKind::File, 1, {}}});
+  EXPECT_EQ(counts.misread, 2);
+  EXPECT_EQ(counts.files, 3);
+}
+
 TEST_F(ImportedListings, MomentsAreOfTheMachinesZoneAndWallClocksAsTheyAre) {
   const test::TimeZone zone{test::kCentralEurope};
   // This time was skipped when the clocks changed.

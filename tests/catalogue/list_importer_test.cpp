@@ -17,7 +17,7 @@ class ListImporters : public testing::Test {
   QString list(const QString& name, const QByteArray& bytes) const { return folder_.writeFile(name, bytes); }
 
   ImportedList import(const QString& list) const {
-    const ListImporter importer(choices, {u"Format"_qs, u"Dates"_qs, u"Encoding"_qs},
+    const ListImporter importer(choices, {u"Format"_qs, u"Dates"_qs, u"Encoding"_qs, u"Made"_qs},
                                 [this] { return isStopped; });
     return importer.import(list, [](std::int64_t) {});
   }

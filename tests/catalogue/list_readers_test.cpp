@@ -27,8 +27,8 @@ ListEntry unknown(const char* path, std::optional<std::int64_t> size = {}, ListD
   return {path, EntryKind::Unknown, size, date};
 }
 
-ListOptions madeOn(int year, int month, int day) {
-  ListOptions options;
+ListReadOptions madeOn(int year, int month, int day) {
+  ListReadOptions options;
   options.made = wallClockDay(year, month, day);
   return options;
 }
@@ -187,7 +187,7 @@ TEST(DuLists, AFolderComesBehindWhatIsInIt) {
   EXPECT_EQ(list.says, "eeee");
   EXPECT_THAT(list.entries,
               ElementsAre(unknown("./a b/x y.txt"), folder("./a b"), unknown("./z"), folder(".")));
-  ListOptions bytes;
+  ListReadOptions bytes;
   bytes.areSizesBytes = true;
   const ReadList exact = readLines(*makeDuReader(bytes), {"5\t2004-01-15 10:20\t./x", "not"});
   EXPECT_EQ(exact.says, "e?");
@@ -247,8 +247,8 @@ TEST(PathLists, OnlyWholePathsAreSure) {
   EXPECT_THAT(list.entries, ElementsAre(unknown("/a/b"), folder("./c/"), unknown("plain")));
 }
 
-ListOptions pattern(const char* text) {
-  ListOptions options;
+ListReadOptions pattern(const char* text) {
+  ListReadOptions options;
   options.pattern = text;
   return options;
 }
@@ -292,7 +292,7 @@ TEST(Tables, TheTitlesSayWhatIsInTheColumns) {
 }
 
 TEST(Tables, ColumnsCanBeSaidByNumberOrTitle) {
-  ListOptions options;
+  ListReadOptions options;
   options.columns = "path=2, size=Wie viel,date=4,type=1";
   const auto reader = makeTableReader(options);
   const ReadList list =

@@ -4,11 +4,11 @@
 #include "editors/dialog_driving.h"
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"
+#include "support/waiting_threads.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QSemaphore>
 
 namespace quorvin::test {
 
@@ -287,25 +287,6 @@ TEST_F(ShownCopies, WithoutSourcesItSaysSo) {
     EXPECT_EQ(statusOf(window), "There is nothing to search yet.");
   });
 }
-
-/// Threads that are all kept waiting, as by a drive that does not answer.
-class WaitingThreads {
- public:
-  WaitingThreads() {
-    pool.setMaxThreadCount(1);
-    pool.start([this] { answer_.acquire(); });
-  }
-  ~WaitingThreads() { letGo(); }
-  void letGo() {
-    answer_.release();
-    pool.waitForDone();
-  }
-
-  QThreadPool pool;
-
- private:
-  QSemaphore answer_;
-};
 
 TEST_F(ShownCopies, StopDoesNotWaitForADriveThatDoesNotAnswer) {
   WaitingThreads threads;

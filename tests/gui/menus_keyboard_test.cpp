@@ -57,8 +57,9 @@ TEST_F(MenuKeys, ArrowsReachEveryItemOfTheFileMenu) {
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 1); }), QStringLiteral("Offline Search List files"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 3); }), QStringLiteral("Listing History"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 4); }), QStringLiteral("Copies"));
-  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 6); }), QStringLiteral("Options"));
-  choose(Qt::Key_F, 7);
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 5); }), QStringLiteral("Import"));
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 7); }), QStringLiteral("Options"));
+  choose(Qt::Key_F, 8);
   EXPECT_FALSE(form().isVisible());
 }
 
@@ -75,6 +76,7 @@ TEST_F(MenuKeys, LettersReachTheItemsThatHaveOne) {
             QStringLiteral("Local File Search Locations"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_H); }), QStringLiteral("Listing History"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_C); }), QStringLiteral("Copies"));
+  EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_I); }), QStringLiteral("Import"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_O); }), QStringLiteral("Options"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_P, Qt::Key_G); }),
             QStringLiteral("Get Lists From Peer"));

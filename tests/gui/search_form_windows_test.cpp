@@ -63,6 +63,7 @@ class OpenedWindows : public testing::Test {
                                 if (duringRefresh_) duringRefresh_();
                               },
                               {},
+                              {},
                               {}},
                              main_,
                              QLocale(QLocale::English, QLocale::UnitedStates),

@@ -320,6 +320,10 @@ TEST_P(WindowsFit, CopiesDoWithAndWithoutResults) {
                                         }));
 }
 
+TEST_P(WindowsFit, ImportDoes) {
+  expectDialogFits(form().menus().Import);
+}
+
 TEST_P(WindowsFit, TheDialogsForFilesDo) {
   find(QStringLiteral("song"));
   int boxes = 0;

@@ -1,0 +1,65 @@
+// An import of lists that goes on in a thread of its own.
+#pragma once
+
+#include "catalogue/list_importer.h"
+
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+#include <cstdint>
+#include <vector>
+
+namespace quorvin {
+
+/// run() is for one thread, all else for the one that made the job. Whoever runs it keeps it until the end.
+class ImportJob {
+ public:
+  struct Progress {
+    /// The list that is being read.
+    QString list;
+    std::int64_t lines = 0;
+  };
+
+  /// `lists` are imported one after another.
+  ImportJob(QStringList lists, ImportChoices choices, ImportControls controls);
+
+  /// Once.
+  void run();
+
+  /// A list that is being read leaves no listing; those before it stay. It may take a while where a drive
+  /// that the import waits for has not answered.
+  void stop() { isStopped_ = true; }
+  bool isStopped() const { return isStopped_; }
+  bool hasEnded() const { return hasEnded_; }
+  Progress progress() const;
+
+  // What has come of it; only once it has ended.
+
+  /// The listings that were made, in the order of their lists.
+  const QStringList& places() const { return places_; }
+  /// Whether each list has its listing, with everything that it names.
+  bool isWhole() const { return isWhole_; }
+  /// What there is to say of each list: as what it was read, or why it was not, and what the listing lacks.
+  const QStringList& sentences() const { return sentences_; }
+
+ private:
+  void importOne(const ListImporter& importer, const QString& list);
+  void tell(const QString& list, const ImportedList& made);
+
+  QStringList lists_;
+  ImportChoices choices_;
+  ImportControls controls_;
+  QStringList places_;
+  QStringList sentences_;
+  bool isWhole_ = true;
+
+  mutable QMutex mutex_;
+  QString list_;
+  std::atomic<std::int64_t> lines_ = 0;
+  std::atomic<bool> isStopped_ = false;
+  std::atomic<bool> hasEnded_ = false;
+};
+
+}  // namespace quorvin
