@@ -3988,6 +3988,10 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>the value of %1 is a day such as 2004-01-15, not &quot;%2&quot;</source>
         <translation>der Wert von %1 ist ein Tag wie 2004-01-15, nicht „%2“</translation>
     </message>
+    <message>
+        <source>As the list tells</source>
+        <translation>Wie das Verzeichnis sagt</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -3988,6 +3988,10 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>the value of %1 is a day such as 2004-01-15, not &quot;%2&quot;</source>
         <translation>el valor de %1 es un día como 2004-01-15, no «%2»</translation>
     </message>
+    <message>
+        <source>As the list tells</source>
+        <translation>Según la lista</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -3988,6 +3988,10 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>the value of %1 is a day such as 2004-01-15, not &quot;%2&quot;</source>
         <translation>la valeur de %1 est un jour comme 2004-01-15, pas « %2 »</translation>
     </message>
+    <message>
+        <source>As the list tells</source>
+        <translation>Selon la liste</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -83,7 +84,7 @@ ImportWindow::ImportWindow(ImportWindowParts parts, QWidget* owner)
   format_->addItem(Texts::tr("As recognised"));
   for (const ListFormat& format : listFormats()) format_->addItem(textOf(format.name));
   for (const std::string_view encoding : listEncodings()) encoding_->addItem(textOf(encoding));
-  dates_->addItems({Texts::tr("As recognised"), Texts::tr("Day first"), Texts::tr("Month first")});
+  dates_->addItems({Texts::tr("As the list tells"), Texts::tr("Day first"), Texts::tr("Month first")});
   search_->setChecked(true);
   nameControls();
   describeControls();
@@ -123,6 +124,8 @@ void ImportWindow::nameControls() {
   name(report_, "Report", Texts::tr("What has come of it"));
   name(import_, "Import");
   name(close_, "close");
+  report_->horizontalScrollBar()->setAccessibleName(Texts::tr("Scroll the results sideways"));
+  report_->verticalScrollBar()->setAccessibleName(Texts::tr("Scroll the results down"));
   format_->view()->setAccessibleName(Texts::tr("Programs that make lists"));
   encoding_->view()->setAccessibleName(Texts::tr("Encodings"));
   dates_->view()->setAccessibleName(Texts::tr("Orders of day and month"));
@@ -178,6 +181,8 @@ void ImportWindow::layOut() {
   lists_->setTextElideMode(Qt::ElideMiddle);
   report_->setReadOnly(true);
   report_->setTabChangesFocus(true);
+  // Lines are wrapped.
+  report_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   report_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   report_->setMinimumHeight(report_->fontMetrics().lineSpacing() * kLeastLines);
   for (QComboBox* box : {format_, encoding_, dates_}) box->setSizeAdjustPolicy(QComboBox::AdjustToContents);

@@ -142,6 +142,37 @@ TEST_F(AccessibleWindows, Copies) {
                      "Button close: Close"));
 }
 
+TEST_F(AccessibleWindows, Import) {
+  expectReadingsOfDialog(
+      [this] { form().menus().Import->trigger(); }, QStringLiteral("ImportWindow"), QStringLiteral("Import"),
+      QStringLiteral(
+          "List Lists: Lists to import\nButton Add: Add...\nButton Remove: Remove\n"
+          "StaticText : Made by:\nComboBox Format: Made by:\n"
+          "List : Programs that make lists (hidden)\nListItem : As recognised\n"
+          "ListItem : find-ls\nListItem : rsync\nListItem : tar\nListItem : ls\n"
+          "ListItem : ls-quoted\nListItem : ls-escaped\nListItem : unzip\nListItem : rclone\n"
+          "ListItem : dir\nListItem : bagit\nListItem : checksums\nListItem : du\n"
+          "ListItem : tree\nListItem : csv\nListItem : paths\nListItem : find-printf\n"
+          "StaticText : Pattern:\n"
+          "EditableText Columns: Pattern of find -printf, or columns of a table\n"
+          "StaticText : Encoding:\nComboBox Encoding: Encoding:\nList : Encodings (hidden)\n"
+          "ListItem : utf-8\nListItem : windows-1252\nListItem : cp437\nListItem : cp850\n"
+          "ListItem : cp852\n"
+          "StaticText : Dates:\nComboBox Dates: Dates:\nList : Orders of day and month (hidden)\n"
+          "ListItem : As the list tells\nListItem : Day first\nListItem : Month first\n"
+          "StaticText : Made on:\nEditableText Made: The day on which the lists were made\n"
+          "StaticText : Paths in:\n"
+          "EditableText Folder: Where paths start that do not start with /\n"
+          "StaticText : Volume:\nEditableText Volume: Name of the volume and of its listing\n"
+          "CheckBox Bytes: du told bytes\n"
+          "StaticText : Listings to:\nEditableText Output: Folder for the listings\n"
+          "Button Browse: Browse for a folder\nCheckBox Replace: Replace listings of the same name\n"
+          "CheckBox Search: Search in the listings from now on\n"
+          "EditableText Report: What has come of it\n"
+          "ScrollBar : Scroll the results sideways (hidden)\nScrollBar : Scroll the results down (hidden)\n"
+          "Button Import: Import\nButton close: Close"));
+}
+
 TEST_F(AccessibleWindows, ListingHistory) {
   ListingHistory history(folder_.path());
   folder_.writeFile(QStringLiteral("disk.txt"), listingOf("DISK", 2, "tune"));
