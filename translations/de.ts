@@ -3992,6 +3992,10 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>As the list tells</source>
         <translation>Wie das Verzeichnis sagt</translation>
     </message>
+    <message>
+        <source>%1 is a file of the program; nothing was imported of %2</source>
+        <translation>%1 ist eine Datei des Programms; aus %2 wurde nichts importiert</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

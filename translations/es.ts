@@ -3992,6 +3992,10 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>As the list tells</source>
         <translation>Según la lista</translation>
     </message>
+    <message>
+        <source>%1 is a file of the program; nothing was imported of %2</source>
+        <translation>%1 es un archivo del programa; no se importó nada de %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -3992,6 +3992,10 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>As the list tells</source>
         <translation>Selon la liste</translation>
     </message>
+    <message>
+        <source>%1 is a file of the program; nothing was imported of %2</source>
+        <translation>%1 est un fichier du programme ; rien n’a été importé de %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

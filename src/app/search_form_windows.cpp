@@ -119,7 +119,8 @@ void SearchFormWindows::Import_Click() {
     question.initialFolder = folder;
     return picker().pickFolder(question);
   };
-  ImportWindowParts parts{lookers_.pool(), locale_,    sourceEditing_.state.LocalFolder,
+  const ProgramState& state = sourceEditing_.state;
+  ImportWindowParts parts{lookers_.pool(), locale_,    state.LocalFolder, ownFileCheck(state),
                           pickLists,       pickFolder, addListings_};
   ImportWindow window(std::move(parts), &owner_);
   import_ = &window;

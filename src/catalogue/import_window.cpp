@@ -296,7 +296,7 @@ void ImportWindow::Import_Click() {
 
 void ImportWindow::start() {
   const QString label = volume_->isEnabled() ? volume_->text() : QString();
-  ImportChoices choices{request(), output_->text(), label, replace_->isChecked()};
+  ImportChoices choices{request(), output_->text(), label, replace_->isChecked(), parts_.isOwnFile};
   job_ = std::make_shared<ImportJob>(listNames(), std::move(choices), controlNames());
   parts_.threads.start([job = job_] { job->run(); });
   import_->setText(stopCaption());

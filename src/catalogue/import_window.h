@@ -28,6 +28,8 @@ struct ImportWindowParts {
   QLocale locale;
   /// The folder for the listings at first.
   QString output;
+  /// See ImportChoices; asked in another thread.
+  std::function<bool(const QString& path)> isOwnFile;
   /// Asks the user for lists; none when the user cancels.
   std::function<QStringList()> pickLists;
   /// Asks the user for a folder, with the one that is chosen now; nothing when the user cancels.

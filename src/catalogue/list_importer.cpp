@@ -68,6 +68,10 @@ QString ListImporter::placeOf(const QString& list) const {
   QString name = nameOf(list);
   name.replace(u'/', u'_');
   const QFileInfo place(QDir(choices_.output).filePath(name + QStringLiteral(".txt")));
+  if (choices_.isOwnFile && choices_.isOwnFile(place.absoluteFilePath())) {
+    throw refusal(
+        Texts::tr("%1 is a file of the program; nothing was imported of %2").arg(place.filePath(), list));
+  }
   if (!place.exists()) return place.filePath();
   const bool isTheList = place.canonicalFilePath() == QFileInfo(list).canonicalFilePath();
   if (isTheList || !choices_.replaces) {

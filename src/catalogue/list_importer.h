@@ -22,6 +22,8 @@ struct ImportChoices {
   QString label = {};
   /// Whether a listing of the same name is replaced. A list is never replaced by its own listing.
   bool replaces = false;
+  /// Whether a file is the program's own, in whose place no listing may stand; empty where none is.
+  std::function<bool(const QString& path)> isOwnFile = {};
 };
 
 /// The day that the user says a list was made on, such as "2004-01-15"; nothing for an empty text. Throws

@@ -6,6 +6,8 @@
 #include "console/progress_line.h"
 #include "faults/runtime_fault.h"
 #include "platform/stop_signal.h"
+#include "state/program_state.h"
+#include "state/settings.h"
 #include "texts/texts.h"
 
 namespace quorvin {
@@ -66,7 +68,10 @@ ImportRequest requestOf(const ImportCommand& command) {
 }
 
 ImportChoices choicesOf(const ImportCommand& command) {
-  return {requestOf(command), command.output, command.label, command.replaces};
+  ProgramState state;
+  ErrorLines messages;
+  loadUserSources(state, QLocale(), messages);
+  return {requestOf(command), command.output, command.label, command.replaces, ownFileCheck(state)};
 }
 
 void printIndented(const QString& indent, const QStringList& lines) {

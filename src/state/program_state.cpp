@@ -52,4 +52,13 @@ bool ProgramState::hasSources() const {
   return OnlineSourceCount > 0 || OfflineSourceCount > 0 || !TextFile.isEmpty();
 }
 
+std::function<bool(const QString& path)> ownFileCheck(const ProgramState& state) {
+  ProgramState files;
+  files.LocalFolder = state.LocalFolder;
+  files.LocFile = state.LocFile;
+  files.OffLineFile = state.OffLineFile;
+  files.TextFile = state.TextFile;
+  return [files](const QString& path) { return files.isOwnFile(path); };
+}
+
 }  // namespace quorvin

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace quorvin {
 
 /// What is known of a source list on disk since it was read when the program started, or saved. A list of
@@ -108,5 +110,8 @@ struct ProgramState {
   /// Whether there is anything to search: a source, or the name of a main data file.
   bool hasSources() const;
 };
+
+/// Asks isOwnFile() of `state` as it is now, in any thread and also when it is gone.
+std::function<bool(const QString& path)> ownFileCheck(const ProgramState& state);
 
 }  // namespace quorvin

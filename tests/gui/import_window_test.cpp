@@ -152,6 +152,20 @@ TEST_F(ImportedInWindow, AListingThatIsThereStaysUnlessItIsToBeReplaced) {
   });
 }
 
+TEST_F(ImportedInWindow, NoListingStandsInThePlaceOfAFileOfTheProgram) {
+  state_.OffLineFile = QStringLiteral("OfflineLocations.txt");
+  lists_.writeFile(QStringLiteral("OfflineLocations.lst"), kDisc);
+  inWindow([this](ImportWindow& window) {
+    add(window, QStringLiteral("OfflineLocations.lst"));
+    click(in<QCheckBox>(window, "Replace"));
+    import(window);
+    EXPECT_EQ(reportOf(window), pathOf("OfflineLocations.txt") +
+                                    " is a file of the program; nothing was imported of " +
+                                    listOf("OfflineLocations.lst"));
+  });
+  EXPECT_FALSE(folder_.names().contains(QStringLiteral("OfflineLocations.txt")));
+}
+
 TEST_F(ImportedInWindow, ListsAreDroppedAndTakenOutAgain) {
   inWindow([this](ImportWindow& window) {
     QMimeData data;
@@ -200,6 +214,7 @@ TEST_F(ImportedInWindow, StopsAndClosesWhileADriveDoesNotAnswer) {
   const ImportWindowParts parts{threads.pool,
                                 QLocale(),
                                 folder_.path(),
+                                ownFileCheck(state_),
                                 [this] { return QStringList{lists_.pathOf(QStringLiteral("cd7.lst"))}; },
                                 [](const QString&) { return std::nullopt; },
                                 [](const QStringList&) { return QStringLiteral("added"); }};
