@@ -158,7 +158,7 @@ void CopiesWindow::connectControls() {
   connect(close_, &QPushButton::clicked, this, &CopiesWindow::reject);
   connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
     // A group unfolds by itself.
-    if (isPlace(index)) open(index);
+    if (isPlace(index)) showPlace(index);
   });
   connect(&watch_, &QTimer::timeout, this, &CopiesWindow::look);
   list_->installEventFilter(this);
@@ -282,14 +282,14 @@ bool CopiesWindow::takeKey(const QKeyEvent& key) {
   if ((key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) || !current.isValid()) return false;
   const QModelIndex row = current.siblingAtColumn(0);
   if (isPlace(row)) {
-    open(row);
+    showPlace(row);
   } else {
     list_->setExpanded(row, !list_->isExpanded(row));
   }
   return true;
 }
 
-void CopiesWindow::open(const QModelIndex& index) {
+void CopiesWindow::showPlace(const QModelIndex& index) {
   const std::optional<HitRow> file = rows_.fileOf(index);
   if (!file || parts_.showFile(*file)) return;
   status_->setText(

@@ -65,7 +65,7 @@ class CopiesWindow : public QDialog {
   void fitColumns();
   QString resultText(const CopiesJob& job) const;
   bool takeKey(const QKeyEvent& key);
-  void open(const QModelIndex& index);
+  void showPlace(const QModelIndex& index);
   void copyRows() const;
 
   CopiesWindowParts parts_;
