@@ -3929,10 +3929,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Das Muster, das find erhielt, etwa %s %T@ %p\n, oder welche Spalte einer Tabelle was enthält, etwa path=1,size=3</translation>
     </message>
     <message>
-        <source>Whether 03/04/2004 is in March or in April; as recognised means that other dates of the list tell</source>
-        <translation>Ob 03/04/2004 im März oder im April liegt; wie erkannt heißt, dass andere Daten des Verzeichnisses es sagen</translation>
-    </message>
-    <message>
         <source>A day such as 2004-01-15. ls leaves the year of recent dates out.</source>
         <translation>Ein Tag wie 2004-01-15. ls lässt bei jüngeren Daten das Jahr weg.</translation>
     </message>
@@ -3995,6 +3991,10 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>%1 is a file of the program; nothing was imported of %2</source>
         <translation>%1 ist eine Datei des Programms; aus %2 wurde nichts importiert</translation>
+    </message>
+    <message>
+        <source>Whether 03/04/2004 is in March or in April. Other dates of the list may tell.</source>
+        <translation>Ob 03/04/2004 im März oder im April liegt. Andere Daten des Verzeichnisses sagen es vielleicht.</translation>
     </message>
 </context>
 <context>

@@ -3929,10 +3929,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>El patrón que recibió find, por ejemplo %s %T@ %p\n, o qué columna de una tabla contiene qué, por ejemplo path=1,size=3</translation>
     </message>
     <message>
-        <source>Whether 03/04/2004 is in March or in April; as recognised means that other dates of the list tell</source>
-        <translation>Si 03/04/2004 es en marzo o en abril; según la lista: otras fechas de la lista lo dicen</translation>
-    </message>
-    <message>
         <source>A day such as 2004-01-15. ls leaves the year of recent dates out.</source>
         <translation>Un día como 2004-01-15. ls omite el año de las fechas recientes.</translation>
     </message>
@@ -3995,6 +3991,10 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>%1 is a file of the program; nothing was imported of %2</source>
         <translation>%1 es un archivo del programa; no se importó nada de %2</translation>
+    </message>
+    <message>
+        <source>Whether 03/04/2004 is in March or in April. Other dates of the list may tell.</source>
+        <translation>Si 03/04/2004 es en marzo o en abril. Quizá lo digan otras fechas de la lista.</translation>
     </message>
 </context>
 <context>

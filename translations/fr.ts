@@ -3929,10 +3929,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>Le motif donné à find, par exemple %s %T@ %p\n, ou quelle colonne d’un tableau contient quoi, par exemple path=1,size=3</translation>
     </message>
     <message>
-        <source>Whether 03/04/2004 is in March or in April; as recognised means that other dates of the list tell</source>
-        <translation>Si 03/04/2004 est en mars ou en avril ; selon la liste : d’autres dates de la liste le disent</translation>
-    </message>
-    <message>
         <source>A day such as 2004-01-15. ls leaves the year of recent dates out.</source>
         <translation>Un jour comme 2004-01-15. ls omet l’année des dates récentes.</translation>
     </message>
@@ -3995,6 +3991,10 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>%1 is a file of the program; nothing was imported of %2</source>
         <translation>%1 est un fichier du programme ; rien n’a été importé de %2</translation>
+    </message>
+    <message>
+        <source>Whether 03/04/2004 is in March or in April. Other dates of the list may tell.</source>
+        <translation>Si 03/04/2004 est en mars ou en avril. D’autres dates de la liste le disent peut-être.</translation>
     </message>
 </context>
 <context>

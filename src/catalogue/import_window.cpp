@@ -139,8 +139,8 @@ void ImportWindow::describeControls() {
   describe(columns_,
            Texts::tr("The pattern that find was given, such as %s %T@ %p\\n, or which column of a table "
                      "holds what, such as path=1,size=3"));
-  describe(dates_, Texts::tr("Whether 03/04/2004 is in March or in April; as recognised means that other "
-                             "dates of the list tell"));
+  describe(dates_,
+           Texts::tr("Whether 03/04/2004 is in March or in April. Other dates of the list may tell."));
   describe(made_, Texts::tr("A day such as 2004-01-15. ls leaves the year of recent dates out."));
   describe(folder_, Texts::tr("For paths that do not start with /, such as /media/cd"));
   describe(volume_, Texts::tr("Empty for the name of the list. For one list at a time."));
