@@ -100,7 +100,7 @@ QHeaderView* columnsOf(const SearchFormControls& controls) {
 int widestDate(const QFont& font, const QLocale& locale) {
   const QFontMetricsF metrics(font);
   const auto widthOn = [&](QDate day) {
-    const QString text = shortMonthDateText(dateValueOf(day.startOfDay(Qt::UTC)), locale);
+    const QString text = shortMonthDateText(dateValueOf(QDateTime(day, QTime(12, 0))), locale);
     return std::max(metrics.horizontalAdvance(text), metrics.boundingRect(text).width());
   };
   // The names of the months differ far more than the days do: the days of all months would take longer than

@@ -6,6 +6,7 @@
 
 #include <QDate>
 #include <QTime>
+#include <QTimeZone>
 
 #include <algorithm>
 #include <array>
@@ -28,8 +29,8 @@ QDateTime dateTimeOf(DateValue value) {
   const DayAndSecond moment = splitDateValue(value);
   const CalendarDate date = calendarDateOf(moment.day);
   // In a zone with summer time an hour of the year is missing; UTC has every wall-clock time.
-  return QDateTime(QDate(date.year, date.month, date.day),
-                   QTime::fromMSecsSinceStartOfDay(moment.second * 1000), Qt::UTC);
+  return {QDate(date.year, date.month, date.day), QTime::fromMSecsSinceStartOfDay(moment.second * 1000),
+          QTimeZone::utc()};
 }
 
 QString generalDateText(DateValue value, const QLocale& locale) {
