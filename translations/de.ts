@@ -3277,10 +3277,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Es gibt mehr als %1 Dateien</translation>
     </message>
     <message>
-        <source>the rows could not all be written to standard output</source>
-        <translation>die Zeilen konnten nicht alle auf die Standardausgabe geschrieben werden</translation>
-    </message>
-    <message>
         <source>comparing names and sizes</source>
         <translation>Namen und Größen werden verglichen</translation>
     </message>

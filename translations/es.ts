@@ -3277,10 +3277,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>Hay más de %1 archivos</translation>
     </message>
     <message>
-        <source>the rows could not all be written to standard output</source>
-        <translation>no se pudieron escribir todas las filas en la salida estándar</translation>
-    </message>
-    <message>
         <source>comparing names and sizes</source>
         <translation>comparando nombres y tamaños</translation>
     </message>

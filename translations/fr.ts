@@ -3277,10 +3277,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>Il y a plus de %1 fichiers</translation>
     </message>
     <message>
-        <source>the rows could not all be written to standard output</source>
-        <translation>les lignes n’ont pas toutes pu être écrites sur la sortie standard</translation>
-    </message>
-    <message>
         <source>comparing names and sizes</source>
         <translation>comparaison des noms et des tailles</translation>
     </message>

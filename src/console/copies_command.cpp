@@ -4,45 +4,22 @@
 #include "console/error_lines.h"
 #include "console/search_parts.h"
 #include "faults/runtime_fault.h"
+#include "files/file_writer.h"
 #include "platform/stop_signal.h"
 #include "texts/texts.h"
 
 #include <QLocale>
 
-#include <cstdio>
 #include <limits>
 #include <optional>
+#include <string>
 #include <unistd.h>
 
 namespace quorvin {
 
 namespace {
 
-constexpr std::size_t kRowsBufferSize = std::size_t{1} << 16;
-
 using SumBy = CopiesRequest::SumBy;
-
-/// Hands rows to standard output.
-class RowOutput {
- public:
-  std::string& text() { return text_; }
-
-  /// To be called after each row. False where no more of them can be written.
-  bool goesOn() {
-    if (text_.size() >= kRowsBufferSize) flush();
-    return isGood_;
-  }
-  bool flush() {
-    if (std::fwrite(text_.data(), 1, text_.size(), stdout) != text_.size()) isGood_ = false;
-    text_.clear();
-    if (std::fflush(stdout) != 0) isGood_ = false;
-    return isGood_;
-  }
-
- private:
-  std::string text_;
-  bool isGood_ = true;
-};
 
 class LookingForCopies {
  public:
@@ -58,13 +35,9 @@ class LookingForCopies {
       if (finder_.find(request_.listings)) write();
     } catch (const RuntimeFault& fault) {
       hasFailed_ = true;
-      printError(fault.text());
+      printError(fault.description());
     }
     progress_.line().clear();
-    if (!output_.flush()) {
-      hasFailed_ = true;
-      printError(Texts::tr("the rows could not all be written to standard output"));
-    }
     if (!hasFailed_ && !stopSignalled()) report();
     return status();
   }
@@ -99,49 +72,57 @@ class LookingForCopies {
     } else {
       writeCopies(rows);
     }
+    writeRow();
+    output_.flush();
   }
 
-  /// Whether one more row may be written, which is counted.
+  void writeRow() {
+    output_.write(row_);
+    row_.clear();
+  }
+
+  /// Whether one more row may be written, which is counted. The row before it goes on its way.
   bool takesRow() {
+    writeRow();
     if (written_ >= request_.limit.value_or(std::numeric_limits<std::int64_t>::max())) return false;
     ++written_;
-    return output_.goesOn() && !stopSignalled();
+    return !stopSignalled();
   }
 
   void writeCopies(CopyRows& rows) {
-    if (request_.hasHeader) rows.addHead(output_.text(), CopyTable::Copies);
+    if (request_.hasHeader) rows.addHead(row_, CopyTable::Copies);
     for (const CopyLine& line : finder_.lines()) {
       if (!takesRow()) return;
-      rows.addLine(output_.text(), line, written_);
+      rows.addLine(row_, line, written_);
     }
   }
 
   void writeSingleFiles(CopyRows& rows) {
-    if (request_.hasHeader) rows.addHead(output_.text(), CopyTable::SingleFiles);
+    if (request_.hasHeader) rows.addHead(row_, CopyTable::SingleFiles);
     const std::vector<FileSum> inVolumes = sumsOfVolumes(finder_.folders(), finder_.inFolders());
     bool isEnough = false;
     finder_.visitSingle(
         [&](ListedFiles::Visited& file) {
           isEnough = isEnough || !takesRow();
-          if (!isEnough) rows.addSingleFile(output_.text(), file, inVolumes, finder_.inFolders());
+          if (!isEnough) rows.addSingleFile(row_, file, inVolumes, finder_.inFolders());
         },
         [&] { return isEnough || stopSignalled(); });
   }
 
   void writeVolumes(CopyRows& rows) {
-    if (request_.hasHeader) rows.addHead(output_.text(), CopyTable::Volumes);
+    if (request_.hasHeader) rows.addHead(row_, CopyTable::Volumes);
     const std::vector<FileSum> sums = sumsOfVolumes(finder_.folders(), finder_.inFolders());
     for (const std::uint32_t volume : largestFirst(sums)) {
       if (!takesRow()) return;
-      rows.addVolumeSum(output_.text(), volume, sums[volume]);
+      rows.addVolumeSum(row_, volume, sums[volume]);
     }
   }
 
   void writeFolders(CopyRows& rows) {
-    if (request_.hasHeader) rows.addHead(output_.text(), CopyTable::Folders);
+    if (request_.hasHeader) rows.addHead(row_, CopyTable::Folders);
     for (const std::uint32_t folder : largestFirst(finder_.inFolders())) {
       if (!takesRow()) return;
-      rows.addFolderSum(output_.text(), folder, finder_.inFolders()[folder]);
+      rows.addFolderSum(row_, folder, finder_.inFolders()[folder]);
     }
   }
 
@@ -162,7 +143,8 @@ class LookingForCopies {
   ProgramState state_;
   ErrorLines messages_;
   SearchProgress progress_;
-  RowOutput output_;
+  FileWriter output_{STDOUT_FILENO, Texts::tr("standard output")};
+  std::string row_;
   CopyFinder finder_;
   /// Rows, or lines with what belongs to them.
   std::int64_t written_ = 0;

@@ -69,7 +69,7 @@ class Finding {
       if (request_.order.column) writeSorted();
     } catch (const RuntimeFault& fault) {
       hasFailed_ = true;
-      printError(fault.text());
+      printError(fault.description());
     }
     progress_.line().clear();
     if (request_.countOnly) std::printf("%lld\n", static_cast<long long>(shownHits()));

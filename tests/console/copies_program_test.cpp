@@ -173,6 +173,15 @@ TEST_F(CopiesProgram, StandardInputIsAListing) {
             "  CD 2: \\Backup\\Films\\\n");
 }
 
+TEST_F(CopiesProgram, OutputThatCannotBeWrittenEndsWith2) {
+  process.setStandardOutputFile(u"/dev/full"_qs);
+  for (const QString& option : {u"--by-folder"_qs, u"--single"_qs, u"--by-volume"_qs}) {
+    const test::Ended ended = copies({option, u""_qs});
+    EXPECT_EQ(ended.errors, u"quorvin-cli: Disk full: standard output\n"_qs) << option.toStdString();
+    EXPECT_EQ(ended.status, 2) << option.toStdString();
+  }
+}
+
 TEST_F(CopiesProgram, ControlCharactersOfNamesAreBlanks) {
   folder.writeFile(u"odd.txt"_qs, blockHead("A\x1B[1m", "\\1\\") + entryLine("a\x1B[31m", "5") +
                                       blockHead("A\x1B[1m", "\\2\x07\\") + entryLine("a\x1B[31m", "5"));
