@@ -18,7 +18,7 @@ METADATA_PACKAGES=(appstream desktop-file-utils reuse)
 # To use the exported page as people do:
 BROWSER_PACKAGES=(chromium)
 # To try the packages in clean systems:
-PACKAGING_PACKAGES=(autopkgtest mmdebstrap rpm)
+PACKAGING_PACKAGES=(autopkgtest mmdebstrap)
 # What the clang preset needs on top:
 CLANG_PACKAGES=(clang-14 libclang-rt-14-dev llvm-14)
 
