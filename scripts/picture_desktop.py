@@ -67,7 +67,12 @@ LOOKS = {
     "de": ({"LC_ALL": "de_DE.UTF-8"}, [], 1),
     "ja": ({"LC_ALL": "ja_JP.UTF-8"}, [], 1),
     "steps": ({}, [], 1),
+    "manual-de": ({"LC_ALL": "de_DE.UTF-8"}, [], 1),
+    "manual-es": ({"LC_ALL": "es_ES.UTF-8"}, [], 1),
+    "manual-fr": ({"LC_ALL": "fr_FR.UTF-8"}, [], 1),
 }
+# How the toolkit's own translations call the button "Yes".
+YES = {"de": "&Ja", "es": "&Sí", "fr": "&Oui"}
 
 
 def translations(language):
@@ -76,7 +81,7 @@ def translations(language):
     if not path.exists():
         return {}
     messages = ElementTree.parse(path).getroot().iter("message")
-    return {message.findtext("source"): message.findtext("translation") for message in messages}
+    return {message.findtext("source"): message.findtext("translation") for message in messages} | {"&Yes": YES[language]}
 
 
 def until(what, condition):
@@ -265,8 +270,10 @@ class Program:
         if colours := {"dark": DARK, "contrast": CONTRAST}.get(look):
             (HOME / ".config/kdeglobals").write_text(colours)
         self.screen = screen
-        self.texts = translations(environment.get("LC_ALL", "en")[:2])
+        language = environment.get("LC_ALL", "en")[:2]
+        self.texts = translations(language)
         self.suffix = "" if look in ("light", "steps") else "-" + look
+        self.manual = TOP / f"src/help/pages/{language}/images" if look == f"manual-{language}" else None
         self.process = subprocess.Popen([home.program, *arguments], env=screen.environment | home.environment | environment,
                                         cwd=HOME, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.main = screen.window(TITLE)
@@ -290,6 +297,10 @@ class Program:
         self.process.wait(PATIENCE)
 
     def take(self, name, window=None, folder=PICTURES, **how):
+        if self.manual:
+            if (MANUAL / f"{name}.png").exists():
+                self.screen.take(self.manual / f"{name}.png", window or self.main, **how)
+            return
         path = folder / f"{name}{self.suffix}.png"
         self.screen.take(path, window or self.main, **how)
         # The manual shows some of them, too.

@@ -710,7 +710,7 @@ Forget the request, and rescan everything?</source>
     </message>
     <message>
         <source>%1 selected</source>
-        <translation>%1 seleccionados</translation>
+        <translation>seleccionados: %1</translation>
     </message>
     <message>
         <source>without the main data file offline lists are not searched</source>

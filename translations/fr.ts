@@ -710,7 +710,7 @@ Oublier la demande et tout relire&#xa0;?</translation>
     </message>
     <message>
         <source>%1 selected</source>
-        <translation>%1 sélectionnés</translation>
+        <translation>sélectionnés : %1</translation>
     </message>
     <message>
         <source>without the main data file offline lists are not searched</source>
