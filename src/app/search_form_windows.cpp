@@ -120,8 +120,8 @@ void SearchFormWindows::Import_Click() {
     return picker().pickFolder(question);
   };
   const ProgramState& state = sourceEditing_.state;
-  ImportWindowParts parts{lookers_.pool(), locale_,    state.LocalFolder, ownFileCheck(state),
-                          pickLists,       pickFolder, addListings_};
+  ImportWindowParts parts{lookers_.pool(), state.LocalFolder, ownFileCheck(state),
+                          pickLists,       pickFolder,        addListings_};
   ImportWindow window(std::move(parts), &owner_);
   import_ = &window;
   window.exec();

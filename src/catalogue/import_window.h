@@ -9,7 +9,6 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QThreadPool>
@@ -25,7 +24,6 @@ namespace quorvin {
 struct ImportWindowParts {
   /// Where lists are read. A thread that waits for a drive is left to itself when the window closes.
   QThreadPool& threads;
-  QLocale locale;
   /// The folder for the listings at first.
   QString output;
   /// See ImportChoices; asked in another thread.

@@ -212,7 +212,6 @@ TEST_F(ImportedInWindow, CanBeUsedByKeysAlone) {
 TEST_F(ImportedInWindow, StopsAndClosesWhileADriveDoesNotAnswer) {
   WaitingThreads threads;
   const ImportWindowParts parts{threads.pool,
-                                QLocale(),
                                 folder_.path(),
                                 ownFileCheck(state_),
                                 [this] { return QStringList{lists_.pathOf(QStringLiteral("cd7.lst"))}; },

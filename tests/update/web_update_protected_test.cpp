@@ -3,6 +3,8 @@
 #include "support/listing_lines.h"
 #include "update/web_update_fixture.h"
 
+#include <utility>
+
 namespace quorvin::test {
 namespace {
 
@@ -76,23 +78,22 @@ TEST_F(WebUpdateProtected, AProgramThatSharesTheDataFolderStays) {
   EXPECT_THAT(boxes_.informed, ElementsAre(kLeftOut + u"\r\nquorvin\r\nimageformats/libnew.so"_qs));
 }
 
-TEST_F(WebUpdateProtected, TenNamesAreShownAndTheOthersCounted) {
+class WebUpdateProtectedNames : public WebUpdateProtected,
+                                public testing::WithParamInterface<std::pair<int, const char*>> {};
+
+TEST_P(WebUpdateProtectedNames, TenAreShownAndTheOthersCounted) {
+  const auto [count, end] = GetParam();
   QStringList names;
-  for (int number = 1; number <= 1234; ++number) names += u"history/%1"_qs.arg(number);
+  for (int number = 1; number <= count; ++number) names += u"history/%1"_qs.arg(number);
   update(names);
   ASSERT_EQ(boxes_.informed.size(), 1U);
-  EXPECT_TRUE(boxes_.informed[0].endsWith(u"history/10\r\nand 1,224 more"_qs))
-      << boxes_.informed[0].toStdString();
+  EXPECT_TRUE(boxes_.informed[0].endsWith(QString::fromLatin1(end))) << boxes_.informed[0].toStdString();
 }
 
-TEST_F(WebUpdateProtected, TheEleventhNameIsCountedToo) {
-  QStringList names;
-  for (int number = 1; number <= 11; ++number) names += u"history/%1"_qs.arg(number);
-  update(names);
-  ASSERT_EQ(boxes_.informed.size(), 1U);
-  EXPECT_TRUE(boxes_.informed[0].endsWith(u"history/10\r\nand 1 more"_qs))
-      << boxes_.informed[0].toStdString();
-}
+INSTANTIATE_TEST_SUITE_P(Counts, WebUpdateProtectedNames,
+                         testing::Values(std::pair(10, "history/9\r\nhistory/10"),
+                                         std::pair(11, "history/10\r\nand 1 more"),
+                                         std::pair(1234, "history/10\r\nand 1,224 more")));
 
 TEST_F(WebUpdateProtected, WhatIsLeftOutDoesNotMakeTheUpdateBeOfferedAgain) {
   update({u"Locations.txt"_qs, u"main.txt"_qs});
