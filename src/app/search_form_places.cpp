@@ -100,6 +100,7 @@ QHeaderView* columnsOf(const SearchFormControls& controls) {
 int widestDate(const QFont& font, const QLocale& locale) {
   const QFontMetricsF metrics(font);
   const auto widthOn = [&](QDate day) {
+    // Where summer time begins at midnight, that day has none.
     const QString text = shortMonthDateText(dateValueOf(QDateTime(day, QTime(12, 0))), locale);
     return std::max(metrics.horizontalAdvance(text), metrics.boundingRect(text).width());
   };
