@@ -16,6 +16,7 @@
 #include <QNetworkProxy>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <stdexcept>
@@ -79,9 +80,16 @@ inline QByteArray smallArchive(const QByteArray& text = "a listing") {
   return folder.readFile(QStringLiteral("list.zip"));
 }
 
+/// So that an answer whose pieces come slowly on a busy machine is not taken for half of it.
+inline PeerClientLimits patience() {
+  PeerClientLimits limits;
+  limits.settle = limits.stall = limits.silence = std::chrono::hours(1);
+  return limits;
+}
+
 /// A program that gets lists. It asks as soon as it may.
 struct GettingProgram : PeerProgram {
-  explicit GettingProgram(const PeerClientLimits& limits = {})
+  explicit GettingProgram(const PeerClientLimits& limits = patience())
       : timer(work, queue, std::chrono::milliseconds(1)), client(state, queue, timer, QLocale::c(), limits) {
     QObject::connect(&client, &PeerClient::ended, &client, [this](const PeerOutcome& it) { outcome = it; });
   }
