@@ -1,6 +1,7 @@
 #include "editors/source_looks.h"
 
 #include "files/file_lookup.h"
+#include "files/pool_work.h"
 #include "texts/texts.h"
 
 #include <QFileInfo>
@@ -140,7 +141,7 @@ void SourceLooks::lookAt(const std::vector<SourcePlaces>& places) {
   watcher->setFuture(round->promise.future());
   const std::size_t lookers = std::min(kLookers, round->places.size());
   round->working = lookers;
-  for (std::size_t i = 0; i < lookers; ++i) pool_.start([round] { round->work(); });
+  for (std::size_t i = 0; i < lookers; ++i) startIn(pool_, [round] { round->work(); });
 }
 
 const SourceFacts* SourceLooks::facts(const SourcePlaces& places) const {

@@ -1,6 +1,8 @@
 // Work in another thread, with the result handed over to the user interface.
 #pragma once
 
+#include "files/pool_work.h"
+
 #include <QFuture>
 #include <QFutureWatcher>
 #include <QObject>
@@ -27,7 +29,7 @@ void inBackground(QThreadPool& pool, QObject* user, Work work, Use use) {
   // Shared, because a task of the pool must be copyable.
   const auto promise = std::make_shared<QPromise<Result>>();
   watcher->setFuture(promise->future());
-  pool.start([promise, work = std::move(work)]() mutable {
+  startIn(pool, [promise, work = std::move(work)]() mutable {
     promise->start();
     try {
       promise->addResult(work());
