@@ -74,10 +74,7 @@ void WordSearch::find(const TextTable& table, std::uint32_t first, std::uint32_t
   while (first < last) {
     const std::uint32_t pageEnd = std::min((first / kTextsPerPage + 1) * kTextsPerPage, table.count);
     const std::uint32_t stretchLast = std::min(last, pageEnd);
-    const std::uint32_t beginMark = first / kTextsPerMark;
-    const std::uint32_t endMark = (stretchLast + kTextsPerMark - 1) / kTextsPerMark;
-    findInPage(table, {table.between(beginMark, endMark), beginMark * kTextsPerMark, first, stretchLast},
-               seen, {elsewhere, mostMissing});
+    findInPage(table, {first, stretchLast}, seen, {elsewhere, mostMissing});
     first = stretchLast;
   }
   table.requireSearched();
@@ -91,13 +88,13 @@ void WordSearch::makeRoom(std::size_t blocks) {
   texts_.resize(std::max(texts_.size(), blocks + 1));
 }
 
-/// Rules out the words that cannot be in a page with these trigrams, if they are known. Returns how many
-/// words are certainly missing.
-int WordSearch::ruleOut(const TrigramSet* trigrams, const Slack& slack) {
+/// Rules out the words that cannot be in the page by its trigrams, if they are known. Returns how many words
+/// are certainly missing.
+int WordSearch::ruleOut(const TrigramRows& trigrams, std::size_t page, const Slack& slack) {
   int missing = 0;
   for (std::size_t word = 0; word < needles_.size(); ++word) {
     Needle& needle = needles_[word];
-    needle.isRuledOut = trigrams != nullptr && !needle.probe.mayBeIn(*trigrams);
+    needle.isRuledOut = !needle.probe.mayBeIn(trigrams, page);
     if (needle.isRuledOut && !slack.elsewhere.has(word)) missing += needle.times;
   }
   return missing;
@@ -105,16 +102,13 @@ int WordSearch::ruleOut(const TrigramSet* trigrams, const Slack& slack) {
 
 void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen,
                             const Slack& slack) {
-  const TrigramSet* trigrams =
-      table.trigrams.empty() ? nullptr : &table.trigrams[stretch.first / kTextsPerPage];
-  int missing = ruleOut(trigrams, slack);
+  int missing = ruleOut(table.trigramRows(), stretch.first / kTextsPerPage, slack);
   std::optional<std::string_view> text;
   bool endsKnown = false;
-  makeRoom((stretch.place.size + 63) / 64);
   for (std::size_t word = 0; word < needles_.size() && missing <= slack.most; ++word) {
     Needle& needle = needles_[word];
     if (needle.isRuledOut) continue;
-    if (!text) text = table.toSearch(stretch.place);
+    if (!text) text = textToSearch(table, stretch);
     needle.isLikely = findTexts(*text, needle, endsKnown);
     if (needle.isLikely) {
       seeTexts(stretch, word, seen);
@@ -122,6 +116,14 @@ void WordSearch::findInPage(const TextTable& table, const Stretch& stretch, Seen
       missing += needle.times;
     }
   }
+}
+
+/// Only for pages that are searched at all: in the others, not even the marks are read.
+std::string_view WordSearch::textToSearch(const TextTable& table, const Stretch& stretch) {
+  const std::uint32_t endMark = (stretch.last + kTextsPerMark - 1) / kTextsPerMark;
+  const TextTable::Stretch place = table.between(stretch.first / kTextsPerMark, endMark);
+  makeRoom((place.size + 63) / 64);
+  return table.toSearch(place);
 }
 
 /// Whether the word is anywhere in the text; if so, `texts_` are known.
@@ -141,11 +143,11 @@ bool WordSearch::findTexts(std::string_view text, const Needle& needle, bool& en
 /// The word has been found in the stretch: notes the texts that hold it, except those outside of what is
 /// wanted.
 void WordSearch::seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen) {
-  const std::uint32_t before = stretch.first - stretch.firstText;
-  const std::uint32_t end = stretch.last - stretch.firstText;
+  const std::uint32_t before = stretch.first - stretch.firstText();
+  const std::uint32_t end = stretch.last - stretch.firstText();
   texts_[0] &= ~std::uint64_t{0} << before;
   texts_[end / 64] &= (std::uint64_t{1} << (end % 64)) - 1;
-  seen.seeAll(stretch.firstText, {texts_.data(), end / 64 + 1}, word);
+  seen.seeAll(stretch.firstText(), {texts_.data(), end / 64 + 1}, word);
 }
 
 }  // namespace quorvin

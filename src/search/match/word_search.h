@@ -94,12 +94,13 @@ class WordSearch {
     /// The stretch that was searched before held it, so the next one is likely to.
     bool isLikely = false;
   };
-  /// Texts of one page, starting with a marked one, and which of them the answer is wanted for.
+  /// Texts of one page for which the answer is wanted.
   struct Stretch {
-    TextTable::Stretch place;
-    std::uint32_t firstText;
     std::uint32_t first;
     std::uint32_t last;
+
+    /// What is searched for them starts with the mark before.
+    std::uint32_t firstText() const { return first / kTextsPerMark * kTextsPerMark; }
   };
   /// How many words may be missing before a page is given up.
   struct Slack {
@@ -109,7 +110,8 @@ class WordSearch {
 
   void makeRoom(std::size_t blocks);
   void findInPage(const TextTable& table, const Stretch& stretch, SeenWords& seen, const Slack& slack);
-  int ruleOut(const TrigramSet* trigrams, const Slack& slack);
+  int ruleOut(const TrigramRows& trigrams, std::size_t page, const Slack& slack);
+  std::string_view textToSearch(const TextTable& table, const Stretch& stretch);
   bool findTexts(std::string_view text, const Needle& needle, bool& endsKnown);
   void seeTexts(const Stretch& stretch, std::size_t word, SeenWords& seen);
 

@@ -21,7 +21,7 @@ namespace {
 /// that stays open is one of few that the system allows.
 constexpr std::uint64_t kSmall = std::uint64_t{1} << 20;
 
-constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '8'};
+constexpr char kMagic[8] = {'Q', 'V', 'S', 'E', 'G', 'M', 'T', '9'};
 /// Arrays start at multiples of this, the width of the widest vectors.
 constexpr std::size_t kArrayAlignment = 64;
 
@@ -192,12 +192,12 @@ class SegmentPieces {
   std::size_t next_ = 0;
 };
 
-/// Gives `table` the trigram sets that it lacks; it is not to be used longer than they are.
-std::vector<TrigramSet> missingTrigrams(TextTable& table) {
+/// Gives `table` the trigrams that it lacks; it is not to be used longer than they are.
+std::vector<std::uint64_t> missingTrigrams(TextTable& table) {
   if (!table.trigrams.empty()) return {};
-  std::vector<TrigramSet> sets = table.makeTrigrams();
-  table.trigrams = sets;
-  return sets;
+  std::vector<std::uint64_t> trigrams = table.makeTrigrams();
+  table.trigrams = trigrams;
+  return trigrams;
 }
 
 QString inMadeFolder(const QString& path) {
@@ -219,8 +219,8 @@ void SegmentFileWriter::append(const Segment& segment) {
   // Where it can be mapped. What lies between is never written, and takes up no room on the disk.
   position_ = (position_ + kMappingAlignment - 1) / kMappingAlignment * kMappingAlignment;
   SegmentArrays arrays = segment.arrays();
-  const std::vector<TrigramSet> entries = missingTrigrams(arrays.entries);
-  const std::vector<TrigramSet> folders = missingTrigrams(arrays.folders);
+  const std::vector<std::uint64_t> entries = missingTrigrams(arrays.entries);
+  const std::vector<std::uint64_t> folders = missingTrigrams(arrays.folders);
   SegmentRecord record{};
   SegmentLayout layout(record);
   visitArrays(arrays, layout);

@@ -40,61 +40,7 @@ void raise(std::string_view folded, std::span<const std::uint8_t> upperBits, std
   }
 }
 
-constexpr unsigned kTrigramBits = 13;
-static_assert(std::size_t{1} << kTrigramBits == sizeof(TrigramSet) * 8);
-
-std::uint16_t hashOf(std::uint32_t trigram) {
-  // Multiplying by an odd constant spreads the letters over the upper bits, of which the uppermost are kept.
-  return static_cast<std::uint16_t>((trigram * 0x9E3779B1U) >> (32 - kTrigramBits));
-}
-
-std::uint16_t trigramHash(const char* text) {
-  const auto byte = [text](std::size_t i) { return std::uint32_t{static_cast<unsigned char>(text[i])}; };
-  return hashOf(byte(0) | byte(1) << 8 | byte(2) << 16);
-}
-
-/// Six trigrams from eight bytes, of which each goes to `take` as its hash.
-constexpr std::size_t kTrigramsAtOnce = 6;
-template <typename Take>
-void hashTrigrams(const char* text, Take take) {
-  std::uint64_t bytes = 0;
-  std::memcpy(&bytes, text, sizeof bytes);
-  bytes = lowestByteFirst(bytes);
-  for (std::size_t i = 0; i < kTrigramsAtOnce; ++i) {
-    take(hashOf(static_cast<std::uint32_t>(bytes >> (8 * i)) & 0xFFFFFFU));
-  }
-}
-
-/// A bit for each of 64 bytes that are 0 or 1, the first one lowest.
-std::uint64_t bitsOfBytes(const std::uint8_t* bytes) {
-  std::uint64_t bits = 0;
-  for (std::size_t i = 0; i < 8; ++i) {
-    std::uint64_t eight = 0;
-    std::memcpy(&eight, bytes + 8 * i, sizeof eight);
-    // Brings byte number n to bit 56 + n.
-    bits |= (lowestByteFirst(eight) * 0x0102040810204080U >> 56) << (8 * i);
-  }
-  return bits;
-}
-
 }  // namespace
-
-void addTrigrams(TrigramSet& set, std::string_view text) {
-  // A byte for each bit at first: nothing has to be read before it is written.
-  std::array<std::uint8_t, sizeof(TrigramSet) * 8> seen{};
-  std::size_t i = 0;
-  for (; i + sizeof(std::uint64_t) <= text.size(); i += kTrigramsAtOnce) {
-    hashTrigrams(text.data() + i, [&seen](std::uint16_t bit) { seen[bit] = 1; });
-  }
-  for (; i + 3 <= text.size(); ++i) seen[trigramHash(text.data() + i)] = 1;
-  for (std::size_t word = 0; word < set.size(); ++word) set[word] |= bitsOfBytes(seen.data() + word * 64);
-}
-
-TrigramProbe::TrigramProbe(std::string_view word) {
-  for (std::size_t i = 0; i + 3 <= word.size(); ++i) bits_.push_back(trigramHash(word.data() + i));
-  std::sort(bits_.begin(), bits_.end());
-  bits_.erase(std::unique(bits_.begin(), bits_.end()), bits_.end());
-}
 
 TextTable::Stretch TextTable::between(std::size_t beginMark, std::size_t endMark) const {
   const std::size_t begin = marks[beginMark].text;
@@ -137,15 +83,15 @@ std::string_view TextWalk::text(std::uint32_t text) {
   return {at_, static_cast<std::size_t>(endOfText(at_) - at_)};
 }
 
-std::vector<TrigramSet> TextTable::makeTrigrams() const {
-  std::vector<TrigramSet> sets((count + kTextsPerPage - 1) / kTextsPerPage);
+std::vector<std::uint64_t> TextTable::makeTrigrams() const {
   constexpr std::uint32_t kMarksPerPage = kTextsPerPage / kTextsPerMark;
-  for (std::size_t page = 0; page < sets.size(); ++page) {
+  TrigramRowsBuilder rows(pageCount());
+  for (std::size_t page = 0; page < pageCount(); ++page) {
     const Stretch stretch = between(page * kMarksPerPage, (page + 1) * kMarksPerPage);
     // Trigrams that span two texts are added too: that costs a few bits, and saves a test for each byte.
-    addTrigrams(sets[page], textOf(folded.part(stretch.begin, stretch.size)));
+    rows.addPage(textOf(folded.part(stretch.begin, stretch.size)));
   }
-  return sets;
+  return rows.finish();
 }
 
 void ListedWalk::start(const TextTable& table) {
@@ -316,7 +262,7 @@ TextTable TextTableBuilder::table() const {
 
 std::size_t TextTableBuilder::memorySize() const {
   return folded_.capacity() + marks_.capacity() * sizeof(TextTable::Mark) +
-         trigrams_.capacity() * sizeof(TrigramSet) + hasUpper_.capacity() * sizeof(std::uint64_t) +
+         trigrams_.capacity() * sizeof(std::uint64_t) + hasUpper_.capacity() * sizeof(std::uint64_t) +
          upperBits_.capacity() + exceptions_.capacity() * sizeof(TextTable::Exception) +
          exceptionTexts_.capacity();
 }

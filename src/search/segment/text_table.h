@@ -6,8 +6,8 @@
 #include "search/segment/mapped_bytes.h"
 #include "search/segment/passing_bytes.h"
 #include "search/segment/text_scan.h"
+#include "search/segment/trigram_rows.h"
 
-#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -19,33 +19,9 @@ namespace quorvin {
 /// Ends each text; UTF-8 never holds it, so no word can match across two texts.
 inline constexpr char kTextEnd = static_cast<char>(0xFF);
 
-/// Every 32nd text has its place noted; 1024 texts make a page, which has a trigram set of its own.
+/// Every 32nd text has its place noted; 1024 texts make a page, whose trigrams are known.
 inline constexpr std::uint32_t kTextsPerMark = 32;
 inline constexpr std::uint32_t kTextsPerPage = 1024;
-
-/// The set of trigrams (three bytes in a row, hashed) of a stretch of text. It may say that a word might be
-/// there when it is not, never the other way round.
-using TrigramSet = std::array<std::uint64_t, 128>;
-
-/// Adds the trigrams of `text`.
-void addTrigrams(TrigramSet& set, std::string_view text);
-
-/// The trigrams of one word, ready to be looked up in many sets.
-class TrigramProbe {
- public:
-  explicit TrigramProbe(std::string_view word);
-
-  /// False only if no text that was added to `set` holds the word. Always true for words of one or two bytes.
-  bool mayBeIn(const TrigramSet& set) const {
-    for (const std::uint16_t bit : bits_) {
-      if ((set[bit / 64] >> (bit % 64) & 1U) == 0) return false;
-    }
-    return true;
-  }
-
- private:
-  std::vector<std::uint16_t> bits_;
-};
 
 /// A table of texts, numbered from 0. It refers to arrays that somebody else owns: a TextTableBuilder or a
 /// segment out of a file. Reading the latter may throw DamagedSegment.
@@ -70,8 +46,8 @@ struct TextTable {
   CheckedSpan<char> folded;
   /// One for each 32 texts.
   CheckedSpan<Mark> marks;
-  /// One for each page, or none at all as long as nobody has made them.
-  CheckedSpan<TrigramSet> trigrams;
+  /// What TrigramRows refers to, or nothing as long as nobody has made it.
+  CheckedSpan<std::uint64_t> trigrams;
 
   /// A bit for each text: it has ASCII capitals.
   CheckedSpan<std::uint64_t> hasUpper;
@@ -109,8 +85,13 @@ struct TextTable {
   /// The text as listed, UTF-8.
   std::string listedText(std::uint32_t text) const;
 
-  /// Makes the trigram sets of all pages.
-  std::vector<TrigramSet> makeTrigrams() const;
+  std::size_t pageCount() const { return (std::size_t{count} + kTextsPerPage - 1) / kTextsPerPage; }
+
+  /// The trigrams of all pages, if somebody has made them.
+  TrigramRows trigramRows() const { return {trigrams, pageCount()}; }
+
+  /// Makes them.
+  std::vector<std::uint64_t> makeTrigrams() const;
 };
 
 /// Finds folded texts one after another.
@@ -183,7 +164,7 @@ class TextTableBuilder {
   /// where `trimmed`. kFoldWidth bytes can be read there.
   void addColumns(const char* line, std::size_t columns, bool trimmed);
 
-  /// Makes the trigram sets of all pages, once no more texts come. A table has none before; it is then
+  /// Makes the trigrams of all pages, once no more texts come. A table has none before; it is then
   /// searched without them.
   void completeTrigrams();
 
@@ -215,7 +196,7 @@ class TextTableBuilder {
   /// Longer than foldedSize_ by kScanPadding at least; texts are folded in place.
   std::string folded_ = std::string(kScanPadding, '\0');
   std::vector<TextTable::Mark> marks_;
-  std::vector<TrigramSet> trigrams_;
+  std::vector<std::uint64_t> trigrams_;
   std::vector<std::uint64_t> hasUpper_;
   std::vector<std::uint8_t> upperBits_;
   static constexpr std::uint32_t kNoText = UINT32_MAX;

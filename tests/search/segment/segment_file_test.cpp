@@ -134,7 +134,7 @@ TEST_P(SegmentFileTest, ASegmentThatIsWrittenInManyPiecesComesBackAsItWas) {
 }
 
 TEST_P(SegmentFileTest, TheFileEndsInItsEightLetters) {
-  EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT8"));
+  EXPECT_EQ(whole_.right(8), QByteArray("QVSEGMT9"));
 }
 
 TEST_P(SegmentFileTest, EachSegmentStartsAtTheNextMultipleOf65536Bytes) {
@@ -146,7 +146,7 @@ TEST_P(SegmentFileTest, EachSegmentStartsAtTheNextMultipleOf65536Bytes) {
 
 TEST_P(SegmentFileTest, OtherLettersAreAnotherFormat) {
   QByteArray other = whole_;
-  other.replace(other.size() - 8, 8, "QVSEGMT7");
+  other.replace(other.size() - 8, 8, "QVSEGMT8");
   replaceWith(other);
   expectNoSegmentFile();
 }
