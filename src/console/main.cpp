@@ -11,6 +11,7 @@
 #include <QCalendar>
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <new>
@@ -162,9 +163,17 @@ QString CommandLine::whatIsMissing() const {
   return Texts::tr("%1 needs the description or the path of a source").arg(textOf(name));
 }
 
+/// What the parser had no place for. The first "--" is among it, and has said all that it has to say.
+std::vector<std::string> remainingOf(const CLI::App& parser) {
+  std::vector<std::string> remaining = parser.remaining();
+  const auto mark = std::ranges::find(remaining, "--");
+  if (mark != remaining.end()) remaining.erase(mark);
+  return remaining;
+}
+
 /// A sentence about the first argument that has no meaning; empty when all have one.
 QString CommandLine::leftOver() const {
-  const std::vector<std::string> ofProgram = app_.remaining();
+  const std::vector<std::string> ofProgram = remainingOf(app_);
   const QString commands =
       Texts::tr("the commands are find, copies, compare, index, import, refresh, sources, history and cache");
   if (!ofProgram.empty()) {
@@ -174,7 +183,7 @@ QString CommandLine::leftOver() const {
   }
   if (!named()) return Texts::tr("there is no command") + QStringLiteral("; ") + commands;
   for (const CommandText& command : commandTexts()) {
-    const std::vector<std::string> ofCommand = parsers_.at(command.name)->remaining();
+    const std::vector<std::string> ofCommand = remainingOf(*parsers_.at(command.name));
     if (ofCommand.empty()) continue;
     const QString name = textOf(command.name);
     const QString first = textOf(ofCommand.front());

@@ -187,6 +187,19 @@ TEST_F(FindProgram, ClearRemovesTheCacheFiles) {
                   .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
+TEST_F(FindProgram, NothingIsAnOptionBehindTwoDashes) {
+  const QString dashed = folder_.writeFile(
+      u"-cd8.lst"_qs, test::blockHead("CD 8", "\\") + test::entryLine("-live --count.mp3", "131,072"));
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"--"_qs, u"-live"_qs, dashed}).output, u"1\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"--"_qs, u"--count"_qs, u"-cd8.lst"_qs}).output, u"1\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"live"_qs, u"--"_qs, u"-cd8.lst"_qs}).output, u"1\n"_qs);
+  EXPECT_EQ(run({u"find"_qs, u"--count"_qs, u"--"_qs, u"--"_qs, dashed}).output, u"1\n"_qs);
+  const Ended unknown = run({u"find"_qs, u"--quick"_qs, u"--"_qs, u"live"_qs, dashed});
+  EXPECT_EQ(unknown.status, 2);
+  EXPECT_TRUE(unknown.errors.startsWith(u"quorvin-cli: find has no option \"--quick\"; "_qs));
+  EXPECT_EQ(run({u"cache"_qs, u"--"_qs}).status, 0);
+}
+
 TEST_F(FindProgram, WrongUseIsToldInASentenceAndEndsWith2) {
   const QString manyWords = u"w"_qs + u" w"_qs.repeated(101);
   const std::vector<std::pair<QStringList, QString>> cases = {
