@@ -3,6 +3,7 @@
 
 #include <QThreadPool>
 
+#include <functional>
 #include <utility>
 #if defined(__SANITIZE_THREAD__)
 #include <sanitizer/tsan_interface.h>
@@ -20,11 +21,13 @@ inline char handingOver;
 template <typename Work>
 void startIn(QThreadPool& pool, Work work) {
 #if defined(__SANITIZE_THREAD__)
-  __tsan_release(&handingOver);
-  pool.start([work = std::move(work)]() mutable {
+  std::function<void()> task = [work = std::move(work)]() mutable {
     __tsan_acquire(&handingOver);
     work();
-  });
+  };
+  // All that is handed over has been written by now.
+  __tsan_release(&handingOver);
+  pool.start(std::move(task));
 #else
   pool.start(std::move(work));
 #endif
