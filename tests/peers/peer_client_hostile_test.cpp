@@ -59,7 +59,7 @@ class PeerClientHostileTest : public testing::Test {
 
 TEST_F(PeerClientHostileTest, AServerThatSaysNothingIsGivenUp) {
   ScriptedServer server([](const QByteArray&) { return Pieces{}; });
-  GettingProgram program;
+  GettingProgram program{PeerClientLimits{}};
   program.start(server.port());
   ASSERT_EVENTUALLY(!server.messages.empty());
   tick(timerOf(program.client, QStringLiteral("silence")));
