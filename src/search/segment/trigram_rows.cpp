@@ -97,6 +97,7 @@ std::vector<std::uint64_t> TrigramRowsBuilder::finish() {
 
 /// Makes rows of the pages that wait.
 void TrigramRowsBuilder::turn() {
+  if (waiting_.empty()) return;
   for (std::size_t word = 0; word < TrigramRows::kCount / 64; ++word) {
     std::array<std::uint64_t, kPagesAtOnce> square{};
     for (std::size_t page = 0; page < waiting_.size(); ++page) square[page] = waiting_[page][word];

@@ -13,9 +13,9 @@ namespace quorvin {
 
 /// The trigrams (three bytes in a row, hashed) of the pages of a table: for each hash a row with a bit for
 /// each page that has it. A word has few trigrams, so that few rows tell all that is to be known of it, and
-/// no others have to be read. Rows follow each other without a gap: the bit of page p in row r is number r *
-/// pages + p. It refers to an array that somebody else owns; reading one out of a file may throw
-/// DamagedSegment.
+/// no others have to be read. Rows follow each other without a gap: the bit of page p in row r has the number
+/// r * pages + p (docs/formats/segment-cache.md). It refers to an array that somebody else owns; reading one
+/// out of a file may throw DamagedSegment.
 class TrigramRows {
  public:
   /// So many rows, one for each hash.
@@ -31,6 +31,7 @@ class TrigramRows {
   /// Elements that hold the rows of `pages` pages.
   static constexpr std::size_t sizeFor(std::size_t pages) { return kCount / 64 * pages; }
 
+  /// `row` < kCount; `page` is one of those promised. Not to be asked where empty().
   bool has(std::size_t row, std::size_t page) const {
     const std::size_t bit = row * pages_ + page;
     return (bits_[bit / 64] >> (bit % 64) & 1U) != 0;
