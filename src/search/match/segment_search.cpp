@@ -102,6 +102,8 @@ bool SegmentSearch::findCandidates(const Segment& segment, std::uint32_t first, 
     const int mostMissing = query_.wordCount() - query_.fewestForHit();
     entryWords_.find(segment.arrays().entries, first, last, inEntries_, inFolders_.all(), mostMissing);
   }
+  const bool needsWord = query_.emptyWords() < query_.fewestForHit();
+  if (needsWord && inEntries_.none() && inFolders_.none()) return false;
   candidates_ = inEntries_.touched();
   addCandidatesOfFolders(first, last);
   return true;
@@ -115,7 +117,11 @@ std::int64_t SegmentSearch::candidateCount() const {
 
 void SegmentSearch::searchFolders(const Segment& segment, std::uint32_t first, std::uint32_t last) {
   blockStarts_ = segment.arrays().blockStarts.all();
-  firstBlock_ = blockAt(blockStarts_, first);
+  // Most often the step before was of the same segment, and this one goes on from its last block.
+  const std::uint32_t hint = lastBlock_ == 0 ? 0 : lastBlock_ - 1;
+  const bool isBehindHint = hint < blockStarts_.size() && blockStarts_[hint] <= first;
+  firstBlock_ =
+      isBehindHint ? firstNotBelow(blockStarts_, hint, first + 1) - 1 : blockAt(blockStarts_, first);
   lastBlock_ = firstNotBelow(blockStarts_, firstBlock_ + 1, last);
   folderWords_.find(segment.arrays().folders, firstBlock_, lastBlock_, inFolders_);
 }

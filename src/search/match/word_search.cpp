@@ -9,23 +9,24 @@ namespace quorvin {
 
 void SeenWords::reset(std::uint32_t first, std::uint32_t count) {
   first_ = first;
+  // Only what was touched is cleared: most stretches hold no word at all.
+  if (!none_) clear();
+  if (!oneWord_ && words_.size() < count) words_.resize(count);
+  touched_.resize((count + 63) / 64);
+}
+
+void SeenWords::clear() {
+  none_ = true;
   if (oneWord_) {
-    touched_.assign((count + 63) / 64, 0);
+    std::ranges::fill(touched_, 0);
     return;
   }
-  // Only what was touched is cleared: most stretches hold no word at all.
   for (std::size_t block = 0; block < touched_.size(); ++block) {
     for (std::uint64_t left = touched_[block]; left != 0; left &= left - 1) {
       words_[block * 64 + static_cast<std::size_t>(std::countr_zero(left))] = {};
     }
     touched_[block] = 0;
   }
-  if (words_.size() < count) words_.resize(count);
-  touched_.resize((count + 63) / 64);
-}
-
-bool SeenWords::none() const {
-  return std::all_of(touched_.begin(), touched_.end(), [](std::uint64_t bits) { return bits == 0; });
 }
 
 WordSet SeenWords::all() const {
@@ -55,6 +56,7 @@ void SeenWords::seeAll(std::uint32_t text, std::span<const std::uint64_t> bits, 
     const std::uint64_t next = block + 1 < bits.size() ? bits[block + 1] : 0;
     const std::uint64_t wanted = skipped == 0 ? bits[block] : bits[block] >> skipped | next << (64 - skipped);
     if (wanted == 0) continue;
+    none_ = false;
     const std::size_t at = begin / 64 + block;
     touched_[at] |= wanted << (begin % 64);
     const std::uint64_t over = (wanted >> 1) >> (63 - begin % 64);

@@ -46,6 +46,7 @@ class SeenWords {
     const std::uint32_t i = text - first_;
     if (!oneWord_) words_[i].add(word);
     touched_[i / 64] |= std::uint64_t{1} << (i % 64);
+    none_ = false;
   }
 
   /// Calls see() for each text whose bit is set. Bit k is for text `text` + k; only bits of this stretch may
@@ -56,12 +57,15 @@ class SeenWords {
 
   /// A bit for each text of the stretch: some word was seen in it.
   const std::vector<std::uint64_t>& touched() const { return touched_; }
-  bool none() const;
+  bool none() const { return none_; }
   /// The words seen in any text. Must not be called with `oneWord`.
   WordSet all() const;
 
  private:
+  void clear();
+
   bool oneWord_;
+  bool none_ = true;
   std::uint32_t first_ = 0;
   std::vector<WordSet> words_;
   std::vector<std::uint64_t> touched_;
