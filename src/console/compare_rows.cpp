@@ -22,9 +22,8 @@ std::size_t numberOf(ChangeKind kind) {
 }
 
 std::string isoText(DateValue date) {
-  const DayAndSecond moment = splitDateValue(date);
-  std::string text = isoDay(moment.day) + 'T';
-  addClock(text, moment.second);
+  std::string text;
+  addMoment(text, date);
   return text;
 }
 

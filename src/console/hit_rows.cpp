@@ -42,6 +42,11 @@ bool isShared(HitField field) {
   return field == HitField::Volume || field == HitField::Folder || field == HitField::Listing;
 }
 
+/// Whether a hit may have no value of its own.
+bool mayBeUnknown(HitField field) {
+  return field == HitField::Path || field == HitField::Size || field == HitField::Modified;
+}
+
 std::string keyOf(HitField field) {
   return std::string("\"") + nameOf(field).name + "\":";
 }
@@ -178,9 +183,12 @@ void HitRows::enterFolder(const HitFolder& folder) {
     const HitField field = options_.fields[column];
     if (isShared(field)) {
       addShared(*text, field);
-    } else {
-      (++text)->clear();
+      continue;
     }
+    const bool isMember = isJson() && !mayBeUnknown(field);
+    if (isMember) *text += keyOf(field);
+    (++text)->clear();
+    if (isMember) *text += ',';
   }
 }
 
@@ -252,28 +260,23 @@ void HitRows::addCell(std::string& text, HitField field, const FoundHit& hit) {
   }
 }
 
-/// With a comma behind it; nothing for what is not known.
+/// The value alone where each hit has one: the shared texts have the rest. Else the whole member with a comma
+/// behind it, or nothing for what is not known.
 void HitRows::addMember(std::string& text, const OwnColumn& column, const FoundHit& hit) {
-  const bool isValue = column.field == HitField::Size || column.field == HitField::Modified;
-  if (isValue && !hit.values) return;
+  if (column.field == HitField::Name) return addJsonString(text, hit.name);
+  if (!mayBeUnknown(column.field)) return addCell(text, column.field, hit);
   const std::string* path = column.field == HitField::Path ? pathOf(hit) : nullptr;
-  if (column.field == HitField::Path && path == nullptr) return;
+  const bool isKnown = column.field == HitField::Path ? path != nullptr : hit.values.has_value();
+  if (!isKnown) return;
   text += column.key;
-  switch (column.field) {
-    case HitField::Name:
-      addJsonString(text, hit.name);
-      break;
-    case HitField::Path:
-      addJsonString(text, *path);
-      break;
-    case HitField::Modified:
-      text += '"';
-      addMoment(text, hit.values->date);
-      text += '"';
-      break;
-    default:
-      addCell(text, column.field, hit);
-      break;
+  if (path != nullptr) {
+    addJsonString(text, *path);
+  } else if (column.field == HitField::Modified) {
+    text += '"';
+    addMoment(text, hit.values->date);
+    text += '"';
+  } else {
+    addNumber(text, hit.values->size);
   }
   text += ',';
 }
@@ -314,13 +317,6 @@ void HitRows::addWords(std::string& text, const FoundHit& hit) const {
   addWordsThat(text, [&](std::size_t word) {
     return folderHas_[word] || hit.lowerName.find(query_.words()[word].bytes) != std::string_view::npos;
   });
-}
-
-void HitRows::addMoment(std::string& text, DateValue date) {
-  const DayAndSecond moment = splitDateValue(date);
-  text += isoDays_.of(moment.day);
-  text += 'T';
-  addClock(text, moment.second);
 }
 
 const std::string& HitRows::matchCell(std::int16_t match) {

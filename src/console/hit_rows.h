@@ -125,7 +125,6 @@ class HitRows {
   void addWords(std::string& text, const FoundHit& hit) const;
   template <typename AreFound>
   void addWordsThat(std::string& text, AreFound areFound) const;
-  void addMoment(std::string& text, DateValue date);
   const std::string& matchCell(std::int16_t match);
   const std::string* pathOf(const FoundHit& hit);
   const std::string& ownFolder();
@@ -142,12 +141,12 @@ class HitRows {
   char rowEnd_;
 
   std::vector<OwnColumn> own_;
-  /// All that is in front of each of them, shared columns and separators; at last what is behind.
+  /// All that is in front of each of them, shared columns and separators, in Json also the names of members
+  /// that each hit has; at last what is behind.
   std::vector<std::string> shared_;
 
   MebibyteWriter sizes_;
   DayTexts shownDays_;
-  DayTexts isoDays_{isoDay};
   /// All words of the query.
   std::string allWords_;
   /// By match; empty where it has not been asked for.

@@ -1,5 +1,7 @@
 #include "console/json_text.h"
 
+#include "dates/eight_bytes.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -14,6 +16,28 @@ constexpr std::array<bool, 256> kIsPlain = [] {
   for (std::size_t byte = 0x20; byte < 0x7F; ++byte) isPlain[byte] = byte != '"' && byte != '\\';
   return isPlain;
 }();
+
+/// Not 0 where some of eight ASCII characters or other bytes cannot stay. A byte below another one makes the
+/// subtraction borrow, which its uppermost bit shows; an unequal one is told from 0 in the same way.
+constexpr std::uint64_t notPlainAmong(std::uint64_t bytes) {
+  const auto below = [](std::uint64_t eight, char sign) { return (eight - eightTimes(sign)) & ~eight; };
+  const auto equal = [below](std::uint64_t eight, char sign) {
+    return below(eight ^ eightTimes(sign), '\x01');
+  };
+  return (bytes | below(bytes, ' ') | equal(bytes, '"') | equal(bytes, '\\') | equal(bytes, '\x7F')) &
+         eightTimes('\x80');
+}
+
+/// Whether `text` is in a string as it is, as nearly all names are: for few bytes that is not asked.
+bool isPlain(std::string_view text) {
+  constexpr std::size_t kStep = sizeof(std::uint64_t);
+  if (text.size() < kStep) return false;
+  std::uint64_t notPlain = notPlainAmong(eightBytesAt(text.data() + text.size() - kStep));
+  for (std::size_t at = 0; at + kStep <= text.size(); at += kStep) {
+    notPlain |= notPlainAmong(eightBytesAt(text.data() + at));
+  }
+  return notPlain == 0;
+}
 
 void addEscaped(std::string& text, unsigned char number) {
   constexpr char kDigits[] = "0123456789abcdef";
@@ -60,6 +84,11 @@ bool isHighControl(std::string_view character) {
 
 void addJsonString(std::string& text, std::string_view value) {
   text += '"';
+  if (isPlain(value)) {
+    text += value;
+    text += '"';
+    return;
+  }
   // What can stay is appended a run at a time.
   std::size_t run = 0;
   for (std::size_t at = 0; at < value.size();) {

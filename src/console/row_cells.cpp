@@ -3,7 +3,6 @@
 #include "console/json_text.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace quorvin {
 
@@ -84,23 +83,23 @@ void CellForm::finishCarefully(std::string& text, std::size_t start) const {
   if (isForTerminal_) replaceHighControls(text, start);
 }
 
-void addClock(std::string& text, int second) {
-  const auto digit = [](int number) { return static_cast<char>('0' + number); };
-  const int hour = second / 3600;
-  const int minute = second / 60 % 60;
-  const int rest = second % 60;
-  const std::array<char, 8> clock = {digit(hour / 10),   digit(hour % 10),   ':',
-                                     digit(minute / 10), digit(minute % 10), ':',
-                                     digit(rest / 10),   digit(rest % 10)};
-  text.append(clock.data(), clock.size());
-}
-
-std::string isoDay(int day) {
-  const CalendarDate date = calendarDateOf(day);
-  std::array<char, 40> buffer;
-  const int length =
-      std::snprintf(buffer.data(), buffer.size(), "%04d-%02d-%02d", date.year, date.month, date.day);
-  return {buffer.data(), static_cast<std::size_t>(length)};
+void addMoment(std::string& text, DateValue date) {
+  const DayAndSecond moment = splitDateValue(date);
+  const CalendarDate day = calendarDateOf(moment.day);
+  std::array<char, 19> form = {'0', '0', '0', '0', '-', '0', '0', '-', '0', '0',
+                               'T', '0', '0', ':', '0', '0', ':', '0', '0'};
+  const auto putAt = [&form](std::size_t place, int number) {
+    form[place] = static_cast<char>('0' + number / 10);
+    form[place + 1] = static_cast<char>('0' + number % 10);
+  };
+  putAt(0, day.year / 100);
+  putAt(2, day.year % 100);
+  putAt(5, day.month);
+  putAt(8, day.day);
+  putAt(11, moment.second / 3600);
+  putAt(14, moment.second / 60 % 60);
+  putAt(17, moment.second % 60);
+  text.append(form.data(), form.size());
 }
 
 }  // namespace quorvin

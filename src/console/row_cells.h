@@ -65,11 +65,8 @@ void addNumber(std::string& text, Number number) {
   text.append(digits.data(), end);
 }
 
-/// Appends a time of day, in seconds, like "10:20:30".
-void addClock(std::string& text, int second);
-
-/// A day like "2004-01-15".
-std::string isoDay(int day);
+/// Appends a moment like "2004-01-15T10:20:30".
+void addMoment(std::string& text, DateValue date);
 
 /// Texts of days, each made once and kept: rows have few days, and each of them often.
 class DayTexts {

@@ -108,9 +108,11 @@ DayAndSecond splitDateValue(DateValue value) {
   // it.
   if (value <= kFirstDay - 1.0) return {kFirstDay, 0};
   if (value >= kLastDay + 1.0) return {kLastDay, kSecondsPerDay - 1};
-  const double wholeDays = std::trunc(value);
-  const auto day = static_cast<int>(wholeDays);
-  const auto second = static_cast<int>(std::lround(std::abs(value - wholeDays) * kSecondsPerDay));
+  const auto day = static_cast<int>(value);
+  const double seconds = std::abs(value - day) * kSecondsPerDay;
+  // The library's own rounding is a call, which is felt where there are millions of dates.
+  auto second = static_cast<int>(seconds);
+  if (seconds - second >= 0.5) ++second;
   if (second < kSecondsPerDay) return {day, second};
   if (day == kLastDay) return {day, kSecondsPerDay - 1};
   return {day + 1, 0};

@@ -39,22 +39,16 @@ TEST(CellForm, LetsNoControlThroughToATerminal) {
   EXPECT_EQ(cellOf(CellRule::Quotes, true, "a\x1B,"), "\"a?,\"");
 }
 
-TEST(Clock, HasTwoDigitsOfEach) {
-  const auto clockAt = [](int second) {
-    std::string text;
-    addClock(text, second);
+TEST(Moment, HasTwoDigitsOfEachAndFourOfTheYear) {
+  const auto momentOf = [](int day, int second) {
+    std::string text = "at ";
+    addMoment(text, joinDateValue({day, second}));
     return text;
   };
-  EXPECT_EQ(clockAt(0), "00:00:00");
-  EXPECT_EQ(clockAt(37230), "10:20:30");
-  EXPECT_EQ(clockAt(86399), "23:59:59");
-}
-
-TEST(IsoDay, HasFourDigitsOfTheYear) {
-  EXPECT_EQ(isoDay(38001), "2004-01-15");
-  EXPECT_EQ(isoDay(0), "1899-12-30");
-  EXPECT_EQ(isoDay(kFirstDay), "0100-01-01");
-  EXPECT_EQ(isoDay(kLastDay), "9999-12-31");
+  EXPECT_EQ(momentOf(38001, 37230), "at 2004-01-15T10:20:30");
+  EXPECT_EQ(momentOf(0, 0), "at 1899-12-30T00:00:00");
+  EXPECT_EQ(momentOf(kFirstDay, 86399), "at 0100-01-01T23:59:59");
+  EXPECT_EQ(momentOf(kLastDay, 86399), "at 9999-12-31T23:59:59");
 }
 
 TEST(DayTexts, AreMadeOnceForEachDay) {
