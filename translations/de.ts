@@ -3341,10 +3341,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Von diesen beiden Listen</translation>
     </message>
     <message>
-        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
-        <translation>Gleich sind Dateien mit demselben Namen, bis auf Groß- und Kleinschreibung, und derselben Größe auf das Byte; in sie hinein sieht niemand. Die Gruppen, die am meisten Platz verschwenden, kommen zuerst, jede mit einer Zeile für jeden Ort. Ordner, die als Ganzes gleich sind, mit allem darin, sind eine Gruppe, und ihre Dateien werden nicht noch einmal aufgeführt. Ihre eigenen Namen dürfen verschieden sein.</translation>
-    </message>
-    <message>
         <source>A volume is what a listing calls so; two listings never share one. With --single a file is shown if no other volume has it, even where its own volume has it twice. Which files are the same is always decided among all listings: with WORDS, groups are shown of which a search for these words finds one file. Without a LISTING, the user&apos;s own sources are looked through.</source>
         <translation>Ein Datenträger ist, was eine Liste so nennt; zwei Listen haben nie denselben. Mit --single wird eine Datei gezeigt, wenn kein anderer Datenträger sie hat, auch wenn ihr eigener sie zweimal hat. Welche Dateien gleich sind, entscheidet sich immer unter allen Listen: Mit WORDS werden Gruppen gezeigt, von denen eine Suche nach diesen Wörtern eine Datei findet. Ohne LISTING werden die eigenen Quellen des Benutzers durchgesehen.</translation>
     </message>
@@ -3991,6 +3987,34 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>Whether 03/04/2004 is in March or in April. Other dates of the list may tell.</source>
         <translation>Ob 03/04/2004 im März oder im April liegt. Andere Daten des Verzeichnisses sagen es vielleicht.</translation>
+    </message>
+    <message>
+        <source>&amp;Look into files at hand</source>
+        <translation>Vorhandene Dateien &amp;einlesen</translation>
+    </message>
+    <message>
+        <source>Reads the files in own folders that are there now, and takes those apart that hold different things. That takes as long as reading them all.</source>
+        <translation>Liest die Dateien in eigenen Ordnern, die jetzt da sind, und trennt die, die Verschiedenes enthalten. Das dauert so lange, wie sie alle zu lesen.</translation>
+    </message>
+    <message>
+        <source>Looking into files: %1 of %2</source>
+        <translation>Dateien werden eingelesen: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Looked into: %1, of %2 altogether. Files that hold something else in spite of the same name and size: %3. Not at hand, so judged by name and size: %4</source>
+        <translation>Eingelesen: %1, zusammen %2. Dateien, die trotz gleichen Namens und gleicher Größe etwas anderes enthalten: %3. Nicht vorhanden, daher nach Name und Größe beurteilt: %4</translation>
+    </message>
+    <message>
+        <source>looking into files: %1 of %2</source>
+        <translation>Dateien werden eingelesen: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Look into the files that are at hand</source>
+        <translation>Die vorhandenen Dateien einlesen</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte. With --content, those in own folders that are there now are read, too, and are not the same where they hold something else; a file that is not at hand stays with the first of its group. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
+        <translation>Gleich sind Dateien mit demselben Namen, bis auf Groß- und Kleinschreibung, und derselben Größe auf das Byte. Mit --content werden auch die gelesen, die in eigenen Ordnern jetzt da sind; enthalten sie Verschiedenes, sind sie nicht gleich. Eine Datei, die nicht vorhanden ist, bleibt bei der ersten ihrer Gruppe. Die Gruppen, die am meisten Platz verschwenden, kommen zuerst, jede mit einer Zeile für jeden Ort. Ordner, die als Ganzes gleich sind, mit allem darin, sind eine Gruppe, und ihre Dateien werden nicht noch einmal aufgeführt. Ihre eigenen Namen dürfen verschieden sein.</translation>
     </message>
 </context>
 <context>

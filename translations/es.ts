@@ -3341,10 +3341,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>De estas dos listas</translation>
     </message>
     <message>
-        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
-        <translation>Son iguales los archivos que tienen el mismo nombre, en mayúsculas o minúsculas, y el mismo tamaño hasta el último byte; nadie mira dentro de ellos. Los grupos que más espacio desperdician van primero, cada uno con una línea por lugar. Las carpetas que son iguales enteras, con todo lo que contienen, forman un grupo, y sus archivos no se vuelven a enumerar. Sus propios nombres pueden ser distintos.</translation>
-    </message>
-    <message>
         <source>A volume is what a listing calls so; two listings never share one. With --single a file is shown if no other volume has it, even where its own volume has it twice. Which files are the same is always decided among all listings: with WORDS, groups are shown of which a search for these words finds one file. Without a LISTING, the user&apos;s own sources are looked through.</source>
         <translation>Un volumen es lo que una lista llama así; dos listas nunca comparten uno. Con --single se muestra un archivo si ningún otro volumen lo tiene, aunque el suyo lo tenga dos veces. Qué archivos son iguales se decide siempre entre todas las listas: con WORDS se muestran los grupos de los que una búsqueda de esas palabras encuentra un archivo. Sin LISTING se miran las fuentes propias del usuario.</translation>
     </message>
@@ -3991,6 +3987,34 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>Whether 03/04/2004 is in March or in April. Other dates of the list may tell.</source>
         <translation>Si 03/04/2004 es en marzo o en abril. Quizá lo digan otras fechas de la lista.</translation>
+    </message>
+    <message>
+        <source>&amp;Look into files at hand</source>
+        <translation>&amp;Leer los archivos presentes</translation>
+    </message>
+    <message>
+        <source>Reads the files in own folders that are there now, and takes those apart that hold different things. That takes as long as reading them all.</source>
+        <translation>Lee los archivos de carpetas propias que están ahora y separa los que contienen cosas distintas. Tarda lo que se tarda en leerlos todos.</translation>
+    </message>
+    <message>
+        <source>Looking into files: %1 of %2</source>
+        <translation>Leyendo los archivos: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Looked into: %1, of %2 altogether. Files that hold something else in spite of the same name and size: %3. Not at hand, so judged by name and size: %4</source>
+        <translation>Leídos: %1, %2 en total. Archivos que contienen otra cosa a pesar del mismo nombre y tamaño: %3. No presentes, juzgados por nombre y tamaño: %4</translation>
+    </message>
+    <message>
+        <source>looking into files: %1 of %2</source>
+        <translation>leyendo los archivos: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Look into the files that are at hand</source>
+        <translation>Leer los archivos que están presentes</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte. With --content, those in own folders that are there now are read, too, and are not the same where they hold something else; a file that is not at hand stays with the first of its group. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
+        <translation>Son iguales los archivos que tienen el mismo nombre, en mayúsculas o minúsculas, y el mismo tamaño hasta el último byte. Con --content se leen también los que están ahora en carpetas propias, y no son iguales si contienen otra cosa; un archivo que no está presente se queda con el primero de su grupo. Los grupos que más espacio desperdician van primero, cada uno con una línea por lugar. Las carpetas que son iguales enteras, con todo lo que contienen, forman un grupo, y sus archivos no se vuelven a enumerar. Sus propios nombres pueden ser distintos.</translation>
     </message>
 </context>
 <context>

@@ -3341,10 +3341,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>De ces deux listes</translation>
     </message>
     <message>
-        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
-        <translation>Sont les mêmes les fichiers qui ont le même nom, majuscules ou non, et la même taille à l’octet près&#xa0;; personne ne regarde dedans. Les groupes qui gaspillent le plus de place viennent en premier, chacun avec une ligne par endroit. Les dossiers égaux en entier, avec tout leur contenu, forment un groupe, et leurs fichiers ne sont pas énumérés de nouveau. Leurs propres noms peuvent différer.</translation>
-    </message>
-    <message>
         <source>A volume is what a listing calls so; two listings never share one. With --single a file is shown if no other volume has it, even where its own volume has it twice. Which files are the same is always decided among all listings: with WORDS, groups are shown of which a search for these words finds one file. Without a LISTING, the user&apos;s own sources are looked through.</source>
         <translation>Un volume est ce qu’une liste nomme ainsi&#xa0;; deux listes n’en partagent jamais un. Avec --single, un fichier est montré si aucun autre volume ne l’a, même si le sien l’a deux fois. Quels fichiers sont les mêmes se décide toujours parmi toutes les listes&#xa0;: avec WORDS sont montrés les groupes dont une recherche de ces mots trouve un fichier. Sans LISTING, les sources propres de l’utilisateur sont parcourues.</translation>
     </message>
@@ -3991,6 +3987,34 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>Whether 03/04/2004 is in March or in April. Other dates of the list may tell.</source>
         <translation>Si 03/04/2004 est en mars ou en avril. D’autres dates de la liste le disent peut-être.</translation>
+    </message>
+    <message>
+        <source>&amp;Look into files at hand</source>
+        <translation>&amp;Lire les fichiers présents</translation>
+    </message>
+    <message>
+        <source>Reads the files in own folders that are there now, and takes those apart that hold different things. That takes as long as reading them all.</source>
+        <translation>Lit les fichiers des dossiers personnels qui sont là maintenant et sépare ceux dont le contenu diffère. Cela dure le temps de tous les lire.</translation>
+    </message>
+    <message>
+        <source>Looking into files: %1 of %2</source>
+        <translation>Lecture des fichiers&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Looked into: %1, of %2 altogether. Files that hold something else in spite of the same name and size: %3. Not at hand, so judged by name and size: %4</source>
+        <translation>Lus&#xa0;: %1, %2 en tout. Fichiers au contenu différent malgré le même nom et la même taille&#xa0;: %3. Absents, donc jugés selon le nom et la taille&#xa0;: %4</translation>
+    </message>
+    <message>
+        <source>looking into files: %1 of %2</source>
+        <translation>lecture des fichiers&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Look into the files that are at hand</source>
+        <translation>Lire les fichiers qui sont là</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte. With --content, those in own folders that are there now are read, too, and are not the same where they hold something else; a file that is not at hand stays with the first of its group. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
+        <translation>Sont les mêmes les fichiers qui ont le même nom, majuscules ou non, et la même taille à l’octet près. Avec --content, ceux des dossiers personnels qui sont là maintenant sont lus aussi, et ne sont pas les mêmes si leur contenu diffère&#xa0;; un fichier absent reste avec le premier de son groupe. Les groupes qui gaspillent le plus de place viennent en premier, chacun avec une ligne par endroit. Les dossiers égaux en entier, avec tout leur contenu, forment un groupe, et leurs fichiers ne sont pas énumérés de nouveau. Leurs propres noms peuvent différer.</translation>
     </message>
 </context>
 <context>

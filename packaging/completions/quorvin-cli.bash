@@ -69,7 +69,7 @@ _quorvin_cli() {
         --limit) _quorvin_words ""; return ;;
       esac
       if [[ $cur == -* ]]; then
-        _quorvin_words "--single --by-volume --by-folder --match --empty --format --header -0 --null --limit -q --quiet --no-cache --help"
+        _quorvin_words "--single --by-volume --by-folder --match --empty --content --format --header -0 --null --limit -q --quiet --no-cache --help"
         return
       fi
       _quorvin_files -f

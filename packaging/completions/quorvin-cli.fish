@@ -38,6 +38,7 @@ complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -l by-volume -d 
 complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -l by-folder -d 'The same for each folder'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -l match -x -d 'Files must match WORDS by more than this percentage; 50'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -l empty -d 'Files of no bytes too'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -l content -d 'Look into the files that are at hand'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -l format -x -a 'text tsv csv json' -d 'text (default), tsv, csv or json'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -l header -d 'Start tsv and csv with the titles of the columns'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from copies' -s 0 -l null -d 'End rows with NUL instead of a line feed'

@@ -66,10 +66,14 @@ void Copies::decide(ListedFiles::Visited& file) {
   const ListedWalk::Text name = file.name();
   const std::uint32_t number = groupLike(groupAt_[file.place], file, name.folded);
   groupAt_[file.place] = number;
-  Group& group = groups_[number];
+  note(file, groups_[number]);
+}
+
+/// Counts the file as one of the group.
+void Copies::note(ListedFiles::Visited& file, Group& group) {
   if (group.copies == 0) {
     group.size = file.size;
-    group.name = names_.keep(name.listed);
+    group.name = names_.keep(file.name().listed);
     group.volume = files_.folders().volumeOf(file.folder);
   }
   ++group.copies;
@@ -110,6 +114,49 @@ void Copies::collectPlaces() {
   // Each start has gone on to its end, which is the next group's start.
   std::copy_backward(placesStart_.begin(), placesStart_.end() - 1, placesStart_.end());
   placesStart_.front() = 0;
+}
+
+std::optional<std::int64_t> Copies::takeApart(std::span<const PlacedContent> contents,
+                                              const StopAsked& stop) {
+  const auto before = static_cast<std::uint32_t>(groups_.size());
+  std::vector<bool> isChanged(before, false);
+  std::int64_t moved = 0;
+  for (std::uint32_t group = 0; group < before; ++group) {
+    const std::int64_t others = groups_[group].copies < 2 ? 0 : takeApart(group, contents);
+    isChanged[group] = others > 0;
+    moved += others;
+  }
+  if (moved == 0) return 0;
+  isChanged.resize(groups_.size(), true);
+  for (std::uint32_t group = 0; group < before; ++group) {
+    if (isChanged[group]) groups_[group] = {};
+  }
+  const auto noteAgain = [&](ListedFiles::Visited& file) {
+    const std::uint32_t group = groupAt_[file.place];
+    if (group < kAlone && isChanged[group]) note(file, groups_[group]);
+  };
+  if (!files_.visitFiles(noteAgain, stop)) return std::nullopt;
+  collectPlaces();
+  return moved;
+}
+
+/// Gives files of the group that hold something else than its first one new groups, and counts them.
+std::int64_t Copies::takeApart(std::uint32_t group, std::span<const PlacedContent> contents) {
+  std::vector<std::pair<ContentHash, std::uint32_t>> kinds;
+  std::int64_t moved = 0;
+  for (const std::uint32_t place : placesOf(group)) {
+    const auto known = std::ranges::lower_bound(contents, place, {}, &PlacedContent::place);
+    if (known == contents.end() || known->place != place) continue;
+    auto kind = std::ranges::find(kinds, known->content, &std::pair<ContentHash, std::uint32_t>::first);
+    if (kind == kinds.end()) {
+      kinds.emplace_back(known->content, kinds.empty() ? group : static_cast<std::uint32_t>(groups_.size()));
+      kind = kinds.end() - 1;
+      if (kinds.size() > 1) groups_.emplace_back();
+    }
+    groupAt_[place] = kind->second;
+    if (kind->second != group) ++moved;
+  }
+  return moved;
 }
 
 std::uint32_t Copies::groupAt(std::uint32_t place) const {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -36,6 +37,20 @@ struct FileSum {
   }
   void add(std::int64_t size) { add(FileSum{1, size}); }
   bool operator==(const FileSum&) const = default;
+};
+
+/// 128 bits of hash of all bytes of a file.
+struct ContentHash {
+  std::uint64_t high;
+  std::uint64_t low;
+
+  bool operator==(const ContentHash&) const = default;
+};
+
+/// What the file at a place holds.
+struct PlacedContent {
+  std::uint32_t place;
+  ContentHash content;
 };
 
 /// Goes through the files of all listings for those with the same name, in lower case as the search has it,
@@ -71,6 +86,12 @@ class Copies {
   /// does.
   bool find(const StopAsked& stop);
 
+  /// Takes groups apart whose files hold different things; to be called after find(), once at most.
+  /// `contents` ascend by place. A file that is not among them stays with the first one of its group, since
+  /// nothing says that it is another; so does the first that is among them. Gives the number of files that
+  /// are in another group by now, nothing where `stop` ended it. Throws as ListedFiles::visitFiles() does.
+  std::optional<std::int64_t> takeApart(std::span<const PlacedContent> contents, const StopAsked& stop);
+
   const ListedFiles& files() const { return files_; }
 
   /// All groups, numbered from 0. One with fewer than two copies is none.
@@ -92,6 +113,8 @@ class Copies {
   void guess(std::span<const FileRecord> sameHash);
   bool decide(const StopAsked& stop);
   void decide(ListedFiles::Visited& file);
+  void note(ListedFiles::Visited& file, Group& group);
+  std::int64_t takeApart(std::uint32_t group, std::span<const PlacedContent> contents);
   std::uint32_t groupLike(std::uint32_t group, ListedFiles::Visited& file, std::string_view folded);
   void collectPlaces();
 

@@ -84,7 +84,7 @@ const QStringList& CopiesJob::messages() const {
 
 CopiesJob::Progress CopiesJob::progress() const {
   const QMutexLocker lock(&mutex_);
-  return {listing_, searched_, isComparing_};
+  return {listing_, searched_, isComparing_, bytesRead_, bytesToRead_};
 }
 
 CopyFinder::Parts CopiesJob::parts() {
@@ -92,6 +92,10 @@ CopyFinder::Parts CopiesJob::parts() {
   parts.display = display_.get();
   parts.endRequested = [this] { return isStopped(); };
   parts.comparing = [this] { isComparing_ = true; };
+  parts.reading = [this](std::int64_t done, std::int64_t all) {
+    bytesRead_ = done;
+    bytesToRead_ = all;
+  };
   parts.listingStarts = [this](SourceKind kind, const QString& path) { listingStarts(kind, path); };
   return parts;
 }

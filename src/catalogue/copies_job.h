@@ -56,6 +56,9 @@ class CopiesJob {
     std::int64_t searched = 0;
     /// All listings have been read.
     bool isComparing = false;
+    /// Of files that are looked into; both 0 where that has not begun.
+    std::int64_t bytesRead = 0;
+    std::int64_t bytesToRead = 0;
   };
 
   CopiesJob(ProgramState sources, CopyWish wish, QLocale locale, std::size_t mostRows = kMostRows);
@@ -119,6 +122,8 @@ class CopiesJob {
   QString listing_;
   std::atomic<std::int64_t> searched_ = 0;
   std::atomic<bool> isComparing_ = false;
+  std::atomic<std::int64_t> bytesRead_ = 0;
+  std::atomic<std::int64_t> bytesToRead_ = 0;
   std::atomic<bool> isStopped_ = false;
   std::atomic<bool> hasEnded_ = false;
 };

@@ -1,6 +1,7 @@
 #include "catalogue/copies_window.h"
 
 #include "catalogue/job_controls.h"
+#include "catalogue/sum_texts.h"
 #include "platform/screen_room.h"
 #include "platform/text_direction.h"
 #include "search/match/search_query.h"
@@ -79,6 +80,7 @@ CopiesWindow::CopiesWindow(CopiesWindowParts parts, QWidget* owner)
       what_(new QComboBox),
       match_(new QLineEdit(CopyWish().desiredMatch)),
       empty_(new QCheckBox(Texts::tr("&Empty files, too"))),
+      content_(new QCheckBox(Texts::tr("&Look into files at hand"))),
       find_(makeStartButton(findCaption())),
       close_(new QPushButton(Texts::tr("&Close"))),
       list_(makeList(&rows_)),
@@ -109,6 +111,11 @@ void CopiesWindow::nameControls() {
   name(match_, "Match", Texts::tr("Desired match in percent"));
   name(list_, "Rows", Texts::tr("Copies"));
   empty_->setObjectName(QStringLiteral("Empty"));
+  content_->setObjectName(QStringLiteral("Content"));
+  content_->setAccessibleDescription(Texts::tr(
+      "Reads the files in own folders that are there now, and takes those apart that hold different "
+      "things. That takes as long as reading them all."));
+  content_->setToolTip(content_->accessibleDescription());
   find_->setObjectName(QStringLiteral("Find"));
   close_->setObjectName(QStringLiteral("close"));
   status_->setObjectName(QStringLiteral("Status"));
@@ -136,6 +143,7 @@ void CopiesWindow::layOut() {
   fields->addWidget(captionOf(match_, Texts::tr("&Match %:")), 2, 0);
   fields->addWidget(match_, 2, 1);
   fields->addWidget(empty_, 2, 2);
+  fields->addWidget(content_, 3, 1, 1, 3, Qt::AlignLeft);
   fields->setColumnStretch(3, 1);
 
   auto* buttons = new QDialogButtonBox;
@@ -182,6 +190,7 @@ CopyWish CopiesWindow::wish() {
   wish.singleOnly = choice.singleOnly;
   wish.sumBy = choice.sumBy;
   wish.withEmpty = empty_->isChecked();
+  wish.byContent = content_->isChecked();
   return wish;
 }
 
@@ -216,6 +225,12 @@ void CopiesWindow::look() {
 
 void CopiesWindow::showProgress() {
   const CopiesJob::Progress progress = job_->progress();
+  if (progress.bytesToRead > 0) {
+    status_->setText(
+        Texts::tr("Looking into files: %1 of %2")
+            .arg(sizeText(progress.bytesRead, parts_.locale), sizeText(progress.bytesToRead, parts_.locale)));
+    return;
+  }
   if (progress.isComparing) {
     status_->setText(Texts::tr("Comparing names and sizes"));
     return;

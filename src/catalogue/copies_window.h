@@ -74,6 +74,7 @@ class CopiesWindow : public QDialog {
   QComboBox* what_;
   QLineEdit* match_;
   QCheckBox* empty_;
+  QCheckBox* content_;
   QPushButton* find_;
   QPushButton* close_;
   QTreeView* list_;

@@ -27,7 +27,10 @@ CopyFinder::CopyFinder(const CopyWish& wish, Parts parts)
     words_.emplace(simpleLowerCase(wish_.searchText), correctedMatch(wish_.desiredMatch));
   }
   ListedFiles::Options options{words_ ? &*words_ : nullptr};
-  options.listingStarts = parts_.listingStarts;
+  options.listingStarts = [this](SourceKind kind, const QString& path) {
+    kinds_.push_back(kind);
+    if (parts_.listingStarts) parts_.listingStarts(kind, path);
+  };
   if (wish_.useCache) {
     segments_.emplace(storeOptions());
     options.segmentsOf = [this](const QString& listing) { return segmentsOf(listing); };
@@ -78,6 +81,7 @@ bool CopyFinder::isEnded() const {
 bool CopyFinder::compare() {
   const StopAsked stop = [this] { return isEnded(); };
   if (!copies_->find(stop)) return false;
+  if (wish_.byContent && !lookInside()) return false;
   if (wish_.singleOnly) {
     inFolders_ = singleFilesInFolders(*copies_, which_, stop);
   } else if (wish_.sumBy != CopyWish::SumBy::Nothing) {
@@ -87,6 +91,16 @@ bool CopyFinder::compare() {
     return false;
   }
   return !parts_.endRequested();
+}
+
+/// Reading goes on at its own pace, and tells of itself.
+bool CopyFinder::lookInside() {
+  CopyContents contents(*copies_, {parts_.state, kinds_, parts_.reading});
+  if (!contents.read(parts_.endRequested)) return false;
+  contents_ = contents.counts();
+  const auto differing = copies_->takeApart(contents.found(), [this] { return isEnded(); });
+  differing_ = differing.value_or(0);
+  return differing.has_value();
 }
 
 QStringList CopyFinder::sumLines() const {
@@ -101,6 +115,13 @@ QStringList CopyFinder::sumLines() const {
     const CopyTotals totals = copyTotals(*copies_, which_);
     lines += Texts::tr("Files with copies: %1. Copies beyond the first: %2, of %3 altogether")
                  .arg(number(totals.files), number(totals.beyondFirst.files), size(totals.beyondFirst.bytes));
+  }
+  if (wish_.byContent) {
+    lines += Texts::tr(
+                 "Looked into: %1, of %2 altogether. Files that hold something else in spite of the same "
+                 "name and size: %3. Not at hand, so judged by name and size: %4")
+                 .arg(number(contents_.read.files), size(contents_.read.bytes), number(differing_),
+                      number(contents_.notAtHand));
   }
   if (files_->withoutSize() == 0) return lines;
   lines += Texts::tr("Left out, since their exact size is not known: %1").arg(number(files_->withoutSize()));

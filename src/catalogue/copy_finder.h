@@ -1,6 +1,7 @@
 // A look for copies from the listings to the sums: what the console and the window have in common.
 #pragma once
 
+#include "catalogue/copy_contents.h"
 #include "catalogue/copy_sums.h"
 #include "platform/message_box.h"
 #include "search/search_run.h"
@@ -31,6 +32,8 @@ struct CopyWish {
   SumBy sumBy = SumBy::Nothing;
   /// Files of no bytes as well.
   bool withEmpty = false;
+  /// Files that are at hand are read: those that hold different things are not the same.
+  bool byContent = false;
   /// What was read of listings is kept for later, and used.
   bool useCache = true;
 };
@@ -51,6 +54,8 @@ class CopyFinder {
     std::function<ListingReader(const QString& path)> streamAt = {};
     /// Called whenever names and sizes are compared and it may be shown.
     std::function<void()> comparing = [] {};
+    /// As CopyContents::Parts has it.
+    std::function<void(std::int64_t done, std::int64_t all)> reading = [](std::int64_t, std::int64_t) {};
     /// Told of each listing before it is read.
     std::function<void(SourceKind kind, const QString& path)> listingStarts = {};
   };
@@ -91,6 +96,7 @@ class CopyFinder {
   SegmentStore::Segments segmentsOf(const QString& listing);
   void readListings(const std::vector<QString>& listings);
   bool compare();
+  bool lookInside();
   bool isEnded() const;
 
   CopyWish wish_;
@@ -103,6 +109,11 @@ class CopyFinder {
   std::optional<EqualFolders> equalFolders_;
   std::optional<SearchRun> run_;
   std::vector<FileSum> inFolders_;
+  /// Of each listing, by its number.
+  std::vector<SourceKind> kinds_;
+  CopyContents::Counts contents_;
+  /// Files that hold something else than one with their name and size.
+  std::int64_t differing_ = 0;
 };
 
 }  // namespace quorvin

@@ -1,4 +1,5 @@
 // "copies": files that are there more than once, or once only.
+#include "catalogue/sum_texts.h"
 #include "console/commands.h"
 #include "console/copy_rows.h"
 #include "console/error_lines.h"
@@ -49,11 +50,18 @@ class LookingForCopies {
     parts.endRequested = stopSignalled;
     parts.streamAt = listingStreamAt;
     parts.comparing = [this] { showComparing(); };
+    parts.reading = [this](std::int64_t done, std::int64_t all) { showReading(done, all); };
     return parts;
   }
 
   void showComparing() {
     if (progress_.line().isDue()) progress_.line().show(Texts::tr("comparing names and sizes"));
+  }
+
+  void showReading(std::int64_t done, std::int64_t all) {
+    if (!progress_.line().isDue()) return;
+    progress_.line().show(
+        Texts::tr("looking into files: %1 of %2").arg(sizeText(done, locale_), sizeText(all, locale_)));
   }
 
   void write() {

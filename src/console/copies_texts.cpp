@@ -17,6 +17,7 @@ CommandText copiesText() {
        {"--match", "N",
         QT_TRANSLATE_NOOP("Texts", "Files must match WORDS by more than this percentage; 50")},
        {"--empty", "", QT_TRANSLATE_NOOP("Texts", "Files of no bytes too")},
+       {"--content", "", QT_TRANSLATE_NOOP("Texts", "Look into the files that are at hand")},
        {"--format", "FORMAT", QT_TRANSLATE_NOOP("Texts", "text (default), tsv, csv or json"),
         "text tsv csv json"},
        {"--header", "", QT_TRANSLATE_NOOP("Texts", "Start tsv and csv with the titles of the columns")},
@@ -31,9 +32,11 @@ CommandText copiesText() {
        {"quorvin-cli copies \"\" cd1.txt cd2.txt", QT_TRANSLATE_NOOP("Texts", "Of these two listings")}},
       {QT_TRANSLATE_NOOP(
            "Texts",
-           "Files are the same that have the same name, whatever its case, and the same size to the byte; "
-           "nobody "
-           "looks into them. The groups that waste most space come first, each with a line for every place. "
+           "Files are the same that have the same name, whatever its case, and the same size to the byte. "
+           "With --content, those in own folders that are there now are read, too, and are not the same "
+           "where "
+           "they hold something else; a file that is not at hand stays with the first of its group. The "
+           "groups that waste most space come first, each with a line for every place. "
            "Folders that are equal as a whole, with all that is in them, are one group, and their files are "
            "not "
            "listed again. Their own names may differ."),

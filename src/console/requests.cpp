@@ -118,6 +118,7 @@ CopiesRequest copiesRequestOf(const Given& given) {
   request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
   request.format = tableFormatNamed(given.text("--format").value_or(QStringLiteral("text")));
   request.singleOnly = given.has("--single");
+  request.byContent = given.has("--content");
   if (given.has("--by-volume") && given.has("--by-folder")) {
     throw Mistake{Texts::tr("there are sums for volumes or for folders, not for both at once")};
   }

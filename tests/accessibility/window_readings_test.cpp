@@ -135,6 +135,7 @@ TEST_F(AccessibleWindows, Copies) {
                      "StaticText : Match %:\n"
                      "EditableText Match: Desired match in percent\n"
                      "CheckBox Empty: Empty files, too\n"
+                     "CheckBox Content: Look into files at hand\n"
                      "Tree Rows: Copies\n"
                      "StaticText Status: Files that have the same name and the same size to the byte, in all "
                      "listings together. Nothing is deleted or changed.\n"

@@ -1,10 +1,12 @@
 // Copies in generated catalogues, against a plain reference.
 #include "catalogue/found_copies.h"
 #include "catalogue/plain_copies.h"
+#include "platform/text_encoding.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
 #include <random>
 
 namespace quorvin {
@@ -86,6 +88,23 @@ class CatalogueMaker {
   const QStringList names_ = {u"Music"_qs, u"MUSIC"_qs, u"\u00DCbung"_qs, u"b c"_qs};
 };
 
+/// Contents of every other file or so, of few different ones. Each file gets its kind: one that nobody could
+/// look into is of that of the first of its name and size that somebody could.
+std::vector<PlacedContent> lookInto(std::vector<PlainFile>& files, CatalogueMaker& maker) {
+  std::vector<PlacedContent> contents;
+  std::map<std::pair<QString, std::int64_t>, std::uint64_t> first;
+  for (std::size_t place = 0; place < files.size(); ++place) {
+    PlainFile& file = files[place];
+    if (!file.size || maker.below(2) == 0) continue;
+    const auto content = static_cast<std::uint64_t>(maker.below(8) == 0 ? 1 + maker.below(2) : 3);
+    // Hashes that are the same in half of their bits.
+    contents.push_back({static_cast<std::uint32_t>(place), {content / 2, content % 2}});
+    const auto [known, isNew] = first.try_emplace({simpleLowerCase(file.name), *file.size}, content);
+    file.kind = known->second == content ? 0 : content;
+  }
+  return contents;
+}
+
 QByteArray grouped(std::int64_t size) {
   return QLocale::c().toString(qlonglong{size}).toUtf8();
 }
@@ -148,6 +167,27 @@ ScanLimits smallSegments() {
 
 TEST(CopiesAgreement, WithAPlainReferenceOverALargeCatalogue) {
   expectAgreement(1, 20'000, {});
+}
+
+TEST(CopiesAgreement, WhereSomeHoldDifferentThings) {
+  for (const unsigned seed : {5U, 6U, 7U}) {
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
+    CatalogueMaker maker(seed);
+    std::vector<PlainFile> files = maker.files(4, 4'000);
+    test::CopiesSetting setting;
+    setting.hashBits = seed == 7 ? 7 : 64;
+    setting.contents = lookInto(files, maker);
+    const test::FoundCopies found(listingsOf(files, 4), setting);
+    ASSERT_EQ(found.files.placeCount(), files.size());
+    EXPECT_EQ(found.differing, std::ranges::count_if(files, [](const PlainFile& f) { return f.kind != 0; }));
+    EXPECT_GE(found.differing, 50);
+    std::vector<std::string> lines = test::linesOf(found);
+    std::vector<std::string> expected = test::plainLines(files);
+    std::ranges::sort(lines);
+    std::ranges::sort(expected);
+    EXPECT_EQ(lines, expected);
+    EXPECT_EQ(test::singlesOf(found), test::plainSingles(files));
+  }
 }
 
 TEST(CopiesAgreement, WhereSegmentsEndAnywhere) {

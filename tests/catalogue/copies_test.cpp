@@ -69,6 +69,29 @@ TEST(Copies, EmptyFilesCountOnlyOnWish) {
   EXPECT_THAT(singlesOf(found), ElementsAre("1 x [0 A \\1\\]"));
 }
 
+TEST(Copies, FilesThatHoldSomethingElseAreNoCopies) {
+  test::CopiesSetting setting;
+  // The second and the third hold the same; nothing is known of the fourth, and the first is alone.
+  setting.contents = {{0, {1, 1}}, {1, {1, 2}}, {2, {1, 2}}};
+  const FoundCopies found(
+      {blockHead("A", "\\1\\") + entryLine("x", "7") + blockHead("A", "\\2\\") + entryLine("X", "7"),
+       blockHead("B", "\\") + entryLine("x", "7"), blockHead("C", "\\") + entryLine("x", "7")},
+      setting);
+  EXPECT_THAT(linesOf(found), ElementsAre("2 x 7 x: [0 A \\1\\] [2 C \\]", "2 x 7 X: [0 A \\2\\] [1 B \\]"));
+  EXPECT_EQ(found.differing, 2);
+}
+
+TEST(Copies, AFileThatHoldsSomethingElseThanAllOthersIsSingle) {
+  test::CopiesSetting setting;
+  setting.contents = {{1, {5, 5}}, {2, {6, 5}}};
+  const FoundCopies found(
+      {blockHead("A", "\\") + entryLine("x", "7"), blockHead("B", "\\") + entryLine("x", "7"),
+       blockHead("C", "\\") + entryLine("x", "7")},
+      setting);
+  EXPECT_THAT(linesOf(found), ElementsAre("2 x 7 x: [0 A \\] [1 B \\]"));
+  EXPECT_THAT(singlesOf(found), ElementsAre("7 x [2 C \\]"));
+}
+
 TEST(Copies, ASizeThatReachesIntoTheNameIsNoPartOfIt) {
   // Grouped, the size begins in the last column of the entry text; ungrouped it does not.
   const FoundCopies found({blockHead("A", "\\1\\") + entryLine("film.avi", "4,700,000,000") + entryLine("a") +

@@ -24,6 +24,8 @@ struct CopiesSetting {
   ScanLimits limits = {};
   /// Segments are kept and read out of their files; else they stay in memory.
   bool areKept = true;
+  /// What is in files that could be looked into.
+  std::vector<PlacedContent> contents = {};
   /// Returns true where the search is to be stopped.
   StopAsked stop = [] { return false; };
 };
@@ -40,7 +42,11 @@ class FoundCopies {
       files.startListing(SourceKind::Offline, path);
       scan(path);
     }
-    isFound = copies.find(setting_.stop) && folders.find(setting_.stop);
+    isFound = copies.find(setting_.stop);
+    if (isFound && !setting_.contents.empty()) {
+      differing = copies.takeApart(setting_.contents, setting_.stop).value_or(-1);
+    }
+    isFound = isFound && folders.find(setting_.stop);
   }
 
  private:
@@ -62,6 +68,8 @@ class FoundCopies {
   Copies copies{files};
   EqualFolders folders{copies};
   bool isFound = false;
+  /// Files that hold something else than the first with their name and size.
+  std::int64_t differing = 0;
 };
 
 /// Where a place or a folder is, as "0 VOLUME \Folder\": the listing's number first.

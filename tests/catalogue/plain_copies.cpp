@@ -15,10 +15,15 @@ namespace {
 using Folder = std::tuple<int, QString, QString>;
 using SameFiles = std::map<std::pair<QString, std::int64_t>, std::vector<PlainFile>>;
 
+/// The same for the same files among those of one size.
+QString sameName(const PlainFile& file) {
+  return simpleLowerCase(file.name) + u'\n' + QString::number(file.kind);
+}
+
 SameFiles sameFiles(const std::vector<PlainFile>& files) {
   SameFiles same;
   for (const PlainFile& file : files) {
-    if (file.size) same[{simpleLowerCase(file.name), *file.size}].push_back(file);
+    if (file.size) same[{sameName(file), *file.size}].push_back(file);
   }
   return same;
 }
@@ -100,8 +105,7 @@ class PlainFolders {
       content.isKnown = content.isKnown && file.size;
       ++content.files;
       content.bytes += file.size.value_or(0);
-      parts.push_back(u"file "_qs + simpleLowerCase(file.name) + u'|' +
-                      QString::number(file.size.value_or(-1)));
+      parts.push_back(u"file "_qs + sameName(file) + u'|' + QString::number(file.size.value_or(-1)));
     }
     for (const Folder& inside : inside_[folder]) {
       const Content& its = read(inside);
@@ -165,7 +169,7 @@ std::vector<std::string> plainSingles(const std::vector<PlainFile>& files) {
   for (const PlainFile& file : files) {
     if (file.size.value_or(0) == 0) continue;
     std::set<std::pair<int, QString>> volumes;
-    for (const PlainFile& other : same.at({simpleLowerCase(file.name), *file.size})) {
+    for (const PlainFile& other : same.at({sameName(file), *file.size})) {
       volumes.insert({other.listing, other.volume});
     }
     if (volumes.size() > 1) continue;

@@ -18,6 +18,8 @@ struct PlainFile {
   QString name;
   /// Nothing where the listing does not say it.
   std::optional<std::int64_t> size;
+  /// Files with the same name and size are of another kind where they hold something else.
+  std::uint64_t kind = 0;
 };
 
 /// The lines, without an order, each as textOfLine() in found_copies.h has it.

@@ -3,6 +3,11 @@
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
 
+#include <QFile>
+
+#include <utility>
+#include <vector>
+
 namespace quorvin {
 namespace {
 
@@ -171,6 +176,58 @@ TEST_F(CopiesProgram, StandardInputIsAListing) {
             "2 copies of 700.00 MB: film.avi\n"
             "  CD 1: \\Films\\\n"
             "  CD 2: \\Backup\\Films\\\n");
+}
+
+/// Own folders with files of their own.
+class CopiesOfOwnFiles : public test::ConsoleProgramTest {
+ protected:
+  void addFolder(const QString& name, const std::vector<std::pair<QString, QByteArray>>& files) {
+    folder.makeFolder(name);
+    for (const auto& [file, content] : files) folder.writeFile(name + u'/' + file, content);
+    ASSERT_EQ(run({u"sources"_qs, u"add"_qs, name}).status, 0);
+    ASSERT_EQ(run({u"refresh"_qs, u"-q"_qs, name}).status, 0);
+  }
+  test::Ended byContent(const QStringList& more = {}) {
+    return run(QStringList{u"copies"_qs, u"--content"_qs} + more);
+  }
+};
+
+TEST_F(CopiesOfOwnFiles, ContentTellsFilesWithTheSameNameAndSizeApart) {
+  addFolder(u"one"_qs, {{u"letter.txt"_qs, "Dear Ann"}, {u"photo.jpg"_qs, "the same"}});
+  addFolder(u"two"_qs, {{u"letter.txt"_qs, "Dear Bob"}, {u"photo.jpg"_qs, "the same"}});
+  const test::Ended named = run({u"copies"_qs, u"-q"_qs, u"letter"_qs});
+  EXPECT_TRUE(named.output.contains("letter.txt") || named.output.contains("2 equal folders"))
+      << named.output.toStdString();
+  const test::Ended ended = byContent();
+  EXPECT_TRUE(ended.output.startsWith("2 copies of 8 bytes: photo.jpg\n")) << ended.output.toStdString();
+  EXPECT_FALSE(ended.output.contains("letter"));
+  EXPECT_TRUE(
+      ended.errors.contains(u"Looked into: 4, of 32 bytes altogether. Files that hold something else in "
+                            "spite of the same name and size: 1. Not at hand, so judged by name and size: "
+                            "0\n"_qs))
+      << ended.errors.toStdString();
+  const test::Ended single = byContent({u"--single"_qs});
+  EXPECT_EQ(single.output.count("letter.txt, 8 bytes"), 2) << single.output.toStdString();
+  EXPECT_EQ(byContent({u"letter"_qs}).status, 1);
+}
+
+TEST_F(CopiesOfOwnFiles, WhatIsNotAtHandIsJudgedByNameAndSize) {
+  addFolder(u"one"_qs, {{u"a.txt"_qs, "12345"}, {u"b.txt"_qs, "12345"}});
+  addFolder(u"two"_qs, {{u"a.txt"_qs, "54321"}, {u"b.txt"_qs, "12345"}});
+  folder.writeFile(u"cd.txt"_qs, blockHead("CD", "\\") + entryLine("a.txt", "5"));
+  ASSERT_EQ(run({u"sources"_qs, u"add"_qs, u"cd.txt"_qs}).status, 0);
+  // One is gone, and the other has grown.
+  QFile::remove(folder.pathOf(u"one/a.txt"_qs));
+  folder.writeFile(u"one/b.txt"_qs, "123456");
+  const test::Ended ended = byContent();
+  EXPECT_TRUE(ended.output.startsWith("2 equal folders of 10 bytes with 2 files: one\n"))
+      << ended.output.toStdString();
+  EXPECT_TRUE(ended.output.contains("\n3 copies of 5 bytes: a.txt\n")) << ended.output.toStdString();
+  EXPECT_TRUE(
+      ended.errors.contains(u"Looked into: 0, of 0 bytes altogether. Files that hold something else in "
+                            "spite of the same name and size: 0. Not at hand, so judged by name and size: "
+                            "3\n"_qs))
+      << ended.errors.toStdString();
 }
 
 TEST_F(CopiesProgram, OutputThatCannotBeWrittenEndsWith2) {

@@ -188,7 +188,7 @@ TEST_F(ShownCopies, CanBeUsedByKeysAlone) {
         press(Qt::Key_C);
       },
       [](CopiesWindow& window) {
-        EXPECT_EQ(tabStops().toStdString(), "Words What Match Empty Rows Find close");
+        EXPECT_EQ(tabStops().toStdString(), "Words What Match Empty Content Rows Find close");
         typeText(QStringLiteral("film"));
         press(Qt::Key_Return);
         waitForResult(window);
@@ -250,6 +250,31 @@ TEST_F(ShownCopies, AFileOfAnOwnFolderIsShownWhereItIs) {
     press(Qt::Key_Return);
     ASSERT_EQ(shell_.calls.size(), 2U) << statusOf(window);
     EXPECT_EQ(shell_.calls[1], QStringLiteral("open folder %1live/ at ").arg(music));
+  });
+}
+
+TEST_F(ShownCopies, FilesAtHandAreLookedIntoOnWish) {
+  state_.OfflineSourceCount = 0;
+  for (const QString& name : {QStringLiteral("one"), QStringLiteral("two")}) {
+    const QString place = folder_.path() + name + u'/';
+    ASSERT_TRUE(QDir().mkpath(place));
+    folder_.writeFile(name + QStringLiteral("/song.mp3"), "song");
+    folder_.writeFile(name + QStringLiteral("/letter.txt"), name.toUtf8());
+    folder_.writeFile(name + QStringLiteral(".txt"),
+                      blockHead(name.toUtf8(), QString(place).replace(u'/', u'\\').toUtf8()) +
+                          entryLine("letter.txt", "3") + entryLine("song.mp3", "4"));
+    addOnlineFolder(name, place);
+  }
+  inWindow([](CopiesWindow& window) {
+    findIn(window, Wasted);
+    EXPECT_TRUE(rowsOf(window).starts_with("one (equal folders, 2 files)|2|7 bytes|")) << rowsOf(window);
+    click(window.findChild<QCheckBox*>(QStringLiteral("Content")));
+    findIn(window, Wasted);
+    EXPECT_TRUE(rowsOf(window).starts_with("song.mp3|2|4 bytes|")) << rowsOf(window);
+    EXPECT_TRUE(
+        statusOf(window).find("Looked into: 4, of 14 bytes altogether. Files that hold something else in "
+                              "spite of the same name and size: 1. ") != std::string::npos)
+        << statusOf(window);
   });
 }
 
