@@ -1,6 +1,6 @@
 // Importing the lists of other programs. An input is a byte for the format (that of the first lines, or one
 // of all), a byte for the encoding and what else the user says, and the list.
-#include "catalogue/list_import.h"
+#include "catalogue/import/list_import.h"
 #include "fuzz/require.h"
 #include "support/temporary_folder.h"
 

@@ -4,7 +4,7 @@
 #include "app/search_form_controls.h"
 #include "app/search_form_help.h"
 #include "catalogue/copies_window.h"
-#include "catalogue/import_window.h"
+#include "catalogue/import/import_window.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
 #include "files/drive_threads.h"

@@ -1,6 +1,6 @@
 // "import": the command that turns lists of other programs into listings.
-#include "catalogue/list_dates.h"
-#include "catalogue/list_importer.h"
+#include "catalogue/import/list_dates.h"
+#include "catalogue/import/list_importer.h"
 #include "console/commands.h"
 #include "console/error_lines.h"
 #include "console/progress_line.h"

@@ -1,6 +1,6 @@
 // The lists of "dir /s" in the languages that are known.
+#include "catalogue/import/list_formats.h"
 #include "catalogue/list_entries.h"
-#include "catalogue/list_formats.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

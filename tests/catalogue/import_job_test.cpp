@@ -1,4 +1,4 @@
-#include "catalogue/import_job.h"
+#include "catalogue/import/import_job.h"
 
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

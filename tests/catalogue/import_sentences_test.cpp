@@ -1,4 +1,4 @@
-#include "catalogue/import_sentences.h"
+#include "catalogue/import/import_sentences.h"
 
 #include "support/qt_printing.h"
 

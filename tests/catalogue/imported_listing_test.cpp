@@ -1,4 +1,4 @@
-#include "catalogue/imported_listing.h"
+#include "catalogue/import/imported_listing.h"
 
 #include "catalogue/list_entries.h"
 #include "support/qt_printing.h"

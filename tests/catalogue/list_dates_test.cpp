@@ -1,4 +1,4 @@
-#include "catalogue/list_dates.h"
+#include "catalogue/import/list_dates.h"
 
 #include "catalogue/list_entries.h"
 

@@ -1,7 +1,7 @@
 // Lists read line by line in tests.
 #pragma once
 
-#include "catalogue/list_entry.h"
+#include "catalogue/import/list_entry.h"
 
 #include <QDateTime>
 

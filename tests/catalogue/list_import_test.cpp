@@ -1,4 +1,4 @@
-#include "catalogue/list_import.h"
+#include "catalogue/import/list_import.h"
 
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

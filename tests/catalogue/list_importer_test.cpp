@@ -1,4 +1,4 @@
-#include "catalogue/list_importer.h"
+#include "catalogue/import/list_importer.h"
 
 #include "faults/runtime_fault.h"
 #include "support/qt_printing.h"

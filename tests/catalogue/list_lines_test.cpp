@@ -1,4 +1,4 @@
-#include "catalogue/list_lines.h"
+#include "catalogue/import/list_lines.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Rows of each format, as their programs write them.
-#include "catalogue/list_readers.h"
+#include "catalogue/import/list_readers.h"
 
-#include "catalogue/list_dates.h"
+#include "catalogue/import/list_dates.h"
 #include "catalogue/list_entries.h"
 #include "support/fault_number.h"
 

@@ -1,4 +1,4 @@
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_text.h"
 
 #include <gtest/gtest.h>
 

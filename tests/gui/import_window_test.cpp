@@ -1,5 +1,5 @@
 // The window that turns lists of other programs into listings, as a person comes to it and uses it.
-#include "catalogue/import_window.h"
+#include "catalogue/import/import_window.h"
 
 #include "editors/dialog_driving.h"
 #include "editors/recording_file_picker.h"

@@ -1,6 +1,6 @@
-#include "catalogue/imported_listing.h"
+#include "catalogue/import/imported_listing.h"
 
-#include "catalogue/list_dates.h"
+#include "catalogue/import/list_dates.h"
 #include "index/listed_name.h"
 #include "platform/text_encoding.h"
 #include "search/format/listing_line.h"

@@ -2,7 +2,7 @@
 // leaves what follows in it, and gives nothing, with `text` as it was, where there is none.
 #pragma once
 
-#include "catalogue/list_entry.h"
+#include "catalogue/import/list_entry.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 // An import of lists that goes on in a thread of its own.
 #pragma once
 
-#include "catalogue/list_importer.h"
+#include "catalogue/import/list_importer.h"
 
 #include <QMutex>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "catalogue/import_job.h"
+#include "catalogue/import/import_job.h"
 
 #include "faults/runtime_fault.h"
 #include "texts/texts.h"

@@ -2,7 +2,7 @@
 // not tell: docs/formats/imports.md.
 #pragma once
 
-#include "catalogue/list_entry.h"
+#include "catalogue/import/list_entry.h"
 
 #include <cstdint>
 #include <memory>

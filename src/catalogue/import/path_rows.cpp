@@ -1,7 +1,7 @@
 // The lists that have a whole path in each line: those of du, rclone and unzip, checksums, and paths alone.
-#include "catalogue/list_dates.h"
-#include "catalogue/list_readers.h"
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_dates.h"
+#include "catalogue/import/list_readers.h"
+#include "catalogue/import/list_text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // What find -printf writes with a pattern that the user names.
-#include "catalogue/list_dates.h"
-#include "catalogue/list_readers.h"
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_dates.h"
+#include "catalogue/import/list_readers.h"
+#include "catalogue/import/list_text.h"
 #include "faults/runtime_fault.h"
 #include "texts/texts.h"
 

@@ -1,8 +1,8 @@
 // Making the listing of a list where it belongs: its name, what is refused, and nothing half left behind.
 #pragma once
 
-#include "catalogue/import_sentences.h"
-#include "catalogue/list_import.h"
+#include "catalogue/import/import_sentences.h"
+#include "catalogue/import/list_import.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
-#include "catalogue/list_importer.h"
+#include "catalogue/import/list_importer.h"
 
-#include "catalogue/list_dates.h"
+#include "catalogue/import/list_dates.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_reader.h"

@@ -1,7 +1,7 @@
 // Tables of values with commas, semicolons or tabs between, whose first row names the columns.
-#include "catalogue/list_dates.h"
-#include "catalogue/list_readers.h"
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_dates.h"
+#include "catalogue/import/list_readers.h"
+#include "catalogue/import/list_text.h"
 #include "dates/general_number.h"
 #include "faults/runtime_fault.h"
 #include "platform/text_encoding.h"

@@ -1,4 +1,4 @@
-#include "catalogue/entry_sorter.h"
+#include "catalogue/import/entry_sorter.h"
 
 #include "files/file_reader.h"
 

@@ -1,7 +1,7 @@
 // The lists whose rows start with a mode, "-rw-r--r--": those of ls, find -ls, tar and rsync.
-#include "catalogue/list_dates.h"
-#include "catalogue/list_readers.h"
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_dates.h"
+#include "catalogue/import/list_readers.h"
+#include "catalogue/import/list_text.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "catalogue/list_import.h"
+#include "catalogue/import/list_import.h"
 
 #include "platform/text_encoding.h"
 

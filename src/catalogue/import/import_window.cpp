@@ -1,4 +1,4 @@
-#include "catalogue/import_window.h"
+#include "catalogue/import/import_window.h"
 
 #include "catalogue/job_controls.h"
 #include "faults/runtime_fault.h"

@@ -1,7 +1,7 @@
 // What the user is told of an import, in the terminal and in the window.
 #pragma once
 
-#include "catalogue/list_import.h"
+#include "catalogue/import/list_import.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // The lists of tree: a path in the first line, and below it branches, "|-- [    5 Jan 15  2004]  name".
-#include "catalogue/list_dates.h"
-#include "catalogue/list_readers.h"
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_dates.h"
+#include "catalogue/import/list_readers.h"
+#include "catalogue/import/list_text.h"
 
 #include <array>
 #include <utility>

@@ -1,8 +1,8 @@
 // The formats of lists that can be imported, and telling which of them a list has.
 #pragma once
 
-#include "catalogue/list_entry.h"
-#include "catalogue/list_readers.h"
+#include "catalogue/import/list_entry.h"
+#include "catalogue/import/list_readers.h"
 
 #include <memory>
 #include <string_view>

@@ -1,7 +1,7 @@
 // Puts any number of entries in the order of a listing.
 #pragma once
 
-#include "catalogue/list_entry.h"
+#include "catalogue/import/list_entry.h"
 #include "files/file_aside.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // The lists of "dir /s", in the languages in which their heads are known.
-#include "catalogue/list_dates.h"
-#include "catalogue/list_readers.h"
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_dates.h"
+#include "catalogue/import/list_readers.h"
+#include "catalogue/import/list_text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // The window that turns lists of other programs into listings.
 #pragma once
 
-#include "catalogue/import_job.h"
+#include "catalogue/import/import_job.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -2,9 +2,9 @@
 // docs/formats/imports.md.
 #pragma once
 
-#include "catalogue/imported_listing.h"
-#include "catalogue/list_formats.h"
-#include "catalogue/list_lines.h"
+#include "catalogue/import/imported_listing.h"
+#include "catalogue/import/list_formats.h"
+#include "catalogue/import/list_lines.h"
 #include "files/file_aside.h"
 
 #include <QLocale>

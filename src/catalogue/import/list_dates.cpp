@@ -1,6 +1,6 @@
-#include "catalogue/list_dates.h"
+#include "catalogue/import/list_dates.h"
 
-#include "catalogue/list_text.h"
+#include "catalogue/import/list_text.h"
 #include "dates/general_date.h"
 
 #include <algorithm>

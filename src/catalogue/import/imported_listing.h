@@ -1,7 +1,7 @@
 // The listing that is made of a list's entries, by the line writer of the indexer.
 #pragma once
 
-#include "catalogue/entry_sorter.h"
+#include "catalogue/import/entry_sorter.h"
 #include "files/file_writer.h"
 #include "index/entry_line.h"
 

@@ -1,4 +1,4 @@
-#include "catalogue/list_formats.h"
+#include "catalogue/import/list_formats.h"
 
 #include <algorithm>
 
