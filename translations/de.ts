@@ -4016,6 +4016,178 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>Files are the same that have the same name, whatever its case, and the same size to the byte. With --content, those in own folders that are there now are read, too, and are not the same where they hold something else; a file that is not at hand stays with the first of its group. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
         <translation>Gleich sind Dateien mit demselben Namen, bis auf Groß- und Kleinschreibung, und derselben Größe auf das Byte. Mit --content werden auch die gelesen, die in eigenen Ordnern jetzt da sind; enthalten sie Verschiedenes, sind sie nicht gleich. Eine Datei, die nicht vorhanden ist, bleibt bei der ersten ihrer Gruppe. Die Gruppen, die am meisten Platz verschwenden, kommen zuerst, jede mit einer Zeile für jeden Ort. Ordner, die als Ganzes gleich sind, mit allem darin, sind eine Gruppe, und ihre Dateien werden nicht noch einmal aufgeführt. Ihre eigenen Namen dürfen verschieden sein.</translation>
     </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>Ver&amp;gleichen...</translation>
+    </message>
+    <message>
+        <source>One of the two is no listing, since it is not plain text.</source>
+        <translation>Eines von beiden ist keine Liste, da es kein reiner Text ist.</translation>
+    </message>
+    <message>
+        <source>Left out, since they could not be read: %1</source>
+        <translation>Ausgelassen, da nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1 hinzugekommen</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 fortgefallen</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>%1 geändert</translation>
+    </message>
+    <message>
+        <source>%1 moved</source>
+        <translation>%1 verschoben</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>hinzugekommen</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>fortgefallen</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>verschoben</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Moved from</source>
+        <translation>Verschoben aus</translation>
+    </message>
+    <message>
+        <source>Size earlier</source>
+        <translation>Größe früher</translation>
+    </message>
+    <message>
+        <source>Date earlier</source>
+        <translation>Datum früher</translation>
+    </message>
+    <message>
+        <source>Size later</source>
+        <translation>Größe später</translation>
+    </message>
+    <message>
+        <source>Date later</source>
+        <translation>Datum später</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Alle Änderungen</translation>
+    </message>
+    <message>
+        <source>What was added</source>
+        <translation>Was hinzukam</translation>
+    </message>
+    <message>
+        <source>What was removed</source>
+        <translation>Was fortfiel</translation>
+    </message>
+    <message>
+        <source>What has changed</source>
+        <translation>Was sich änderte</translation>
+    </message>
+    <message>
+        <source>What was moved</source>
+        <translation>Was verschoben wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>Ver&amp;gleichen</translation>
+    </message>
+    <message>
+        <source>%1 (incomplete)</source>
+        <translation>%1 (unvollständig)</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>What came, went, changed and was moved from the earlier to the later one. Nothing is deleted or changed.</source>
+        <translation>Was vom früheren zum späteren Stand hinzukam, fortfiel, sich änderte und verschoben wurde. Nichts wird gelöscht oder geändert.</translation>
+    </message>
+    <message>
+        <source>What is compared: the earlier side</source>
+        <translation>Was verglichen wird: die frühere Seite</translation>
+    </message>
+    <message>
+        <source>Which state of the earlier side</source>
+        <translation>Welcher Stand der früheren Seite</translation>
+    </message>
+    <message>
+        <source>What is compared: the later side</source>
+        <translation>Was verglichen wird: die spätere Seite</translation>
+    </message>
+    <message>
+        <source>Which state of the later side</source>
+        <translation>Welcher Stand der späteren Seite</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>What can be chosen</source>
+        <translation>Was gewählt werden kann</translation>
+    </message>
+    <message>
+        <source>&amp;Earlier:</source>
+        <translation>&amp;Früher:</translation>
+    </message>
+    <message>
+        <source>State ea&amp;rlier:</source>
+        <translation>S&amp;tand früher:</translation>
+    </message>
+    <message>
+        <source>&amp;Later:</source>
+        <translation>S&amp;päter:</translation>
+    </message>
+    <message>
+        <source>State l&amp;ater:</source>
+        <translation>Stan&amp;d später:</translation>
+    </message>
+    <message>
+        <source>There is nothing to compare yet.</source>
+        <translation>Es gibt noch nichts zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>the listing as it is</source>
+        <translation>die Liste, wie sie ist</translation>
+    </message>
+    <message>
+        <source>the folder as it is now</source>
+        <translation>der Ordner, wie er jetzt ist</translation>
+    </message>
+    <message>
+        <source>Stopped. What has changed is only known at the end.</source>
+        <translation>Angehalten. Was sich geändert hat, steht erst am Ende fest.</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Vergleicht</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 rows are shown.</source>
+        <translation>Nur die ersten %1 von %2 Zeilen werden angezeigt.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

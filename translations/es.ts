@@ -4016,6 +4016,178 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>Files are the same that have the same name, whatever its case, and the same size to the byte. With --content, those in own folders that are there now are read, too, and are not the same where they hold something else; a file that is not at hand stays with the first of its group. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
         <translation>Son iguales los archivos que tienen el mismo nombre, en mayúsculas o minúsculas, y el mismo tamaño hasta el último byte. Con --content se leen también los que están ahora en carpetas propias, y no son iguales si contienen otra cosa; un archivo que no está presente se queda con el primero de su grupo. Los grupos que más espacio desperdician van primero, cada uno con una línea por lugar. Las carpetas que son iguales enteras, con todo lo que contienen, forman un grupo, y sus archivos no se vuelven a enumerar. Sus propios nombres pueden ser distintos.</translation>
     </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>Co&amp;mparar...</translation>
+    </message>
+    <message>
+        <source>One of the two is no listing, since it is not plain text.</source>
+        <translation>Una de las dos no es una lista, porque no es texto sin formato.</translation>
+    </message>
+    <message>
+        <source>Left out, since they could not be read: %1</source>
+        <translation>Omitidos porque no se pudieron leer: %1</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1 añadidos</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 quitados</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>%1 cambiados</translation>
+    </message>
+    <message>
+        <source>%1 moved</source>
+        <translation>%1 movidos</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>añadido</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>quitado</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiado</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>movido</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambio</translation>
+    </message>
+    <message>
+        <source>Moved from</source>
+        <translation>Movido desde</translation>
+    </message>
+    <message>
+        <source>Size earlier</source>
+        <translation>Tamaño antes</translation>
+    </message>
+    <message>
+        <source>Date earlier</source>
+        <translation>Fecha antes</translation>
+    </message>
+    <message>
+        <source>Size later</source>
+        <translation>Tamaño después</translation>
+    </message>
+    <message>
+        <source>Date later</source>
+        <translation>Fecha después</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Todos los cambios</translation>
+    </message>
+    <message>
+        <source>What was added</source>
+        <translation>Lo que se añadió</translation>
+    </message>
+    <message>
+        <source>What was removed</source>
+        <translation>Lo que se quitó</translation>
+    </message>
+    <message>
+        <source>What has changed</source>
+        <translation>Lo que cambió</translation>
+    </message>
+    <message>
+        <source>What was moved</source>
+        <translation>Lo que se movió</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Comparar</translation>
+    </message>
+    <message>
+        <source>%1 (incomplete)</source>
+        <translation>%1 (incompleta)</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>C&amp;errar</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
+    </message>
+    <message>
+        <source>What came, went, changed and was moved from the earlier to the later one. Nothing is deleted or changed.</source>
+        <translation>Lo que se añadió, se quitó, cambió y se movió del estado anterior al posterior. No se borra ni se cambia nada.</translation>
+    </message>
+    <message>
+        <source>What is compared: the earlier side</source>
+        <translation>Qué se compara: el lado anterior</translation>
+    </message>
+    <message>
+        <source>Which state of the earlier side</source>
+        <translation>Qué estado del lado anterior</translation>
+    </message>
+    <message>
+        <source>What is compared: the later side</source>
+        <translation>Qué se compara: el lado posterior</translation>
+    </message>
+    <message>
+        <source>Which state of the later side</source>
+        <translation>Qué estado del lado posterior</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>What can be chosen</source>
+        <translation>Lo que se puede elegir</translation>
+    </message>
+    <message>
+        <source>&amp;Earlier:</source>
+        <translation>&amp;Antes:</translation>
+    </message>
+    <message>
+        <source>State ea&amp;rlier:</source>
+        <translation>Estad&amp;o antes:</translation>
+    </message>
+    <message>
+        <source>&amp;Later:</source>
+        <translation>Des&amp;pués:</translation>
+    </message>
+    <message>
+        <source>State l&amp;ater:</source>
+        <translation>Estado despué&amp;s:</translation>
+    </message>
+    <message>
+        <source>There is nothing to compare yet.</source>
+        <translation>Todavía no hay nada que comparar.</translation>
+    </message>
+    <message>
+        <source>the listing as it is</source>
+        <translation>la lista tal como está</translation>
+    </message>
+    <message>
+        <source>the folder as it is now</source>
+        <translation>la carpeta tal como está ahora</translation>
+    </message>
+    <message>
+        <source>Stopped. What has changed is only known at the end.</source>
+        <translation>Detenido. Lo que ha cambiado solo se sabe al final.</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Comparando</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 rows are shown.</source>
+        <translation>Solo se muestran las primeras %1 de %2 filas.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

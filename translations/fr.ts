@@ -4016,6 +4016,178 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>Files are the same that have the same name, whatever its case, and the same size to the byte. With --content, those in own folders that are there now are read, too, and are not the same where they hold something else; a file that is not at hand stays with the first of its group. The groups that waste most space come first, each with a line for every place. Folders that are equal as a whole, with all that is in them, are one group, and their files are not listed again. Their own names may differ.</source>
         <translation>Sont les mêmes les fichiers qui ont le même nom, majuscules ou non, et la même taille à l’octet près. Avec --content, ceux des dossiers personnels qui sont là maintenant sont lus aussi, et ne sont pas les mêmes si leur contenu diffère&#xa0;; un fichier absent reste avec le premier de son groupe. Les groupes qui gaspillent le plus de place viennent en premier, chacun avec une ligne par endroit. Les dossiers égaux en entier, avec tout leur contenu, forment un groupe, et leurs fichiers ne sont pas énumérés de nouveau. Leurs propres noms peuvent différer.</translation>
     </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>Co&amp;mparer...</translation>
+    </message>
+    <message>
+        <source>One of the two is no listing, since it is not plain text.</source>
+        <translation>L’une des deux n’est pas une liste, car ce n’est pas du texte brut.</translation>
+    </message>
+    <message>
+        <source>Left out, since they could not be read: %1</source>
+        <translation>Laissés de côté, car illisibles&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1 ajouté(s)</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 supprimé(s)</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>%1 changé(s)</translation>
+    </message>
+    <message>
+        <source>%1 moved</source>
+        <translation>%1 déplacé(s)</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>ajouté</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>supprimé</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>changé</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>déplacé</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Changement</translation>
+    </message>
+    <message>
+        <source>Moved from</source>
+        <translation>Déplacé de</translation>
+    </message>
+    <message>
+        <source>Size earlier</source>
+        <translation>Taille avant</translation>
+    </message>
+    <message>
+        <source>Date earlier</source>
+        <translation>Date avant</translation>
+    </message>
+    <message>
+        <source>Size later</source>
+        <translation>Taille après</translation>
+    </message>
+    <message>
+        <source>Date later</source>
+        <translation>Date après</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Tous les changements</translation>
+    </message>
+    <message>
+        <source>What was added</source>
+        <translation>Ce qui a été ajouté</translation>
+    </message>
+    <message>
+        <source>What was removed</source>
+        <translation>Ce qui a été supprimé</translation>
+    </message>
+    <message>
+        <source>What has changed</source>
+        <translation>Ce qui a changé</translation>
+    </message>
+    <message>
+        <source>What was moved</source>
+        <translation>Ce qui a été déplacé</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Comparer</translation>
+    </message>
+    <message>
+        <source>%1 (incomplete)</source>
+        <translation>%1 (incomplète)</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparer</translation>
+    </message>
+    <message>
+        <source>What came, went, changed and was moved from the earlier to the later one. Nothing is deleted or changed.</source>
+        <translation>Ce qui a été ajouté, supprimé, changé et déplacé de l’état antérieur à l’état ultérieur. Rien n’est effacé ni changé.</translation>
+    </message>
+    <message>
+        <source>What is compared: the earlier side</source>
+        <translation>Ce qui est comparé&#xa0;: le côté antérieur</translation>
+    </message>
+    <message>
+        <source>Which state of the earlier side</source>
+        <translation>Quel état du côté antérieur</translation>
+    </message>
+    <message>
+        <source>What is compared: the later side</source>
+        <translation>Ce qui est comparé&#xa0;: le côté ultérieur</translation>
+    </message>
+    <message>
+        <source>Which state of the later side</source>
+        <translation>Quel état du côté ultérieur</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Changements</translation>
+    </message>
+    <message>
+        <source>What can be chosen</source>
+        <translation>Ce qui peut être choisi</translation>
+    </message>
+    <message>
+        <source>&amp;Earlier:</source>
+        <translation>A&amp;vant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>State ea&amp;rlier:</source>
+        <translation>&amp;État avant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Later:</source>
+        <translation>A&amp;près&#xa0;:</translation>
+    </message>
+    <message>
+        <source>State l&amp;ater:</source>
+        <translation>Éta&amp;t après&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There is nothing to compare yet.</source>
+        <translation>Il n’y a encore rien à comparer.</translation>
+    </message>
+    <message>
+        <source>the listing as it is</source>
+        <translation>la liste telle qu’elle est</translation>
+    </message>
+    <message>
+        <source>the folder as it is now</source>
+        <translation>le dossier tel qu’il est maintenant</translation>
+    </message>
+    <message>
+        <source>Stopped. What has changed is only known at the end.</source>
+        <translation>Arrêté. Ce qui a changé n’est connu qu’à la fin.</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Comparaison en cours</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 rows are shown.</source>
+        <translation>Seules les %1 premières lignes sur %2 sont affichées.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -151,6 +151,7 @@ void SearchForm::connectMenus() {
   handle(menus_.ListingHistory, Texts::tr("showing the listing history"),
          [this] { windows_.ListingHistory_Click(); });
   handle(menus_.Copies, Texts::tr("looking for copies"), [this] { windows_.Copies_Click(); });
+  handle(menus_.Compare, Texts::tr("comparing"), [this] { windows_.Compare_Click(); });
   handle(menus_.Import, Texts::tr("importing lists"), [this] { windows_.Import_Click(); });
   handle(menus_.ExportHits, Texts::tr("exporting hits"), [this] { export_.ExportHits_Click(); });
   handle(hitActions_.itemMenu().ExportSelected, Texts::tr("exporting hits"),

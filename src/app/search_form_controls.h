@@ -54,6 +54,7 @@ struct SearchFormMenus {
   QAction* ReScan;
   QAction* ListingHistory;
   QAction* Copies;
+  QAction* Compare;
   QAction* Import;
   QAction* ExportHits;
   QAction* OptionsMenu;

@@ -101,7 +101,8 @@ void SearchFormWindows::OptionsMenu_Click() {
 
 void SearchFormWindows::ListingHistory_Click() {
   const ListingHistory history(sourceEditing_.state.LocalFolder);
-  HistoryWindow window(history, locale_, restoreListing_, &owner_);
+  const auto compare = [this](const QString& listing, int number) { compareWith(listing, number); };
+  HistoryWindow window(history, locale_, restoreListing_, compare, &owner_);
   history_ = &window;
   window.exec();
 }
@@ -109,6 +110,20 @@ void SearchFormWindows::ListingHistory_Click() {
 void SearchFormWindows::Copies_Click() {
   CopiesWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_}, &owner_);
   copies_ = &window;
+  window.exec();
+}
+
+void SearchFormWindows::Compare_Click() {
+  CompareWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_}, &owner_);
+  compare_ = &window;
+  window.exec();
+}
+
+/// Over the window that shows the versions.
+void SearchFormWindows::compareWith(const QString& listing, int number) {
+  CompareWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_}, history_);
+  window.chooseVersion(listing, number);
+  compare_ = &window;
   window.exec();
 }
 
@@ -161,6 +176,8 @@ void SearchFormWindows::unloadDialogs() {
 }
 
 void SearchFormWindows::unloadCatalogueWindows() {
+  // It may stand over the history.
+  if (compare_) compare_->reject();
   if (history_) history_->reject();
   if (copies_) copies_->reject();
   if (import_) import_->reject();

@@ -3,6 +3,7 @@
 
 #include "app/search_form_controls.h"
 #include "app/search_form_help.h"
+#include "catalogue/compare_window.h"
 #include "catalogue/copies_window.h"
 #include "catalogue/import/import_window.h"
 #include "editors/list_options.h"
@@ -59,6 +60,8 @@ class SearchFormWindows {
   void ListingHistory_Click();
   /// Shows which files are there more than once, and which on one volume only.
   void Copies_Click();
+  /// Shows what differs between two listings, versions or folders.
+  void Compare_Click();
   /// Turns lists of other programs into listings.
   void Import_Click();
   void OptionsMenu_Click();
@@ -83,12 +86,13 @@ class SearchFormWindows {
   void unloadBrowser();
   /// The about window, the options and the source editor, in this order.
   void unloadDialogs();
-  /// The windows about listings: their history, copies, import.
+  /// The windows about listings: comparison, history, copies, import.
   void unloadCatalogueWindows();
 
  private:
   void showSources(LocalLoc& dialog);
   void showHelp(const QString& pageName);
+  void compareWith(const QString& listing, int number);
 
   const SearchFormMenus& menus_;
   QWidget& owner_;
@@ -105,6 +109,7 @@ class SearchFormWindows {
   QPointer<ListOptions> options_;
   QPointer<HistoryWindow> history_;
   QPointer<CopiesWindow> copies_;
+  QPointer<CompareWindow> compare_;
   QPointer<ImportWindow> import_;
   QPointer<frmSplash> splash_;
   ImagePreview preview_;

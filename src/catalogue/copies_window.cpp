@@ -2,17 +2,14 @@
 
 #include "catalogue/job_controls.h"
 #include "catalogue/sum_texts.h"
-#include "platform/screen_room.h"
 #include "platform/text_direction.h"
 #include "search/match/search_query.h"
 #include "texts/texts.h"
 
 #include <QAbstractItemView>
-#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -26,11 +23,9 @@ namespace {
 
 using SumBy = CopyWish::SumBy;
 
-constexpr int kWidthInCharacters = 130;
-constexpr int kHeightInLines = 30;
+constexpr int kCharactersOfCopies = 130;
 constexpr int kMatchCharacters = 5;
-constexpr int kWidestColumnCharacters = 40;
-constexpr int kLeastListLines = 3;
+constexpr int kFolderCharacters = 30;
 
 /// What can be shown, in the order of the box.
 struct Choice {
@@ -51,21 +46,6 @@ QString findCaption() {
   return Texts::tr("&Find");
 }
 
-QTreeView* makeList(QAbstractItemModel* rows) {
-  auto* list = new QTreeView;
-  list->setModel(rows);
-  list->setUniformRowHeights(true);
-  list->setAllColumnsShowFocus(true);
-  list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  list->setTabKeyNavigation(false);
-  list->setMinimumHeight(list->fontMetrics().lineSpacing() * kLeastListLines);
-  list->header()->setSectionsMovable(false);
-  list->header()->setSortIndicatorClearable(true);
-  list->header()->setSortIndicator(-1, Qt::AscendingOrder);
-  list->setSortingEnabled(true);
-  return list;
-}
-
 bool isPlace(const QModelIndex& index) {
   return !index.model()->hasChildren(index.siblingAtColumn(0));
 }
@@ -83,7 +63,7 @@ CopiesWindow::CopiesWindow(CopiesWindowParts parts, QWidget* owner)
       content_(new QCheckBox(Texts::tr("&Look into files at hand"))),
       find_(makeStartButton(findCaption())),
       close_(new QPushButton(Texts::tr("&Close"))),
-      list_(makeList(&rows_)),
+      list_(makeSortedTree(&rows_)),
       status_(new QLabel) {
   setObjectName(QStringLiteral("CopiesWindow"));
   setWindowTitle(Texts::tr("Copies"));
@@ -156,9 +136,7 @@ void CopiesWindow::layOut() {
   all->addWidget(buttons);
   // Only now does the window know it, and makes it the default again when another button loses the focus.
   find_->setDefault(true);
-  const QSize wanted(fontMetrics().averageCharWidth() * kWidthInCharacters,
-                     fontMetrics().lineSpacing() * kHeightInLines);
-  resize(wanted.boundedTo(largestInside(*screen())));
+  sizeForRows(*this, kCharactersOfCopies);
 }
 
 void CopiesWindow::connectControls() {
@@ -272,13 +250,11 @@ QString CopiesWindow::resultText(const CopiesJob& job) const {
 
 /// Places are not seen yet, so their columns get room for a usual folder.
 void CopiesWindow::fitColumns() {
-  const int character = list_->fontMetrics().averageCharWidth();
-  const int widest = character * kWidestColumnCharacters;
+  fitTreeColumns(*list_);
+  const int least = list_->fontMetrics().averageCharWidth() * kFolderCharacters;
   for (int section = 0; section < rows_.columnCount(); ++section) {
-    const bool isFolder = rows_.columnAt(section) == CopiesModel::Column::Folder;
-    list_->resizeColumnToContents(section);
-    const int fitting = list_->columnWidth(section) + character;
-    list_->setColumnWidth(section, std::clamp(fitting, isFolder ? widest * 3 / 4 : 0, widest));
+    if (rows_.columnAt(section) != CopiesModel::Column::Folder) continue;
+    list_->setColumnWidth(section, std::max(list_->columnWidth(section), least));
   }
 }
 
@@ -290,7 +266,7 @@ bool CopiesWindow::eventFilter(QObject* watched, QEvent* event) {
 /// Keys of the list. Enter must not go on to the default button, which would start all over.
 bool CopiesWindow::takeKey(const QKeyEvent& key) {
   if (key.matches(QKeySequence::Copy)) {
-    copyRows();
+    copySelectedRows(*list_);
     return true;
   }
   const QModelIndex current = list_->currentIndex();
@@ -309,26 +285,6 @@ void CopiesWindow::showPlace(const QModelIndex& index) {
   if (!file || parts_.showFile(*file)) return;
   status_->setText(
       Texts::tr("%1 is not there now, or its listing does not say where.").arg(file->folder + file->name));
-}
-
-/// Tabs between the columns, a line for each row, in the order of the list.
-void CopiesWindow::copyRows() const {
-  QModelIndexList selected = list_->selectionModel()->selectedRows();
-  if (selected.isEmpty()) return;
-  const auto placeOf = [](const QModelIndex& index) {
-    return index.parent().isValid() ? std::pair(index.parent().row(), index.row())
-                                    : std::pair(index.row(), -1);
-  };
-  std::ranges::sort(selected, {}, placeOf);
-  QStringList lines;
-  for (const QModelIndex& row : selected) {
-    QStringList cells;
-    for (int column = 0; column < rows_.columnCount(); ++column) {
-      cells += row.siblingAtColumn(column).data().toString();
-    }
-    lines += cells.join(u'\t');
-  }
-  QGuiApplication::clipboard()->setText(lines.join(u'\n') + u'\n');
 }
 
 void CopiesWindow::done(int result) {

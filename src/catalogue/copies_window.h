@@ -66,7 +66,6 @@ class CopiesWindow : public QDialog {
   QString resultText(const CopiesJob& job) const;
   bool takeKey(const QKeyEvent& key);
   void showPlace(const QModelIndex& index);
-  void copyRows() const;
 
   CopiesWindowParts parts_;
   CopiesModel rows_;

@@ -1,9 +1,12 @@
 // Controls of the windows that do something long in another thread.
 #pragma once
 
+#include <QAbstractItemModel>
 #include <QLabel>
 #include <QPushButton>
 #include <QString>
+#include <QTreeView>
+#include <QWidget>
 
 #include <chrono>
 
@@ -18,6 +21,21 @@ QString stopCaption();
 /// The button that starts something, as wide as stopCaption() needs too, so that nothing moves when it
 /// changes.
 QPushButton* makeStartButton(const QString& caption);
+
+/// Gives a window whose rows have so many characters its first size, inside its screen.
+void sizeForRows(QWidget& window, int characters);
+
+/// A tree for what a thread has found; it does not take the model over.
+QTreeView* makeTree(QAbstractItemModel* rows);
+/// The same, sorted by a click on a title; the third click brings the order of the model back.
+QTreeView* makeSortedTree(QAbstractItemModel* rows);
+
+/// Makes each column as wide as what is seen of it, and none wider than is good for the others.
+void fitTreeColumns(QTreeView& tree);
+
+/// Puts the selected rows on the clipboard: tabs between the columns, a line for each row, in the order of
+/// the tree.
+void copySelectedRows(const QTreeView& tree);
 
 /// A caption whose letter leads to the control.
 QLabel* captionOf(QWidget* control, const QString& text);

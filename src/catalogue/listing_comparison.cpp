@@ -268,4 +268,22 @@ void ListingComparison::sumUp() {
   }
 }
 
+std::vector<FolderChanges> changesOfFolders(const ListingComparison& comparison) {
+  std::vector<FolderChanges> folders;
+  std::string before;
+  for (const FileChange& change : comparison.changes()) {
+    const ComparedFile& file = comparison.shownFile(change);
+    // The same folder may be in the trees of both listings.
+    const std::string path = comparison.shownPath(change);
+    if (folders.empty() || path != before) {
+      const auto first = static_cast<std::size_t>(&change - comparison.changes().data());
+      folders.push_back({&comparison.shownTree(change), file.folder, first});
+    }
+    before = path;
+    ++folders.back().count;
+    folders.back().sums[static_cast<std::size_t>(change.kind)].add(std::max<std::int64_t>(file.size, 0));
+  }
+  return folders;
+}
+
 }  // namespace quorvin

@@ -89,4 +89,18 @@ class ListingComparison {
   FileSum same_;
 };
 
+/// Changes of the files that are right in one folder.
+struct FolderChanges {
+  const FolderTree* tree = nullptr;
+  /// The folder in which the files are, or were if they are gone.
+  std::uint32_t folder = 0;
+  /// Where they are in ListingComparison::changes(), and how many.
+  std::size_t first = 0;
+  std::size_t count = 0;
+  std::array<FileSum, 4> sums{};
+};
+
+/// The sums of each folder in which something has changed, in the order of the changes.
+std::vector<FolderChanges> changesOfFolders(const ListingComparison& comparison);
+
 }  // namespace quorvin

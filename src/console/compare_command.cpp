@@ -1,6 +1,5 @@
 // "compare": what differs between two listings.
-#include "catalogue/listing_comparison.h"
-#include "catalogue/sum_texts.h"
+#include "catalogue/compare_job.h"
 #include "console/commands.h"
 #include "console/compare_rows.h"
 #include "console/compared_sources.h"
@@ -87,15 +86,9 @@ class Comparing {
 
   void report(const ListingComparison& comparison) const {
     if (request_.isQuiet) return;
-    if (comparison.rule().belowTop) {
-      printErrorLog(Texts::tr("Compared below %1 and %2, since they have no folder in common")
-                        .arg(QString::fromStdString(comparison.before().top()),
-                             QString::fromStdString(comparison.after().top())));
-    }
-    const auto sum = [&](ChangeKind kind) { return sumText(comparison.sum(kind), locale_); };
-    printErrorLog(Texts::tr("Added: %1. Removed: %2. Changed: %3. Moved: %4. The same: %5")
-                      .arg(sum(ChangeKind::Added), sum(ChangeKind::Removed), sum(ChangeKind::Changed),
-                           sum(ChangeKind::Moved), sumText(comparison.same(), locale_)));
+    const QString tops = topFoldersText(comparison);
+    if (!tops.isEmpty()) printErrorLog(tops);
+    printErrorLog(changeSumsText(comparison, locale_));
   }
 
   const CompareRequest& request_;

@@ -159,20 +159,4 @@ std::string CompareRows::factsOf(const ComparedFile& file) const {
   return facts.join(QStringLiteral(", ")).toStdString();
 }
 
-std::vector<FolderChanges> changesOfFolders(const ListingComparison& comparison) {
-  std::vector<FolderChanges> folders;
-  std::string before;
-  for (const FileChange& change : comparison.changes()) {
-    const ComparedFile& file = comparison.shownFile(change);
-    // The same folder may be in the trees of both listings.
-    const std::string path = comparison.shownPath(change);
-    if (folders.empty() || path != before) {
-      folders.push_back({&comparison.shownTree(change), file.folder, {}});
-    }
-    before = path;
-    folders.back().sums[numberOf(change.kind)].add(std::max<std::int64_t>(file.size, 0));
-  }
-  return folders;
-}
-
 }  // namespace quorvin

@@ -10,14 +10,6 @@
 
 namespace quorvin {
 
-/// Changes of the files that are right in one folder.
-struct FolderChanges {
-  const FolderTree* tree = nullptr;
-  /// The folder in which the files are, or were if they are gone.
-  std::uint32_t folder = 0;
-  std::array<FileSum, 4> sums{};
-};
-
 /// Makes rows of changes. All are appended to a text, UTF-8. In text a row starts with "+" for what was
 /// added,
 /// "-" for what was removed, "*" for what has changed and ">" for what was moved.
@@ -53,8 +45,5 @@ class CompareRows {
   /// Only where one of the listings has more than one volume does a line say which.
   bool withVolume_;
 };
-
-/// The sums of each folder in which something has changed, in the order of the changes.
-std::vector<FolderChanges> changesOfFolders(const ListingComparison& comparison);
 
 }  // namespace quorvin

@@ -1,8 +1,8 @@
 #include "console/compared_sources.h"
 
+#include "catalogue/compared_place.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
-#include "files/file_reader.h"
 #include "texts/texts.h"
 
 #include <QDateTime>
@@ -17,13 +17,6 @@ namespace {
 
 /// In the listing itself, which counts as its newest version.
 constexpr int kPresent = 0;
-
-ListingOpener openerOfFile(const QString& path) {
-  return [path] {
-    const auto file = std::make_shared<SequentialFile>(path);
-    return [file](std::span<char> buffer) { return file->read(buffer); };
-  };
-}
 
 RuntimeFault notFound(const QString& sentence) {
   return RuntimeFault(FaultNumber::FileNotFound, sentence);
@@ -50,7 +43,8 @@ bool ComparedSources::find() {
   if (asksForVersion()) {
     const QString listing = historyOf(request_.before);
     before_ = openerOfVersion(listing);
-    after_ = request_.after.isEmpty() ? openerOfFile(state_.LocalFolder + listing) : openerOf(request_.after);
+    after_ =
+        request_.after.isEmpty() ? openerOfListing(state_.LocalFolder + listing) : openerOf(request_.after);
   } else {
     before_ = openerOf(request_.before);
     after_ = openerOf(request_.after);
@@ -72,21 +66,18 @@ QString ComparedSources::historyOf(const QString& name) const {
 ListingOpener ComparedSources::openerOf(const QString& name) {
   const QFileInfo info(name);
   if (info.isDir()) return openerOfFolder(name);
-  if (info.exists()) return openerOfFile(name);
+  if (info.exists()) return openerOfListing(name);
   for (const QString& ending : {QString(), QStringLiteral(".txt")}) {
     const QString path = state_.LocalFolder + name + ending;
-    if (QFileInfo(path).isFile()) return openerOfFile(path);
+    if (QFileInfo(path).isFile()) return openerOfListing(path);
   }
   throw notFound(Texts::tr("there is neither a listing nor a folder %1").arg(name));
 }
 
 ListingOpener ComparedSources::openerOfVersion(const QString& listing) const {
   const int number = versionToShow(listing);
-  if (number == kPresent) return openerOfFile(state_.LocalFolder + listing);
-  return [this, listing, number] {
-    const std::shared_ptr<ListingBytes> text = history_.text(listing, number);
-    return [text](std::span<char> buffer) { return text->read(buffer); };
-  };
+  if (number == kPresent) return openerOfListing(state_.LocalFolder + listing);
+  return quorvin::openerOfVersion(history_, listing, number);
 }
 
 int ComparedSources::versionToShow(const QString& listing) const {
@@ -124,7 +115,7 @@ ListingOpener ComparedSources::openerOfFolder(const QString& path) {
   status_ = std::max(status_, outcome.status);
   areListed_ = areListed_ && !outcome.hasFailed;
   if (!outcome.hasFailed) listing.finish();
-  return openerOfFile(listing.path());
+  return openerOfListing(listing.path());
 }
 
 }  // namespace quorvin

@@ -60,11 +60,12 @@ QString dateOf(const ListingVersion& version, const QLocale& locale) {
 }  // namespace
 
 HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& locale, Restore restore,
-                             QWidget* owner)
+                             Compare compare, QWidget* owner)
     : QDialog(owner),
       history_(history),
       locale_(locale),
       restore_(std::move(restore)),
+      compare_(std::move(compare)),
       listing_(new QComboBox),
       present_(new QLabel),
       versions_(makeVersions()) {
@@ -83,6 +84,9 @@ HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& local
   restoreButton_ = buttons->addButton(Texts::tr("&Restore"), QDialogButtonBox::ActionRole);
   restoreButton_->setObjectName(QStringLiteral("Restore"));
   restoreButton_->setAutoDefault(false);
+  compareButton_ = buttons->addButton(Texts::tr("Co&mpare..."), QDialogButtonBox::ActionRole);
+  compareButton_->setObjectName(QStringLiteral("Compare"));
+  compareButton_->setAutoDefault(false);
   QPushButton* close = buttons->addButton(Texts::tr("&Close"), QDialogButtonBox::RejectRole);
   close->setObjectName(QStringLiteral("close"));
   close->setDefault(true);
@@ -100,8 +104,9 @@ HistoryWindow::HistoryWindow(const ListingHistory& history, const QLocale& local
   resize(wanted.boundedTo(largestInside(*screen())));
 
   connect(listing_, &QComboBox::currentIndexChanged, this, &HistoryWindow::showVersions);
-  connect(versions_, &QTreeWidget::itemSelectionChanged, this,
-          [this] { restoreButton_->setEnabled(selectedNumber() > 0); });
+  connect(versions_, &QTreeWidget::itemSelectionChanged, this, [this] { allowUse(selectedNumber() > 0); });
+  connect(compareButton_, &QPushButton::clicked, this,
+          [this] { compare_(listing_->currentText(), selectedNumber()); });
   connect(restoreButton_, &QPushButton::clicked, this, &HistoryWindow::Restore_Click);
   connect(close, &QPushButton::clicked, this, &HistoryWindow::reject);
   showListings();
@@ -124,7 +129,7 @@ void HistoryWindow::showListings() {
 
 void HistoryWindow::showVersions() {
   versions_->clear();
-  restoreButton_->setEnabled(false);
+  allowUse(false);
   const QString listing = listing_->currentText();
   showPresent(listing);
   if (listing.isEmpty()) return;
@@ -193,10 +198,15 @@ void HistoryWindow::Restore_Click() {
 
 /// A restore may have to wait for something else; meanwhile the window can only be closed.
 void HistoryWindow::allowChoice(bool allowed) {
-  for (QWidget* widget : {static_cast<QWidget*>(listing_), static_cast<QWidget*>(versions_),
-                          static_cast<QWidget*>(restoreButton_)}) {
-    widget->setEnabled(allowed);
-  }
+  listing_->setEnabled(allowed);
+  versions_->setEnabled(allowed);
+  allowUse(allowed);
+}
+
+/// Whether something can be done with what is selected.
+void HistoryWindow::allowUse(bool allowed) {
+  restoreButton_->setEnabled(allowed);
+  compareButton_->setEnabled(allowed);
 }
 
 }  // namespace quorvin

@@ -17,7 +17,7 @@ namespace quorvin {
 
 /// The window `ListingHistory`: the listings that have a history, the listing as it is now, and its versions
 /// with date, entries, size and whether they are complete. `Restore` puts the selected one in the listing's
-/// place.
+/// place, `Compare` shows what has changed since.
 class HistoryWindow : public QDialog {
   Q_OBJECT
 
@@ -26,8 +26,12 @@ class HistoryWindow : public QDialog {
   /// the message has been shown.
   using Restore = std::function<void(const QString& listing, int number, std::function<void()> ended)>;
 
+  /// Shows what has changed since a version.
+  using Compare = std::function<void(const QString& listing, int number)>;
+
   /// `history` must outlive the window.
-  HistoryWindow(const ListingHistory& history, const QLocale& locale, Restore restore, QWidget* owner);
+  HistoryWindow(const ListingHistory& history, const QLocale& locale, Restore restore, Compare compare,
+                QWidget* owner);
 
  private:
   void showListings();
@@ -36,16 +40,19 @@ class HistoryWindow : public QDialog {
   void showPresent(const QString& listing);
   void Restore_Click();
   void allowChoice(bool allowed);
+  void allowUse(bool allowed);
   int selectedNumber() const;
   QString textOf(const ListingVersion& version) const;
 
   const ListingHistory& history_;
   QLocale locale_;
   Restore restore_;
+  Compare compare_;
   QComboBox* listing_;
   QLabel* present_;
   QTreeWidget* versions_;
   QPushButton* restoreButton_;
+  QPushButton* compareButton_;
 };
 
 }  // namespace quorvin

@@ -110,7 +110,8 @@ QStringList faultsOf(const std::vector<Reading>& readings) {
     const QString fault = faultOf(reading);
     if (!fault.isEmpty()) faults.append(asLine(reading) + u' ' + fault);
     if (!isControl(reading)) continue;
-    const QString read = QString::number(reading.role) + reading.name;
+    const QString label = reading.role == QAccessible::ComboBox ? reading.label : QString();
+    const QString read = QString::number(reading.role) + label + reading.name;
     if (seen.contains(read)) faults.append(asLine(reading) + QStringLiteral(" is read like another control"));
     seen.insert(read);
   }

@@ -4,6 +4,7 @@
 #include "editors/dialog_driving.h"
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"
+#include "gui/tree_texts.h"
 #include "support/waiting_threads.h"
 
 #include <QClipboard>
@@ -35,22 +36,9 @@ bool isWorking(const CopiesWindow& window) {
   return findButton(window)->text() == QStringLiteral("S&top");
 }
 
-void addRows(const QAbstractItemModel& model, const QModelIndex& parent, std::string& text) {
-  for (int row = 0; row < model.rowCount(parent); ++row) {
-    if (parent.isValid()) text += "  ";
-    for (int column = 0; column < model.columnCount(); ++column) {
-      if (column > 0) text += '|';
-      text += model.index(row, column, parent).data().toString().toStdString();
-    }
-    text += '\n';
-    addRows(model, model.index(row, 0, parent), text);
-  }
-}
 /// A line for each row, with its places below it.
 std::string rowsOf(const CopiesWindow& window) {
-  std::string text;
-  addRows(*listOf(window)->model(), {}, text);
-  return text;
+  return textsOfTree(*listOf(window)->model());
 }
 
 void waitForResult(const CopiesWindow& window) {

@@ -120,7 +120,7 @@ TEST_F(ShownHistory, TabGoesFromTheListingsToTheVersionsAndTheButtons) {
   form();
   inDialog<HistoryWindow>([this] { form().menus().ListingHistory->trigger(); },
                           [](HistoryWindow&) {
-                            EXPECT_EQ(tabStops().toStdString(), "Versions Restore close Listing");
+                            EXPECT_EQ(tabStops().toStdString(), "Versions Restore Compare close Listing");
                             press(Qt::Key_Escape);
                           });
 }

@@ -57,9 +57,10 @@ TEST_F(MenuKeys, ArrowsReachEveryItemOfTheFileMenu) {
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 1); }), QStringLiteral("Offline Search List files"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 3); }), QStringLiteral("Listing History"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 4); }), QStringLiteral("Copies"));
-  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 5); }), QStringLiteral("Import"));
-  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 7); }), QStringLiteral("Options"));
-  choose(Qt::Key_F, 8);
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 5); }), QStringLiteral("Compare"));
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 6); }), QStringLiteral("Import"));
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 8); }), QStringLiteral("Options"));
+  choose(Qt::Key_F, 9);
   EXPECT_FALSE(form().isVisible());
 }
 
@@ -76,6 +77,7 @@ TEST_F(MenuKeys, LettersReachTheItemsThatHaveOne) {
             QStringLiteral("Local File Search Locations"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_H); }), QStringLiteral("Listing History"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_C); }), QStringLiteral("Copies"));
+  EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_M); }), QStringLiteral("Compare"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_I); }), QStringLiteral("Import"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_O); }), QStringLiteral("Options"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_P, Qt::Key_G); }),

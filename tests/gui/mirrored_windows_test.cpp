@@ -63,7 +63,7 @@ TEST_F(MirroredWindows, SizesOfEarlierVersionsStayInFrontOfTheirUnits) {
   const QString made = folder_.writeFile(QStringLiteral("made"), listingOf("MUSIC", 31, "song"));
   ListingHistory history(folder_.path());
   ASSERT_EQ(history.keep(QStringLiteral("Music.txt"), made, true).fault, QString());
-  HistoryWindow window(history, QLocale::c(), {}, nullptr);
+  HistoryWindow window(history, QLocale::c(), {}, {}, nullptr);
   const auto* versions = window.findChild<QTreeWidget*>(QStringLiteral("Versions"));
   ASSERT_EQ(versions->topLevelItemCount(), 1);
   const QString size = versions->topLevelItem(0)->text(2);

@@ -126,6 +126,7 @@ TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
                                                  "ReScan=Rescan Local Search Folders\n"
                                                  "ListingHistory=Listing &History...\n"
                                                  "Copies=&Copies...\n"
+                                                 "Compare=Co&mpare...\n"
                                                  "Import=&Import...\n"
                                                  "ExportHits=&Export Hits...\n"
                                                  "OptionsMenu=&Options\n"
