@@ -1,8 +1,9 @@
-// A sink for what goes over whole listings.
+// For what goes over whole listings.
 #pragma once
 
 #include "catalogue/listed_files.h"
 #include "search/hit_sink.h"
+#include "search/segment/segment_store.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -10,6 +11,13 @@
 #include <span>
 
 namespace quorvin {
+
+/// For going over listings twice: between the two times nothing has to stay in memory.
+inline SegmentStore::Options storeForTwoReadings() {
+  SegmentStore::Options options = SegmentStore::defaultOptions(SegmentUse::Repeated);
+  options.memoryBudget = 0;
+  return options;
+}
 
 /// Takes all entries of listings, block by block. The search must be one that finds every entry.
 class EveryEntry : public HitSink {

@@ -1,7 +1,5 @@
 #include "catalogue/fetch/fetch_finder.h"
 
-#include "search/segment/segment_store.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -17,17 +15,10 @@ class NoMessages : public MessageBoxes {
   FaultAnswer askAbortRetryIgnore(const QString&) override { return FaultAnswer::Ignore; }
 };
 
-/// Nothing has to stay in memory between the two runs.
-SegmentStore::Options optionsOfStore() {
-  SegmentStore::Options options = SegmentStore::defaultOptions(SegmentUse::Repeated);
-  options.memoryBudget = 0;
-  return options;
-}
-
 }  // namespace
 
 FetchFinder::FetchFinder(Parts parts) : parts_(std::move(parts)) {
-  if (parts_.useCache) segments_.emplace(optionsOfStore());
+  if (parts_.useCache) segments_.emplace(storeForTwoReadings());
 }
 
 bool FetchFinder::find(const std::optional<Words>& words, const std::vector<QString>& listings) {

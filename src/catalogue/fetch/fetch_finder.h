@@ -4,6 +4,7 @@
 #include "catalogue/fetch/wanted_files.h"
 #include "platform/message_box.h"
 #include "search/search_run.h"
+#include "search/segment/segment_store.h"
 #include "state/program_state.h"
 
 #include <QLocale>
