@@ -3559,14 +3559,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Eine Liste wurde geändert, während sie gelesen wurde. Bitte noch einmal versuchen</translation>
     </message>
     <message>
-        <source>find and copies: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find und copies: es gab Treffer. compare: es gibt keinen Unterschied. Sonst: alles wurde getan.</translation>
-    </message>
-    <message>
-        <source>find and copies: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find und copies: es gab keine. compare: es gibt Unterschiede. history: es gibt keine frühere Version.</translation>
-    </message>
-    <message>
         <source>one of the two is no listing, since it is not plain text</source>
         <translation>eine der beiden ist keine Liste, da sie kein reiner Text ist</translation>
     </message>
@@ -3645,10 +3637,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>compare needs a listing or a folder</source>
         <translation>compare braucht eine Liste oder einen Ordner</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, index, import, refresh, sources, history and cache</source>
-        <translation>die Befehle sind find, copies, compare, index, import, refresh, sources, history und cache</translation>
     </message>
     <message>
         <source>the value of --on is a day such as 2004-03-31, not &quot;%1&quot;</source>
@@ -4183,6 +4171,142 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>Comparing</source>
         <translation>Vergleicht</translation>
+    </message>
+    <message>
+        <source>find, copies and plan: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find, copies und plan: es gab Treffer. compare: es gibt keinen Unterschied. Sonst: alles wurde getan.</translation>
+    </message>
+    <message>
+        <source>find, copies and plan: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find, copies und plan: es gab keine. compare: es gibt Unterschiede. history: es gibt keine frühere Version.</translation>
+    </message>
+    <message>
+        <source>plan needs the words to find, in one argument, or - for a list</source>
+        <translation>plan braucht die gesuchten Wörter, in einem einzigen Argument, oder - für eine Liste</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache</source>
+        <translation>die Befehle sind find, copies, compare, plan, index, import, refresh, sources, history und cache</translation>
+    </message>
+    <message>
+        <source>standard input can be the list or a listing, not both</source>
+        <translation>die Standardeingabe kann die Wunschliste oder eine Liste des Katalogs sein, nicht beides</translation>
+    </message>
+    <message>
+        <source>%1 can be read once only, and a plan for words needs to read it twice</source>
+        <translation>%1 lässt sich nur einmal lesen, und ein Plan für Wörter muss es zweimal lesen</translation>
+    </message>
+    <message>
+        <source>there is nothing to copy, so no script</source>
+        <translation>es gibt nichts zu kopieren, also kein Skript</translation>
+    </message>
+    <message>
+        <source>Not found: %1</source>
+        <translation>Nicht gefunden: %1</translation>
+    </message>
+    <message>
+        <source>Volumes to insert: %1. To copy: %2</source>
+        <translation>Einzulegende Datenträger: %1. Zu kopieren: %2</translation>
+    </message>
+    <message>
+        <source>There is no way with fewer volumes</source>
+        <translation>Mit weniger Datenträgern geht es nicht</translation>
+    </message>
+    <message>
+        <source>There may be a way with fewer volumes: more than %1 have files in common, so each next one was chosen greedily, for having most of what was left</source>
+        <translation>Vielleicht geht es mit weniger Datenträgern: Mehr als %1 haben Dateien gemeinsam, deshalb wurde als nächster immer der gewählt, der am meisten vom Rest hat (gieriges Verfahren)</translation>
+    </message>
+    <message>
+        <source>Not found:</source>
+        <translation>Nicht gefunden:</translation>
+    </message>
+    <message>
+        <source>Not there: %1</source>
+        <translation>Nicht da: %1</translation>
+    </message>
+    <message>
+        <source>The folder where it is now (nothing: leave it out):</source>
+        <translation>Der Ordner, in dem er jetzt ist (nichts: auslassen):</translation>
+    </message>
+    <message>
+        <source>Nobody answers. Please save this script and start it in a terminal.</source>
+        <translation>Niemand antwortet. Bitte speichern Sie dieses Skript und starten Sie es in einem Terminal.</translation>
+    </message>
+    <message>
+        <source>None of the files is in %1.</source>
+        <translation>In %1 ist keine der Dateien.</translation>
+    </message>
+    <message>
+        <source>rsync is needed, and is not installed.</source>
+        <translation>rsync wird gebraucht und ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Not everything was copied.</source>
+        <translation>Nicht alles wurde kopiert.</translation>
+    </message>
+    <message>
+        <source>Please insert volume %1 of %2: %3. It was listed at %4; %5 to copy.</source>
+        <translation>Bitte Datenträger %1 von %2 einlegen: %3. Aufgelistet wurde er unter %4; zu kopieren: %5.</translation>
+    </message>
+    <message>
+        <source>Say which volumes to fetch for files that are wanted</source>
+        <translation>Sagen, welche Datenträger für Dateien zu holen sind</translation>
+    </message>
+    <message>
+        <source>text (default) or json</source>
+        <translation>text (Vorgabe) oder json</translation>
+    </message>
+    <message>
+        <source>Write a script that copies the files with rsync</source>
+        <translation>Ein Skript schreiben, das mit rsync kopiert</translation>
+    </message>
+    <message>
+        <source>Where that script copies them</source>
+        <translation>Wohin dieses Skript kopiert</translation>
+    </message>
+    <message>
+        <source>The fewest disks for all hits of a search</source>
+        <translation>Die wenigsten Datenträger für alle Treffer einer Suche</translation>
+    </message>
+    <message>
+        <source>A script that asks for each disk and copies; start it with: sh fetch.sh</source>
+        <translation>Ein Skript, das nach jedem Datenträger fragt und kopiert; starten mit: sh fetch.sh</translation>
+    </message>
+    <message>
+        <source>Only for some hits</source>
+        <translation>Nur für einige Treffer</translation>
+    </message>
+    <message>
+        <source>For a list, one name a line</source>
+        <translation>Für eine Wunschliste, ein Name je Zeile</translation>
+    </message>
+    <message>
+        <source>Writes the fewest volumes that hold all wanted files, in the order in which to insert them, with what to copy from each. Wanted are the hits of a search for WORDS, as find makes it; or, with - in place of WORDS, the files of a list on standard input: a line each, with JSON as find writes it, or with a name. A name alone means every file of that name.</source>
+        <translation>Schreibt die wenigsten Datenträger, die alle gewünschten Dateien enthalten, in der Reihenfolge, in der sie einzulegen sind, mit dem, was von jedem zu kopieren ist. Gewünscht sind die Treffer einer Suche nach WORDS, wie find sie macht; oder, mit - anstelle von WORDS, die Dateien einer Liste von der Standardeingabe: je eine Zeile, mit JSON, wie find es schreibt, oder mit einem Namen. Ein Name allein meint jede Datei dieses Namens.</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them, and any one will do. A file without a size of its own in the listing is the same as no other. Listings hold the first 65 characters of a name; longer names that differ only behind them count as the same.</source>
+        <translation>Gleich sind Dateien mit demselben Namen, bis auf Groß- und Kleinschreibung, und derselben Größe auf das Byte; in sie hinein sieht niemand, und jede von ihnen genügt. Eine Datei ohne eigene Größe in der Liste ist keiner anderen gleich. Listen enthalten die ersten 65 Zeichen eines Namens; längere Namen, die sich erst dahinter unterscheiden, gelten als gleich.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. What only one volume has, and what one has that another has too, is settled first. Where of the rest up to 20 volumes have files in common, all combinations are tried, and there is no way with fewer. Of more, each next one is chosen greedily, for having most of what is left; the plan says so, and there may be a way with fewer.</source>
+        <translation>Ein Datenträger ist, was eine Liste so nennt; zwei Listen haben nie denselben. Was nur ein Datenträger hat und was einer hat, das ein anderer auch hat, wird zuerst geklärt. Wo vom Rest bis zu 20 Datenträger Dateien gemeinsam haben, werden alle Kombinationen versucht, und mit weniger geht es nicht. Von mehr wird als nächster immer der gewählt, der am meisten vom Rest hat; der Plan sagt das, und vielleicht geht es mit weniger.</translation>
+    </message>
+    <message>
+        <source>With words, listings are read twice, so they cannot come from a pipe. The script is for any POSIX shell. It asks for each volume and for the folder where it is now, finds the listing&apos;s folders there, and copies into a folder for each volume. A file that is not there is told, and the others are copied.</source>
+        <translation>Mit Wörtern werden Listen zweimal gelesen, können also nicht aus einer Pipe kommen. Das Skript ist für jede POSIX-Shell. Es fragt nach jedem Datenträger und nach dem Ordner, in dem er jetzt ist, findet dort die Ordner der Liste und kopiert in einen Ordner für jeden Datenträger. Eine Datei, die nicht da ist, wird genannt, und die anderen werden kopiert.</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are text and json</source>
+        <translation>es gibt kein Format „%1“; die Formate sind text und json</translation>
+    </message>
+    <message>
+        <source>--script and --to FOLDER go together</source>
+        <translation>--script und --to ORDNER gehören zusammen</translation>
+    </message>
+    <message>
+        <source>a plan is written in a format or as a script, not as both</source>
+        <translation>ein Plan wird in einem Format oder als Skript geschrieben, nicht als beides</translation>
     </message>
     <message>
         <source>Only the first %1 of %2 rows are shown.</source>

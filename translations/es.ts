@@ -3559,14 +3559,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>Una lista se modificó mientras se leía. Inténtelo de nuevo</translation>
     </message>
     <message>
-        <source>find and copies: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find y copies: hubo resultados. compare: no hay diferencias. Otras: se hizo todo.</translation>
-    </message>
-    <message>
-        <source>find and copies: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find y copies: no los hubo. compare: hay diferencias. history: no hay ninguna versión anterior.</translation>
-    </message>
-    <message>
         <source>one of the two is no listing, since it is not plain text</source>
         <translation>una de las dos no es una lista, porque no es texto sin formato</translation>
     </message>
@@ -3645,10 +3637,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>compare needs a listing or a folder</source>
         <translation>compare necesita una lista o una carpeta</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, index, import, refresh, sources, history and cache</source>
-        <translation>las órdenes son find, copies, compare, index, import, refresh, sources, history y cache</translation>
     </message>
     <message>
         <source>the value of --on is a day such as 2004-03-31, not &quot;%1&quot;</source>
@@ -4183,6 +4171,142 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>Comparing</source>
         <translation>Comparando</translation>
+    </message>
+    <message>
+        <source>find, copies and plan: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find, copies y plan: hubo resultados. compare: no hay diferencias. Otras: se hizo todo.</translation>
+    </message>
+    <message>
+        <source>find, copies and plan: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find, copies y plan: no los hubo. compare: hay diferencias. history: no hay ninguna versión anterior.</translation>
+    </message>
+    <message>
+        <source>plan needs the words to find, in one argument, or - for a list</source>
+        <translation>plan necesita las palabras que se buscan, en un solo argumento, o - para una lista</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache</source>
+        <translation>las órdenes son find, copies, compare, plan, index, import, refresh, sources, history y cache</translation>
+    </message>
+    <message>
+        <source>standard input can be the list or a listing, not both</source>
+        <translation>la entrada estándar puede ser la lista de deseos o una lista del catálogo, no ambas</translation>
+    </message>
+    <message>
+        <source>%1 can be read once only, and a plan for words needs to read it twice</source>
+        <translation>%1 solo se puede leer una vez, y un plan para palabras tiene que leerlo dos veces</translation>
+    </message>
+    <message>
+        <source>there is nothing to copy, so no script</source>
+        <translation>no hay nada que copiar, así que no hay guion</translation>
+    </message>
+    <message>
+        <source>Not found: %1</source>
+        <translation>No encontrados: %1</translation>
+    </message>
+    <message>
+        <source>Volumes to insert: %1. To copy: %2</source>
+        <translation>Volúmenes por insertar: %1. Por copiar: %2</translation>
+    </message>
+    <message>
+        <source>There is no way with fewer volumes</source>
+        <translation>No se puede con menos volúmenes</translation>
+    </message>
+    <message>
+        <source>There may be a way with fewer volumes: more than %1 have files in common, so each next one was chosen greedily, for having most of what was left</source>
+        <translation>Quizá se pueda con menos volúmenes: más de %1 tienen archivos en común, así que cada vez se eligió el que más tenía de lo que faltaba (método voraz)</translation>
+    </message>
+    <message>
+        <source>Not found:</source>
+        <translation>No encontrados:</translation>
+    </message>
+    <message>
+        <source>Not there: %1</source>
+        <translation>No está: %1</translation>
+    </message>
+    <message>
+        <source>The folder where it is now (nothing: leave it out):</source>
+        <translation>La carpeta en la que está ahora (nada: omitirlo):</translation>
+    </message>
+    <message>
+        <source>Nobody answers. Please save this script and start it in a terminal.</source>
+        <translation>Nadie responde. Guarde este guion e inícielo en una terminal.</translation>
+    </message>
+    <message>
+        <source>None of the files is in %1.</source>
+        <translation>Ninguno de los archivos está en %1.</translation>
+    </message>
+    <message>
+        <source>rsync is needed, and is not installed.</source>
+        <translation>Hace falta rsync, y no está instalado.</translation>
+    </message>
+    <message>
+        <source>Not everything was copied.</source>
+        <translation>No se ha copiado todo.</translation>
+    </message>
+    <message>
+        <source>Please insert volume %1 of %2: %3. It was listed at %4; %5 to copy.</source>
+        <translation>Inserte el volumen %1 de %2: %3. Se catalogó en %4; por copiar: %5.</translation>
+    </message>
+    <message>
+        <source>Say which volumes to fetch for files that are wanted</source>
+        <translation>Decir qué volúmenes hay que traer para unos archivos</translation>
+    </message>
+    <message>
+        <source>text (default) or json</source>
+        <translation>text (predeterminado) o json</translation>
+    </message>
+    <message>
+        <source>Write a script that copies the files with rsync</source>
+        <translation>Escribir un guion que copia con rsync</translation>
+    </message>
+    <message>
+        <source>Where that script copies them</source>
+        <translation>Adónde copia ese guion</translation>
+    </message>
+    <message>
+        <source>The fewest disks for all hits of a search</source>
+        <translation>Los mínimos discos para todos los resultados de una búsqueda</translation>
+    </message>
+    <message>
+        <source>A script that asks for each disk and copies; start it with: sh fetch.sh</source>
+        <translation>Un guion que pide cada disco y copia; se inicia con: sh fetch.sh</translation>
+    </message>
+    <message>
+        <source>Only for some hits</source>
+        <translation>Solo para algunos resultados</translation>
+    </message>
+    <message>
+        <source>For a list, one name a line</source>
+        <translation>Para una lista, un nombre por línea</translation>
+    </message>
+    <message>
+        <source>Writes the fewest volumes that hold all wanted files, in the order in which to insert them, with what to copy from each. Wanted are the hits of a search for WORDS, as find makes it; or, with - in place of WORDS, the files of a list on standard input: a line each, with JSON as find writes it, or with a name. A name alone means every file of that name.</source>
+        <translation>Escribe el mínimo de volúmenes que contienen todos los archivos deseados, en el orden en que hay que insertarlos, con lo que se copia de cada uno. Se desean los resultados de una búsqueda de WORDS, como la hace find; o, con - en lugar de WORDS, los archivos de una lista de la entrada estándar: una línea cada uno, con JSON como lo escribe find, o con un nombre. Un nombre solo significa todos los archivos de ese nombre.</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them, and any one will do. A file without a size of its own in the listing is the same as no other. Listings hold the first 65 characters of a name; longer names that differ only behind them count as the same.</source>
+        <translation>Son iguales los archivos que tienen el mismo nombre, en mayúsculas o minúsculas, y el mismo tamaño hasta el último byte; nadie mira dentro de ellos, y cualquiera sirve. Un archivo sin tamaño propio en la lista no es igual a ningún otro. Las listas contienen los primeros 65 caracteres de un nombre; los nombres más largos que solo difieren después cuentan como iguales.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. What only one volume has, and what one has that another has too, is settled first. Where of the rest up to 20 volumes have files in common, all combinations are tried, and there is no way with fewer. Of more, each next one is chosen greedily, for having most of what is left; the plan says so, and there may be a way with fewer.</source>
+        <translation>Un volumen es lo que una lista llama así; dos listas nunca comparten uno. Lo que solo un volumen tiene, y lo que uno tiene y otro también, se decide primero. Donde del resto hasta 20 volúmenes tienen archivos en común, se prueban todas las combinaciones, y no se puede con menos. De más se elige cada vez el que más tiene de lo que falta; el plan lo dice, y quizá se pueda con menos.</translation>
+    </message>
+    <message>
+        <source>With words, listings are read twice, so they cannot come from a pipe. The script is for any POSIX shell. It asks for each volume and for the folder where it is now, finds the listing&apos;s folders there, and copies into a folder for each volume. A file that is not there is told, and the others are copied.</source>
+        <translation>Con palabras, las listas se leen dos veces, así que no pueden venir de una tubería. El guion es para cualquier shell POSIX. Pide cada volumen y la carpeta en la que está ahora, encuentra allí las carpetas de la lista y copia a una carpeta por volumen. Un archivo que no está se nombra, y los demás se copian.</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are text and json</source>
+        <translation>no hay ningún formato «%1»; los formatos son text y json</translation>
+    </message>
+    <message>
+        <source>--script and --to FOLDER go together</source>
+        <translation>--script y --to CARPETA van juntos</translation>
+    </message>
+    <message>
+        <source>a plan is written in a format or as a script, not as both</source>
+        <translation>un plan se escribe en un formato o como guion, no de ambas maneras</translation>
     </message>
     <message>
         <source>Only the first %1 of %2 rows are shown.</source>

@@ -3559,14 +3559,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>Une liste a été modifiée pendant sa lecture. Veuillez réessayer</translation>
     </message>
     <message>
-        <source>find and copies: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find et copies : il y avait des résultats. compare : aucune différence. Autres : tout a été fait.</translation>
-    </message>
-    <message>
-        <source>find and copies: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find et copies : il n&apos;y en avait pas. compare : il y a des différences. history : il n&apos;y a pas de version antérieure.</translation>
-    </message>
-    <message>
         <source>one of the two is no listing, since it is not plain text</source>
         <translation>l&apos;une des deux n&apos;est pas une liste, car ce n&apos;est pas du texte brut</translation>
     </message>
@@ -3645,10 +3637,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>compare needs a listing or a folder</source>
         <translation>compare a besoin d&apos;une liste ou d&apos;un dossier</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, index, import, refresh, sources, history and cache</source>
-        <translation>les commandes sont find, copies, compare, index, import, refresh, sources, history et cache</translation>
     </message>
     <message>
         <source>the value of --on is a day such as 2004-03-31, not &quot;%1&quot;</source>
@@ -4183,6 +4171,142 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>Comparing</source>
         <translation>Comparaison en cours</translation>
+    </message>
+    <message>
+        <source>find, copies and plan: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find, copies et plan : il y avait des résultats. compare : aucune différence. Autres : tout a été fait.</translation>
+    </message>
+    <message>
+        <source>find, copies and plan: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find, copies et plan : il n’y en avait pas. compare : il y a des différences. history : il n’y a pas de version antérieure.</translation>
+    </message>
+    <message>
+        <source>plan needs the words to find, in one argument, or - for a list</source>
+        <translation>plan a besoin des mots à trouver, en un seul argument, ou de - pour une liste</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache</source>
+        <translation>les commandes sont find, copies, compare, plan, index, import, refresh, sources, history et cache</translation>
+    </message>
+    <message>
+        <source>standard input can be the list or a listing, not both</source>
+        <translation>l’entrée standard peut être la liste des fichiers voulus ou une liste du catalogue, pas les deux</translation>
+    </message>
+    <message>
+        <source>%1 can be read once only, and a plan for words needs to read it twice</source>
+        <translation>%1 ne peut être lu qu’une fois, et un plan pour des mots doit le lire deux fois</translation>
+    </message>
+    <message>
+        <source>there is nothing to copy, so no script</source>
+        <translation>il n’y a rien à copier, donc pas de script</translation>
+    </message>
+    <message>
+        <source>Not found: %1</source>
+        <translation>Introuvable&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Volumes to insert: %1. To copy: %2</source>
+        <translation>Volumes à insérer&#xa0;: %1. À copier&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>There is no way with fewer volumes</source>
+        <translation>Moins de volumes ne suffisent pas</translation>
+    </message>
+    <message>
+        <source>There may be a way with fewer volumes: more than %1 have files in common, so each next one was chosen greedily, for having most of what was left</source>
+        <translation>Moins de volumes suffiraient peut-être&#xa0;: plus de %1 ont des fichiers en commun, et le suivant a donc toujours été celui qui avait le plus de ce qui restait (méthode gloutonne)</translation>
+    </message>
+    <message>
+        <source>Not found:</source>
+        <translation>Introuvables&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Not there: %1</source>
+        <translation>Absent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The folder where it is now (nothing: leave it out):</source>
+        <translation>Le dossier où il est maintenant (rien&#xa0;: le laisser de côté)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Nobody answers. Please save this script and start it in a terminal.</source>
+        <translation>Personne ne répond. Veuillez enregistrer ce script et le lancer dans un terminal.</translation>
+    </message>
+    <message>
+        <source>None of the files is in %1.</source>
+        <translation>Aucun des fichiers n’est dans %1.</translation>
+    </message>
+    <message>
+        <source>rsync is needed, and is not installed.</source>
+        <translation>rsync est nécessaire et n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>Not everything was copied.</source>
+        <translation>Tout n’a pas été copié.</translation>
+    </message>
+    <message>
+        <source>Please insert volume %1 of %2: %3. It was listed at %4; %5 to copy.</source>
+        <translation>Veuillez insérer le volume %1 sur %2&#xa0;: %3. Il a été listé sous %4&#xa0;; à copier&#xa0;: %5.</translation>
+    </message>
+    <message>
+        <source>Say which volumes to fetch for files that are wanted</source>
+        <translation>Dire quels volumes aller chercher pour des fichiers</translation>
+    </message>
+    <message>
+        <source>text (default) or json</source>
+        <translation>text (par défaut) ou json</translation>
+    </message>
+    <message>
+        <source>Write a script that copies the files with rsync</source>
+        <translation>Écrire un script qui copie avec rsync</translation>
+    </message>
+    <message>
+        <source>Where that script copies them</source>
+        <translation>Où ce script les copie</translation>
+    </message>
+    <message>
+        <source>The fewest disks for all hits of a search</source>
+        <translation>Le moins de disques possible pour tous les résultats d’une recherche</translation>
+    </message>
+    <message>
+        <source>A script that asks for each disk and copies; start it with: sh fetch.sh</source>
+        <translation>Un script qui demande chaque disque et copie&#xa0;; pour le lancer&#xa0;: sh fetch.sh</translation>
+    </message>
+    <message>
+        <source>Only for some hits</source>
+        <translation>Pour quelques résultats seulement</translation>
+    </message>
+    <message>
+        <source>For a list, one name a line</source>
+        <translation>Pour une liste, un nom par ligne</translation>
+    </message>
+    <message>
+        <source>Writes the fewest volumes that hold all wanted files, in the order in which to insert them, with what to copy from each. Wanted are the hits of a search for WORDS, as find makes it; or, with - in place of WORDS, the files of a list on standard input: a line each, with JSON as find writes it, or with a name. A name alone means every file of that name.</source>
+        <translation>Écrit le moins de volumes possible qui contiennent tous les fichiers voulus, dans l’ordre où les insérer, avec ce qu’il faut copier de chacun. Sont voulus les résultats d’une recherche de WORDS, comme find la fait&#xa0;; ou, avec - à la place de WORDS, les fichiers d’une liste sur l’entrée standard&#xa0;: une ligne chacun, avec du JSON comme find l’écrit, ou avec un nom. Un nom seul désigne tous les fichiers de ce nom.</translation>
+    </message>
+    <message>
+        <source>Files are the same that have the same name, whatever its case, and the same size to the byte; nobody looks into them, and any one will do. A file without a size of its own in the listing is the same as no other. Listings hold the first 65 characters of a name; longer names that differ only behind them count as the same.</source>
+        <translation>Sont les mêmes les fichiers qui ont le même nom, majuscules ou non, et la même taille à l’octet près&#xa0;; personne ne regarde dedans, et n’importe lequel convient. Un fichier sans taille propre dans la liste n’est le même qu’aucun autre. Les listes contiennent les 65 premiers caractères d’un nom&#xa0;; les noms plus longs qui ne diffèrent qu’ensuite comptent comme les mêmes.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. What only one volume has, and what one has that another has too, is settled first. Where of the rest up to 20 volumes have files in common, all combinations are tried, and there is no way with fewer. Of more, each next one is chosen greedily, for having most of what is left; the plan says so, and there may be a way with fewer.</source>
+        <translation>Un volume est ce qu’une liste nomme ainsi&#xa0;; deux listes n’en partagent jamais un. Ce qu’un seul volume a, et ce que l’un a et qu’un autre a aussi, est réglé d’abord. Là où, du reste, jusqu’à 20 volumes ont des fichiers en commun, toutes les combinaisons sont essayées, et moins de volumes ne suffisent pas. S’il y en a plus, le suivant est toujours celui qui a le plus de ce qui reste&#xa0;; le plan le dit, et moins de volumes suffiraient peut-être.</translation>
+    </message>
+    <message>
+        <source>With words, listings are read twice, so they cannot come from a pipe. The script is for any POSIX shell. It asks for each volume and for the folder where it is now, finds the listing&apos;s folders there, and copies into a folder for each volume. A file that is not there is told, and the others are copied.</source>
+        <translation>Avec des mots, les listes sont lues deux fois et ne peuvent donc pas venir d’un tube. Le script est pour tout shell POSIX. Il demande chaque volume et le dossier où il est maintenant, y trouve les dossiers de la liste et copie dans un dossier par volume. Un fichier absent est signalé, et les autres sont copiés.</translation>
+    </message>
+    <message>
+        <source>there is no format &quot;%1&quot;; the formats are text and json</source>
+        <translation>il n’y a pas de format «&#xa0;%1&#xa0;»&#xa0;; les formats sont text et json</translation>
+    </message>
+    <message>
+        <source>--script and --to FOLDER go together</source>
+        <translation>--script et --to DOSSIER vont ensemble</translation>
+    </message>
+    <message>
+        <source>a plan is written in a format or as a script, not as both</source>
+        <translation>un plan est écrit dans un format ou comme script, pas les deux</translation>
     </message>
     <message>
         <source>Only the first %1 of %2 rows are shown.</source>

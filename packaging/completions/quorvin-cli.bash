@@ -29,6 +29,7 @@ _quorvin_cli() {
       " find") command="find" ;;
       " copies") command="copies" ;;
       " compare") command="compare" ;;
+      " plan") command="plan" ;;
       " index") command="index" ;;
       " import") command="import" ;;
       " refresh") command="refresh" ;;
@@ -45,7 +46,7 @@ _quorvin_cli() {
       case "$prev" in
         --completion) _quorvin_words "bash zsh fish"; return ;;
       esac
-      _quorvin_words "find copies compare index import refresh sources history cache --version --completion --man --help"
+      _quorvin_words "find copies compare plan index import refresh sources history cache --version --completion --man --help"
       ;;
     "find")
       case "$prev" in
@@ -83,6 +84,18 @@ _quorvin_cli() {
       esac
       if [[ $cur == -* ]]; then
         _quorvin_words "--number --on --by-folder --format --header -0 --null --limit -q --quiet --help"
+        return
+      fi
+      _quorvin_files -f
+      ;;
+    "plan")
+      case "$prev" in
+        --match) _quorvin_words ""; return ;;
+        --format) _quorvin_words "text json"; return ;;
+        --to) _quorvin_files -d; return ;;
+      esac
+      if [[ $cur == -* ]]; then
+        _quorvin_words "--match --format --script --to -q --quiet --no-cache --help"
         return
       fi
       _quorvin_files -f

@@ -10,6 +10,7 @@ complete -c quorvin-cli -n '__fish_use_subcommand' -l man -d 'Write the manual p
 complete -c quorvin-cli -n '__fish_use_subcommand' -a find -d 'Find files in listings by words and a match percentage'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a copies -d 'Find copies of files, and what is on one volume only'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a compare -d 'Say what differs between listings, versions and folders'
+complete -c quorvin-cli -n '__fish_use_subcommand' -a plan -d 'Say which volumes to fetch for files that are wanted'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a index -d 'Write the listing of a folder'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a import -d 'Make listings of lists that other programs wrote'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a refresh -d 'Renew the listings of your own folders, or of those named'
@@ -55,6 +56,13 @@ complete -c quorvin-cli -n '__fish_seen_subcommand_from compare' -s 0 -l null -d
 complete -c quorvin-cli -n '__fish_seen_subcommand_from compare' -l limit -x -d 'Write no more than N of them'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from compare' -s q -l quiet -d 'Write neither sums nor progress to standard error'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from compare' -F
+complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -l match -x -d 'Hits must match more than this percentage; 50'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -l format -x -a 'text json' -d 'text (default) or json'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -l script -d 'Write a script that copies the files with rsync'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -l to -x -a '(__fish_complete_directories)' -d 'Where that script copies them'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -s q -l quiet -d 'Write neither counts nor progress to standard error'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -l no-cache -d 'Neither read nor write the search cache'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -F
 complete -c quorvin-cli -n '__fish_seen_subcommand_from index' -l label -x -d 'The volume'\''s name in the listing; default: the folder'\''s name'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from index' -l folders-only -d 'List folders only'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from index' -l output -r -F -d 'The listing'\''s file; default, and -: standard output'

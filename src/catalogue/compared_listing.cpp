@@ -1,6 +1,8 @@
 #include "catalogue/compared_listing.h"
 
+#include "catalogue/common_folder.h"
 #include "catalogue/copies.h"
+#include "catalogue/every_entry.h"
 #include "faults/runtime_fault.h"
 #include "search/listing_scan.h"
 #include "texts/texts.h"
@@ -36,33 +38,6 @@ std::uint32_t hashOf(const std::optional<EntryValues>& values) {
   const std::array<double, 2> parts{static_cast<double>(values->size), values->date + 0.0};
   return static_cast<std::uint32_t>(XXH3_64bits(parts.data(), sizeof parts));
 }
-
-/// Takes all entries of a listing, block by block.
-class EveryEntry : public HitSink {
- public:
-  void startListing(SourceKind, const QString&) override {}
-  bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override {
-    const std::uint32_t first = hits.front().entry;
-    const std::uint32_t end = hits.back().entry + 1;
-    checkPlaces(place_, end - first);
-    const std::span<const std::uint32_t> starts = segment->arrays().blockStarts.all();
-    std::uint32_t block = blockAt(starts, first);
-    for (std::uint32_t entry = first; entry < end; ++block) {
-      const std::uint32_t last = block + 1 < starts.size() ? std::min(starts[block + 1], end) : end;
-      takeBlock(*segment, block, entry, last);
-      entry = last;
-    }
-    return true;
-  }
-  void endSegment(const std::shared_ptr<const Segment>&, const std::shared_ptr<const Segment>&) override {}
-
- protected:
-  /// Entries from `first` to `end` - 1 of a block. Each is to be counted in `place_`.
-  virtual void takeBlock(const Segment& segment, std::uint32_t block, std::uint32_t first,
-                         std::uint32_t end) = 0;
-
-  std::uint32_t place_ = 0;
-};
 
 }  // namespace
 
@@ -170,10 +145,7 @@ std::vector<std::string> ComparedListing::pathsWithFiles() const {
 std::string ComparedListing::top() const {
   if (blocks_.empty()) return {};
   std::string top = folders_.path(blocks_.front().folder);
-  for (const std::string& path : pathsWithFiles()) {
-    const auto same = static_cast<std::size_t>(std::ranges::mismatch(top, path).in1 - top.begin());
-    if (same < top.size()) top.resize(top.substr(0, same).rfind('\\') + 1);
-  }
+  for (const std::string& path : pathsWithFiles()) cutToCommonFolder(top, path);
   return top;
 }
 

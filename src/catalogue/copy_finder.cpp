@@ -1,25 +1,14 @@
 #include "catalogue/copy_finder.h"
 
+#include "catalogue/every_entry.h"
 #include "catalogue/sum_texts.h"
 #include "platform/text_encoding.h"
 #include "search/match/search_query.h"
-#include "search/segment/segment_store.h"
 #include "texts/texts.h"
 
 #include <utility>
 
 namespace quorvin {
-
-namespace {
-
-/// Names are read again after the search. Until then nothing has to stay in memory.
-SegmentStore::Options storeOptions() {
-  SegmentStore::Options options = SegmentStore::defaultOptions(SegmentUse::Repeated);
-  options.memoryBudget = 0;
-  return options;
-}
-
-}  // namespace
 
 CopyFinder::CopyFinder(const CopyWish& wish, Parts parts)
     : wish_(wish), parts_(std::move(parts)), which_{wish.withEmpty} {
@@ -32,7 +21,7 @@ CopyFinder::CopyFinder(const CopyWish& wish, Parts parts)
     if (parts_.listingStarts) parts_.listingStarts(kind, path);
   };
   if (wish_.useCache) {
-    segments_.emplace(storeOptions());
+    segments_.emplace(storeForTwoReadings());
     options.segmentsOf = [this](const QString& listing) { return segmentsOf(listing); };
   }
   files_.emplace(std::move(options));

@@ -1,5 +1,6 @@
 #include "catalogue/listed_files.h"
 
+#include "catalogue/entry_sizes.h"
 #include "faults/runtime_fault.h"
 #include "search/format/listing_line.h"
 #include "texts/texts.h"
@@ -20,29 +21,6 @@ constexpr std::uint32_t kVisitsBetweenLooks = 4096;
 std::uint64_t maskOf(int bits) {
   return bits == 0 ? 0 : ~std::uint64_t{0} << (64 - bits);
 }
-
-/// The sizes of the entries from `first` to `last` - 1 of a segment.
-class Sizes {
- public:
-  Sizes(const Segment& segment, std::uint32_t first, std::uint32_t last)
-      : segment_(segment),
-        first_(first),
-        values_(segment.arrays().values.part(first, last - first)),
-        allOwn_(segment.allOwn(first, last - 1)) {}
-
-  /// Bytes; negative where the line has none of its own.
-  std::int64_t of(std::uint32_t entry) const {
-    if (!allOwn_ && segment_.valueState(entry) != ValueState::Own) return -1;
-    const CompactValues& compact = values_[entry - first_];
-    return compact.second == CompactValues::kKeptAside ? segment_.values(entry).size : compact.size;
-  }
-
- private:
-  const Segment& segment_;
-  std::uint32_t first_;
-  std::span<const CompactValues> values_;
-  bool allOwn_;
-};
 
 /// The bit of each place, for places that come in order.
 void setBit(std::vector<std::uint64_t>& bits, std::uint32_t place, bool isSet) {
@@ -170,7 +148,7 @@ void ListedFiles::readBatch(const Segment& segment, std::uint32_t base, std::uin
     batch_.blocks.push_back({folders_.addFolder(volume, folderTexts_.at(block).listed), base + entry});
     entry = end;
   }
-  const Sizes sizes(segment, first, last);
+  const EntrySizes sizes(segment, first, last);
   TextWalk names(segment.arrays().entries);
   for (std::uint32_t entry = first; entry < last; ++entry) {
     const std::int64_t size = sizes.of(entry);
@@ -266,7 +244,7 @@ SegmentStore::Segments ListedFiles::openedAgain(std::size_t listing) const {
 
 bool ListedFiles::visitSegment(const Segment& segment, const Listed& listed,
                                const std::function<void(Visited&)>& visit, const StopAsked& stop) const {
-  const Sizes sizes(segment, listed.firstPlace - listed.base, listed.endPlace - listed.base);
+  const EntrySizes sizes(segment, listed.firstPlace - listed.base, listed.endPlace - listed.base);
   Visited visited;
   visited.names_.start(segment.arrays().entries);
   auto next = std::ranges::upper_bound(blocks_, listed.firstPlace, {}, &Block::firstPlace);

@@ -211,8 +211,9 @@ CommandText cacheText() {
 
 const std::vector<CommandText>& commandTexts() {
   static const std::vector<CommandText> texts{
-      findText(),    copiesText(),     compareText(),       indexText(),       importText(),  refreshText(),
-      sourcesText(), sourcesAddText(), sourcesRemoveText(), sourcesMoveText(), historyText(), cacheText()};
+      findText(),        copiesText(),  compareText(), planText(),       indexText(),
+      importText(),      refreshText(), sourcesText(), sourcesAddText(), sourcesRemoveText(),
+      sourcesMoveText(), historyText(), cacheText()};
   return texts;
 }
 
@@ -261,12 +262,12 @@ const std::vector<SectionText>& manualSections() {
                                         "and those shown are of an earlier line. Where there are none at "
                                         "all, both keys are left out.")}}},
       {QT_TRANSLATE_NOOP("Texts", "EXIT STATUS"),
-       {{"0",
-         QT_TRANSLATE_NOOP(
-             "Texts", "find and copies: there were hits. compare: nothing differs. Others: all was done.")},
+       {{"0", QT_TRANSLATE_NOOP(
+                  "Texts",
+                  "find, copies and plan: there were hits. compare: nothing differs. Others: all was done.")},
         {"1", QT_TRANSLATE_NOOP(
                   "Texts",
-                  "find and copies: there were none. compare: something differs. history: there is no "
+                  "find, copies and plan: there were none. compare: something differs. history: there is no "
                   "earlier version.")},
         {"2", QT_TRANSLATE_NOOP("Texts",
                                 "Something went wrong, or the command line was not understood; a sentence on "

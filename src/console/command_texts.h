@@ -49,6 +49,8 @@ std::string said(const char* text);
 CommandText compareText();
 /// "copies", which says much.
 CommandText copiesText();
+/// "plan", which says much.
+CommandText planText();
 
 /// All commands, in the order in which they are shown.
 const std::vector<CommandText>& commandTexts();

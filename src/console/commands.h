@@ -1,5 +1,5 @@
-// The commands of the console companion: "find", "copies", "compare", "cache", "index", "import", "refresh",
-// "sources" and "history". Each gives the exit status of the program.
+// The commands of the console companion: "find", "copies", "compare", "plan", "cache", "index", "import",
+// "refresh", "sources" and "history". Each gives the exit status of the program.
 #pragma once
 
 #include "catalogue/copy_finder.h"
@@ -92,6 +92,29 @@ struct CompareRequest {
 /// status, as that of diff: 0 where nothing differs, 1 where something does, 2 when anything could not be
 /// done, stopStatus() when a signal ended it.
 int runCompare(const CompareRequest& request);
+
+/// What the command line asked of "plan".
+struct PlanRequest {
+  /// What is searched for; "-" for a list on standard input.
+  QString searchText;
+  /// As in FindRequest.
+  QString desiredMatch = QStringLiteral("50");
+  /// Text or Json.
+  TableFormat format = TableFormat::Text;
+  /// A script takes the place of the plan, and this is where it copies to.
+  std::optional<QString> scriptFolder = {};
+  /// Neither progress nor the last lines are written.
+  bool isQuiet = false;
+  bool useCache = true;
+  /// As in FindRequest.
+  std::vector<QString> listings = {};
+
+  bool isList() const { return searchText == QStringLiteral("-"); }
+};
+
+/// Writes the fewest volumes for the wanted files to standard output. The exit status is that of runFind(),
+/// where files to copy are its hits.
+int runPlan(const PlanRequest& request);
 
 /// What the command line asked of "cache".
 struct CacheRequest {

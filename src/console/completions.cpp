@@ -67,6 +67,8 @@ std::string bashValues(const std::vector<OptionText>& options, std::string_view 
     cases += std::string(indent) + std::string(namesOf(option).back()) + ") ";
     if (option.value == "FILE") {
       cases += "_quorvin_files -f";
+    } else if (option.value == "FOLDER") {
+      cases += "_quorvin_files -d";
     } else if (option.value == "LIST") {
       cases += "_quorvin_list \"" + std::string(option.choices) + '"';
     } else {
@@ -151,7 +153,9 @@ std::string zshOption(const OptionText& option) {
   const std::vector<std::string_view> names = namesOf(option);
   std::string value;
   if (!option.value.empty()) {
-    const std::string_view kind = option.value == "FILE" ? "_files" : "";
+    const std::string_view kind = option.value == "FILE"     ? "_files"
+                                  : option.value == "FOLDER" ? "_files -/"
+                                                             : "";
     const std::string choices =
         option.value == "LIST"
             ? "_values -s , field " + std::string(option.choices)
@@ -236,6 +240,7 @@ std::string fishOption(const OptionText& option, const std::string& condition) {
         name.starts_with("--") ? " -l " + std::string(name.substr(2)) : " -s " + std::string(name.substr(1));
   }
   if (!option.value.empty()) line += option.value == "FILE" ? " -r -F" : " -x";
+  if (option.value == "FOLDER") line += " -a '(__fish_complete_directories)'";
   if (!option.choices.empty()) line += " -a " + inQuotes(option.choices);
   return line + " -d " + inQuotes(said(option.text)) + '\n';
 }

@@ -157,6 +157,7 @@ QString CommandLine::whatIsMissing() const {
   const std::string_view name = named()->name;
   if (name == "find") return Texts::tr("find needs the words to find, in one argument");
   if (name == "compare") return Texts::tr("compare needs a listing or a folder");
+  if (name == "plan") return Texts::tr("plan needs the words to find, in one argument, or - for a list");
   if (name == "index") return Texts::tr("index needs the folder to list");
   if (name == "import") return Texts::tr("import needs the lists to import");
   if (name == "sources add") return Texts::tr("sources add needs a folder or a listing");
@@ -174,8 +175,8 @@ std::vector<std::string> remainingOf(const CLI::App& parser) {
 /// A sentence about the first argument that has no meaning; empty when all have one.
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = remainingOf(app_);
-  const QString commands =
-      Texts::tr("the commands are find, copies, compare, index, import, refresh, sources, history and cache");
+  const QString commands = Texts::tr(
+      "the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
     if (first.startsWith(u'-')) return Texts::tr("there is no option \"%1\"").arg(first);
@@ -205,6 +206,7 @@ int CommandLine::runNamed(const CommandText& command) {
   if (name == "find") return runFind(findRequestOf(given));
   if (name == "copies") return runCopies(copiesRequestOf(given));
   if (name == "compare") return runCompare(compareRequestOf(given));
+  if (name == "plan") return runPlan(planRequestOf(given));
   if (name == "index") return runIndexCommand(given);
   if (name == "import") return runImportCommand(given);
   if (name == "refresh") return runRefresh({given.texts(), given.has("--quiet"), given.has("--json")});

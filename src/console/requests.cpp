@@ -64,6 +64,13 @@ TableFormat tableFormatNamed(const QString& name) {
   throw Mistake{Texts::tr("there is no format \"%1\"; the formats are text, tsv, csv and json").arg(name)};
 }
 
+TableFormat planFormatNamed(const QString& name) {
+  const QString lower = name.toLower();
+  if (lower == QStringLiteral("text")) return TableFormat::Text;
+  if (lower == QStringLiteral("json")) return TableFormat::Json;
+  throw Mistake{Texts::tr("there is no format \"%1\"; the formats are text and json").arg(name)};
+}
+
 int versionOf(const QString& text) {
   bool isNumber = false;
   const int number = text.toInt(&isNumber);
@@ -152,6 +159,25 @@ CompareRequest compareRequestOf(const Given& given) {
   request.endsWithNul = given.has("--null");
   if (const auto limit = given.text("--limit")) request.limit = limitOf(*limit);
   request.isQuiet = given.has("--quiet");
+  return request;
+}
+
+PlanRequest planRequestOf(const Given& given) {
+  PlanRequest request;
+  request.searchText = textOf(given.needed);
+  request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
+  request.format = planFormatNamed(given.text("--format").value_or(QStringLiteral("text")));
+  const QString to = given.text("--to").value_or(QString());
+  if (given.has("--script") != !to.isEmpty()) {
+    throw Mistake{Texts::tr("--script and --to FOLDER go together")};
+  }
+  if (given.has("--script") && given.text("--format")) {
+    throw Mistake{Texts::tr("a plan is written in a format or as a script, not as both")};
+  }
+  if (given.has("--script")) request.scriptFolder = to;
+  request.isQuiet = given.has("--quiet");
+  request.useCache = !given.has("--no-cache");
+  for (const QString& listing : given.texts()) request.listings.push_back(listing);
   return request;
 }
 

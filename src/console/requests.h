@@ -57,5 +57,6 @@ struct Mistake {
 FindRequest findRequestOf(const Given& given);
 CopiesRequest copiesRequestOf(const Given& given);
 CompareRequest compareRequestOf(const Given& given);
+PlanRequest planRequestOf(const Given& given);
 
 }  // namespace quorvin

@@ -101,16 +101,16 @@ std::string helpOfProgram() {
   std::string text = said(QT_TRANSLATE_NOOP("Texts", "quorvin-cli [option] COMMAND ...")) + '\n';
   text += said(
       QT_TRANSLATE_NOOP("Texts", "Quorvin Utility in the terminal: search and make catalogues of disks."));
-  text += "\n\n" + said(QT_TRANSLATE_NOOP("Texts", "Commands:")) + '\n';
+  text += '\n' +
+          said(QT_TRANSLATE_NOOP("Texts",
+                                 "quorvin-cli COMMAND --help says more of each; man quorvin-cli says all.")) +
+          '\n';
+  text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Commands:")) + '\n';
   for (const CommandText& command : commandTexts())
     addLine(text, command.name, said(command.summary), kProgramColumn);
   text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Options:")) + '\n';
   for (const OptionText& option : programOptions())
     addLine(text, termOf(option), said(option.text), kProgramColumn);
-  text += '\n' +
-          said(QT_TRANSLATE_NOOP("Texts",
-                                 "quorvin-cli COMMAND --help says more of each; man quorvin-cli says all.")) +
-          '\n';
   return text;
 }
 

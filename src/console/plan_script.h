@@ -1,0 +1,22 @@
+// A fetch plan as a script that does it.
+#pragma once
+
+#include "console/plan_rows.h"
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace quorvin {
+
+/// `text` as one word of a POSIX shell, whatever is in it.
+std::string shellWord(std::string_view text);
+
+/// Writes a script for a POSIX shell that asks for each volume, one after another, and copies its files with
+/// rsync into a folder of the volume's own in the folder `to`, an absolute path. `write` takes it piece by
+/// piece.
+void writePlanScript(const FetchFinder& finder, const QString& to, const QLocale& locale,
+                     const PlanRows::Write& write);
+
+}  // namespace quorvin

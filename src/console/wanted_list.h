@@ -1,0 +1,14 @@
+// A list of wanted files, as a user or another program writes it.
+#pragma once
+
+#include "catalogue/import/list_lines.h"
+#include "catalogue/fetch/wanted_files.h"
+
+namespace quorvin {
+
+/// Adds the file of each line to `wanted`: a JSON object with "name" and "size", as "find --format json"
+/// writes it, or else a name, of which only what follows the last slash or backslash counts. Empty lines and
+/// lines of blanks are left out. Throws what `read` throws.
+void readWantedList(const ListLines::Read& read, WantedFiles& wanted);
+
+}  // namespace quorvin
