@@ -3,9 +3,12 @@
 
 #include <QFile>
 #include <QImage>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QString>
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace quorvin::test {
 namespace {
@@ -31,6 +34,26 @@ TEST(Metadata, TheVersionIsTheSameEverywhere) {
   for (const QString& language : {u""_qs, u"de/"_qs, u"es/"_qs, u"fr/"_qs}) {
     EXPECT_EQ(firstOf(u"packaging/man/"_qs + language + u"quorvin.1"_qs, u"Quorvin Utility ([0-9.]+)"_qs),
               version);
+  }
+}
+
+/// The long options that `text` names.
+std::set<QString> optionsIn(const QString& text) {
+  std::set<QString> options;
+  const QRegularExpression option(u"(?<![-a-z])--[a-z]+"_qs);
+  for (const QRegularExpressionMatch& found : option.globalMatch(text)) options.insert(found.captured());
+  return options;
+}
+
+TEST(Metadata, TheManualPagesOfTheWindowHaveTheOptionsThatItHas) {
+  QProcess program;
+  program.start(QStringLiteral(QUORVIN_PROGRAM), {u"--help"_qs});
+  ASSERT_TRUE(program.waitForFinished(60000)) << program.errorString().toStdString();
+  const std::set<QString> options = optionsIn(QString::fromUtf8(program.readAllStandardOutput()));
+  EXPECT_GE(options.size(), 6U);
+  for (const QString& language : {u""_qs, u"de/"_qs, u"es/"_qs, u"fr/"_qs}) {
+    QString page = textOf(u"packaging/man/"_qs + language + u"quorvin.1"_qs).remove(u'\\');
+    EXPECT_EQ(optionsIn(page), options) << language.toStdString();
   }
 }
 
