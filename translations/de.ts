@@ -2974,10 +2974,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>%1 found, %2 searched</source>
         <translation>%1 gefunden, %2 durchsucht</translation>
     </message>
-    <message>
-        <source>there is nothing to search yet. Name listings after the words, or add folders or lists in the window</source>
-        <translation>es gibt noch nichts zu durchsuchen. Nennen Sie Listen hinter den Wörtern, oder fügen Sie im Fenster Ordner oder Listen hinzu</translation>
-    </message>
     <message numerus="yes">
         <source>%1 hits could not be read from the search cache. Please try again</source>
         <translation>
@@ -4311,6 +4307,18 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>Only the first %1 of %2 rows are shown.</source>
         <translation>Nur die ersten %1 von %2 Zeilen werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>If it is dumb, find colours nothing either.</source>
+        <translation>Ist es dumb, färbt find auch nichts.</translation>
+    </message>
+    <message>
+        <source>there are no folders of your own yet; quorvin-cli sources add FOLDER adds one</source>
+        <translation>es gibt noch keine eigenen Ordner; quorvin-cli sources add ORDNER fügt einen hinzu</translation>
+    </message>
+    <message>
+        <source>there is nothing to search yet. Name listings after the words, or add folders or lists with quorvin-cli sources add</source>
+        <translation>es gibt noch nichts zu durchsuchen. Nennen Sie Listen hinter den Wörtern, oder fügen Sie mit quorvin-cli sources add Ordner oder Listen hinzu</translation>
     </message>
 </context>
 <context>

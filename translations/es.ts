@@ -1317,10 +1317,6 @@ Forget the request, and rescan everything?</source>
         <source>%1 found, %2 searched</source>
         <translation>%1 encontradas, %2 examinadas</translation>
     </message>
-    <message>
-        <source>there is nothing to search yet. Name listings after the words, or add folders or lists in the window</source>
-        <translation>todavía no hay dónde buscar. Nombre listas después de las palabras, o añada carpetas o listas en la ventana</translation>
-    </message>
     <message numerus="yes">
         <source>%1 hits could not be read from the search cache. Please try again</source>
         <translation>
@@ -4311,6 +4307,18 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>Only the first %1 of %2 rows are shown.</source>
         <translation>Solo se muestran las primeras %1 de %2 filas.</translation>
+    </message>
+    <message>
+        <source>If it is dumb, find colours nothing either.</source>
+        <translation>Si es dumb, find tampoco colorea nada.</translation>
+    </message>
+    <message>
+        <source>there are no folders of your own yet; quorvin-cli sources add FOLDER adds one</source>
+        <translation>todavía no hay carpetas propias; quorvin-cli sources add CARPETA añade una</translation>
+    </message>
+    <message>
+        <source>there is nothing to search yet. Name listings after the words, or add folders or lists with quorvin-cli sources add</source>
+        <translation>todavía no hay dónde buscar. Nombre listas después de las palabras, o añada carpetas o listas con quorvin-cli sources add</translation>
     </message>
 </context>
 <context>

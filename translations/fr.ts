@@ -1317,10 +1317,6 @@ Oublier la demande et tout relire&#xa0;?</translation>
         <source>%1 found, %2 searched</source>
         <translation>%1 trouvées, %2 parcourues</translation>
     </message>
-    <message>
-        <source>there is nothing to search yet. Name listings after the words, or add folders or lists in the window</source>
-        <translation>il n’y a encore rien où chercher. Nommez des listes après les mots, ou ajoutez des dossiers ou des listes dans la fenêtre</translation>
-    </message>
     <message numerus="yes">
         <source>%1 hits could not be read from the search cache. Please try again</source>
         <translation>
@@ -4311,6 +4307,18 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>Only the first %1 of %2 rows are shown.</source>
         <translation>Seules les %1 premières lignes sur %2 sont affichées.</translation>
+    </message>
+    <message>
+        <source>If it is dumb, find colours nothing either.</source>
+        <translation>Si elle vaut dumb, find ne colore rien non plus.</translation>
+    </message>
+    <message>
+        <source>there are no folders of your own yet; quorvin-cli sources add FOLDER adds one</source>
+        <translation>il n’y a pas encore de dossiers personnels&#xa0;; quorvin-cli sources add DOSSIER en ajoute un</translation>
+    </message>
+    <message>
+        <source>there is nothing to search yet. Name listings after the words, or add folders or lists with quorvin-cli sources add</source>
+        <translation>il n’y a encore rien où chercher. Nommez des listes après les mots, ou ajoutez des dossiers ou des listes avec quorvin-cli sources add</translation>
     </message>
 </context>
 <context>

@@ -292,6 +292,7 @@ const std::vector<SectionText>& manualSections() {
        {{"NO_COLOR",
          QT_TRANSLATE_NOOP(
              "Texts", "If it is set and not empty, find colours nothing unless --color always is given.")},
+        {"TERM", QT_TRANSLATE_NOOP("Texts", "If it is dumb, find colours nothing either.")},
         {"LANGUAGE, LC_ALL, LC_MESSAGES, LANG",
          QT_TRANSLATE_NOOP("Texts", "The language of texts: German, English, French or Spanish.")},
         {"LC_ALL, LC_TIME, LC_NUMERIC, LANG",

@@ -252,6 +252,9 @@ int runRefresh(const RefreshRequest& request) {
     return 2;
   }
   if (!request.names.isEmpty() && !keepNamed(state, request.names)) return 2;
+  if (state.OnlineSourceCount == 0 && !request.isQuiet) {
+    printErrorLog(Texts::tr("there are no folders of your own yet; quorvin-cli sources add FOLDER adds one"));
+  }
   ConsoleProgress progress(request.isQuiet);
   Work work(state, progress);
   RefreshOutcome outcome;

@@ -52,9 +52,9 @@ QString complaintAboutSearch(const QString& searchText, const QString& desiredMa
 bool loadSourcesToSearch(ProgramState& state, const QLocale& locale, MessageBoxes& messages) {
   loadUserSources(state, locale, messages);
   if (state.hasSources()) return true;
-  printError(Texts::tr(
-      "there is nothing to search yet. Name listings after the words, or add folders or lists in the "
-      "window"));
+  printError(
+      Texts::tr("there is nothing to search yet. Name listings after the words, or add folders or lists with "
+                "quorvin-cli sources add"));
   return false;
 }
 

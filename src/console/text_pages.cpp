@@ -108,7 +108,8 @@ std::string helpOfProgram() {
   text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Commands:")) + '\n';
   for (const CommandText& command : commandTexts())
     addLine(text, command.name, said(command.summary), kProgramColumn);
-  text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Options:")) + '\n';
+  // Without a line before it: with the prompt behind it, the help is to fit on 24 lines.
+  text += said(QT_TRANSLATE_NOOP("Texts", "Options:")) + '\n';
   for (const OptionText& option : programOptions())
     addLine(text, termOf(option), said(option.text), kProgramColumn);
   return text;

@@ -148,7 +148,7 @@ TEST_F(CopiesProgram, UserSourcesAreLookedThroughWithoutAListing) {
   EXPECT_EQ(none.status, 2);
   EXPECT_EQ(none.errors,
             u"quorvin-cli: there is nothing to search yet. Name listings after the words, or add folders or "
-            "lists in the window\n"_qs);
+            "lists with quorvin-cli sources add\n"_qs);
   EXPECT_EQ(run({u"sources"_qs, u"add"_qs, u"cd1.txt"_qs, u"cd2.txt"_qs}).status, 0);
   EXPECT_EQ(run({u"copies"_qs, u"--by-volume"_qs}).output, "CD 2: 3 files, 701.50 MB\n");
 }

@@ -252,7 +252,7 @@ TEST_F(FindProgram, WithoutAnySourceItSaysSoAndEndsWith2) {
   const Ended ended = run({u"find"_qs, u"song"_qs});
   EXPECT_EQ(ended.errors,
             u"quorvin-cli: there is nothing to search yet. Name listings after the words, or add folders or "
-            "lists in the window\n"_qs);
+            "lists with quorvin-cli sources add\n"_qs);
   EXPECT_EQ(ended.status, 2);
 }
 

@@ -68,6 +68,15 @@ TEST_F(RefreshProgram, WhatItHasListedIsFound) {
   EXPECT_EQ(ended.errors, u"1 found, 2 searched\n"_qs);
 }
 
+TEST_F(RefreshProgram, WithoutFoldersItSaysHowToAddOne) {
+  putSources("");
+  const test::Ended ended = run({u"refresh"_qs});
+  EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.errors,
+            u"there are no folders of your own yet; quorvin-cli sources add FOLDER adds one\n"_qs);
+  EXPECT_EQ(run({u"refresh"_qs, u"-q"_qs}).errors, QString());
+}
+
 TEST_F(RefreshProgram, ASourceThatIsNotThereIsToldAndKeepsItsListing) {
   folder.writeFile(u"data/Drive.txt"_qs, "old");
   putSources("\"Drive\",\"" + pathOf("gone/") + "\"\r\n\"Films\",\"" + pathOf("Films/") + "\"\r\n");
