@@ -1,8 +1,8 @@
 // A list of wanted files, as a user or another program writes it.
 #pragma once
 
-#include "catalogue/import/list_lines.h"
 #include "catalogue/fetch/wanted_files.h"
+#include "catalogue/import/list_lines.h"
 
 namespace quorvin {
 
