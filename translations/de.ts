@@ -4320,6 +4320,14 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>there is nothing to search yet. Name listings after the words, or add folders or lists with quorvin-cli sources add</source>
         <translation>es gibt noch nichts zu durchsuchen. Nennen Sie Listen hinter den Wörtern, oder fügen Sie mit quorvin-cli sources add Ordner oder Listen hinzu</translation>
     </message>
+    <message>
+        <source>%1 is a database of plocate, which has to be installed to read it</source>
+        <translation>%1 ist eine Datenbank von plocate, das installiert sein muss, um sie zu lesen</translation>
+    </message>
+    <message>
+        <source>plocate could not read %1: %2</source>
+        <translation>plocate konnte %1 nicht lesen: %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4320,6 +4320,14 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>there is nothing to search yet. Name listings after the words, or add folders or lists with quorvin-cli sources add</source>
         <translation>todavía no hay dónde buscar. Nombre listas después de las palabras, o añada carpetas o listas con quorvin-cli sources add</translation>
     </message>
+    <message>
+        <source>%1 is a database of plocate, which has to be installed to read it</source>
+        <translation>%1 es una base de datos de plocate, que tiene que estar instalado para leerla</translation>
+    </message>
+    <message>
+        <source>plocate could not read %1: %2</source>
+        <translation>plocate no pudo leer %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

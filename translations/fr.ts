@@ -4320,6 +4320,14 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>there is nothing to search yet. Name listings after the words, or add folders or lists with quorvin-cli sources add</source>
         <translation>il n’y a encore rien où chercher. Nommez des listes après les mots, ou ajoutez des dossiers ou des listes avec quorvin-cli sources add</translation>
     </message>
+    <message>
+        <source>%1 is a database of plocate, which has to be installed to read it</source>
+        <translation>%1 est une base de données de plocate, qui doit être installé pour la lire</translation>
+    </message>
+    <message>
+        <source>plocate could not read %1: %2</source>
+        <translation>plocate n’a pas pu lire %1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

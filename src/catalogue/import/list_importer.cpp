@@ -1,6 +1,7 @@
 #include "catalogue/import/list_importer.h"
 
 #include "catalogue/import/list_dates.h"
+#include "catalogue/import/plocate_database.h"
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"
 #include "files/file_reader.h"
@@ -22,7 +23,7 @@ RuntimeFault refusal(const QString& sentence) {
   return RuntimeFault(FaultNumber::InvalidProcedureCall, sentence);
 }
 
-/// The bytes of a file, or of what can be read only once.
+/// The bytes of a file, of what can be read only once, or what another program reads of a file.
 class ListBytes {
  public:
   ListBytes(const QString& path, const ListImporter::StopRequested& stopRequested) {
@@ -30,16 +31,22 @@ class ListBytes {
       stream_ = std::make_unique<StreamReader>(StreamReader::standardInput(stopRequested));
     } else if (isStream(path)) {
       stream_ = std::make_unique<StreamReader>(path, stopRequested);
+    } else if (isPlocateDatabase(path)) {
+      paths_ = std::make_unique<PlocatePaths>(path, stopRequested);
     } else {
       file_ = std::make_unique<SequentialFile>(path);
     }
   }
 
   ListLines::Read read() {
-    return [this](std::span<char> buffer) { return stream_ ? stream_->read(buffer) : file_->read(buffer); };
+    return [this](std::span<char> buffer) {
+      if (paths_) return paths_->read(buffer);
+      return stream_ ? stream_->read(buffer) : file_->read(buffer);
+    };
   }
 
  private:
+  std::unique_ptr<PlocatePaths> paths_;
   std::unique_ptr<StreamReader> stream_;
   std::unique_ptr<SequentialFile> file_;
 };
