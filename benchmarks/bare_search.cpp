@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "bare_search.h"
 
 #include "dropped_hits.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The search run that the window starts, without a window: the measure of what the window adds.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Writes a listing in the exact layout of the folder indexer (docs/formats/listing.md), as fast as a disk
 // takes it.
 #pragma once

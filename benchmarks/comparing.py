@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 """What the comparisons tell about the machine and the programs, without the folders of this machine."""
 
 import os

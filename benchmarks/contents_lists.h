@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The lists of all files in the packages of a Debian archive, as apt keeps them for apt-file.
 #pragma once
 

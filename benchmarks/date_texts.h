@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The text of each date of a generated catalogue, quickly.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Builds one listing out of the contents lists of the Debian archive: some millions of real paths, every one
 // the same on every machine that has fetched the same lists. Sizes and dates, which those lists do not hold,
 // follow from a hash of the path.

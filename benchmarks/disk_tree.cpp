@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "disk_tree.h"
 
 #include "file_traits.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A tree of made-up files and folders on disk, for programs that walk folders.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where hits go that nobody wants to see.
 #pragma once
 

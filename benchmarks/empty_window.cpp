@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the start of the program with the window is measured against: the least that a program with a window
 // of the same toolkit can do. With the argument "furnished" the window has a menu, fields, buttons, a list
 // without rows and a status bar, so that fonts are loaded and texts laid out.

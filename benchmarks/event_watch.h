@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How a window fares while a run goes on: how often it comes to its events, and what its label shows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "file_traits.h"
 
 #include "random_source.h"

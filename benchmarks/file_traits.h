@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Believable sizes and dates for files of which only the name is known.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A tree of folders put together from single paths, for lists that do not keep the files of a folder
 // together.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Volumes full of made-up folders and files.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The locale that a catalogue is written in, by its name.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Makes a catalogue of made-up files: any number of entries, the same ones for the same seed on every
 // machine.
 #include "catalogue_writer.h"

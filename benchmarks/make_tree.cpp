@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Makes a tree of made-up files and folders on disk: any number, the same ones for the same seed on every
 // machine.
 #include "disk_tree.h"

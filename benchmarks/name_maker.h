@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Names of files and folders as people give them: some words in one of several styles, numbers, an extension,
 // and a few per cent with letters beyond ASCII.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A library that is loaded before all others (LD_PRELOAD) into a program of the toolkit. It reports when the
 // first paint event of the program's main window came and when the program next had nothing left to do, and
 // closes the window then. Both are seen as they happen; no timer looks for them.

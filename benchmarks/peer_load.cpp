@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Runs the server of the peer exchange under a load of hostile callers and prints how it fared.
 #include "peers/peer_load.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What this process takes up of the machine's memory.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Random numbers that are the same on every machine and with every library: the standard library's
 // distributions are not, and a committed figure must name a file that anybody can make again.
 #pragma once

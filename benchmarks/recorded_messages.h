@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Message boxes that nobody has to confirm.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Counts the hits of a search by the slow, plain rules of tests/support: the judge of the benchmarks'
 // answers.
 #include "platform/text_encoding.h"

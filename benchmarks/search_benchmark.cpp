@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Google Benchmark cases of the search itself: reading a listing that is in memory, and searching its
 // segment. Each case first proves its number of hits against the plain reference.
 #include "catalogue_writer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search_window.h"
 
 #include "app/search_form.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The program's real main window, driven as a person would: words are typed, buttons are pressed.
 #pragma once
 

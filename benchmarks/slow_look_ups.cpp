@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A library that is loaded before all others (LD_PRELOAD) and makes each look-up of a file take a millisecond
 // more, as on a share far away. QUORVIN_DELAY sets other microseconds.
 #include <cstdlib>

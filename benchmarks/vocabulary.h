@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The words that generated names are made of. They are the same for every seed, so that the words of a
 // benchmark query are known beforehand.
 #pragma once

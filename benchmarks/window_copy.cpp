@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Times copying and exporting of very many hits in the program's real window, without a screen. What is
 // copied and written is compared with what was made.
 #include "app/main_application.h"

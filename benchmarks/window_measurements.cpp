@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "window_measurements.h"
 
 #include "bare_search.h"

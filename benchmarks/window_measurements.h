@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The three measurements of one query in the window. Each is made in a process of its own: only so do its
 // memory figures and its first run mean anything.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Times sorting and filtering in the program's real window, without a screen: from the key to the painted
 // rows. Every order and every filter is proved row by row first.
 #include "app/main_application.h"

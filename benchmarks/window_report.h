@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The figures of the window as Markdown tables.
 #pragma once
 

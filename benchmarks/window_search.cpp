@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Times searches in the program's real window, without a screen: from the press of Find to the last row, and
 // what the window adds to the bare search.
 #include "app/main_application.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Times searching while typing in the program's real window, without a screen: from each key to the moment at
 // which the first row of its search is painted, or, where there is no hit, the list that says so.
 #include "app/main_application.h"

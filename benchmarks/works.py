@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 """Whole works: commands that run to their end beside others that do the same, their output going to a file."""
 
 import os

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+
 # For scripts/test_on: builds for QUORVIN_PROCESSOR with Debian's cross compiler, against the libraries that are
 # unpacked in QUORVIN_SYSTEM.
 set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES QUORVIN_PROCESSOR QUORVIN_SYSTEM)

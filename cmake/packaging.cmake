@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+
 # What "cmake --install" puts where. The programs find each other, and their pages, relative to themselves, so that an
 # installed tree can be moved; only the bus needs a whole path. Packages for distributions: docs/releasing.md.
 # The three components are the packages: the window, the console companion, and what both need.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 if(QUORVIN_SANITIZE)
   # Without vptr: to look at an object it opens a pipe, and where that fails, as in a test with too few descriptors,
   # it calls the object wrong.

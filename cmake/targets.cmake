@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+
 # What nearly every file includes, read once for all libraries. Release builds go without, so that a file that
 # forgets an include is found there.
 option(QUORVIN_PRECOMPILE "Read the commonest headers once for the whole build" OFF)

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+
 # Compiles several files of a target as one: most of the time goes into headers that they share, so that a whole build
 # takes half as long, and a build after a change somewhat longer. A file still has to name all that it includes: the
 # other builds compile it alone.

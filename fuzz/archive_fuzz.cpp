@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Unpacking. An input is the archive.
 #include "fuzz/unpacking_check.h"
 

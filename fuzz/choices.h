@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The bytes of an input, taken as choices.
 #pragma once
 

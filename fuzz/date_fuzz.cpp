@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading dates as people and listings write them. An input is a byte for the locale, and the text in UTF-8.
 #include "dates/general_date.h"
 #include "dates/general_date_reader.h"

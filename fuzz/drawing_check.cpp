@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "fuzz/drawing_check.h"
 
 #include "fuzz/require.h"

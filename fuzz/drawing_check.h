@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Drawing a metafile, and what has to hold whatever is in it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "fuzz/drawing_maker.h"
 
 #include "fuzz/record_maker.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Metafiles of every record kind, made from choices.
 #pragma once
 

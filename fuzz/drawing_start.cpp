@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What fuzzing drawings needs before the first input.
 #include <QGuiApplication>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A kept version of a listing. An input is a byte, whose bits say what is done; two bytes with the length of
 // a text; this text; and the rest.
 //

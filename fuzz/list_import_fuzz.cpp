@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Importing the lists of other programs. An input is a byte for the format (that of the first lines, or one
 // of all), a byte for the encoding and what else the user says, and the list.
 #include "catalogue/import/list_import.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Unpacking archives that are made from the input: each has whole records whose numbers fit each other, but
 // for a few lies, so that the checks behind the first ones are reached too.
 #include "archive/archive_maker.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Drawing metafiles that are made from the input: records of all kinds, most of which make sense.
 #include "fuzz/drawing_check.h"
 #include "fuzz/drawing_maker.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Drawing a metafile, without the limits of the process that draws it for the program. An input is the file.
 #include "fuzz/drawing_check.h"
 

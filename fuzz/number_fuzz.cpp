@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading numbers as people type them and listings hold them, held against their rules written down once
 // more. An input is the text in UTF-8.
 #include "dates/general_number.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a peer's server sends, held against the order that AnswerSink promises. An input is a byte for the
 // size of the pieces in which the stream comes, and the stream.
 #include "faults/runtime_fault.h"

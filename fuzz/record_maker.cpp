@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "fuzz/record_maker.h"
 
 #include <QtEndian>

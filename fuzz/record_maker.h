@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The parameters of metafile records, made from choices.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Making records: text and its fonts.
 #include "fuzz/record_maker.h"
 

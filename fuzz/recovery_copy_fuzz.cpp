@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A recovery copy that an earlier run has left: what is taken over from it is kept and offered again after
 // another crash. An input is the file.
 #include "fuzz/require.h"

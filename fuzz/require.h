@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What fuzz targets hold their results against.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The scan of a listing, held against the plain reference. An input is a byte for the size of the chunks, a
 // byte for the desired match and the way to scan, a line with the search text, and the listing.
 #include "faults/runtime_fault.h"

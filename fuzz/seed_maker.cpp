@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // fuzz_seed_maker FOLDER: writes the made seeds of the targets that read drawings and archives into their
 // folders below FOLDER. The same seeds each time, until the makers change.
 #include "fuzz/drawing_maker.h"

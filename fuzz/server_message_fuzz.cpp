@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What callers say to the server of lists, held against docs/formats/peer-messages.md written down once more.
 // An input is messages with NULs between them.
 #include "faults/runtime_fault.h"

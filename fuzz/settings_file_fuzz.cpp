@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The settings file: reading it, held against its rules written down once more, and writing into it. An input
 // is a line each for the application, the section, the key and a new value, and then the file. In the value,
 // the bytes 1 to 4 stand for a line feed, a carriage return, a tab and a NUL.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The reader of source lists, held against the rules of docs/formats/source-lists.md written down as plainly
 // as can be, over the whole file at once. An input is the file.
 #include "faults/runtime_fault.h"

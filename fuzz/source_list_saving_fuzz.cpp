@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A source list that is loaded, changed and saved: whatever it holds, nothing of it is lost. An input is a
 // byte, whose bits say what happens in between, and the file.
 #include "faults/runtime_fault.h"

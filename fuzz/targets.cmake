@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+
 # The fuzz targets, for the programs that fuzz and for the tests that replay the seeds. Each is made of TARGET_fuzz.cpp
 # and of what is named here besides; the helpers are in fuzz/ or tests/.
 set(QUORVIN_FUZZ_TARGETS

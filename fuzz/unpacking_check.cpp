@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "fuzz/unpacking_check.h"
 
 #include "archive/archive_unpacking.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A web update whose server answers anything. An input is a byte, whose bits say whether the user wants the
 // update and how large the parts are in which the answer comes, the headers, an empty line, and the document.
 #include "faults/runtime_fault.h"

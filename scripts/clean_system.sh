@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+
 # Clean Debian systems to try packages in; to be sourced by bash after common.sh. They are made in TOP, and gone at the
 # end; SYSTEM is the one that was made last.
 

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+
 # Shared by ./run and ./test; to be sourced by bash, from the top folder of the project.
 # A command that fails ends the script with the name of the step that it was part of.
 

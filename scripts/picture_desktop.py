@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 """The desktop of scripts/screenshots: a screen, a home with a catalogue, and the program in them."""
 import os
 import re

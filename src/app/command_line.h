@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the program was asked for on its command line.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reporting a fault that nothing else has dealt with.
 #pragma once
 

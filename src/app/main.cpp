@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The program with the window.
 #include "app/command_line.h"
 #include "app/main_application.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How the program's windows are drawn beyond what the desktop's style does.
 #pragma once
 

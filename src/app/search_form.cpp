@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/search_form.h"
 
 #include "app/fault_report.h"
@@ -27,7 +28,6 @@
 #include <utility>
 
 namespace quorvin {
-
 namespace {
 
 /// Settings may hold anything; further out than this no window can be.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/search_form_controls.h"
 
 #include "app/search_form_view.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The menus and controls of the main window, and their places.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a start asks of the main window.
 #include "app/fault_report.h"
 #include "app/search_form.h"

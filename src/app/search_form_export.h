@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The export of hits: asking for a file, and writing it while the window lives on.
 #pragma once
 

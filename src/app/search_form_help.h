@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // F1: the page of the manual on the window at hand.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The hit list's mouse, keys and menus: what the main window does with hits.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The searches of the main window: when they start, what is seen of them, and how one gives way to the next.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Ways for sources into the main window: what an empty one offers, and what is dropped onto it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/search_form_status.h"
 
 #include "app/status_texts.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The line at the bottom of the main window.
 #pragma once
 

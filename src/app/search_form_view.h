@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How the hits are seen: the View menu of the main window, the order, the columns and the filter.
 #pragma once
 

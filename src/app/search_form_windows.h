@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The windows that the main window's menus open.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/shutdown.h"
 
 #include "app/fault_report.h"

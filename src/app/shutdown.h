@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Shutdown: everything that happens when the main window is closed.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Start-up: everything that happens between the making of the main window and the user's first action.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the main window says about the hits, the last search and the last rescan.
 #pragma once
 

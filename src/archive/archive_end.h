@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where a zip archive ends, and what its end says.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Making the archive in which a listing is offered to peers.
 #pragma once
 

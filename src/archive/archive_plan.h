@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Deciding what of an archive is unpacked, and where to, before anything is.
 #pragma once
 

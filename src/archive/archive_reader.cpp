@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "archive/archive_reader.h"
 
 #include "archive/archive_end.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading a zip archive, and what can be wrong with one.
 #pragma once
 

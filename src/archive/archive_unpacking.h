@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Unpacking a zip archive into a folder.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The records that a zip archive consists of.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a comparison has found, as a tree for views.
 #pragma once
 

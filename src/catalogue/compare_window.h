@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that says what differs between two listings, versions or folders.
 #pragma once
 

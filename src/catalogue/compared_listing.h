@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A listing that is compared with another one: read twice, so that little of it has to stay in memory.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What can be compared: listings, their earlier versions, and folders as they are now.
 #pragma once
 

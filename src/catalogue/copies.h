@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Files that are there more than once, and files that are there on one volume only.
 #pragma once
 

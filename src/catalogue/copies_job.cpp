@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/copies_job.h"
 
 #include "faults/runtime_fault.h"

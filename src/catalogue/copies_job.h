@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A look for copies that goes on in a thread of its own.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/copies_window.h"
 
 #include "catalogue/job_controls.h"

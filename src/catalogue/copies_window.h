@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that says what is there more than once, and what on one volume only.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is in the files that may be copies of each other.
 #pragma once
 

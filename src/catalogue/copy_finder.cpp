@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/copy_finder.h"
 
 #include "catalogue/every_entry.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A look for copies from the listings to the sums: what the console and the window have in common.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is said of copies: in which order, and how much there is of them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The sizes of entries that stand one behind the other.
 #pragma once
 

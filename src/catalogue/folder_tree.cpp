@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/folder_tree.h"
 
 #include "platform/text_encoding.h"

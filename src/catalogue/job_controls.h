@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Controls of the windows that do something long in another thread.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Texts that stay where they are, without memory of their own for each.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // All files of all listings that a run goes over, in little memory.
 #pragma once
 

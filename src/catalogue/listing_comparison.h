@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What came to a listing, what went from it, what changed and what was moved.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Sizes and sums of files as people read them, in the console and in windows.
 #pragma once
 

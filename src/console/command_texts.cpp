@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/command_texts.h"
 
 #include "texts/texts.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What quorvin-cli says of its commands. The help, the manual page and the shells' completions are all made
 // of this, and so is what the command line takes: an option that is not described here does not exist. What
 // is to be read is in English here; said() gives it in the language that is spoken.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The commands of the console companion: "find", "copies", "compare", "plan", "cache", "index", "import",
 // "refresh", "sources" and "history". Each gives the exit status of the program.
 #pragma once

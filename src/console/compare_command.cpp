@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "compare": what differs between two listings.
 #include "catalogue/compare_job.h"
 #include "console/commands.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/compared_sources.h"
 
 #include "catalogue/compared_place.h"

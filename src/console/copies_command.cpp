@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "copies": files that are there more than once, or once only.
 #include "catalogue/sum_texts.h"
 #include "console/commands.h"

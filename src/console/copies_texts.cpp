@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is said of "copies".
 #include "console/command_texts.h"
 

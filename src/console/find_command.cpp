@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "find": a search in the terminal.
 #include "console/commands.h"
 #include "console/error_lines.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "history": the earlier versions of listings.
 #include "console/commands.h"
 #include "console/compared_sources.h"

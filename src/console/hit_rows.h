@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Hits as rows of text for scripts and terminals.
 #pragma once
 

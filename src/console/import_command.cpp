@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "import": the command that turns lists of other programs into listings.
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_importer.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What quorvin-cli says of "import".
 #include "console/command_texts.h"
 

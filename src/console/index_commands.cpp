@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "index" and "refresh": the commands that write listings.
 #include "console/commands.h"
 #include "console/error_lines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/json_text.h"
 
 #include "dates/eight_bytes.h"

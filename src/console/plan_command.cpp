@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "plan": which volumes to fetch for files that are wanted.
 #include "console/commands.h"
 #include "console/error_lines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/plan_rows.h"
 
 #include "catalogue/fetch/volume_cover.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/plan_script.h"
 
 #include "catalogue/sum_texts.h"

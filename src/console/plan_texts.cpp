@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is said of "plan".
 #include "console/command_texts.h"
 

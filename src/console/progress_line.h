@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How far a long piece of work has come: one line on standard error that is written over again and again, if
 // that is a terminal.
 #pragma once

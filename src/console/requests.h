@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the command line asks of the commands, out of the texts of its options.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Single values in rows for scripts and terminals. Millions of rows are made of them, so all are appended to
 // a buffer, and none asks for memory of its own.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/search_parts.h"
 
 #include "console/error_lines.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What all commands have in common that go over listings as a search does.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Rows of the commands that can write them as tables for scripts.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The help, the manual page and the shells' completions, made of command_texts.h.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/wanted_list.h"
 
 #include "platform/text_encoding.h"

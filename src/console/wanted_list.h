@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A list of wanted files, as a user or another program writes it.
 #pragma once
 

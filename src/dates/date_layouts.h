@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A locale's own form of dates as bytes at fixed places: the quick way to read what this program has written.
 #pragma once
 

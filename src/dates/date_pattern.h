@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A locale's date and time patterns, taken apart, and texts matched against them exactly as they are written.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Date texts in the one form that all matching is done in, and the words that are in them: month names, and
 // the two halves of a day.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Text looked at eight bytes at a time, as a number whose lowest byte is the first one: numbers at fixed
 // places are told from other text without a branch for each column.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Dates as the program keeps them, the calendar behind them, and how people of a locale write and read them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The general date forms of all locales, for texts that were written under another one than the user's.
 #pragma once
 

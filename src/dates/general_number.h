@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Numbers as people type them and as listings hold them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Dates and times as people write them, beyond the exact forms of their locale.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Taking edits of a list back, and making them again.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Asking the user for a file or a folder: the program shows dialogs, a test answers by itself.
 #pragma once
 

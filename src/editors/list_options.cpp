@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "editors/list_options.h"
 
 #include "texts/texts.h"

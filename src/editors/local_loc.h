@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The source editor: the dialog for the folders to search, and for the offline list files.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "editors/local_loc_controls.h"
 
 #include "editors/source_list_model.h"
@@ -17,7 +18,6 @@
 #include <initializer_list>
 
 namespace quorvin {
-
 namespace {
 
 constexpr int kLeastListCharacters = 46;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "editors/options_edit.h"
 
 #include "dates/general_date.h"

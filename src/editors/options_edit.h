@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the options dialog shows and stores, without its window.
 #pragma once
 

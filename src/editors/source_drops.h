@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Folders and listing files that are dropped onto a window to be searched.
 #pragma once
 

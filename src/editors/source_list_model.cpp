@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "editors/source_list_model.h"
 
 #include "texts/texts.h"

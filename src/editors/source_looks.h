@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is at the places of the sources that are edited: whether folder or file is there, and its listing.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A fault of the running program: the exception that every layer throws when something that the user asked
 // for cannot be done.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Open files and folders as the system knows them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Threads for what may have to wait for a drive: reading the user's files beside the user interface.
 #pragma once
 

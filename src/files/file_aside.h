@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Replacing a file as a whole. Everything in the program that makes or replaces a file does it in this way;
 // the one exception is OverwrittenFile.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which file it is, and whether it has changed.
 #pragma once
 

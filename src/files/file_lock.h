@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Keeping programs that change the same files apart.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Directory look-ups: which files fit a path whose last part may hold wildcards.
 #pragma once
 

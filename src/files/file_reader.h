@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading files, from front to back, at any place, and as memory. Only regular files are opened, and none
 // ever holds the program up.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Writing a file from its start to its end.
 #pragma once
 

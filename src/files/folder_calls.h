@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The calls that read a folder. Any thread may make them, several at a time on one folder. Errors are errno
 // values, 0 for none.
 #pragma once

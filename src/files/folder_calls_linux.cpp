@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // getdents64 and fstatat straight into buffers that are used again and again: the folder classes of libraries
 // allocate for each name and look each one up, which takes longer than the system's own work.
 #include "files/folder_calls.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // One folder as a walk with a plan reads it: all of its names, and what they stand for.
 #pragma once
 

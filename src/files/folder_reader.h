@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading a tree of folders, one folder open for reading at a time.
 #pragma once
 

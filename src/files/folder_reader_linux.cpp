@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The way down a tree on open folders, and what was read ahead of it.
 #include "files/folder_calls.h"
 #include "files/folder_reader.h"

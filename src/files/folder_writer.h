@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Writing files below a folder without ever leaving it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading folders ahead of the walk that comes to them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A map of a file whose end is not the program's.
 #pragma once
 

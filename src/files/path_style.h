@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Path arithmetic for both ways of writing paths. Every function takes the style as a parameter, so that the
 // rules of both are tested on every machine.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Handing work over to the threads of a pool.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "files/readers_at_once.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How many threads read the folders of a walk at the same time.
 #pragma once
 

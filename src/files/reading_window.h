@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the threads that read ahead of a walk share with it.
 #pragma once
 

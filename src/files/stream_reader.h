@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading what can be read only once: pipes, and what another program hands over.
 #pragma once
 

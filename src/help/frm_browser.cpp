@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "help/frm_browser.h"
 
 #include "texts/texts.h"

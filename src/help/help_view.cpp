@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "help/help_view.h"
 
 #include "texts/texts.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The page that the help browser shows, and finding words on it.
 #pragma once
 

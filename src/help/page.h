@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A page of the help browser: its address and its text.
 #pragma once
 

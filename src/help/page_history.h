@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where the reader has been: the pages behind and ahead, and the addresses that the address box offers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "history/listing_changes.h"
 
 #include "history/version_file.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a new listing has that the earlier one lacks, and the other way round.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "history/listing_history.h"
 
 #include "faults/runtime_fault.h"

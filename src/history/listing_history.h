@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What listings were before they were replaced. The files: docs/formats/listing-history.md.
 #pragma once
 

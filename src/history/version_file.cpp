@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "history/version_file.h"
 
 #include "files/file_reader.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // One kept version of a listing, in a file of its own. Layout: docs/formats/listing-history.md.
 #pragma once
 

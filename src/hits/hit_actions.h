@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the user can do with a hit, apart from the window.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Hits written to a file: as a table, as a page, or as a listing.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "hits/hit_export.h"
 #include "platform/text_encoding.h"
 #include "texts/texts.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Everything that is known of one hit, in words.
 #pragma once
 

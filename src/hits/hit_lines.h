@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Hits as lines of a CSV table (RFC 4180), with the texts of the hit list.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "hits/hit_list.h"
 
 #include "hits/hit_list_delegate.h"
@@ -15,7 +16,6 @@
 #include <cstdint>
 
 namespace quorvin {
-
 namespace {
 
 /// Rows far off the screen are all drawn this far off, so that coordinates stay small whatever the row.

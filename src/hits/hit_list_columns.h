@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the user has made of the hit list's columns.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How the cells and column titles of the hit list are drawn.
 #pragma once
 

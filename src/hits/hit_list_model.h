@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The hit table as the hit list's model, and which of its rows are selected.
 #pragma once
 

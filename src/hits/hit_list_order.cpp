@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "hits/hit_list_order.h"
 
 #include <QAccessible>

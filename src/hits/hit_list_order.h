@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The order of the hit list as the user chooses and sees it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where the files of many hits are, and how these hits are dragged to other programs.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window with everything that is known of a hit.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Lines of text with bold words: how wide they are, how they are cut and drawn.
 #pragma once
 

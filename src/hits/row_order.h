@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which hits are shown, and in what order.
 #pragma once
 

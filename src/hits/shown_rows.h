@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which rows of the hit table the rows of the list show.
 #pragma once
 

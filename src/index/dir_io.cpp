@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "index/dir_io.h"
 
 #include "files/file_lookup.h"

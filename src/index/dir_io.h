@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // DirIO: the folder indexer, which walks a tree of folders and writes a listing of it, and the base name of a
 // path. The layout of a listing: docs/formats/listing.md.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The lines of a listing. The whole layout: docs/formats/listing.md.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Names of files and folders as a listing can hold them.
 #pragma once
 

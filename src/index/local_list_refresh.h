@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The local list refresh: renews the listing of every online source.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "index/walk_faults.h"
 
 #include "index/listed_name.h"

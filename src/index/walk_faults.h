@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What becomes of a walk when a folder or a name in it cannot be read.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "metafile/boundary.h"
 
 #include "metafile/metafile_bytes.h"

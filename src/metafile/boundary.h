@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The boundary between the program with the windows and quorvin-metafile, the program that draws metafiles.
 //
 // Metafiles are small programs, and most of those that do harm come from strangers. So they are drawn by a

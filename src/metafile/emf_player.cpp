@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "metafile/emf_player.h"
 
 #include "metafile/dib.h"

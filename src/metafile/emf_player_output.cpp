@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Enhanced metafiles: bitmaps, gradients and text.
 #include "metafile/dib.h"
 #include "metafile/emf_player.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // quorvin-metafile: reads a metafile from its standard input, draws it, and writes the answer that boundary.h
 // describes to its standard output. Before it reads anything it limits itself, so that a file that was made
 // to do harm meets a process that can do none.

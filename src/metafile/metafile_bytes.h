@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading numbers out of a metafile, whose bytes nobody has checked before.
 #pragma once
 

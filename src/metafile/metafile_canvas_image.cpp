@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The canvas: bitmaps and gradients.
 #include "metafile/metafile_bytes.h"
 #include "metafile/metafile_canvas.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The canvas: text.
 #include "metafile/metafile_canvas.h"
 #include "metafile/near_path.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "metafile/near_path.h"
 
 #include <algorithm>

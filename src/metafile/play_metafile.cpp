@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "metafile/play_metafile.h"
 
 #include "metafile/emf_player.h"

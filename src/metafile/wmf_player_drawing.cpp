@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Windows metafiles: lines and areas, clips, bitmaps and text.
 #include "metafile/dib.h"
 #include "metafile/wmf_player.h"

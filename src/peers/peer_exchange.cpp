@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "peers/peer_exchange.h"
 
 #include "peers/messages/peer_message.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The peer list exchange as a whole: what the menu "Peers" works with.
 #pragma once
 

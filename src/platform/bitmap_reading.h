@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Reading bitmaps with the toolkit's reader, which needs help with two things.
 #pragma once
 

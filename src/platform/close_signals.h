@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The system's requests to end, as an event.
 #pragma once
 

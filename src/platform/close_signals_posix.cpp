@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "faults/runtime_fault.h"
 #include "platform/close_signals.h"
 #include "texts/texts.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The shell of the desktop that the program runs on.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Requests to servers that the program does not trust.
 #pragma once
 

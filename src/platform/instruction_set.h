@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which vector instructions the search uses.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The memory of the machine, and this program's part of it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/machine_memory.h"
 
 #ifdef __GLIBC__

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Asking and telling the user, without knowing how: the window shows boxes, the console writes lines, a test
 // records.
 #pragma once

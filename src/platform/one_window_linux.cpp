@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "faults/runtime_fault.h"
 #include "platform/one_window.h"
 #include "platform/standard_folders.h"

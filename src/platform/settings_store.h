@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The per-user settings store: texts kept between runs, addressed by application, section and key.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the desktop does with files for us: opening them, showing where they are, playing them; and which
 // program puts a file into the queue of an audio player.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Memory that takes up room only where it is used.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where the program is and where it may keep the user's files.
 #pragma once
 

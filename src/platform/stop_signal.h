@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Ctrl-C in the terminal as a request that long loops poll.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The program's texts on desktops that are read from right to left.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Text in the system code page: how the bytes of listings and source lists become characters and back.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The time zone that the machine is set to.
 #pragma once
 

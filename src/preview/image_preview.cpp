@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "preview/image_preview.h"
 
 #include "preview/in_background.h"

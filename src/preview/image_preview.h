@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Previewing pictures: what the main window's "Preview Image" does.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Work in another thread, with the result handed over to the user interface.
 #pragma once
 

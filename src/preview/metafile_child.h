@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The process that draws a metafile, seen from the program with the windows.
 #pragma once
 

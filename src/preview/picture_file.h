@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The file of a picture: its format, and how the image readers see it.
 #pragma once
 

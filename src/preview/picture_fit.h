@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The rule that fits a picture into its frame.
 #pragma once
 

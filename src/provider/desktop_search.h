@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The two ways in which desktops ask for files, by the bus: that of GNOME Shell and that of KRunner.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Finding files for the search of the desktop: at once, with what is kept of the listings.
 #pragma once
 

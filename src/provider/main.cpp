@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the search of the desktop asks for files. The bus starts it with the first question, and it ends by
 // itself when nobody has asked for a while.
 #include "provider/desktop_search.h"

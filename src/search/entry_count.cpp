@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/entry_count.h"
 
 #include "files/file_reader.h"

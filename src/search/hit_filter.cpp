@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/hit_filter.h"
 
 #include "platform/text_encoding.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which rows of a hit table hold certain words.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // From a hit back to the file on disk: a hit names its file only by volume, folder and entry text.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Sorting the rows of a hit table by one of their columns.
 #pragma once
 

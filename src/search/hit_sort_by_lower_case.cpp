@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/instruction_set.h"
 #include "platform/text_encoding.h"
 #include "search/hit_sort_ways.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The ways of sorting that HitSort chooses from, and what they have in common.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The hits of the last run, as rows of six columns. Rows are made into text only when they are asked for.
 #pragma once
 

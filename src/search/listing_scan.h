@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Scanning one listing from its start to its end.
 #pragma once
 

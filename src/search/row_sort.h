@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Sorting very many rows by keys, a slice of work at a time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/search_run.h"
 
 #include "faults/runtime_fault.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The search run: what the Find button starts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/segments_ahead.h"
 
 #include "search/listing_scan.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The segments of a large listing, searched by several threads.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which words of a search an entry holds, and where: what a search has found, explained.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "state/data_taken_along.h"
 
 #include "faults/runtime_fault.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What earlier versions kept beside the program, where an installed program and one in its build folder keep
 // nothing any more.
 #pragma once

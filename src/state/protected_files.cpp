@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "state/protected_files.h"
 
 #include "files/file_identity.h"

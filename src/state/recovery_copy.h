@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the user has changed since the program started, kept while it runs, so that a crash costs nothing.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "state/settings.h"
 
 #include "dates/general_number.h"

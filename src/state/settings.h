@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The ten settings: their defaults of a first run, reading them at start-up, writing them at shutdown; and
 // the local data folder, which is one of them. What start-up could not read is not overwritten by shutdown.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "state/source_entries.h"
 
 #include "texts/texts.h"

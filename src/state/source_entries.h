@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Sources as the user edits them, and what may be among them.
 #pragma once
 

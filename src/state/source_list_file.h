@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The two source list files: reading them, and saving them when the program ends. Their layout:
 // docs/formats/source-lists.md.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The table of one kind of source, online or offline.
 #pragma once
 

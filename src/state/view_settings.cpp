@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "state/view_settings.h"
 
 #include "state/search_history.h"

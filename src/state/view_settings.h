@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How the user wants to see things, kept from run to run.
 #pragma once
 

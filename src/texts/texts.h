@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the programs say to people. Every text that a user reads is marked here, and nowhere in another way:
 // the translations are made of what is marked.
 #pragma once

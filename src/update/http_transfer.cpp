@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "update/http_transfer.h"
 
 #include "platform/http_request.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The archive of the main data file: getting a newer one from a web server, and unpacking it.
 #pragma once
 

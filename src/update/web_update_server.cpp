@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "update/web_update_server.h"
 
 #include "dates/general_date.h"

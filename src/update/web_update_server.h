@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where the web server keeps the archive, and what its headers say of it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which long jobs may run beside each other.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "work/progress.h"
 
 #include "platform/screen_room.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that shows how far a long piece of work has come.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a long job shows of itself, and how it lets the program live on.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The accessibility bus, as a screen reader uses it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Runs tests that talk to other programs over a bus.
 #include <QCoreApplication>
 #include <gtest/gtest.h>

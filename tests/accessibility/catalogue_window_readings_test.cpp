@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The windows about listings as a screen reader finds them.
 #include "accessibility/read_windows.h"
 #include "history/listing_history.h"

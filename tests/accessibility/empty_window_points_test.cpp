@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The first steps in an empty window and its editor by keys alone, read over the accessibility bus.
 #include "accessibility/keyboard_points.h"
 

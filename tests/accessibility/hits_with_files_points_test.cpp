@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is done with hits whose files are there, by keys and by dragging, read over the accessibility bus.
 #include "accessibility/keyboard_points.h"
 #include "files/path_style.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the program can do, point by point: done by keys alone, and read over the accessibility bus.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The main window as a screen reader finds it.
 #include "accessibility/readings.h"
 #include "gui/search_form_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The hit list by keys alone, read over the accessibility bus, with as many hits as large catalogues have.
 #include "accessibility/keyboard_points.h"
 #include "files/path_style.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Windows as a screen reader finds them: what tests of them have in common.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The real program on a desktop of the test's own, used over the accessibility bus alone.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The running program as a screen reader hears it over the accessibility bus.
 #include "accessibility/running_program_fixture.h"
 #include "support/eventually.h"

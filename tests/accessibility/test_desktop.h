@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A desktop of a test's own with buses: a session bus, and the accessibility bus on it.
 #pragma once
 

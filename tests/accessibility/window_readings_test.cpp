@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Every window but the main one as a screen reader finds it: which controls there are, by which names the
 // program knows them and by which names they are read.
 #include "accessibility/read_windows.h"

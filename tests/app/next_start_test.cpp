@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a run leaves for the next one.
 #include "app/shutdown_fixture.h"
 #include "app/start_up_fixture.h"

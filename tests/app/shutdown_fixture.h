@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A shutdown with everything around it faked, after a start-up that found nothing stored.
 #pragma once
 

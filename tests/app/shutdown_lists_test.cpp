@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What becomes of a list on disk that is not the one that was read.
 #include "app/shutdown_fixture.h"
 #include "support/fault_number.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/start_up_fixture.h"
 #include "support/qt_printing.h"
 

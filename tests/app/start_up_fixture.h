@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A start-up with everything around it faked, in a current folder of the test's own.
 #pragma once
 

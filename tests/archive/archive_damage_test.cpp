@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Archives that are cut or changed anywhere.
 #include "archive/archive_fixture.h"
 #include "faults/runtime_fault.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where an archive ends.
 #include "archive/archive_end.h"
 

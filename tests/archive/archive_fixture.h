@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Unpacking made archives into a folder of the test, inside another one that must stay as it is.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Archives of other programs, and the ways in which they write them.
 #include "archive/archive_fixture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Zip archives made byte by byte, honest ones and others.
 #pragma once
 

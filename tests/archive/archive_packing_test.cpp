@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The archives in which listings are shared.
 #include "archive/archive_packing.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Archives made to do harm: each is refused with a message, and nothing is written outside or inside.
 #include "archive/archive_plan.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What unpacking does with honest archives, and with ones that are damaged on the way.
 #include "archive/archive_fixture.h"
 #include "faults/runtime_fault.h"

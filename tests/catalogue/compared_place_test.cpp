@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What can be compared, and folders as they are now.
 #include "catalogue/compared_place.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Copies in generated catalogues, against a plain reference.
 #include "catalogue/found_copies.h"
 #include "catalogue/plain_copies.h"

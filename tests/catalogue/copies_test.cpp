@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which files are the same, and what is said of them.
 #include "catalogue/found_copies.h"
 #include "support/listing_lines.h"

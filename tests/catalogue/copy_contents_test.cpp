@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Looking into the files that may be copies of each other.
 #include "catalogue/copy_contents.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The lists of "dir /s" in the languages that are known.
 #include "catalogue/import/list_formats.h"
 #include "catalogue/list_entries.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/import/entry_sorter.h"
 
 #include "support/temporary_folder.h"

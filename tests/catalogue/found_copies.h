@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Copies found in listings that a test writes.
 #pragma once
 

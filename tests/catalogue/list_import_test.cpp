@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/import/list_import.h"
 
 #include "support/qt_printing.h"

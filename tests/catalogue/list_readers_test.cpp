@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Rows of each format, as their programs write them.
 #include "catalogue/import/list_readers.h"
 

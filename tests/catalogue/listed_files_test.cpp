@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/listed_files.h"
 
 #include "catalogue/found_copies.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/listing_comparison.h"
 
 #include "catalogue/opened_bytes.h"

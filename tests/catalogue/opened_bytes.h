@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Listings in memory for what opens them.
 #pragma once
 

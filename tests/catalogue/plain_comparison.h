@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a comparison of two listings finds, written as plainly as possible. It judges the fast way.
 #pragma once
 

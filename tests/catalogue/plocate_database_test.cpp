@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Databases of plocate. The program that reads them is a script of the test's own.
 #include "catalogue/import/plocate_database.h"
 

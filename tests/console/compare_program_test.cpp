@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "quorvin-cli compare" as a user runs it.
 #include "console/console_program.h"
 #include "platform/ini_settings_store.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/compare_rows.h"
 
 #include "catalogue/opened_bytes.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The console program as a user runs it, in folders of the test's own.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "copies" as a user runs it.
 #include "console/console_program.h"
 #include "support/listing_lines.h"

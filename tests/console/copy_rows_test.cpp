@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/copy_rows.h"
 
 #include "catalogue/found_copies.h"

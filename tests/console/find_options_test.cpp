@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The options of "quorvin-cli find" for scripts, as a user runs it.
 #include "console/console_program.h"
 #include "files/descriptor.h"

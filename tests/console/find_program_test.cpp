@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The console program as a user runs it.
 #include "platform/ini_settings_store.h"
 #include "support/listing_lines.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the program says of itself: one description of each command, in the help, the manual page and the
 // completions.
 #include "console/console_program.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Rows that are made quickly are those that are made plainly, byte for byte.
 #include "console/plain_hit_rows.h"
 #include "support/qt_printing.h"

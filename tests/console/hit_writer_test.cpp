@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "console/hit_writer.h"
 
 #include "search/segment/segment.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "quorvin-cli import" as a user runs it, with lists that the real programs make of a real tree.
 #include "console/console_program.h"
 #include "support/plain_walker.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Names that other programs stumble over, catalogued, found in each format, and read back by a plain parser.
 #include "console/console_program.h"
 #include "support/qt_printing.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Rows of hits made as plainly as possible: each value of each row by itself, by way of QString. It judges
 // HitRows, which makes them quickly.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where the console program looks for the user's sources when it runs from the folder that it was built in.
 #include "console/console_program.h"
 #include "support/listing_lines.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // "quorvin-cli sources", and what "refresh" does with the names that it shows, as a user runs them.
 #include "console/console_program.h"
 #include "platform/ini_settings_store.h"

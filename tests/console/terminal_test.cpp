@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What "quorvin-cli find" does on a terminal and nowhere else.
 #include "console/console_program.h"
 #include "files/descriptor.h"

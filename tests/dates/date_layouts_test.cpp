@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Dates as bytes at fixed places: what is read so is what the lenient reader reads.
 #include "dates/date_layouts.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which of two numbers is the day, and what a date says about that. 38080 is 3 April 2004, 38050 4 March.
 #include "dates/general_date_reader.h"
 #include "dates/read_general_date.h"

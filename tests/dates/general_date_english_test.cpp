@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What dates mean to people who write English, and to programs that write no language at all.
 #include "dates/read_general_date.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What dates mean to people who write German, French or Swedish; and a few forms of their neighbours.
 #include "dates/read_general_date.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The quick way of reading bytes is held against the full one.
 #include "dates/general_date_reader.h"
 #include "dates/general_date_writer.h"

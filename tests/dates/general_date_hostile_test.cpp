@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Texts that nobody means well with.
 #include "dates/general_date_reader.h"
 #include "dates/general_date_writer.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What dates mean to people who write Japanese; and forms of neighbours who use the same signs.
 #include "dates/read_general_date.h"
 

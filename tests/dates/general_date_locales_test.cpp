@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Writing and reading are each other's inverse in every locale that the desktop knows.
 #include "dates/general_date.h"
 #include "dates/general_date_reader.h"

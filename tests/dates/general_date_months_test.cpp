@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The twelve months by name, long and short, and in Japanese, where each is a number with a sign.
 #include "dates/read_general_date.h"
 

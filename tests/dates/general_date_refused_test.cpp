@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is no date, or none that can be trusted.
 #include "dates/general_date_reader.h"
 #include "dates/read_general_date.h"

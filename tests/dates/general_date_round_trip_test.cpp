@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is written is read back, to the second.
 #include "dates/general_date.h"
 #include "dates/general_date_reader.h"

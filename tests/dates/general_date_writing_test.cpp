@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How dates are written.
 #include "dates/general_date.h"
 #include "dates/general_date_writer.h"

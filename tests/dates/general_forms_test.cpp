@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Dates that were written under another locale than the reader's.
 #include "dates/general_forms.h"
 

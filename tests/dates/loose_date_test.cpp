@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Dates and times as people write them. Days are counted from 30 December 1899: 37987 is 1 January 2004.
 #include "dates/loose_date.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // One row of the tables of dates: what a text means to people of a locale.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Closing the real program while it works.
 #include "archive/archive_maker.h"
 #include "e2e/running_program.h"

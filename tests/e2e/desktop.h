@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A desktop of the test's own: a screen that nobody sees, with a window manager and a keyboard.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Runs the tests of the real program; the test itself needs no window.
 #include <QCoreApplication>
 #include <gtest/gtest.h>

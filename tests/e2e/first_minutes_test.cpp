@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The first minutes of somebody who has just installed the program: from an empty home to a file that is
 // found, by the mouse, with nothing but what the windows say.
 #include "accessibility/accessible_bus.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // As many sources as a list can hold, through a whole life of the program, and one more.
 #include "e2e/source_records.h"
 #include "e2e/whole_program.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Being a user whom permissions bind.
 #pragma once
 

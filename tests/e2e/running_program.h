@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The real program, used by keyboard as a person uses it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Programs that close at the same moment.
 #include "e2e/windowless_program.h"
 #include "state/source_list_file.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Closing the program where something cannot be saved: what is reported, what stays, what is saved all the
 // same.
 #include "e2e/ordinary_user.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A program that is killed while it saves, at any moment.
 #include "e2e/killed_process.h"
 #include "e2e/windowless_program.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Runs the tests of saving with an application object, and without a screen unless one is asked for.
 #include "app/main_application.h"
 #include "support/recording_message_boxes.h"

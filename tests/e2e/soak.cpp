@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The soak: two real programs are used at random for long, and compared with a plain model all the time.
 //
 // One of them, "steady", runs from the first step to the last, so that what it takes up can be followed. The

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is on the disk, and what is catalogued of it, kept as plainly as can be: the judge of a soak.
 #pragma once
 

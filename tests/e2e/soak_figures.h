@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a running program takes up, and how that changes over a soak.
 #pragma once
 

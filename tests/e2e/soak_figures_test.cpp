@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The measure by which a soak finds that a program grows.
 #include "e2e/soak_figures.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A real program that is used at random for long, with all that it has to know.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How the program ends, and what is on the disk then.
 #include "e2e/soaked_program.h"
 #include "support/plain_walker.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Listings that are cut short by a refresh that is cancelled, and listings that are brought back.
 #include "e2e/soaked_program.h"
 

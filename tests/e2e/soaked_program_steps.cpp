@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a user does with the program besides searching, refreshing and closing.
 #include "archive/archive_maker.h"
 #include "e2e/soaked_program.h"

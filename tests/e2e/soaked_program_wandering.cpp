@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Keys and windows at random, and a message that comes when it likes.
 #include "e2e/soaked_program.h"
 

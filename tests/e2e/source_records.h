@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Source lists as they stand on disk.
 #pragma once
 

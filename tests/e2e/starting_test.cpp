@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Starting the real program: more than once, on listings, with options, and from the folder it was built in;
 // and its end when the system wants it.
 #include "e2e/running_program.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Two real programs, each with settings and folders of its own, exchange their lists over TCP.
 #include "e2e/running_program.h"
 #include "e2e/source_records.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A web site on this machine with one document, for a test that waits for other things meanwhile.
 #pragma once
 

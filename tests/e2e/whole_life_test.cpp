@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Whole lives of the real program: what was set, added and found is there again after a new start.
 #include "e2e/running_program.h"
 #include "e2e/source_records.h"

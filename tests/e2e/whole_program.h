@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The program with its main window, put together as main() does, inside the test.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The program without its window, for processes that are to end in many ways.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The dialogs for picking files and folders, answered as a person would.
 #include "editors/dialog_driving.h"
 #include "editors/file_picker.h"

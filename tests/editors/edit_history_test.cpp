@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Taking edits back and making them again, without a window.
 #include "editors/edit_history.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Runs the tests of the editors with an application object, and without a screen unless one is asked for.
 #include "editors/last_resort_faults.h"
 

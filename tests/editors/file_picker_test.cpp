@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "editors/file_picker.h"
 
 #include "editors/recording_file_picker.h"

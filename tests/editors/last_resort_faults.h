@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The faults that no handler of a window has dealt with.
 #pragma once
 

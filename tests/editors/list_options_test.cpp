@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The options dialog by clicks and keys.
 #include "editors/list_options_fixture.h"
 

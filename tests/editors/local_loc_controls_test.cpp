@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The layout of the source editor.
 #include "editors/local_loc_fixture.h"
 

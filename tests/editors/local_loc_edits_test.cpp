@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Edits of the source editor that are taken back, and what its rows say of the sources.
 #include "editors/local_loc_fixture.h"
 #include "support/eventually.h"

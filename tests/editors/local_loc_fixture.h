@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The source editor on a state of the test's own.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The source editor by keys alone.
 #include "editors/local_loc_fixture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // As many sources as a list can hold, and one more.
 #include "editors/local_loc_fixture.h"
 #include "state/source_list_file.h"

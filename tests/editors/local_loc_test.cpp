@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The source editor in the mode for folders, by clicks.
 #include "editors/last_resort_faults.h"
 #include "editors/local_loc_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Storing the options, step by step.
 #include "editors/options_edit.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A file picker for tests: it records the questions and gives the answer that was set.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is dropped, and what becomes a source of it.
 #include "editors/source_drops.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is found at the places of sources, and in which words.
 #include "editors/source_looks.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A library that is loaded before all others (LD_PRELOAD) and makes one chosen system call of a program fail
 // or never return.
 //

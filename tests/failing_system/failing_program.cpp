@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "failing_system/failing_program.h"
 
 #include "support/temporary_folder.h"

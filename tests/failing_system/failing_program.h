@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A program one of whose system calls fails, or at one of whose system calls it is killed.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The program and the console while the system fails them: every call of every kind once, until a run gets
 // through.
 #include "archive/archive_maker.h"
@@ -19,7 +21,6 @@
 #include <random>
 
 namespace quorvin::test {
-
 namespace {
 
 /// The contents of all files below a folder by their names.

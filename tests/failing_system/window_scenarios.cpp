@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the program with the window does with the user's files, without a person: "closing", "update",
 // "exchange", "start", "search", "refresh", "copy", "export".
 //

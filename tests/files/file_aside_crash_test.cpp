@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What FileAside leaves when the program is killed at any moment, and when any step fails.
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"

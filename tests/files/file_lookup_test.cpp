@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "files/file_lookup.h"
 
 #include "support/qt_printing.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is read ahead of a walk, and what is not.
 #include "files/folders_ahead.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Writing to a disk that is nearly full.
 #pragma once
 

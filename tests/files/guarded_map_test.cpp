@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "files/guarded_map.h"
 
 #include "support/fault_number.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What killed programs leave behind, and what of it is removed.
 #include "files/file_aside.h"
 #include "support/qt_printing.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Replacing a file in one call.
 #include "faults/runtime_fault.h"
 #include "files/file_aside.h"

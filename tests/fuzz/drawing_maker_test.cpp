@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Drawings that are made for the fuzz targets, and the seeds that were made so.
 #include "fuzz/drawing_maker.h"
 

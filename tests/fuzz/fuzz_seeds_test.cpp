@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The seeds of all fuzz targets: what a target holds an input against holds for them.
 #include "support/sweep.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Changes as a tree.
 #include "catalogue/compare_model.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that compares, as a person comes to it and uses it.
 #include "catalogue/compare_window.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What views are told of the copies found.
 #include "catalogue/copies_model.h"
 

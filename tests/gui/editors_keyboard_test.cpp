@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The source editors and the options by keys alone, opened from the menu of the main window.
 #include "editors/list_options.h"
 #include "editors/local_loc.h"

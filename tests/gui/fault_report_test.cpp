@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Telling faults that nothing else has dealt with.
 #include "app/fault_report.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Runs the tests of the windows with an application object, and without a screen unless one is asked for.
 #include "app/main_application.h"
 #include "gui/last_resort_messages.h"

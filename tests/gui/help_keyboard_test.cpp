@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The help browser by keys alone, with the real pages, opened from the menu of the main window.
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"

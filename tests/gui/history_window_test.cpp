@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that shows the earlier versions of listings, as a person comes to it and uses it.
 #include "history/history_window.h"
 

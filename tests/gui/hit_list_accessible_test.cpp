@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The main window as assistive technology sees it.
 #include "gui/search_form_fixture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that turns lists of other programs into listings, as a person comes to it and uses it.
 #include "catalogue/import/import_window.h"
 

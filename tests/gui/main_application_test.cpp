@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Faults that reach the edge of the event loop.
 #include "app/main_application.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The menus by keys alone: every item of the menu bar is reached and does what it names.
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The windows where people write from right to left.
 #include "app/main_application.h"
 #include "catalogue/copies_window.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that shows the progress of a long piece of work.
 #include "work/progress.h"
 

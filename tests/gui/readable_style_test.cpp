@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Colours, frames and captions of the program's windows.
 #include "app/readable_style.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "app/main_application.h"
 #include "gui/search_form_fixture.h"
 #include "state/source_list_file.h"

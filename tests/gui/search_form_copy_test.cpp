@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Copying hits from the real window, few of them and very many.
 #include "app/search_form_copy.h"
 

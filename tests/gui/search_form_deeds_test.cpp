@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What can be done with the selected hits, whether their files are there or not.
 #include "gui/keys.h"
 #include "gui/window_hits_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a start asks of the real main window.
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Exporting hits from the real window.
 #include "app/search_form_export.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // F1 in each window, and the page of the manual that lists the keys.
 #include "app/search_form_help.h"
 

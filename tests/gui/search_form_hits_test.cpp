@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Acting on hits with the mouse and the keys of the real window.
 #include "gui/window_hits_fixture.h"
 #include "support/eventually.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The main window by keys alone: searching, going through the hits, and doing something with one.
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"

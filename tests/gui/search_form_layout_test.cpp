@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The layout of the main window, to the number.
 #include "app/search_form_controls.h"
 #include "gui/search_form_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The mouse over as many hits as large catalogues have.
 #include "gui/window_hits_fixture.h"
 #include "hits/hit_list_model.h"

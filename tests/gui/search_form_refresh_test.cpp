@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The local list refresh, started and watched in the real window.
 #include "files/file_lock.h"
 #include "gui/search_form_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Searching with the real window: typing, pressing Find and Stop, reading rows, colours and labels.
 #include "gui/search_form_fixture.h"
 

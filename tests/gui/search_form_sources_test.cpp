@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Sources on their way into the real main window: offered in an empty one, and dropped onto it.
 #include "app/search_form_sources.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the main window says about its searches: in the line at the bottom, and in the list where it is empty.
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The main window before a run: its controls, menus, keys and what it shows.
 #include "app/search_form_controls.h"
 #include "gui/search_form_fixture.h"

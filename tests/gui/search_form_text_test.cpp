@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The box of the search text: earlier texts, by Down, by its button and behind what is typed.
 #include "app/search_form_text.h"
 

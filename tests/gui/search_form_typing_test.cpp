@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Searching while the words are being typed.
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"

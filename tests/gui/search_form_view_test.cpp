@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The View menu of the main window: order, columns and filter, by mouse and by keys alone.
 #include "gui/keys.h"
 #include "gui/search_form_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The windows that the main window opens: above which window, how often, and how they are closed with it.
 #include "app/search_form_windows.h"
 

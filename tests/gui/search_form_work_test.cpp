@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Long jobs beside each other, in the real window.
 #include "archive/archive_maker.h"
 #include "gui/search_form_fixture.h"

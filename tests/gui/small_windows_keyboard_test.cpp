@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The small windows by keys alone: what they are for is done, and they are left.
 #include "app/main_application.h"
 #include "gui/keys.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a tree shows, as text that can be compared.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Message boxes on the screen, answered as a user would.
 #include "app/main_application.h"
 #include "support/qt_printing.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The real main window with files of the test's own among its hits, and what people do with them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Every window on a small screen, with large letters, where people write from right to left, and in each
 // language: it fits the screen, nothing of it is outside, no caption is cut, and each letter of a caption
 // leads to one control.

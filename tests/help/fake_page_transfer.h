@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A transfer where the test decides what comes, and when.
 #pragma once
 

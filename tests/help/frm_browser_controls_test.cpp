@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The measures of the help browser, and what its parts are called.
 #include "help/frm_browser_fixture.h"
 

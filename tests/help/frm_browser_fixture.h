@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The real help browser, over a help folder of the test's own.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Hostile pages: nothing that they name outside the help is opened, and the window stays responsive.
 #include "help/frm_browser_fixture.h"
 #include "support/sweep.h"

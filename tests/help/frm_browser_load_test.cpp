@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // When the help browser opens its starting page, and when it does not.
 #include "help/frm_browser_fixture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The help browser's toolbar, address list and keys.
 #include "help/frm_browser_fixture.h"
 #include "support/eventually.h"

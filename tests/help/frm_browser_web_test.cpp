@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Pages of the web in the help browser: being busy, and stopping.
 #include "help/frm_browser_fixture.h"
 #include "help/loopback_server.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The help pages hold together: every link and every picture of every page works in the help browser.
 #include "help/fake_page_transfer.h"
 #include "help/frm_browser.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Finding words on a help page.
 #include "help/frm_browser_fixture.h"
 

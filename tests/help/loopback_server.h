@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A real server on this machine, which answers as the test wants.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the manual says of the match percentage is what the search does.
 #include "help/manual_pages.h"
 #include "support/listing_lines.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The help pages as they are in the source tree.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "help/page_loader.h"
 
 #include "help/fake_page_transfer.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A data folder whose listings are replaced.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How much is kept of a listing, and what is never given up.
 #include "history/history_fixture.h"
 

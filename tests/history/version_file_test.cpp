@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Damaged versions are known as such; they cost neither the listing nor what is
 // kept later.
 #include "history/version_file.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The setting for the user's own audio player, as it is stored.
 #include "hits/hit_actions.h"
 #include "support/memory_settings_store.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is done with a hit, seen from what the shell is asked for.
 #include "hits/hit_actions.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // One text of many hits, made while events run.
 #include "hits/hit_copy.h"
 

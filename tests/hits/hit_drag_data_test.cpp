@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is dragged out of the list of hits, and when it is made.
 #include "hits/hit_paths.h"
 #include "hits/scan_into.h"

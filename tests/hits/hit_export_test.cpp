@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Hits written to files, and read again.
 #include "hits/hit_export.h"
 

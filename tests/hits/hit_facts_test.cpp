@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is known of a hit, in words, and where its line is.
 #include "hits/hit_facts.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The colours in which rows are drawn on light and dark backgrounds.
 #include "hits/hit_list_delegate.h"
 

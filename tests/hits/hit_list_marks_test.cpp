@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The marks that tell the kinds of source apart without their colours.
 #include "hits/hit_list_delegate.h"
 #include "hits/painted_list.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The model of the hit list over a real hit table.
 #include "hits/hit_list_model.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Clicks on the titles of the hit list, and what happens to the selection when rows change their places.
 #include "hits/hit_list_order.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Selecting several rows of the hit list, also very many, and the requests to open and for the menu.
 #include "hits/hit_list.h"
 #include "hits/hit_list_model.h"

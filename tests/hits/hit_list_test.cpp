@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The hit list's view: scrolling, selecting and painting without a cost for rows that are not seen.
 #include "hits/hit_list.h"
 

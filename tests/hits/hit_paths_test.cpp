@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Many look-ups in the same folders, with no folder read twice.
 #include "hits/hit_paths.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A model with any number of rows that remembers which of them were asked for.
 #pragma once
 

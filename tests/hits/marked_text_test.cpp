@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "hits/marked_text.h"
 
 #include <QApplication>

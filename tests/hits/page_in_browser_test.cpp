@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The exported page in a real browser without a screen: searched and sorted as people do it, with keys and
 // clicks, over the browser's own debugging pipe.
 #include "hits/hit_export.h"

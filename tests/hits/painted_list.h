@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Hit lists that are painted, and what can be seen of them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which rows of a table are shown and in what order, while events run.
 #include "hits/row_order.h"
 

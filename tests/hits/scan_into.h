@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Filling a hit table as a run does, from a listing in memory.
 #pragma once
 

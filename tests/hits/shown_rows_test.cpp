@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which rows of the table the rows of a list show, also while they are being sorted.
 #include "hits/shown_rows.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The walk down a tree as deep as trees get.
 #include "index/walk_fixture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The walk when folders and names cannot be read.
 #include "index/walk_fixture.h"
 #include "support/fault_number.h"

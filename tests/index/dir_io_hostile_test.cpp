@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The walk over names that a file system allows and nobody expects.
 #include "index/hostile_names.h"
 #include "index/walk_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The walk over folders that hold no surprises.
 #include "index/walk_fixture.h"
 #include "support/fault_number.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "index/entry_line.h"
 
 #include "support/time_zone.h"

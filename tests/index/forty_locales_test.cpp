@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A catalogue travels: listings and settings that were written under one locale are read under another.
 #include "dates/general_date.h"
 #include "index/entry_line.h"

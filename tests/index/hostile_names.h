@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Names that a Linux file system allows and that nobody expects.
 #pragma once
 

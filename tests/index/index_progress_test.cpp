@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The estimate of how much of a refresh is done.
 #include "index/index_progress.h"
 

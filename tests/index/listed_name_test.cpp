@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "index/listed_name.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The refresh when listings cannot be written.
 #include "files/full_disk.h"
 #include "index/refresh_fixture.h"

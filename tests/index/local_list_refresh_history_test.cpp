@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a refresh keeps of the listings that it replaces, and what it says of them.
 #include "history/listing_history.h"
 #include "index/refresh_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A refresh that is killed at any moment leaves every listing as the old or the new one, whole.
 #include "index/refresh_fixture.h"
 #include "support/system_call_watch.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A real tree, indexed by the refresh, held against a plain walk and searched file by file. The tree is
 // /usr/include, or the folder that the environment names in QUORVIN_REAL_TREE (with a slash at its end), of
 // which then every file is searched for.

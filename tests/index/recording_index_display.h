@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What an indexing or a refresh shows, recorded.
 #pragma once
 

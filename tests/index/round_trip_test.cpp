@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the walk writes, the scan reads back, in every locale tried.
 #include "dates/general_date.h"
 #include "index/walk_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Walks that read ahead, where something fails, changes or hangs.
 #include "index/walk_ahead_fixture.h"
 #include "support/plain_walker.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the tests of walks that read ahead share.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Walks that read ahead give what a walk gives that reads everything when it comes to it.
 #include "index/walk_ahead_fixture.h"
 #include "support/descriptors.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The console companion runs on servers without any windows, and the desktop's search starts its helper
 // before anybody wants a window; nothing may pull windows in by the back door.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // There is one way to replace a file.
 #include "lint/source_tree.h"
 

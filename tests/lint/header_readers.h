@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Who reads a header: one that serves a single file and has no test of its own is better off inside that
 // file.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The table of who may include whom, and how a source file is held against it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "lint/include_rules.h"
 
 #include <gmock/gmock.h>

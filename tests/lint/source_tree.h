@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The files of the project, as the lint tests read them.
 #pragma once
 

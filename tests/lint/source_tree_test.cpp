@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The rules that hold for every file of the project.
 
 #include "lint/source_tree.h"
@@ -96,6 +98,34 @@ TEST(SourceTree, NoFileIsLongerThan400Lines) {
   for (const SourceFile& file : codeFiles()) {
     const std::ptrdiff_t lines = std::ranges::count(file.text, '\n');
     EXPECT_LE(lines, kLongestFile) << file.path << " holds more than one idea; give each a file of its own.";
+  }
+}
+
+/// All that is compiled or run: code, what builds it, and scripts, whatever their names end in.
+std::vector<SourceFile> filesWithALicence() {
+  std::vector<SourceFile> files = codeFiles();
+  for (const char* folder :
+       {"src", "tests", "benchmarks", "fuzz", "scripts", "cmake", "packaging", "debian"}) {
+    for (SourceFile& file : filesBelow(folder, {""})) {
+      const bool builds = file.path.ends_with("CMakeLists.txt") || file.path.ends_with(".cmake");
+      const bool script =
+          file.text.starts_with("#!") || file.path.ends_with(".py") || file.path.ends_with(".sh");
+      if (builds || script) files.push_back(std::move(file));
+    }
+  }
+  for (const char* path : {"run", "test", "CMakeLists.txt"}) files.push_back({path, projectText(path)});
+  return files;
+}
+
+TEST(SourceTree, EveryFileOfCodeNamesItsLicenceInItsFirstLines) {
+  const std::string_view licence = "SPDX-License-Identifier: GPL-2.0-or-later\n";
+  const std::vector<SourceFile> files = filesWithALicence();
+  EXPECT_GT(files.size(), 1000U);
+  for (const SourceFile& file : files) {
+    const std::size_t second = file.text.find('\n') + 1;
+    const std::size_t third = file.text.find('\n', second) + 1;
+    EXPECT_NE(file.text.substr(0, third).find(licence), std::string::npos)
+        << file.path << " begins with \"" << licence << "\", after the line that says what runs it.";
   }
 }
 

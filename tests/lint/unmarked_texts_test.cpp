@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What users read is marked for translation. A literal that reads like a sentence and is not marked is found;
 // a single word is not, since most of those are names.
 #include "lint/source_tree.h"

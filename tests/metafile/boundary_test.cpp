@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What quorvin-metafile answers, and how far its answers are trusted.
 #include "metafile/boundary.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The bitmap without file header that bitmap files, icons and metafiles hold.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What of a metafile is not drawn is said; and what is drawn of the rarer records.
 #include "metafile/dib_writer.h"
 #include "metafile/metafile_corpus.h"

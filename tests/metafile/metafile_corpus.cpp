@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "metafile/metafile_corpus.h"
 
 #include "metafile/dib_writer.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Metafiles of every kind of drawing, and what must be seen of them.
 #pragma once
 

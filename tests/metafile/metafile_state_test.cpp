@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a metafile sets before it draws.
 #include "metafile/metafile_state.h"
 

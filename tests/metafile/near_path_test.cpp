@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is cut off far beyond the sheet, and what stays as it is.
 #include "metafile/near_path.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Metafiles look as their records say, and as other people's programs draw them.
 #include "metafile/play_metafile.h"
 

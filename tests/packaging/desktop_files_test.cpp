@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What desktops read of the program: kinds of files, and how file managers start it on a folder.
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What "cmake --install" puts where.
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

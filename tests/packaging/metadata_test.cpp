@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What packages say of the program is the same everywhere.
 #include "support/qt_printing.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The stream of a server, split and joined anywhere.
 #include "peers/client/answer_stream.h"
 

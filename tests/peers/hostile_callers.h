@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Callers that a server would rather not have, many at a time.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Telling what came from a peer, and adding it to the offline sources.
 #include "peers/client/list_offer.h"
 

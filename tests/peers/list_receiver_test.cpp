@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The receiving end of a conversation: what of it becomes files.
 #include "peers/client/list_receiver.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Offering the listings of the online sources.
 #include "peers/server/list_sharing.h"
 

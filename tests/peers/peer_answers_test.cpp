@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a server answers.
 #include "faults/runtime_fault.h"
 #include "peers/peer_program.h"

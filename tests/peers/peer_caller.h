@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A client written by hand: it says what a test tells it, and gives back the very bytes that come.
 #pragma once
 

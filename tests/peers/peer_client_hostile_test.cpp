@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The client, with servers that fail or mean ill.
 #include "files/full_disk.h"
 #include "peers/client/peer_client.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The client, served by a scripted server.
 #include "peers/client/peer_client.h"
 

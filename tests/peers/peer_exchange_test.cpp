@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Two programs, each with its own state and folder, that exchange lists.
 #include "peers/peer_exchange.h"
 

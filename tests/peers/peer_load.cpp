@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "peers/peer_load.h"
 
 #include "peers/hostile_callers.h"

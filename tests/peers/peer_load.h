@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How a server fares under a load of hostile callers.
 #pragma once
 

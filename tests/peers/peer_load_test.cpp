@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The server under load. benchmarks/peer_load does the same for longer, and prints the figures.
 #include "peers/peer_load.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The messages of the exchange, byte for byte.
 #include "peers/messages/peer_message.h"
 

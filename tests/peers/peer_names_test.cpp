@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Names and texts of peers: as names of files, as addresses, and as messages show them.
 #include "peers/messages/peer_names.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The parts of a program that the peer exchange works with, with a data folder of its own.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a server lets callers take up.
 #include "peers/peer_caller.h"
 #include "peers/server/peer_server.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The server on the wire, spoken to by clients written by hand.
 #include "peers/server/peer_server.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A server for tests: it sends what the test tells it, in pieces that arrive one by one.
 #pragma once
 

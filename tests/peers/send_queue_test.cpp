@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The send queue and its timer.
 #include "peers/messages/send_queue.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The desktop's shell, on a session bus of the test's own, with a file manager and players of the test's own.
 #include "platform/desktop_shell.h"
 

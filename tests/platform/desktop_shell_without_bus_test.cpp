@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The desktop's shell where there is no session bus, as over a remote connection or under a bare window
 // manager.
 #include "platform/desktop_shell.h"

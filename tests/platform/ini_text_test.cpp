@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/ini_settings_store.h"
 #include "support/qt_printing.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What freed memory is kept in.
 #include "platform/machine_memory.h"
 

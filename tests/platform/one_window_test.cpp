@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/one_window.h"
 
 #include "support/eventually.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The command that puts a file into a player's queue.
 #include "platform/shell.h"
 #include "support/qt_printing.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A picture file that a test has made, and what must be seen.
 #pragma once
 

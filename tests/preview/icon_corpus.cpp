@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "metafile/dib_writer.h"
 #include "preview/corpus_picture.h"
 

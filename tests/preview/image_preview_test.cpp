@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Previewing pictures, as the main window does.
 #include "preview/image_preview.h"
 

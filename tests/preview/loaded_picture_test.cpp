@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Pictures that cannot be shown, and how long it takes to find out.
 #include "preview/loaded_picture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Metafiles are drawn by a process that can do no harm.
 #include "preview/metafile_child.h"
 

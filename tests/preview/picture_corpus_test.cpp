@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Pictures of every kind look as they should: as they were put into their files, and as other people's
 // decoders see them.
 #include "faults/runtime_fault.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The kind of a picture by what its bytes say.
 #include "preview/picture_file.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The fitting rule, to the number.
 #include "preview/picture_fit.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The best picture of an icon file.
 #include "preview/picture_icon.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Damaged pictures of every format: the program survives them, and no load takes long.
 //
 // Each test tries 40 mutations, and 300 where everything is tried; QUORVIN_MUTATIONS=10000 tries so many,

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Readable sizes in the messages of failed tests.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Programs of other people that decode the same pictures.
 #pragma once
 

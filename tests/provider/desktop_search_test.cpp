@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The real program on a bus of its own, started by the bus and asked as desktops do.
 #include "provider/desktop_search.h"
 

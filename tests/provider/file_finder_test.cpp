@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "provider/file_finder.h"
 
 #include "provider/provider_home.h"

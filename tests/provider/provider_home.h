@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A user with sources of their own, for what answers the search of the desktop.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Files that are not listings: every one is reported by its name, and the others are still searched.
 #include "faults/runtime_fault.h"
 #include "search/search_run_fixture.h"

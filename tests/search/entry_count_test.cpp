@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How many entries a listing has, learned quickly.
 #include "search/entry_count.h"
 

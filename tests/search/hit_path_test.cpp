@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // From a hit back to its file, in both styles of paths.
 #include "search/hit_path.h"
 

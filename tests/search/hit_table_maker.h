@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Hit tables full of hits whose order is known only to those who sort them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A listing beyond what 32 bits can count.
 #include "support/listing_lines.h"
 #include "support/scan_of.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // In which order a listing has day and month: its own dates decide, wherever one of them can.
 #include "dates/general_date.h"
 #include "support/generated_listing.h"

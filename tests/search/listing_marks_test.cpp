@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Byte order marks at the start of listings, and files that are no text at all.
 #include "platform/text_encoding.h"
 #include "search/search_run_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The program's scan held against the plain reference on generated listings.
 #include "support/generated_listing.h"
 #include "support/listing_lines.h"

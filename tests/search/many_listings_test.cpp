@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Short listings in great numbers (ten million where everything is tried), each searched and held against a
 // judge that shares no code with the search.
 #include "search/quick_scan.h"

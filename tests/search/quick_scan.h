@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Scans of very many short listings: what costs more than such a listing itself is made once and used again.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/row_sort.h"
 
 #include "search/short_slices.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A search run over a temporary data folder.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a run reports of itself: how many listings it has searched, what was missing, and what cut it short.
 #include "search/search_run_fixture.h"
 

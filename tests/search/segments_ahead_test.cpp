@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A listing whose kept segments are searched by several threads: nobody may see a difference.
 #include "search/segments_ahead.h"
 

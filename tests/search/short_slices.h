@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Work in slices, a step at a time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "faults/runtime_fault.h"
 #include "state/settings.h"
 #include "support/qt_printing.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which files nothing that comes from elsewhere may replace.
 #include "state/protected_files.h"
 

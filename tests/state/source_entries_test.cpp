@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What may be added to a list of sources, and how the list is stored.
 #include "state/source_entries.h"
 

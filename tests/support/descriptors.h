@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How many files and connections the test's process may have open.
 #pragma once
 

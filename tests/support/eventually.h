@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Waiting for what the event loop brings about.
 //
 // The macros of Qt Test report a failure to Qt Test's own runner, so under GoogleTest they cannot fail; these

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A tree of folders in memory, with faults on request.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Watching and spoiling the calls by which folders are read.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "support/generated_listing.h"
 
 #include "support/listing_lines.h"

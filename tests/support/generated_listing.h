@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Listings made at random from a seed, full of everything that is hard to read.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A screen that nobody sees, for programs with windows.
 #pragma once
 

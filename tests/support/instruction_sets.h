@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Running a test once with each set of vector instructions that the search was compiled for.
 #pragma once
 

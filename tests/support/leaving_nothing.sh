@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-2.0-or-later
+#
 # Runs a test program with a folder of its own for temporary files. The program fails, whatever it says itself, when
 # something is left in there at its end.
 set -u

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A settings store for tests: it keeps its values in memory and remembers what was read and written.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A second judge of scans, quick enough for millions of short listings. It shares nothing with the program
 // but the readers of sizes and dates, and is itself held against the slow reference.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "support/plain_walker.h"
 
 #include "dates/general_date.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The judge of listings of real trees: a walk that shares nothing with the program's but the texts of dates,
 // and a reader of blocks.
 #pragma once

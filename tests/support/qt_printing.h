@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Readable Qt texts in the messages of failed tests. Included by every test that compares such texts.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Message boxes for tests: they record what is shown and give the answers that were set.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A shell for tests: it records what it is asked for and starts nothing.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The judge of every scan: the rules of the listing format, line by line, as plainly as they can be written.
 #pragma once
 

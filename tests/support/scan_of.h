@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Scans of listings in memory, with the result in the form that the reference gives.
 #pragma once
 

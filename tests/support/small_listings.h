@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Short listings in great numbers, made at random from a seed.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // How much of an exhaustive sweep a run tries.
 //
 // Some tests try everything: every byte changed, every second of a day, millions of listings. `./test` tries

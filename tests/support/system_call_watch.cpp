@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "support/system_call_watch.h"
 
 #include "support/folder_call_watch.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Watching, breaking off and spoiling what the program does to files.
 #pragma once
 

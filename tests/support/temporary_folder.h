@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A folder of a test's own, removed with everything in it at the end of the test.
 #pragma once
 

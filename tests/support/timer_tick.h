@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Timers under the hands of a test, which does not wait for them.
 #pragma once
 

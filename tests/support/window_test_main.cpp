@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Runs tests with an application object: without a screen unless one is asked for, without the machine's
 // proxies, and with as many descriptors as the system lets a process have.
 #include "support/descriptors.h"

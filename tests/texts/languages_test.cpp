@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which language the programs speak, and that they speak it.
 #include "texts/languages.h"
 

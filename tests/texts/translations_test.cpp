@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The translations are whole, and each text says no less than the English one.
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"

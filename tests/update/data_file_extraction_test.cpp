@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Getting the main data file out of its archive at start-up.
 #include "archive/archive_maker.h"
 #include "support/fault_number.h"

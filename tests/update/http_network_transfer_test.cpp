@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Transfers from a real server on this machine, well-behaved and not.
 #include "update/http_transfer_fixture.h"
 

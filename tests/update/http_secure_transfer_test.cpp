@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Transfers by https.
 #include "update/http_transfer_fixture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Driving a transfer as the update does, by polling while events run.
 #pragma once
 

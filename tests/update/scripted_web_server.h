@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A real web server on this machine, which answers each request as the test tells it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Updates that the user ends, or that the closing of the window ends.
 #include "archive/archive_maker.h"
 #include "update/web_update_fixture.h"

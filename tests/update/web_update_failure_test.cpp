@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Updates that fail.
 #include "archive/archive_maker.h"
 #include "update/web_update_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // An update with the window, the message boxes and the web server made up.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the listings held that an update replaces is kept.
 #include "archive/archive_maker.h"
 #include "history/listing_history.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Whole updates: the real window `Progress`, real transfers, and a real server that means well or harm.
 #include "archive/archive_maker.h"
 #include "support/processor_clock.h"

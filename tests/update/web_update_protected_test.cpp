@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // An update replaces what it is for, and nothing of the user's own or of the program.
 #include "archive/archive_maker.h"
 #include "support/listing_lines.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The flow of an update, step by step.
 #include "archive/archive_maker.h"
 #include "support/time_zone.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What becomes of each job while each other one runs.
 #include "work/job_table.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A fetch plan from the wish to the volumes.
 #pragma once
 

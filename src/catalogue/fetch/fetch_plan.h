@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which volumes to fetch for files that are wanted, and what to copy from each.
 #pragma once
 

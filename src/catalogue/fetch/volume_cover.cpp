@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/fetch/volume_cover.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The fewest volumes that hold something of every kind.
 #pragma once
 

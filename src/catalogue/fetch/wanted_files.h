@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Files that are wanted, and their places in listings.
 #pragma once
 

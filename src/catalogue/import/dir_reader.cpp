@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The lists of "dir /s", in the languages in which their heads are known.
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_readers.h"

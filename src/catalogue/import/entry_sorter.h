@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Puts any number of entries in the order of a listing.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // An import of lists that goes on in a thread of its own.
 #pragma once
 

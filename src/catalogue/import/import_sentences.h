@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the user is told of an import, in the terminal and in the window.
 #pragma once
 

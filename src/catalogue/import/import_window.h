@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The window that turns lists of other programs into listings.
 #pragma once
 

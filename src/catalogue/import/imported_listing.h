@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The listing that is made of a list's entries, by the line writer of the indexer.
 #pragma once
 

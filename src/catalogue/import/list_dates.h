@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Dates as other programs write them in their lists. Each function that takes a date from the front of `text`
 // leaves what follows in it, and gives nothing, with `text` as it was, where there is none.
 #pragma once

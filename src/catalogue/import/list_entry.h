@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What the readers of other programs' lists hand over. Which formats there are, and what each of them does
 // not tell: docs/formats/imports.md.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The formats of lists that can be imported, and telling which of them a list has.
 #pragma once
 

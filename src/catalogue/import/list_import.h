@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Turning a list that another program made into a listing. What is read of which list:
 // docs/formats/imports.md.
 #pragma once

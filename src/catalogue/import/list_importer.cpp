@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/import/list_importer.h"
 
 #include "catalogue/import/list_dates.h"

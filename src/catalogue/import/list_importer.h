@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Making the listing of a list where it belongs: its name, what is refused, and nothing half left behind.
 #pragma once
 

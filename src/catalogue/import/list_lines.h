@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A list as lines of UTF-8, whatever its encoding and line ends.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The readers of other programs' lists, one function for each. What the formats look like, and what they do
 // not tell: docs/formats/imports.md.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Taking a line of a list apart: words, numbers, and names with escapes.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The lists whose rows start with a mode, "-rw-r--r--": those of ls, find -ls, tar and rsync.
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_readers.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The lists that have a whole path in each line: those of du, rclone and unzip, checksums, and paths alone.
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_readers.h"

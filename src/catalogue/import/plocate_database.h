@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The paths in a database of plocate, which only that program reads.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What find -printf writes with a pattern that the user names.
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_readers.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Tables of values with commas, semicolons or tabs between, whose first row names the columns.
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_readers.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The lists of tree: a path in the first line, and below it branches, "|-- [    5 Jan 15  2004]  name".
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_readers.h"

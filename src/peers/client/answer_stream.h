@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Taking apart what a server sends: a stream without frames, in which messages may be split and joined
 // anywhere.
 #pragma once

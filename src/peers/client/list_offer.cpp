@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "peers/client/list_offer.h"
 
 #include "archive/archive_plan.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Adding the lists that came from a peer to the offline sources.
 #pragma once
 

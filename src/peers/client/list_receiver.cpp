@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "peers/client/list_receiver.h"
 
 #include "faults/runtime_fault.h"

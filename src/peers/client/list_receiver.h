@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The receiving end of a conversation: asks for the lists that a peer names, and keeps their archives.
 #pragma once
 

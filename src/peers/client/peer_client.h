@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The side of the peer exchange that connects: asks a peer for its lists, and for the archive of each.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "peers/client/peer_progress.h"
 
 #include "platform/text_direction.h"

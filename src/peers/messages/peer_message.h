@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The messages of the peer list exchange: bytes in the system code page, without any frame. Their layout:
 // docs/formats/peer-messages.md.
 #pragma once

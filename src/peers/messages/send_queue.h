@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What a client has to say to its peer, one message after the other, and the timer that sends it.
 #pragma once
 

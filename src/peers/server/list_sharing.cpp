@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "peers/server/list_sharing.h"
 
 #include "archive/archive_packing.h"

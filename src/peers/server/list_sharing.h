@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Offering the listings of the online sources to peers.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The side of the peer exchange that accepts connections: what callers say is answered, and archives are sent
 // to them.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The vectorised looks at the lines of a listing: where they end and which need care, and the entry text of a
 // plain one. Both use the widest vectors of the processor.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The fixed columns and marks of a listing, and taking one of its lines apart. The whole layout and the
 // rules: docs/formats/listing.md. Columns count characters of the decoded line, from 1.
 #pragma once

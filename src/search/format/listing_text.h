@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The stretch of a listing that is in memory at a time.
 #pragma once
 

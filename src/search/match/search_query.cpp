@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/match/search_query.h"
 
 #include "dates/general_number.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // What is searched for: words and the match that an entry must exceed.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/match/word_search.h"
 
 #include "search/segment/text_scan.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Finding the words of a query in a table of texts.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Arrays that may lie in a kept file: what is read of them is checked first.
 #pragma once
 

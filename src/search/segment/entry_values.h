@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Size and date out of the tail of an entry line, and the compact form in which segments keep them.
 #pragma once
 

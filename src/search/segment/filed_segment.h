@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Segments whose arrays come out of a segment file. Its layout: docs/formats/segment-cache.md.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Bytes of a cache file that are looked at where the system keeps them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Bytes of a cache file that are read once, from front to back.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A stretch of a listing in the form that searches run over.
 #pragma once
 

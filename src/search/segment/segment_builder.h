@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Turning the text of a listing into segments.
 #pragma once
 

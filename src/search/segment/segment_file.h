@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Segments of a listing in one file of the program's own. Layout: docs/formats/segment-cache.md.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The segments of listings that have been read before: in memory and in the user's cache folder.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The vectorised looks at texts: where two bytes are at a given distance, the quickest way to see that a word
 // is nowhere, and which texts hold a word. All use the widest vectors of the processor. Bits are packed 64 to
 // an element, lowest first: for the bytes of a text of many texts, or for those texts.

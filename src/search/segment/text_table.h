@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Texts in lower case, one after another in one array, and beside them what is needed to show them as listed.
 #pragma once
 

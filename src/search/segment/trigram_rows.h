@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Which pages of a table of texts may hold a word.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Wanted files and their places, in listings that the tests write.
 #include "catalogue/fetch/fetch_finder.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Plans for generated wishes, against a plain reference.
 #include "catalogue/fetch/planned_files.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The fewest volumes for wanted files, found as plainly as possible. It judges the fast way.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Wanted files for tests of the plan.
 #pragma once
 

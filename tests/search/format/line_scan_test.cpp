@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/format/line_scan.h"
 
 #include "search/format/listing_line.h"

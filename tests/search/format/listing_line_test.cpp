@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/format/listing_line.h"
 
 #include "search/segment/entry_values.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/match/segment_search.h"
 
 #include "search/segment/segment.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // The search of a table of texts, held against a plain search text by text.
 #include "search/match/word_search.h"
 

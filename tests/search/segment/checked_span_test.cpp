@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/segment/checked_span.h"
 
 #include <gtest/gtest.h>

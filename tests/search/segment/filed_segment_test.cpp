@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Segments out of a file, in both ways: what is read of them, and when.
 #include "search/segment/filed_segment.h"
 

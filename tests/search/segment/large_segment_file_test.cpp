@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Kept segments too large to be read at once, whose file is cut or written to while they are in use: nothing
 // ends the program, and no wrong row is shown.
 #include "files/file_identity.h"

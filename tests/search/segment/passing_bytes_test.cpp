@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/segment/passing_bytes.h"
 
 #include "search/segment/text_scan.h"

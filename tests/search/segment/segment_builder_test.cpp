@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/segment/segment_builder.h"
 
 #include "search/segment/folded_text.h"

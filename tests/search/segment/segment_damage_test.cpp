@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Kept segments that were damaged, cut or exchanged: the hits stay right.
 #include "search/segment/segment_store_fixture.h"
 #include "support/sweep.h"

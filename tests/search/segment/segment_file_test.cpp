@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Segment files: what is written comes back, and a file that is not whole or belongs elsewhere gives nothing.
 // Its last 32 bytes: offset, size and checksum of the directory, eight bytes each, and the eight letters.
 #include "search/segment/segment_file.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // A listing, and a store that keeps segments of it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "search/segment/segment_store_fixture.h"
 #include "support/generated_listing.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Segments that are written by a thread of its own while their listing is read on.
 #include "files/file_reader.h"
 #include "search/segment/segment_store_fixture.h"

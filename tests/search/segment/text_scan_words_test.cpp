@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
 // Where words stand, and which texts hold them, held against plain loops.
 #include "search/segment/text_scan.h"
 #include "support/instruction_sets.h"
