@@ -4328,6 +4328,18 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>plocate could not read %1: %2</source>
         <translation>plocate konnte %1 nicht lesen: %2</translation>
     </message>
+    <message>
+        <source>%1 is a folder, not a listing; quorvin-cli index makes a listing of a folder</source>
+        <translation>%1 ist ein Ordner, keine Liste; quorvin-cli index macht aus einem Ordner eine Liste</translation>
+    </message>
+    <message>
+        <source>the titles of the columns are written or not; --header and --no-header contradict</source>
+        <translation>die Überschriften der Spalten kommen oder nicht; --header und --no-header widersprechen sich</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4328,6 +4328,18 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>plocate could not read %1: %2</source>
         <translation>plocate no pudo leer %1: %2</translation>
     </message>
+    <message>
+        <source>%1 is a folder, not a listing; quorvin-cli index makes a listing of a folder</source>
+        <translation>%1 es una carpeta, no una lista; quorvin-cli index hace una lista de una carpeta</translation>
+    </message>
+    <message>
+        <source>the titles of the columns are written or not; --header and --no-header contradict</source>
+        <translation>los títulos de las columnas se escriben o no; --header y --no-header se contradicen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

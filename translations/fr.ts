@@ -4328,6 +4328,18 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>plocate could not read %1: %2</source>
         <translation>plocate n’a pas pu lire %1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>%1 is a folder, not a listing; quorvin-cli index makes a listing of a folder</source>
+        <translation>%1 est un dossier, pas une liste&#xa0;; quorvin-cli index fait une liste d’un dossier</translation>
+    </message>
+    <message>
+        <source>the titles of the columns are written or not; --header and --no-header contradict</source>
+        <translation>les titres des colonnes s’écrivent ou non&#xa0;; --header et --no-header se contredisent</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

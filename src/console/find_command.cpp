@@ -148,10 +148,15 @@ class Finding {
     printErrorLog(Texts::tr("%1 found, %2 searched").arg(shownHits()).arg(run_->searchedCount()));
   }
 
-  /// A word that was meant to be found counts as a listing when it comes as an argument of its own.
+  /// A word that was meant to be found counts as a listing when it comes as an argument of its own, and so
+  /// does a folder.
   void explainMissing() const {
     if (run_->report().missing == 0) return;
     for (const QString& listing : request_.listings) {
+      if (QFileInfo(listing).isDir()) {
+        printError(Texts::tr("%1 is a folder, not a listing; quorvin-cli index makes a listing of a folder")
+                       .arg(listing));
+      }
       const bool isWord = !listing.contains(u'/') && !listing.contains(u'.') && !QFileInfo::exists(listing);
       if (!isWord || listing == QStringLiteral("-")) continue;
       printError(

@@ -109,9 +109,12 @@ QByteArray lineOf(const QString& sentence) {
   return "quorvin-cli: " + sentence.toLocal8Bit() + '\n';
 }
 
-int refuse(const QString& sentence) {
+/// Says what is wrong with the command line, and where it is told how `command` is written; null where no
+/// command is meant.
+int refuse(const QString& sentence, const CommandText* command) {
+  const QString of = command ? textOf(command->name) + u' ' : QString();
   printError(sentence);
-  printErrorLog(Texts::tr("Try: %1").arg(QStringLiteral("quorvin-cli --help")));
+  printErrorLog(Texts::tr("Try: %1").arg(QStringLiteral("quorvin-cli %1--help").arg(of)));
   return 2;
 }
 
@@ -135,13 +138,14 @@ int CommandLine::run(int argc, char** argv) {
     return print(named() ? helpOf(*named()) : helpOfProgram());
   } catch (const CLI::ArgumentMismatch& error) {
     // The parser's words start with the option's name.
-    return refuse(Texts::tr("%1 needs a value").arg(textOf(std::string(error.what())).section(u':', 0, 0)));
+    return refuse(Texts::tr("%1 needs a value").arg(textOf(std::string(error.what())).section(u':', 0, 0)),
+                  named());
   } catch (const CLI::RequiredError&) {
-    return refuse(whatIsMissing());
+    return refuse(whatIsMissing(), named());
   } catch (const CLI::ParseError&) {
-    return refuse(Texts::tr("the options could not be understood"));
+    return refuse(Texts::tr("the options could not be understood"), named());
   } catch (const Mistake& mistake) {
-    return refuse(mistake.sentence);
+    return refuse(mistake.sentence, named());
   }
 }
 

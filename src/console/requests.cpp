@@ -101,6 +101,10 @@ FindRequest findRequestOf(const Given& given) {
   request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
   request.format = formatNamed(given.text("--format").value_or(QStringLiteral("tsv")));
   if (const auto fields = given.text("--fields")) request.fields = fieldsNamed(*fields);
+  if (given.has("--header") && given.has("--no-header")) {
+    throw Mistake{
+        Texts::tr("the titles of the columns are written or not; --header and --no-header contradict")};
+  }
   const bool isHeaderUsual = request.format == RowFormat::Csv && !request.fields.empty();
   request.hasHeader = !given.has("--no-header") && (isHeaderUsual || given.has("--header"));
   request.endsWithNul = given.has("--null");

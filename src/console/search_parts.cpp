@@ -17,9 +17,9 @@ namespace quorvin {
 
 namespace {
 
-bool isNumber(const QString& text) {
+bool isPercentage(const QString& text) {
   static const QRegularExpression number(
-      QRegularExpression::anchoredPattern(QStringLiteral("[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)")));
+      QRegularExpression::anchoredPattern(QStringLiteral("\\+?([0-9]+\\.?[0-9]*|\\.[0-9]+)")));
   return number.match(text).hasMatch();
 }
 
@@ -33,7 +33,7 @@ bool hasTooManyWords(const QString& searchText) {
 }
 
 QString complaintAboutMatch(const QString& match) {
-  if (match.endsWith(u'%') && isNumber(match.chopped(1))) {
+  if (match.endsWith(u'%') && isPercentage(match.chopped(1))) {
     return Texts::tr(
         "the value of --match comes without \"%\". Hits must match more than it: --match 99 finds what has "
         "all the words");
@@ -47,7 +47,7 @@ QString complaintAboutSearch(const QString& searchText, const QString& desiredMa
   if (hasTooManyWords(searchText)) {
     return Texts::tr("the search text has more than %1 words").arg(kMostWords);
   }
-  return isNumber(desiredMatch) ? QString() : complaintAboutMatch(desiredMatch);
+  return isPercentage(desiredMatch) ? QString() : complaintAboutMatch(desiredMatch);
 }
 
 bool loadSourcesToSearch(ProgramState& state, const QLocale& locale, MessageBoxes& messages) {

@@ -146,6 +146,32 @@ TEST_F(FindOptions, AWordInAnArgumentOfItsOwnIsExplained) {
   EXPECT_EQ(ended.status, 2);
 }
 
+TEST_F(FindOptions, AFolderInPlaceOfAListingIsExplained) {
+  const test::Ended ended = run({u"find"_qs, u"--no-cache"_qs, u"rock"_qs, folder.path(), sample()});
+  EXPECT_EQ(ended.status, 2);
+  const QString explained =
+      folder.path() + u" is a folder, not a listing; quorvin-cli index makes a listing of a folder\n"_qs;
+  EXPECT_TRUE(ended.errors.contains(u"quorvin-cli: "_qs + explained)) << ended.errors.toStdString();
+  EXPECT_EQ(ended.output.count('\n'), 4);
+}
+
+TEST_F(FindOptions, HeaderAndNoHeaderContradict) {
+  const test::Ended ended = find({u"--header"_qs, u"--no-header"_qs});
+  EXPECT_EQ(ended.status, 2);
+  EXPECT_EQ(ended.output, "");
+  EXPECT_EQ(
+      ended.errors,
+      u"quorvin-cli: the titles of the columns are written or not; --header and --no-header contradict\n"
+      u"Try: quorvin-cli find --help\n");
+}
+
+TEST_F(FindOptions, AMatchBelowZeroIsNoPercentage) {
+  const test::Ended ended = find({u"--match=-5"_qs});
+  EXPECT_EQ(ended.status, 2);
+  EXPECT_EQ(ended.output, "");
+  EXPECT_EQ(ended.errors, u"quorvin-cli: the value of --match is a percentage from 1 to 100, not \"-5\"\n");
+}
+
 TEST_F(FindOptions, AMatchThatNothingCanExceedIsExplained) {
   EXPECT_EQ(find({u"--match"_qs, u"100"_qs}).errors,
             u"quorvin-cli: nothing matches more than 100%; --match 99 finds what has all the words\n"
