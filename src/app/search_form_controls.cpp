@@ -45,6 +45,7 @@ SearchTextEdit* makeSearchStr(QWidget* parent) {
   edit->setObjectName(QStringLiteral("SearchStr"));
   edit->setAccessibleName(Texts::tr("Search text"));
   edit->setPlaceholderText(Texts::tr("Words from the name or folder, for example: rock live"));
+  edit->setToolTip(edit->placeholderText());
   return edit;
 }
 

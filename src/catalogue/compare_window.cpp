@@ -52,6 +52,8 @@ QComboBox* makeBox() {
   auto* box = new QComboBox;
   box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   box->setMinimumContentsLength(kLeastSourceCharacters);
+  // What is too long for the box is read whole where the pointer rests.
+  QObject::connect(box, &QComboBox::currentTextChanged, box, &QComboBox::setToolTip);
   return box;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "help/help_view.h"
 
+#include "platform/screen_room.h"
 #include "texts/texts.h"
 
 #include <QBuffer>
@@ -57,6 +58,13 @@ QString colourName(const QPalette& palette, QPalette::ColorRole role) {
 }
 
 constexpr int kTextCharacters = 30;
+/// In pixels: the margins, and what is between the two halves of the find bar.
+constexpr int kBetweenRows = 24;
+
+QString continuedFrom(Qt::Edge edge) {
+  return edge == Qt::BottomEdge ? Texts::tr("Continued from the bottom")
+                                : Texts::tr("Continued from the top");
+}
 
 QTextDocument::FindFlags direction(bool backwards) {
   return backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
@@ -202,24 +210,33 @@ FindBar::FindBar(QTextBrowser& page, QWidget* parent)
   text_->setObjectName(QStringLiteral("FindText"));
   text_->setAccessibleName(Texts::tr("Find on this page"));
   text_->setClearButtonEnabled(true);
-  if (auto* clear = text_->findChild<QToolButton*>()) clear->setAccessibleName(QStringLiteral("Clear"));
+  if (auto* clear = text_->findChild<QToolButton*>()) clear->setAccessibleName(Texts::tr("Clear"));
   text_->setMinimumWidth(fontMetrics().averageCharWidth() * kTextCharacters);
   text_->installEventFilter(this);
   outcome_->setObjectName(QStringLiteral("FindOutcome"));
   auto* label = new QLabel(Texts::tr("Find on this &page:"), this);
   label->setBuddy(text_);
 
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(4, 2, 4, 2);
-  row->addWidget(label);
-  row->addWidget(text_);
   QToolButton* previous = addButton(Texts::tr("P&revious"), Texts::tr("Previous match (Shift+F3)"));
   QToolButton* next = addButton(Texts::tr("&Next"), Texts::tr("Next match (F3)"));
-  row->addWidget(previous);
-  row->addWidget(next);
-  row->addWidget(outcome_, 1);
   QToolButton* close = addButton(Texts::tr("Close"), Texts::tr("Close the find bar (Esc)"));
-  row->addWidget(close);
+
+  auto* asked = new QHBoxLayout;
+  asked->addWidget(label);
+  asked->addWidget(text_);
+  auto* found = new QHBoxLayout;
+  for (QToolButton* button : {previous, next}) found->addWidget(button);
+  found->addWidget(outcome_, 1);
+  found->addWidget(close);
+  // With large letters, a small screen has no room for all of it side by side.
+  outcome_->setText(continuedFrom(Qt::BottomEdge));
+  const int inOneRow = asked->sizeHint().width() + found->sizeHint().width() + kBetweenRows;
+  outcome_->clear();
+  const bool fits = inOneRow < largestInside(*screen()).width();
+  auto* rows = new QBoxLayout(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
+  rows->setContentsMargins(4, 2, 4, 2);
+  rows->addLayout(asked);
+  rows->addLayout(found, 1);
 
   connect(text_, &QLineEdit::textEdited, this, &FindBar::findFromHere);
   connect(previous, &QToolButton::clicked, this, &FindBar::findPrevious);
@@ -271,8 +288,7 @@ void FindBar::find(bool backwards) {
   const QTextCursor before = page_.textCursor();
   page_.moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
   if (page_.find(text_->text(), direction(backwards))) {
-    outcome_->setText(backwards ? Texts::tr("Continued from the bottom")
-                                : Texts::tr("Continued from the top"));
+    outcome_->setText(continuedFrom(backwards ? Qt::BottomEdge : Qt::TopEdge));
     return;
   }
   page_.setTextCursor(before);

@@ -3,15 +3,20 @@
 
 #include <QAbstractScrollArea>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMap>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
+#include <QStyle>
+#include <QStyleOption>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -42,8 +47,26 @@ bool scrolls(const QWidget* widget) {
   return area && area->viewport() == widget->parentWidget();
 }
 
+/// Whether a box to choose from, or to write into, is too narrow for what stands in it before anybody has
+/// written.
+bool isBoxCut(const QWidget* widget) {
+  if (const auto* box = qobject_cast<const QComboBox*>(widget); box && !box->isEditable()) {
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    const QRect place =
+        box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
+    return box->toolTip().isEmpty() && textWidth(box, box->currentText()) > place.width();
+  }
+  const auto* line = qobject_cast<const QLineEdit*>(widget);
+  if (!line || !line->text().isEmpty() || !line->toolTip().isEmpty()) return false;
+  // Beside the text there are the cursor and a pixel or two of the frame.
+  constexpr int kBesideText = 8;
+  return line->fontMetrics().horizontalAdvance(line->placeholderText()) > line->width() - kBesideText;
+}
+
 /// Whether the text of a label or a button is wider than its place.
 bool isCut(const QWidget* widget) {
+  if (isBoxCut(widget)) return true;
   if (const auto* label = qobject_cast<const QLabel*>(widget)) {
     if (label->wordWrap() || !label->toolTip().isEmpty())
       return label->height() < label->heightForWidth(label->width());
@@ -57,6 +80,9 @@ bool isCut(const QWidget* widget) {
     return hasText && textWidth(button, button->text()) > button->width();
   }
   if (const auto* box = qobject_cast<const QCheckBox*>(widget)) return box->sizeHint().width() > box->width();
+  if (const auto* choice = qobject_cast<const QRadioButton*>(widget)) {
+    return choice->sizeHint().width() > choice->width();
+  }
   if (const auto* bar = qobject_cast<const QMenuBar*>(widget)) {
     return std::ranges::any_of(bar->actions(), [bar](QAction* menu) {
       const QRect place = bar->actionGeometry(menu);

@@ -6,13 +6,16 @@
 #include "app/main_application.h"
 #include "catalogue/compare_window.h"
 #include "catalogue/copies_window.h"
+#include "catalogue/import/import_window.h"
 #include "editors/dialog_driving.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
+#include "editors/recording_file_picker.h"
 #include "gui/fitting.h"
 #include "gui/search_form_fixture.h"
 #include "help/frm_browser.h"
 #include "help/frm_splash.h"
+#include "help/help_view.h"
 #include "history/history_window.h"
 #include "history/listing_history.h"
 #include "hits/hit_properties.h"
@@ -21,9 +24,11 @@
 #include "preview/res_win.h"
 #include "support/eventually.h"
 #include "texts/languages.h"
+#include "texts/texts.h"
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTranslator>
@@ -31,6 +36,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -158,6 +164,10 @@ TEST_P(WindowsFit, TheHelpDoes) {
   ASSERT_NE(help, nullptr);
   ASSERT_TRUE(QTest::qWaitForWindowExposed(help));
   expectFits(*help);
+  QTest::keyClick(help, Qt::Key_F, Qt::ControlModifier);
+  QTest::qWait(0);
+  ASSERT_TRUE(help->findChild<FindBar*>()->isVisible());
+  expectFits(*help);
 }
 
 TEST_P(WindowsFit, ProgressAndResultsDo) {
@@ -232,8 +242,52 @@ TEST_P(WindowsFit, CompareDoesWithAndWithoutResults) {
                                          }));
 }
 
-TEST_P(WindowsFit, ImportDoes) {
-  expectDialogFits(form().menus().Import);
+TEST_P(WindowsFit, ImportDoesWithAndWithoutResults) {
+  RecordingFilePicker picks;
+  picks.pick = folder_.writeFile(QStringLiteral("a list of quite a long name.lst"), "unknown\n/media/cd:\n");
+  picker_ = &picks;
+  form();
+  EXPECT_TRUE(duringModal<ImportWindow>([this] { form().menus().Import->trigger(); },
+                                        [](ImportWindow& window) {
+                                          QTest::qWait(0);
+                                          expectFits(window);
+                                          auto* import =
+                                              window.findChild<QPushButton*>(QStringLiteral("Import"));
+                                          const QString caption = import->text();
+                                          click(window.findChild<QPushButton*>(QStringLiteral("Add")));
+                                          click(import);
+                                          expectFits(window);
+                                          EXPECT_EVENTUALLY(import->text() == caption);
+                                          QTest::qWait(0);
+                                          expectFits(window);
+                                        }));
+}
+
+TEST_P(WindowsFit, TheQuestionForAPeerDoes) {
+  form();
+  EXPECT_TRUE(duringModal<QInputDialog>([this] { form().menus().GetLists->trigger(); },
+                                        [](QInputDialog& dialog) {
+                                          QTest::qWait(0);
+                                          expectFits(dialog);
+                                        }));
+}
+
+/// Runs `asks`, which shows a message, and looks whether it fits.
+void expectMessageFits(const std::function<void()>& asks) {
+  EXPECT_TRUE(duringModal<QMessageBox>(asks, [](QMessageBox& box) {
+    QTest::qWait(0);
+    expectFits(box);
+  }));
+}
+
+TEST_P(WindowsFit, MessagesDo) {
+  const QString path =
+      QStringLiteral("/media/anna/") + QStringLiteral("a folder with a long name/").repeated(8);
+  WidgetMessageBoxes boxes;
+  expectMessageFits([&] { boxes.inform(Texts::tr("Listing file not found: %1").arg(path)); });
+  expectMessageFits([&] { boxes.informOneOfMany(path); });
+  expectMessageFits([&] { boxes.askYesNo(path); });
+  expectMessageFits([&] { boxes.askAbortRetryIgnore(path); });
 }
 
 TEST_P(WindowsFit, TheDialogsForFilesDo) {
