@@ -22,19 +22,21 @@ systems_possible() {
   return 1
 }
 
-# fresh_system NAME: a new Debian with nothing in it but what every system has.
+# fresh_system NAME [SUITE]: a new Debian with nothing in it but what every system has; Debian 12 where no suite is named.
 fresh_system() {
   SYSTEM=$TOP/system-$1
+  local suite=${2:-bookworm}
+  local packed=$TOP/$suite.tar
   mkdir -p "$TOP"
-  if [ ! -e "$TOP/debian-12.tar" ]; then
-    step "fetching a clean Debian 12"
-    quietly mmdebstrap --variant=minbase --format=tar bookworm "$TOP/debian-12.tar.part"
-    mv "$TOP/debian-12.tar.part" "$TOP/debian-12.tar"
+  if [ ! -e "$packed" ]; then
+    step "fetching a clean Debian ($suite)"
+    quietly mmdebstrap --variant=minbase --format=tar "$suite" "$packed.part"
+    mv "$packed.part" "$packed"
   fi
-  step "unpacking a clean Debian 12 ($1)"
+  step "unpacking a clean Debian ($1)"
   rm -rf "$SYSTEM"
   mkdir -p "$SYSTEM"
-  tar -C "$SYSTEM" --numeric-owner -xf "$TOP/debian-12.tar"
+  tar -C "$SYSTEM" --numeric-owner -xf "$packed"
   cp -L /etc/resolv.conf "$SYSTEM/etc/resolv.conf"
   quietly inside apt-get update -q
 }
