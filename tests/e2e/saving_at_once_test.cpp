@@ -227,6 +227,41 @@ TEST_F(SavingAtOnce, ListsThatAreMadeForTheVeryFirstTimeAreKeptApartToo) {
                          QStringLiteral("any.txt")});
 }
 
+/// Runs "quorvin-cli sources add" with the settings of the folder `configured`, in place of this process.
+void addSourceByConsole(const QString& configured, const QString& folder) {
+  qputenv("XDG_CONFIG_HOME", configured.toLocal8Bit());
+  ::execl(QUORVIN_CLI, QUORVIN_CLI, "sources", "add", "--quiet", QFile::encodeName(folder).constData(),
+          nullptr);
+  throw std::runtime_error("the console could not be started");
+}
+
+TEST_F(SavingAtOnce, ASourceThatTheConsoleAddsWhileTheWindowClosesIsNotLost) {
+  QDir(place_.path()).mkpath(QStringLiteral("configured"));
+  ASSERT_TRUE(QFile::link(place_.pathOf(QStringLiteral("settings")),
+                          place_.pathOf(QStringLiteral("configured/quorvin"))));
+  // The console finds the data by the settings of an earlier end.
+  end(*started({}, belongingsOf(QStringLiteral("Ann"), 0)));
+  const QString disk = place_.makeFolder(QStringLiteral("disk"));
+  const SourceRecords added = {{QStringLiteral("disk"), disk}};
+  for (int round = 1; round <= kRounds; ++round) {
+    SCOPED_TRACE(round);
+    removeKeptLists();
+    emptyTheLists();
+    const Belongings ann = belongingsOf(QStringLiteral("Ann"), round);
+    const auto anns = started({}, ann);
+    Together programs;
+    programs.add([&] { end(*anns); });
+    programs.add([&] { addSourceByConsole(place_.pathOf(QStringLiteral("configured")), disk); });
+    ASSERT_TRUE(programs.run());
+
+    // Whoever reads the list after the other has saved it has both; else the later one keeps that of the
+    // other.
+    SourceRecords both = ann.online;
+    both.insert(both.end(), added.begin(), added.end());
+    if (dataFile("Locations.txt") != listFile(both)) expectBothKept("Locations.txt", ann.online, added);
+  }
+}
+
 }  // namespace
 
 }  // namespace quorvin::test
