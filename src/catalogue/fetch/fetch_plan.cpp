@@ -37,7 +37,7 @@ class Planning {
       Volumes volumes;
       for (const FileCopy& copy : files_[file].copies) volumes.push_back(copy.volume);
       std::ranges::sort(volumes);
-      volumes.erase(std::ranges::unique(volumes).begin(), volumes.end());
+      volumes.erase(std::unique(volumes.begin(), volumes.end()), volumes.end());
       if (volumes.empty()) {
         plan_.missing.push_back(file);
       } else {
