@@ -192,12 +192,21 @@ class BuildingScan {
   }
 
   void searchText(std::size_t bytes) {
-    if (recorder_ != nullptr) builder_.readAllValues();
+    if (recorder_ != nullptr) readAllValues(bytes);
     builder_.segment()->publish();
     searchNewEntries();
     builder_.finishText();
     segmentBytes_ += bytes;
     if (segmentBytes_ >= (recorder_ != nullptr ? limits_.keptSegment : limits_.passingSegment)) endSegment();
+  }
+
+  void readAllValues(std::size_t bytes) {
+    if (listingBytes_ < limits_.valuesBeside) {
+      builder_.readAllValues();
+    } else {
+      builder_.readAllValuesBeside();
+    }
+    listingBytes_ += bytes;
   }
 
   void searchNewEntries() {
@@ -218,6 +227,7 @@ class BuildingScan {
   void endSegment() {
     settleSegment();
     if (recorder_ != nullptr && !search_.stopped() && builder_.segment()->entryCount() > 0) {
+      builder_.finishValues();
       unsettled_ = builder_.segment();
       recorder_->add(unsettled_);
     } else {
@@ -242,6 +252,7 @@ class BuildingScan {
   SegmentStore::Recorder* recorder_;
   const ScanLimits& limits_;
   std::size_t segmentBytes_ = 0;
+  std::size_t listingBytes_ = 0;
   std::uint32_t nextEntry_ = 0;
   /// The recorder has it and is not done with it.
   std::shared_ptr<GrowingSegment> unsettled_;

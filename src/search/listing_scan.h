@@ -65,6 +65,9 @@ struct ScanLimits {
   /// Listing bytes in one segment that is not kept, and in one that is.
   std::size_t passingSegment = std::size_t{1} << 18;
   std::size_t keptSegment = std::size_t{64} << 20;
+  /// Behind so many bytes, the values of a listing that is kept are read by another thread: in a smaller one
+  /// that takes hardly longer than to start it.
+  std::size_t valuesBeside = std::size_t{4} << 20;
   /// A listing of so many entries whose segments are known is searched by several threads: on smaller ones
   /// they would be hardly longer at work than they take to start.
   std::int64_t searchedAhead = 5'000'000;

@@ -18,9 +18,9 @@ class HitWriterTest : public testing::Test {
     segment_->addEntry("Film", true);
     segment_->beginBlock("V", "\\b\\", true);
     segment_->addEntry("tune", true);
-    segment_->setValues(0, ValueState::Absent, {}, 1);
-    segment_->setValues(1, ValueState::Own, {1500, 1}, 2);
-    segment_->setValues(2, ValueState::Carried, {1500, 1}, 3);
+    segment_->valueArrays().set(0, ValueState::Absent, {}, 1);
+    segment_->valueArrays().set(1, ValueState::Own, {1500, 1}, 2);
+    segment_->valueArrays().set(2, ValueState::Carried, {1500, 1}, 3);
     segment_->publish();
   }
   ~HitWriterTest() override { std::fclose(file_); }
@@ -88,7 +88,7 @@ TEST_F(HitWriterTest, HitsHereAndThereHaveTheirOwnNamesAndFolders) {
     const bool isAsciiName = entry % 3 != 0;
     const std::string name = (isAsciiName ? "Name " : "\xC3\x84RGER ") + number;
     segment->addEntry(name, isAsciiName);
-    segment->setValues(entry, ValueState::Own, {entry, 1}, entry + 1);
+    segment->valueArrays().set(entry, ValueState::Own, {entry, 1}, entry + 1);
     if (entry % 5 != 0 && entry % 11 != 1) continue;
     hits.push_back({entry, 100});
     expected += folder + '\t' + name + '\t' + number + '\n';

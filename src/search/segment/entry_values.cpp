@@ -161,6 +161,12 @@ bool readAsciiByteCount(std::string_view text, std::int64_t& bytes) {
 EntryValuesReader::EntryValuesReader(const QLocale& locale, OrderFinder findOrder)
     : dates_(locale), findOrder_(std::move(findOrder)) {}
 
+EntryValuesReader EntryValuesReader::copyWith(OrderFinder findOrder) const {
+  EntryValuesReader copy = *this;
+  if (findOrder_) copy.findOrder_ = std::move(findOrder);
+  return copy;
+}
+
 ValueState EntryValuesReader::read(std::string_view tail, bool ascii, EntryValues& values) {
   if (endOfColumns(tail, ascii, kShortTailLength) == tail.size()) return ValueState::Absent;
   std::int64_t size = 0;

@@ -61,6 +61,10 @@ class EntryValuesReader {
   /// none, or is empty, the order is that of the locale.
   explicit EntryValuesReader(const QLocale& locale, OrderFinder findOrder = {});
 
+  /// A reader that has found out as much as this one. Where it has yet to look for the order, it asks
+  /// `findOrder`.
+  EntryValuesReader copyWith(OrderFinder findOrder) const;
+
   /// Reads the UTF-8 text `tail` into `values`. They are changed only where the result is Own. Where `ascii`
   /// is true a column is a byte.
   ValueState read(std::string_view tail, bool ascii, EntryValues& values);

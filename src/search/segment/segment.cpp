@@ -92,31 +92,13 @@ void GrowingSegment::beginBlock(std::string_view volume, std::string_view folder
 }
 
 void GrowingSegment::addEntry(std::string_view name, bool ascii) {
-  makeRoomForValues();
+  values_.addEntry();
   entries_.add(name, ascii);
 }
 
 void GrowingSegment::addEntryColumns(const char* line, std::size_t columns, bool trimmed) {
-  makeRoomForValues();
+  values_.addEntry();
   entries_.addColumns(line, columns, trimmed);
-}
-
-void GrowingSegment::makeRoomForValues() {
-  if (entries_.count() % 64 == 0) notOwn_.push_back(0);
-  values_.push_back({0, CompactValues::kAbsent});
-}
-
-void GrowingSegment::setValues(std::uint32_t entry, ValueState state, const EntryValues& values,
-                               std::int64_t line) {
-  const CompactValues compacted = compact(state, values);
-  values_[entry] = compacted;
-  if (state != ValueState::Own) {
-    allOwn_ = false;
-    notOwn_[entry / 64] |= std::uint64_t{1} << (entry % 64);
-  }
-  if (compacted.second == CompactValues::kKeptAside)
-    wideValues_.push_back({entry, 0, values.size, values.date});
-  if (compacted.second == CompactValues::kUnreadable) unreadable_.push_back({line, entry, 0});
 }
 
 void GrowingSegment::publish() {
@@ -125,11 +107,11 @@ void GrowingSegment::publish() {
   arrays_.blockStarts = blockStarts_;
   arrays_.volumes = volumes_;
   arrays_.volumeTexts = volumeTexts_;
-  arrays_.values = values_;
-  arrays_.allOwn = allOwn_;
-  arrays_.notOwn = notOwn_;
-  arrays_.wideValues = wideValues_;
-  arrays_.unreadable = unreadable_;
+  arrays_.values = values_.compact();
+  arrays_.allOwn = values_.allOwn();
+  arrays_.notOwn = values_.notOwn();
+  arrays_.wideValues = values_.wide();
+  arrays_.unreadable = values_.unreadable();
 }
 
 void GrowingSegment::complete() {
@@ -147,20 +129,13 @@ void GrowingSegment::clear() {
   volumes_.clear();
   volumeTexts_.clear();
   values_.clear();
-  allOwn_ = true;
-  notOwn_.clear();
-  wideValues_.clear();
-  unreadable_.clear();
   publish();
 }
 
 std::size_t GrowingSegment::memorySize() const {
   return entries_.memorySize() + folders_.memorySize() + volumeTexts_.capacity() +
          blockStarts_.capacity() * sizeof(std::uint32_t) +
-         volumes_.capacity() * sizeof(SegmentArrays::VolumeRun) + values_.capacity() * sizeof(CompactValues) +
-         notOwn_.capacity() * sizeof(std::uint64_t) +
-         wideValues_.capacity() * sizeof(SegmentArrays::WideValues) +
-         unreadable_.capacity() * sizeof(SegmentArrays::UnreadableEntry);
+         volumes_.capacity() * sizeof(SegmentArrays::VolumeRun) + values_.memorySize();
 }
 
 std::shared_ptr<const Segment> copyOfEntries(const Segment& segment, std::span<const std::uint32_t> chosen) {
@@ -176,7 +151,8 @@ std::shared_ptr<const Segment> copyOfEntries(const Segment& segment, std::span<c
     block = own;
     const std::string name = segment.arrays().entries.listedText(entry);
     copy->addEntry(name, isAscii(name));
-    copy->setValues(++last, segment.valueState(entry), segment.values(entry), segment.unreadableLine(entry));
+    copy->valueArrays().set(++last, segment.valueState(entry), segment.values(entry),
+                            segment.unreadableLine(entry));
   }
   copy->publish();
   return copy;

@@ -3,7 +3,7 @@
 // A stretch of a listing in the form that searches run over.
 #pragma once
 
-#include "search/segment/entry_values.h"
+#include "search/segment/entry_value_arrays.h"
 #include "search/segment/text_table.h"
 
 #include <QString>
@@ -27,19 +27,6 @@ struct SegmentArrays {
     /// Where the volume's text starts in `volumeTexts`; it ends where the next run's starts.
     std::uint32_t textStart;
   };
-  /// Values that CompactValues cannot hold.
-  struct WideValues {
-    std::uint32_t entry;
-    std::uint32_t reserved;
-    std::int64_t size;
-    DateValue date;
-  };
-  struct UnreadableEntry {
-    std::int64_t line;
-    std::uint32_t entry;
-    std::uint32_t reserved;
-  };
-
   TextTable entries;
   /// One text for each directory block.
   TextTable folders;
@@ -130,12 +117,8 @@ class GrowingSegment : public Segment {
   /// The same for the first columns of an ASCII line; see TextTableBuilder::addColumns.
   void addEntryColumns(const char* line, std::size_t columns, bool trimmed);
 
-  /// What is known of size and date of `entry`, and the line it is on. Entries may be left out, but come
-  /// in ascending order.
-  void setValues(std::uint32_t entry, ValueState state, const EntryValues& values, std::int64_t line);
-
-  /// The same for values of the entry's own in their compact form.
-  void setValues(std::uint32_t entry, const CompactValues& values) { values_[entry] = values; }
+  /// Sizes and dates of its entries.
+  EntryValueArrays& valueArrays() { return values_; }
 
   /// Makes all that has been added so far visible.
   void publish();
@@ -150,19 +133,12 @@ class GrowingSegment : public Segment {
   std::size_t memorySize() const override;
 
  private:
-  void makeRoomForValues();
-
   TextTableBuilder entries_;
   TextTableBuilder folders_;
   std::vector<std::uint32_t> blockStarts_;
   std::vector<SegmentArrays::VolumeRun> volumes_;
   std::string volumeTexts_;
-  std::vector<CompactValues> values_;
-  /// No value that was set so far is missing or unreadable.
-  bool allOwn_ = true;
-  std::vector<std::uint64_t> notOwn_;
-  std::vector<SegmentArrays::WideValues> wideValues_;
-  std::vector<SegmentArrays::UnreadableEntry> unreadable_;
+  EntryValueArrays values_;
 };
 
 /// A segment of the entries `chosen` of `segment` alone, in that order, which must be ascending.

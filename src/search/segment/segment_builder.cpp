@@ -24,7 +24,7 @@ static_assert(kEntryColumns <= kFoldWidth);
 
 SegmentBuilder::SegmentBuilder(const QLocale& locale, OrderFinder findOrder)
     : findOrderOfListing_(std::move(findOrder)),
-      valuesReader_(locale, [this] { return this->findOrder(); }) {}
+      tailReader_(EntryValuesReader(locale, [this] { return this->findOrder(); })) {}
 
 void SegmentBuilder::beginSegment(std::shared_ptr<GrowingSegment> spare) {
   const bool isSpareFree = spare && spare.use_count() == 1;
@@ -86,7 +86,8 @@ void SegmentBuilder::addLine(std::string_view line) {
   const bool ascii = isAscii(line);
   if (!ascii && !isUtf8AsItStands(bytesOf(line))) {
     decoded_.push_back(decodeSystemText(bytesOf(line)).toStdString());
-    line = decoded_.back();
+    const std::size_t length = decoded_.back().size();
+    line = std::string_view(decoded_.back().append(kLinePadding, '\n')).substr(0, length);
   }
   switch (classifyLine(line)) {
     case LineKind::Volume:
@@ -127,17 +128,6 @@ void SegmentBuilder::noteEntry() {
   unread_.push_back({tail_, tailLength_, static_cast<std::uint32_t>(lineCount_ - textFirstLine_)});
 }
 
-/// Leaves what the tail says in readWritten_, or else in readState_ and readValues_.
-void SegmentBuilder::readTail(const Unread& unread) {
-  // Lines without a tail of their own share one.
-  if (unread.tail == readTail_) return;
-  readTail_ = unread.tail;
-  const std::string_view tail(unread.tail, unread.tailLength);
-  isWritten_ = valuesReader_.readWritten(tail, readWritten_);
-  if (isWritten_) return;
-  readState_ = valuesReader_.read(tail, isAscii(tail), readValues_);
-}
-
 std::optional<DayMonthOrder> SegmentBuilder::findOrder() const {
   // The first text nearly always decides, and then nothing needs to be read again.
   if (textFirstLine_ == 0) {
@@ -152,7 +142,7 @@ std::optional<DayMonthOrder> SegmentBuilder::orderInText() const {
     if (unread.tail == before) continue;
     before = unread.tail;
     const std::string_view tail(unread.tail, unread.tailLength);
-    if (const auto order = valuesReader_.orderIn(tail, isAscii(tail))) return order;
+    if (const auto order = tailReader_.values().orderIn(tail, isAscii(tail))) return order;
   }
   return std::nullopt;
 }
@@ -160,18 +150,10 @@ std::optional<DayMonthOrder> SegmentBuilder::orderInText() const {
 void SegmentBuilder::readValues(std::uint32_t entry) {
   if (entry < nextToRead_) return;
   nextToRead_ = entry + 1;
-  const Unread& unread = unread_[entry - firstUnread_];
-  readTail(unread);
-  const std::int64_t line = textFirstLine_ + unread.line;
-  const bool isOwn = hasOwnTail(entry - firstUnread_);
-  if (!isWritten_) {
-    const bool isCarried = readState_ == ValueState::Own && !isOwn;
-    segment_->setValues(entry, isCarried ? ValueState::Carried : readState_, readValues_, line);
-  } else if (isOwn) {
-    segment_->setValues(entry, readWritten_);
-  } else {
-    segment_->setValues(entry, ValueState::Carried, expand(readWritten_), line);
-  }
+  const std::uint32_t place = entry - firstUnread_;
+  const Unread& unread = unread_[place];
+  tailReader_.read({unread.tail, unread.tailLength}, hasOwnTail(place), textFirstLine_ + unread.line, entry,
+                   segment_->valueArrays());
 }
 
 /// Whether the line of entry `place` of the text has the tail that applies to it.
@@ -185,16 +167,31 @@ void SegmentBuilder::readAllValues() {
   for (std::uint32_t entry = nextToRead_; entry < end; ++entry) readValues(entry);
 }
 
+void SegmentBuilder::readAllValuesBeside() {
+  if (!beside_) beside_.emplace(tailReader_.values().copyWith(findOrderOfListing_), firstUnread_);
+  for (std::uint32_t place = 0; place < unread_.size(); ++place) {
+    const Unread& unread = unread_[place];
+    beside_->add({unread.tail, unread.tailLength}, hasOwnTail(place), textFirstLine_ + unread.line);
+  }
+  beside_->goOn(segment_->valueArrays());
+}
+
+void SegmentBuilder::finishValues() {
+  if (!beside_) return;
+  beside_->finish(segment_->valueArrays());
+  segment_->publish();
+}
+
 /// Keeps the tail in force, whose text is about to go away.
 void SegmentBuilder::keepTail() {
   // All beyond is part of a date that is too long to be read.
   constexpr std::uint32_t kLongestKept = 4096;
   if (tail_ == nullptr || tail_ == keptTail_.data()) return;
-  const bool isRead = tail_ == readTail_;
+  const bool isRead = tail_ == tailReader_.lastTail();
   tailLength_ = std::min(tailLength_, kLongestKept);
-  keptTail_.assign(tail_, tailLength_);
+  keptTail_.assign(tail_, tailLength_).append(kLinePadding, '\n');
   tail_ = keptTail_.data();
-  readTail_ = isRead ? tail_ : nullptr;
+  tailReader_.moveTail(isRead ? tail_ : nullptr);
 }
 
 void SegmentBuilder::finishText() {

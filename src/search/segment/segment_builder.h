@@ -5,10 +5,13 @@
 
 #include "search/format/line_scan.h"
 #include "search/segment/segment.h"
+#include "search/segment/tail_reader.h"
+#include "search/segment/values_beside.h"
 
 #include <QLocale>
 
 #include <cstdint>
+#include <list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,6 +46,12 @@ class SegmentBuilder {
   void readValues(std::uint32_t entry);
   void readAllValues();
 
+  /// In place of readAllValues(): has them read by another thread. Those of hits can be read meanwhile; all
+  /// are in the segment after finishValues(). `findOrder` may be called by that thread, too.
+  void readAllValuesBeside();
+  /// To be called before the segment goes on to anybody who may ask for the values of any entry.
+  void finishValues();
+
   /// The order of day and month in the text at hand: that of its first date which is one in one order only.
   std::optional<DayMonthOrder> orderInText() const;
 
@@ -73,13 +82,13 @@ class SegmentBuilder {
   void addEntry(std::string_view line, bool ascii);
   void beginBlockIfNeeded();
   void noteEntry();
-  void readTail(const Unread& unread);
   bool hasOwnTail(std::uint32_t place) const;
   void keepTail();
   std::optional<DayMonthOrder> findOrder() const;
 
   OrderFinder findOrderOfListing_;
-  EntryValuesReader valuesReader_;
+  TailReader tailReader_;
+  std::optional<ValuesBeside> beside_;
   std::shared_ptr<GrowingSegment> segment_ = std::make_shared<GrowingSegment>();
   std::int64_t lineCount_ = 0;
   /// The line count at the start of the current text.
@@ -94,14 +103,8 @@ class SegmentBuilder {
   /// in keptTail_.
   const char* tail_ = nullptr;
   std::uint32_t tailLength_ = 0;
+  /// With kLinePadding bytes behind it, as all texts that tails are in.
   std::string keptTail_;
-
-  /// The tail that was read last, and what it says: either as a tail of the usual form, or the long way.
-  const char* readTail_ = nullptr;
-  bool isWritten_ = false;
-  CompactValues readWritten_{};
-  ValueState readState_ = ValueState::Absent;
-  EntryValues readValues_;
 
   /// The entries of the current text, from firstUnread_ on.
   std::vector<Unread> unread_;
@@ -111,8 +114,9 @@ class SegmentBuilder {
 
   std::vector<std::uint64_t> lineEnds_;
   std::vector<std::uint64_t> care_;
-  /// Lines of the current text that had to be decoded; tails point into them.
-  std::vector<std::string> decoded_;
+  /// Lines of the current text that had to be decoded, with kLinePadding bytes behind each; tails point into
+  /// them. A list, so that they stay where they are.
+  std::list<std::string> decoded_;
 };
 
 }  // namespace quorvin

@@ -24,7 +24,7 @@ class FiledSegmentTest : public testing::Test {
     segment.beginBlock("V1", "\\Music\\", true);
     for (std::uint32_t entry = 0; entry < kEntries; ++entry) {
       segment.addEntry("Song " + std::to_string(entry), true);
-      segment.setValues(entry, ValueState::Own, {entry, 1}, entry);
+      segment.valueArrays().set(entry, ValueState::Own, {entry, 1}, entry);
     }
     segment.complete();
     SegmentArrays arrays = segment.arrays();

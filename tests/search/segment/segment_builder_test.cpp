@@ -101,7 +101,7 @@ TEST(GrowingSegment, HasTheValuesOfItsOwnEntriesOnlyAfterItWasCleared) {
   segment.beginBlock("V1", "\\Music\\", true);
   for (const std::uint32_t entry : {0U, 1U}) {
     segment.addEntry("Song", true);
-    segment.setValues(entry, ValueState::Own, {1500, 1}, entry);
+    segment.valueArrays().set(entry, ValueState::Own, {1500, 1}, entry);
   }
   segment.clear();
   segment.beginBlock("V2", "\\Films\\", true);
