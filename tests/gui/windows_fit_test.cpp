@@ -204,6 +204,15 @@ TEST_P(WindowsFit, TheHistoryDoes) {
   }
 }
 
+/// The window fits while it does what the button `start` begins, and when that is done.
+void expectFitsAtWork(QWidget& window, const char* start, const std::function<bool()>& isDone) {
+  click(window.findChild<QPushButton*>(QString::fromLatin1(start)));
+  expectFits(window);
+  EXPECT_EVENTUALLY(isDone());
+  QTest::qWait(0);
+  expectFits(window);
+}
+
 TEST_P(WindowsFit, CopiesDoWithAndWithoutResults) {
   addOfflineSource(QStringLiteral("disk.txt"), listingOf("DISK", 30, "song"));
   addMissingOnlineSource(QStringLiteral("A drive that is in a drawer"));
@@ -213,11 +222,8 @@ TEST_P(WindowsFit, CopiesDoWithAndWithoutResults) {
                                           QTest::qWait(0);
                                           expectFits(window);
                                           auto* rows = window.findChild<QTreeView*>(QStringLiteral("Rows"));
-                                          click(window.findChild<QPushButton*>(QStringLiteral("Find")));
-                                          expectFits(window);
-                                          EXPECT_EVENTUALLY(rows->model()->rowCount() > 0);
-                                          QTest::qWait(0);
-                                          expectFits(window);
+                                          expectFitsAtWork(window, "Find",
+                                                           [rows] { return rows->model()->rowCount() > 0; });
                                         }));
 }
 
@@ -226,20 +232,16 @@ TEST_P(WindowsFit, CompareDoesWithAndWithoutResults) {
                    listingOf("DISK", 30, "song"));
   addOfflineSource(QStringLiteral("other.txt"), listingOf("DISK", 20, "tune"));
   form();
-  EXPECT_TRUE(duringModal<CompareWindow>([this] { form().menus().Compare->trigger(); },
-                                         [](CompareWindow& window) {
-                                           QTest::qWait(0);
-                                           expectFits(window);
-                                           auto* later =
-                                               window.findChild<QComboBox*>(QStringLiteral("LaterSource"));
-                                           later->setCurrentIndex(later->count() - 1);
-                                           auto* rows = window.findChild<QTreeView*>(QStringLiteral("Rows"));
-                                           click(window.findChild<QPushButton*>(QStringLiteral("Compare")));
-                                           expectFits(window);
-                                           EXPECT_EVENTUALLY(rows->model()->rowCount() > 0);
-                                           QTest::qWait(0);
-                                           expectFits(window);
-                                         }));
+  EXPECT_TRUE(duringModal<CompareWindow>(
+      [this] { form().menus().Compare->trigger(); },
+      [](CompareWindow& window) {
+        QTest::qWait(0);
+        expectFits(window);
+        auto* later = window.findChild<QComboBox*>(QStringLiteral("LaterSource"));
+        later->setCurrentIndex(later->count() - 1);
+        auto* rows = window.findChild<QTreeView*>(QStringLiteral("Rows"));
+        expectFitsAtWork(window, "Compare", [rows] { return rows->model()->rowCount() > 0; });
+      }));
 }
 
 TEST_P(WindowsFit, ImportDoesWithAndWithoutResults) {
@@ -247,20 +249,16 @@ TEST_P(WindowsFit, ImportDoesWithAndWithoutResults) {
   picks.pick = folder_.writeFile(QStringLiteral("a list of quite a long name.lst"), "unknown\n/media/cd:\n");
   picker_ = &picks;
   form();
-  EXPECT_TRUE(duringModal<ImportWindow>([this] { form().menus().Import->trigger(); },
-                                        [](ImportWindow& window) {
-                                          QTest::qWait(0);
-                                          expectFits(window);
-                                          auto* import =
-                                              window.findChild<QPushButton*>(QStringLiteral("Import"));
-                                          const QString caption = import->text();
-                                          click(window.findChild<QPushButton*>(QStringLiteral("Add")));
-                                          click(import);
-                                          expectFits(window);
-                                          EXPECT_EVENTUALLY(import->text() == caption);
-                                          QTest::qWait(0);
-                                          expectFits(window);
-                                        }));
+  EXPECT_TRUE(duringModal<ImportWindow>(
+      [this] { form().menus().Import->trigger(); },
+      [](ImportWindow& window) {
+        QTest::qWait(0);
+        expectFits(window);
+        auto* import = window.findChild<QPushButton*>(QStringLiteral("Import"));
+        const QString caption = import->text();
+        click(window.findChild<QPushButton*>(QStringLiteral("Add")));
+        expectFitsAtWork(window, "Import", [&] { return import->text() == caption; });
+      }));
 }
 
 TEST_P(WindowsFit, TheQuestionForAPeerDoes) {

@@ -27,6 +27,7 @@ struct SegmentArrays {
     /// Where the volume's text starts in `volumeTexts`; it ends where the next run's starts.
     std::uint32_t textStart;
   };
+
   TextTable entries;
   /// One text for each directory block.
   TextTable folders;

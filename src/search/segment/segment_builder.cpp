@@ -173,7 +173,6 @@ void SegmentBuilder::readAllValuesBeside() {
     const Unread& unread = unread_[place];
     beside_->add({unread.tail, unread.tailLength}, hasOwnTail(place), textFirstLine_ + unread.line);
   }
-  beside_->goOn(segment_->valueArrays());
 }
 
 void SegmentBuilder::finishValues() {
@@ -196,6 +195,11 @@ void SegmentBuilder::keepTail() {
 
 void SegmentBuilder::finishText() {
   keepTail();
+  if (beside_) {
+    // Only now: the values of hits in this text have been read by then, and are not put there a second time.
+    beside_->goOn(segment_->valueArrays());
+    segment_->publish();
+  }
   firstUnread_ += static_cast<std::uint32_t>(unread_.size());
   nextToRead_ = firstUnread_;
   unread_.clear();

@@ -27,9 +27,9 @@ namespace quorvin {
 /// where they are and reads them when they are asked for, at the latest when the text goes away.
 class SegmentBuilder {
  public:
-  /// `findOrder` finds the order of day and month of the whole listing. It is called at most once, if a date
-  /// comes of which two orders make two dates and the listing's first text has no date that decides; without
-  /// it, or where it finds none, the order is that of `locale`.
+  /// `findOrder` finds the order of day and month of the whole listing. It is called at most once by each
+  /// thread, if a date comes of which two orders make two dates and the listing's first text has no date that
+  /// decides; without it, or where it finds none, the order is that of `locale`.
   explicit SegmentBuilder(const QLocale& locale, OrderFinder findOrder = {});
   SegmentBuilder(const SegmentBuilder&) = delete;
   SegmentBuilder& operator=(const SegmentBuilder&) = delete;
@@ -46,8 +46,9 @@ class SegmentBuilder {
   void readValues(std::uint32_t entry);
   void readAllValues();
 
-  /// In place of readAllValues(): has them read by another thread. Those of hits can be read meanwhile; all
-  /// are in the segment after finishValues(). `findOrder` may be called by that thread, too.
+  /// In place of readAllValues(): has them read by another thread from finishText() on. Those of hits can be
+  /// read up to then; all are in the segment after finishValues(). `findOrder` may be called by that thread,
+  /// too.
   void readAllValuesBeside();
   /// To be called before the segment goes on to anybody who may ask for the values of any entry.
   void finishValues();

@@ -28,14 +28,14 @@ void TailBatch::copy(std::string_view tail) {
 }
 
 void TailBatch::add(std::string_view tail, bool isOwn, std::int64_t line) {
-  if (!tails_.empty() && tail.data() == last_) {
+  // Not known by its place: where one text was, the next one is.
+  if (!tails_.empty() && !isOwn) {
     Tail shared = tails_.back();
-    shared.isOwn = isOwn;
+    shared.isOwn = false;
     shared.line = line;
     tails_.push_back(shared);
     return;
   }
-  last_ = tail.data();
   tails_.push_back({size_, static_cast<std::uint32_t>(tail.size()), tail.data() != nullptr, isOwn, line});
   if (tail.data() != nullptr) copy(tail);
 }
@@ -54,7 +54,6 @@ void TailBatch::read(TailReader& reader) {
 void TailBatch::clear() {
   size_ = 0;
   tails_.clear();
-  last_ = nullptr;
   values_.clear();
 }
 

@@ -16,7 +16,8 @@ namespace quorvin {
 class TailBatch {
  public:
   /// The next entry's tail, which may be null where there has been none so far; at least kLinePadding bytes
-  /// behind its start can be read. `isOwn` and `line` as for TailReader::read.
+  /// behind its start can be read. `isOwn` and `line` as for TailReader::read; a tail that is not the entry's
+  /// own is that of the entry before, where there is one.
   void add(std::string_view tail, bool isOwn, std::int64_t line);
 
   std::uint32_t count() const { return static_cast<std::uint32_t>(tails_.size()); }
@@ -44,8 +45,6 @@ class TailBatch {
   std::vector<char> text_;
   std::size_t size_ = 0;
   std::vector<Tail> tails_;
-  /// The tail that was added last, where it was.
-  const char* last_ = nullptr;
   EntryValueArrays values_;
 };
 

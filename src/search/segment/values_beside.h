@@ -29,7 +29,7 @@ class ValuesBeside {
   void add(std::string_view tail, bool isOwn, std::int64_t line) { filled_.add(tail, isOwn, line); }
 
   /// Has read what was added, if that is enough, and puts what is read by now into `values`. What was put
-  /// there for these entries before is replaced by the same.
+  /// there for these entries before is replaced by the same; nothing else may put any there afterwards.
   void goOn(EntryValueArrays& values);
 
   /// Reads all that was added, and puts it into `values`. The tail that is added next is that of entry 0.

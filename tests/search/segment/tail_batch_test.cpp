@@ -72,6 +72,17 @@ TEST_F(TailBatchTest, SharedTailsAreCarried) {
   EXPECT_EQ(values.unreadable()[1].entry, 3U);
 }
 
+TEST_F(TailBatchTest, ATailOfItsOwnIsReadAlsoWhereTheOneBeforeWas) {
+  std::string text = tail("1") + std::string(kLinePadding, '#');
+  batch_.add(std::string_view(text).substr(0, tail("1").size()), true, 1);
+  // The next chunk of the listing is read into the same memory.
+  text.replace(0, tail("2").size(), tail("2"));
+  batch_.add(std::string_view(text).substr(0, tail("2").size()), true, 2);
+  const EntryValueArrays& values = read();
+  EXPECT_EQ(expand(values.compact()[0]).size, 1);
+  EXPECT_EQ(expand(values.compact()[1]).size, 2);
+}
+
 TEST_F(TailBatchTest, WithoutAnyTailTheValuesAreAbsent) {
   share();
   share();

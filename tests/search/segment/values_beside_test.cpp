@@ -4,6 +4,7 @@
 #include "search/segment/values_beside.h"
 
 #include "search/format/line_scan.h"
+#include "search/segment/segment_builder.h"
 #include "search/segment/segment_store_fixture.h"
 #include "support/generated_listing.h"
 #include "support/sweep.h"
@@ -103,6 +104,33 @@ TEST(ValuesBeside, GoOnWithTheFirstEntryOfTheNextSegment) {
     if (segment == 1) beside.goOn(values);
     beside.finish(values);
     EXPECT_EQ(expand(values.compact()[0]).size, 8) << segment;
+  }
+}
+
+// Where the other thread is busy, the tails of a text are read in place, and its hits are in there already.
+TEST(ValuesBeside, ValuesOfHitsAreThereOnce) {
+  constexpr std::uint32_t kTexts = 6;
+  const std::string lines = (entryLine("wide", "9999999999999") + entryLine("bad", "n/a"))
+                                .repeated(ValuesBeside::kBatch / 2)
+                                .toStdString();
+  const std::string text = std::string(kLinePadding, '\n') + lines + std::string(kLinePadding, '\n');
+  SegmentBuilder builder(QLocale::c());
+  for (std::uint32_t number = 0; number < kTexts; ++number) {
+    builder.addLines(text.data() + kLinePadding, lines.size());
+    builder.readAllValuesBeside();
+    const std::uint32_t first = number * ValuesBeside::kBatch;
+    for (std::uint32_t entry = first; entry < first + ValuesBeside::kBatch; ++entry)
+      builder.readValues(entry);
+    builder.finishText();
+  }
+  builder.finishValues();
+  const SegmentArrays& arrays = builder.segment()->arrays();
+  ASSERT_EQ(arrays.wideValues.size(), kTexts * ValuesBeside::kBatch / 2);
+  ASSERT_EQ(arrays.unreadable.size(), kTexts * ValuesBeside::kBatch / 2);
+  for (std::uint32_t i = 0; i < arrays.wideValues.size(); ++i) {
+    ASSERT_EQ(arrays.wideValues[i].entry, 2 * i);
+    ASSERT_EQ(arrays.unreadable[i].entry, 2 * i + 1);
+    ASSERT_EQ(arrays.unreadable[i].line, 2 * i + 2);
   }
 }
 
