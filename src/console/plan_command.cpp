@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // "plan": which volumes to fetch for files that are wanted.
+#include "catalogue/fetch/plan_script.h"
+#include "catalogue/fetch/plan_text.h"
 #include "console/commands.h"
 #include "console/error_lines.h"
-#include "console/plan_rows.h"
-#include "console/plan_script.h"
 #include "console/search_parts.h"
+#include "console/table_row.h"
 #include "console/wanted_list.h"
 #include "faults/runtime_fault.h"
 #include "files/file_writer.h"
@@ -16,7 +17,10 @@
 #include <QDir>
 #include <QLocale>
 
+#include <functional>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <unistd.h>
 
 namespace quorvin {
@@ -36,6 +40,83 @@ QString complaintAbout(const PlanRequest& request) {
   }
   return request.isList() ? QString() : complaintAboutSearch(request.searchText, request.desiredMatch);
 }
+
+/// Writes a plan piece by piece, UTF-8. In JSON each volume, file, missing file and the sum is an object.
+class PlanWriter {
+ public:
+  /// Takes a piece; false where no more are wanted.
+  using Write = std::function<bool(const std::string& piece)>;
+
+  /// `finder` has found a plan.
+  PlanWriter(const FetchFinder& finder, TableFormat format, bool isForTerminal, const QLocale& locale)
+      : plan_(finder.plan()),
+        finder_(finder),
+        format_(format),
+        locale_(locale),
+        cells_(cellRuleOf(format), isForTerminal) {}
+
+  void write(const Write& write) const {
+    const PlanText people(finder_, locale_, [this](std::string_view name) { return shown(name); });
+    const bool isText = format_ == TableFormat::Text;
+    for (std::size_t number = 0; number < plan_.volumes.size(); ++number) {
+      if (!write(isText ? people.volume(number) : volumeRows(number))) return;
+    }
+    write(isText ? people.end() : endRows());
+  }
+
+ private:
+  std::string volumeRows(std::size_t number) const {
+    const PlanPlaces& places = finder_.places();
+    const FetchPlan::Volume& volume = plan_.volumes[number];
+    const FolderTree::Volume& place = places.folders.volumes()[volume.volume];
+    const std::string listing = places.listings[place.listing].toStdString();
+    const auto order = static_cast<std::int64_t>(number) + 1;
+    std::string text;
+    TableRow row(format_, cells_, text);
+    row.add("kind", "volume").add("order", order).add("volume", place.name).add("listing", listing);
+    row.add("top", places.tops[volume.volume]).add("files", volume.sum.files).add("size", volume.sum.bytes);
+    row.end(false);
+    for (const FetchPlan::File& file : volume.files) {
+      TableRow line(format_, cells_, text);
+      line.add("kind", "file").add("order", order).add("volume", place.name);
+      line.add("folder", places.folders.path(file.copy.folder)).add("name", file.copy.name);
+      const std::int64_t size = finder_.files()[file.file].size;
+      if (size >= 0) line.add("size", size);
+      line.add("listing", listing).end(false);
+    }
+    return text;
+  }
+
+  std::string endRows() const {
+    std::string text;
+    for (const std::uint32_t number : plan_.missing) {
+      const WantedFile& file = finder_.files()[number];
+      TableRow row(format_, cells_, text);
+      row.add("kind", "missing").add("name", file.name);
+      if (file.size >= 0) row.add("size", file.size);
+      row.end(false);
+    }
+    TableRow row(format_, cells_, text);
+    row.add("kind", "sum").add("volumes", static_cast<std::int64_t>(plan_.volumes.size()));
+    row.add("files", plan_.sum.files).add("size", plan_.sum.bytes);
+    row.add("missing", static_cast<std::int64_t>(plan_.missing.size())).startCell("fewest");
+    text += plan_.isFewest ? "true" : "false";
+    row.end(false);
+    return text;
+  }
+
+  std::string shown(std::string_view name) const {
+    std::string text;
+    cells_.add(text, name);
+    return text;
+  }
+
+  const FetchPlan& plan_;
+  const FetchFinder& finder_;
+  TableFormat format_;
+  const QLocale& locale_;
+  CellForm cells_;
+};
 
 class Planner {
  public:
@@ -79,12 +160,12 @@ class Planner {
     progress_.line().clear();
     hasPlan_ = !finder_.plan().volumes.empty();
     FileWriter output(STDOUT_FILENO, Texts::tr("standard output"));
-    const PlanRows::Write writePiece = [&output](const std::string& piece) {
+    const PlanWriter::Write writePiece = [&output](const std::string& piece) {
       output.write(piece);
       return !stopSignalled();
     };
     if (!request_.scriptFolder) {
-      PlanRows(finder_, {request_.format, ::isatty(STDOUT_FILENO) == 1}, locale_).write(writePiece);
+      PlanWriter(finder_, request_.format, ::isatty(STDOUT_FILENO) == 1, locale_).write(writePiece);
     } else if (hasPlan_) {
       writePlanScript(finder_, QDir::current().absoluteFilePath(*request_.scriptFolder), locale_, writePiece);
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // The script of "plan", run by the shell. In place of rsync comes a program that notes what it is asked for.
-#include "console/plan_script.h"
+#include "catalogue/fetch/plan_script.h"
 
 #include "console/console_program.h"
 #include "support/listing_lines.h"

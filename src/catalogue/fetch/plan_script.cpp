@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "console/plan_script.h"
+#include "catalogue/fetch/plan_script.h"
 
 #include "catalogue/sum_texts.h"
 #include "search/format/listing_line.h"
@@ -145,9 +145,7 @@ std::string foldersOf(std::string_view path) {
 
 /// For a comment: nothing in it ends the line.
 std::string comment(const QString& text) {
-  std::string line;
-  CellForm(CellRule::Blanks, false).add(line, text.toStdString());
-  return "# " + line + '\n';
+  return "# " + withoutControls(text).toStdString() + '\n';
 }
 
 /// Names of folders for volumes, each another one on file systems that know no case, too.
@@ -234,15 +232,9 @@ class Script {
     return Texts::tr("Please insert volume %1 of %2: %3. It was listed at %4; %5 to copy.")
         .arg(locale_.toString(static_cast<qulonglong>(number + 1)),
              locale_.toString(static_cast<qulonglong>(plan.volumes.size())),
-             plainText(volumeTitle(places, volume.volume)),
-             plainText(QString::fromStdString(places.tops[volume.volume])), sumText(volume.sum, locale_));
-  }
-
-  /// A terminal obeys control characters.
-  static QString plainText(const QString& text) {
-    std::string plain;
-    CellForm(CellRule::Blanks, true).add(plain, text.toStdString());
-    return QString::fromStdString(plain);
+             withoutControls(volumeTitle(places, volume.volume)),
+             withoutControls(QString::fromStdString(places.tops[volume.volume])),
+             sumText(volume.sum, locale_));
   }
 
   const FetchFinder& finder_;
@@ -264,7 +256,7 @@ std::string shellWord(std::string_view text) {
 }
 
 void writePlanScript(const FetchFinder& finder, const QString& to, const QLocale& locale,
-                     const PlanRows::Write& write) {
+                     const std::function<bool(const std::string& piece)>& write) {
   const Script script(finder, locale);
   if (!write(script.head(to) + functions())) return;
   for (std::size_t number = 0; number < finder.plan().volumes.size(); ++number) {
