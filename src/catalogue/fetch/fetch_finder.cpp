@@ -25,7 +25,7 @@ FetchFinder::FetchFinder(Parts parts) : parts_(std::move(parts)) {
 bool FetchFinder::find(const std::optional<Words>& words, const std::vector<QString>& listings) {
   NoMessages silence;
   if (words) {
-    WantedHits hits(wanted_, places_.folders);
+    WantedHits hits(wanted_);
     run(hits, parts_.messages, *words, listings);
     if (parts_.endRequested()) return false;
   }

@@ -20,6 +20,10 @@ std::string cutName(const QString& name) {
   return std::string(cut.substr(0, cut.find_last_not_of(' ') + 1));
 }
 
+std::int64_t placeOfBlock(const QString& listing, const Segment& segment, std::uint32_t block) {
+  return WantedFiles::placeOf(listing, segment.volumeOfBlock(block), segment.folderOfBlock(block));
+}
+
 /// Gives back memory of a segment that was looked at, as far as it is in a file.
 void giveBack(const std::shared_ptr<const Segment>& segment, const std::shared_ptr<const Segment>& kept) {
   (kept ? kept : segment)->release();
@@ -39,8 +43,17 @@ void WantedFiles::add(const QString& name, std::optional<std::int64_t> size) {
   }
 }
 
-void WantedFiles::add(const ListedWalk::Text& name, std::int64_t size, std::uint32_t folder) {
-  want({nameLike(name.folded, name.listed), size < 0 ? ~std::int64_t{folder} : size});
+void WantedFiles::add(const ListedWalk::Text& name, std::int64_t size, std::int64_t place) {
+  want({nameLike(name.folded, name.listed), size < 0 ? ~place : size});
+}
+
+std::int64_t WantedFiles::placeOf(const QString& listing, std::string_view volume, std::string_view folder) {
+  const QByteArray path = listing.toUtf8();
+  XXH64_hash_t hash = XXH3_64bits(path.constData(), static_cast<std::size_t>(path.size()));
+  for (const std::string_view part : {volume, folder}) {
+    hash = XXH3_64bits_withSeed(part.data(), part.size(), hash);
+  }
+  return static_cast<std::int64_t>(hash >> 1U);
 }
 
 void WantedFiles::want(const Key& key) {
@@ -55,8 +68,8 @@ std::uint32_t WantedFiles::find(std::string_view folded) const {
   return found == namesByText_.end() ? kNone : found->second;
 }
 
-void WantedFiles::found(std::uint32_t name, std::int64_t size, const FileCopy& copy) {
-  const Key key{name, size < 0 ? ~std::int64_t{copy.folder} : size};
+void WantedFiles::found(std::uint32_t name, std::int64_t size, std::int64_t place, const FileCopy& copy) {
+  const Key key{name, size < 0 ? ~place : size};
   if (names_[name].isEvery) filesByKey_.try_emplace(key, kNone);
   const auto wanted = filesByKey_.find(key);
   if (wanted == filesByKey_.end()) return;
@@ -101,13 +114,8 @@ bool WantedHits::addHits(const std::shared_ptr<const Segment>& segment, std::spa
     const std::int64_t size = sizes.of(hit.entry);
     const ListedWalk::Text text = names.at(hit.entry);
     const ListedWalk::Text name{fileNameIn(text.listed, size), fileNameIn(text.folded, size)};
-    std::uint32_t folder = FolderTree::kNone;
-    if (size < 0) {
-      const std::uint32_t block = segment->blockOf(hit.entry);
-      const std::uint32_t volume = folders_.addVolume(listings_ - 1, segment->volumeOfBlock(block));
-      folder = folders_.addFolder(volume, segment->folderOfBlock(block));
-    }
-    wanted_.add(name, size, folder);
+    const std::int64_t place = size < 0 ? placeOfBlock(listing_, *segment, segment->blockOf(hit.entry)) : 0;
+    wanted_.add(name, size, place);
   }
   return true;
 }
@@ -136,7 +144,8 @@ void WantedCopies::takeBlock(const Segment& segment, std::uint32_t block, std::u
     const std::uint32_t name = wanted_.find(fileNameIn(foldedNames.text(entry), size));
     if (name == WantedFiles::kNone) continue;
     const std::string_view listed = fileNameIn(names.at(entry).listed, size);
-    wanted_.found(name, size, {volume, places_.folders.addFolder(volume, folderPath), listed});
+    const std::int64_t place = size < 0 ? placeOfBlock(places_.listings.back(), segment, block) : 0;
+    wanted_.found(name, size, place, {volume, places_.folders.addFolder(volume, folderPath), listed});
   }
 }
 

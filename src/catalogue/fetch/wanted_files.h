@@ -21,7 +21,7 @@ namespace quorvin {
 
 /// What is wanted, and where it has been found. Files are the same that have the same name, in lower case as
 /// the search has it, and the same size to the byte. One whose listing tells no size is the same as no other:
-/// it is known by its folder. Memory grows with what is wanted, not with what is listed.
+/// it is known by its place. Memory grows with what is wanted, not with what is listed.
 class WantedFiles {
  public:
   static constexpr std::uint32_t kNone = UINT32_MAX;
@@ -30,15 +30,20 @@ class WantedFiles {
   /// looks at the first 65 characters of the name only.
   void add(const QString& name, std::optional<std::int64_t> size);
   /// Wants a file that is listed, with its names as listed and in lower case. A negative size stands for
-  /// none; then the file in `folder` is meant.
-  void add(const ListedWalk::Text& name, std::int64_t size, std::uint32_t folder);
+  /// none; then the file at `place` is meant.
+  void add(const ListedWalk::Text& name, std::int64_t size, std::int64_t place);
+
+  /// A number for a folder of a volume of a listing, 0 or more. Two of them have the same one so seldom that
+  /// nobody will see it.
+  static std::int64_t placeOf(const QString& listing, std::string_view volume, std::string_view folder);
 
   bool isEmpty() const { return names_.empty(); }
 
   /// The number of the name, which is in lower case; kNone where nothing of that name is wanted.
   std::uint32_t find(std::string_view folded) const;
-  /// Notes a file of the name `name`, if it is one that is wanted. The same one may come twice.
-  void found(std::uint32_t name, std::int64_t size, const FileCopy& copy);
+  /// Notes a file of the name `name`, if it is one that is wanted; `place` counts where its size is negative.
+  /// The same one may come twice.
+  void found(std::uint32_t name, std::int64_t size, std::int64_t place, const FileCopy& copy);
 
   /// To be called when all has been found: a name of which there is no file is one that is missing.
   void complete();
@@ -57,7 +62,7 @@ class WantedFiles {
   /// What a file is known by.
   struct Key {
     std::uint32_t name;
-    /// Its size. Where it has none, the complement of its folder, which is negative.
+    /// Its size. Where it has none, the complement of its place, which is negative.
     std::int64_t value;
     bool operator==(const Key&) const = default;
   };
@@ -86,20 +91,19 @@ struct PlanPlaces {
   std::vector<std::string> tops = {};
 };
 
-/// The sink of a search: each hit is wanted. Listings must come in the same order as in WantedCopies.
+/// The sink of a search: each hit is wanted.
 class WantedHits : public HitSink {
  public:
-  WantedHits(WantedFiles& wanted, FolderTree& folders) : wanted_(wanted), folders_(folders) {}
+  explicit WantedHits(WantedFiles& wanted) : wanted_(wanted) {}
 
-  void startListing(SourceKind, const QString&) override { ++listings_; }
+  void startListing(SourceKind, const QString& path) override { listing_ = path; }
   bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
   void endSegment(const std::shared_ptr<const Segment>& segment,
                   const std::shared_ptr<const Segment>& kept) override;
 
  private:
   WantedFiles& wanted_;
-  FolderTree& folders_;
-  std::uint32_t listings_ = 0;
+  QString listing_;
 };
 
 /// The sink of a run that finds every entry: notes where wanted files are.
