@@ -4340,6 +4340,10 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>Clear</source>
         <translation>Leeren</translation>
     </message>
+    <message>
+        <source>%1 was not replaced, since it could not be kept in the listing history: %2</source>
+        <translation>%1 wurde nicht ersetzt, weil der bisherige Inhalt nicht im Listenverlauf aufbewahrt werden konnte: %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

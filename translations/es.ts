@@ -4340,6 +4340,10 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>Clear</source>
         <translation>Borrar</translation>
     </message>
+    <message>
+        <source>%1 was not replaced, since it could not be kept in the listing history: %2</source>
+        <translation>%1 no se sustituyó, porque su contenido no se pudo conservar en el historial de listas: %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

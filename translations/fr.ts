@@ -4340,6 +4340,10 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>Clear</source>
         <translation>Effacer</translation>
     </message>
+    <message>
+        <source>%1 was not replaced, since it could not be kept in the listing history: %2</source>
+        <translation>%1 n’a pas été remplacée, car son contenu n’a pas pu être gardé dans l’historique des listes&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -73,7 +73,8 @@ ImportChoices choicesOf(const ImportCommand& command) {
   ProgramState state;
   ErrorLines messages;
   loadUserSources(state, QLocale(), messages);
-  return {requestOf(command), command.output, command.label, command.replaces, ownFileCheck(state)};
+  return {requestOf(command), command.output,    command.label,
+          command.replaces,   state.LocalFolder, ownFileCheck(state)};
 }
 
 void printIndented(const QString& indent, const QStringList& lines) {

@@ -2,6 +2,7 @@
 #include "catalogue/import/list_importer.h"
 
 #include "faults/runtime_fault.h"
+#include "history/history_fixture.h"
 #include "support/qt_printing.h"
 #include "support/temporary_folder.h"
 
@@ -69,6 +70,41 @@ TEST_F(ListImporters, KeepAListingThatIsThereUnlessItMayBeReplaced) {
   choices.replaces = true;
   EXPECT_EQ(refusalOf(path), QString());
   EXPECT_TRUE(folder_.readFile(u"out/x.txt"_qs).contains("Directory: \\a\\\r\n\r\nx "));
+}
+
+TEST_F(ListImporters, KeepAReplacedListingInTheHistoryOfTheDataFolder) {
+  folder_.writeFile(u"out/x.txt"_qs, "of a lost disk");
+  choices.replaces = true;
+  choices.dataFolder = choices.output + u'/';
+  EXPECT_EQ(refusalOf(list(u"x.lst"_qs, "./a/x\n")), QString());
+  const ListingHistory history(choices.dataFolder);
+  ASSERT_EQ(history.versions(u"x.txt"_qs).size(), 1U);
+  EXPECT_EQ(test::allOf(*history.text(u"x.txt"_qs, 1)), "of a lost disk");
+
+  // The same text once more is no loss.
+  EXPECT_EQ(refusalOf(list(u"x.lst"_qs, "./a/x\n")), QString());
+  EXPECT_EQ(history.versions(u"x.txt"_qs).size(), 1U);
+}
+
+TEST_F(ListImporters, ReplaceNoListingThatCannotBeKept) {
+  folder_.writeFile(u"out/x.txt"_qs, "of a lost disk");
+  // There can be no folder of that name.
+  folder_.writeFile(u"out/history"_qs, "");
+  choices.replaces = true;
+  choices.dataFolder = choices.output;
+  EXPECT_THAT(refusalOf(list(u"x.lst"_qs, "./a/x\n")).toStdString(),
+              testing::StartsWith(folder_.pathOf(u"out/x.txt"_qs).toStdString() +
+                                  " was not replaced, since it could not be kept in the listing history: "));
+  EXPECT_EQ(folder_.readFile(u"out/x.txt"_qs), "of a lost disk");
+  EXPECT_EQ(namesMade(), (QStringList{u"history"_qs, u"x.txt"_qs}));
+}
+
+TEST_F(ListImporters, KeepNoHistoryOfListingsElsewhere) {
+  folder_.writeFile(u"out/x.txt"_qs, "of a lost disk");
+  choices.replaces = true;
+  choices.dataFolder = folder_.makeFolder(u"data"_qs);
+  EXPECT_EQ(refusalOf(list(u"x.lst"_qs, "./a/x\n")), QString());
+  EXPECT_TRUE(QDir(choices.dataFolder).isEmpty());
 }
 
 TEST_F(ListImporters, NeverReplaceTheListItself) {

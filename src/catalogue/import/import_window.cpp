@@ -71,7 +71,7 @@ ImportWindow::ImportWindow(ImportWindowParts parts, QWidget* owner)
       made_(new QLineEdit),
       folder_(new QLineEdit),
       volume_(new QLineEdit),
-      output_(new QLineEdit(parts_.output)),
+      output_(new QLineEdit(parts_.dataFolder)),
       browse_(new QPushButton(Texts::tr("&Browse..."))),
       bytes_(new QCheckBox(Texts::tr("du told b&ytes"))),
       replace_(new QCheckBox(Texts::tr("Re&place listings of the same name"))),
@@ -297,7 +297,8 @@ void ImportWindow::Import_Click() {
 
 void ImportWindow::start() {
   const QString label = volume_->isEnabled() ? volume_->text() : QString();
-  ImportChoices choices{request(), output_->text(), label, replace_->isChecked(), parts_.isOwnFile};
+  ImportChoices choices{request(),         output_->text(), label, replace_->isChecked(),
+                        parts_.dataFolder, parts_.isOwnFile};
   job_ = std::make_shared<ImportJob>(listNames(), std::move(choices), controlNames());
   parts_.threads.start([job = job_] { job->run(); });
   import_->setText(stopCaption());

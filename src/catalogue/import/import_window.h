@@ -26,8 +26,8 @@ namespace quorvin {
 struct ImportWindowParts {
   /// Where lists are read. A thread that waits for a drive is left to itself when the window closes.
   QThreadPool& threads;
-  /// The folder for the listings at first.
-  QString output;
+  /// The folder for the listings at first: the data folder of the program (see ImportChoices).
+  QString dataFolder;
   /// See ImportChoices; asked in another thread.
   std::function<bool(const QString& path)> isOwnFile;
   /// Asks the user for lists; none when the user cancels.

@@ -7,6 +7,7 @@
 #include "files/file_aside.h"
 #include "files/file_reader.h"
 #include "files/stream_reader.h"
+#include "history/listing_history.h"
 #include "texts/texts.h"
 
 #include <QDate>
@@ -88,6 +89,18 @@ QString ListImporter::placeOf(const QString& list) const {
   return place.filePath();
 }
 
+/// A list may be of a disk that is lost, and worse than what was known of it.
+void ListImporter::keepEarlier(const QString& place, const QString& replacement) const {
+  if (choices_.dataFolder.isEmpty() || !QFileInfo::exists(place)) return;
+  const QDir dataFolder(QFileInfo(choices_.dataFolder).canonicalFilePath());
+  const QString name = dataFolder.relativeFilePath(QFileInfo(place).canonicalFilePath());
+  if (name.startsWith(QStringLiteral("../")) || QDir::isAbsolutePath(name)) return;
+  const KeptListing kept = ListingHistory(dataFolder.path() + u'/').keep(name, replacement, true);
+  if (kept.fault.isEmpty()) return;
+  throw refusal(Texts::tr("%1 was not replaced, since it could not be kept in the listing history: %2")
+                    .arg(place, kept.fault));
+}
+
 ImportedList ListImporter::import(const QString& list, const LinesRead& linesRead) const {
   ImportedList made{placeOf(list), {}};
   ImportRequest request = choices_.request;
@@ -110,6 +123,8 @@ ImportedList ListImporter::import(const QString& list, const LinesRead& linesRea
   if (made.report.counts.files == 0 && made.report.counts.folders == 0) {
     throw refusal(Texts::tr("%1 names no file and no folder; no listing was made").arg(list));
   }
+  file.finish();
+  keepEarlier(made.place, file.path());
   file.commit();
   return made;
 }

@@ -24,6 +24,9 @@ struct ImportChoices {
   QString label = {};
   /// Whether a listing of the same name is replaced. A list is never replaced by its own listing.
   bool replaces = false;
+  /// The program's data folder: a listing in it, or below, that is replaced is kept in its listing history.
+  /// Empty for none.
+  QString dataFolder = {};
   /// Whether a file is the program's own, in whose place no listing may stand; empty where none is.
   std::function<bool(const QString& path)> isOwnFile = {};
 };
@@ -56,13 +59,14 @@ class ListImporter {
 
   /// Reads `list`, a file, a stream, or "-" for standard input, and puts its listing in place. When a stop is
   /// requested, `report.isStopped` is true and no listing is made. Throws RuntimeFault, with which nothing at
-  /// the place changes either: 5 where a listing is there already, no format is recognised or the list names
-  /// nothing, and as importList() and FileAside do.
+  /// the place changes either: 5 where a listing is there already, no format is recognised, the list names
+  /// nothing or the earlier listing cannot be kept, and as importList() and FileAside do.
   ImportedList import(const QString& list, const LinesRead& linesRead) const;
 
  private:
   QString nameOf(const QString& list) const;
   QString placeOf(const QString& list) const;
+  void keepEarlier(const QString& place, const QString& replacement) const;
 
   ImportChoices choices_;
   ImportControls controls_;
