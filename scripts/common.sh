@@ -13,7 +13,7 @@ WINDOW_PACKAGES=(qt6-qpa-plugins qt6-wayland qt6-translations-l10n fonts-dejavu-
 # To build and run the tests, and to check format and code:
 TEST_PACKAGES=(ccache dbus-daemon libbenchmark-dev libgtest-dev libgmock-dev fonts-dejavu-core clang-format-14
   at-spi2-core xvfb openbox xdotool xclip imagemagick libstb-dev emf2svg libwmf-bin libarchive-tools zip 7zip python3 mold
-  tree rsync unzip)
+  rclone tree rsync unzip)
 TIDY_PACKAGES=(clang-tidy-14)
 # To check licences and what desktops read:
 METADATA_PACKAGES=(appstream desktop-file-utils reuse)

@@ -183,6 +183,18 @@ TEST(RcloneLists, SizeDateAndPath) {
                                         file("doc", {}, wallClockOf("2004-01-15 10:20:30"))));
 }
 
+TEST(RcloneLists, PicturesOfControlCharactersStandForThem) {
+  const ReadList list =
+      readLines(*makeRcloneReader({}),
+                {"5 2004-01-15 10:20:30.0 new\u240Aline", "5 2004-01-15 10:20:30.0 \u241B[2J\u2421",
+                 "5 2004-01-15 10:20:30.0 its own \u201B\u240A", "5 2004-01-15 10:20:30.0 \u201Bx \u2422",
+                 "5 2004-01-15 10:20:30.0 cut \xE2\x90"});
+  const ListDate date = wallClockOf("2004-01-15 10:20:30");
+  EXPECT_THAT(list.entries, ElementsAre(file("new\nline", 5, date), file("\x1B[2J\x7F", 5, date),
+                                        file("its own \u240A", 5, date), file("\u201Bx \u2422", 5, date),
+                                        file("cut \xE2\x90", 5, date)));
+}
+
 TEST(DuLists, AFolderComesBehindWhatIsInIt) {
   const std::vector<std::string_view> lines{"4\t./a b/x y.txt", "8\t./a b", "1.5M\t./z", "12\t."};
   const ReadList list = readLines(*makeDuReader({}), lines);

@@ -169,6 +169,8 @@ TEST_F(ImportProgram, ListsOfArchivesAndTransfersEqualTheIndex) {
   expectEqualsTheIndex(u"tar -cf - . | tar -tvf - --full-time"_qs, {});
   expectEqualsTheIndex(u"tar -cf - . | tar -tvf -"_qs, {}, {.seconds = true});
   expectEqualsTheIndex(u"rsync --list-only -r ."_qs, {});
+  expectEqualsTheIndex(u"TZ=Europe/Berlin rclone --config '' --log-level ERROR lsl ."_qs, {},
+                       {.emptyFolders = true});
 }
 
 TEST_F(ImportProgram, ManifestsEqualTheIndex) {
@@ -178,6 +180,25 @@ TEST_F(ImportProgram, ManifestsEqualTheIndex) {
   const NotTold notTold{.sizes = true, .dates = true, .emptyFolders = true};
   expectEqualsTheIndex(u"find . -type f -exec md5sum {} +"_qs, {}, notTold);
   expectEqualsTheIndex(u"find . -type f -exec sha256sum --tag {} +"_qs, {}, notTold);
+}
+
+TEST_F(ImportProgram, TablesEqualTheIndex) {
+  addNaughtyNames();
+  addLineEnd();
+  folder.writeFile(u"table.py"_qs,
+                   "import csv, datetime, os, sys\n"
+                   "out = open(1, 'w', encoding='utf-8', errors='surrogateescape', newline='')\n"
+                   "table = csv.writer(out, delimiter=sys.argv[1])\n"
+                   "table.writerow(['Path', 'Type', 'Size', 'Modified'])\n"
+                   "for top, folders, files in os.walk('.'):\n"
+                   "    for name in folders + files:\n"
+                   "        path = os.path.join(top, name)\n"
+                   "        facts = os.stat(path)\n"
+                   "        kind = 'folder' if name in folders else 'file'\n"
+                   "        date = datetime.datetime.fromtimestamp(facts.st_mtime_ns // 10**9)\n"
+                   "        table.writerow([path, kind, facts.st_size, date])\n");
+  expectEqualsTheIndex(u"python3 ../table.py ,"_qs, {});
+  expectEqualsTheIndex(u"python3 ../table.py ';'"_qs, {});
 }
 
 TEST_F(ImportProgram, SaysWhatItReadAndWhatNot) {

@@ -47,6 +47,36 @@ class DuReader : public ListReader {
   std::string parentOfLast_;
 };
 
+/// A name as it is on the disk. For each control character rclone writes its picture, U+2400 to U+241F and
+/// U+2421, and U+201B in front of what looks like one in the name itself.
+std::string withoutPictures(std::string_view text) {
+  static constexpr std::string_view kSame = "\xE2\x80\x9B";
+  static constexpr std::string_view kPictures = "\xE2\x90";
+  const auto pictured = [](std::string_view picture) -> int {
+    if (!picture.starts_with(kPictures) || picture.size() <= kPictures.size()) return -1;
+    const int number = static_cast<unsigned char>(picture[kPictures.size()]) - 0x80;
+    if (number < 0x20) return number;
+    return number == 0x21 ? 0x7F : -1;
+  };
+  std::string name;
+  while (!text.empty()) {
+    std::size_t length = 1;
+    const int control = pictured(text);
+    if (control >= 0) {
+      name += static_cast<char>(control);
+      length = kPictures.size() + 1;
+    } else {
+      if (text.starts_with(kSame) && pictured(text.substr(kSame.size())) >= 0) {
+        text.remove_prefix(kSame.size());
+        length = kPictures.size() + 1;
+      }
+      name += text.substr(0, length);
+    }
+    text.remove_prefix(length);
+  }
+  return name;
+}
+
 /// "     5 2004-01-15 10:20:30.000000000 path".
 class RcloneReader : public ListReader {
  public:
@@ -60,7 +90,7 @@ class RcloneReader : public ListReader {
     const bool hasFraction =
         date && before.substr(0, before.size() - line.size()).find('.') != std::string_view::npos;
     if (!hasFraction || !takeText(line, " ") || line.empty()) return LineSays::NotUnderstood;
-    entry = {std::string(line), EntryKind::File, isUnknown ? std::nullopt : size, *date};
+    entry = {withoutPictures(line), EntryKind::File, isUnknown ? std::nullopt : size, *date};
     return LineSays::Entry;
   }
 };
