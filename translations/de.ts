@@ -3515,10 +3515,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Wann die Liste entstand, für Daten ohne Jahr</translation>
     </message>
     <message>
-        <source>utf-8 (default), windows-1252, cp437, cp850, cp852</source>
-        <translation>utf-8 (sonst), windows-1252, cp437, cp850, cp852</translation>
-    </message>
-    <message>
         <source>Replace listings that are there</source>
         <translation>Vorhandene Listen ersetzen</translation>
     </message>
@@ -4343,6 +4339,14 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>%1 was not replaced, since it could not be kept in the listing history: %2</source>
         <translation>%1 wurde nicht ersetzt, weil der bisherige Inhalt nicht im Listenverlauf aufbewahrt werden konnte: %2</translation>
+    </message>
+    <message>
+        <source>The lists&apos; encoding, such as cp850; default: utf-8</source>
+        <translation>Kodierung der Verzeichnisse, etwa cp850; sonst utf-8</translation>
+    </message>
+    <message>
+        <source>the system does not know the encoding &quot;%1&quot;</source>
+        <translation>das System kennt die Kodierung „%1“ nicht</translation>
     </message>
 </context>
 <context>

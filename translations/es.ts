@@ -3515,10 +3515,6 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>Cuándo se hizo la lista, para fechas sin año</translation>
     </message>
     <message>
-        <source>utf-8 (default), windows-1252, cp437, cp850, cp852</source>
-        <translation>utf-8 (usual), windows-1252, cp437, cp850, cp852</translation>
-    </message>
-    <message>
         <source>Replace listings that are there</source>
         <translation>Sustituir las listas que existan</translation>
     </message>
@@ -4343,6 +4339,14 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>%1 was not replaced, since it could not be kept in the listing history: %2</source>
         <translation>%1 no se sustituyó, porque su contenido no se pudo conservar en el historial de listas: %2</translation>
+    </message>
+    <message>
+        <source>The lists&apos; encoding, such as cp850; default: utf-8</source>
+        <translation>Codificación de las listas, como cp850; si no, utf-8</translation>
+    </message>
+    <message>
+        <source>the system does not know the encoding &quot;%1&quot;</source>
+        <translation>el sistema no conoce la codificación «%1»</translation>
     </message>
 </context>
 <context>

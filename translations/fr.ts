@@ -3515,10 +3515,6 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>Quand la liste fut faite, pour dates sans année</translation>
     </message>
     <message>
-        <source>utf-8 (default), windows-1252, cp437, cp850, cp852</source>
-        <translation>utf-8 (défaut), windows-1252, cp437, cp850, cp852</translation>
-    </message>
-    <message>
         <source>Replace listings that are there</source>
         <translation>Remplacer les listes existantes</translation>
     </message>
@@ -4343,6 +4339,14 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>%1 was not replaced, since it could not be kept in the listing history: %2</source>
         <translation>%1 n’a pas été remplacée, car son contenu n’a pas pu être gardé dans l’historique des listes&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The lists&apos; encoding, such as cp850; default: utf-8</source>
+        <translation>Encodage des listes, par exemple cp850&#xa0;; défaut&#xa0;: utf-8</translation>
+    </message>
+    <message>
+        <source>the system does not know the encoding &quot;%1&quot;</source>
+        <translation>le système ne connaît pas l’encodage «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>

@@ -121,7 +121,7 @@ _quorvin_cli() {
         --columns) _quorvin_list "path= folder= name= size= date= type="; return ;;
         --dates) _quorvin_words "dmy mdy"; return ;;
         --made) _quorvin_words ""; return ;;
-        --encoding) _quorvin_words "utf-8 windows-1252 cp437 cp850 cp852"; return ;;
+        --encoding) _quorvin_words "utf-8 windows-1252 cp437 cp850 cp852 cp866 windows-1250 windows-1251 windows-1253 cp932 cp936 cp949 cp950"; return ;;
       esac
       if [[ $cur == -* ]]; then
         _quorvin_words "--output --format --label --folder --pattern --columns --bytes --dates --made --encoding --replace -q --quiet --help"

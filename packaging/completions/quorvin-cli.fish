@@ -77,7 +77,7 @@ complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -l columns -x -a
 complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -l bytes -d 'The sizes of du are bytes (du -ab)'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -l dates -x -a 'dmy mdy' -d 'Dates like 3/4/04: dmy (3 April) or mdy (4 March)'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -l made -x -d 'When the list was made, for dates without a year'
-complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -l encoding -x -a 'utf-8 windows-1252 cp437 cp850 cp852' -d 'utf-8 (default), windows-1252, cp437, cp850, cp852'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -l encoding -x -a 'utf-8 windows-1252 cp437 cp850 cp852 cp866 windows-1250 windows-1251 windows-1253 cp932 cp936 cp949 cp950' -d 'The lists'\'' encoding, such as cp850; default: utf-8'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -l replace -d 'Replace listings that are there'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -s q -l quiet -d 'Report only what could not be read'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from import' -F

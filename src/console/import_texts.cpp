@@ -27,8 +27,9 @@ CommandText importText() {
         "dmy mdy"},
        {"--made", "DAY", QT_TRANSLATE_NOOP("Texts", "When the list was made, for dates without a year")},
        {"--encoding", "NAME",
-        QT_TRANSLATE_NOOP("Texts", "utf-8 (default), windows-1252, cp437, cp850, cp852"),
-        "utf-8 windows-1252 cp437 cp850 cp852"},
+        QT_TRANSLATE_NOOP("Texts", "The lists' encoding, such as cp850; default: utf-8"),
+        "utf-8 windows-1252 cp437 cp850 cp852 cp866 windows-1250 windows-1251 windows-1253 cp932 cp936 cp949 "
+        "cp950"},
        {"--replace", "", QT_TRANSLATE_NOOP("Texts", "Replace listings that are there")},
        {"-q,--quiet", "", QT_TRANSLATE_NOOP("Texts", "Report only what could not be read")}},
       {{"quorvin-cli import --output ~/Listings cd7.lst",

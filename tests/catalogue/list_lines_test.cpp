@@ -43,8 +43,14 @@ TEST(ListLines, EncodingsBecomeUtf8) {
   EXPECT_EQ(linesOf("\xA5\n", "cp852"), Lines{"\u0105"});
   EXPECT_EQ(linesOf("\x80 \xFC\n", "windows-1252"), Lines{"\u20AC \u00FC"});
   EXPECT_EQ(linesOf("bytes \xFC\n"), Lines{"bytes \xFC"});
+  EXPECT_EQ(linesOf("\x83\x41\n\x83", "cp932"), (Lines{"\u30A2", "\x83"}));
   EXPECT_TRUE(isListEncoding("cp850"));
   EXPECT_FALSE(isListEncoding("cp1"));
+}
+
+TEST(ListLines, TheSystemKnowsAllEncodings) {
+  for (const std::string_view encoding : listEncodings())
+    EXPECT_EQ(linesOf("a\n", encoding), Lines{"a"}) << encoding;
 }
 
 TEST(ListLines, LinesGoOnFromOneChunkToTheNext) {
