@@ -4348,6 +4348,14 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>the system does not know the encoding &quot;%1&quot;</source>
         <translation>das System kennt die Kodierung „%1“ nicht</translation>
     </message>
+    <message>
+        <source>not recognised</source>
+        <translation>nicht erkannt</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

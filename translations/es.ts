@@ -4348,6 +4348,14 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>the system does not know the encoding &quot;%1&quot;</source>
         <translation>el sistema no conoce la codificación «%1»</translation>
     </message>
+    <message>
+        <source>not recognised</source>
+        <translation>no reconocida</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4348,6 +4348,14 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>the system does not know the encoding &quot;%1&quot;</source>
         <translation>le système ne connaît pas l’encodage «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message>
+        <source>not recognised</source>
+        <translation>non reconnu</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

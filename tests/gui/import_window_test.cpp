@@ -89,6 +89,29 @@ TEST_F(ImportedInWindow, AListBecomesAListingThatIsSearched) {
   EXPECT_EQ(lists_.readFile(QStringLiteral("cd7.lst")), kDisc);
 }
 
+TEST_F(ImportedInWindow, BehindEachListStandsAsWhatItIsGoingToBeRead) {
+  lists_.writeFile(QStringLiteral("letter"), "Dear Ann,\n");
+  inWindow([this](ImportWindow& window) {
+    add(window, QStringLiteral("cd7.lst"));
+    add(window, QStringLiteral("letter"));
+    auto* lists = in<QListWidget>(window, "Lists");
+    EXPECT_EVENTUALLY(lists->item(1)->text().endsWith(u')'));
+    EXPECT_EQ(lists->item(0)->text().toStdString(), listOf("cd7.lst") + " (ls)");
+    EXPECT_EQ(lists->item(1)->text().toStdString(), listOf("letter") + " (not recognised)");
+  });
+}
+
+TEST_F(ImportedInWindow, AnotherEncodingIsAnotherLookAtTheLists) {
+  inWindow([this](ImportWindow& window) {
+    add(window, QStringLiteral("cd7.lst"));
+    auto* lists = in<QListWidget>(window, "Lists");
+    EXPECT_EVENTUALLY(lists->item(0)->text().endsWith(QStringLiteral(" (ls)")));
+    lists_.writeFile(QStringLiteral("cd7.lst"), "Dear Ann,\n");
+    choose(window, "Encoding", "cp850");
+    EXPECT_EVENTUALLY(lists->item(0)->text().endsWith(QStringLiteral(" (not recognised)")));
+  });
+}
+
 TEST_F(ImportedInWindow, OnWishTheListingIsMadeOnly) {
   inWindow([this](ImportWindow& window) {
     add(window, QStringLiteral("cd7.lst"));

@@ -47,6 +47,9 @@ ImportControls controlNames() {
   return {Texts::tr("Made by"), Texts::tr("Dates"), Texts::tr("Encoding"), Texts::tr("Made on")};
 }
 
+/// Where a list's path is: what is shown of it has its format behind it.
+constexpr int kPathRole = Qt::UserRole;
+
 QStringList localFilesOf(const QMimeData& data) {
   QStringList files;
   for (const QUrl& url : data.urls()) {
@@ -100,6 +103,7 @@ ImportWindow::ImportWindow(ImportWindowParts parts, QWidget* owner)
 
 ImportWindow::~ImportWindow() {
   letGo();
+  if (recognition_) recognition_->stop();
 }
 
 void ImportWindow::nameControls() {
@@ -218,26 +222,53 @@ void ImportWindow::connectControls() {
   connect(import_, &QPushButton::clicked, this, &ImportWindow::Import_Click);
   connect(close_, &QPushButton::clicked, this, &ImportWindow::reject);
   connect(format_, &QComboBox::currentIndexChanged, this, &ImportWindow::enableFields);
+  connect(encoding_, &QComboBox::currentIndexChanged, this, &ImportWindow::recognise);
   connect(&watch_, &QTimer::timeout, this, &ImportWindow::look);
+  connect(&watchRecognition_, &QTimer::timeout, this, &ImportWindow::lookAtRecognition);
   lists_->installEventFilter(this);
 }
 
 QStringList ImportWindow::listNames() const {
   QStringList names;
-  for (int row = 0; row < lists_->count(); ++row) names += lists_->item(row)->text();
+  for (int row = 0; row < lists_->count(); ++row) names += lists_->item(row)->data(kPathRole).toString();
   return names;
 }
 
 void ImportWindow::addLists(const QStringList& lists) {
   for (const QString& list : lists) {
     const QString native = QDir::toNativeSeparators(list);
-    if (!listNames().contains(native)) {
-      lists_->addItem(native);
-    }
+    if (listNames().contains(native)) continue;
+    auto* item = new QListWidgetItem(native, lists_);
+    item->setData(kPathRole, native);
   }
+  recognise();
   if (!lists_->currentItem()) lists_->setCurrentRow(0);
   enableFields();
   if (lists_->count() > 0) import_->setFocus();
+}
+
+/// By the first lines of each list.
+void ImportWindow::recognise() {
+  if (recognition_) recognition_->stop();
+  ImportRequest request;
+  request.encoding = encoding_->currentText().toStdString();
+  recognition_ = std::make_shared<ListRecognition>(listNames(), std::move(request));
+  parts_.threads.start([recognition = recognition_] { recognition->run(); });
+  watchRecognition_.start(kBetweenLooks);
+}
+
+void ImportWindow::lookAtRecognition() {
+  if (!recognition_->hasEnded()) return;
+  watchRecognition_.stop();
+  for (int row = 0; row < lists_->count(); ++row) {
+    QListWidgetItem* item = lists_->item(row);
+    const QString path = item->data(kPathRole).toString();
+    const qsizetype number = recognition_->lists().indexOf(path);
+    if (number < 0) continue;
+    const ListFormat* format = recognition_->formats()[static_cast<std::size_t>(number)];
+    const QString known = format ? textOf(format->name) : Texts::tr("not recognised");
+    item->setText(Texts::tr("%1 (%2)").arg(path, known));
+  }
 }
 
 void ImportWindow::removeSelected() {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "catalogue/import/import_job.h"
+#include "catalogue/import/list_recognition.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -40,8 +41,9 @@ struct ImportWindowParts {
 };
 
 /// The window `ImportWindow`: lists, what is known of them, and where their listings go. Import reads them in
-/// another thread, and is Stop meanwhile. Beneath stands as what each list was read, and what its listing
-/// lacks. Lists can be dropped on the window; Delete takes one out again.
+/// another thread, and is Stop meanwhile. Behind each list stands as what it is going to be read; beneath, as
+/// what it was read, and what its listing lacks. Lists can be dropped on the window; Delete takes one out
+/// again.
 class ImportWindow : public QDialog {
   Q_OBJECT
 
@@ -75,6 +77,8 @@ class ImportWindow : public QDialog {
   void look();
   void showResult();
   QStringList listNames() const;
+  void recognise();
+  void lookAtRecognition();
 
   ImportWindowParts parts_;
   QListWidget* lists_;
@@ -98,6 +102,8 @@ class ImportWindow : public QDialog {
   /// While it is there, the button is Stop.
   std::shared_ptr<ImportJob> job_;
   QTimer watch_;
+  std::shared_ptr<ListRecognition> recognition_;
+  QTimer watchRecognition_;
 };
 
 }  // namespace quorvin

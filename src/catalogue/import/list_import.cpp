@@ -104,15 +104,22 @@ void noteNotUnderstood(ImportReport& report, std::string_view line) {
       {report.lines, textOfUtf8(line.substr(0, kLongestShownLine * 4)).left(kLongestShownLine)});
 }
 
+const ListFormat* formatOfLines(const ListLines& lines, const ImportRequest& request) {
+  if (request.format) return request.format;
+  return recognisedFormat(lines.firstLines(kLinesToRecogniseBy), request.options);
+}
+
 }  // namespace
+
+const ListFormat* formatOfList(const ListLines::Read& read, const ImportRequest& request) {
+  return formatOfLines(ListLines(read, request.encoding), request);
+}
 
 ImportReport importList(const ListLines::Read& read, const ImportRequest& request, const QLocale& locale,
                         const QString& place, FileWriter& listing, const ImportProgress& progress) {
   ImportReport report;
   ListLines lines(read, request.encoding);
-  report.format = request.format;
-  if (!report.format)
-    report.format = recognisedFormat(lines.firstLines(kLinesToRecogniseBy), request.options);
+  report.format = formatOfLines(lines, request);
   if (!report.format) return report;
 
   const std::unique_ptr<ListReader> reader = report.format->makeReader(request.options);

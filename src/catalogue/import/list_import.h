@@ -61,6 +61,10 @@ struct ImportReport {
 /// Called every few thousand lines with their number; what is being done is to stop when it gives false.
 using ImportProgress = std::function<bool(std::int64_t lines)>;
 
+/// As what importList() would read the list, by its first lines; null where none is recognised. Throws
+/// RuntimeFault where it cannot be read.
+const ListFormat* formatOfList(const ListLines::Read& read, const ImportRequest& request);
+
 /// Reads the list and writes the listing into `listing`, which is put in place by the caller. Memory is
 /// bounded by twice `request.memory`, the lines of the largest folder and a few MiB, however long the list
 /// is; what does not fit is in files beside `place`, where the listing is going to be, until the end. Throws

@@ -101,6 +101,12 @@ void ListImporter::keepEarlier(const QString& place, const QString& replacement)
                     .arg(place, kept.fault));
 }
 
+const ListFormat* ListImporter::formatOf(const QString& list) const {
+  if (list == QStringLiteral("-") || isStream(list)) return nullptr;
+  ListBytes bytes(list, stopRequested_);
+  return formatOfList(bytes.read(), choices_.request);
+}
+
 ImportedList ListImporter::import(const QString& list, const LinesRead& linesRead) const {
   ImportedList made{placeOf(list), {}};
   ImportRequest request = choices_.request;

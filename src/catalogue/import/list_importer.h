@@ -57,6 +57,10 @@ class ListImporter {
 
   ListImporter(ImportChoices choices, ImportControls controls, StopRequested stopRequested);
 
+  /// As what `list` would be read, by its first lines; null where none is recognised, and for a stream, whose
+  /// lines come once only. Throws RuntimeFault where it cannot be read.
+  const ListFormat* formatOf(const QString& list) const;
+
   /// Reads `list`, a file, a stream, or "-" for standard input, and puts its listing in place. When a stop is
   /// requested, `report.isStopped` is true and no listing is made. Throws RuntimeFault, with which nothing at
   /// the place changes either: 5 where a listing is there already, no format is recognised, the list names
