@@ -2923,10 +2923,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>DATEIEN</translation>
     </message>
     <message>
-        <source>Listings of own folders, the lists of sources and the listing history, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
-        <translation>Listen der eigenen Ordner, die Quellenlisten und der Listenverlauf, wenn im Fenster unter Datei, Optionen kein anderer Ordner gewählt ist. Wurde das Programm einfach irgendwohin kopiert, liegen sie neben ihm. quorvin-cli sources nennt den Ordner.</translation>
-    </message>
-    <message>
         <source>The settings.</source>
         <translation>Die Einstellungen.</translation>
     </message>
@@ -4165,20 +4161,8 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>Vergleicht</translation>
     </message>
     <message>
-        <source>find, copies and plan: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find, copies und plan: es gab Treffer. compare: es gibt keinen Unterschied. Sonst: alles wurde getan.</translation>
-    </message>
-    <message>
-        <source>find, copies and plan: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find, copies und plan: es gab keine. compare: es gibt Unterschiede. history: es gibt keine frühere Version.</translation>
-    </message>
-    <message>
         <source>plan needs the words to find, in one argument, or - for a list</source>
         <translation>plan braucht die gesuchten Wörter, in einem einzigen Argument, oder - für eine Liste</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache</source>
-        <translation>die Befehle sind find, copies, compare, plan, index, import, refresh, sources, history und cache</translation>
     </message>
     <message>
         <source>standard input can be the list or a listing, not both</source>
@@ -4355,6 +4339,134 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Newest</source>
+        <translation>Neueste</translation>
+    </message>
+    <message>
+        <source>Listed</source>
+        <translation>Erfasst</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days ago</source>
+        <translation>
+            <numerusform>vor %1 Tag</numerusform>
+            <numerusform>vor %1 Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 months ago</source>
+        <translation>
+            <numerusform>vor %1 Monat</numerusform>
+            <numerusform>vor %1 Monaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years ago</source>
+        <translation>
+            <numerusform>vor %1 Jahr</numerusform>
+            <numerusform>vor %1 Jahren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 volume</source>
+        <translation>%1 Datenträger</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 volumes</source>
+        <translation>
+            <numerusform>%1 Datenträger</numerusform>
+            <numerusform>%1 Datenträger</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find, copies, plan und volumes: es gab Treffer. compare: es gibt keinen Unterschied. Sonst: alles wurde getan.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find, copies, plan und volumes: es gab keine. compare: es gibt Unterschiede. history: es gibt keine frühere Version.</translation>
+    </message>
+    <message>
+        <source>Listings of own folders, the lists of sources, the listing history and notes on volumes, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
+        <translation>Listen der eigenen Ordner, die Quellenlisten, der Listenverlauf und Notizen zu Datenträgern, wenn im Fenster unter Datei, Optionen kein anderer Ordner gewählt ist. Wurde das Programm einfach irgendwohin kopiert, liegen sie neben ihm. quorvin-cli sources nennt den Ordner.</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache</source>
+        <translation>die Befehle sind find, copies, compare, plan, volumes, index, import, refresh, sources, history und cache</translation>
+    </message>
+    <message>
+        <source>volumes cannot be sorted by &quot;%1&quot;, only by volume, files, size, newest, listed, free or note</source>
+        <translation>Datenträger lassen sich nicht nach &quot;%1&quot; sortieren, nur nach volume, files, size, newest, listed, free oder note</translation>
+    </message>
+    <message>
+        <source>--note goes with the name of a volume</source>
+        <translation>--note gehört zum Namen eines Datenträgers</translation>
+    </message>
+    <message>
+        <source>there is no volume &quot;%1&quot;; quorvin-cli volumes shows those that there are</source>
+        <translation>es gibt keinen Datenträger &quot;%1&quot;; quorvin-cli volumes zeigt, welche es gibt</translation>
+    </message>
+    <message>
+        <source>several listings have a volume &quot;%1&quot;; name one of them behind it: %2</source>
+        <translation>mehrere Listen haben einen Datenträger &quot;%1&quot;; nennen Sie eine davon dahinter: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no file, so nothing can be noted on its volumes</source>
+        <translation>%1 ist keine Datei, deshalb lässt sich zu ihren Datenträgern nichts notieren</translation>
+    </message>
+    <message>
+        <source>Show what is on each volume, or note where it is kept</source>
+        <translation>Zeigen, was auf Datenträgern ist, notieren, wo sie sind</translation>
+    </message>
+    <message>
+        <source>volume, files, size, newest, listed, free or note</source>
+        <translation>volume, files, size, newest, listed, free oder note</translation>
+    </message>
+    <message>
+        <source>Note this on the volume named in place of WORDS</source>
+        <translation>Dies zum Datenträger notieren, der statt WORDS steht</translation>
+    </message>
+    <message>
+        <source>The fullest one first</source>
+        <translation>Der vollste zuerst</translation>
+    </message>
+    <message>
+        <source>Which disks have photos, and how many</source>
+        <translation>Welche Datenträger Fotos haben, und wie viele</translation>
+    </message>
+    <message>
+        <source>Note where a disk is kept</source>
+        <translation>Notieren, wo ein Datenträger liegt</translation>
+    </message>
+    <message>
+        <source>Take the note away</source>
+        <translation>Die Notiz entfernen</translation>
+    </message>
+    <message>
+        <source>Writes a line for each volume of the listings: how many files it has and their bytes, when the newest of them was changed, how long ago its listing was written, and, where the folder of an own source is there now, how much is free on its drive. Behind the volume&apos;s name stands your own note. With WORDS, only files count that a search for these words finds. Without a LISTING, the user&apos;s own sources are looked through.</source>
+        <translation>Schreibt für jeden Datenträger der Listen eine Zeile: wie viele Dateien er hat und ihre Bytes, wann die neueste davon geändert wurde, wie lange es her ist, dass seine Liste geschrieben wurde, und, wo der Ordner einer eigenen Quelle jetzt da ist, wie viel auf seinem Laufwerk frei ist. Hinter dem Namen steht Ihre eigene Notiz. Mit WORDS zählen nur Dateien, die eine Suche nach diesen Wörtern findet. Ohne LISTING werden die eigenen Quellen durchgesehen.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. Bytes and dates are those of files with a size of their own in the listing. Volumes without what they are sorted by come last. In json, the newest file has its folder and name, and what is not known has no key.</source>
+        <translation>Ein Datenträger ist, was eine Liste so nennt; zwei Listen teilen sich nie einen. Bytes und Daten sind die der Dateien, die in der Liste eine eigene Größe haben. Datenträger, denen fehlt, wonach sortiert wird, kommen zuletzt. In json hat die neueste Datei ihren Ordner und Namen, und was nicht bekannt ist, hat keinen Schlüssel.</translation>
+    </message>
+    <message>
+        <source>--note writes nothing but keeps TEXT, which replaces an earlier note; it is shown in the window too. Where several listings have a volume of that name, name the listing behind it.</source>
+        <translation>--note schreibt nichts, sondern merkt sich TEXT, was eine frühere Notiz ersetzt; sie wird auch im Fenster gezeigt. Haben mehrere Listen einen Datenträger dieses Namens, so nennen Sie die Liste dahinter.</translation>
+    </message>
+    <message>
+        <source>A note has at most %1 characters</source>
+        <translation>Eine Notiz hat höchstens %1 Zeichen</translation>
     </message>
 </context>
 <context>

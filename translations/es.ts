@@ -1266,10 +1266,6 @@ Forget the request, and rescan everything?</source>
         <translation>ARCHIVOS</translation>
     </message>
     <message>
-        <source>Listings of own folders, the lists of sources and the listing history, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
-        <translation>Las listas de las carpetas propias, las listas de fuentes y el historial de listas, salvo que en la ventana se elija otra carpeta en Archivo, Opciones, o que el programa se haya copiado tal cual en algún sitio: entonces están junto a él. quorvin-cli sources nombra la carpeta.</translation>
-    </message>
-    <message>
         <source>The settings.</source>
         <translation>Los ajustes.</translation>
     </message>
@@ -4165,20 +4161,8 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <translation>Comparando</translation>
     </message>
     <message>
-        <source>find, copies and plan: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find, copies y plan: hubo resultados. compare: no hay diferencias. Otras: se hizo todo.</translation>
-    </message>
-    <message>
-        <source>find, copies and plan: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find, copies y plan: no los hubo. compare: hay diferencias. history: no hay ninguna versión anterior.</translation>
-    </message>
-    <message>
         <source>plan needs the words to find, in one argument, or - for a list</source>
         <translation>plan necesita las palabras que se buscan, en un solo argumento, o - para una lista</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache</source>
-        <translation>las órdenes son find, copies, compare, plan, index, import, refresh, sources, history y cache</translation>
     </message>
     <message>
         <source>standard input can be the list or a listing, not both</source>
@@ -4355,6 +4339,134 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Newest</source>
+        <translation>Más reciente</translation>
+    </message>
+    <message>
+        <source>Listed</source>
+        <translation>Listado</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days ago</source>
+        <translation>
+            <numerusform>hace %1 día</numerusform>
+            <numerusform>hace %1 días</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 months ago</source>
+        <translation>
+            <numerusform>hace %1 mes</numerusform>
+            <numerusform>hace %1 meses</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years ago</source>
+        <translation>
+            <numerusform>hace %1 año</numerusform>
+            <numerusform>hace %1 años</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 volume</source>
+        <translation>%1 volumen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 volumes</source>
+        <translation>
+            <numerusform>%1 volumen</numerusform>
+            <numerusform>%1 volúmenes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find, copies, plan y volumes: hubo resultados. compare: nada difiere. Otros: todo se hizo.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find, copies, plan y volumes: no hubo ninguno. compare: algo difiere. history: no hay ninguna versión anterior.</translation>
+    </message>
+    <message>
+        <source>Listings of own folders, the lists of sources, the listing history and notes on volumes, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
+        <translation>Las listas de las carpetas propias, las listas de fuentes, el historial de listas y las notas sobre volúmenes, salvo que en la ventana se elija otra carpeta en Archivo, Opciones, o que el programa se haya copiado tal cual en algún sitio: entonces están junto a él. quorvin-cli sources nombra la carpeta.</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache</source>
+        <translation>los comandos son find, copies, compare, plan, volumes, index, import, refresh, sources, history y cache</translation>
+    </message>
+    <message>
+        <source>volumes cannot be sorted by &quot;%1&quot;, only by volume, files, size, newest, listed, free or note</source>
+        <translation>los volúmenes no se ordenan por &quot;%1&quot;, solo por volume, files, size, newest, listed, free o note</translation>
+    </message>
+    <message>
+        <source>--note goes with the name of a volume</source>
+        <translation>--note va con el nombre de un volumen</translation>
+    </message>
+    <message>
+        <source>there is no volume &quot;%1&quot;; quorvin-cli volumes shows those that there are</source>
+        <translation>no hay ningún volumen &quot;%1&quot;; quorvin-cli volumes muestra los que hay</translation>
+    </message>
+    <message>
+        <source>several listings have a volume &quot;%1&quot;; name one of them behind it: %2</source>
+        <translation>varias listas tienen un volumen &quot;%1&quot;; nombre una de ellas detrás: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no file, so nothing can be noted on its volumes</source>
+        <translation>%1 no es un archivo, así que no se puede anotar nada sobre sus volúmenes</translation>
+    </message>
+    <message>
+        <source>Show what is on each volume, or note where it is kept</source>
+        <translation>Mostrar qué hay en cada volumen, o anotar dónde está</translation>
+    </message>
+    <message>
+        <source>volume, files, size, newest, listed, free or note</source>
+        <translation>volume, files, size, newest, listed, free o note</translation>
+    </message>
+    <message>
+        <source>Note this on the volume named in place of WORDS</source>
+        <translation>Anotar esto del volumen nombrado en lugar de WORDS</translation>
+    </message>
+    <message>
+        <source>The fullest one first</source>
+        <translation>El más lleno primero</translation>
+    </message>
+    <message>
+        <source>Which disks have photos, and how many</source>
+        <translation>Qué discos tienen fotos, y cuántas</translation>
+    </message>
+    <message>
+        <source>Note where a disk is kept</source>
+        <translation>Anotar dónde se guarda un disco</translation>
+    </message>
+    <message>
+        <source>Take the note away</source>
+        <translation>Quitar la nota</translation>
+    </message>
+    <message>
+        <source>Writes a line for each volume of the listings: how many files it has and their bytes, when the newest of them was changed, how long ago its listing was written, and, where the folder of an own source is there now, how much is free on its drive. Behind the volume&apos;s name stands your own note. With WORDS, only files count that a search for these words finds. Without a LISTING, the user&apos;s own sources are looked through.</source>
+        <translation>Escribe una línea por cada volumen de las listas: cuántos archivos tiene y sus bytes, cuándo se modificó el más reciente, cuánto hace que se escribió su lista y, si la carpeta de una fuente propia está ahora, cuánto hay libre en su unidad. Detrás del nombre del volumen va su propia nota. Con WORDS, solo cuentan los archivos que encuentra una búsqueda de estas palabras. Sin LISTING, se recorren las fuentes del usuario.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. Bytes and dates are those of files with a size of their own in the listing. Volumes without what they are sorted by come last. In json, the newest file has its folder and name, and what is not known has no key.</source>
+        <translation>Un volumen es lo que una lista llama así; dos listas nunca comparten uno. Bytes y fechas son los de los archivos con tamaño propio en la lista. Los volúmenes que no tienen aquello por lo que se ordena van al final. En json, el archivo más reciente tiene su carpeta y su nombre, y lo que no se conoce no tiene clave.</translation>
+    </message>
+    <message>
+        <source>--note writes nothing but keeps TEXT, which replaces an earlier note; it is shown in the window too. Where several listings have a volume of that name, name the listing behind it.</source>
+        <translation>--note no escribe nada sino que guarda TEXT, que sustituye a una nota anterior; también se muestra en la ventana. Si varias listas tienen un volumen de ese nombre, nombre la lista detrás.</translation>
+    </message>
+    <message>
+        <source>A note has at most %1 characters</source>
+        <translation>Una nota tiene como máximo %1 caracteres</translation>
     </message>
 </context>
 <context>

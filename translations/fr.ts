@@ -1266,10 +1266,6 @@ Oublier la demande et tout relire&#xa0;?</translation>
         <translation>FICHIERS</translation>
     </message>
     <message>
-        <source>Listings of own folders, the lists of sources and the listing history, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
-        <translation>Les listes de vos dossiers, les listes de sources et l’historique des listes, à moins qu’un autre dossier ne soit choisi dans la fenêtre sous Fichier, Options, ou que le programme n’ait été simplement copié quelque part&#xa0;: ils sont alors à côté de lui. quorvin-cli sources nomme le dossier.</translation>
-    </message>
-    <message>
         <source>The settings.</source>
         <translation>Les réglages.</translation>
     </message>
@@ -4165,20 +4161,8 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <translation>Comparaison en cours</translation>
     </message>
     <message>
-        <source>find, copies and plan: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find, copies et plan : il y avait des résultats. compare : aucune différence. Autres : tout a été fait.</translation>
-    </message>
-    <message>
-        <source>find, copies and plan: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find, copies et plan : il n’y en avait pas. compare : il y a des différences. history : il n’y a pas de version antérieure.</translation>
-    </message>
-    <message>
         <source>plan needs the words to find, in one argument, or - for a list</source>
         <translation>plan a besoin des mots à trouver, en un seul argument, ou de - pour une liste</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache</source>
-        <translation>les commandes sont find, copies, compare, plan, index, import, refresh, sources, history et cache</translation>
     </message>
     <message>
         <source>standard input can be the list or a listing, not both</source>
@@ -4355,6 +4339,134 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Newest</source>
+        <translation>Plus récent</translation>
+    </message>
+    <message>
+        <source>Listed</source>
+        <translation>Liste de</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days ago</source>
+        <translation>
+            <numerusform>il y a %1 jour</numerusform>
+            <numerusform>il y a %1 jours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 months ago</source>
+        <translation>
+            <numerusform>il y a %1 mois</numerusform>
+            <numerusform>il y a %1 mois</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years ago</source>
+        <translation>
+            <numerusform>il y a %1 an</numerusform>
+            <numerusform>il y a %1 ans</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 volume</source>
+        <translation>%1 volume</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 volumes</source>
+        <translation>
+            <numerusform>%1 volume</numerusform>
+            <numerusform>%1 volumes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. Others: all was done.</source>
+        <translation>find, copies, plan et volumes&#xa0;: il y a eu des résultats. compare&#xa0;: rien ne diffère. Autres&#xa0;: tout a été fait.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were none. compare: something differs. history: there is no earlier version.</source>
+        <translation>find, copies, plan et volumes&#xa0;: il n’y en a pas eu. compare&#xa0;: quelque chose diffère. history&#xa0;: il n’y a pas de version antérieure.</translation>
+    </message>
+    <message>
+        <source>Listings of own folders, the lists of sources, the listing history and notes on volumes, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
+        <translation>Les listes de vos dossiers, les listes de sources, l’historique des listes et les notes sur les volumes, à moins qu’un autre dossier ne soit choisi dans la fenêtre sous Fichier, Options, ou que le programme n’ait été simplement copié quelque part&#xa0;: ils sont alors à côté de lui. quorvin-cli sources nomme le dossier.</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache</source>
+        <translation>les commandes sont find, copies, compare, plan, volumes, index, import, refresh, sources, history et cache</translation>
+    </message>
+    <message>
+        <source>volumes cannot be sorted by &quot;%1&quot;, only by volume, files, size, newest, listed, free or note</source>
+        <translation>les volumes ne se trient pas par &quot;%1&quot;, seulement par volume, files, size, newest, listed, free ou note</translation>
+    </message>
+    <message>
+        <source>--note goes with the name of a volume</source>
+        <translation>--note va avec le nom d’un volume</translation>
+    </message>
+    <message>
+        <source>there is no volume &quot;%1&quot;; quorvin-cli volumes shows those that there are</source>
+        <translation>il n’y a pas de volume &quot;%1&quot;&#xa0;; quorvin-cli volumes montre ceux qu’il y a</translation>
+    </message>
+    <message>
+        <source>several listings have a volume &quot;%1&quot;; name one of them behind it: %2</source>
+        <translation>plusieurs listes ont un volume &quot;%1&quot;&#xa0;; nommez-en une derrière&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no file, so nothing can be noted on its volumes</source>
+        <translation>%1 n’est pas un fichier, on ne peut donc rien noter sur ses volumes</translation>
+    </message>
+    <message>
+        <source>Show what is on each volume, or note where it is kept</source>
+        <translation>Montrer ce qu’il y a sur chaque volume, ou noter où il est</translation>
+    </message>
+    <message>
+        <source>volume, files, size, newest, listed, free or note</source>
+        <translation>volume, files, size, newest, listed, free ou note</translation>
+    </message>
+    <message>
+        <source>Note this on the volume named in place of WORDS</source>
+        <translation>Noter ceci sur le volume nommé au lieu de WORDS</translation>
+    </message>
+    <message>
+        <source>The fullest one first</source>
+        <translation>Le plus rempli d’abord</translation>
+    </message>
+    <message>
+        <source>Which disks have photos, and how many</source>
+        <translation>Quels disques ont des photos, et combien</translation>
+    </message>
+    <message>
+        <source>Note where a disk is kept</source>
+        <translation>Noter où un disque est rangé</translation>
+    </message>
+    <message>
+        <source>Take the note away</source>
+        <translation>Retirer la note</translation>
+    </message>
+    <message>
+        <source>Writes a line for each volume of the listings: how many files it has and their bytes, when the newest of them was changed, how long ago its listing was written, and, where the folder of an own source is there now, how much is free on its drive. Behind the volume&apos;s name stands your own note. With WORDS, only files count that a search for these words finds. Without a LISTING, the user&apos;s own sources are looked through.</source>
+        <translation>Écrit une ligne pour chaque volume des listes&#xa0;: combien de fichiers il contient et leurs octets, quand le plus récent a été modifié, depuis combien de temps sa liste est écrite, et, si le dossier d’une source propre est là, combien d’espace est libre sur son disque. Derrière le nom du volume vient votre propre note. Avec WORDS, seuls comptent les fichiers que trouve une recherche de ces mots. Sans LISTING, les sources de l’utilisateur sont parcourues.</translation>
+    </message>
+    <message>
+        <source>A volume is what a listing calls so; two listings never share one. Bytes and dates are those of files with a size of their own in the listing. Volumes without what they are sorted by come last. In json, the newest file has its folder and name, and what is not known has no key.</source>
+        <translation>Un volume est ce qu’une liste appelle ainsi&#xa0;; deux listes n’en partagent jamais un. Octets et dates sont ceux des fichiers qui ont leur propre taille dans la liste. Les volumes sans ce qui sert au tri viennent en dernier. En json, le fichier le plus récent a son dossier et son nom, et ce qui n’est pas connu n’a pas de clé.</translation>
+    </message>
+    <message>
+        <source>--note writes nothing but keeps TEXT, which replaces an earlier note; it is shown in the window too. Where several listings have a volume of that name, name the listing behind it.</source>
+        <translation>--note n’écrit rien mais retient TEXT, qui remplace une note antérieure&#xa0;; elle est montrée aussi dans la fenêtre. Si plusieurs listes ont un volume de ce nom, nommez la liste derrière lui.</translation>
+    </message>
+    <message>
+        <source>A note has at most %1 characters</source>
+        <translation>Une note a au plus %1 caractères</translation>
     </message>
 </context>
 <context>

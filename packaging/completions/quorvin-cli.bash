@@ -30,6 +30,7 @@ _quorvin_cli() {
       " copies") command="copies" ;;
       " compare") command="compare" ;;
       " plan") command="plan" ;;
+      " volumes") command="volumes" ;;
       " index") command="index" ;;
       " import") command="import" ;;
       " refresh") command="refresh" ;;
@@ -46,7 +47,7 @@ _quorvin_cli() {
       case "$prev" in
         --completion) _quorvin_words "bash zsh fish"; return ;;
       esac
-      _quorvin_words "find copies compare plan index import refresh sources history cache --version --completion --man --help"
+      _quorvin_words "find copies compare plan volumes index import refresh sources history cache --version --completion --man --help"
       ;;
     "find")
       case "$prev" in
@@ -96,6 +97,18 @@ _quorvin_cli() {
       esac
       if [[ $cur == -* ]]; then
         _quorvin_words "--match --format --script --to -q --quiet --no-cache --help"
+        return
+      fi
+      _quorvin_files -f
+      ;;
+    "volumes")
+      case "$prev" in
+        --match) _quorvin_words ""; return ;;
+        --sort) _quorvin_words "volume files size newest listed free note"; return ;;
+        --note) _quorvin_words ""; return ;;
+      esac
+      if [[ $cur == -* ]]; then
+        _quorvin_words "--match --sort --reverse --json --note -q --quiet --no-cache --help"
         return
       fi
       _quorvin_files -f

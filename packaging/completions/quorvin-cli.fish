@@ -11,6 +11,7 @@ complete -c quorvin-cli -n '__fish_use_subcommand' -a find -d 'Find files in lis
 complete -c quorvin-cli -n '__fish_use_subcommand' -a copies -d 'Find copies of files, and what is on one volume only'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a compare -d 'Say what differs between listings, versions and folders'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a plan -d 'Say which volumes to fetch for files that are wanted'
+complete -c quorvin-cli -n '__fish_use_subcommand' -a volumes -d 'Show what is on each volume, or note where it is kept'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a index -d 'Write the listing of a folder'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a import -d 'Make listings of lists that other programs wrote'
 complete -c quorvin-cli -n '__fish_use_subcommand' -a refresh -d 'Renew the listings of your own folders, or of those named'
@@ -63,6 +64,14 @@ complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -l to -x -a '(__fi
 complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -s q -l quiet -d 'Write neither counts nor progress to standard error'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -l no-cache -d 'Neither read nor write the search cache'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from plan' -F
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -l match -x -d 'Files must match WORDS by more than this percentage; 50'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -l sort -x -a 'volume files size newest listed free note' -d 'volume, files, size, newest, listed, free or note'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -l reverse -d 'The other way round, with --sort'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -l json -d 'Write JSON, an object a line'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -l note -x -d 'Note this on the volume named in place of WORDS'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -s q -l quiet -d 'Write neither counts nor progress to standard error'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -l no-cache -d 'Neither read nor write the search cache'
+complete -c quorvin-cli -n '__fish_seen_subcommand_from volumes' -F
 complete -c quorvin-cli -n '__fish_seen_subcommand_from index' -l label -x -d 'The volume'\''s name in the listing; default: the folder'\''s name'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from index' -l folders-only -d 'List folders only'
 complete -c quorvin-cli -n '__fish_seen_subcommand_from index' -l output -r -F -d 'The listing'\''s file; default, and -: standard output'

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// The sizes of entries that stand one behind the other.
+// The sizes and dates of entries that stand one behind the other.
 #pragma once
 
 #include "search/segment/segment.h"
@@ -10,7 +10,7 @@
 
 namespace quorvin {
 
-/// The sizes of the entries from `first` to `last` - 1 of a segment, which must outlive the object.
+/// The values of the entries from `first` to `last` - 1 of a segment, which must outlive the object.
 class EntrySizes {
  public:
   EntrySizes(const Segment& segment, std::uint32_t first, std::uint32_t last)
@@ -24,6 +24,12 @@ class EntrySizes {
     if (!allOwn_ && segment_.valueState(entry) != ValueState::Own) return -1;
     const CompactValues& compact = values_[entry - first_];
     return compact.second == CompactValues::kKeptAside ? segment_.values(entry).size : compact.size;
+  }
+
+  /// When it was last changed; only where of() is not negative.
+  DateValue dateOf(std::uint32_t entry) const {
+    const CompactValues& compact = values_[entry - first_];
+    return compact.second == CompactValues::kKeptAside ? segment_.values(entry).date : expand(compact).date;
   }
 
  private:

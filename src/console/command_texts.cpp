@@ -212,9 +212,9 @@ CommandText cacheText() {
 
 const std::vector<CommandText>& commandTexts() {
   static const std::vector<CommandText> texts{
-      findText(),        copiesText(),  compareText(), planText(),       indexText(),
-      importText(),      refreshText(), sourcesText(), sourcesAddText(), sourcesRemoveText(),
-      sourcesMoveText(), historyText(), cacheText()};
+      findText(),          copiesText(),      compareText(), planText(),    volumesText(),
+      indexText(),         importText(),      refreshText(), sourcesText(), sourcesAddText(),
+      sourcesRemoveText(), sourcesMoveText(), historyText(), cacheText()};
   return texts;
 }
 
@@ -263,13 +263,13 @@ const std::vector<SectionText>& manualSections() {
                                         "and those shown are of an earlier line. Where there are none at "
                                         "all, both keys are left out.")}}},
       {QT_TRANSLATE_NOOP("Texts", "EXIT STATUS"),
-       {{"0", QT_TRANSLATE_NOOP(
-                  "Texts",
-                  "find, copies and plan: there were hits. compare: nothing differs. Others: all was done.")},
-        {"1", QT_TRANSLATE_NOOP(
-                  "Texts",
-                  "find, copies and plan: there were none. compare: something differs. history: there is no "
-                  "earlier version.")},
+       {{"0", QT_TRANSLATE_NOOP("Texts",
+                                "find, copies, plan and volumes: there were hits. compare: nothing differs. "
+                                "Others: all was done.")},
+        {"1", QT_TRANSLATE_NOOP("Texts",
+                                "find, copies, plan and volumes: there were none. compare: something "
+                                "differs. history: there is no "
+                                "earlier version.")},
         {"2", QT_TRANSLATE_NOOP("Texts",
                                 "Something went wrong, or the command line was not understood; a sentence on "
                                 "standard error says "
@@ -281,7 +281,8 @@ const std::vector<SectionText>& manualSections() {
       {QT_TRANSLATE_NOOP("Texts", "FILES"),
        {{"$XDG_DATA_HOME/quorvin, ~/.local/share/quorvin",
          QT_TRANSLATE_NOOP("Texts",
-                           "Listings of own folders, the lists of sources and the listing history, unless "
+                           "Listings of own folders, the lists of sources, the listing history and notes on "
+                           "volumes, unless "
                            "another folder is "
                            "chosen in the window under File, Options, or the program was copied somewhere as "
                            "it is: then they "

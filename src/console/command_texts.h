@@ -53,6 +53,8 @@ CommandText compareText();
 CommandText copiesText();
 /// "plan", which says much.
 CommandText planText();
+/// "volumes", which says much.
+CommandText volumesText();
 
 /// All commands, in the order in which they are shown.
 const std::vector<CommandText>& commandTexts();

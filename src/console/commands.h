@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// The commands of the console companion: "find", "copies", "compare", "plan", "cache", "index", "import",
-// "refresh", "sources" and "history". Each gives the exit status of the program.
+// The commands of the console companion: "find", "copies", "compare", "plan", "volumes", "cache", "index",
+// "import", "refresh", "sources" and "history". Each gives the exit status of the program.
 #pragma once
 
 #include "catalogue/copy_finder.h"
+#include "catalogue/volumes/volume_finder.h"
 #include "console/hit_rows.h"
 #include "console/table_row.h"
 #include "files/file_writer.h"
@@ -117,6 +118,24 @@ struct PlanRequest {
 /// Writes the fewest volumes for the wanted files to standard output. The exit status is that of runFind(),
 /// where files to copy are its hits.
 int runPlan(const PlanRequest& request);
+
+/// What the command line asked of "volumes".
+struct VolumesRequest : VolumeFinder::Wish {
+  /// Without one they come as the listings have them.
+  std::optional<VolumeColumn> sortedBy = {};
+  bool isDescending = false;
+  bool isJson = false;
+  /// Neither progress nor the last line is written.
+  bool isQuiet = false;
+  /// Nothing is shown, and this becomes the note of the volume that `searchText` names.
+  std::optional<QString> note = {};
+  /// As in FindRequest.
+  std::vector<QString> listings = {};
+};
+
+/// Writes what is known of each volume to standard output, and the sum to standard error. The exit status is
+/// that of runFind(), where volumes are its hits; for a note it is 0 when it is kept, else 2.
+int runVolumes(const VolumesRequest& request);
 
 /// What the command line asked of "cache".
 struct CacheRequest {

@@ -4,8 +4,6 @@
 #include "catalogue/sum_texts.h"
 #include "texts/texts.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <initializer_list>
 
@@ -60,12 +58,14 @@ CopyRows::CopyRows(const Copies& copies, const EqualFolders& folders, const Opti
       tree_(copies.files().folders()),
       options_(options),
       locale_(locale),
-      cells_(cellRuleOf(options.format), options.isForTerminal) {
+      cells_(cellRuleOf(options.format), options.isForTerminal),
+      labels_(cells_) {
   const bool hasNul = options.format == TableFormat::Tsv || options.format == TableFormat::Csv;
   options_.endsWithNul = options.endsWithNul && hasNul;
   for (const QString& listing : copies.files().listings()) listings_.push_back(listing.toStdString());
-  for (const FolderTree::Volume& volume : tree_.volumes()) ++volumeNames_[volume.name];
-  labels_.resize(tree_.volumes().size());
+  for (const FolderTree::Volume& volume : tree_.volumes()) {
+    labels_.add(volume.name, copies.files().listings()[volume.listing]);
+  }
 }
 
 void CopyRows::addHead(std::string& text, CopyTable table) const {
@@ -230,21 +230,6 @@ void CopyRows::addFolderSum(std::string& text, std::uint32_t folder, const FileS
 
 std::string_view CopyRows::listingOf(std::uint32_t volume) const {
   return listings_[tree_.volumes()[volume].listing];
-}
-
-/// The volume's name, and that of its listing where others have the same.
-const std::string& CopyRows::labelOf(std::uint32_t volume) {
-  std::string& label = labels_[volume];
-  if (!label.empty()) return label;
-  const std::string& name = tree_.volumes()[volume].name;
-  addShown(label, name);
-  if (!name.empty() && volumeNames_[name] == 1) return label;
-  const QString listing = QFileInfo(copies_.files().listings()[tree_.volumes()[volume].listing]).fileName();
-  if (!label.empty()) label += ' ';
-  label += '(';
-  addShown(label, listing.toStdString());
-  label += ')';
-  return label;
 }
 
 std::int64_t CopyRows::volumesOf(const std::vector<std::uint32_t>& folders) const {

@@ -5,6 +5,7 @@
 
 #include "catalogue/copy_sums.h"
 #include "console/table_row.h"
+#include "console/volume_labels.h"
 
 #include <QLocale>
 #include <QString>
@@ -57,7 +58,7 @@ class CopyRows {
   void addPlaceLine(std::string& text, std::uint32_t folder);
   void addShown(std::string& text, std::string_view value) const { cells_.add(text, value); }
   std::string_view listingOf(std::uint32_t volume) const;
-  const std::string& labelOf(std::uint32_t volume);
+  const std::string& labelOf(std::uint32_t volume) { return labels_.of(volume); }
   std::int64_t volumesOf(const std::vector<std::uint32_t>& folders) const;
   std::string sizeText(std::int64_t bytes) const;
   std::string sumText(const FileSum& sum) const;
@@ -70,9 +71,7 @@ class CopyRows {
   CellForm cells_;
   /// The paths of the listings, UTF-8.
   std::vector<std::string> listings_;
-  /// How many volumes have each name.
-  std::unordered_map<std::string_view, int> volumeNames_;
-  std::vector<std::string> labels_;
+  VolumeLabels labels_;
   /// Lines that are said again and again, by their number of copies.
   std::unordered_map<std::uint32_t, std::string> groupTexts_;
   /// Those of the single file before.

@@ -181,7 +181,8 @@ std::vector<std::string> remainingOf(const CLI::App& parser) {
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = remainingOf(app_);
   const QString commands = Texts::tr(
-      "the commands are find, copies, compare, plan, index, import, refresh, sources, history and cache");
+      "the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and "
+      "cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
     if (first.startsWith(u'-')) return Texts::tr("there is no option \"%1\"").arg(first);
@@ -212,6 +213,7 @@ int CommandLine::runNamed(const CommandText& command) {
   if (name == "copies") return runCopies(copiesRequestOf(given));
   if (name == "compare") return runCompare(compareRequestOf(given));
   if (name == "plan") return runPlan(planRequestOf(given));
+  if (name == "volumes") return runVolumes(volumesRequestOf(given));
   if (name == "index") return runIndexCommand(given);
   if (name == "import") return runImportCommand(given);
   if (name == "refresh") return runRefresh({given.texts(), given.has("--quiet"), given.has("--json")});

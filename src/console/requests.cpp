@@ -48,6 +48,20 @@ HitColumn columnNamed(const QString& name) {
           .arg(name)};
 }
 
+VolumeColumn volumeColumnNamed(const QString& name) {
+  static const std::map<QString, VolumeColumn> columns = {
+      {QStringLiteral("volume"), VolumeColumn::Volume}, {QStringLiteral("files"), VolumeColumn::Entries},
+      {QStringLiteral("size"), VolumeColumn::Size},     {QStringLiteral("newest"), VolumeColumn::Newest},
+      {QStringLiteral("listed"), VolumeColumn::Listed}, {QStringLiteral("free"), VolumeColumn::Free},
+      {QStringLiteral("note"), VolumeColumn::Note}};
+  const auto found = columns.find(name.toLower());
+  if (found != columns.end()) return found->second;
+  throw Mistake{
+      Texts::tr(
+          "volumes cannot be sorted by \"%1\", only by volume, files, size, newest, listed, free or note")
+          .arg(name)};
+}
+
 ColourUse colourUseNamed(const QString& name) {
   const QString lower = name.toLower();
   if (lower == QStringLiteral("auto")) return ColourUse::Auto;
@@ -183,6 +197,23 @@ PlanRequest planRequestOf(const Given& given) {
   request.isQuiet = given.has("--quiet");
   request.useCache = !given.has("--no-cache");
   for (const QString& listing : given.texts()) request.listings.push_back(listing);
+  return request;
+}
+
+VolumesRequest volumesRequestOf(const Given& given) {
+  VolumesRequest request;
+  QStringList arguments = given.texts();
+  request.note = given.text("--note");
+  if (request.note && arguments.isEmpty()) throw Mistake{Texts::tr("--note goes with the name of a volume")};
+  if (!arguments.isEmpty()) request.searchText = arguments.takeFirst();
+  for (const QString& listing : arguments) request.listings.push_back(listing);
+  request.desiredMatch = given.text("--match").value_or(request.desiredMatch);
+  if (const auto sort = given.text("--sort")) request.sortedBy = volumeColumnNamed(*sort);
+  request.isDescending = given.has("--reverse");
+  if (request.isDescending && !request.sortedBy) throw Mistake{Texts::tr("--reverse goes with --sort")};
+  request.isJson = given.has("--json");
+  request.isQuiet = given.has("--quiet");
+  request.useCache = !given.has("--no-cache");
   return request;
 }
 

@@ -60,5 +60,6 @@ FindRequest findRequestOf(const Given& given);
 CopiesRequest copiesRequestOf(const Given& given);
 CompareRequest compareRequestOf(const Given& given);
 PlanRequest planRequestOf(const Given& given);
+VolumesRequest volumesRequestOf(const Given& given);
 
 }  // namespace quorvin

@@ -106,10 +106,10 @@ std::string helpOfProgram() {
           said(QT_TRANSLATE_NOOP("Texts",
                                  "quorvin-cli COMMAND --help says more of each; man quorvin-cli says all.")) +
           '\n';
-  text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Commands:")) + '\n';
+  // Without lines before the titles: with the prompt behind it, the help is to fit on 24 lines.
+  text += said(QT_TRANSLATE_NOOP("Texts", "Commands:")) + '\n';
   for (const CommandText& command : commandTexts())
     addLine(text, command.name, said(command.summary), kProgramColumn);
-  // Without a line before it: with the prompt behind it, the help is to fit on 24 lines.
   text += said(QT_TRANSLATE_NOOP("Texts", "Options:")) + '\n';
   for (const OptionText& option : programOptions())
     addLine(text, termOf(option), said(option.text), kProgramColumn);

@@ -2,6 +2,7 @@
 #include "state/protected_files.h"
 
 #include "files/file_identity.h"
+#include "state/volume_notes.h"
 
 #include <QDir>
 #include <QFile>
@@ -58,7 +59,8 @@ bool isSourceListName(const QString& name) {
 
 ProtectedFiles::ProtectedFiles(const ProgramState& state, const QString& folder, const OwnPlaces& places)
     : folder_(folder),
-      sourceLists_{folder + state.LocFile, folder + state.OffLineFile},
+      userFiles_{folder + state.LocFile, folder + state.OffLineFile,
+                 folder + QString::fromUtf16(VolumeNotes::kFileName)},
       canonicalFolder_(canonicalFolder(folder)),
       places_{canonicalFolder(places.executableFolder), canonicalFile(places.settingsPath),
               canonicalFolder(places.runtimeFolder)} {}
@@ -74,7 +76,7 @@ bool ProtectedFiles::isOfTheUser(const QStringList& path) const {
   if (isSourceListName(top) || top == u"history") return true;
   if (isSameFile(folder_ + top, folder_ + QStringLiteral("history"))) return true;
   const QString wanted = folder_ + path.join(u'/');
-  return std::ranges::any_of(sourceLists_, [&](const QString& list) { return isSameFile(wanted, list); });
+  return std::ranges::any_of(userFiles_, [&](const QString& file) { return isSameFile(wanted, file); });
 }
 
 bool ProtectedFiles::isOfTheSettings(const QString& target) const {

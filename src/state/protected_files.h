@@ -25,10 +25,10 @@ struct OwnPlaces {
 };
 
 /// The files below a data folder that an archive must not write, whether they are there already or not: the
-/// source lists and the listing history; the settings with their recovery copies and the locks of running
-/// programs, where the data folder holds them too; and, where it holds the program, what could run in its
-/// place: programs, libraries, and the file that says where to look for these. Everything else in a data
-/// folder may be replaced: listings, the main data file, pages of the manual.
+/// source lists, the notes on volumes and the listing history; the settings with their recovery copies and
+/// the locks of running programs, where the data folder holds them too; and, where it holds the program, what
+/// could run in its place: programs, libraries, and the file that says where to look for these. Everything
+/// else in a data folder may be replaced: listings, the main data file, pages of the manual.
 class ProtectedFiles {
  public:
   /// `folder` is the data folder, with a trailing separator. It is looked at now and in has().
@@ -44,7 +44,7 @@ class ProtectedFiles {
   bool couldRun(const QString& target) const;
 
   QString folder_;
-  QStringList sourceLists_;
+  QStringList userFiles_;
   /// Without links in them, so that paths can be compared.
   QString canonicalFolder_;
   OwnPlaces places_;

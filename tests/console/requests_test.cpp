@@ -82,5 +82,22 @@ TEST(CopiesRequestOf, SaysWhatHasNoMeaning) {
             u"the value of --limit is a number of hits, not \"few\""_qs);
 }
 
+TEST(VolumesRequestOf, TakesWordsAndListingsOrAVolumeAndItsNote) {
+  GivenOptions options;
+  options.value("--sort", "Newest").value("--match", "99");
+  options.flag("--reverse").flag("--json").flag("--quiet").flag("--no-cache");
+  options.given.others = {"harbour live", "a.txt"};
+  const VolumesRequest request = volumesRequestOf(options.given);
+  EXPECT_EQ(request.searchText, u"harbour live"_qs);
+  EXPECT_EQ(request.listings, std::vector<QString>{u"a.txt"_qs});
+  EXPECT_EQ(request.desiredMatch, u"99"_qs);
+  EXPECT_EQ(request.sortedBy, VolumeColumn::Newest);
+  EXPECT_TRUE(request.isDescending && request.isJson && request.isQuiet);
+  EXPECT_FALSE(request.useCache || request.note);
+  GivenOptions note;
+  note.given.others = {"CD 7"};
+  EXPECT_EQ(volumesRequestOf(note.value("--note", "").given).note, QString(u""_qs));
+}
+
 }  // namespace
 }  // namespace quorvin

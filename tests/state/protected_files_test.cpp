@@ -60,6 +60,13 @@ TEST_F(ProtectedFilesTest, TheListingHistoryIsWhetherItIsThereOrNot) {
   EXPECT_TRUE(isProtected(QStringLiteral("history/main.txt/incomplete")));
 }
 
+TEST_F(ProtectedFilesTest, TheNotesOnVolumesAreWhetherTheyAreThereOrNot) {
+  EXPECT_TRUE(isProtected(QStringLiteral("volumes.notes")));
+  data_.writeFile(QStringLiteral("volumes.notes"), "");
+  EXPECT_TRUE(isProtected(QStringLiteral("volumes.notes")));
+  EXPECT_FALSE(isProtected(QStringLiteral("sub/volumes.notes")));
+}
+
 TEST_F(ProtectedFilesTest, TheHistoryIsUnderAnotherNameOfItsFolder) {
   data_.makeFolder(QStringLiteral("history"));
   ASSERT_TRUE(QFile::link(data_.pathOf(QStringLiteral("history")), data_.pathOf(QStringLiteral("HISTORY"))));
