@@ -187,6 +187,15 @@ TEST_F(HelpPages, EveryPageIsReachedFromTheGeneralHelpAndStandsInTheIndex) {
   }
 }
 
+// Debian's lintian takes a page with a line of more than 512 bytes for the output of a program.
+TEST_F(HelpPages, NoPageHasLinesThatLookLikeAPackersOutput) {
+  for (const QString& page : manualPages()) {
+    for (const QByteArray& line : manualText(page).toUtf8().split('\n')) {
+      EXPECT_LE(line.size(), 500) << page.toStdString() << ": " << line.toStdString();
+    }
+  }
+}
+
 TEST_F(HelpPages, NoPageSetsColoursThatADarkThemeWouldHide) {
   for (const QString& page : manualPages()) {
     const QString text = manualText(page);
