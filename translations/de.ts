@@ -4468,6 +4468,10 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>A note has at most %1 characters</source>
         <translation>Eine Notiz hat höchstens %1 Zeichen</translation>
     </message>
+    <message>
+        <source>Note: %1</source>
+        <translation>Notiz: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

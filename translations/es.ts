@@ -4468,6 +4468,10 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>A note has at most %1 characters</source>
         <translation>Una nota tiene como máximo %1 caracteres</translation>
     </message>
+    <message>
+        <source>Note: %1</source>
+        <translation>Nota: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4468,6 +4468,10 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>A note has at most %1 characters</source>
         <translation>Une note a au plus %1 caractères</translation>
     </message>
+    <message>
+        <source>Note: %1</source>
+        <translation>Note&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -95,8 +95,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   connectMenus();
   setPreviewOpener(
       [this](const QString& folder, const QString& name) { windows_.PreviewImage(folder + name); });
-  hitActions_.setExplanation(
-      [this](const HitRow& hit) { return rows_.words().explanation(hit.folder, hit.name); });
+  rows_.setNotes(notes_);
+  hitActions_.setRows(rows_);
   sources_.emplace(
       state_, messages_, *this, controls_, menus_, [this] { rescan(); }, [this] { sourcesChanged(); });
   jobs_.setNotify([&shell](const QString& text) { shell.notify(Texts::tr("The rescan has ended"), text); });

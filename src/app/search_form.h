@@ -179,6 +179,7 @@ class SearchForm : public QMainWindow {
   MessageBoxes& messages_;
   QLocale locale_;
   HitTable hits_;
+  NotesAtHand notes_{state_};
   HitListModel rows_;
   SearchFormControls controls_;
   SearchFormMenus menus_;

@@ -267,7 +267,10 @@ KnownHit SearchFormHits::known(int tableRow) const {
   KnownHit hit;
   hit.row = table_.row(tableRow);
   hit.listing = table_.listing(tableRow);
-  hit.words = explain_(hit.row);
+  if (rows_ != nullptr) {
+    hit.words = rows_->words().explanation(hit.row.folder, hit.row.name);
+    hit.note = rows_->note(tableRow);
+  }
   hit.file = actions_.resolveQuietly(hit.row, findOrdinaryFile);
   hit.expectedPath = actions_.expectedPath(hit.row);
   hit.sourceFolder = sourceFolderOf(state_, hit.row);

@@ -6,6 +6,7 @@
 #include "hits/hit_actions.h"
 #include "hits/hit_facts.h"
 #include "hits/hit_list.h"
+#include "hits/hit_list_model.h"
 #include "search/hit_table.h"
 
 #include <QAction>
@@ -63,8 +64,8 @@ class SearchFormHits : public QObject {
 
   void setPreviewOpener(PreviewOpener opener) { openPreview_ = std::move(opener); }
   void setDragStarter(DragStarter starter) { startDrag_ = std::move(starter); }
-  /// What says which words of the search a hit holds; see KnownHit.
-  void setExplanation(std::function<QString(const HitRow&)> explain) { explain_ = std::move(explain); }
+  /// What knows the words of the search that a hit holds, and the note on its volume; see KnownHit.
+  void setRows(const HitListModel& rows) { rows_ = &rows; }
 
   /// Shows a file in its folder, as HitActions::openFolder() does; false where it is not found.
   bool showInFolder(const HitRow& file) const { return actions_.openFolder(file) != LaunchOutcome::NotFound; }
@@ -110,7 +111,7 @@ class SearchFormHits : public QObject {
   QLocale locale_;
   HitActions actions_;
   ItemMenu menu_;
-  std::function<QString(const HitRow&)> explain_ = [](const HitRow&) { return QString(); };
+  const HitListModel* rows_ = nullptr;
   PreviewOpener openPreview_;
   DragStarter startDrag_;
   /// Where the mouse was pressed on a selected row.

@@ -13,6 +13,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -56,7 +57,7 @@ std::vector<HitFact> factsOf(const KnownHit& hit, const QLocale& locale) {
   const auto shown = [&](HitColumn column) { return hitText(row, column, locale); };
   const QString isThere =
       hit.file.isEmpty() ? Texts::tr("Not found on a connected drive") : Texts::tr("Is there");
-  return {
+  std::vector<HitFact> facts{
       {QStringLiteral("Match"), Texts::tr("Match"), shown(HitColumn::Match)},
       {QStringLiteral("Words"), Texts::tr("Words found"),
        hit.words.isEmpty() ? Texts::tr("1 of 1 word") : hit.words},
@@ -72,13 +73,19 @@ std::vector<HitFact> factsOf(const KnownHit& hit, const QLocale& locale) {
       {QStringLiteral("Path"), Texts::tr("File"), pathText(hit)},
       {QStringLiteral("State"), Texts::tr("State"), isThere},
   };
+  if (hit.note.isEmpty()) return facts;
+  const auto volume = std::ranges::find(facts, QStringLiteral("Volume"), &HitFact::name);
+  facts.insert(volume + 1, {QStringLiteral("Note"), Texts::tr("Note"), hit.note});
+  return facts;
 }
 
 QString whichDiskText(const KnownHit& hit) {
   const HitRow& row = hit.row;
   if (!hit.file.isEmpty())
     return Texts::tr("The file is on a connected drive:") + QStringLiteral("\r\n") + hit.file.fullPath();
-  const QString where = QStringLiteral("\r\n\r\n") +
+  const QString note =
+      hit.note.isEmpty() ? QString() : QStringLiteral("\r\n") + Texts::tr("Note: %1").arg(hit.note);
+  const QString where = note + QStringLiteral("\r\n\r\n") +
                         Texts::tr("In the catalogue: %1").arg(row.folder + row.name) +
                         QStringLiteral("\r\n") + Texts::tr("Listing: %1").arg(hit.listing);
   if (hit.sourceFolder.isEmpty()) {

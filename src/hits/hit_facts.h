@@ -31,6 +31,8 @@ struct KnownHit {
   QString expectedPath;
   /// The folder of the online source that it is from; empty for other hits.
   QString sourceFolder;
+  /// What the user has noted on its volume; empty for nothing.
+  QString note;
 };
 
 /// One value of a hit: `name` is that of the control that shows it.

@@ -4,6 +4,7 @@
 #include "texts/texts.h"
 
 #include <QColor>
+#include <QStringList>
 
 #include <array>
 #include <cstdint>
@@ -103,9 +104,15 @@ QVariant HitListModel::wordPlaces(const QModelIndex& index) const {
 
 QString HitListModel::explanation(int row, const QString& separator) const {
   const HitRow& hit = hitRow(row);
-  const QString kind = sourceKindText(hit.kind);
-  const QString words = words_.explanation(hit.folder, hit.name);
-  return words.isEmpty() ? kind : kind + separator + words;
+  QStringList sentences{sourceKindText(hit.kind), words_.explanation(hit.folder, hit.name)};
+  const QString noted = note(order_.tableRow(row));
+  if (!noted.isEmpty()) sentences += Texts::tr("Note: %1").arg(noted);
+  sentences.removeAll(QString());
+  return sentences.join(separator);
+}
+
+QString HitListModel::note(std::int64_t tableRow) const {
+  return notes_ == nullptr ? QString() : notes_->of(table_.listing(tableRow), table_.row(tableRow).volume);
 }
 
 QVariant HitListModel::headerData(int section, Qt::Orientation orientation, int role) const {

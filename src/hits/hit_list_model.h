@@ -6,6 +6,7 @@
 #include "hits/row_order.h"
 #include "search/hit_table.h"
 #include "search/word_places.h"
+#include "state/volume_notes.h"
 
 #include <QAbstractTableModel>
 #include <QItemSelectionModel>
@@ -48,14 +49,18 @@ class HitListModel : public QAbstractTableModel {
 
   /// The words that the rows were found by.
   const WordPlaces& words() const { return words_; }
+  /// Rows say what the user has noted on their volumes. `notes` must outlive the model.
+  void setNotes(NotesAtHand& notes) { notes_ = &notes; }
+  /// The note on the volume of a row of the table; empty for none.
+  QString note(std::int64_t tableRow) const;
   /// The size of the file in `row`, in bytes, as its row shows it.
   std::int64_t size(int row) const { return table_.size(order_.tableRow(row)); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
   /// Besides the texts: the kind of source (kSourceKindRole), its exact colour (ForegroundRole), the
-  /// alignment, where words of the search are (kWordPlacesRole), and in words the kind of source and which of
-  /// the words the row holds (ToolTipRole and AccessibleDescriptionRole).
+  /// alignment, where words of the search are (kWordPlacesRole), and in words the kind of source, which of
+  /// the words the row holds, and the note on its volume (ToolTipRole and AccessibleDescriptionRole).
   QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
@@ -67,6 +72,7 @@ class HitListModel : public QAbstractTableModel {
   HitTable& table_;
   QLocale locale_;
   WordPlaces words_;
+  NotesAtHand* notes_ = nullptr;
   RowOrder order_;
   /// The row of the table that was read last: the six columns of a row are asked for one after another.
   mutable HitRow readRow_;

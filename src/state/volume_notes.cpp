@@ -160,4 +160,18 @@ QString VolumeNotes::cleanNote(const QString& note) {
   return line.trimmed();
 }
 
+QString NotesAtHand::of(const QString& listing, const QString& volume) {
+  if (!notes_ || dataFolder_ != state_.LocalFolder) {
+    dataFolder_ = state_.LocalFolder;
+    notes_.emplace(dataFolder_);
+  }
+  try {
+    notes_->refresh();
+  } catch (const RuntimeFault&) {
+    // Whoever changes a note is told.
+    return {};
+  }
+  return notes_->of(listing, volume);
+}
+
 }  // namespace quorvin

@@ -3,6 +3,8 @@
 // The user's own notes on volumes, such as where a disk is kept. Their file: docs/formats/volume-notes.md.
 #pragma once
 
+#include "state/program_state.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -54,6 +56,21 @@ class VolumeNotes {
   /// When the file that was read last was written, and how long it is; nothing for no file.
   std::optional<std::pair<std::int64_t, std::int64_t>> read_;
   QHash<Key, QString> notes_;
+};
+
+/// The notes of the data folder that a state has at the moment, for those who only show them.
+class NotesAtHand {
+ public:
+  /// `state` must outlive the object.
+  explicit NotesAtHand(const ProgramState& state) : state_(state) {}
+
+  /// As the file is now; empty for none, and where it cannot be read.
+  QString of(const QString& listing, const QString& volume);
+
+ private:
+  const ProgramState& state_;
+  QString dataFolder_;
+  std::optional<VolumeNotes> notes_;
 };
 
 }  // namespace quorvin

@@ -65,6 +65,20 @@ TEST_F(HitPropertiesWindow, PropertiesOfAFarHitSayThatItsFileIsNotThere) {
                           });
 }
 
+TEST_F(HitPropertiesWindow, HasTheNoteOnTheVolumeAndSoHasTheTooltip) {
+  showFiles({QStringLiteral("song.txt")});
+  VolumeNotes(folder_.path())
+      .set(folder_.pathOf(QStringLiteral("Music.txt")), QStringLiteral("Music"), QStringLiteral("blue box"));
+  click(0);
+  inDialog<HitProperties>([] { press(Qt::Key_Return, Qt::AltModifier); },
+                          [](HitProperties& window) {
+                            EXPECT_EQ(value(window, "Note"), QStringLiteral("blue box"));
+                            press(Qt::Key_Escape);
+                          });
+  const QAbstractItemModel& rows = *list()->model();
+  EXPECT_TRUE(rows.index(0, 0).data(Qt::ToolTipRole).toString().endsWith(QStringLiteral("\nNote: blue box")));
+}
+
 TEST_F(HitPropertiesWindow, ShowsALongPathWhole) {
   const QString name = QStringLiteral("a song with so long a name that it goes on.txt");
   showFiles({name});

@@ -68,6 +68,23 @@ TEST_F(WhichDisk, OfAFileThatIsThereIsItsPath) {
   EXPECT_EQ(whichDiskText(hit_), QStringLiteral("The file is on a connected drive:\r\n/mnt/cd/a.mp3"));
 }
 
+TEST_F(WhichDisk, HasTheNoteOnTheVolumeRightBehindIt) {
+  hit_.note = QStringLiteral("blue box, shelf 3");
+  EXPECT_EQ(whichDiskText(hit_),
+            QStringLiteral("The file is on the volume \"CD_12\". Insert that disk to get at it.\r\n"
+                           "Note: blue box, shelf 3\r\n\r\n"
+                           "In the catalogue: \\mnt\\cd\\a.mp3\r\nListing: /lists/CD_12.txt"));
+}
+
+TEST_F(WhichDisk, FactsHaveTheNoteBehindTheVolumeWhereThereIsOne) {
+  EXPECT_EQ(factsOf(hit_, QLocale::c())[3].name, QStringLiteral("Folder"));
+  hit_.note = QStringLiteral("blue box");
+  const std::vector<HitFact> facts = factsOf(hit_, QLocale::c());
+  EXPECT_EQ(facts[2].name, QStringLiteral("Volume"));
+  EXPECT_EQ(facts[3].label + u'=' + facts[3].value, QStringLiteral("Note=blue box"));
+  EXPECT_EQ(facts[4].name, QStringLiteral("Folder"));
+}
+
 class EntryLine : public testing::Test {
  protected:
   std::optional<std::int64_t> lineOf(const QByteArray& listing, const HitRow& row) {

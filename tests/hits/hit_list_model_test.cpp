@@ -6,6 +6,7 @@
 #include "hits/scan_into.h"
 #include "support/listing_lines.h"
 #include "support/qt_printing.h"
+#include "support/temporary_folder.h"
 
 #include <QAbstractItemModelTester>
 #include <QColor>
@@ -73,6 +74,29 @@ TEST_F(HitListModelTest, SaysWhichWordsOfTheSearchARowHoldsAndWhere) {
   addHits(SourceKind::Online, 1);
   model_.hitsArrived();
   EXPECT_TRUE(at(0, HitColumn::Name, kWordPlacesRole).value<TextRanges>().empty());
+}
+
+TEST_F(HitListModelTest, SaysWhatIsNotedOnTheVolumeAsItIsNow) {
+  TemporaryFolder data;
+  ProgramState state;
+  state.LocalFolder = data.path();
+  NotesAtHand notes(state);
+  model_.setNotes(notes);
+  addHits(SourceKind::Online, 1);
+  model_.hitsArrived();
+  const QString kind = QStringLiteral("From the listing of an online source");
+  EXPECT_EQ(at(0, HitColumn::Match, Qt::ToolTipRole).toString(), kind);
+  VolumeNotes(data.path()).set(table_.listing(0), QStringLiteral("DATA1"), QStringLiteral("blue box"));
+  EXPECT_EQ(at(0, HitColumn::Match, Qt::ToolTipRole).toString(), kind + QStringLiteral("\nNote: blue box"));
+  EXPECT_EQ(at(0, HitColumn::Match, Qt::AccessibleDescriptionRole).toString(),
+            kind + QStringLiteral(". Note: blue box"));
+  // Another data folder has other notes.
+  TemporaryFolder other;
+  state.LocalFolder = other.path();
+  EXPECT_EQ(at(0, HitColumn::Match, Qt::ToolTipRole).toString(), kind);
+  // Notes that cannot be read are none.
+  other.makeFolder(QStringLiteral("volumes.notes"));
+  EXPECT_EQ(at(0, HitColumn::Match, Qt::ToolTipRole).toString(), kind);
 }
 
 TEST_F(HitListModelTest, TellsTheKindOfSourceInColourAndInWords) {
