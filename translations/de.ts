@@ -4472,6 +4472,50 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>Note: %1</source>
         <translation>Notiz: %1</translation>
     </message>
+    <message>
+        <source>looking at volumes</source>
+        <translation>Ansehen der Datenträger</translation>
+    </message>
+    <message>
+        <source>&amp;Volumes...</source>
+        <translation>&amp;Datenträger...</translation>
+    </message>
+    <message>
+        <source>Note on %1</source>
+        <translation>Notiz zu %1</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message>
+        <source>Volumes</source>
+        <translation>Datenträger</translation>
+    </message>
+    <message>
+        <source>Words that limit what is counted</source>
+        <translation>Wörter, die einschränken, was zählt</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Note</source>
+        <translation>&amp;Notiz bearbeiten</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>&amp;Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Stopped. What is on a volume is known when its listing has been read.</source>
+        <translation>Angehalten. Was auf einem Datenträger ist, ist erst bekannt, wenn seine Liste gelesen ist.</translation>
+    </message>
+    <message>
+        <source>%1 is not there now. Note: %2</source>
+        <translation>%1 ist jetzt nicht da. Notiz: %2</translation>
+    </message>
+    <message>
+        <source>The note was not kept: %1</source>
+        <translation>Die Notiz wurde nicht gespeichert: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

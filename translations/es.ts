@@ -4472,6 +4472,50 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>Note: %1</source>
         <translation>Nota: %1</translation>
     </message>
+    <message>
+        <source>looking at volumes</source>
+        <translation>revisión de los volúmenes</translation>
+    </message>
+    <message>
+        <source>&amp;Volumes...</source>
+        <translation>&amp;Volúmenes...</translation>
+    </message>
+    <message>
+        <source>Note on %1</source>
+        <translation>Nota sobre %1</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>Volumes</source>
+        <translation>Volúmenes</translation>
+    </message>
+    <message>
+        <source>Words that limit what is counted</source>
+        <translation>Palabras que limitan lo que se cuenta</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Note</source>
+        <translation>Editar la &amp;nota</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>Mostrar la &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>Stopped. What is on a volume is known when its listing has been read.</source>
+        <translation>Detenido. Lo que hay en un volumen se sabe cuando se ha leído su lista.</translation>
+    </message>
+    <message>
+        <source>%1 is not there now. Note: %2</source>
+        <translation>%1 no está ahora. Nota: %2</translation>
+    </message>
+    <message>
+        <source>The note was not kept: %1</source>
+        <translation>La nota no se guardó: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4472,6 +4472,50 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>Note: %1</source>
         <translation>Note&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>looking at volumes</source>
+        <translation>examen des volumes</translation>
+    </message>
+    <message>
+        <source>&amp;Volumes...</source>
+        <translation>&amp;Volumes...</translation>
+    </message>
+    <message>
+        <source>Note on %1</source>
+        <translation>Note sur %1</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>A&amp;fficher</translation>
+    </message>
+    <message>
+        <source>Volumes</source>
+        <translation>Volumes</translation>
+    </message>
+    <message>
+        <source>Words that limit what is counted</source>
+        <translation>Mots qui limitent ce qui est compté</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Note</source>
+        <translation>Modifier la &amp;note</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>Montrer le &amp;dossier</translation>
+    </message>
+    <message>
+        <source>Stopped. What is on a volume is known when its listing has been read.</source>
+        <translation>Arrêté. Ce qu’il y a sur un volume n’est connu que lorsque sa liste a été lue.</translation>
+    </message>
+    <message>
+        <source>%1 is not there now. Note: %2</source>
+        <translation>%1 n’est pas là pour le moment. Note&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The note was not kept: %1</source>
+        <translation>La note n’a pas été enregistrée&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

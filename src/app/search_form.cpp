@@ -68,7 +68,7 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       status_(*this, locale),
       display_(controls_, rows_, status_, locale),
       runMessages_(messages, display_, [this] { return jobs_.work().isClosing(); }),
-      hitActions_(*controls_.HitList, *menus_.HitsMenu, hits_, state, shell, messages, locale),
+      hitActions_(*controls_.HitList, *menus_.HitsMenu, rows_, state, shell, messages, locale),
       copy_({*controls_.HitList, hits_, state, runMessages_, status_, locale}, hitActions_.itemMenu()),
       view_(controls_, menus_, rows_, locale),
       jobs_(state, runMessages_, *this, controls_, menus_, locale, status_),
@@ -96,7 +96,6 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
   setPreviewOpener(
       [this](const QString& folder, const QString& name) { windows_.PreviewImage(folder + name); });
   rows_.setNotes(notes_);
-  hitActions_.setRows(rows_);
   sources_.emplace(
       state_, messages_, *this, controls_, menus_, [this] { rescan(); }, [this] { sourcesChanged(); });
   jobs_.setNotify([&shell](const QString& text) { shell.notify(Texts::tr("The rescan has ended"), text); });
@@ -152,6 +151,7 @@ void SearchForm::connectMenus() {
          [this] { windows_.ListingHistory_Click(); });
   handle(menus_.Copies, Texts::tr("looking for copies"), [this] { windows_.Copies_Click(); });
   handle(menus_.Compare, Texts::tr("comparing"), [this] { windows_.Compare_Click(); });
+  handle(menus_.Volumes, Texts::tr("looking at volumes"), [this] { windows_.Volumes_Click(); });
   handle(menus_.Import, Texts::tr("importing lists"), [this] { windows_.Import_Click(); });
   handle(menus_.ExportHits, Texts::tr("exporting hits"), [this] { export_.ExportHits_Click(); });
   handle(hitActions_.itemMenu().ExportSelected, Texts::tr("exporting hits"),

@@ -152,6 +152,7 @@ SearchFormMenus makeMenus(QMenuBar* bar) {
       addItem(made.FileMenu, QStringLiteral("ListingHistory"), Texts::tr("Listing &History..."));
   made.Copies = addItem(made.FileMenu, QStringLiteral("Copies"), Texts::tr("&Copies..."));
   made.Compare = addItem(made.FileMenu, QStringLiteral("Compare"), Texts::tr("Co&mpare..."));
+  made.Volumes = addItem(made.FileMenu, QStringLiteral("Volumes"), Texts::tr("&Volumes..."));
   made.Import = addItem(made.FileMenu, QStringLiteral("Import"), Texts::tr("&Import..."));
   made.ExportHits = addItem(made.FileMenu, QStringLiteral("ExportHits"), Texts::tr("&Export Hits..."));
   made.OptionsMenu = addItem(made.FileMenu, QStringLiteral("OptionsMenu"), Texts::tr("&Options"));

@@ -57,6 +57,7 @@ struct SearchFormMenus {
   QAction* ListingHistory;
   QAction* Copies;
   QAction* Compare;
+  QAction* Volumes;
   QAction* Import;
   QAction* ExportHits;
   QAction* OptionsMenu;

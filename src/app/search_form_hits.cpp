@@ -63,11 +63,12 @@ ItemMenu makeItemMenu(QWidget* parent) {
   return made;
 }
 
-SearchFormHits::SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitTable& table,
+SearchFormHits::SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitListModel& rows,
                                const ProgramState& state, Shell& shell, MessageBoxes& messages,
                                const QLocale& locale)
     : list_(list),
-      table_(table),
+      rows_(rows),
+      table_(rows.table()),
       state_(state),
       messages_(messages),
       locale_(locale),
@@ -267,10 +268,8 @@ KnownHit SearchFormHits::known(int tableRow) const {
   KnownHit hit;
   hit.row = table_.row(tableRow);
   hit.listing = table_.listing(tableRow);
-  if (rows_ != nullptr) {
-    hit.words = rows_->words().explanation(hit.row.folder, hit.row.name);
-    hit.note = rows_->note(tableRow);
-  }
+  hit.words = rows_.words().explanation(hit.row.folder, hit.row.name);
+  hit.note = rows_.note(tableRow);
   hit.file = actions_.resolveQuietly(hit.row, findOrdinaryFile);
   hit.expectedPath = actions_.expectedPath(hit.row);
   hit.sourceFolder = sourceFolderOf(state_, hit.row);

@@ -59,13 +59,11 @@ class SearchFormHits : public QObject {
 
  public:
   /// Everything must outlive the object; `hitsMenu`, the menu bar's, is filled.
-  SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitTable& table, const ProgramState& state,
+  SearchFormHits(HitListView& list, QMenu& hitsMenu, const HitListModel& rows, const ProgramState& state,
                  Shell& shell, MessageBoxes& messages, const QLocale& locale);
 
   void setPreviewOpener(PreviewOpener opener) { openPreview_ = std::move(opener); }
   void setDragStarter(DragStarter starter) { startDrag_ = std::move(starter); }
-  /// What knows the words of the search that a hit holds, and the note on its volume; see KnownHit.
-  void setRows(const HitListModel& rows) { rows_ = &rows; }
 
   /// Shows a file in its folder, as HitActions::openFolder() does; false where it is not found.
   bool showInFolder(const HitRow& file) const { return actions_.openFolder(file) != LaunchOutcome::NotFound; }
@@ -105,13 +103,13 @@ class SearchFormHits : public QObject {
   void tellMissing(std::int64_t missing, std::int64_t all) const;
 
   HitListView& list_;
+  const HitListModel& rows_;
   const HitTable& table_;
   const ProgramState& state_;
   MessageBoxes& messages_;
   QLocale locale_;
   HitActions actions_;
   ItemMenu menu_;
-  const HitListModel* rows_ = nullptr;
   PreviewOpener openPreview_;
   DragStarter startDrag_;
   /// Where the mouse was pressed on a selected row.

@@ -120,6 +120,12 @@ void SearchFormWindows::Compare_Click() {
   window.exec();
 }
 
+void SearchFormWindows::Volumes_Click() {
+  VolumesWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_}, &owner_);
+  volumes_ = &window;
+  window.exec();
+}
+
 /// Over the window that shows the versions.
 void SearchFormWindows::compareWith(const QString& listing, int number) {
   CompareWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_}, history_);
@@ -181,6 +187,7 @@ void SearchFormWindows::unloadCatalogueWindows() {
   if (compare_) compare_->reject();
   if (history_) history_->reject();
   if (copies_) copies_->reject();
+  if (volumes_) volumes_->reject();
   if (import_) import_->reject();
 }
 

@@ -8,6 +8,7 @@
 #include "catalogue/compare_window.h"
 #include "catalogue/copies_window.h"
 #include "catalogue/import/import_window.h"
+#include "catalogue/volumes/volumes_window.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
 #include "files/drive_threads.h"
@@ -64,6 +65,8 @@ class SearchFormWindows {
   void Copies_Click();
   /// Shows what differs between two listings, versions or folders.
   void Compare_Click();
+  /// Shows what is on each volume, and where it is kept.
+  void Volumes_Click();
   /// Turns lists of other programs into listings.
   void Import_Click();
   void OptionsMenu_Click();
@@ -88,7 +91,7 @@ class SearchFormWindows {
   void unloadBrowser();
   /// The about window, the options and the source editor, in this order.
   void unloadDialogs();
-  /// The windows about listings: comparison, history, copies, import.
+  /// The windows about listings: comparison, history, copies, volumes, import.
   void unloadCatalogueWindows();
 
  private:
@@ -112,6 +115,7 @@ class SearchFormWindows {
   QPointer<HistoryWindow> history_;
   QPointer<CopiesWindow> copies_;
   QPointer<CompareWindow> compare_;
+  QPointer<VolumesWindow> volumes_;
   QPointer<ImportWindow> import_;
   QPointer<frmSplash> splash_;
   ImagePreview preview_;

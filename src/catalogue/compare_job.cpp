@@ -2,13 +2,10 @@
 #include "catalogue/compare_job.h"
 
 #include "catalogue/sum_texts.h"
-#include "faults/runtime_fault.h"
 #include "texts/texts.h"
 
 #include <QMutexLocker>
-#include <QScopeGuard>
 
-#include <new>
 #include <utility>
 
 namespace quorvin {
@@ -19,38 +16,24 @@ CompareJob::CompareJob(ComparedPlace before, ComparedPlace after, QString dataFo
       locale_(std::move(locale)),
       history_(dataFolder) {}
 
-CompareJob::~CompareJob() = default;
-
 QString CompareJob::status() const {
   const QMutexLocker lock(&mutex_);
   return status_;
 }
 
-void CompareJob::run() {
-  const auto ending = qScopeGuard([this] { hasEnded_ = true; });
-  try {
-    compare();
-  } catch (const RuntimeFault& fault) {
-    fault_ = fault.text();
-  } catch (const std::bad_alloc&) {
-    fault_ = Texts::tr("Run-time error: Out of memory");
-  }
-}
-
-void CompareJob::compare() {
+bool CompareJob::work() {
   const ListingOpener before = openerOf(beforePlace_);
   const ListingOpener after = openerOf(afterPlace_);
-  if (isStopped_) return;
+  if (isStopped()) return false;
   before_ = std::make_unique<ComparedListing>(before, locale_);
   after_ = std::make_unique<ComparedListing>(after, locale_);
   comparison_ = std::make_unique<ListingComparison>(*before_, *after_);
-  if (!comparison_->run([this] { return isStopped_.load(); })) return;
+  if (!comparison_->run([this] { return isStopped(); })) return false;
   if (before_->isNoText() || after_->isNoText()) {
-    fault_ = Texts::tr("One of the two is no listing, since it is not plain text.");
-    return;
+    return fail(Texts::tr("One of the two is no listing, since it is not plain text."));
   }
   folders_ = changesOfFolders(*comparison_);
-  isComplete_ = !isStopped_;
+  return true;
 }
 
 ListingOpener CompareJob::openerOf(const ComparedPlace& place) {
@@ -63,11 +46,11 @@ ListingOpener CompareJob::openerOf(const ComparedPlace& place) {
     const QMutexLocker lock(&mutex_);
     status_ = status;
   };
-  const auto isStopped = [this] { return isStopped_.load(); };
+  const auto isStopped = [this] { return CatalogueJob::isStopped(); };
   listed_.push_back(std::make_unique<FolderAsItIs>(source.folder, source.title, locale_, isStopped, tell));
   tell({});
   // One that was ended early is not to be compared.
-  if (!listed_.back()->isWhole()) isStopped_ = true;
+  if (!listed_.back()->isWhole()) stop();
   return openerOfListing(listed_.back()->path());
 }
 

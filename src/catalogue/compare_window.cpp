@@ -8,11 +8,8 @@
 
 #include <QAbstractItemView>
 #include <QDateTime>
-#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QKeyEvent>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -39,10 +36,6 @@ const ShownChanges kShownChanges[] = {
     {QT_TRANSLATE_NOOP("Texts", "What was moved"), ChangeKind::Moved},
 };
 
-QString compareCaption() {
-  return Texts::tr("&Compare");
-}
-
 QString dateOfVersion(const ListingVersion& version, const QLocale& locale) {
   const QString date = locale.toString(QDateTime::fromMSecsSinceEpoch(version.made), QLocale::ShortFormat);
   return version.isComplete ? date : Texts::tr("%1 (incomplete)").arg(date);
@@ -60,34 +53,27 @@ QComboBox* makeBox() {
 }  // namespace
 
 CompareWindow::CompareWindow(CompareWindowParts parts, QWidget* owner)
-    : QDialog(owner),
+    : JobWindow(Texts::tr("&Compare"), Texts::tr("Cl&ose"), parts.threads, owner),
       parts_(std::move(parts)),
       history_(parts_.state.LocalFolder),
       sources_(comparedSources(parts_.state)),
       rows_(parts_.locale),
       earlier_{makeBox(), makeBox()},
       later_{makeBox(), makeBox()},
-      what_(new QComboBox),
-      compare_(makeStartButton(compareCaption())),
-      close_(new QPushButton(Texts::tr("Cl&ose"))),
-      list_(makeTree(&rows_)),
-      status_(new QLabel) {
+      what_(new QComboBox) {
   setObjectName(QStringLiteral("CompareWindow"));
   setWindowTitle(Texts::tr("Compare"));
   for (const ShownChanges& choice : kShownChanges) what_->addItem(Texts::tr(choice.caption));
   nameControls();
-  layOut();
-  status_->setText(
+  layOut(makeFields(), makeTree(&rows_), kCharactersOfChanges);
+  list().setAccessibleName(Texts::tr("Changes"));
+  setStatus(
       Texts::tr("What came, went, changed and was moved from the earlier to the later one. Nothing is "
                 "deleted or changed."));
   connectControls();
-  fitTreeColumns(*list_);
+  fitTreeColumns(list());
   listSources();
   earlier_.source->setFocus();
-}
-
-CompareWindow::~CompareWindow() {
-  letGo();
 }
 
 void CompareWindow::nameControls() {
@@ -100,20 +86,13 @@ void CompareWindow::nameControls() {
   name(later_.source, "LaterSource", Texts::tr("What is compared: the later side"));
   name(later_.state, "LaterState", Texts::tr("Which state of the later side"));
   name(what_, "What", Texts::tr("What is shown"));
-  name(list_, "Rows", Texts::tr("Changes"));
   for (QComboBox* box : {earlier_.source, earlier_.state, later_.source, later_.state, what_}) {
     box->view()->setAccessibleName(Texts::tr("What can be chosen"));
   }
-  compare_->setObjectName(QStringLiteral("Compare"));
-  close_->setObjectName(QStringLiteral("close"));
-  status_->setObjectName(QStringLiteral("Status"));
+  startButton().setObjectName(QStringLiteral("Compare"));
 }
 
-void CompareWindow::layOut() {
-  status_->setTextFormat(Qt::PlainText);
-  status_->setWordWrap(true);
-  close_->setAutoDefault(false);
-
+QLayout* CompareWindow::makeFields() {
   auto* fields = new QGridLayout;
   fields->addWidget(captionOf(earlier_.source, Texts::tr("&Earlier:")), 0, 0);
   fields->addWidget(earlier_.source, 0, 1);
@@ -127,39 +106,20 @@ void CompareWindow::layOut() {
   fields->addWidget(what_, 2, 1, 1, 3);
   fields->setColumnStretch(1, 1);
   fields->setColumnStretch(3, 1);
-
-  auto* buttons = new QDialogButtonBox;
-  buttons->addButton(compare_, QDialogButtonBox::ActionRole);
-  buttons->addButton(close_, QDialogButtonBox::RejectRole);
-  auto* all = new QVBoxLayout(this);
-  all->addLayout(fields);
-  all->addWidget(list_, 1);
-  all->addWidget(status_);
-  all->addWidget(buttons);
-  // Only now does the window know it, and makes it the default again when another button loses the focus.
-  compare_->setDefault(true);
-  sizeForRows(*this, kCharactersOfChanges);
+  return fields;
 }
 
 void CompareWindow::connectControls() {
-  connect(compare_, &QPushButton::clicked, this, &CompareWindow::Compare_Click);
-  connect(close_, &QPushButton::clicked, this, &CompareWindow::reject);
   connect(what_, &QComboBox::currentIndexChanged, this, &CompareWindow::showRows);
   connect(earlier_.source, &QComboBox::currentIndexChanged, this, [this] { listStates(earlier_); });
   connect(later_.source, &QComboBox::currentIndexChanged, this, [this] { listStates(later_); });
-  connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
-    // A folder unfolds by itself.
-    if (index.parent().isValid()) showPlace(index);
-  });
-  connect(&watch_, &QTimer::timeout, this, &CompareWindow::look);
-  list_->installEventFilter(this);
 }
 
 /// The first source that has an earlier version comes chosen: what has changed in it is asked most.
 void CompareWindow::listSources() {
-  compare_->setEnabled(!sources_.empty());
+  startButton().setEnabled(!sources_.empty());
   if (sources_.empty()) {
-    status_->setText(Texts::tr("There is nothing to compare yet."));
+    setStatus(Texts::tr("There is nothing to compare yet."));
     return;
   }
   for (const ComparedSource& source : sources_) {
@@ -170,7 +130,7 @@ void CompareWindow::listSources() {
   try {
     known = history_.listings();
   } catch (const RuntimeFault& fault) {
-    status_->setText(Texts::tr("The listing history cannot be read: %1").arg(fault.description()));
+    setStatus(Texts::tr("The listing history cannot be read: %1").arg(fault.description()));
   }
   const auto withHistory = std::ranges::find_if(
       sources_, [&](const ComparedSource& source) { return known.contains(source.inHistory); });
@@ -203,7 +163,7 @@ void CompareWindow::listStates(Side& side) {
         add(dateOfVersion(version, parts_.locale), ComparedPlace::State::Version, version.number);
     }
   } catch (const RuntimeFault& fault) {
-    status_->setText(Texts::tr("The listing history cannot be read: %1").arg(fault.description()));
+    setStatus(Texts::tr("The listing history cannot be read: %1").arg(fault.description()));
   }
 }
 
@@ -215,7 +175,7 @@ void CompareWindow::chooseVersion(const QString& inHistory, int version) {
     source = sources_.end() - 1;
     earlier_.source->addItem(inHistory);
     later_.source->addItem(inHistory);
-    compare_->setEnabled(true);
+    startButton().setEnabled(true);
   }
   const auto row = static_cast<int>(source - sources_.begin());
   earlier_.source->setCurrentIndex(row);
@@ -230,13 +190,8 @@ void CompareWindow::chooseVersion(const QString& inHistory, int version) {
   }
 }
 
-void CompareWindow::Compare_Click() {
-  if (!job_) {
-    start();
-    return;
-  }
-  letGo();
-  status_->setText(Texts::tr("Stopped. What has changed is only known at the end."));
+QString CompareWindow::stoppedText() const {
+  return Texts::tr("Stopped. What has changed is only known at the end.");
 }
 
 void CompareWindow::start() {
@@ -245,48 +200,31 @@ void CompareWindow::start() {
   const auto placeOf = [](const Side& side) {
     return side.places[static_cast<std::size_t>(std::max(side.state->currentIndex(), 0))];
   };
-  job_ = std::make_shared<CompareJob>(placeOf(earlier_), placeOf(later_), parts_.state.LocalFolder,
-                                      parts_.locale);
-  parts_.threads.start([job = job_] { job->run(); });
-  compare_->setText(stopCaption());
-  status_->setText(Texts::tr("Comparing"));
-  watch_.start(kBetweenLooks);
+  startJob(std::make_shared<CompareJob>(placeOf(earlier_), placeOf(later_), parts_.state.LocalFolder,
+                                        parts_.locale));
 }
 
-/// The thread keeps the job until it has come to look.
-void CompareWindow::letGo() {
-  watch_.stop();
-  if (job_) job_->stop();
-  job_.reset();
-  compare_->setText(compareCaption());
+QString CompareWindow::progressText() const {
+  const QString status = static_cast<const CompareJob&>(*job()).status();
+  return status.isEmpty() ? Texts::tr("Comparing") : status;
 }
 
-void CompareWindow::look() {
-  if (job_->hasEnded()) {
-    showResult();
+void CompareWindow::jobEnded(std::shared_ptr<CatalogueJob> ended) {
+  const auto job = std::static_pointer_cast<const CompareJob>(ended);
+  if (!job->isComplete()) {
+    setStatus(englishWithin(layoutDirection(), job->fault()));
     return;
   }
-  const QString status = job_->status();
-  status_->setText(status.isEmpty() ? Texts::tr("Comparing") : status);
-}
-
-void CompareWindow::showResult() {
-  const std::shared_ptr<const CompareJob> job = job_;
-  letGo();
-  if (job->isComplete()) {
-    shown_ = job;
-    showRows();
-    list_->setCurrentIndex(rows_.index(0, 0));
-    fitTreeColumns(*list_);
-  } else {
-    status_->setText(englishWithin(layoutDirection(), job->fault()));
-  }
+  shown_ = job;
+  showRows();
+  list().setCurrentIndex(rows_.index(0, 0));
+  fitTreeColumns(list());
 }
 
 void CompareWindow::showRows() {
   rows_.show(shown_, kShownChanges[what_->currentIndex()].kind, parts_.mostRows);
   if (!shown_) return;
-  if (rows_.rowCount() <= kMostUnfolded) list_->expandAll();
+  if (rows_.rowCount() <= kMostUnfolded) list().expandAll();
   tellRows();
 }
 
@@ -297,41 +235,14 @@ void CompareWindow::tellRows() {
     lines += Texts::tr("Only the first %1 of %2 rows are shown.")
                  .arg(number(rows_.shownChanges()), number(rows_.changesAltogether()));
   }
-  status_->setText(englishWithin(layoutDirection(), lines.join(u'\n')));
+  setStatus(englishWithin(layoutDirection(), lines.join(u'\n')));
 }
 
-bool CompareWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
-  return takeKey(static_cast<const QKeyEvent&>(*event)) || QDialog::eventFilter(watched, event);
-}
-
-/// Keys of the list. Enter must not go on to the default button, which would start all over.
-bool CompareWindow::takeKey(const QKeyEvent& key) {
-  if (key.matches(QKeySequence::Copy)) {
-    copySelectedRows(*list_);
-    return true;
-  }
-  const QModelIndex current = list_->currentIndex();
-  if ((key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) || !current.isValid()) return false;
-  const QModelIndex row = current.siblingAtColumn(0);
-  if (row.parent().isValid()) {
-    showPlace(row);
-  } else {
-    list_->setExpanded(row, !list_->isExpanded(row));
-  }
-  return true;
-}
-
-void CompareWindow::showPlace(const QModelIndex& index) {
+void CompareWindow::openRow(const QModelIndex& index) {
   const HitRow file = rows_.fileOf(index);
   if (parts_.showFile(file)) return;
-  status_->setText(
+  setStatus(
       Texts::tr("%1 is not there now, or its listing does not say where.").arg(file.folder + file.name));
-}
-
-void CompareWindow::done(int result) {
-  letGo();
-  QDialog::done(result);
 }
 
 }  // namespace quorvin

@@ -5,17 +5,13 @@
 
 #include "catalogue/compare_job.h"
 #include "catalogue/compare_model.h"
+#include "catalogue/job_window.h"
 #include "search/hit_table.h"
 #include "state/program_state.h"
 
 #include <QComboBox>
-#include <QDialog>
-#include <QLabel>
 #include <QLocale>
-#include <QPushButton>
 #include <QThreadPool>
-#include <QTimer>
-#include <QTreeView>
 
 #include <cstddef>
 #include <functional>
@@ -40,22 +36,23 @@ struct CompareWindowParts {
 };
 
 /// The window `CompareWindow`: two sides, each a source and which state of it, and the changes from the
-/// earlier to the later one by folder. Compare reads them in another thread, and is Stop meanwhile. At first
-/// the sides are the newest earlier version of a listing and the listing itself. Enter and a double click
-/// show a file in its folder, Ctrl+C copies the selected rows as text.
-class CompareWindow : public QDialog {
+/// earlier to the later one by folder. At first the sides are the newest earlier version of a listing and the
+/// listing itself. Enter and a double click show a file in its folder.
+class CompareWindow : public JobWindow {
   Q_OBJECT
 
  public:
   CompareWindow(CompareWindowParts parts, QWidget* owner);
-  ~CompareWindow() override;
 
   /// Chooses a version as the earlier side and its listing as the later one.
   void chooseVersion(const QString& inHistory, int version);
 
-  /// Ends what goes on, and closes the window.
-  void done(int result) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
+ protected:
+  void start() override;
+  QString stoppedText() const override;
+  QString progressText() const override;
+  void jobEnded(std::shared_ptr<CatalogueJob> job) override;
+  void openRow(const QModelIndex& row) override;
 
  private:
   /// One of the two.
@@ -67,19 +64,12 @@ class CompareWindow : public QDialog {
   };
 
   void nameControls();
-  void layOut();
+  QLayout* makeFields();
   void connectControls();
   void listSources();
   void listStates(Side& side);
-  void Compare_Click();
-  void start();
-  void letGo();
-  void look();
-  void showResult();
   void showRows();
   void tellRows();
-  bool takeKey(const QKeyEvent& key);
-  void showPlace(const QModelIndex& index);
 
   CompareWindowParts parts_;
   ListingHistory history_;
@@ -88,14 +78,7 @@ class CompareWindow : public QDialog {
   Side earlier_;
   Side later_;
   QComboBox* what_;
-  QPushButton* compare_;
-  QPushButton* close_;
-  QTreeView* list_;
-  QLabel* status_;
-  /// While it is there, the button is Stop.
-  std::shared_ptr<CompareJob> job_;
   std::shared_ptr<const CompareJob> shown_;
-  QTimer watch_;
 };
 
 }  // namespace quorvin

@@ -1,23 +1,16 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "catalogue/copies_job.h"
 
-#include "faults/runtime_fault.h"
+#include "catalogue/sum_texts.h"
 #include "platform/text_encoding.h"
 #include "texts/texts.h"
 
-#include <QMutexLocker>
-#include <QScopeGuard>
-
 #include <algorithm>
-#include <new>
 #include <utility>
 
 namespace quorvin {
 
 namespace {
-
-/// What is said of more listings than that is not kept.
-constexpr qsizetype kMostMessages = 100;
 
 bool isLarger(const CopiesJob::Row& row, const CopiesJob::Row& other) {
   return row.size > other.size;
@@ -25,72 +18,20 @@ bool isLarger(const CopiesJob::Row& row, const CopiesJob::Row& other) {
 
 }  // namespace
 
-/// Keeps what is said. Nobody is asked anything while listings are read.
-class CopiesJob::Messages : public MessageBoxes {
- public:
-  const QStringList& texts() const { return texts_; }
-
-  void inform(const QString& text) override {
-    if (texts_.size() < kMostMessages) texts_ += text;
-  }
-  bool askYesNo(const QString&) override { return false; }
-  FaultAnswer askAbortRetryIgnore(const QString&) override { return FaultAnswer::Abort; }
-
- private:
-  QStringList texts_;
-};
-
-/// Notes how far the run has come.
-class CopiesJob::Display : public RunDisplay {
- public:
-  explicit Display(std::atomic<std::int64_t>& searched) : searched_(searched) {}
-
-  void setDesMatch(const QString&) override {}
-  void runStarted(const SearchQuery&) override {}
-  void runEnded() override {}
-  void showFound(std::int64_t) override {}
-  void showSearched(std::int64_t count) override { searched_ = count; }
-  void clearHits() override {}
-  void hitsArrived() override {}
-  void processEvents() override {}
-
- private:
-  std::atomic<std::int64_t>& searched_;
-};
-
-ProgramState sourcesOf(const ProgramState& state) {
-  ProgramState sources;
-  sources.LocalFolder = state.LocalFolder;
-  sources.TextFile = state.TextFile;
-  sources.OnlineSources = state.OnlineSources;
-  sources.OnlineSourceCount = state.OnlineSourceCount;
-  sources.OfflineSources = state.OfflineSources;
-  sources.OfflineSourceCount = state.OfflineSourceCount;
-  return sources;
-}
-
 CopiesJob::CopiesJob(ProgramState sources, CopyWish wish, QLocale locale, std::size_t mostRows)
-    : sources_(std::move(sources)),
-      wish_(std::move(wish)),
-      locale_(std::move(locale)),
-      mostRows_(mostRows),
-      messages_(std::make_unique<Messages>()),
-      display_(std::make_unique<Display>(searched_)) {}
+    : sources_(std::move(sources)), wish_(std::move(wish)), locale_(std::move(locale)), mostRows_(mostRows) {}
 
-CopiesJob::~CopiesJob() = default;
-
-const QStringList& CopiesJob::messages() const {
-  return messages_->texts();
-}
-
-CopiesJob::Progress CopiesJob::progress() const {
-  const QMutexLocker lock(&mutex_);
-  return {listing_, searched_, isComparing_, bytesRead_, bytesToRead_};
+QString CopiesJob::progressText() const {
+  if (bytesToRead_ > 0) {
+    return Texts::tr("Looking into files: %1 of %2")
+        .arg(sizeText(bytesRead_, locale_), sizeText(bytesToRead_, locale_));
+  }
+  return isComparing_ ? Texts::tr("Comparing names and sizes") : watch_.progressText(locale_);
 }
 
 CopyFinder::Parts CopiesJob::parts() {
-  CopyFinder::Parts parts{sources_, *messages_, locale_};
-  parts.display = display_.get();
+  CopyFinder::Parts parts{sources_, watch_, locale_};
+  parts.display = &watch_;
   parts.endRequested = [this] { return isStopped(); };
   parts.comparing = [this] { isComparing_ = true; };
   parts.reading = [this](std::int64_t done, std::int64_t all) {
@@ -103,23 +44,15 @@ CopyFinder::Parts CopiesJob::parts() {
 
 void CopiesJob::listingStarts(SourceKind kind, const QString& path) {
   kinds_.push_back(kind);
-  const QMutexLocker lock(&mutex_);
-  listing_ = path;
+  watch_.startListing(path);
 }
 
-void CopiesJob::run() {
-  const auto ending = qScopeGuard([this] { hasEnded_ = true; });
-  try {
-    finder_ = std::make_unique<CopyFinder>(wish_, parts());
-    if (!finder_->find()) return;
-    makeRows();
-    sumLines_ = finder_->sumLines();
-    isComplete_ = !isStopped();
-  } catch (const RuntimeFault& fault) {
-    fault_ = fault.text();
-  } catch (const std::bad_alloc&) {
-    fault_ = Texts::tr("Run-time error: Out of memory");
-  }
+bool CopiesJob::work() {
+  finder_ = std::make_unique<CopyFinder>(wish_, parts());
+  if (!finder_->find()) return false;
+  makeRows();
+  sumLines_ = finder_->sumLines();
+  return true;
 }
 
 void CopiesJob::makeRows() {

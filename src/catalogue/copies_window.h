@@ -5,19 +5,15 @@
 
 #include "catalogue/copies_job.h"
 #include "catalogue/copies_model.h"
+#include "catalogue/job_window.h"
 #include "search/hit_table.h"
 #include "state/program_state.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QPushButton>
 #include <QThreadPool>
-#include <QTimer>
-#include <QTreeView>
 
 #include <cstddef>
 #include <functional>
@@ -40,34 +36,26 @@ struct CopiesWindowParts {
 };
 
 /// The window `CopiesWindow`: words that limit what is shown, what is to be shown, and the rows found. Find
-/// goes over all sources in another thread; meanwhile the button is Stop. Groups unfold to their places.
-/// Enter and a double click show a place in its folder, Ctrl+C copies the selected rows as text.
-class CopiesWindow : public QDialog {
+/// goes over all sources. Groups unfold to their places; Enter and a double click show a place in its folder.
+class CopiesWindow : public JobWindow {
   Q_OBJECT
 
  public:
   CopiesWindow(CopiesWindowParts parts, QWidget* owner);
-  ~CopiesWindow() override;
 
-  /// Ends what goes on, and closes the window.
-  void done(int result) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
+ protected:
+  void start() override;
+  QString stoppedText() const override;
+  QString progressText() const override;
+  void jobEnded(std::shared_ptr<CatalogueJob> job) override;
+  void openRow(const QModelIndex& row) override;
 
  private:
   void nameControls();
-  void layOut();
-  void connectControls();
-  void Find_Click();
+  QLayout* makeFields();
   CopyWish wish();
-  void start();
-  void letGo();
-  void look();
-  void showProgress();
-  void showResult();
   void fitColumns();
   QString resultText(const CopiesJob& job) const;
-  bool takeKey(const QKeyEvent& key);
-  void showPlace(const QModelIndex& index);
 
   CopiesWindowParts parts_;
   CopiesModel rows_;
@@ -76,13 +64,6 @@ class CopiesWindow : public QDialog {
   QLineEdit* match_;
   QCheckBox* empty_;
   QCheckBox* content_;
-  QPushButton* find_;
-  QPushButton* close_;
-  QTreeView* list_;
-  QLabel* status_;
-  /// While it is there, the button is Stop.
-  std::shared_ptr<CopiesJob> job_;
-  QTimer watch_;
 };
 
 }  // namespace quorvin

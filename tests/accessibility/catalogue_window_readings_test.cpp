@@ -37,6 +37,20 @@ TEST_F(AccessibleCatalogueWindows, Copies) {
                      "Button close: Close"));
 }
 
+TEST_F(AccessibleCatalogueWindows, Volumes) {
+  expectReadingsOfDialog([this] { form().menus().Volumes->trigger(); }, QStringLiteral("VolumesWindow"),
+                         QStringLiteral("Volumes"),
+                         QStringLiteral("StaticText : Words:\n"
+                                        "EditableText Words: Words that limit what is counted\n"
+                                        "Tree Rows: Volumes\n"
+                     "ColumnHeader : Volume\nColumnHeader : Files\nColumnHeader : Size\n"
+                     "ColumnHeader : Newest\nColumnHeader : Listed\nColumnHeader : Free\n"
+                     "ColumnHeader : Listing\nColumnHeader : Note\n"
+                                        "StaticText Status: There is nothing to search yet.\n"
+                                        "Button Show: Show\n"
+                                        "Button close: Close"));
+}
+
 TEST_F(AccessibleCatalogueWindows, Import) {
   expectReadingsOfDialog(
       [this] { form().menus().Import->trigger(); }, QStringLiteral("ImportWindow"), QStringLiteral("Import"),

@@ -348,12 +348,12 @@ TEST_F(ShownCopies, AJobEndsInTheMidstOfAListing) {
   CopiesJob job(sourcesOf(state_), {}, QLocale::c());
   QThreadPool threads;
   threads.start([&job] { job.run(); });
-  EXPECT_EVENTUALLY(job.progress().searched > 1000);
+  EXPECT_EVENTUALLY(job.watch().searched() > 1000);
   job.stop();
   EXPECT_TRUE(threads.waitForDone(10'000));
   EXPECT_TRUE(job.hasEnded());
   EXPECT_FALSE(job.isComplete());
-  EXPECT_LT(job.progress().searched, kEntries);
+  EXPECT_LT(job.watch().searched(), kEntries);
   EXPECT_TRUE(job.rows().empty());
 }
 

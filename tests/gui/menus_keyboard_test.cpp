@@ -60,9 +60,10 @@ TEST_F(MenuKeys, ArrowsReachEveryItemOfTheFileMenu) {
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 3); }), QStringLiteral("Listing History"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 4); }), QStringLiteral("Copies"));
   EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 5); }), QStringLiteral("Compare"));
-  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 6); }), QStringLiteral("Import"));
-  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 8); }), QStringLiteral("Options"));
-  choose(Qt::Key_F, 9);
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 6); }), QStringLiteral("Volumes"));
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 7); }), QStringLiteral("Import"));
+  EXPECT_EQ(dialogOpenedBy([] { choose(Qt::Key_F, 9); }), QStringLiteral("Options"));
+  choose(Qt::Key_F, 10);
   EXPECT_FALSE(form().isVisible());
 }
 
@@ -80,6 +81,7 @@ TEST_F(MenuKeys, LettersReachTheItemsThatHaveOne) {
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_H); }), QStringLiteral("Listing History"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_C); }), QStringLiteral("Copies"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_M); }), QStringLiteral("Compare"));
+  EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_V); }), QStringLiteral("Volumes"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_I); }), QStringLiteral("Import"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_F, Qt::Key_O); }), QStringLiteral("Options"));
   EXPECT_EQ(dialogOpenedBy([] { chooseByLetters(Qt::Key_P, Qt::Key_G); }),

@@ -62,6 +62,7 @@ TEST_F(HelpKey, OpensThePageOfTheWindowAtHand) {
   EXPECT_EQ(pageInDialog(form().menus().ListingHistory), QStringLiteral("manual/cataloguing.htm#history"));
   EXPECT_EQ(pageInDialog(form().menus().Copies), QStringLiteral("manual/copies.htm#window"));
   EXPECT_EQ(pageInDialog(form().menus().Compare), QStringLiteral("manual/compare.htm#window"));
+  EXPECT_EQ(pageInDialog(form().menus().Volumes), QStringLiteral("manual/volumes.htm#window"));
   EXPECT_EQ(pageInDialog(form().menus().Import), QStringLiteral("manual/imports.htm#window"));
   EXPECT_EQ(pageInDialog(form().menus().AboutMenu), QStringLiteral("relinfo.htm"));
 }
@@ -106,6 +107,7 @@ TEST_F(HelpKey, LeadsToPagesAndPlacesThatAreThere) {
                                 pageInDialog(form().menus().ListingHistory),
                                 pageInDialog(form().menus().Copies),
                                 pageInDialog(form().menus().Compare),
+                                pageInDialog(form().menus().Volumes),
                                 pageInDialog(form().menus().Import),
                                 QStringLiteral("manual/messages.htm#results"),
                                 QStringLiteral("manual/hits.htm#preview"),

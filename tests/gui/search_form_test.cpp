@@ -129,6 +129,7 @@ TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
                                                  "ListingHistory=Listing &History...\n"
                                                  "Copies=&Copies...\n"
                                                  "Compare=Co&mpare...\n"
+                                                 "Volumes=&Volumes...\n"
                                                  "Import=&Import...\n"
                                                  "ExportHits=&Export Hits...\n"
                                                  "OptionsMenu=&Options\n"

@@ -7,6 +7,7 @@
 #include "catalogue/compare_window.h"
 #include "catalogue/copies_window.h"
 #include "catalogue/import/import_window.h"
+#include "catalogue/volumes/volumes_window.h"
 #include "editors/dialog_driving.h"
 #include "editors/list_options.h"
 #include "editors/local_loc.h"
@@ -225,6 +226,19 @@ TEST_P(WindowsFit, CopiesDoWithAndWithoutResults) {
                                           expectFitsAtWork(window, "Find",
                                                            [rows] { return rows->model()->rowCount() > 0; });
                                         }));
+}
+
+TEST_P(WindowsFit, VolumesDoWithAndWithoutResults) {
+  addOfflineSource(QStringLiteral("disk.txt"), listingOf("DISK", 30, "song"));
+  addMissingOnlineSource(QStringLiteral("A drive that is in a drawer"));
+  form();
+  EXPECT_TRUE(duringModal<VolumesWindow>([this] { form().menus().Volumes->trigger(); },
+                                         [](VolumesWindow& window) {
+                                           auto* rows = window.findChild<QTreeView*>(QStringLiteral("Rows"));
+                                           EXPECT_EVENTUALLY(rows->model()->rowCount() > 0);
+                                           expectFitsAtWork(window, "Show",
+                                                            [rows] { return rows->model()->rowCount() > 0; });
+                                         }));
 }
 
 TEST_P(WindowsFit, CompareDoesWithAndWithoutResults) {

@@ -82,7 +82,7 @@ std::optional<std::int64_t> VolumeFinder::freeBytesOfDrive(const QString& folder
 }
 
 bool VolumeFinder::find(const std::vector<QString>& listings) {
-  VolumeSums sums;
+  VolumeSums sums(parts_.listingStarts);
   read(sums, listings);
   if (parts_.endRequested()) return false;
   addFacts(sums);

@@ -64,6 +64,9 @@ class VolumeFinder {
     RunDisplay* display = nullptr;
     std::function<bool()> endRequested = [] { return false; };
     std::function<ListingReader(const QString& path)> streamAt = {};
+    /// Told of each listing before it is read.
+    std::function<void(SourceKind kind, const QString& path)> listingStarts = [](SourceKind, const QString&) {
+    };
     /// Gives the bytes that are free on the drive of a folder; nothing where the folder is not there.
     std::function<std::optional<std::int64_t>(const QString& folder)> freeBytesAt = freeBytesOfDrive;
   };

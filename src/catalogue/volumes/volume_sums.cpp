@@ -87,6 +87,7 @@ void VolumeSum::add(const VolumeSum& other) {
 }
 
 void VolumeSums::startListing(SourceKind kind, const QString& path) {
+  listingStarts_(kind, path);
   listings_.push_back({kind, path});
   numbers_.clear();
 }

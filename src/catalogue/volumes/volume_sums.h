@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -59,6 +60,11 @@ class VolumeSums : public HitSink {
     VolumeSum sum;
   };
 
+  using ListingStarts = std::function<void(SourceKind kind, const QString& path)>;
+  /// `listingStarts` is told of each listing when it starts.
+  explicit VolumeSums(ListingStarts listingStarts = [](SourceKind, const QString&) {})
+      : listingStarts_(std::move(listingStarts)) {}
+
   void startListing(SourceKind kind, const QString& path) override;
   bool addHits(const std::shared_ptr<const Segment>& segment, std::span<const FoundEntry> hits) override;
   void endSegment(const std::shared_ptr<const Segment>& segment,
@@ -71,6 +77,7 @@ class VolumeSums : public HitSink {
  private:
   std::uint32_t numberOf(const std::string& name);
 
+  ListingStarts listingStarts_;
   std::vector<Listing> listings_;
   std::vector<Volume> volumes_;
   /// The numbers of the volumes of the listing that is being read.
