@@ -2727,10 +2727,6 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <translation>NAME ist die Beschreibung eines Ordners. Ein Ordner, der nicht da ist, etwa auf einem abgezogenen Laufwerk, behält seine Liste. Auch was eine Liste vorher enthielt, wird aufbewahrt; siehe history.</translation>
     </message>
     <message>
-        <source>Show what is searched, or change it</source>
-        <translation>Zeigen oder ändern, was durchsucht wird</translation>
-    </message>
-    <message>
         <source>Show folders and offline lists</source>
         <translation>Ordner und Offline-Listen zeigen</translation>
     </message>
@@ -4389,20 +4385,8 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         </translation>
     </message>
     <message>
-        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find, copies, plan und volumes: es gab Treffer. compare: es gibt keinen Unterschied. Sonst: alles wurde getan.</translation>
-    </message>
-    <message>
-        <source>find, copies, plan and volumes: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find, copies, plan und volumes: es gab keine. compare: es gibt Unterschiede. history: es gibt keine frühere Version.</translation>
-    </message>
-    <message>
         <source>Listings of own folders, the lists of sources, the listing history and notes on volumes, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
         <translation>Listen der eigenen Ordner, die Quellenlisten, der Listenverlauf und Notizen zu Datenträgern, wenn im Fenster unter Datei, Optionen kein anderer Ordner gewählt ist. Wurde das Programm einfach irgendwohin kopiert, liegen sie neben ihm. quorvin-cli sources nennt den Ordner.</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache</source>
-        <translation>die Befehle sind find, copies, compare, plan, volumes, index, import, refresh, sources, history und cache</translation>
     </message>
     <message>
         <source>volumes cannot be sorted by &quot;%1&quot;, only by volume, files, size, newest, listed, free or note</source>
@@ -4515,6 +4499,133 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
     <message>
         <source>The note was not kept: %1</source>
         <translation>Die Notiz wurde nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>the name of %1 is no text</source>
+        <translation>der Name von %1 ist kein Text</translation>
+    </message>
+    <message>
+        <source>there are no checksums of %1; quorvin-cli index --checksums makes them</source>
+        <translation>zu %1 gibt es keine Prüfsummen; quorvin-cli index --checksums nimmt sie auf</translation>
+    </message>
+    <message>
+        <source>%1 does not tell which folder it is of; please name the folder</source>
+        <translation>%1 verrät nicht, von welchem Ordner es ist; bitte nennen Sie den Ordner</translation>
+    </message>
+    <message>
+        <source>Put the SHA-256 of each file beside it; see verify</source>
+        <translation>Die SHA-256 jeder Datei daneben ablegen; siehe verify</translation>
+    </message>
+    <message>
+        <source>The checksums are in a file beside the listing, with .sha256 behind its name; sha256sum -c reads it in the folder. When it is made again, a file that has the size and date that the listing told until then keeps its checksum and is not read.</source>
+        <translation>Die Prüfsummen stehen in einer Datei neben der Liste, mit .sha256 hinter ihrem Namen; sha256sum -c liest sie in dem Ordner. Wird sie neu gemacht, behält eine Datei, die Größe und Datum der bisherigen Liste hat, ihre Prüfsumme und wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. verify: all files are as they were. Others: all was done.</source>
+        <translation>find, copies, plan und volumes: Es gab Treffer. compare: Nichts weicht ab. verify: Alle Dateien sind, wie sie waren. Andere: Alles wurde getan.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were none. compare: something differs. verify: some files are not as they were. history: there is no earlier version.</source>
+        <translation>find, copies, plan und volumes: Es gab keine. compare: Etwas weicht ab. verify: Einige Dateien sind nicht, wie sie waren. history: Es gibt keine frühere Fassung.</translation>
+    </message>
+    <message>
+        <source>No checksum: %1</source>
+        <translation>Keine Prüfsumme: %1</translation>
+    </message>
+    <message>
+        <source>checksums: %1 of %2 files, %3 of %4</source>
+        <translation>Prüfsummen: %1 von %2 Dateien, %3 von %4</translation>
+    </message>
+    <message>
+        <source>verify needs a listing, or the description of an own folder</source>
+        <translation>verify braucht eine Liste oder die Beschreibung eines eigenen Ordners</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history and cache</source>
+        <translation>die Befehle sind find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history und cache</translation>
+    </message>
+    <message>
+        <source>--checksums goes with --output: the checksums are put beside the listing</source>
+        <translation>--checksums gehört zu --output: Die Prüfsummen werden neben der Liste abgelegt</translation>
+    </message>
+    <message>
+        <source>--folders-only lists no files that --checksums could be of</source>
+        <translation>--folders-only listet keine Dateien auf, von denen --checksums sein könnte</translation>
+    </message>
+    <message>
+        <source>verify does not know what to do with &quot;%1&quot;</source>
+        <translation>verify weiß mit „%1“ nichts anzufangen</translation>
+    </message>
+    <message>
+        <source>less than a minute left</source>
+        <translation>weniger als eine Minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 minutes left</source>
+        <translation>
+            <numerusform>noch %1 Minute</numerusform>
+            <numerusform>noch %1 Minuten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped. The next verification of these checksums goes on here.</source>
+        <translation>Angehalten. Die nächste Prüfung dieser Prüfsummen macht hier weiter.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files, %3 of %4</source>
+        <translation>%1 von %2 Dateien, %3 von %4</translation>
+    </message>
+    <message>
+        <source>Of these, %1 files were read before it was stopped. --restart reads them again.</source>
+        <translation>Davon wurden %1 Dateien gelesen, bevor angehalten wurde. --restart liest sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Lines of the checksums that were not understood: %1</source>
+        <translation>Zeilen der Prüfsummen, die nicht verstanden wurden: %1</translation>
+    </message>
+    <message>
+        <source>As they were: %1. Rotten: %2. Lost: %3. Changed: %4. Added: %5. Not read: %6</source>
+        <translation>Wie sie waren: %1. Verdorben: %2. Verloren: %3. Geändert: %4. Neu: %5. Nicht gelesen: %6</translation>
+    </message>
+    <message>
+        <source>Say which files do not hold any more what they held</source>
+        <translation>Sagen, welche Dateien nicht mehr dasselbe enthalten</translation>
+    </message>
+    <message>
+        <source>Begin again, also after one that was stopped</source>
+        <translation>Von vorn beginnen, auch nach einer angehaltenen</translation>
+    </message>
+    <message>
+        <source>Write an object for each of them, as JSON</source>
+        <translation>Für jede ein Objekt schreiben, als JSON</translation>
+    </message>
+    <message>
+        <source>Take the checksums</source>
+        <translation>Die Prüfsummen aufnehmen</translation>
+    </message>
+    <message>
+        <source>Read the disk again, years later</source>
+        <translation>Den Datenträger wieder lesen, Jahre später</translation>
+    </message>
+    <message>
+        <source>Where it is mounted elsewhere</source>
+        <translation>Wenn er woanders eingehängt ist</translation>
+    </message>
+    <message>
+        <source>Holds the files of a folder against the checksums beside its LISTING, which index --checksums has made. An own folder may be called by its description. Lines start with ! for a file that has the size and date of the listing and holds something else, so that its medium has lost it; - for one that is gone; * for one that has another size or date; + for one that has no checksum; and ? for one that cannot be read, with the reason behind it.</source>
+        <translation>Hält die Dateien eines Ordners gegen die Prüfsummen neben seiner LISTING, die index --checksums aufgenommen hat. Ein eigener Ordner darf mit seiner Beschreibung genannt werden. Zeilen beginnen mit ! bei einer Datei, die Größe und Datum der Liste hat und etwas anderes enthält, sodass der Datenträger sie verloren hat; mit - bei einer, die weg ist; mit * bei einer mit anderer Größe oder anderem Datum; mit + bei einer ohne Prüfsumme; und mit ? bei einer, die nicht gelesen werden kann, mit dem Grund dahinter.</translation>
+    </message>
+    <message>
+        <source>A file with another size or date was changed on purpose, and is not read. Where the listing does not tell these, one that holds something else counts as changed.</source>
+        <translation>Eine Datei mit anderer Größe oder anderem Datum wurde absichtlich geändert und wird nicht gelesen. Wo die Liste diese nicht nennt, gilt eine, die etwas anderes enthält, als geändert.</translation>
+    </message>
+    <message>
+        <source>One that is stopped, by Ctrl-C or by a crash, goes on where it was when it is started again. The exit status is 0 if all files are as they were, 1 if some are not, and 2 if something could not be read.</source>
+        <translation>Eine angehaltene Prüfung, durch Strg-C oder einen Absturz, macht beim nächsten Start dort weiter, wo sie war. Der Rückgabewert ist 0, wenn alle Dateien sind, wie sie waren, 1, wenn einige es nicht sind, und 2, wenn etwas nicht gelesen werden konnte.</translation>
+    </message>
+    <message>
+        <source>Show what is searched, or change it: add, remove, move</source>
+        <translation>Quellen zeigen oder ändern: add, remove, move</translation>
     </message>
 </context>
 <context>

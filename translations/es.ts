@@ -1070,10 +1070,6 @@ Forget the request, and rescan everything?</source>
         <translation>NAME es la descripción de una carpeta. Una carpeta que no está, por ejemplo en una unidad desconectada, conserva su lista. También se conserva lo que una lista contenía antes; véase history.</translation>
     </message>
     <message>
-        <source>Show what is searched, or change it</source>
-        <translation>Mostrar o cambiar dónde se busca</translation>
-    </message>
-    <message>
         <source>Show folders and offline lists</source>
         <translation>Mostrar las carpetas y las listas sin conexión</translation>
     </message>
@@ -4389,20 +4385,8 @@ No se puede guardar la lista de fuentes en línea.</translation>
         </translation>
     </message>
     <message>
-        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find, copies, plan y volumes: hubo resultados. compare: nada difiere. Otros: todo se hizo.</translation>
-    </message>
-    <message>
-        <source>find, copies, plan and volumes: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find, copies, plan y volumes: no hubo ninguno. compare: algo difiere. history: no hay ninguna versión anterior.</translation>
-    </message>
-    <message>
         <source>Listings of own folders, the lists of sources, the listing history and notes on volumes, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
         <translation>Las listas de las carpetas propias, las listas de fuentes, el historial de listas y las notas sobre volúmenes, salvo que en la ventana se elija otra carpeta en Archivo, Opciones, o que el programa se haya copiado tal cual en algún sitio: entonces están junto a él. quorvin-cli sources nombra la carpeta.</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache</source>
-        <translation>los comandos son find, copies, compare, plan, volumes, index, import, refresh, sources, history y cache</translation>
     </message>
     <message>
         <source>volumes cannot be sorted by &quot;%1&quot;, only by volume, files, size, newest, listed, free or note</source>
@@ -4515,6 +4499,133 @@ No se puede guardar la lista de fuentes en línea.</translation>
     <message>
         <source>The note was not kept: %1</source>
         <translation>La nota no se guardó: %1</translation>
+    </message>
+    <message>
+        <source>the name of %1 is no text</source>
+        <translation>el nombre de %1 no es texto</translation>
+    </message>
+    <message>
+        <source>there are no checksums of %1; quorvin-cli index --checksums makes them</source>
+        <translation>no hay sumas de comprobación de %1; quorvin-cli index --checksums las toma</translation>
+    </message>
+    <message>
+        <source>%1 does not tell which folder it is of; please name the folder</source>
+        <translation>%1 no dice de qué carpeta es; indique la carpeta</translation>
+    </message>
+    <message>
+        <source>Put the SHA-256 of each file beside it; see verify</source>
+        <translation>Poner al lado el SHA-256 de cada archivo; vea verify</translation>
+    </message>
+    <message>
+        <source>The checksums are in a file beside the listing, with .sha256 behind its name; sha256sum -c reads it in the folder. When it is made again, a file that has the size and date that the listing told until then keeps its checksum and is not read.</source>
+        <translation>Las sumas de comprobación están en un archivo junto a la lista, con .sha256 tras su nombre; sha256sum -c lo lee en la carpeta. Cuando se hace de nuevo, un archivo que tiene el tamaño y la fecha que decía la lista hasta entonces conserva su suma y no se lee.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. verify: all files are as they were. Others: all was done.</source>
+        <translation>find, copies, plan y volumes: hubo resultados. compare: nada difiere. verify: todos los archivos están como estaban. Otros: se hizo todo.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were none. compare: something differs. verify: some files are not as they were. history: there is no earlier version.</source>
+        <translation>find, copies, plan y volumes: no hubo ninguno. compare: algo difiere. verify: algunos archivos no están como estaban. history: no hay versión anterior.</translation>
+    </message>
+    <message>
+        <source>No checksum: %1</source>
+        <translation>Sin suma de comprobación: %1</translation>
+    </message>
+    <message>
+        <source>checksums: %1 of %2 files, %3 of %4</source>
+        <translation>sumas: %1 de %2 archivos, %3 de %4</translation>
+    </message>
+    <message>
+        <source>verify needs a listing, or the description of an own folder</source>
+        <translation>verify necesita una lista, o la descripción de una carpeta propia</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history and cache</source>
+        <translation>las órdenes son find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history y cache</translation>
+    </message>
+    <message>
+        <source>--checksums goes with --output: the checksums are put beside the listing</source>
+        <translation>--checksums va con --output: las sumas se ponen junto a la lista</translation>
+    </message>
+    <message>
+        <source>--folders-only lists no files that --checksums could be of</source>
+        <translation>--folders-only no lista archivos de los que --checksums pudiera ser</translation>
+    </message>
+    <message>
+        <source>verify does not know what to do with &quot;%1&quot;</source>
+        <translation>verify no sabe qué hacer con «%1»</translation>
+    </message>
+    <message>
+        <source>less than a minute left</source>
+        <translation>menos de un minuto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 minutes left</source>
+        <translation>
+            <numerusform>falta %1 minuto</numerusform>
+            <numerusform>faltan %1 minutos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped. The next verification of these checksums goes on here.</source>
+        <translation>Detenido. La próxima comprobación de estas sumas sigue aquí.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files, %3 of %4</source>
+        <translation>%1 de %2 archivos, %3 de %4</translation>
+    </message>
+    <message>
+        <source>Of these, %1 files were read before it was stopped. --restart reads them again.</source>
+        <translation>De ellos, %1 archivos se leyeron antes de detenerse. --restart los lee de nuevo.</translation>
+    </message>
+    <message>
+        <source>Lines of the checksums that were not understood: %1</source>
+        <translation>Líneas de las sumas que no se entendieron: %1</translation>
+    </message>
+    <message>
+        <source>As they were: %1. Rotten: %2. Lost: %3. Changed: %4. Added: %5. Not read: %6</source>
+        <translation>Como estaban: %1. Estropeados: %2. Perdidos: %3. Cambiados: %4. Añadidos: %5. No leídos: %6</translation>
+    </message>
+    <message>
+        <source>Say which files do not hold any more what they held</source>
+        <translation>Decir qué archivos ya no contienen lo que contenían</translation>
+    </message>
+    <message>
+        <source>Begin again, also after one that was stopped</source>
+        <translation>Empezar de nuevo, también tras una que se detuvo</translation>
+    </message>
+    <message>
+        <source>Write an object for each of them, as JSON</source>
+        <translation>Escribir un objeto para cada uno, como JSON</translation>
+    </message>
+    <message>
+        <source>Take the checksums</source>
+        <translation>Tomar las sumas</translation>
+    </message>
+    <message>
+        <source>Read the disk again, years later</source>
+        <translation>Leer el disco de nuevo, años después</translation>
+    </message>
+    <message>
+        <source>Where it is mounted elsewhere</source>
+        <translation>Si está montado en otro lugar</translation>
+    </message>
+    <message>
+        <source>Holds the files of a folder against the checksums beside its LISTING, which index --checksums has made. An own folder may be called by its description. Lines start with ! for a file that has the size and date of the listing and holds something else, so that its medium has lost it; - for one that is gone; * for one that has another size or date; + for one that has no checksum; and ? for one that cannot be read, with the reason behind it.</source>
+        <translation>Compara los archivos de una carpeta con las sumas junto a su LISTING, que tomó index --checksums. Una carpeta propia puede llamarse por su descripción. Las líneas empiezan por ! para un archivo que tiene el tamaño y la fecha de la lista y contiene otra cosa, de modo que su soporte lo ha perdido; - para uno que ya no está; * para uno de otro tamaño o fecha; + para uno sin suma; y ? para uno que no se puede leer, con el motivo detrás.</translation>
+    </message>
+    <message>
+        <source>A file with another size or date was changed on purpose, and is not read. Where the listing does not tell these, one that holds something else counts as changed.</source>
+        <translation>Un archivo de otro tamaño o fecha se cambió a propósito, y no se lee. Donde la lista no los dice, uno que contiene otra cosa cuenta como cambiado.</translation>
+    </message>
+    <message>
+        <source>One that is stopped, by Ctrl-C or by a crash, goes on where it was when it is started again. The exit status is 0 if all files are as they were, 1 if some are not, and 2 if something could not be read.</source>
+        <translation>Una comprobación detenida, con Ctrl-C o por una caída, sigue donde estaba cuando se inicia de nuevo. El código de salida es 0 si todos los archivos están como estaban, 1 si algunos no, y 2 si algo no se pudo leer.</translation>
+    </message>
+    <message>
+        <source>Show what is searched, or change it: add, remove, move</source>
+        <translation>Mostrar qué se busca, o cambiarlo: add, remove, move</translation>
     </message>
 </context>
 <context>

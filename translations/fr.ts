@@ -1070,10 +1070,6 @@ Oublier la demande et tout relire&#xa0;?</translation>
         <translation>NAME est la description d’un dossier. Un dossier absent, par exemple sur un lecteur débranché, garde sa liste. Ce qu’une liste contenait auparavant est gardé aussi&#xa0;; voir history.</translation>
     </message>
     <message>
-        <source>Show what is searched, or change it</source>
-        <translation>Montrer où l’on cherche, ou le changer</translation>
-    </message>
-    <message>
         <source>Show folders and offline lists</source>
         <translation>Montrer les dossiers et les listes hors ligne</translation>
     </message>
@@ -4389,20 +4385,8 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         </translation>
     </message>
     <message>
-        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. Others: all was done.</source>
-        <translation>find, copies, plan et volumes&#xa0;: il y a eu des résultats. compare&#xa0;: rien ne diffère. Autres&#xa0;: tout a été fait.</translation>
-    </message>
-    <message>
-        <source>find, copies, plan and volumes: there were none. compare: something differs. history: there is no earlier version.</source>
-        <translation>find, copies, plan et volumes&#xa0;: il n’y en a pas eu. compare&#xa0;: quelque chose diffère. history&#xa0;: il n’y a pas de version antérieure.</translation>
-    </message>
-    <message>
         <source>Listings of own folders, the lists of sources, the listing history and notes on volumes, unless another folder is chosen in the window under File, Options, or the program was copied somewhere as it is: then they are beside it. quorvin-cli sources names the folder.</source>
         <translation>Les listes de vos dossiers, les listes de sources, l’historique des listes et les notes sur les volumes, à moins qu’un autre dossier ne soit choisi dans la fenêtre sous Fichier, Options, ou que le programme n’ait été simplement copié quelque part&#xa0;: ils sont alors à côté de lui. quorvin-cli sources nomme le dossier.</translation>
-    </message>
-    <message>
-        <source>the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache</source>
-        <translation>les commandes sont find, copies, compare, plan, volumes, index, import, refresh, sources, history et cache</translation>
     </message>
     <message>
         <source>volumes cannot be sorted by &quot;%1&quot;, only by volume, files, size, newest, listed, free or note</source>
@@ -4515,6 +4499,133 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     <message>
         <source>The note was not kept: %1</source>
         <translation>La note n’a pas été enregistrée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the name of %1 is no text</source>
+        <translation>le nom de %1 n’est pas du texte</translation>
+    </message>
+    <message>
+        <source>there are no checksums of %1; quorvin-cli index --checksums makes them</source>
+        <translation>il n’y a pas de sommes de contrôle de %1&#xa0;; quorvin-cli index --checksums les prend</translation>
+    </message>
+    <message>
+        <source>%1 does not tell which folder it is of; please name the folder</source>
+        <translation>%1 ne dit pas de quel dossier elle est&#xa0;; nommez le dossier</translation>
+    </message>
+    <message>
+        <source>Put the SHA-256 of each file beside it; see verify</source>
+        <translation>Mettre le SHA-256 de chaque fichier à côté&#xa0;; voir verify</translation>
+    </message>
+    <message>
+        <source>The checksums are in a file beside the listing, with .sha256 behind its name; sha256sum -c reads it in the folder. When it is made again, a file that has the size and date that the listing told until then keeps its checksum and is not read.</source>
+        <translation>Les sommes de contrôle sont dans un fichier à côté de la liste, avec .sha256 derrière son nom&#xa0;; sha256sum -c le lit dans le dossier. Quand on le refait, un fichier qui a la taille et la date que la liste disait jusque-là garde sa somme et n’est pas lu.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were hits. compare: nothing differs. verify: all files are as they were. Others: all was done.</source>
+        <translation>find, copies, plan et volumes&#xa0;: il y a eu des résultats. compare&#xa0;: rien ne diffère. verify&#xa0;: tous les fichiers sont comme ils étaient. Autres&#xa0;: tout a été fait.</translation>
+    </message>
+    <message>
+        <source>find, copies, plan and volumes: there were none. compare: something differs. verify: some files are not as they were. history: there is no earlier version.</source>
+        <translation>find, copies, plan et volumes&#xa0;: il n’y en a pas eu. compare&#xa0;: quelque chose diffère. verify&#xa0;: certains fichiers ne sont pas comme ils étaient. history&#xa0;: il n’y a pas de version antérieure.</translation>
+    </message>
+    <message>
+        <source>No checksum: %1</source>
+        <translation>Pas de somme de contrôle&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>checksums: %1 of %2 files, %3 of %4</source>
+        <translation>sommes de contrôle&#xa0;: %1 fichiers sur %2, %3 sur %4</translation>
+    </message>
+    <message>
+        <source>verify needs a listing, or the description of an own folder</source>
+        <translation>verify demande une liste, ou la description d’un dossier à vous</translation>
+    </message>
+    <message>
+        <source>the commands are find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history and cache</source>
+        <translation>les commandes sont find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history et cache</translation>
+    </message>
+    <message>
+        <source>--checksums goes with --output: the checksums are put beside the listing</source>
+        <translation>--checksums va avec --output&#xa0;: les sommes de contrôle sont mises à côté de la liste</translation>
+    </message>
+    <message>
+        <source>--folders-only lists no files that --checksums could be of</source>
+        <translation>--folders-only ne liste aucun fichier dont --checksums pourrait être</translation>
+    </message>
+    <message>
+        <source>verify does not know what to do with &quot;%1&quot;</source>
+        <translation>verify ne sait que faire de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>less than a minute left</source>
+        <translation>moins d’une minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 minutes left</source>
+        <translation>
+            <numerusform>encore %1 minute</numerusform>
+            <numerusform>encore %1 minutes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped. The next verification of these checksums goes on here.</source>
+        <translation>Arrêté. La prochaine vérification de ces sommes continue ici.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files, %3 of %4</source>
+        <translation>%1 fichiers sur %2, %3 sur %4</translation>
+    </message>
+    <message>
+        <source>Of these, %1 files were read before it was stopped. --restart reads them again.</source>
+        <translation>Parmi eux, %1 fichiers ont été lus avant l’arrêt. --restart les relit.</translation>
+    </message>
+    <message>
+        <source>Lines of the checksums that were not understood: %1</source>
+        <translation>Lignes des sommes de contrôle qui n’ont pas été comprises&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>As they were: %1. Rotten: %2. Lost: %3. Changed: %4. Added: %5. Not read: %6</source>
+        <translation>Comme ils étaient&#xa0;: %1. Abîmés&#xa0;: %2. Perdus&#xa0;: %3. Changés&#xa0;: %4. Ajoutés&#xa0;: %5. Non lus&#xa0;: %6</translation>
+    </message>
+    <message>
+        <source>Say which files do not hold any more what they held</source>
+        <translation>Dire quels fichiers ne contiennent plus la même chose</translation>
+    </message>
+    <message>
+        <source>Begin again, also after one that was stopped</source>
+        <translation>Recommencer, même après une qui a été arrêtée</translation>
+    </message>
+    <message>
+        <source>Write an object for each of them, as JSON</source>
+        <translation>Écrire un objet pour chacun, en JSON</translation>
+    </message>
+    <message>
+        <source>Take the checksums</source>
+        <translation>Prendre les sommes de contrôle</translation>
+    </message>
+    <message>
+        <source>Read the disk again, years later</source>
+        <translation>Relire le disque, des années plus tard</translation>
+    </message>
+    <message>
+        <source>Where it is mounted elsewhere</source>
+        <translation>S’il est monté ailleurs</translation>
+    </message>
+    <message>
+        <source>Holds the files of a folder against the checksums beside its LISTING, which index --checksums has made. An own folder may be called by its description. Lines start with ! for a file that has the size and date of the listing and holds something else, so that its medium has lost it; - for one that is gone; * for one that has another size or date; + for one that has no checksum; and ? for one that cannot be read, with the reason behind it.</source>
+        <translation>Compare les fichiers d’un dossier aux sommes de contrôle à côté de sa LISTING, qu’index --checksums a prises. Un dossier à vous peut être appelé par sa description. Les lignes commencent par ! pour un fichier qui a la taille et la date de la liste et contient autre chose, si bien que son support l’a perdu&#xa0;; - pour un fichier disparu&#xa0;; * pour un fichier d’une autre taille ou date&#xa0;; + pour un fichier sans somme&#xa0;; et ? pour un fichier qui ne peut pas être lu, avec la raison derrière.</translation>
+    </message>
+    <message>
+        <source>A file with another size or date was changed on purpose, and is not read. Where the listing does not tell these, one that holds something else counts as changed.</source>
+        <translation>Un fichier d’une autre taille ou date a été changé exprès, et n’est pas lu. Là où la liste ne les dit pas, un fichier qui contient autre chose compte comme changé.</translation>
+    </message>
+    <message>
+        <source>One that is stopped, by Ctrl-C or by a crash, goes on where it was when it is started again. The exit status is 0 if all files are as they were, 1 if some are not, and 2 if something could not be read.</source>
+        <translation>Une vérification arrêtée, par Ctrl-C ou par une panne, continue où elle était quand on la relance. Le code de retour est 0 si tous les fichiers sont comme ils étaient, 1 si certains ne le sont pas, et 2 si quelque chose n’a pas pu être lu.</translation>
+    </message>
+    <message>
+        <source>Show what is searched, or change it: add, remove, move</source>
+        <translation>Sources de recherche&#xa0;: montrer, add, remove, move</translation>
     </message>
 </context>
 <context>

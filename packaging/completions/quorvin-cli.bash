@@ -32,6 +32,7 @@ _quorvin_cli() {
       " plan") command="plan" ;;
       " volumes") command="volumes" ;;
       " index") command="index" ;;
+      " verify") command="verify" ;;
       " import") command="import" ;;
       " refresh") command="refresh" ;;
       " sources") command="sources" ;;
@@ -47,7 +48,7 @@ _quorvin_cli() {
       case "$prev" in
         --completion) _quorvin_words "bash zsh fish"; return ;;
       esac
-      _quorvin_words "find copies compare plan volumes index import refresh sources history cache --version --completion --man --help"
+      _quorvin_words "find copies compare plan volumes index verify import refresh sources history cache --version --completion --man --help"
       ;;
     "find")
       case "$prev" in
@@ -119,10 +120,17 @@ _quorvin_cli() {
         --output) _quorvin_files -f; return ;;
       esac
       if [[ $cur == -* ]]; then
-        _quorvin_words "--label --folders-only --output -q --quiet --help"
+        _quorvin_words "--label --folders-only --output --checksums -q --quiet --help"
         return
       fi
       _quorvin_files -d
+      ;;
+    "verify")
+      if [[ $cur == -* ]]; then
+        _quorvin_words "--restart --json -q --quiet --help"
+        return
+      fi
+      _quorvin_files -f
       ;;
     "import")
       case "$prev" in

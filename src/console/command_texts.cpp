@@ -81,15 +81,21 @@ CommandText indexText() {
        {"--folders-only", "", QT_TRANSLATE_NOOP("Texts", "List folders only")},
        {"--output", "FILE",
         QT_TRANSLATE_NOOP("Texts", "The listing's file; default, and -: standard output")},
+       {"--checksums", "", QT_TRANSLATE_NOOP("Texts", "Put the SHA-256 of each file beside it; see verify")},
        kQuiet},
       {{"quorvin-cli index --output music.txt ~/Music", QT_TRANSLATE_NOOP("Texts", "Catalogue a folder")},
        {"quorvin-cli index --label \"CD 7\" /media/cdrom | gzip > cd7.gz",
         QT_TRANSLATE_NOOP("Texts", "Name it, and pack it")}},
       {QT_TRANSLATE_NOOP(
-          "Texts",
-          "Catalogues a folder with everything below it. A file is put in place when it is whole; until "
-          "then, and when anything goes wrong, the one that was there before stays. Names that could not be "
-          "read are reported on standard error.")}};
+           "Texts",
+           "Catalogues a folder with everything below it. A file is put in place when it is whole; until "
+           "then, and when anything goes wrong, the one that was there before stays. Names that could not be "
+           "read are reported on standard error."),
+       QT_TRANSLATE_NOOP(
+           "Texts",
+           "The checksums are in a file beside the listing, with .sha256 behind its name; sha256sum -c reads "
+           "it in the folder. When it is made again, a file that has the size and date that the listing told "
+           "until then keeps its checksum and is not read.")}};
 }
 
 CommandText refreshText() {
@@ -112,7 +118,7 @@ CommandText sourcesText() {
       "sources",
       "",
       ArgumentKind::None,
-      QT_TRANSLATE_NOOP("Texts", "Show what is searched, or change it"),
+      QT_TRANSLATE_NOOP("Texts", "Show what is searched, or change it: add, remove, move"),
       {kQuiet, kJson},
       {{"quorvin-cli sources", QT_TRANSLATE_NOOP("Texts", "Show folders and offline lists")},
        {"quorvin-cli sources add ~/Music cd7.txt",
@@ -212,9 +218,9 @@ CommandText cacheText() {
 
 const std::vector<CommandText>& commandTexts() {
   static const std::vector<CommandText> texts{
-      findText(),          copiesText(),      compareText(), planText(),    volumesText(),
-      indexText(),         importText(),      refreshText(), sourcesText(), sourcesAddText(),
-      sourcesRemoveText(), sourcesMoveText(), historyText(), cacheText()};
+      findText(),       copiesText(),        compareText(),     planText(),    volumesText(),
+      indexText(),      verifyText(),        importText(),      refreshText(), sourcesText(),
+      sourcesAddText(), sourcesRemoveText(), sourcesMoveText(), historyText(), cacheText()};
   return texts;
 }
 
@@ -263,12 +269,14 @@ const std::vector<SectionText>& manualSections() {
                                         "and those shown are of an earlier line. Where there are none at "
                                         "all, both keys are left out.")}}},
       {QT_TRANSLATE_NOOP("Texts", "EXIT STATUS"),
-       {{"0", QT_TRANSLATE_NOOP("Texts",
-                                "find, copies, plan and volumes: there were hits. compare: nothing differs. "
-                                "Others: all was done.")},
+       {{"0", QT_TRANSLATE_NOOP(
+                  "Texts",
+                  "find, copies, plan and volumes: there were hits. compare: nothing differs. verify: all "
+                  "files are as they were. "
+                  "Others: all was done.")},
         {"1", QT_TRANSLATE_NOOP("Texts",
                                 "find, copies, plan and volumes: there were none. compare: something "
-                                "differs. history: there is no "
+                                "differs. verify: some files are not as they were. history: there is no "
                                 "earlier version.")},
         {"2", QT_TRANSLATE_NOOP("Texts",
                                 "Something went wrong, or the command line was not understood; a sentence on "

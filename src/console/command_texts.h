@@ -53,6 +53,8 @@ CommandText compareText();
 CommandText copiesText();
 /// "plan", which says much.
 CommandText planText();
+/// "verify", which says much.
+CommandText verifyText();
 /// "volumes", which says much.
 CommandText volumesText();
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // The commands of the console companion: "find", "copies", "compare", "plan", "volumes", "cache", "index",
-// "import", "refresh", "sources" and "history". Each gives the exit status of the program.
+// "verify", "import", "refresh", "sources" and "history". Each gives the exit status of the program.
 #pragma once
 
 #include "catalogue/copy_finder.h"
@@ -161,6 +161,8 @@ struct IndexRequest {
   /// Where the listing goes; empty or "-" for standard output.
   QString output;
   bool foldersOnly = false;
+  /// The checksums of all files are written beside the listing, which is a file then.
+  bool hasChecksums = false;
   /// No progress is shown.
   bool isQuiet = false;
 };
@@ -168,9 +170,27 @@ struct IndexRequest {
 /// Writes the listing. A file is written aside and put in place when it is whole; until then, and when
 /// anything goes wrong, the one that was there before stays. Single names that could not be read are reported
 /// on standard error and change nothing in the exit status: 0 when the listing is there, 2 when the folder
-/// cannot be read, the listing cannot be written, or names were left out of it since their folder holds too
-/// many, stopStatus() after a signal.
+/// cannot be read, the listing cannot be written, names were left out of it since their folder holds too
+/// many, or files could not be read for their checksums, stopStatus() after a signal.
 int runIndex(const IndexRequest& request);
+
+/// What the command line asked of "verify".
+struct VerifyRequest {
+  /// The listing, or the description of an own folder.
+  QString listing;
+  /// Where what was listed is now; empty for where it was.
+  QString folder;
+  /// What was noted of a verification that was stopped does not count.
+  bool beginsAgain = false;
+  bool isJson = false;
+  /// Neither progress nor the last line is written.
+  bool isQuiet = false;
+};
+
+/// Reads the files of a folder again and writes those that are not as they were to standard output, and the
+/// sum of it to standard error. The exit status: 0 where all are as they were, 1 where some are not, 2 when
+/// anything could not be done or read, stopStatus() when a signal ended it.
+int runVerify(const VerifyRequest& request);
 
 struct IndexOutcome {
   /// As runIndex() gives it.

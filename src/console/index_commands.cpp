@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // "index" and "refresh": the commands that write listings.
+#include "catalogue/checksums/checksum_writing.h"
+#include "catalogue/sum_texts.h"
 #include "console/commands.h"
 #include "console/error_lines.h"
 #include "console/json_text.h"
@@ -109,11 +111,15 @@ class Indexing {
   /// Takes the line of progress away and prints what there is to report of single names.
   void reportErrors() {
     job_->display().end();
+    checksumLine_.clear();
     printErrorLog(state_.errorLog);
+    for (const QString& fault : checksumFaults_) {
+      printErrorLog(Texts::tr("No checksum: %1").arg(fault) + QStringLiteral("\r\n"));
+    }
   }
-  bool interrupted() const { return job_->isAbortRequested(); }
-  /// Whether the listing has a line for every name.
-  bool isComplete() const { return leftOut_ == 0; }
+  bool interrupted() const { return job_->isAbortRequested() || areChecksumsStopped_; }
+  /// Whether the listing has a line for every name, and every file its checksum.
+  bool isComplete() const { return leftOut_ == 0 && checksumFaults_.isEmpty(); }
 
  private:
   bool isStandardOutput() const {
@@ -133,7 +139,30 @@ class Indexing {
     removeLeftovers(place.absolutePath());
     FileAside file(request_.output, {.followsLink = true});
     writeListing(file.writer());
-    if (!interrupted()) file.commit();
+    if (interrupted() || (request_.hasChecksums && !writeChecksums())) return;
+    file.commit();
+  }
+
+  /// Before the listing is put in place: until then the one that is there tells which files are as they were.
+  /// False after a signal.
+  bool writeChecksums() {
+    FileAside file(manifestOf(request_.output), {.followsLink = true});
+    ChecksumWriting writing({folder_, request_.output, QLocale(), stopSignalled,
+                             [this](const ChecksumWriting::Progress& progress) { showChecksums(progress); }});
+    areChecksumsStopped_ = !writing.write(file.writer());
+    if (areChecksumsStopped_) return false;
+    file.commit();
+    checksumFaults_ = writing.unread();
+    return true;
+  }
+
+  void showChecksums(const ChecksumWriting::Progress& progress) {
+    if (!checksumLine_.isDue()) return;
+    const QLocale locale;
+    checksumLine_.show(Texts::tr("checksums: %1 of %2 files, %3 of %4")
+                           .arg(locale.toString(qlonglong{progress.files}),
+                                locale.toString(qlonglong{progress.filesAll}),
+                                sizeText(progress.bytes, locale), sizeText(progress.bytesAll, locale)));
   }
 
   void writeListing(FileWriter& writer) {
@@ -156,6 +185,9 @@ class Indexing {
   IndexProgress progress_;
   DirIO dirIO_;
   std::int64_t leftOut_ = 0;
+  ProgressLine checksumLine_{!request_.isQuiet};
+  bool areChecksumsStopped_ = false;
+  QStringList checksumFaults_;
 };
 
 }  // namespace

@@ -164,6 +164,7 @@ QString CommandLine::whatIsMissing() const {
   if (name == "compare") return Texts::tr("compare needs a listing or a folder");
   if (name == "plan") return Texts::tr("plan needs the words to find, in one argument, or - for a list");
   if (name == "index") return Texts::tr("index needs the folder to list");
+  if (name == "verify") return Texts::tr("verify needs a listing, or the description of an own folder");
   if (name == "import") return Texts::tr("import needs the lists to import");
   if (name == "sources add") return Texts::tr("sources add needs a folder or a listing");
   return Texts::tr("%1 needs the description or the path of a source").arg(textOf(name));
@@ -181,8 +182,8 @@ std::vector<std::string> remainingOf(const CLI::App& parser) {
 QString CommandLine::leftOver() const {
   const std::vector<std::string> ofProgram = remainingOf(app_);
   const QString commands = Texts::tr(
-      "the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and "
-      "cache");
+      "the commands are find, copies, compare, plan, volumes, index, verify, import, refresh, sources, "
+      "history and cache");
   if (!ofProgram.empty()) {
     const QString first = textOf(ofProgram.front());
     if (first.startsWith(u'-')) return Texts::tr("there is no option \"%1\"").arg(first);
@@ -215,6 +216,7 @@ int CommandLine::runNamed(const CommandText& command) {
   if (name == "plan") return runPlan(planRequestOf(given));
   if (name == "volumes") return runVolumes(volumesRequestOf(given));
   if (name == "index") return runIndexCommand(given);
+  if (name == "verify") return runVerify(verifyRequestOf(given));
   if (name == "import") return runImportCommand(given);
   if (name == "refresh") return runRefresh({given.texts(), given.has("--quiet"), given.has("--json")});
   if (name == "sources") return runSourcesCommand(Action::List, given);
@@ -232,7 +234,15 @@ int CommandLine::runIndexCommand(const Given& given) {
   request.label = given.text("--label").value_or(QString());
   request.output = given.text("--output").value_or(QString());
   request.foldersOnly = given.has("--folders-only");
+  request.hasChecksums = given.has("--checksums");
   request.isQuiet = given.has("--quiet");
+  const bool isFile = !request.output.isEmpty() && request.output != QStringLiteral("-");
+  if (request.hasChecksums && !isFile) {
+    throw Mistake{Texts::tr("--checksums goes with --output: the checksums are put beside the listing")};
+  }
+  if (request.hasChecksums && request.foldersOnly) {
+    throw Mistake{Texts::tr("--folders-only lists no files that --checksums could be of")};
+  }
   return runIndex(request);
 }
 

@@ -217,4 +217,13 @@ VolumesRequest volumesRequestOf(const Given& given) {
   return request;
 }
 
+VerifyRequest verifyRequestOf(const Given& given) {
+  const QStringList arguments = given.texts();
+  if (arguments.size() > 1) {
+    throw Mistake{Texts::tr("verify does not know what to do with \"%1\"").arg(arguments[1])};
+  }
+  return {textOf(given.needed), arguments.value(0), given.has("--restart"), given.has("--json"),
+          given.has("--quiet")};
+}
+
 }  // namespace quorvin

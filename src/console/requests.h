@@ -61,5 +61,6 @@ CopiesRequest copiesRequestOf(const Given& given);
 CompareRequest compareRequestOf(const Given& given);
 PlanRequest planRequestOf(const Given& given);
 VolumesRequest volumesRequestOf(const Given& given);
+VerifyRequest verifyRequestOf(const Given& given);
 
 }  // namespace quorvin

@@ -96,6 +96,12 @@ void addExamples(std::string& page) {
   }
 }
 
+/// The command that an inner one belongs to; empty for others.
+std::string_view outerOf(const CommandText& command) {
+  const std::size_t blank = command.name.find(' ');
+  return blank == std::string_view::npos ? std::string_view() : command.name.substr(0, blank);
+}
+
 }  // namespace
 
 std::string helpOfProgram() {
@@ -108,8 +114,9 @@ std::string helpOfProgram() {
           '\n';
   // Without lines before the titles: with the prompt behind it, the help is to fit on 24 lines.
   text += said(QT_TRANSLATE_NOOP("Texts", "Commands:")) + '\n';
-  for (const CommandText& command : commandTexts())
-    addLine(text, command.name, said(command.summary), kProgramColumn);
+  for (const CommandText& command : commandTexts()) {
+    if (outerOf(command).empty()) addLine(text, command.name, said(command.summary), kProgramColumn);
+  }
   text += said(QT_TRANSLATE_NOOP("Texts", "Options:")) + '\n';
   for (const OptionText& option : programOptions())
     addLine(text, termOf(option), said(option.text), kProgramColumn);
@@ -118,6 +125,9 @@ std::string helpOfProgram() {
 
 std::string helpOf(const CommandText& command) {
   std::string text = usageOf(command) + '\n' + said(command.summary) + ".\n\n";
+  for (const CommandText& inner : commandTexts()) {
+    if (outerOf(inner) == command.name) addLine(text, inner.name, said(inner.summary), kCommandColumn);
+  }
   for (const OptionText& option : command.options)
     addLine(text, termOf(option), said(option.text), kCommandColumn);
   if (!command.examples.empty()) text += '\n' + said(QT_TRANSLATE_NOOP("Texts", "Examples:")) + '\n';

@@ -206,9 +206,9 @@ TEST_F(FindProgram, WrongUseIsToldInASentenceAndEndsWith2) {
   const QString manyWords = u"w"_qs + u" w"_qs.repeated(101);
   const std::vector<std::pair<QStringList, QString>> cases = {
       {{},
-       u"there is no command; the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache"_qs},
+       u"there is no command; the commands are find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history and cache"_qs},
       {{u"seek"_qs, u"a"_qs},
-       u"there is no command \"seek\"; the commands are find, copies, compare, plan, volumes, index, import, refresh, sources, history and cache"_qs},
+       u"there is no command \"seek\"; the commands are find, copies, compare, plan, volumes, index, verify, import, refresh, sources, history and cache"_qs},
       {{u"--quick"_qs, u"find"_qs, u"a"_qs}, u"there is no option \"--quick\""_qs},
       {{u"find"_qs}, u"find needs the words to find, in one argument"_qs},
       {{u"find"_qs, u"--quick"_qs, u"a"_qs},

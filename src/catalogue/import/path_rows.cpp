@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // The lists that have a whole path in each line: those of du, rclone and unzip, checksums, and paths alone.
+#include "catalogue/import/checksum_line.h"
 #include "catalogue/import/list_dates.h"
 #include "catalogue/import/list_readers.h"
 #include "catalogue/import/list_text.h"
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 namespace quorvin {
@@ -145,44 +144,15 @@ class UnzipReader : public ListReader {
   bool isInside_ = false;
 };
 
-bool isChecksum(std::string_view text) {
-  static constexpr std::array<std::size_t, 6> kLengths{32, 40, 56, 64, 96, 128};
-  return std::ranges::find(kLengths, text.size()) != kLengths.end() &&
-         text.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos;
-}
-
-/// "CHECKSUM  path", "CHECKSUM *path", with a backslash before where the path has escapes, or "MD5 (path) =
-/// CHECKSUM".
+/// See checksumLineIn().
 class ChecksumsReader : public ListReader {
  public:
   LineSays read(std::string_view line, ListEntry& entry) override {
     if (line.empty() || line.starts_with(';') || line.starts_with('#')) return LineSays::NoEntry;
-    const bool hasEscapes = takeText(line, "\\");
-    std::optional<std::string_view> path = pathIn(line);
-    if (!path) path = pathInBrackets(line);
-    if (!path || path->empty()) return LineSays::NotUnderstood;
-    const std::optional<std::string> plain = hasEscapes ? withoutEscapes(*path) : std::string(*path);
-    if (!plain) return LineSays::NotUnderstood;
-    entry = {*plain, EntryKind::File};
+    std::optional<ChecksumLine> checksum = checksumLineIn(line);
+    if (!checksum) return LineSays::NotUnderstood;
+    entry = {std::move(checksum->path), EntryKind::File};
     return LineSays::Entry;
-  }
-
- private:
-  static std::optional<std::string_view> pathIn(std::string_view line) {
-    const std::size_t blank = line.find(' ');
-    if (blank == std::string_view::npos || !isChecksum(line.substr(0, blank))) return std::nullopt;
-    line.remove_prefix(blank + 1);
-    if (!takeText(line, " ") && !takeText(line, "*")) return std::nullopt;
-    return line;
-  }
-
-  static std::optional<std::string_view> pathInBrackets(std::string_view line) {
-    const std::size_t open = line.find(" (");
-    const std::size_t close = line.rfind(") = ");
-    if (open == std::string_view::npos || close == std::string_view::npos || close < open + 2)
-      return std::nullopt;
-    if (!isChecksum(line.substr(close + 4))) return std::nullopt;
-    return line.substr(open + 2, close - open - 2);
   }
 };
 
