@@ -4470,7 +4470,7 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation>A&amp;fficher</translation>
+        <translation>Affi&amp;cher</translation>
     </message>
     <message>
         <source>Volumes</source>

@@ -108,8 +108,11 @@ bool JobWindow::takeKey(const QKeyEvent& key) {
     copySelectedRows(*list_);
     return true;
   }
+  const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  // An editor in the list has done with it what it means there.
+  if (isEnter && !list_->hasFocus()) return true;
   const QModelIndex current = list_->currentIndex();
-  if ((key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) || !current.isValid()) return false;
+  if (!isEnter || !current.isValid()) return false;
   const QModelIndex row = current.siblingAtColumn(0);
   if (hasRowsBelow(row)) {
     list_->setExpanded(row, !list_->isExpanded(row));

@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+#include <cmath>
+
 namespace quorvin {
 
 namespace {
@@ -65,9 +67,8 @@ QString volumeText(const KnownVolume& volume, VolumeColumn column, const QDate& 
     case VolumeColumn::Size:
       return sizeText(volume.sum.holds.bytes, locale);
     case VolumeColumn::Newest:
-      return volume.sum.newest
-                 ? locale.toString(dateTimeOf(volume.sum.newest->date).date(), QLocale::ShortFormat)
-                 : QString();
+      // The day alone.
+      return volume.sum.newest ? generalDateText(std::floor(volume.sum.newest->date), locale) : QString();
     case VolumeColumn::Listed:
       return ageText(volume.listed.date(), today);
     case VolumeColumn::Free:

@@ -83,6 +83,7 @@ QAction* VolumesWindow::addAction(const QString& name, const QString& caption, c
   auto* action = new QAction(caption, this);
   action->setObjectName(name);
   action->setShortcut(key);
+  action->setShortcutContext(Qt::WidgetShortcut);
   connect(action, &QAction::triggered, this, [this, handler] {
     const QModelIndex current = list().currentIndex();
     if (current.isValid()) (this->*handler)(current.siblingAtColumn(0));
