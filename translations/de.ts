@@ -4627,6 +4627,118 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>Show what is searched, or change it: add, remove, move</source>
         <translation>Quellen zeigen oder ändern: add, remove, move</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Archives</source>
+        <translation>Archive</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>No date</source>
+        <translation>Ohne Datum</translation>
+    </message>
+    <message>
+        <source>Up to %1</source>
+        <translation>Bis %1</translation>
+    </message>
+    <message>
+        <source>From %1 on</source>
+        <translation>Ab %1</translation>
+    </message>
+    <message>
+        <source>Files right here</source>
+        <translation>Dateien direkt hier</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3%. Mostly %4, %5</source>
+        <translation>%1, %2, %3 %. Meist %4, %5</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>&amp;Neu lesen</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Space Map</source>
+        <translation>Platzkarte</translation>
+    </message>
+    <message>
+        <source>Space Map of %1</source>
+        <translation>Platzkarte von %1</translation>
+    </message>
+    <message>
+        <source>Space map</source>
+        <translation>Platzkarte</translation>
+    </message>
+    <message>
+        <source>What the colours show</source>
+        <translation>Was die Farben zeigen</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>C&amp;olours:</source>
+        <translation>&amp;Farben:</translation>
+    </message>
+    <message>
+        <source>&amp;Search Here</source>
+        <translation>Hier &amp;suchen</translation>
+    </message>
+    <message>
+        <source>Stopped. The map is drawn when everything has been read.</source>
+        <translation>Angehalten. Die Karte wird gezeichnet, wenn alles gelesen ist.</translation>
+    </message>
+    <message>
+        <source>All volumes</source>
+        <translation>Alle Datenträger</translation>
+    </message>
+    <message>
+        <source>There is nothing that takes up space.</source>
+        <translation>Es gibt nichts, was Platz braucht.</translation>
+    </message>
+    <message>
+        <source>Space &amp;Map</source>
+        <translation>&amp;Platzkarte</translation>
+    </message>
+    <message>
+        <source>Empty for all files</source>
+        <translation>Leer für alle Dateien</translation>
+    </message>
+    <message>
+        <source>Shows as rectangles what takes up space on all volumes</source>
+        <translation>Zeigt als Rechtecke, was auf allen Datenträgern Platz braucht</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4627,6 +4627,118 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>Show what is searched, or change it: add, remove, move</source>
         <translation>Mostrar qué se busca, o cambiarlo: add, remove, move</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Archives</source>
+        <translation>Archivadores</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programas</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Otros</translation>
+    </message>
+    <message>
+        <source>No date</source>
+        <translation>Sin fecha</translation>
+    </message>
+    <message>
+        <source>Up to %1</source>
+        <translation>Hasta %1</translation>
+    </message>
+    <message>
+        <source>From %1 on</source>
+        <translation>Desde %1</translation>
+    </message>
+    <message>
+        <source>Files right here</source>
+        <translation>Archivos de aquí mismo</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3%. Mostly %4, %5</source>
+        <translation>%1, %2, %3 %. Sobre todo %4, %5</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>&amp;Leer de nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>S&amp;ubir</translation>
+    </message>
+    <message>
+        <source>Space Map</source>
+        <translation>Mapa del espacio</translation>
+    </message>
+    <message>
+        <source>Space Map of %1</source>
+        <translation>Mapa del espacio de %1</translation>
+    </message>
+    <message>
+        <source>Space map</source>
+        <translation>Mapa del espacio</translation>
+    </message>
+    <message>
+        <source>What the colours show</source>
+        <translation>Lo que muestran los colores</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Año</translation>
+    </message>
+    <message>
+        <source>C&amp;olours:</source>
+        <translation>C&amp;olores:</translation>
+    </message>
+    <message>
+        <source>&amp;Search Here</source>
+        <translation>Buscar &amp;aquí</translation>
+    </message>
+    <message>
+        <source>Stopped. The map is drawn when everything has been read.</source>
+        <translation>Detenido. El mapa se dibuja cuando se ha leído todo.</translation>
+    </message>
+    <message>
+        <source>All volumes</source>
+        <translation>Todos los volúmenes</translation>
+    </message>
+    <message>
+        <source>There is nothing that takes up space.</source>
+        <translation>No hay nada que ocupe espacio.</translation>
+    </message>
+    <message>
+        <source>Space &amp;Map</source>
+        <translation>Mapa del &amp;espacio</translation>
+    </message>
+    <message>
+        <source>Empty for all files</source>
+        <translation>Vacío para todos los archivos</translation>
+    </message>
+    <message>
+        <source>Shows as rectangles what takes up space on all volumes</source>
+        <translation>Muestra en rectángulos lo que ocupa espacio en todos los volúmenes</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

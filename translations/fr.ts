@@ -4627,6 +4627,118 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>Show what is searched, or change it: add, remove, move</source>
         <translation>Sources de recherche&#xa0;: montrer, add, remove, move</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Archives</source>
+        <translation>Archives</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programmes</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>No date</source>
+        <translation>Sans date</translation>
+    </message>
+    <message>
+        <source>Up to %1</source>
+        <translation>Jusqu’en %1</translation>
+    </message>
+    <message>
+        <source>From %1 on</source>
+        <translation>À partir de %1</translation>
+    </message>
+    <message>
+        <source>Files right here</source>
+        <translation>Fichiers d’ici même</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3%. Mostly %4, %5</source>
+        <translation>%1, %2, %3&#xa0;%. Surtout %4, %5</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>&amp;Relire</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Mo&amp;nter</translation>
+    </message>
+    <message>
+        <source>Space Map</source>
+        <translation>Carte de l’espace</translation>
+    </message>
+    <message>
+        <source>Space Map of %1</source>
+        <translation>Carte de l’espace de %1</translation>
+    </message>
+    <message>
+        <source>Space map</source>
+        <translation>Carte de l’espace</translation>
+    </message>
+    <message>
+        <source>What the colours show</source>
+        <translation>Ce que montrent les couleurs</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Année</translation>
+    </message>
+    <message>
+        <source>C&amp;olours:</source>
+        <translation>C&amp;ouleurs&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Search Here</source>
+        <translation>Chercher &amp;ici</translation>
+    </message>
+    <message>
+        <source>Stopped. The map is drawn when everything has been read.</source>
+        <translation>Arrêté. La carte est dessinée quand tout a été lu.</translation>
+    </message>
+    <message>
+        <source>All volumes</source>
+        <translation>Tous les volumes</translation>
+    </message>
+    <message>
+        <source>There is nothing that takes up space.</source>
+        <translation>Il n’y a rien qui prenne de la place.</translation>
+    </message>
+    <message>
+        <source>Space &amp;Map</source>
+        <translation>Carte de l’&amp;espace</translation>
+    </message>
+    <message>
+        <source>Empty for all files</source>
+        <translation>Vide pour tous les fichiers</translation>
+    </message>
+    <message>
+        <source>Shows as rectangles what takes up space on all volumes</source>
+        <translation>Montre en rectangles ce qui prend de la place sur tous les volumes</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -77,7 +77,8 @@ SearchForm::SearchForm(ProgramState& state, MessageBoxes& messages, Shell& shell
       windows_(state, messages, menus_,
                {[this] { rescan(); }, std::bind_front(&SearchFormWork::restoreListing, &jobs_),
                 [this](const HitRow& file) { return hitActions_.showInFolder(file); },
-                [this](const QStringList& listings) { return sources_->addOfflineLists(listings); }},
+                [this](const QStringList& listings) { return sources_->addOfflineLists(listings); },
+                std::bind_front(&SearchForm::searchListed, this)},
                *this, locale, picker),
       export_(
           {state, runMessages_, jobs_.work(), windows_.picker(), hits_, *controls_.HitList, status_, locale}),
@@ -123,7 +124,6 @@ void SearchForm::connectControls() {
   connect(&hitActions_, &SearchFormHits::noted, this, [this](const QString& note) { status_.setNote(note); });
   connect(&*selectionSize_, &SelectionSize::changed, this,
           [this] { status_.setSelected(selectionSize_->rows(), selectionSize_->bytes()); });
-
   auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
   connect(stop, &QShortcut::activated, this, [this] {
     if (copy_.stop() || export_.stop()) return;

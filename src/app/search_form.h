@@ -162,6 +162,7 @@ class SearchForm : public QMainWindow {
  private:
   void searchFor(const QString& text);
   void searchInFolder(const QString& folder);
+  void searchListed(const QString& folder);
   void connectControls();
   void connectMenus();
   bool Form_Unload();

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QTimer>
 
 namespace quorvin {
 
@@ -45,6 +46,18 @@ void SearchForm::searchInFolder(const QString& folder) {
   controls_.FilterStr->setText(listed);
   controls_.SearchStr->setFocus();
   controls_.SearchStr->selectAll();
+}
+
+/// Every file below the folder holds its name, and the filter leaves those of others out. The window that
+/// asks for it closes first.
+void SearchForm::searchListed(const QString& folder) {
+  const QString name = folder.section(u'\\', -1, -1, QString::SectionSkipEmpty);
+  QTimer::singleShot(0, this, [this, folder, name] {
+    searchFor(name.isEmpty() ? QStringLiteral("\\") : name);
+    if (name.isEmpty()) return;
+    if (!menus_.FilterHits->isChecked()) menus_.FilterHits->trigger();
+    controls_.FilterStr->setText(folder);
+  });
 }
 
 }  // namespace quorvin

@@ -22,6 +22,7 @@ const QHash<QString, QString>& manualPages() {
       {QStringLiteral("CopiesWindow"), QStringLiteral("manual/copies.htm#window")},
       {QStringLiteral("CompareWindow"), QStringLiteral("manual/compare.htm#window")},
       {QStringLiteral("VolumesWindow"), QStringLiteral("manual/volumes.htm#window")},
+      {QStringLiteral("SpaceWindow"), QStringLiteral("manual/volumes.htm#map")},
       {QStringLiteral("ImportWindow"), QStringLiteral("manual/imports.htm#window")},
       {QStringLiteral("frmSplash"), QStringLiteral("relinfo.htm")},
       {QStringLiteral("Progress"), QStringLiteral("manual/cataloguing.htm#rescan")},

@@ -57,6 +57,7 @@ SearchFormWindows::SearchFormWindows(ProgramState& state, MessageBoxes& messages
       restoreListing_(std::move(requests.restoreListing)),
       showFile_(std::move(requests.showFile)),
       addListings_(std::move(requests.addListings)),
+      searchListed_(std::move(requests.searchListed)),
       locale_(locale),
       preview_(&owner, usualMetafileChild(), previewReport(messages)) {
   sourceEditing_.lookers = &lookers_.pool();
@@ -121,7 +122,7 @@ void SearchFormWindows::Compare_Click() {
 }
 
 void SearchFormWindows::Volumes_Click() {
-  VolumesWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_}, &owner_);
+  VolumesWindow window({sourceEditing_.state, lookers_.pool(), locale_, showFile_, searchListed_}, &owner_);
   volumes_ = &window;
   window.exec();
 }

@@ -40,6 +40,8 @@ struct WindowRequests {
   std::function<bool(const HitRow& file)> showFile;
   /// Adds listings to the offline sources; see ImportWindowParts.
   std::function<QString(const QStringList& listings)> addListings;
+  /// Searches in a folder, as listed, or everywhere where that is empty.
+  std::function<void(const QString& folder)> searchListed = {};
 };
 
 /// Opens the editors, the options, the about window and the help browser, each above the main window, and
@@ -108,6 +110,7 @@ class SearchFormWindows {
   HistoryWindow::Restore restoreListing_;
   std::function<bool(const HitRow& file)> showFile_;
   std::function<QString(const QStringList& listings)> addListings_;
+  std::function<void(const QString& folder)> searchListed_;
   QLocale locale_;
   QString LocMode_;
   QPointer<LocalLoc> sources_;

@@ -49,18 +49,8 @@ SegmentStore::Segments CopyFinder::segmentsOf(const QString& listing) {
 }
 
 bool CopyFinder::find(const std::vector<QString>& listings) {
-  readListings(listings);
+  findEveryEntry(*run_, listings);
   return !parts_.endRequested() && compare();
-}
-
-void CopyFinder::readListings(const std::vector<QString>& listings) {
-  const QString everything = QString::fromUtf16(ListedFiles::kEveryEntry);
-  const QString anyMatch = QStringLiteral("1");
-  if (listings.empty()) {
-    run_->Find_Click(everything, anyMatch);
-  } else {
-    run_->searchListings(everything, anyMatch, listings);
-  }
 }
 
 bool CopyFinder::isEnded() const {

@@ -96,7 +96,6 @@ class CopyFinder {
  private:
   RunParts runParts();
   SegmentStore::Segments segmentsOf(const QString& listing);
-  void readListings(const std::vector<QString>& listings);
   bool compare();
   bool lookInside();
   bool isEnded() const;

@@ -5,12 +5,14 @@
 
 #include "catalogue/listed_files.h"
 #include "search/hit_sink.h"
+#include "search/search_run.h"
 #include "search/segment/segment_store.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <vector>
 
 namespace quorvin {
 
@@ -19,6 +21,17 @@ inline SegmentStore::Options storeForTwoReadings() {
   SegmentStore::Options options = SegmentStore::defaultOptions(SegmentUse::Repeated);
   options.memoryBudget = 0;
   return options;
+}
+
+/// Goes over all entries of `listings`, or of the sources of the run where there are none.
+inline void findEveryEntry(SearchRun& run, const std::vector<QString>& listings) {
+  const QString everything = QString::fromUtf16(ListedFiles::kEveryEntry);
+  const QString anyMatch = QStringLiteral("1");
+  if (listings.empty()) {
+    run.Find_Click(everything, anyMatch);
+  } else {
+    run.searchListings(everything, anyMatch, listings);
+  }
 }
 
 /// Takes all entries of listings, block by block. The search must be one that finds every entry.

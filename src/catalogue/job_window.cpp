@@ -50,12 +50,16 @@ void JobWindow::layOut(QLayout* fields, QTreeView* list, int characters) {
     // Others unfold by themselves.
     if (!hasRowsBelow(index)) openRow(index);
   });
+  layOut(fields, static_cast<QWidget*>(list), characters);
+}
+
+void JobWindow::layOut(QLayout* fields, QWidget* view, int characters) {
   auto* buttons = new QDialogButtonBox;
   buttons->addButton(start_, QDialogButtonBox::ActionRole);
   buttons->addButton(close_, QDialogButtonBox::RejectRole);
   auto* all = new QVBoxLayout(this);
   all->addLayout(fields);
-  all->addWidget(list_, 1);
+  all->addWidget(view, 1);
   all->addWidget(status_);
   all->addWidget(buttons);
   // Only now does the window know it, and makes it the default again when another button loses the focus.

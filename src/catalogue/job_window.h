@@ -35,10 +35,12 @@ class JobWindow : public QDialog {
   /// itself when the window closes.
   JobWindow(const QString& startCaption, const QString& closeCaption, QThreadPool& threads, QWidget* owner);
 
-  /// To be called once: puts `fields` above the rows, which become part of the window, and gives it its first
-  /// size, for rows of so many characters.
+  /// To be called once: puts `fields` above the rows, or what else shows the result, which becomes part of
+  /// the window, and gives it its first size, for rows of so many characters.
   void layOut(QLayout* fields, QTreeView* list, int characters);
+  void layOut(QLayout* fields, QWidget* view, int characters);
 
+  /// Only where there are rows.
   QTreeView& list() { return *list_; }
   QPushButton& startButton() { return *start_; }
   void setStatus(const QString& text) { status_->setText(text); }
@@ -60,7 +62,7 @@ class JobWindow : public QDialog {
   /// The job has come to its end, and the window has let go of it.
   virtual void jobEnded(std::shared_ptr<CatalogueJob> job) = 0;
   /// A row that has none below it was double-clicked, or Enter was pressed in it.
-  virtual void openRow(const QModelIndex& row) = 0;
+  virtual void openRow(const QModelIndex&) {}
 
  private:
   void Start_Click();

@@ -42,10 +42,11 @@ TEST_F(AccessibleCatalogueWindows, Volumes) {
                          QStringLiteral("Volumes"),
                          QStringLiteral("StaticText : Words:\n"
                                         "EditableText Words: Words that limit what is counted\n"
+                                        "Button SpaceMap: Space Map\n"
                                         "Tree Rows: Volumes\n"
-                     "ColumnHeader : Volume\nColumnHeader : Files\nColumnHeader : Size\n"
-                     "ColumnHeader : Newest\nColumnHeader : Listed\nColumnHeader : Free\n"
-                     "ColumnHeader : Listing\nColumnHeader : Note\n"
+                                        "ColumnHeader : Volume\nColumnHeader : Files\nColumnHeader : Size\n"
+                                        "ColumnHeader : Newest\nColumnHeader : Listed\nColumnHeader : Free\n"
+                                        "ColumnHeader : Listing\nColumnHeader : Note\n"
                                         "StaticText Status: There is nothing to search yet.\n"
                                         "Button Show: Show\n"
                                         "Button close: Close"));

@@ -52,6 +52,7 @@ TEST_F(AccessibleMainWindow, SearchForm) {
                      "MenuItem ListingHistory: Listing History... (hidden)\n"
                      "MenuItem Copies: Copies... (hidden)\n"
                      "MenuItem Compare: Compare... (hidden)\n"
+                     "MenuItem Volumes: Volumes... (hidden)\n"
                      "MenuItem Import: Import... (hidden)\n"
                      "MenuItem ExportHits: Export Hits... (hidden)\n"
                      "MenuItem OptionsMenu: Options (hidden)\n"

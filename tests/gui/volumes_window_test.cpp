@@ -201,7 +201,7 @@ TEST_F(ShownVolumes, CanBeUsedByKeysAlone) {
       },
       [](VolumesWindow& window) {
         waitForRows(window);
-        EXPECT_EQ(tabStops().toStdString(), "Rows Show close Words");
+        EXPECT_EQ(tabStops().toStdString(), "Rows Show close Words SpaceMap");
         tabTo("Rows");
         press(Qt::Key_C, Qt::ControlModifier);
         EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("CD 1\t2\t700.00 MB\t")));

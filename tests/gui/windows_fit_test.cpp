@@ -7,6 +7,7 @@
 #include "catalogue/compare_window.h"
 #include "catalogue/copies_window.h"
 #include "catalogue/import/import_window.h"
+#include "catalogue/volumes/space_window.h"
 #include "catalogue/volumes/volumes_window.h"
 #include "editors/dialog_driving.h"
 #include "editors/list_options.h"
@@ -239,6 +240,26 @@ TEST_P(WindowsFit, VolumesDoWithAndWithoutResults) {
                                            expectFitsAtWork(window, "Show",
                                                             [rows] { return rows->model()->rowCount() > 0; });
                                          }));
+}
+
+TEST_P(WindowsFit, TheSpaceMapDoes) {
+  addOfflineSource(QStringLiteral("disk.txt"), listingOf("DISK", 30, "song"));
+  form();
+  EXPECT_TRUE(duringModal<VolumesWindow>(
+      [this] { form().menus().Volumes->trigger(); },
+      [](VolumesWindow& window) {
+        EXPECT_TRUE(duringModal<SpaceWindow>(
+            [&window] { click(window.findChild<QPushButton*>(QStringLiteral("SpaceMap"))); },
+            [](SpaceWindow& space) {
+              const auto* map = space.findChild<SpaceMap*>(QStringLiteral("Map"));
+              EXPECT_EVENTUALLY(map->count() > 0);
+              QTest::qWait(0);
+              expectFits(space);
+              space.findChild<QComboBox*>(QStringLiteral("Colours"))->setCurrentIndex(1);
+              QTest::qWait(0);
+              expectFits(space);
+            }));
+      }));
 }
 
 TEST_P(WindowsFit, CompareDoesWithAndWithoutResults) {

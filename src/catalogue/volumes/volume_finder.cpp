@@ -106,14 +106,13 @@ void VolumeFinder::read(VolumeSums& sums, const std::vector<QString>& listings) 
   // They are counted by ourselves.
   parts.tellsUnreadable = false;
   parts.streamAt = parts_.streamAt;
-  const bool areAll = wish_.searchText.isEmpty();
-  const QString text = areAll ? QString::fromUtf16(ListedFiles::kEveryEntry) : wish_.searchText;
-  const QString match = areAll ? QStringLiteral("1") : wish_.desiredMatch;
   SearchRun run(std::move(parts));
-  if (listings.empty()) {
-    run.Find_Click(text, match);
+  if (wish_.searchText.isEmpty()) {
+    findEveryEntry(run, listings);
+  } else if (listings.empty()) {
+    run.Find_Click(wish_.searchText, wish_.desiredMatch);
   } else {
-    run.searchListings(text, match, listings);
+    run.searchListings(wish_.searchText, wish_.desiredMatch, listings);
   }
   failedListings_ = run.failedListings();
 }

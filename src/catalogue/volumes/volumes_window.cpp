@@ -3,6 +3,7 @@
 
 #include "catalogue/job_controls.h"
 #include "catalogue/run_watch.h"
+#include "catalogue/volumes/space_window.h"
 #include "catalogue/volumes/volumes_job.h"
 #include "faults/runtime_fault.h"
 #include "platform/text_direction.h"
@@ -44,7 +45,8 @@ VolumesWindow::VolumesWindow(VolumesWindowParts parts, QWidget* owner)
       rows_({parts_.locale,
              [this](const KnownVolume& volume) { return notes_.of(volume.listing, volume.name); },
              [this](const KnownVolume& volume, const QString& note) { return keepNote(volume, note); }}),
-      words_(new QLineEdit) {
+      words_(new QLineEdit),
+      map_(new QPushButton(Texts::tr("Space &Map"))) {
   setObjectName(QStringLiteral("VolumesWindow"));
   setWindowTitle(Texts::tr("Volumes"));
   startButton().setObjectName(QStringLiteral("Show"));
@@ -63,15 +65,22 @@ VolumesWindow::VolumesWindow(VolumesWindowParts parts, QWidget* owner)
 QLayout* VolumesWindow::makeFields() {
   words_->setObjectName(QStringLiteral("Words"));
   words_->setAccessibleName(Texts::tr("Words that limit what is counted"));
-  words_->setPlaceholderText(Texts::tr("Only files with these words; empty for all"));
+  words_->setPlaceholderText(Texts::tr("Empty for all files"));
+  map_->setObjectName(QStringLiteral("SpaceMap"));
+  map_->setAutoDefault(false);
+  map_->setAccessibleDescription(Texts::tr("Shows as rectangles what takes up space on all volumes"));
+  map_->setToolTip(map_->accessibleDescription());
+  connect(map_, &QPushButton::clicked, this, [this] { showMap({}, {}); });
   auto* fields = new QHBoxLayout;
   fields->addWidget(captionOf(words_, Texts::tr("&Words:")));
   fields->addWidget(words_, 1);
+  fields->addWidget(map_);
   return fields;
 }
 
 void VolumesWindow::addActions() {
   list().setContextMenuPolicy(Qt::ActionsContextMenu);
+  addAction(QStringLiteral("ShowMap"), Texts::tr("Space &Map"), QKeySequence(), &VolumesWindow::showMapOf);
   addAction(QStringLiteral("EditNote"), Texts::tr("Edit &Note"), QKeySequence(Qt::Key_F2),
             &VolumesWindow::editNote);
   addAction(QStringLiteral("ShowFolder"), Texts::tr("Show &Folder"), QKeySequence(),
@@ -123,7 +132,21 @@ void VolumesWindow::jobEnded(std::shared_ptr<CatalogueJob> ended) {
 
 void VolumesWindow::openRow(const QModelIndex& row) {
   // The view itself edits a note that is double-clicked.
-  if (row.column() == 0) editNote(row);
+  if (row.column() != static_cast<int>(VolumeColumn::Note)) showMapOf(row);
+}
+
+void VolumesWindow::showMapOf(const QModelIndex& row) {
+  const KnownVolume& volume = rows_.volumeAt(row.row());
+  showMap(volume.listing, volume.name);
+}
+
+void VolumesWindow::showMap(const QString& listing, const QString& volume) {
+  const auto search = [this](const QString& folder) {
+    accept();
+    parts_.search(folder);
+  };
+  SpaceWindow window({parts_.state, parts_.threads, parts_.locale, search, listing, volume}, this);
+  window.exec();
 }
 
 void VolumesWindow::editNote(const QModelIndex& row) {

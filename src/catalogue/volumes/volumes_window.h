@@ -28,11 +28,14 @@ struct VolumesWindowParts {
   /// Shows a file in its folder; a name that is empty stands for the folder itself. False where it is not
   /// there.
   std::function<bool(const HitRow& file)> showFile;
+  /// Searches in a folder, as listed; the window has closed itself. See SpaceWindowParts.
+  std::function<void(const QString& folder)> search = {};
 };
 
 /// The window `VolumesWindow`: words that limit what is counted, and a row for each volume. It looks at all
-/// sources when it opens; Show does so again. F2, and a double click on a note, edit the note on a volume;
-/// a menu at each row does the same, and shows the volume's folder.
+/// sources when it opens; Show does so again. Enter and a double click open the space map of a volume, Space
+/// Map that of all. F2, and a double click on a note, edit the note on a volume; a menu at each row does all
+/// this, and shows the volume's folder.
 class VolumesWindow : public JobWindow {
   Q_OBJECT
 
@@ -51,6 +54,8 @@ class VolumesWindow : public JobWindow {
   void addActions();
   QAction* addAction(const QString& name, const QString& caption, const QKeySequence& key,
                      void (VolumesWindow::*handler)(const QModelIndex& row));
+  void showMap(const QString& listing, const QString& volume);
+  void showMapOf(const QModelIndex& row);
   void editNote(const QModelIndex& row);
   void showFolder(const QModelIndex& row);
   bool keepNote(const KnownVolume& volume, const QString& note);
@@ -59,6 +64,7 @@ class VolumesWindow : public JobWindow {
   NotesAtHand notes_;
   VolumesModel rows_;
   QLineEdit* words_;
+  QPushButton* map_;
 };
 
 }  // namespace quorvin
