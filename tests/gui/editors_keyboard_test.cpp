@@ -33,7 +33,7 @@ class EditorsByKeys : public SearchFormTest {
     inDialog<LocalLoc>([] { choose(1); }, action);
   }
   static void inOptions(const std::function<void(ListOptions&)>& action) {
-    inDialog<ListOptions>([] { choose(8); }, action);
+    inDialog<ListOptions>([] { choose(9); }, action);
   }
   QString online() const { return textOf(state_.OnlineSources, state_.OnlineSourceCount); }
   QString offline() const { return textOf(state_.OfflineSources, state_.OfflineSourceCount); }
