@@ -4739,6 +4739,74 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>Shows as rectangles what takes up space on all volumes</source>
         <translation>Zeigt als Rechtecke, was auf allen Datenträgern Platz braucht</translation>
     </message>
+    <message>
+        <source>planning what to fetch</source>
+        <translation>das Planen, was zu holen ist</translation>
+    </message>
+    <message>
+        <source>Fetch P&amp;lan...</source>
+        <translation>Ho&amp;lplan...</translation>
+    </message>
+    <message>
+        <source>A plan can be made for at most %1 hits.</source>
+        <translation>Ein Plan ist für höchstens %1 Treffer möglich.</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Plan Again</source>
+        <translation>Neu &amp;planen</translation>
+    </message>
+    <message>
+        <source>Save Te&amp;xt...</source>
+        <translation>&amp;Text sichern...</translation>
+    </message>
+    <message>
+        <source>Save &amp;Script...</source>
+        <translation>S&amp;kript sichern...</translation>
+    </message>
+    <message>
+        <source>Fetch Plan</source>
+        <translation>Holplan</translation>
+    </message>
+    <message>
+        <source>Volumes to insert, and what to copy from them</source>
+        <translation>Einzulegende Datenträger, und was von ihnen zu kopieren ist</translation>
+    </message>
+    <message>
+        <source>A script for a terminal that asks for each volume and copies its files with rsync</source>
+        <translation>Ein Skript für ein Terminal, das nach jedem Datenträger fragt und seine Dateien mit rsync kopiert</translation>
+    </message>
+    <message>
+        <source>Insert these volumes, one after another:</source>
+        <translation>Legen Sie nacheinander diese Datenträger ein:</translation>
+    </message>
+    <message>
+        <source>Stopped. Only all listings together tell which volumes are needed.</source>
+        <translation>Angehalten. Nur alle Listen zusammen sagen, welche Datenträger nötig sind.</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Save Plan</source>
+        <translation>Plan sichern</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Skript sichern</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gesichert: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was saved: %1</source>
+        <translation>Nichts wurde gesichert: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4739,6 +4739,74 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>Shows as rectangles what takes up space on all volumes</source>
         <translation>Muestra en rectángulos lo que ocupa espacio en todos los volúmenes</translation>
     </message>
+    <message>
+        <source>planning what to fetch</source>
+        <translation>la planificación de lo que hay que traer</translation>
+    </message>
+    <message>
+        <source>Fetch P&amp;lan...</source>
+        <translation>P&amp;lan de recogida...</translation>
+    </message>
+    <message>
+        <source>A plan can be made for at most %1 hits.</source>
+        <translation>Se puede hacer un plan para %1 resultados como máximo.</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Plan Again</source>
+        <translation>&amp;Planear de nuevo</translation>
+    </message>
+    <message>
+        <source>Save Te&amp;xt...</source>
+        <translation>Guardar &amp;texto...</translation>
+    </message>
+    <message>
+        <source>Save &amp;Script...</source>
+        <translation>Guardar &amp;script...</translation>
+    </message>
+    <message>
+        <source>Fetch Plan</source>
+        <translation>Plan de recogida</translation>
+    </message>
+    <message>
+        <source>Volumes to insert, and what to copy from them</source>
+        <translation>Volúmenes que insertar, y qué copiar de ellos</translation>
+    </message>
+    <message>
+        <source>A script for a terminal that asks for each volume and copies its files with rsync</source>
+        <translation>Un script para un terminal, que pide cada volumen y copia sus archivos con rsync</translation>
+    </message>
+    <message>
+        <source>Insert these volumes, one after another:</source>
+        <translation>Inserte estos volúmenes, uno tras otro:</translation>
+    </message>
+    <message>
+        <source>Stopped. Only all listings together tell which volumes are needed.</source>
+        <translation>Detenido. Solo todas las listas juntas dicen qué volúmenes hacen falta.</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No encontrados</translation>
+    </message>
+    <message>
+        <source>Save Plan</source>
+        <translation>Guardar el plan</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Guardar el script</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Guardado: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was saved: %1</source>
+        <translation>No se guardó nada: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4739,6 +4739,74 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>Shows as rectangles what takes up space on all volumes</source>
         <translation>Montre en rectangles ce qui prend de la place sur tous les volumes</translation>
     </message>
+    <message>
+        <source>planning what to fetch</source>
+        <translation>la planification de ce qu’il faut chercher</translation>
+    </message>
+    <message>
+        <source>Fetch P&amp;lan...</source>
+        <translation>P&amp;lan de collecte...</translation>
+    </message>
+    <message>
+        <source>A plan can be made for at most %1 hits.</source>
+        <translation>Un plan peut être fait pour %1 résultats au plus.</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Plan Again</source>
+        <translation>Re&amp;planifier</translation>
+    </message>
+    <message>
+        <source>Save Te&amp;xt...</source>
+        <translation>Enregistrer le &amp;texte...</translation>
+    </message>
+    <message>
+        <source>Save &amp;Script...</source>
+        <translation>Enregistrer le &amp;script...</translation>
+    </message>
+    <message>
+        <source>Fetch Plan</source>
+        <translation>Plan de collecte</translation>
+    </message>
+    <message>
+        <source>Volumes to insert, and what to copy from them</source>
+        <translation>Volumes à insérer, et ce qu’il faut en copier</translation>
+    </message>
+    <message>
+        <source>A script for a terminal that asks for each volume and copies its files with rsync</source>
+        <translation>Un script pour un terminal, qui demande chaque volume et copie ses fichiers avec rsync</translation>
+    </message>
+    <message>
+        <source>Insert these volumes, one after another:</source>
+        <translation>Insérez ces volumes, l’un après l’autre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Stopped. Only all listings together tell which volumes are needed.</source>
+        <translation>Arrêté. Seules toutes les listes ensemble disent quels volumes il faut.</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvables</translation>
+    </message>
+    <message>
+        <source>Save Plan</source>
+        <translation>Enregistrer le plan</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Enregistrer le script</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Enregistré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was saved: %1</source>
+        <translation>Rien n’a été enregistré&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

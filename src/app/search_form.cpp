@@ -37,8 +37,7 @@ constexpr float kFarthestPixel = 32767;
 constexpr std::chrono::seconds kLongestUnpainted{5};
 
 int toPixels(float twips) {
-  const float pixels = twips / static_cast<float>(kTwipsPerPixel);
-  return static_cast<int>(std::lround(std::clamp(pixels, -kFarthestPixel, kFarthestPixel)));
+  return static_cast<int>(std::lround(std::clamp(twips / kTwipsPerPixel, -kFarthestPixel, kFarthestPixel)));
 }
 
 /// The usable areas of the screens, that of the primary one first.
@@ -116,7 +115,6 @@ void SearchForm::connectControls() {
   connect(&search_, &SearchFormRun::confirmed, &view_, &SearchFormView::keepSearch);
   connect(&search_, &SearchFormRun::ended, this, &SearchForm::showEmptyText);
   connect(controls_.WebUpdate, &QPushButton::clicked, this, [this] { jobs_.WebUpdate_Click(); });
-
   connect(&rows_.order(), &RowOrder::countChanged, this, &SearchForm::showEmptyText);
   connect(&rows_.order(), &RowOrder::orderChanged, this, [this] { status_.setOrder(rows_.order().note()); });
   connect(&view_, &SearchFormView::selectionLetGo, this,
@@ -149,6 +147,8 @@ void SearchForm::connectMenus() {
   handle(menus_.ReScan, Texts::tr("refreshing the local lists"), [this] { jobs_.startRefresh(); });
   handle(menus_.ListingHistory, Texts::tr("showing the listing history"),
          [this] { windows_.ListingHistory_Click(); });
+  handle(hitActions_.itemMenu().FetchPlan, Texts::tr("planning what to fetch"),
+         [this] { windows_.FetchPlan_Click(hits_, hitActions_.rowsToFetch()); });
   handle(menus_.Copies, Texts::tr("looking for copies"), [this] { windows_.Copies_Click(); });
   handle(menus_.Compare, Texts::tr("comparing"), [this] { windows_.Compare_Click(); });
   handle(menus_.Volumes, Texts::tr("looking at volumes"), [this] { windows_.Volumes_Click(); });

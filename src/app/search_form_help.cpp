@@ -21,6 +21,7 @@ const QHash<QString, QString>& manualPages() {
       {QStringLiteral("ListingHistory"), QStringLiteral("manual/cataloguing.htm#history")},
       {QStringLiteral("CopiesWindow"), QStringLiteral("manual/copies.htm#window")},
       {QStringLiteral("CompareWindow"), QStringLiteral("manual/compare.htm#window")},
+      {QStringLiteral("FetchWindow"), QStringLiteral("manual/plan.htm#window")},
       {QStringLiteral("VolumesWindow"), QStringLiteral("manual/volumes.htm#window")},
       {QStringLiteral("SpaceWindow"), QStringLiteral("manual/volumes.htm#map")},
       {QStringLiteral("ImportWindow"), QStringLiteral("manual/imports.htm#window")},

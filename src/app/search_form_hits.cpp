@@ -15,6 +15,7 @@
 #include <QKeySequence>
 #include <QString>
 
+#include <algorithm>
 #include <utility>
 
 namespace quorvin {
@@ -30,6 +31,8 @@ QAction* addItemWithKeys(QMenu* menu, const QString& name, const QString& captio
 
 /// More is rather a mistake than a wish, and another program that takes them would be busy for minutes.
 constexpr std::int64_t kMostRowsToDrag = 100'000;
+/// What is planned for is kept in memory.
+constexpr std::int64_t kMostRowsToFetch = 1'000'000;
 /// Each is a program that starts, or at least a window that opens.
 constexpr std::int64_t kMostHitsToOpen = 1'000;
 constexpr std::int64_t kHitsOpenedUnasked = 10;
@@ -58,6 +61,7 @@ ItemMenu makeItemMenu(QWidget* parent) {
       addItem(made.menu, QStringLiteral("ExportSelected"), Texts::tr("&Export Selected..."));
   made.menu->addSeparator();
   made.WhichDisk = addItem(made.menu, QStringLiteral("WhichDisk"), Texts::tr("&Which Disk?"));
+  made.FetchPlan = addItem(made.menu, QStringLiteral("FetchPlan"), Texts::tr("Fetch P&lan..."));
   made.HitProperties = addItemWithKeys(made.menu, QStringLiteral("HitProperties"), Texts::tr("P&roperties"),
                                        QKeySequence(Qt::ALT | Qt::Key_Return));
   return made;
@@ -94,7 +98,7 @@ void SearchFormHits::fillHitsMenu(QMenu& menu) {
   QAction* showInFolder = addItem(&menu, QStringLiteral("ShowInFolder"), Texts::tr("Show in &Folder"));
   connect(open, &QAction::triggered, this, &SearchFormHits::OpenHits_Click);
   connect(showInFolder, &QAction::triggered, this, &SearchFormHits::ShowInFolder_Click);
-  menu.addAction(menu_.WhichDisk);
+  menu.addActions({menu_.WhichDisk, menu_.FetchPlan});
   menu.addSeparator();
   menu.addActions({menu_.CopyRows, menu_.CopyNames, menu_.CopyPaths, menu_.ExportSelected});
   menu.addSeparator();
@@ -237,6 +241,18 @@ void SearchFormHits::tellMissing(std::int64_t missing, std::int64_t all) const {
 
 void SearchFormHits::WhichDisk_Click() {
   if (const auto row = currentTableRow()) messages_.inform(whichDiskText(known(*row)));
+}
+
+std::vector<int> SearchFormHits::rowsToFetch() {
+  selectCurrentIfNone();
+  if (selectedRowCount(*list_.selectionModel()) > kMostRowsToFetch) {
+    Q_EMIT noted(
+        Texts::tr("A plan can be made for at most %1 hits.").arg(locale_.toString(kMostRowsToFetch)));
+    return {};
+  }
+  std::vector<int> rows = selectedRows(*list_.selectionModel());
+  std::ranges::sort(rows);
+  return rows;
 }
 
 /// A list that has just got the focus has a current row that is not selected; keys mean that row.

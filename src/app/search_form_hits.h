@@ -37,6 +37,7 @@ struct ItemMenu {
   QAction* CopyPaths;
   QAction* ExportSelected;
   QAction* WhichDisk;
+  QAction* FetchPlan;
   QAction* HitProperties;
 };
 
@@ -69,6 +70,9 @@ class SearchFormHits : public QObject {
   bool showInFolder(const HitRow& file) const { return actions_.openFolder(file) != LaunchOutcome::NotFound; }
 
   const ItemMenu& itemMenu() const { return menu_; }
+
+  /// The selected rows of the table, ascending; none, with a note, where there are too many to plan for.
+  std::vector<int> rowsToFetch();
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

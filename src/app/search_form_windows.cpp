@@ -135,6 +135,22 @@ void SearchFormWindows::compareWith(const QString& listing, int number) {
   window.exec();
 }
 
+void SearchFormWindows::FetchPlan_Click(const HitTable& hits, const std::vector<int>& rows) {
+  if (rows.empty()) return;
+  const auto saveFile = [this](const QString& title, const QString& name) {
+    return picker().saveFile({title, name, {}, {Texts::tr("All files (*)")}});
+  };
+  const auto pickFolder = [this] {
+    FileQuestion question;
+    return picker().pickFolder(question);
+  };
+  const auto wanted = [&hits, &rows] { return wantedRows(hits, rows); };
+  FetchWindow window(
+      {sourceEditing_.state, wanted, lookers_.pool(), locale_, showFile_, saveFile, pickFolder}, &owner_);
+  fetch_ = &window;
+  window.exec();
+}
+
 void SearchFormWindows::Import_Click() {
   const auto pickLists = [this] { return picker().openFiles({}); };
   const auto pickFolder = [this](const QString& folder) {
@@ -190,6 +206,7 @@ void SearchFormWindows::unloadCatalogueWindows() {
   if (copies_) copies_->reject();
   if (volumes_) volumes_->reject();
   if (import_) import_->reject();
+  if (fetch_) fetch_->reject();
 }
 
 void SearchFormWindows::unloadBrowser() {

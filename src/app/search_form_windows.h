@@ -7,6 +7,7 @@
 #include "app/search_form_help.h"
 #include "catalogue/compare_window.h"
 #include "catalogue/copies_window.h"
+#include "catalogue/fetch/fetch_window.h"
 #include "catalogue/import/import_window.h"
 #include "catalogue/volumes/volumes_window.h"
 #include "editors/list_options.h"
@@ -69,6 +70,8 @@ class SearchFormWindows {
   void Compare_Click();
   /// Shows what is on each volume, and where it is kept.
   void Volumes_Click();
+  /// Shows which volumes to fetch for hits; nothing for none.
+  void FetchPlan_Click(const HitTable& hits, const std::vector<int>& rows);
   /// Turns lists of other programs into listings.
   void Import_Click();
   void OptionsMenu_Click();
@@ -120,6 +123,7 @@ class SearchFormWindows {
   QPointer<CompareWindow> compare_;
   QPointer<VolumesWindow> volumes_;
   QPointer<ImportWindow> import_;
+  QPointer<FetchWindow> fetch_;
   QPointer<frmSplash> splash_;
   ImagePreview preview_;
   NetworkPageTransfer transfer_;

@@ -80,7 +80,8 @@ TEST_F(AccessibleMainWindow, SearchForm) {
                      "MenuItem ClearSearchHistory: Clear Search History (hidden)\n"
                      "MenuItem : Hits\nPopupMenu HitsMenu: Hits (hidden)\n"
                      "MenuItem OpenHits: Open (hidden)\nMenuItem ShowInFolder: Show in Folder (hidden)\n"
-                     "MenuItem WhichDisk: Which Disk? (hidden)\nMenuItem CopyRows: Copy (hidden)\n"
+                     "MenuItem WhichDisk: Which Disk? (hidden)\nMenuItem FetchPlan: Fetch Plan... "
+                     "(hidden)\nMenuItem CopyRows: Copy (hidden)\n"
                      "MenuItem CopyNames: Copy Names (hidden)\nMenuItem CopyPaths: Copy Full Path (hidden)\n"
                      "MenuItem ExportSelected: Export Selected... (hidden)\n"
                      "MenuItem HitProperties: Properties (hidden)\n"
@@ -125,7 +126,8 @@ TEST_F(AccessibleMainWindow, ItemMenu) {
                                       "MenuItem CopyNames: Copy Names\n"
                                       "MenuItem CopyPaths: Copy Full Path\n"
                                       "MenuItem ExportSelected: Export Selected...\n"
-                                      "MenuItem WhichDisk: Which Disk?\nMenuItem HitProperties: Properties"));
+                                      "MenuItem WhichDisk: Which Disk?\nMenuItem FetchPlan: Fetch "
+                                      "Plan...\nMenuItem HitProperties: Properties"));
   menu.hide();
 }
 

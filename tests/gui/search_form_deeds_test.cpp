@@ -43,6 +43,7 @@ TEST_F(SelectedHits, TheMenuBarsMenuHoldsItsItemsInOrder) {
   EXPECT_EQ(items.join(u'\n'), QStringLiteral("OpenHits=&Open\n"
                                               "ShowInFolder=Show in &Folder\n"
                                               "WhichDisk=&Which Disk?\n"
+                                              "FetchPlan=Fetch P&lan...\n"
                                               "CopyRows=&Copy\n"
                                               "CopyNames=Copy &Names\n"
                                               "CopyPaths=Copy Full P&ath\n"

@@ -154,6 +154,7 @@ TEST_F(MainWindow, MenusCarryTheirNamesAndCaptions) {
                                                  "OpenHits=&Open\n"
                                                  "ShowInFolder=Show in &Folder\n"
                                                  "WhichDisk=&Which Disk?\n"
+                                                 "FetchPlan=Fetch P&lan...\n"
                                                  "=\n"
                                                  "CopyRows=&Copy\n"
                                                  "CopyNames=Copy &Names\n"

@@ -185,11 +185,12 @@ TEST_P(WindowsFit, ProgressAndResultsDo) {
   expectShownFits(results);
 }
 
-TEST_P(WindowsFit, ThePropertiesOfAHitDo) {
+TEST_P(WindowsFit, ThePropertiesOfAHitAndTheFetchPlanDo) {
   find(QStringLiteral("song"));
   controls().HitList->setFocus();
   QTest::keyClick(controls().HitList, Qt::Key_End);
   expectDialogFits(form().itemMenu().HitProperties);
+  expectDialogFits(form().itemMenu().FetchPlan);
 }
 
 TEST_P(WindowsFit, TheHistoryDoes) {

@@ -125,6 +125,22 @@ void WantedHits::endSegment(const std::shared_ptr<const Segment>& segment,
   giveBack(segment, kept);
 }
 
+WantedFiles wantedRows(const HitTable& table, const std::vector<int>& rows) {
+  WantedFiles wanted;
+  WantedHits hits(wanted);
+  for (auto row = rows.begin(); row != rows.end();) {
+    const HitStretch stretch = table.stretchAt(*row);
+    const std::int64_t end = stretch.firstRow + static_cast<std::int64_t>(stretch.hits.size());
+    hits.startListing(table.kind(*row), table.listing(*row));
+    std::vector<FoundEntry> chosen;
+    for (; row != rows.end() && *row < end; ++row) {
+      chosen.push_back(stretch.hits[static_cast<std::size_t>(*row - stretch.firstRow)]);
+    }
+    hits.addHits(stretch.segment, chosen);
+  }
+  return wanted;
+}
+
 void WantedCopies::endSegment(const std::shared_ptr<const Segment>& segment,
                               const std::shared_ptr<const Segment>& kept) {
   giveBack(segment, kept);

@@ -7,6 +7,7 @@
 #include "catalogue/fetch/fetch_plan.h"
 #include "catalogue/folder_tree.h"
 #include "catalogue/kept_texts.h"
+#include "search/hit_table.h"
 
 #include <QString>
 
@@ -86,6 +87,8 @@ class WantedFiles {
 struct PlanPlaces {
   /// The paths of the listings.
   std::vector<QString> listings = {};
+  /// What kind of source each of them is.
+  std::vector<SourceKind> kinds = {};
   FolderTree folders = {};
   /// For each volume the deepest folder that all its files are in or below, with a backslash at its end.
   std::vector<std::string> tops = {};
@@ -106,12 +109,18 @@ class WantedHits : public HitSink {
   QString listing_;
 };
 
+/// What the rows of these numbers, which ascend, stand for. Throws DamagedSegment.
+WantedFiles wantedRows(const HitTable& table, const std::vector<int>& rows);
+
 /// The sink of a run that finds every entry: notes where wanted files are.
 class WantedCopies : public EveryEntry {
  public:
   WantedCopies(WantedFiles& wanted, PlanPlaces& places) : wanted_(wanted), places_(places) {}
 
-  void startListing(SourceKind, const QString& path) override { places_.listings.push_back(path); }
+  void startListing(SourceKind kind, const QString& path) override {
+    places_.listings.push_back(path);
+    places_.kinds.push_back(kind);
+  }
   void endSegment(const std::shared_ptr<const Segment>& segment,
                   const std::shared_ptr<const Segment>& kept) override;
 
