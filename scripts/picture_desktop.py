@@ -271,7 +271,7 @@ class Program:
         if colours := {"dark": DARK, "contrast": CONTRAST}.get(look):
             (HOME / ".config/kdeglobals").write_text(colours)
         self.screen = screen
-        language = environment.get("LC_ALL", "en")[:2]
+        self.language = language = environment.get("LC_ALL", "en")[:2]
         self.texts = translations(language)
         self.suffix = "" if look in ("light", "steps") else "-" + look
         self.manual = TOP / f"src/help/pages/{language}/images" if look == f"manual-{language}" else None

@@ -65,10 +65,14 @@ QTreeView* makeSortedTree(QAbstractItemModel* rows) {
 void fitTreeColumns(QTreeView& tree) {
   const int character = tree.fontMetrics().averageCharWidth();
   const int widest = character * kWidestColumnCharacters;
+  QHeaderView& header = *tree.header();
+  header.setStretchLastSection(false);
   for (int section = 0; section < tree.model()->columnCount(); ++section) {
     tree.resizeColumnToContents(section);
     tree.setColumnWidth(section, std::min(tree.columnWidth(section) + character, widest));
   }
+  // The last one takes what the others leave, if that is enough for it.
+  header.setStretchLastSection(header.length() < tree.viewport()->width());
 }
 
 void copySelectedRows(const QTreeView& tree) {
