@@ -6,6 +6,7 @@
 #include "support/qt_printing.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <gmock/gmock.h>
 
 #include <memory>
