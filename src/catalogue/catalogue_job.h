@@ -9,8 +9,8 @@
 
 namespace quorvin {
 
-/// A job that changes nothing which others look at, so that it may run beside any job of Work: that is how a
-/// search in another program stands to them, and why the table of jobs knows nothing of it.
+/// A job that only reads, or puts each file that it writes in place whole, so that it may run beside any job
+/// of Work: that is how another program stands to them, and why the table of jobs knows nothing of it.
 ///
 /// run() is called once, in any thread; until it has ended, others may only ask for hasEnded() and for how
 /// far it is, and call stop(). Whoever lets go of a job that is shared with its thread need not wait for it.

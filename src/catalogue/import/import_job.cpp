@@ -5,7 +5,6 @@
 #include "texts/texts.h"
 
 #include <QMutexLocker>
-#include <QScopeGuard>
 
 #include <new>
 #include <utility>
@@ -28,11 +27,10 @@ ImportJob::Progress ImportJob::progress() const {
   return {list_, lines_};
 }
 
-void ImportJob::run() {
-  const auto ending = qScopeGuard([this] { hasEnded_ = true; });
-  const ListImporter importer(choices_, controls_, [this] { return isStopped_.load(); });
+bool ImportJob::work() {
+  const ListImporter importer(choices_, controls_, [this] { return isStopped(); });
   for (const QString& list : std::as_const(lists_)) {
-    if (isStopped_) return;
+    if (isStopped()) return false;
     {
       const QMutexLocker lock(&mutex_);
       list_ = list;
@@ -40,6 +38,7 @@ void ImportJob::run() {
     }
     importOne(importer, list);
   }
+  return true;
 }
 
 void ImportJob::importOne(const ListImporter& importer, const QString& list) {

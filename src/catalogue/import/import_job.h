@@ -3,6 +3,7 @@
 // An import of lists that goes on in a thread of its own.
 #pragma once
 
+#include "catalogue/catalogue_job.h"
 #include "catalogue/import/list_importer.h"
 
 #include <QMutex>
@@ -15,8 +16,9 @@
 
 namespace quorvin {
 
-/// run() is for one thread, all else for the one that made the job. Whoever runs it keeps it until the end.
-class ImportJob {
+/// Unlike other jobs it writes: listings, each of which is put in place whole. A list that is being read when
+/// it is stopped leaves none; those before it stay.
+class ImportJob : public CatalogueJob {
  public:
   struct Progress {
     /// The list that is being read.
@@ -27,17 +29,10 @@ class ImportJob {
   /// `lists` are imported one after another.
   ImportJob(QStringList lists, ImportChoices choices, ImportControls controls);
 
-  /// Once.
-  void run();
-
-  /// A list that is being read leaves no listing; those before it stay. It may take a while where a drive
-  /// that the import waits for has not answered.
-  void stop() { isStopped_ = true; }
-  bool isStopped() const { return isStopped_; }
-  bool hasEnded() const { return hasEnded_; }
+  /// May be asked while it runs.
   Progress progress() const;
 
-  // What has come of it; only once it has ended.
+  // What has come of it; only once it has ended, also where it is not complete.
 
   /// The listings that were made, in the order of their lists.
   const QStringList& places() const { return places_; }
@@ -45,6 +40,9 @@ class ImportJob {
   bool isWhole() const { return isWhole_; }
   /// What there is to say of each list: as what it was read, or why it was not, and what the listing lacks.
   const QStringList& sentences() const { return sentences_; }
+
+ protected:
+  bool work() override;
 
  private:
   void importOne(const ListImporter& importer, const QString& list);
@@ -60,8 +58,6 @@ class ImportJob {
   mutable QMutex mutex_;
   QString list_;
   std::atomic<std::int64_t> lines_ = 0;
-  std::atomic<bool> isStopped_ = false;
-  std::atomic<bool> hasEnded_ = false;
 };
 
 }  // namespace quorvin
