@@ -4807,6 +4807,10 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>Nothing was saved: %1</source>
         <translation>Nichts wurde gesichert: %1</translation>
     </message>
+    <message>
+        <source>A search is for a folder. Choose one in the volume.</source>
+        <translation>Gesucht wird in einem Ordner. Wählen Sie einen auf dem Datenträger.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

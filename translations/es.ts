@@ -4807,6 +4807,10 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>Nothing was saved: %1</source>
         <translation>No se guardó nada: %1</translation>
     </message>
+    <message>
+        <source>A search is for a folder. Choose one in the volume.</source>
+        <translation>Una búsqueda es de una carpeta. Elija una en el volumen.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

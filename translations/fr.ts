@@ -4807,6 +4807,10 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>Nothing was saved: %1</source>
         <translation>Rien n’a été enregistré&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>A search is for a folder. Choose one in the volume.</source>
+        <translation>Une recherche porte sur un dossier. Choisissez-en un dans le volume.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -53,8 +53,7 @@ void SearchForm::searchInFolder(const QString& folder) {
 void SearchForm::searchListed(const QString& folder) {
   const QString name = folder.section(u'\\', -1, -1, QString::SectionSkipEmpty);
   QTimer::singleShot(0, this, [this, folder, name] {
-    searchFor(name.isEmpty() ? QStringLiteral("\\") : name);
-    if (name.isEmpty()) return;
+    searchFor(name);
     if (!menus_.FilterHits->isChecked()) menus_.FilterHits->trigger();
     controls_.FilterStr->setText(folder);
   });

@@ -41,7 +41,7 @@ struct WindowRequests {
   std::function<bool(const HitRow& file)> showFile;
   /// Adds listings to the offline sources; see ImportWindowParts.
   std::function<QString(const QStringList& listings)> addListings;
-  /// Searches in a folder, as listed, or everywhere where that is empty.
+  /// Searches in a folder, as listed; see SpaceWindowParts.
   std::function<void(const QString& folder)> searchListed = {};
 };
 

@@ -140,7 +140,18 @@ TEST_F(ShownSpace, EnterSearchesWhereThereIsNothingToGoInto) {
   waitForMap(window);
   press(Qt::Key_Right);
   press(Qt::Key_Return);
-  EXPECT_EQ(searched_, std::vector<std::string>{"\\Music\\"});
+  EXPECT_EQ(searched_, std::vector<std::string>{"\\Music\\Live\\"});
+}
+
+TEST_F(ShownSpace, AVolumeAsAWholeHasNoFolderToSearchFor) {
+  QThreadPool threads;
+  SpaceWindow window(parts(threads), nullptr);
+  showAndActivate(window);
+  waitForMap(window);
+  press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(labelOf(window, "Status"), "A search is for a folder. Choose one in the volume.");
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_EQ(searched_, std::vector<std::string>());
 }
 
 TEST_F(ShownSpace, ColoursAreByKindOrByYearWithALegend) {

@@ -141,8 +141,14 @@ void SpaceWindow::showCurrent() {
 }
 
 void SpaceWindow::search(std::uint32_t folder) {
-  if (folder == SpaceTree::kTop) return;
-  const QString path = textOfUtf8(shown_->tree().folders().path(folder));
+  const SpaceTree& tree = shown_->tree();
+  const std::uint32_t shown = tree.firstWithParts(folder);
+  const QString path = shown == SpaceTree::kTop ? QString() : textOfUtf8(tree.folders().path(shown));
+  // Only folders have names to search for.
+  if (path.count(u'\\') == path.size()) {
+    setStatus(Texts::tr("A search is for a folder. Choose one in the volume."));
+    return;
+  }
   accept();
   parts_.search(path);
 }

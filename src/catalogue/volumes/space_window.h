@@ -26,7 +26,7 @@ struct SpaceWindowParts {
   const ProgramState& state;
   QThreadPool& threads;
   QLocale locale;
-  /// Searches in a folder, as listed, or in a whole volume where that is empty. The window has closed itself.
+  /// Searches in a folder, as listed, which has a name. The window has closed itself.
   std::function<void(const QString& folder)> search;
   /// The path of the listing, and the volume of it that is shown first; empty for all sources.
   QString listing = {};
