@@ -97,7 +97,7 @@ TEST_F(VerifyProgram, ADiskMayBeMountedElsewhere) {
 }
 
 TEST_F(VerifyProgram, TheProgramOfOthersReadsTheChecksums) {
-  for (const char* name : {" lead", "tab\there", "new\nline", "back\\slash", "quo\"te", "-dash", "*"}) {
+  for (const char* name : {" lead", "tab\there", "new\nline", "back\\slash", "quo\"te", "-dash", "*", "-"}) {
     write(name, "naughty");
   }
   EXPECT_EQ(index().status, 0);

@@ -59,7 +59,9 @@ OwnFilesBelow::OwnFilesBelow(const QString& folder, const QString& listing) {
 std::string manifestLine(const FileChecksum& file) {
   const std::string path = escapedPath(file.path);
   const bool hasEscapes = path.size() != file.path.size();
-  return (hasEscapes ? "\\" : "") + file.checksum + "  " + path + '\n';
+  // A dash alone is standard input to sha256sum.
+  const std::string_view front = path == "-" ? "./" : "";
+  return (hasEscapes ? "\\" : "") + file.checksum + "  " + std::string(front) + path + '\n';
 }
 
 ChecksumManifest::ChecksumManifest(const QString& path) {

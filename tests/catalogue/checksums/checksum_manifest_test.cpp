@@ -38,9 +38,16 @@ TEST(ChecksumManifests, EscapeWhatWouldEndALine) {
   EXPECT_EQ(manifestLine({"tab\there", kSum}), kSum + "  tab\there\n");
 }
 
+TEST(ChecksumManifests, ADashAloneIsNoStandardInput) {
+  EXPECT_EQ(manifestLine({"-", kSum}), kSum + "  ./-\n");
+  EXPECT_EQ(manifestLine({"-x", kSum}), kSum + "  -x\n");
+  EXPECT_EQ(manifestLine({"a/-", kSum}), kSum + "  a/-\n");
+}
+
 TEST(ChecksumManifests, AreReadAsTheyWereWritten) {
   std::string text;
-  const std::vector<std::string> paths{"x", "a b/y", "new\nline", "back\\slash", "bad\xE4", " lead", "tab\t"};
+  const std::vector<std::string> paths{"x",           "-",       "a b/y", "new\nline",
+                                       "back\\slash", "bad\xE4", " lead", "tab\t"};
   for (const std::string& path : paths) text += manifestLine({path, kSum});
   const ChecksumManifest manifest = manifestWith(text);
   EXPECT_EQ(pathsOf(manifest), paths);
