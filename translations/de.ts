@@ -4811,6 +4811,14 @@ Die Liste der Online-Quellen kann nicht gespeichert werden.</translation>
         <source>A search is for a folder. Choose one in the volume.</source>
         <translation>Gesucht wird in einem Ordner. Wählen Sie einen auf dem Datenträger.</translation>
     </message>
+    <message>
+        <source>Changed or rotten: %1. The earlier listing was made after its checksums, so it does not tell.</source>
+        <translation>Geändert oder verdorben: %1. Die frühere Liste wurde nach ihren Prüfsummen erstellt und sagt es daher nicht.</translation>
+    </message>
+    <message>
+        <source>The listing was made after the checksums, so it does not tell rot from change; quorvin-cli index --checksums renews both.</source>
+        <translation>Die Liste wurde nach den Prüfsummen erstellt und sagt daher nicht, was verdorben und was geändert ist; quorvin-cli index --checksums erneuert beides.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4811,6 +4811,14 @@ No se puede guardar la lista de fuentes en línea.</translation>
         <source>A search is for a folder. Choose one in the volume.</source>
         <translation>Una búsqueda es de una carpeta. Elija una en el volumen.</translation>
     </message>
+    <message>
+        <source>Changed or rotten: %1. The earlier listing was made after its checksums, so it does not tell.</source>
+        <translation>Cambiado o estropeado: %1. La lista anterior se hizo después de sus sumas de comprobación, así que no lo dice.</translation>
+    </message>
+    <message>
+        <source>The listing was made after the checksums, so it does not tell rot from change; quorvin-cli index --checksums renews both.</source>
+        <translation>La lista se hizo después de las sumas de comprobación, así que no dice qué se ha estropeado y qué ha cambiado; quorvin-cli index --checksums renueva ambas.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -4811,6 +4811,14 @@ Impossible d’enregistrer la liste des sources en ligne.</translation>
         <source>A search is for a folder. Choose one in the volume.</source>
         <translation>Une recherche porte sur un dossier. Choisissez-en un dans le volume.</translation>
     </message>
+    <message>
+        <source>Changed or rotten: %1. The earlier listing was made after its checksums, so it does not tell.</source>
+        <translation>Modifié ou abîmé&#xa0;: %1. La liste précédente a été faite après ses sommes de contrôle et ne le dit donc pas.</translation>
+    </message>
+    <message>
+        <source>The listing was made after the checksums, so it does not tell rot from change; quorvin-cli index --checksums renews both.</source>
+        <translation>La liste a été faite après les sommes de contrôle et ne dit donc pas ce qui est abîmé ou modifié&#xa0;; quorvin-cli index --checksums renouvelle les deux.</translation>
+    </message>
 </context>
 <context>
     <name>quorvin::Texts::Texts</name>

@@ -116,6 +116,13 @@ class Indexing {
     for (const QString& fault : checksumFaults_) {
       printErrorLog(Texts::tr("No checksum: %1").arg(fault) + QStringLiteral("\r\n"));
     }
+    for (const QString& path : doubtfulFiles_) {
+      printErrorLog(
+          Texts::tr("Changed or rotten: %1. The earlier listing was made after its checksums, so it "
+                    "does not tell.")
+              .arg(path) +
+          QStringLiteral("\r\n"));
+    }
   }
   bool interrupted() const { return job_->isAbortRequested() || areChecksumsStopped_; }
   /// Whether the listing has a line for every name, and every file its checksum.
@@ -139,20 +146,23 @@ class Indexing {
     removeLeftovers(place.absolutePath());
     FileAside file(request_.output, {.followsLink = true});
     writeListing(file.writer());
-    if (interrupted() || (request_.hasChecksums && !writeChecksums())) return;
+    if (interrupted() || (request_.hasChecksums && !writeChecksums(file))) return;
     file.commit();
   }
 
   /// Before the listing is put in place: until then the one that is there tells which files are as they were.
   /// False after a signal.
-  bool writeChecksums() {
+  bool writeChecksums(FileAside& listing) {
     FileAside file(manifestOf(request_.output), {.followsLink = true});
     ChecksumWriting writing({folder_, request_.output, QLocale(), stopSignalled,
                              [this](const ChecksumWriting::Progress& progress) { showChecksums(progress); }});
     areChecksumsStopped_ = !writing.write(file.writer());
     if (areChecksumsStopped_) return false;
+    listing.finish();
+    file.write(listingRemark(listingIdentity(listing.path())));
     file.commit();
     checksumFaults_ = writing.unread();
+    doubtfulFiles_ = writing.doubtful();
     return true;
   }
 
@@ -188,6 +198,7 @@ class Indexing {
   ProgressLine checksumLine_{!request_.isQuiet};
   bool areChecksumsStopped_ = false;
   QStringList checksumFaults_;
+  QStringList doubtfulFiles_;
 };
 
 }  // namespace

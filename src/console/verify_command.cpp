@@ -155,6 +155,11 @@ class Verifying {
           Texts::tr("Of these, %1 files were read before it was stopped. --restart reads them again.")
               .arg(locale_.toString(qlonglong{verification.filesBefore()})));
     }
+    if (!verification.isOfListing()) {
+      printErrorLog(
+          Texts::tr("The listing was made after the checksums, so it does not tell rot from change; "
+                    "quorvin-cli index --checksums renews both."));
+    }
     if (verification.notUnderstood() > 0) {
       printErrorLog(Texts::tr("Lines of the checksums that were not understood: %1")
                         .arg(locale_.toString(qlonglong{verification.notUnderstood()})));

@@ -123,6 +123,27 @@ TEST_F(VerifyProgram, TheChecksumsOfOthersAreRead) {
   EXPECT_EQ(verify().output, "! a b/rot\n");
 }
 
+TEST_F(VerifyProgram, AnEditedFileIsNotRottenAfterAnIndexWithoutChecksums) {
+  EXPECT_EQ(index().status, 0);
+  folder.writeFile(u"disk/changed"_qs, "two");
+  EXPECT_EQ(run({u"index"_qs, u"--output"_qs, u"cd.txt"_qs, u"disk"_qs}).status, 0);
+  const test::Ended between = verify();
+  EXPECT_EQ(between.output, "* changed\n");
+  EXPECT_EQ(
+      between.errors.section(u'\n', 0, 0),
+      u"The listing was made after the checksums, so it does not tell rot from change; quorvin-cli index "
+      u"--checksums renews both."_qs);
+  EXPECT_EQ(between.status, 1);
+  const test::Ended again = index();
+  EXPECT_EQ(again.errors,
+            u"Changed or rotten: changed. The earlier listing was made after its checksums, so "
+            u"it does not tell.\n"_qs);
+  EXPECT_EQ(again.status, 0);
+  EXPECT_EQ(verify().status, 0);
+  write("a b/rot", "0ne");
+  EXPECT_EQ(verify().output, "! a b/rot\n");
+}
+
 TEST_F(VerifyProgram, WithoutChecksumsItSaysHowToMakeThem) {
   EXPECT_EQ(run({u"index"_qs, u"--output"_qs, u"cd.txt"_qs, u"disk"_qs}).status, 0);
   const test::Ended ended = verify();
@@ -156,7 +177,8 @@ TEST_F(VerifyProgram, AFileWhoseNameIsNoTextIsReportedAndTheOthersHaveTheirCheck
   const test::Ended ended = index();
   EXPECT_EQ(ended.status, 2);
   EXPECT_TRUE(ended.errors.contains(u"No checksum: the name of bad"_qs)) << ended.errors.toStdString();
-  EXPECT_EQ(folder.readFile(u"cd.txt.sha256"_qs).count('\n'), 4);
+  // And the remark about the listing.
+  EXPECT_EQ(folder.readFile(u"cd.txt.sha256"_qs).count('\n'), 5);
 }
 
 // Each of the files is so large that the signal comes while it is read.

@@ -8,8 +8,11 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <array>
 #include <cctype>
+#include <charconv>
 #include <optional>
+#include <system_error>
 #include <utility>
 #include <xxhash.h>
 
@@ -18,6 +21,7 @@ namespace quorvin {
 namespace {
 
 constexpr std::size_t kSha256Digits = 64;
+constexpr std::string_view kListingRemark = "# of the listing ";
 
 /// As sha256sum has it: only what would end the line, and what begins an escape, has one.
 std::string escapedPath(std::string_view path) {
@@ -64,6 +68,23 @@ std::string manifestLine(const FileChecksum& file) {
   return (hasEscapes ? "\\" : "") + file.checksum + "  " + std::string(front) + path + '\n';
 }
 
+std::string listingRemark(std::uint64_t listing) {
+  std::array<char, 16> digits;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), listing, 16).ptr;
+  return std::string(kListingRemark) + std::string(digits.data(), end) + '\n';
+}
+
+std::uint64_t listingIdentity(const QString& path) {
+  constexpr std::size_t kChunk = std::size_t{1} << 20;
+  SequentialFile file(path);
+  std::vector<char> chunk(kChunk);
+  std::uint64_t identity = 0;
+  while (const std::size_t size = file.read(chunk)) {
+    identity = XXH3_64bits_withSeed(chunk.data(), size, identity);
+  }
+  return identity;
+}
+
 ChecksumManifest::ChecksumManifest(const QString& path) {
   const QByteArray content = contentOfFile(path);
   std::string_view rest(content.constData(), static_cast<std::size_t>(content.size()));
@@ -77,6 +98,13 @@ ChecksumManifest::ChecksumManifest(const QString& path) {
 }
 
 void ChecksumManifest::take(std::string_view line) {
+  if (line.starts_with(kListingRemark)) {
+    const std::string_view digits = line.substr(kListingRemark.size());
+    std::uint64_t listing = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), listing, 16);
+    // One that cannot be read is of no listing that there is.
+    listing_ = error == std::errc() && end == digits.data() + digits.size() ? listing : ~listing;
+  }
   if (line.empty() || line.starts_with('#')) return;
   std::optional<ChecksumLine> read = checksumLineIn(line);
   if (!read || read->checksum.size() != kSha256Digits) {

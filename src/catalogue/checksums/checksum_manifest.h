@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -44,6 +45,11 @@ struct FileChecksum {
 /// The line of a file, with its line end.
 std::string manifestLine(const FileChecksum& file);
 
+/// The remark, with its line end, that says which listing stands beside the checksums.
+std::string listingRemark(std::uint64_t listing);
+/// Tells one content of the listing at `path` from another. Throws RuntimeFault where it cannot be read.
+std::uint64_t listingIdentity(const QString& path);
+
 class ChecksumManifest {
  public:
   /// No files.
@@ -61,6 +67,10 @@ class ChecksumManifest {
   std::int64_t notUnderstood() const { return notUnderstood_; }
   /// Tells one content of the file from another.
   std::uint64_t identity() const { return identity_; }
+  /// Whether the listing at `path` is the one of these checksums, so that its sizes and dates are those that
+  /// files had when the checksums were taken. True where that is not said, as by other programs. Throws as
+  /// listingIdentity() does.
+  bool isOfListing(const QString& path) const { return !listing_ || *listing_ == listingIdentity(path); }
 
  private:
   void take(std::string_view line);
@@ -69,6 +79,8 @@ class ChecksumManifest {
   std::unordered_map<std::string_view, std::size_t> byPath_;
   std::int64_t notUnderstood_ = 0;
   std::uint64_t identity_ = 0;
+  /// What the remark says.
+  std::optional<std::uint64_t> listing_;
 };
 
 }  // namespace quorvin

@@ -37,6 +37,8 @@ bool ChecksumWriting::readEarlier(const FilesBelow& now) {
   const QString manifest = manifestOf(parts_.listing);
   if (!fileExists(manifest) || !fileExists(parts_.listing)) return true;
   earlier_ = ChecksumManifest(manifest);
+  isOfListing_ = earlier_.isOfListing(parts_.listing);
+  if (!isOfListing_) return true;
   if (!facts_.read(openerOfListing(parts_.listing), parts_.locale, parts_.stop)) return false;
   std::vector<std::string_view> paths;
   for (const FileBelow& file : now.files) paths.emplace_back(file.path);
@@ -63,6 +65,10 @@ bool ChecksumWriting::writeFile(FileWriter& manifest, const FileBelow& file) {
   if (checksum) {
     ++filesRead_;
     manifest.write(manifestLine({file.path, *checksum}));
+    const FileChecksum* known = earlier_.find(file.path);
+    if (!isOfListing_ && known && known->checksum != *checksum) {
+      doubtful_ += QFile::decodeName(file.path.c_str());
+    }
   } else if (const FileChecksum* known = earlier_.find(file.path)) {
     manifest.write(manifestLine(*known));
   }

@@ -50,6 +50,9 @@ class ChecksumWriting {
 
   /// What could not be read, and why: a sentence each.
   const QStringList& unread() const { return unread_; }
+  /// Files that hold something else than their checksum said, where the earlier listing is not the one of the
+  /// earlier checksums: nobody knows whether they were changed or have rotted.
+  const QStringList& doubtful() const { return doubtful_; }
   /// Files that were read, and those that kept their checksum.
   std::int64_t filesRead() const { return filesRead_; }
   std::int64_t filesKept() const { return filesKept_; }
@@ -65,6 +68,8 @@ class ChecksumWriting {
   ListedFacts facts_;
   Progress progress_;
   QStringList unread_;
+  QStringList doubtful_;
+  bool isOfListing_ = true;
   std::int64_t filesRead_ = 0;
   std::int64_t filesKept_ = 0;
 };

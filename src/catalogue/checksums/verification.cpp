@@ -43,6 +43,7 @@ bool Verification::prepare() {
                            .arg(parts_.listing));
   }
   manifest_ = ChecksumManifest(manifest);
+  isOfListing_ = manifest_.isOfListing(parts_.listing);
   if (!facts_.read(openerOfListing(parts_.listing), parts_.locale, parts_.stop)) return false;
   chooseFolder();
   std::optional<FilesBelow> below = filesBelow(notes_.folder, parts_.stop);
@@ -117,7 +118,7 @@ FileFinding Verification::judge(const FileChecksum& file) {
 }
 
 FileVerdict Verification::verdictOf(const FileChecksum& file, const FileBelow& now) {
-  const std::optional<ListedFacts::Facts> facts = facts_.find(file.path);
+  const std::optional<ListedFacts::Facts> facts = factsOf(file);
   if (facts && !facts->mayBeOf(now)) return FileVerdict::Changed;
   const std::optional<std::string> checksum =
       fileChecksum(pathBelow(notes_.folder, file.path), [this](std::int64_t bytes) {
@@ -138,10 +139,14 @@ void Verification::addNewFiles() {
   }
 }
 
+std::optional<ListedFacts::Facts> Verification::factsOf(const FileChecksum& file) const {
+  return isOfListing_ ? facts_.find(file.path) : std::nullopt;
+}
+
 std::int64_t Verification::bytesToRead(const FileChecksum& file) const {
   const auto now = belowByPath_.find(file.path);
   if (now == belowByPath_.end()) return 0;
-  const std::optional<ListedFacts::Facts> facts = facts_.find(file.path);
+  const std::optional<ListedFacts::Facts> facts = factsOf(file);
   return !facts || facts->mayBeOf(*now->second) ? now->second->size : 0;
 }
 

@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -59,6 +60,9 @@ class Verification {
   /// All but those that are fine: those of the checksums in their order, then those that were added.
   const std::vector<FileFinding>& findings() const { return notes_.findings; }
   std::int64_t count(FileVerdict verdict) const;
+  /// False where the listing was made after the checksums: it does not tell which files were changed between
+  /// the two, so none is called rotten, and all are read.
+  bool isOfListing() const { return isOfListing_; }
   /// Lines of the checksums that say nothing.
   std::int64_t notUnderstood() const { return manifest_.notUnderstood(); }
 
@@ -71,6 +75,7 @@ class Verification {
   FileVerdict verdictOf(const FileChecksum& file, const FileBelow& now);
   void addNewFiles();
   std::int64_t bytesToRead(const FileChecksum& file) const;
+  std::optional<ListedFacts::Facts> factsOf(const FileChecksum& file) const;
 
   Parts parts_;
   ChecksumManifest manifest_;
@@ -80,6 +85,7 @@ class Verification {
   VerificationNotes notes_;
   Progress progress_;
   std::int64_t filesBefore_ = 0;
+  bool isOfListing_ = true;
 };
 
 }  // namespace quorvin

@@ -59,6 +59,13 @@ class CheckedFolder : public testing::Test {
     ASSERT_TRUE(QFile::copy(now.path(), listing()));
   }
 
+  /// The manifest says that it is of the listing that stands there now.
+  void bindChecksums() {
+    const QString manifest = QStringLiteral("disk.txt.sha256");
+    const QByteArray remark = QByteArray::fromStdString(listingRemark(listingIdentity(listing())));
+    folder_.writeFile(manifest, folder_.readFile(manifest) + remark);
+  }
+
   Verification::Parts parts() const {
     Verification::Parts parts;
     parts.listing = listing();

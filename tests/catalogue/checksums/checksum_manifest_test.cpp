@@ -54,6 +54,23 @@ TEST(ChecksumManifests, AreReadAsTheyWereWritten) {
   EXPECT_EQ(manifest.notUnderstood(), 0);
 }
 
+TEST(ChecksumManifests, KnowTheListingThatTheyWereMadeWith) {
+  const TemporaryFolder folder;
+  const QString listing = folder.pathOf(u"cd.txt"_qs);
+  folder.writeFile(u"cd.txt"_qs, QByteArray(3'000'000, 'x'));
+  const std::string text = kSum + "  x\n" + listingRemark(listingIdentity(listing));
+  EXPECT_TRUE(manifestWith(text).isOfListing(listing));
+  EXPECT_EQ(manifestWith(text).notUnderstood(), 0);
+  EXPECT_EQ(manifestWith(text).files().size(), 1U);
+  folder.writeFile(u"cd.txt"_qs, 'y' + QByteArray(2'999'999, 'x'));
+  EXPECT_FALSE(manifestWith(text).isOfListing(listing));
+  folder.writeFile(u"cd.txt"_qs, QByteArray(2'999'999, 'x') + 'y');
+  EXPECT_FALSE(manifestWith(text).isOfListing(listing));
+  EXPECT_TRUE(manifestWith(kSum + "  x\n# of another kind\n").isOfListing(listing));
+  EXPECT_FALSE(manifestWith(kSum + "  x\n# of the listing 12x\n").isOfListing(listing));
+  EXPECT_EQ(listingRemark(0x1F), "# of the listing 1f\n");
+}
+
 TEST(ChecksumManifests, FindAFileByItsPath) {
   const ChecksumManifest manifest = manifestWith(kSum + "  x\n" + kOther + "  a/x\n");
   ASSERT_NE(manifest.find("a/x"), nullptr);

@@ -54,6 +54,26 @@ TEST_F(ChecksumWritings, KeepTheChecksumOfAFileThatLooksAsItDid) {
             std::string(kTwo) + "  changed\n" + kTwo + "  new\n" + kOne + "  rotten\n");
 }
 
+TEST_F(ChecksumWritings, ReadEveryFileWhereTheListingWasMadeAfterThem) {
+  write(u"as it was"_qs, "one", 5);
+  write(u"edited"_qs, "one", 5);
+  takeChecksums();
+  bindChecksums();
+  write(u"edited"_qs, "two", 6);
+  write(u"new"_qs, "two", 6);
+  ASSERT_TRUE(QFile::rename(folder_.pathOf(u"disk.txt.sha256"_qs), folder_.pathOf(u"kept"_qs)));
+  takeChecksums();
+  folder_.writeFile(u"disk.txt.sha256"_qs, folder_.readFile(u"kept"_qs));
+  ChecksumWriting again = writing();
+  FileAside file(folder_.pathOf(u"again"_qs));
+  EXPECT_TRUE(again.write(file.writer()));
+  file.commit();
+  EXPECT_EQ(again.filesKept(), 0);
+  EXPECT_EQ(again.doubtful(), QStringList{u"edited"_qs});
+  EXPECT_EQ(folder_.readFile(u"again"_qs).toStdString(),
+            std::string(kOne) + "  as it was\n" + kTwo + "  edited\n" + kTwo + "  new\n");
+}
+
 TEST_F(ChecksumWritings, WithoutTheListingEveryFileIsRead) {
   write(u"x"_qs, "one", 5);
   takeChecksums();
