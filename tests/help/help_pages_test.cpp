@@ -170,7 +170,7 @@ TEST_F(HelpPages, TheWindowsOfThePicturesSpeakTheLanguageOfThePageAndEachPicture
     QStringList files;
     for (const QString& name : QDir(pagesFolder() + images).entryList(QDir::Files)) files += images + name;
     EXPECT_EQ(picturesOf(language), files) << language.toStdString();
-    EXPECT_EQ(files.size(), 18) << language.toStdString();
+    EXPECT_EQ(files.size(), 19) << language.toStdString();
   }
 }
 
