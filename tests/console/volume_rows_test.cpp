@@ -56,9 +56,10 @@ TEST(VolumeTable, IsEmptyWithoutVolumes) {
 TEST(VolumeJson, LeavesOutWhatIsNotKnown) {
   std::string text;
   addVolumeJson(text, volumeNamed(u"a\tb\n\"c\""_qs, u"x.txt"_qs));
-  EXPECT_EQ(text,
-            "{\"volume\":\"a\\u0009b\\u000a\\\"c\\\"\",\"listing\":\"x.txt\",\"kind\":\"offline\",\"entries\":1,"
-            "\"withoutSize\":0,\"size\":5}\n");
+  EXPECT_EQ(
+      text,
+      "{\"volume\":\"a\\u0009b\\u000a\\\"c\\\"\",\"listing\":\"x.txt\",\"kind\":\"offline\",\"entries\":1,"
+      "\"withoutSize\":0,\"size\":5}\n");
 }
 
 TEST(VolumeJson, HasEverythingElse) {
